@@ -1,0 +1,50 @@
+// Run-time errors: the classic numbers of the platform with a French description.
+#pragma once
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace lumenote {
+
+enum class ErrorNumber : int {
+  InvalidArgument = 5,
+  Overflow = 6,
+  TypeMismatch = 13,
+  FileNotFound = 53,
+  DiskFull = 61,
+  PermissionDenied = 70,
+  PathAccess = 75,
+  PathNotFound = 76,
+  NoSuchElement = 340,
+  InvalidPropertyValue = 380,
+};
+
+/// The one exception that crosses the component: a number and its French description. Raised by
+/// procedures, shown in a critical box at an event's edge, handed to the host by `CoBxRtf`.
+class RuntimeError : public std::runtime_error {
+ public:
+  /// The number's own description.
+  explicit RuntimeError(ErrorNumber number);
+  RuntimeError(ErrorNumber number, std::u16string description);
+
+  int Number() const { return static_cast<int>(number_); }
+  const std::u16string& Description() const { return description_; }
+
+ private:
+  ErrorNumber number_;
+  std::u16string description_;
+};
+
+/// Runs one statement whose run-time error is ignored; the caller goes on with its next one.
+/// Returns whether the statement went through.
+template <class Statement>
+bool IgnoringErrors(Statement statement) {
+  try {
+    statement();
+    return true;
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+}  // namespace lumenote
