@@ -1,0 +1,139 @@
+// Character and paragraph formats, and the tables that give each distinct one a small number.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "document/InternTable.h"
+
+namespace lumenote {
+
+using FontId = std::uint32_t;
+using CharId = std::uint32_t;
+using ParaId = std::uint32_t;
+using TabsId = std::uint32_t;
+using ObjectId = std::uint32_t;
+
+/// A font as notes name it; the machine need not have it.
+struct FontFace {
+  std::u16string name;
+  std::uint8_t charset = 0;  // RTF \fcharset
+  std::uint8_t family =
+      0;  // RTF \fnil, \froman, \fswiss, \fmodern, \fscript, \fdecor, \ftech, \fbidi
+  std::uint8_t pitch = 0;  // RTF \fprq
+  bool operator==(const FontFace&) const = default;
+};
+
+enum class Underline : std::uint8_t {
+  None,
+  Single,
+  Words,
+  Double,
+  Dotted,
+  Dash,
+  DashDot,
+  DashDotDot,
+  Thick,
+  Wave,
+  DoubleWave,
+  HeavyWave,
+  LongDash,
+  ThickDotted,
+  ThickDash,
+  ThickDashDot,
+  ThickDashDotDot,
+  ThickLongDash
+};
+
+enum CharEffect : std::uint16_t {
+  kBold = 1,
+  kItalic = 2,
+  kStrike = 4,
+  kDoubleStrike = 8,
+  kAllCaps = 16,
+  kSmallCaps = 32,
+  kHidden = 64,
+  kOutline = 128,
+  kShadow = 256,
+  kEmboss = 512,
+  kEngrave = 1024,
+  kSuperscript = 2048,
+  kSubscript = 4096,
+  kDeleted = 8192
+};
+
+/// A colour as 0x00BBGGRR, or the platform's automatic one.
+using Colour = std::uint32_t;
+inline constexpr Colour kAutoColour = 0xFF000000;
+
+/// Everything a run of characters can carry. Plain old data without padding, so that it is hashed
+/// and compared as bytes.
+struct CharFormat {
+  FontId font = 0;
+  Colour colour = kAutoColour;
+  Colour highlight = kAutoColour;
+  ObjectId object = 0;         // for U+FFFC: the object kept, counted from 1
+  std::uint16_t effects = 0;   // CharEffect
+  std::uint16_t size = 20;     // half-points
+  std::int16_t offset = 0;     // twips above the line (RTF \up, \dn)
+  std::uint16_t language = 0;  // Windows language identifier, 0 not given
+  std::int16_t spacing = 0;    // twips between characters
+  std::uint16_t scale = 100;   // per cent of the width
+  Underline underline = Underline::None;
+  std::uint8_t reserved[3] = {};
+  bool operator==(const CharFormat&) const = default;
+};
+static_assert(std::has_unique_object_representations_v<CharFormat>);
+
+enum class Alignment : std::uint8_t { Left = 0, Right = 1, Centre = 2, Justify = 3 };
+enum class LineRule : std::uint8_t { Single, OneAndHalf, Double, AtLeast, Exact, Multiple };
+
+/// Everything a paragraph can carry; lengths are twips. Plain old data like `CharFormat`.
+struct ParaFormat {
+  std::int32_t firstIndent = 0;    // of the first line, from the left edge
+  std::int32_t hangingIndent = 0;  // of the following lines, from the first one
+  std::int32_t rightIndent = 0;
+  std::int32_t spaceBefore = 0;
+  std::int32_t spaceAfter = 0;
+  std::int32_t lineSpacing = 0;  // twips; twentieths of a line under LineRule::Multiple
+  TabsId tabs = 0;
+  LineRule lineRule = LineRule::Single;
+  Alignment alignment = Alignment::Left;
+  std::uint8_t bullet = 0;  // 1: a bullet stands before the paragraph
+  std::uint8_t rightToLeft = 0;
+  bool operator==(const ParaFormat&) const = default;
+};
+static_assert(std::has_unique_object_representations_v<ParaFormat>);
+
+enum class TabKind : std::uint8_t { Left, Right, Centre, Decimal, Bar };
+struct TabStop {
+  std::int32_t position = 0;  // twips
+  TabKind kind = TabKind::Left;
+  std::uint8_t leader = 0;  // 0 none, 1 dots, 2 hyphens, 3 underline, 4 thick line, 5 equal signs
+  bool operator==(const TabStop&) const = default;
+};
+using TabStops = std::vector<TabStop>;  // by rising position
+
+/// What stands behind a U+FFFC: the RTF group as it was read, braces included.
+struct KeptObject {
+  std::string rtf;
+  bool operator==(const KeptObject&) const = default;
+};
+
+std::uint64_t HashOf(const FontFace& face);
+std::uint64_t HashOf(const TabStops& stops);
+std::uint64_t HashOf(const KeptObject& object);
+
+/// The tables of one document. Number 0 of each is the default; numbers are never reused, so a
+/// fragment or an undo step may keep them as long as the document lives.
+struct FormatTables {
+  FormatTables();
+  InternTable<FontFace> fonts;
+  InternTable<CharFormat> characters;
+  InternTable<ParaFormat> paragraphs;
+  InternTable<TabStops> tabs;
+  InternTable<KeptObject> objects;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,95 @@
+#include "document/Fragment.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Strings.h"
+
+namespace lumenote {
+
+const ParaId* FragmentBuilder::Append(std::u16string_view text, CharId format,
+                                      const ParaId* marks) {
+  while (!text.empty()) {
+    FlushIfFull();
+    std::size_t count = std::min(text.size(), static_cast<std::size_t>(kFilled - size_));
+    if (count < text.size() && text[count - 1] == u'\r') ++count;
+    const std::u16string_view piece = text.substr(0, count);
+    std::copy(piece.begin(), piece.end(), text_ + size_);
+    Commit(static_cast<int>(count), format);
+    if (marks != nullptr) {
+      const Position breaks = CountBreaks(piece);
+      marks_.insert(marks_.end(), marks, marks + breaks);
+      marks += breaks;
+    }
+    text.remove_prefix(count);
+  }
+  return marks;
+}
+
+void FragmentBuilder::Append(const LeafPointer& leaf) {
+  if (size_ == 0 || size_ >= Leaf::kCapacity / 2) {
+    Flush();
+    leaves_.Add(leaf);
+    return;
+  }
+  std::u16string_view text = leaf->text.View();
+  const ParaId* marks = leaf->marks.data();
+  for (Run run : leaf->runs) {
+    marks = Append(text.substr(0, run.length), run.format, marks);
+    text.remove_prefix(run.length);
+  }
+}
+
+char16_t* FragmentBuilder::Room() {
+  FlushIfFull();
+  return text_ + size_;
+}
+
+void FragmentBuilder::Commit(int count, CharId format) {
+  runs_.Append(count, format);
+  size_ += count;
+}
+
+Fragment FragmentBuilder::Finish() {
+  if (size_ > 0) AddLeaf(std::exchange(runs_, {}), std::exchange(marks_, {}));
+  return {std::exchange(leaves_, {}), std::nullopt};
+}
+
+void FragmentBuilder::FlushIfFull() {
+  if (size_ < kFull) return;
+  const char16_t last = text_[size_ - 1];
+  if (!IsHighSurrogate(last)) return Flush();
+  const CharId format = runs_.FormatAt(size_ - 1);
+  runs_ = runs_.Part(0, --size_);
+  Flush();
+  text_[0] = last;
+  Commit(1, format);
+}
+
+void FragmentBuilder::Flush() {
+  if (size_ == 0) return;
+  AddLeaf(runs_, marks_);
+  runs_.Clear();
+  marks_.clear();
+}
+
+void FragmentBuilder::AddLeaf(Runs runs, std::vector<ParaId> marks) {
+  const std::u16string_view text(text_, static_cast<std::size_t>(size_));
+  leaves_.Add(std::make_shared<Leaf>(Leaf{LeafText(text), std::move(runs), std::move(marks)}));
+  size_ = 0;
+}
+
+Fragment PlainFragment(std::u16string_view text, CharId format, ParaId paragraph) {
+  FragmentBuilder builder;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of(u"\r\n"), text.size());
+    builder.Append(text.substr(0, end), format);
+    text.remove_prefix(end);
+    if (text.empty()) break;
+    builder.AppendBreak(format, paragraph);
+    text.remove_prefix(text.starts_with(u"\r\n") ? 2 : 1);
+  }
+  return builder.Finish();
+}
+
+}  // namespace lumenote

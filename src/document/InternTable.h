@@ -1,0 +1,69 @@
+// A table that gives each distinct value a small, lasting number.
+#pragma once
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+#include <vector>
+
+namespace lumenote {
+
+/// Mixes `size` bytes into a hash.
+inline std::uint64_t HashBytes(const void* data, std::size_t size) {
+  constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15u;
+  const char* bytes = static_cast<const char*>(data);
+  std::uint64_t hash = size * kFactor;
+  for (std::size_t at = 0; at < size; at += sizeof(std::uint64_t)) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, bytes + at, size - at < sizeof word ? size - at : sizeof word);
+    hash = (hash ^ word) * kFactor;
+    hash ^= hash >> 29;
+  }
+  return hash;
+}
+
+/// Hash of plain data without padding. Other types bring an overload of their own.
+template <class T>
+requires std::has_unique_object_representations_v<T> std::uint64_t HashOf(const T& value) {
+  return HashBytes(&value, sizeof value);
+}
+
+/// Open-addressing hash table over a vector of values; at most half of the slots are taken. A full
+/// table (`kMost` values) answers number 0, the default, for what it does not know, so hostile
+/// input stays bounded. A reference to a value lasts until the next `Intern`.
+template <class T>
+class InternTable {
+ public:
+  static constexpr std::uint32_t kMost = (1u << 20) - 1;
+
+  /// The number of `value`, a new one when it was not known.
+  std::uint32_t Intern(const T& value) {
+    if (slots_.size() <= 2 * values_.size()) Grow();
+    std::uint32_t& slot = SlotOf(value);
+    if (slot != 0) return slot - 1;
+    if (values_.size() == kMost) return 0;
+    values_.push_back(value);
+    slot = Size();
+    return slot - 1;
+  }
+  const T& operator[](std::uint32_t number) const { return values_[number]; }
+  std::uint32_t Size() const { return static_cast<std::uint32_t>(values_.size()); }
+
+ private:
+  /// The slot that holds the value's number plus one, or the free one (0) where it belongs.
+  std::uint32_t& SlotOf(const T& value) {
+    const std::size_t last = slots_.size() - 1;
+    std::size_t i = HashOf(value) & last;
+    while (slots_[i] != 0 && !(values_[slots_[i] - 1] == value)) i = (i + 1) & last;
+    return slots_[i];
+  }
+  void Grow() {
+    slots_.assign(slots_.empty() ? 16 : 2 * slots_.size(), 0);
+    for (std::uint32_t number = 0; number < Size(); ++number) SlotOf(values_[number]) = number + 1;
+  }
+
+  std::vector<T> values_;
+  std::vector<std::uint32_t> slots_;  // a power of two of them
+};
+
+}  // namespace lumenote

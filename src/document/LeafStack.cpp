@@ -1,0 +1,25 @@
+#include "document/LeafStack.h"
+
+#include <utility>
+
+namespace lumenote {
+
+void LeafStack::Push(LeafList piece) {
+  if (piece.Empty()) return;
+  if (lists_.empty() || piece.Length() > LeafList::kMost - lists_.back().Length()) {
+    lists_.push_back(std::move(piece));
+  } else {
+    LeafList& last = lists_.back();
+    last.Replace(last.Length(), last.Length(), std::move(piece));
+  }
+}
+
+LeafList LeafStack::Pop(Position length) {
+  if (length == 0) return {};
+  LeafList& last = lists_.back();
+  LeafList piece = last.Replace(last.Length() - length, last.Length(), {});
+  if (last.Empty()) lists_.pop_back();
+  return piece;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,21 @@
+// A stack of removed pieces of text.
+#pragma once
+#include <vector>
+
+#include "document/LeafList.h"
+
+namespace lumenote {
+
+/// Pieces are packed end to end, so thousands of small ones cost little more than their units and a
+/// large one no more than its list of leaves. What was pushed last is popped first, by its length.
+class LeafStack {
+ public:
+  void Push(LeafList piece);
+  LeafList Pop(Position length);
+  void Clear() { lists_.clear(); }
+
+ private:
+  std::vector<LeafList> lists_;  // none is empty; more than one when a list would become too long
+};
+
+}  // namespace lumenote

@@ -1,0 +1,145 @@
+#include "document/LineTable.h"
+
+#include <algorithm>
+
+namespace lumenote {
+
+namespace {
+
+constexpr char16_t kLineBreak = u'\v';
+// A word cut over more lines than this is not looked at again from its beginning.
+constexpr int kMostCutLines = 16;
+// The first piece laid out behind an edit; each further one is twice as long.
+constexpr Position kFirstPiece = LineTable::kPiece / 16;
+
+}  // namespace
+
+LineRun::LineRun(const Document& document, LineBreaker& breaker)
+    : document_(document), breaker_(breaker) {
+  Restart(0);
+}
+
+void LineRun::Restart(Position paragraphStart) {
+  starts_.assign(1, {paragraphStart, document_.ParaFormatAt(paragraphStart)});
+  piece_ = kFirstPiece;
+  complete_ = false;
+}
+
+bool LineRun::Reaches(Position position) const {
+  if (position < starts_.front().at) return false;
+  if (position <= starts_.back().at) return true;
+  return document_.ParagraphOf(position) == document_.ParagraphOf(starts_.back().at);
+}
+
+// Lays out one more piece behind the last line known. A piece without a line start in it (all of
+// it fits on one line) is tried again twice as long, so that even endless lines cost little.
+bool LineRun::Extend() {
+  if (complete_) return false;
+  const auto [from, format] = starts_.back();
+  const Position paragraph = document_.ParagraphOf(from);
+  const Position end = document_.ParagraphEnd(paragraph);
+  const std::size_t known = starts_.size();
+  for (std::int64_t piece = piece_; starts_.size() == known; piece *= 2) {
+    const bool whole = piece >= end - from;
+    const Position to = whole ? end : document_.Before(from + static_cast<Position>(piece));
+    for (const Position at : breaker_.Break(document_, from, to)) starts_.push_back({at, format});
+    if (!whole) continue;
+    complete_ = paragraph + 1 == document_.ParagraphCount();
+    if (!complete_) starts_.push_back({end + 2, document_.ParaFormatAt(end + 2)});
+    break;
+  }
+  piece_ = std::min(2 * piece_, LineTable::kPiece);
+  return true;
+}
+
+std::size_t LineRun::LastUpTo(Position position) const {
+  const auto behind = std::ranges::upper_bound(starts_, position, {}, &Start::at);
+  return static_cast<std::size_t>(behind - starts_.begin()) - 1;
+}
+
+std::size_t LineRun::IndexOf(Position position) {
+  while (starts_.back().at <= position && Extend()) {
+  }
+  return LastUpTo(position);
+}
+
+bool LineRun::Has(std::size_t line) {
+  while (starts_.size() <= line && Extend()) {
+  }
+  return line < starts_.size();
+}
+
+Line LineRun::At(std::size_t line) {
+  const Position start = starts_[line].at;
+  if (!Has(line + 1)) return {start, document_.Length(), -1};
+  const Position next = starts_[line + 1].at;
+  if (StartsParagraph(next)) return {start, next - 2, next};
+  return {start, document_.At(next - 1) == kLineBreak ? next - 1 : next, next};
+}
+
+bool LineRun::StartsParagraph(Position start) const {
+  return document_.ParagraphStart(document_.ParagraphOf(start)) == start;
+}
+
+bool LineRun::BehindBlank(Position start) const {
+  const char16_t before = document_.At(start - 1);
+  return before == u' ' || before == u'\t' || before == kLineBreak;
+}
+
+// The line edited may begin elsewhere now, since its first word may fit on the line before; when
+// that word was cut over several lines, the first of them may. Another paragraph format moves all
+// lines of the paragraph.
+void LineRun::Edited(Position at) {
+  std::size_t line = LastUpTo(at);
+  const bool reformatted = document_.ParaFormatAt(starts_[line].at) != starts_[line].format;
+  for (int cut = 0; line > 0 && !StartsParagraph(starts_[line].at); --line) {
+    if (reformatted || (!BehindBlank(starts_[line].at) && ++cut <= kMostCutLines)) continue;
+    --line;
+    break;
+  }
+  starts_.resize(line + 1);
+  if (reformatted) starts_[line].format = document_.ParaFormatAt(starts_[line].at);
+  piece_ = kFirstPiece;
+  complete_ = false;
+}
+
+LineTable::LineTable(const Document& document, LineBreaker& breaker)
+    : document_(document), all_(document, breaker), near_(document, breaker) {}
+
+std::int32_t LineTable::LineOf(Position position) {
+  return static_cast<std::int32_t>(all_.IndexOf(std::clamp(position, 0, document_.Length())));
+}
+
+Position LineTable::LineStart(std::int32_t line) {
+  if (line < 0 || !all_.Has(static_cast<std::size_t>(line))) return -1;
+  return all_.At(static_cast<std::size_t>(line)).start;
+}
+
+Position LineTable::LineEnd(std::int32_t line) {
+  if (line < 0 || !all_.Has(static_cast<std::size_t>(line))) return -1;
+  return all_.At(static_cast<std::size_t>(line)).end;
+}
+
+Line LineTable::LineAt(Position position) {
+  position = std::clamp(position, 0, document_.Length());
+  if (all_.Reaches(position)) return all_.At(all_.IndexOf(position));
+  if (!near_.Reaches(position))
+    near_.Restart(document_.ParagraphStart(document_.ParagraphOf(position)));
+  return near_.At(near_.IndexOf(position));
+}
+
+void LineTable::Edited(Position at) {
+  all_.Edited(at);
+  if (near_.First() == 0) return;  // not in use: `all_` begins there
+  if (near_.First() <= at)
+    near_.Edited(at);
+  else
+    near_.Restart(0);
+}
+
+void LineTable::Reset() {
+  all_.Restart(0);
+  near_.Restart(0);
+}
+
+}  // namespace lumenote

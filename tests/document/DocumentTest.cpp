@@ -1,0 +1,132 @@
+// Positions, paragraphs, limits and formats of the document.
+#include <gtest/gtest.h>
+
+#include "base/RuntimeError.h"
+#include "document/Document.h"
+
+namespace lumenote {
+namespace {
+
+TEST(Document, AnswersEveryPositionWhenEmpty) {
+  const Document document;
+  for (Position position : {-5, 0, 7}) {
+    EXPECT_EQ(document.At(position), 0);
+    EXPECT_EQ(document.ParagraphOf(position), 0);
+    EXPECT_EQ(document.ParagraphStart(position), 0);
+    EXPECT_EQ(document.ParagraphEnd(position), 0);
+    EXPECT_EQ(document.CharFormatAt(position), 0u);
+    EXPECT_EQ(document.ParaFormatAt(position), 0u);
+    EXPECT_EQ(document.Before(position), 0);
+    EXPECT_EQ(document.Text(position, 9), u"");
+    EXPECT_EQ(document.Copy(position, 9).Length(), 0);
+  }
+  EXPECT_EQ(document.ParagraphCount(), 1);
+}
+
+TEST(Document, MovesEdgesOutOfPairs) {
+  Document document;
+  document.Replace(0, 0, PlainFragment(u"a\nb\U0001F33C", 0, 0));  // a CR LF b and a pair
+  struct Case {
+    Position from, to;
+    Selection outwards;
+  };
+  for (const Case& c : {Case{-1, 99, {0, 6}}, Case{2, 2, {1, 1}}, Case{0, 2, {0, 3}},
+                        Case{2, 4, {1, 4}}, Case{3, 1, {3, 3}}, Case{9, 2, {6, 6}}}) {
+    EXPECT_EQ(document.Outwards(c.from, c.to), c.outwards) << c.from << ".." << c.to;
+  }
+  EXPECT_EQ(document.Before(2), 1);
+  EXPECT_EQ(document.After(2), 3);
+  EXPECT_EQ(document.Before(5), 4);
+  EXPECT_EQ(document.After(5), 6);
+  document.Replace(2, 2, PlainFragment(u"x", 0, 0));
+  EXPECT_EQ(document.Text(0, 99), u"ax\r\nb\U0001F33C");
+}
+
+TEST(Document, VisitsTheParagraphsThatARangeTouches) {
+  Document document;
+  FragmentBuilder builder;
+  for (ParaId paragraph : {1, 2, 3}) {
+    builder.Append(u"ab", 0);
+    builder.AppendBreak(0, paragraph);
+  }
+  builder.Append(u"end", 0);
+  Fragment fragment = builder.Finish();
+  fragment.mark = FinalMark{0, 9};
+  EXPECT_EQ(document.Replace(0, 0, fragment).mark, FinalMark{});
+  struct Case {
+    Position from, to;
+    std::vector<ParaId> paragraphs;
+  };
+  for (const Case& c : {Case{0, 0, {1}}, Case{0, 4, {1}}, Case{3, 5, {1, 2}}, Case{4, 4, {2}},
+                        Case{2, 8, {1, 2}}, Case{9, 99, {3, 9}}, Case{15, 15, {9}}}) {
+    std::vector<ParaId> visited;
+    document.ForEachParagraph(c.from, c.to, [&](ParaId id) { visited.push_back(id); });
+    EXPECT_EQ(visited, c.paragraphs) << c.from << ".." << c.to;
+  }
+}
+
+TEST(Document, MapsEachFormatOnceAndSharesTheText) {
+  Document document;
+  for (std::uint16_t size : {30, 40}) document.Formats().characters.Intern({.size = size});
+  FragmentBuilder builder;
+  for (int i = 0; i < 2000; ++i) builder.Append(u"some words ", i % 2);
+  document.Replace(0, 0, builder.Finish());
+  int asked = 0;
+  const auto toTwo = [&](CharId) { return ++asked, CharId{2}; };
+  const auto mapped = document.MapFormats(0, document.Length(), toTwo, {}, true);
+  ASSERT_TRUE(mapped);
+  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(mapped->mark, (FinalMark{2, 0}));
+  EXPECT_EQ(mapped->leaves.CursorAt(0)->text.View().data(),
+            document.Leaves().CursorAt(0)->text.View().data());
+  document.Replace(0, document.Length(), *mapped);
+  EXPECT_FALSE(document.MapFormats(0, document.Length(), toTwo, {}, true));
+}
+
+TEST(Document, RefusesToOutgrowAPosition) {
+  Document document;
+  document.Replace(0, 0, PlainFragment(std::u16string(1 << 16, u'x'), 0, 0));
+  for (int i = 0; i < 14; ++i) {
+    document.Replace(document.Length(), document.Length(), document.Copy(0, document.Length()));
+  }
+  const Position length = document.Length();
+  ASSERT_EQ(length, 1 << 30);
+  const auto twice = document.Copy(0, length);
+  EXPECT_THROW(document.Replace(5, 5, twice), RuntimeError);
+  EXPECT_EQ(document.Length(), length);
+  document.Replace(1, 2, twice);
+  EXPECT_EQ(document.Length(), LeafList::kMost);
+  EXPECT_THROW(document.Replace(0, 0, PlainFragment(u"x", 0, 0)), RuntimeError);
+}
+
+TEST(PlainFragment, MakesEveryLineEndABreak) {
+  EXPECT_EQ(PlainFragment(u"", 0, 0).Length(), 0);
+  Document document;
+  document.Replace(0, 0, PlainFragment(u"\ra\r\n\nb\n\r\n", 0, 4));
+  EXPECT_EQ(document.Text(0, 99), u"\r\na\r\n\r\nb\r\n\r\n");
+  EXPECT_EQ(document.ParagraphCount(), 6);
+  EXPECT_EQ(document.ParaFormatAt(3), 4u);
+}
+
+TEST(FragmentBuilder, KeepsPairsInOneLeaf) {
+  for (Position before : {1982, 1983, 1984, 1985, 2014, 2015, 2016}) {
+    for (std::u16string_view pair : {u"\r\n", u"\U0001F33C"}) {
+      FragmentBuilder builder;
+      for (Position i = 0; i < before; ++i) {
+        *builder.Room() = u'x';
+        builder.Commit(1, 0);
+      }
+      const ParaId mark = 3;
+      builder.Append(std::u16string(pair) + std::u16string(4000, u'y'), 1, &mark);
+      const Fragment fragment = builder.Finish();
+      EXPECT_EQ(fragment.Length(), before + 4002);
+      const LeafCursor leaf = fragment.leaves.CursorAt(before);
+      const LeafCursor next = fragment.leaves.CursorAt(before + 1);
+      EXPECT_EQ(leaf.Start(), next.Start()) << before;
+      EXPECT_EQ(fragment.leaves.Breaks(), pair == u"\r\n" ? 1 : 0);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace lumenote

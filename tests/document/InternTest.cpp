@@ -1,0 +1,42 @@
+// The table that numbers formats.
+#include <gtest/gtest.h>
+
+#include "document/Formats.h"
+
+namespace lumenote {
+namespace {
+
+TEST(InternTable, NumbersEachValueOnce) {
+  FormatTables tables;
+  EXPECT_EQ(tables.characters.Intern({}), 0u);
+  const std::uint32_t bold = tables.characters.Intern({.effects = kBold});
+  EXPECT_EQ(bold, 1u);
+  EXPECT_EQ(tables.characters.Intern({.effects = kItalic}), 2u);
+  EXPECT_EQ(tables.characters.Intern({.effects = kBold}), bold);
+  EXPECT_EQ(tables.characters[bold].effects, kBold);
+  EXPECT_EQ(tables.characters.Size(), 3u);
+}
+
+TEST(InternTable, TellsMembersApart) {
+  FormatTables tables;
+  EXPECT_EQ(tables.fonts.Intern({u"Arial", 0, 2, 0}), 1u);
+  EXPECT_EQ(tables.fonts.Intern({u"Arial", 0, 0, 2}), 2u);
+  EXPECT_EQ(tables.fonts.Intern({u"Arial", 0, 2, 0}), 1u);
+  EXPECT_EQ(tables.tabs.Intern({{720}, {1440, TabKind::Right, 1}}), 1u);
+  EXPECT_EQ(tables.tabs.Intern({{720}, {1440, TabKind::Right, 2}}), 2u);
+  EXPECT_EQ(tables.tabs.Intern({{720}, {1440, TabKind::Right, 1}}), 1u);
+  EXPECT_EQ(tables.objects.Intern({"{\\pict}"}), 1u);
+  EXPECT_EQ(tables.objects.Intern({"{\\pict}"}), 1u);
+}
+
+TEST(InternTable, AnswersTheDefaultWhenFull) {
+  InternTable<std::uint32_t> table;
+  const std::uint32_t most = InternTable<std::uint32_t>::kMost;
+  for (std::uint32_t i = 0; i < most; ++i) ASSERT_EQ(table.Intern(i * 7), i);
+  EXPECT_EQ(table.Intern(1), 0u);
+  EXPECT_EQ(table.Intern(7 * 5), 5u);
+  EXPECT_EQ(table.Size(), most);
+}
+
+}  // namespace
+}  // namespace lumenote
