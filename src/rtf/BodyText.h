@@ -1,0 +1,43 @@
+// The text of a note as it comes out of an RTF source.
+#pragma once
+#include <optional>
+
+#include "document/Fragment.h"
+#include "rtf/Reader.h"
+
+namespace lumenote {
+
+/// Lays text and breaks down in a fragment. What only the following source decides is held back:
+/// the last break, which may turn out to be the final mark, and the tab behind a table cell, which
+/// the end of the row swallows. `Release` must come before text whenever something is held.
+class BodyText {
+ public:
+  bool Holds() const { return holds_; }
+  void Release();
+
+  char16_t* Room() { return builder_.Room(); }
+  void Commit(int count, CharId format) { builder_.Commit(count, format); }
+  void Append(std::u16string_view text, CharId format) { builder_.Append(text, format); }
+
+  /// Ends the paragraph, whose formats are `formats`.
+  void Break(const FinalMark& formats);
+  /// The same, unless nothing stands in the paragraph.
+  void EndParagraph(const FinalMark& formats);
+  /// Ends a cell: a tab, if another cell follows in the row.
+  void Cell(CharId format);
+  /// Ends a table row: a break, if the row holds anything.
+  void Row(const FinalMark& formats);
+
+  /// `unfinished` are the formats in force at the end of the source, which the text behind the
+  /// last break takes.
+  Fragment Finish(RtfTarget target, const FinalMark& unfinished);
+
+ private:
+  FragmentBuilder builder_;
+  std::optional<FinalMark> break_;
+  std::optional<CharId> cell_;
+  bool holds_ = true;
+  bool started_ = false;  // the paragraph has text
+};
+
+}  // namespace lumenote

@@ -1,0 +1,49 @@
+// Code pages: bytes to UTF-16 and, for 1252, back.
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace lumenote {
+
+inline constexpr int kPageOfWindows = 1252;
+inline constexpr int kPageOfSymbols = 42;  // a symbol font's own: bytes go to U+F000 and up
+inline constexpr int kPageUtf8 = 65001;
+
+/// Code page 1252, all 256 bytes: the five undefined ones map to the control of the same number.
+std::u16string Decode1252(std::string_view bytes);
+/// A character outside the code page becomes "?", a surrogate pair one "?".
+std::string Encode1252(std::u16string_view text);
+/// Whether every character of the text has a byte in code page 1252.
+bool Fits1252(std::u16string_view text);
+/// The byte of one unit in code page 1252, or -1 when it has none.
+int ByteIn1252(char16_t unit);
+
+/// Decodes a run of bytes in a Windows, OEM or Mac code page by its number (as in \ansicpg);
+/// an unknown page reads as 1252. Appends to `out`.
+void DecodeCodePage(int page, std::string_view bytes, std::u16string& out);
+/// The code page of an RTF font character set (\fcharset); 0 for "the document's own".
+int CodePageOfCharset(int charset);
+
+/// A code page looked up once, for decoding byte by byte.
+class CodePage {
+ public:
+  /// An unknown page is 1252.
+  explicit CodePage(int number = kPageOfWindows);
+
+  /// Whether a character may take several bytes; such text goes through `DecodeCodePage`.
+  bool MultiByte() const { return number_ == kPageUtf8; }
+  /// Whether the bytes below 0x80 stand for themselves.
+  bool KeepsAscii() const { return number_ != kPageOfSymbols; }
+  int Number() const { return number_; }
+
+  char16_t operator[](unsigned char byte) const {
+    if (byte >= 0x80) return upper_[byte - 0x80];
+    return KeepsAscii() || byte <= ' ' ? byte : static_cast<char16_t>(0xF000 + byte);
+  }
+
+ private:
+  const char16_t* upper_;
+  int number_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,21 @@
+// The colours of an RTF source by their numbers.
+#pragma once
+#include <vector>
+
+#include "document/Formats.h"
+#include "rtf/Tokenizer.h"
+
+namespace lumenote {
+
+class ColourTable {
+ public:
+  /// Reads the \colortbl group that the tokenizer stands in, up to its closing brace.
+  void Read(Tokenizer& tokens);
+  /// The automatic colour for an entry without one and for a number out of the table.
+  Colour operator[](int number) const;
+
+ private:
+  std::vector<Colour> colours_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,41 @@
+// What an RTF group can change and its closing brace brings back.
+#pragma once
+#include <memory>
+
+#include "document/Formats.h"
+#include "rtf/CodePage.h"
+
+namespace lumenote {
+
+/// A paragraph's format in RTF's own terms; `Resolved` says what it amounts to.
+struct ParagraphState {
+  enum Length { kLeft, kFirst, kRight, kBefore, kAfter, kLine, kLengths };
+  int lengths[kLengths] = {};  // twips; kLine as \sl has it
+  bool multipleLines = false;  // \slmult
+  Alignment alignment = Alignment::Left;
+  bool rightToLeft = false;
+  bool bullet = false;  // by a \pn group
+  int list = -1;        // \ls; -1 none
+  int level = 0;        // \ilvl
+  std::shared_ptr<const TabStops> tabs;
+  TabStop nextTab;  // kind and leader given for the next \tx
+
+  void AddTab(int position);
+  /// The format but for `tabs` and `bullet`, which need the tables of the document and the source.
+  ParaFormat Resolved() const;
+};
+
+struct GroupState {
+  CharFormat character;
+  ParagraphState paragraph;
+  CodePage page;     // of text bytes
+  int fallback = 1;  // \uc: characters that follow a \u for readers without Unicode
+
+  // Numbers of the formats in the document's tables, while they are known.
+  bool characterKnown = false;
+  bool paragraphKnown = false;
+  CharId characterId = 0;
+  ParaId paragraphId = 0;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,245 @@
+// The reading loop: groups, text bytes, and what comes before text.
+#include "rtf/Interpreter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "rtf/Keywords.h"
+
+namespace lumenote {
+namespace {
+
+/// The document's own level and that of its outermost group; a "}" too many never leaves them.
+constexpr std::size_t kOutermost = 2;
+
+/// What a symbol stands for; 0 for the marks of groups, indexes and formulas.
+char16_t CharacterOf(char symbol) {
+  switch (symbol) {
+    case '~':
+      return u'\u00A0';
+    case '_':
+      return u'\u2011';
+    case '-':
+      return u'\u00AD';
+    case '{':
+    case '}':
+    case '\\':
+    case '\t':
+      return static_cast<unsigned char>(symbol);
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+Interpreter::Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base)
+    : tokens_(source), formats_(formats), groups_(1), default_(base) {
+  State().character = base;
+}
+
+Fragment Interpreter::Read(RtfTarget target) {
+  Interpret();
+  if (!marker_.empty()) PlaceMarker();
+  return body_.Finish(target, Formats());
+}
+
+void Interpreter::Interpret() {
+  TakeText();
+  for (Token token = tokens_.Next(); token.kind != Token::Kind::End; token = tokens_.Next()) {
+    if (token.kind == Token::Kind::Close && Ended()) break;
+    Take(token);
+    TakeText();
+  }
+  EndBytes();
+}
+
+void Interpreter::Take(const Token& token) {
+  using Kind = Token::Kind;
+  wasStarred_ = std::exchange(starred_, false);
+  const bool first = std::exchange(opened_, false);
+  const bool ofBytes =
+      token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
+  if (!ofBytes) EndBytes();
+  switch (token.kind) {
+    case Kind::Byte:
+      return Byte(token.byte);
+    case Kind::Word:
+      return Word(token);
+    case Kind::Symbol:
+      starred_ = first && token.byte == '*';
+      return Symbol(static_cast<char>(token.byte));
+    case Kind::Open:
+      return Open();
+    case Kind::Close:
+      return Close();
+    case Kind::Binary:
+      Swallowed();
+      return;
+    default:
+      return Bytes(token.text);
+  }
+}
+
+/// Text goes the short way, from the source into the fragment, unless some of it is to be passed
+/// over or its characters take several bytes.
+void Interpreter::TakeText() {
+  if (swallow_ > 0 || State().page.MultiByte() || !tokens_.AtText()) return;
+  opened_ = starred_ = false;
+  BeforeText();
+  const CodePage page = State().page;
+  const CharId format = CharacterNumber();
+  std::size_t count = FragmentBuilder::kRoom;
+  while (count == FragmentBuilder::kRoom) {
+    count = tokens_.Decode(page, body_.Room(), FragmentBuilder::kRoom);
+    body_.Commit(static_cast<int>(count), format);
+  }
+}
+
+/// Whether the "}" just read is the last that matters. Braces that only close at the end leave the
+/// formats as they are, for the final mark; behind the document's own one, text without any markup
+/// is no part of it but what some mailer or disk left there.
+bool Interpreter::Ended() const {
+  const bool outermost = uncounted_ == 0 && groups_.size() <= kOutermost;
+  return tokens_.OnlyClosesFollow() || (outermost && !tokens_.MarkupFollows());
+}
+
+void Interpreter::Open() {
+  swallow_ = 0;
+  opened_ = true;
+  if (groups_.size() < kDeepest) {
+    groups_.push_back(groups_.back());
+  } else {
+    ++uncounted_;
+  }
+}
+
+void Interpreter::Close() {
+  swallow_ = 0;
+  if (uncounted_ > 0) {
+    --uncounted_;
+  } else if (groups_.size() > kOutermost) {
+    groups_.pop_back();
+  }
+}
+
+/// A word counts as one of the characters behind a \u, but only one that stands for a character is
+/// passed over: no break and no format is lost.
+void Interpreter::Word(const Token& word) {
+  const Keyword* keyword = FindKeyword(word.text);
+  if (wasStarred_ && !(keyword && keyword->opensGroup)) return tokens_.SkipGroup();
+  const bool swallowed = Swallowed();
+  if (!keyword || (swallowed && keyword->handler == &Interpreter::Character)) return;
+  (this->*keyword->handler)(keyword->value, word);
+}
+
+void Interpreter::Symbol(char symbol) {
+  if (symbol == '\r' || symbol == '\n') return Break(0, {});
+  const char16_t unit = CharacterOf(symbol);
+  if (unit != 0 && !Swallowed()) Put(unit);
+}
+
+bool Interpreter::Swallowed() {
+  if (swallow_ == 0) return false;
+  --swallow_;
+  return true;
+}
+
+void Interpreter::Byte(unsigned char byte) {
+  if (Swallowed() || byte == 0) return;
+  if (byte == '\r' || byte == '\n') {
+    EndBytes();
+    return Break(0, {});
+  }
+  if (State().page.MultiByte()) {
+    bytes_ += static_cast<char>(byte);
+  } else {
+    Put(State().page[byte]);
+  }
+}
+
+/// Text that could not go the short way.
+void Interpreter::Bytes(std::string_view bytes) {
+  const auto passed = std::min(static_cast<std::size_t>(swallow_), bytes.size());
+  swallow_ -= static_cast<int>(passed);
+  bytes.remove_prefix(passed);
+  if (State().page.MultiByte()) {
+    bytes_ += bytes;
+  } else {
+    tokens_.PutBack(bytes.size());
+  }
+}
+
+void Interpreter::EndBytes() {
+  if (bytes_.empty()) return;
+  decoded_.clear();
+  DecodeCodePage(State().page.Number(), std::exchange(bytes_, {}), decoded_);
+  BeforeText();
+  body_.Append(decoded_, CharacterNumber());
+}
+
+void Interpreter::Put(char16_t unit) {
+  BeforeText();
+  *body_.Room() = unit;
+  body_.Commit(1, CharacterNumber());
+}
+
+void Interpreter::BeforeText() {
+  if (!marker_.empty()) PlaceMarker();
+  if (body_.Holds()) body_.Release();
+}
+
+void Interpreter::PlaceMarker() {
+  const std::string_view marker = std::exchange(marker_, {});
+  if (HasBullet()) return;
+  const Tokenizer source = std::exchange(tokens_, Tokenizer(marker));
+  const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
+  const std::size_t uncounted = uncounted_;
+  groups_.push_back(groups_.back());
+  placingMarker_ = true;
+  Interpret();
+  placingMarker_ = false;
+  groups_.erase(groups_.begin() + depth, groups_.end());
+  uncounted_ = uncounted;
+  swallow_ = 0;
+  starred_ = false;
+  tokens_ = source;
+}
+
+CharFormat& Interpreter::EditCharacter() {
+  State().characterKnown = false;
+  return State().character;
+}
+
+ParagraphState& Interpreter::EditParagraph() {
+  State().paragraphKnown = false;
+  return State().paragraph;
+}
+
+CharId Interpreter::CharacterNumber() {
+  GroupState& state = State();
+  if (!state.characterKnown) {
+    state.characterId = formats_.characters.Intern(state.character);
+    state.characterKnown = true;
+  }
+  return state.characterId;
+}
+
+ParaId Interpreter::ParagraphNumber() {
+  GroupState& state = State();
+  if (!state.paragraphKnown) {
+    ParaFormat format = state.paragraph.Resolved();
+    format.bullet = HasBullet();
+    if (state.paragraph.tabs) format.tabs = formats_.tabs.Intern(*state.paragraph.tabs);
+    state.paragraphId = formats_.paragraphs.Intern(format);
+    state.paragraphKnown = true;
+  }
+  return state.paragraphId;
+}
+
+bool Interpreter::HasBullet() const {
+  const ParagraphState& paragraph = State().paragraph;
+  return paragraph.bullet || lists_.IsBullet(paragraph.list, paragraph.level);
+}
+
+}  // namespace lumenote

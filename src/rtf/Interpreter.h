@@ -1,0 +1,137 @@
+// What the words of RTF do to the note being read.
+#pragma once
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/Fragment.h"
+#include "rtf/BodyText.h"
+#include "rtf/ColourTable.h"
+#include "rtf/FontTable.h"
+#include "rtf/GroupState.h"
+#include "rtf/ListTable.h"
+#include "rtf/Reader.h"
+#include "rtf/Tokenizer.h"
+
+namespace lumenote {
+
+/// Reads one source. Groups are a stack of states, at most `kDeepest`; deeper ones are counted
+/// only, so that their formats leak outwards but memory stays bounded.
+class Interpreter {
+ public:
+  Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base);
+  Fragment Read(RtfTarget target);
+
+  // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it.
+
+  // Text.
+  void Character(int value, const Token& word);
+  void Unicode(int value, const Token& word);
+  void Break(int value, const Token& word);
+  void EndParagraph(int value, const Token& word);
+  void Cell(int value, const Token& word);
+  void Row(int value, const Token& word);
+
+  // Groups.
+  void EnterGroup(int value, const Token& word);
+  void SkipGroup(int value, const Token& word);
+  void SkipTable(int value, const Token& word);
+  void KeepGroup(int value, const Token& word);
+  void SkipAlternative(int value, const Token& word);
+  void Marker(int value, const Token& word);
+  void Numbering(int value, const Token& word);
+  void Fonts(int value, const Token& word);
+  void Colours(int value, const Token& word);
+  void Lists(int value, const Token& word);
+  void ListOverrides(int value, const Token& word);
+
+  // The document.
+  void DocumentPage(int value, const Token& word);
+  void DefaultFont(int value, const Token& word);
+  void DefaultLanguage(int value, const Token& word);
+  void Fallback(int value, const Token& word);
+
+  // Characters.
+  void Plain(int value, const Token& word);
+  void Font(int value, const Token& word);
+  void Size(int value, const Token& word);
+  void Effect(int value, const Token& word);
+  void Script(int value, const Token& word);
+  void UnderlineAs(int value, const Token& word);
+  void TextColour(int value, const Token& word);
+  void Highlight(int value, const Token& word);
+  void Raise(int value, const Token& word);
+  void Language(int value, const Token& word);
+  void Spacing(int value, const Token& word);
+  void Scale(int value, const Token& word);
+
+  // Paragraphs.
+  void DefaultParagraph(int value, const Token& word);
+  void Align(int value, const Token& word);
+  void Length(int value, const Token& word);
+  void MultipleLines(int value, const Token& word);
+  void Tab(int value, const Token& word);
+  void TabKindIs(int value, const Token& word);
+  void TabLeaderIs(int value, const Token& word);
+  void RightToLeft(int value, const Token& word);
+  void List(int value, const Token& word);
+  void ListLevel(int value, const Token& word);
+
+ private:
+  static constexpr std::size_t kDeepest = 10'000;
+
+  void Interpret();
+  void Take(const Token& token);
+  void TakeText();
+  bool Ended() const;
+  void Open();
+  void Close();
+  void Word(const Token& word);
+  void Symbol(char symbol);
+  void Byte(unsigned char byte);
+  void Bytes(std::string_view bytes);
+  void EndBytes();
+  bool Swallowed();
+
+  void Put(char16_t unit);
+  void BeforeText();
+  void PlaceMarker();
+  std::string KeptGroup();
+  void UseDefaultFont(GroupState& state);
+  bool HasBullet() const;
+
+  GroupState& State() { return groups_.back(); }
+  const GroupState& State() const { return groups_.back(); }
+  /// Of the group around the present one, for groups that say something about what follows them.
+  GroupState& Outer() { return groups_.size() > 1 ? groups_[groups_.size() - 2] : groups_.back(); }
+  CharFormat& EditCharacter();
+  ParagraphState& EditParagraph();
+  CharId CharacterNumber();
+  ParaId ParagraphNumber();
+  FinalMark Formats() { return {CharacterNumber(), ParagraphNumber()}; }
+
+  Tokenizer tokens_;
+  FormatTables& formats_;
+  BodyText body_;
+  std::vector<GroupState> groups_;
+  std::size_t uncounted_ = 0;  // groups opened beyond `kDeepest`
+
+  FontTable fonts_;
+  ColourTable colours_;
+  ListTable lists_;
+  CharFormat default_;    // what \plain gives
+  int defaultFont_ = -1;  // \deff
+  int documentPage_ = kPageOfWindows;
+
+  int swallow_ = 0;          // characters still to pass over behind a \u
+  bool opened_ = false;      // the last token was {
+  bool starred_ = false;     // the last token was \*, just behind {
+  bool wasStarred_ = false;  // so was the token before the present one
+  std::string bytes_;        // of a multi-byte page, not yet decoded
+  std::u16string decoded_;
+  bool placingMarker_ = false;
+  std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
+};
+
+}  // namespace lumenote

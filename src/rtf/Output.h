@@ -1,0 +1,43 @@
+// RTF source on its way out.
+#pragma once
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "rtf/Writer.h"
+
+namespace lumenote {
+
+/// Gathers the output and hands it on in large pieces, the last one by `Flush`. Knows whether a
+/// control word still waits for something that ends it.
+class Output {
+ public:
+  explicit Output(const ByteSink& sink);
+
+  /// A control word, without its backslash.
+  void Word(std::string_view name);
+  void Word(std::string_view name, int number);
+  /// Control words with their backslashes.
+  void Words(std::string_view source);
+  /// Braces, line ends and whatever else can follow a control word directly.
+  void Raw(std::string_view source);
+  /// \'xx
+  void Hex(int byte);
+  /// A unit for any reader: its number, and "?" where that is not understood.
+  void Unicode(char16_t unit);
+  /// Writes the beginning of `text` that consists of plain characters, and returns its length.
+  std::size_t Plain(std::u16string_view text);
+  void Flush();
+
+ private:
+  static constexpr std::size_t kPiece = std::size_t{1} << 16;
+
+  void Append(std::string_view source);
+
+  const ByteSink& sink_;
+  std::vector<char> buffer_;
+  std::size_t size_ = 0;
+  bool openWord_ = false;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include "rtf/CodePage.h"
+#include "rtf/CodePageTables.h"
+
+namespace lumenote {
+namespace {
+
+std::string AllBytes() {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) bytes.push_back(static_cast<char>(byte));
+  return bytes;
+}
+
+std::u16string Decoded(int page, std::string_view bytes) {
+  std::u16string text;
+  DecodeCodePage(page, bytes, text);
+  return text;
+}
+
+TEST(CodePage, TakesEachByteThereAndBack) {
+  const std::u16string text = Decode1252(AllBytes());
+  EXPECT_EQ(text.size(), 256u);
+  EXPECT_EQ(Encode1252(text), AllBytes());
+  EXPECT_TRUE(Fits1252(text));
+  EXPECT_EQ(text[0x80], u'\u20AC');
+  for (const int undefined : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) EXPECT_EQ(text[undefined], undefined);
+}
+
+TEST(CodePage, WritesAQuestionMarkForWhatItLacks) {
+  EXPECT_EQ(Encode1252(u"a\u0416b\U0001F600c\xD83D"), "a?b?c?");
+  EXPECT_EQ(Encode1252(u"\u0080"), "?");
+  EXPECT_FALSE(Fits1252(u"a\u0416"));
+}
+
+TEST(CodePage, DecodesTheOthers) {
+  struct {
+    int page;
+    const char* bytes;
+    const char16_t* text;
+  } const cases[] = {
+      {437, "\x82\xE1", u"éß"},
+      {850, "\x9B", u"ø"},
+      {866, "\x8F\xE0", u"Пр"},
+      {874, "\xA1\xE0", u"\u0E01\u0E40"},
+      {1250, "\xE8\xF8", u"čř"},
+      {1251, "\xCF\xF0", u"Пр"},
+      {1253, "\xC1\xE1", u"Αα"},
+      {1254, "\xFD\xFE", u"ış"},
+      {1255, "\xE0", u"\u05D0"},
+      {1256, "\xC7", u"\u0627"},
+      {1257, "\xE0", u"ą"},
+      {1258, "\xF0", u"đ"},
+      {10000, "\x8E\xD5", u"é’"},
+      {65001, "\xC3\xA9", u"é"},
+      {42, "A \xB7", u"\uF041 \uF0B7"},
+      {0, "\x80", u"€"},
+      {99999, "\xE9\x92", u"é’"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Decoded(c.page, c.bytes), c.text) << c.page;
+}
+
+TEST(CodePage, EveryTableIsWhole) {
+  int tables = 0;
+  for (int page = 0; page < 11000; ++page) {
+    const char16_t* upper = UpperHalf(page);
+    if (!upper) continue;
+    ++tables;
+    EXPECT_EQ(std::char_traits<char16_t>::length(upper), 128u) << page;
+  }
+  EXPECT_EQ(tables, 33);
+}
+
+TEST(CodePage, KnowsTheCharsetsOfFonts) {
+  EXPECT_EQ(CodePageOfCharset(0), 1252);
+  EXPECT_EQ(CodePageOfCharset(1), 0);
+  EXPECT_EQ(CodePageOfCharset(2), 42);
+  EXPECT_EQ(CodePageOfCharset(204), 1251);
+  EXPECT_EQ(CodePageOfCharset(-7), 0);
+}
+
+}  // namespace
+}  // namespace lumenote

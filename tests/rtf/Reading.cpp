@@ -1,0 +1,111 @@
+#include "Reading.h"
+
+#include <sstream>
+
+#include "base/Strings.h"
+
+namespace lumenote {
+namespace {
+
+/// Collects words between pointed brackets.
+class Words {
+ public:
+  std::ostream& Next() { return text_ << (first_ ? (first_ = false, "") : " "); }
+  void Add(bool present, std::string_view word) {
+    if (present) Next() << word;
+  }
+  void Number(std::int64_t value, std::int64_t standard, const char* name) {
+    if (value != standard) Next() << name << value;
+  }
+  std::string Text() const { return text_.str() + '>'; }
+
+ private:
+  std::ostringstream text_{"<", std::ios::ate};
+  bool first_ = true;
+};
+
+void Colour(lumenote::Colour colour, const char* name, Words& words) {
+  if (colour != kAutoColour) words.Next() << name << std::hex << colour << std::dec;
+}
+
+std::string Shown(const CharFormat& format, const FormatTables& tables) {
+  static constexpr const char* kEffects[] = {"b",     "i",     "strike", "striked", "caps",
+                                             "scaps", "v",     "outl",   "shad",    "embo",
+                                             "impr",  "super", "sub",    "deleted"};
+  Words words;
+  const FontFace& face = tables.fonts[format.font];
+  words.Add(!face.name.empty(), ToUtf8(face.name));
+  words.Number(face.charset, 0, "charset");
+  words.Number(face.family, 0, "family");
+  words.Number(face.pitch, 0, "pitch");
+  for (int bit = 0; bit < 14; ++bit) words.Add((format.effects >> bit & 1) != 0, kEffects[bit]);
+  words.Number(static_cast<int>(format.underline), 0, "ul");
+  words.Number(format.size, 24, "fs");
+  words.Number(format.offset, 0, "up");
+  words.Number(format.language, 0, "lang");
+  words.Number(format.spacing, 0, "expnd");
+  words.Number(format.scale, 100, "scale");
+  Colour(format.colour, "cf", words);
+  Colour(format.highlight, "bg", words);
+  words.Add(format.object != 0, tables.objects[format.object].rtf);
+  return words.Text();
+}
+
+std::string Shown(const ParaFormat& format, const FormatTables& tables) {
+  static constexpr const char* kRules[] = {"", "1.5", "2", "atleast", "exact", "multiple"};
+  Words words;
+  static constexpr const char* kAlignments[] = {"", "qr", "qc", "qj"};
+  words.Add(format.alignment != Alignment::Left, kAlignments[static_cast<int>(format.alignment)]);
+  words.Number(format.firstIndent, 0, "first");
+  words.Number(format.hangingIndent, 0, "hanging");
+  words.Number(format.rightIndent, 0, "right");
+  words.Number(format.spaceBefore, 0, "before");
+  words.Number(format.spaceAfter, 0, "after");
+  words.Add(format.lineRule != LineRule::Single, kRules[static_cast<int>(format.lineRule)]);
+  words.Number(format.lineSpacing, 0, "");
+  words.Add(format.bullet != 0, "bullet");
+  words.Add(format.rightToLeft != 0, "rtl");
+  for (const TabStop& tab : tables.tabs[format.tabs]) {
+    words.Next() << 't' << "lrcdb"[static_cast<int>(tab.kind)] << tab.position;
+    words.Number(tab.leader, 0, "leader");
+  }
+  return words.Text();
+}
+
+}  // namespace
+
+Document Read(std::string_view rtf, RtfTarget target, CharFormat base) {
+  Document document;
+  document.Replace(0, 0, ReadRtf(rtf, document.Formats(), target, base));
+  return document;
+}
+
+std::string TextOf(const Document& document) {
+  return ToUtf8(ReplaceEvery(document.Text(0, document.Length()), u"\r\n", u"\n"));
+}
+
+std::string Shown(const Document& document) {
+  const FormatTables& tables = document.Formats();
+  std::ostringstream shown;
+  std::string last = "<>";
+  const auto change = [&](CharId format) {
+    const std::string words = Shown(tables.characters[format], tables);
+    if (words != last) shown << words;
+    last = words;
+  };
+  for (Position at = 0; at < document.Length(); ++at) {
+    change(document.CharFormatAt(at));
+    const char16_t unit = document.At(at);
+    if (unit == u'\r') {
+      shown << '|' << Shown(tables.paragraphs[document.ParaFormatAt(at)], tables);
+      ++at;
+    } else {
+      shown << ToUtf8({&unit, 1});
+    }
+  }
+  change(document.Mark().character);
+  shown << '|' << Shown(tables.paragraphs[document.Mark().paragraph], tables);
+  return shown.str();
+}
+
+}  // namespace lumenote

@@ -1,0 +1,148 @@
+// Writing and reading back: the same document, and from then on the same bytes.
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <random>
+
+#include "Reading.h"
+#include "rtf/Writer.h"
+
+namespace lumenote {
+namespace {
+
+/// Makes documents of everything that RTF can carry, the same on every run.
+class Generator {
+ public:
+  explicit Generator(unsigned seed) : random_(seed) {}
+
+  Document Make() {
+    Document document;
+    FragmentBuilder builder;
+    for (int pieces = Below(40); pieces > 0; --pieces) {
+      const CharId format = Character(document.Formats());
+      for (int units = Below(60); units > 0; --units) AddText(format, builder);
+      if (Below(3) == 0) builder.AppendBreak(format, Paragraph(document.Formats()));
+      if (Below(9) == 0) builder.Append(u"\uFFFC", Object(document.Formats()));
+    }
+    Fragment fragment = builder.Finish();
+    fragment.mark = {Character(document.Formats()), Paragraph(document.Formats())};
+    document.Replace(0, 0, std::move(fragment));
+    return document;
+  }
+
+ private:
+  int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+  bool Seldom() { return Below(4) == 0; }
+
+  void AddText(CharId format, FragmentBuilder& builder) {
+    static constexpr std::u16string_view kPieces[] = {
+        u"a",      u" ",      u"mot",    u"1",      u"-",          u"\\",     u"{",      u"}",
+        u";",      u"é",      u"\u20AC", u"\u0416", u"\U0001F600", u"\t",     u"\v",     u"\u00A0",
+        u"\u00AD", u"\u2011", u"\u0001", u"\u007F", u"\u0081",     u"\u0080", u"\uF0B7", u"\uF020",
+        u"\xD83D", u"\uFFFC", u"\uFFFF", u"?",      u"\u2028",     u"\f"};
+    builder.Append(kPieces[Below(std::size(kPieces))], format);
+  }
+
+  CharId Character(FormatTables& tables) { return tables.characters.Intern(Format(tables)); }
+  CharId Object(FormatTables& tables) {
+    CharFormat format = Format(tables);
+    format.object = tables.objects.Intern({"{\\pict\\wmetafile8 0102}"});
+    return tables.characters.Intern(format);
+  }
+
+  CharFormat Format(FormatTables& tables) {
+    static constexpr std::u16string_view kNames[] = {u"Arial", u"Été", u"A;B", u"\u0416{}\\", u""};
+    static constexpr std::uint8_t kCharsets[] = {0, 1, 2, 204, 238};
+    CharFormat format;
+    format.font = tables.fonts.Intern({std::u16string(kNames[Below(5)]), kCharsets[Below(5)],
+                                       static_cast<std::uint8_t>(Below(8)),
+                                       static_cast<std::uint8_t>(Below(3))});
+    if (Seldom()) format.effects = static_cast<std::uint16_t>(1 << Below(14));
+    if (Seldom()) format.underline = static_cast<Underline>(Below(18));
+    format.size = static_cast<std::uint16_t>(1 + Below(80));
+    if (Seldom()) format.offset = static_cast<std::int16_t>((Below(400) - 200) * 10);
+    if (Seldom()) format.colour = static_cast<Colour>(Below(1 << 24));
+    if (Seldom()) format.highlight = static_cast<Colour>(Below(3));
+    if (Seldom()) format.language = static_cast<std::uint16_t>(1030 + Below(9));
+    if (Seldom()) format.spacing = static_cast<std::int16_t>(Below(99) - 50);
+    if (Seldom()) format.scale = static_cast<std::uint16_t>(1 + Below(300));
+    return format;
+  }
+
+  ParaId Paragraph(FormatTables& tables) {
+    ParaFormat format;
+    if (Seldom()) format.firstIndent = Below(4000) - 2000;
+    if (Seldom()) format.hangingIndent = Below(4000) - 2000;
+    if (Seldom()) format.rightIndent = Below(2000);
+    if (Seldom()) format.spaceBefore = Below(300);
+    if (Seldom()) format.spaceAfter = Below(300);
+    format.lineRule = static_cast<LineRule>(Below(6));
+    if (format.lineRule >= LineRule::AtLeast) format.lineSpacing = 41 + Below(100);
+    format.alignment = static_cast<Alignment>(Below(4));
+    format.bullet = Seldom();
+    format.rightToLeft = Seldom();
+    TabStops tabs;
+    for (int position = Below(900); Seldom(); position += 1 + Below(900)) {
+      tabs.push_back(
+          {position, static_cast<TabKind>(Below(5)), static_cast<std::uint8_t>(Below(6))});
+    }
+    format.tabs = tables.tabs.Intern(tabs);
+    return tables.paragraphs.Intern(format);
+  }
+
+  std::mt19937 random_;
+};
+
+TEST(RoundTrip, KeepsRandomDocuments) {
+  for (unsigned seed = 0; seed < 300; ++seed) {
+    const Document document = Generator(seed).Make();
+    const std::string rtf = WriteRtf(document);
+    const Document again = Read(rtf);
+    ASSERT_EQ(Shown(again), Shown(document)) << seed;
+    ASSERT_EQ(WriteRtf(again), rtf) << seed;
+    const bool ascii = std::all_of(rtf.begin(), rtf.end(), [](char c) { return c > 0; });
+    ASSERT_TRUE(ascii) << seed;
+  }
+}
+
+TEST(RoundTrip, KeepsRandomSelections) {
+  for (unsigned seed = 0; seed < 100; ++seed) {
+    const Document document = Generator(seed).Make();
+    const Position from = document.Before(document.Length() / 3);
+    const Position to = document.Before(document.Length() * 2 / 3);
+    const Document piece = Read(WriteRtf(document, from, to), RtfTarget::Selection);
+    ASSERT_EQ(piece.Text(0, piece.Length()), document.Text(from, to)) << seed;
+  }
+}
+
+TEST(RoundTrip, ReachesAFixedPointFromWhatNoSourceSays) {
+  Document document;
+  FormatTables& tables = document.Formats();
+  FragmentBuilder builder;
+  const auto paragraph = [&](ParaFormat format) {
+    builder.AppendBreak(0, tables.paragraphs.Intern(format));
+  };
+  paragraph({.lineSpacing = 20, .lineRule = LineRule::Multiple});
+  paragraph({.lineSpacing = 77, .lineRule = LineRule::Single});
+  paragraph({.lineSpacing = -5, .lineRule = LineRule::Exact});
+  paragraph({.firstIndent = 2'000'000'000, .hangingIndent = 2'000'000'000});
+  const std::uint16_t both = kSuperscript | kSubscript;
+  builder.Append(u"a", tables.characters.Intern({.effects = both, .size = 0, .scale = 0}));
+  builder.Append(u"b", tables.characters.Intern({.colour = 0x55000001, .offset = -32768}));
+  builder.Append(u"c", tables.characters.Intern({.font = tables.fonts.Intern({u" Arial "})}));
+  builder.Append(u"d", tables.characters.Intern({.font = tables.fonts.Intern({u"Arial"})}));
+  document.Replace(0, 0, builder.Finish());
+  const std::string rtf = WriteRtf(document);
+  EXPECT_EQ(WriteRtf(Read(rtf)), rtf);
+}
+
+TEST(RoundTrip, NeverGrowsANote) {
+  std::string rtf = R"({\rtf1 a\par b\par})";
+  for (int times = 0; times < 3; ++times) {
+    rtf = WriteRtf(Read(rtf));
+    EXPECT_EQ(TextOf(Read(rtf)), "a\nb");
+  }
+}
+
+}  // namespace
+}  // namespace lumenote

@@ -1,0 +1,128 @@
+// The sample files, whole and damaged, and sources made to hurt.
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <random>
+
+#include "Reading.h"
+#include "rtf/Writer.h"
+
+namespace lumenote {
+namespace {
+
+const std::filesystem::path kSamples =
+    std::filesystem::path(__FILE__).parent_path().parent_path() / "data";
+
+std::string Bytes(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Reads the source and checks that what it is written as stays so.
+Document ReadStably(std::string_view rtf) {
+  Document document = Read(rtf);
+  const std::string written = WriteRtf(document);
+  const Document again = Read(written);
+  EXPECT_EQ(WriteRtf(again), written);
+  EXPECT_EQ(again.Text(0, again.Length()), document.Text(0, document.Length()));
+  return document;
+}
+
+class Samples : public testing::TestWithParam<Case> {};
+TEST_P(Samples, ReadAs) {
+  EXPECT_EQ(TextOf(ReadStably(Bytes(kSamples / GetParam().rtf))), GetParam().expected);
+}
+INSTANTIATE_TEST_SUITE_P(
+    Files, Samples,
+    testing::Values(
+        Case{"empty.rtf", ""},
+        Case{"note.rtf",
+             "Campanula rotundifolia\nTige grêle, rarement simple\u00A0; feuilles "
+             "«\u00A0rondes\u00A0»."
+             "\n\uF0B7\t\nCorolle bleue\nCalice vert \uF061\nAlt.\t300–1 900 m\vH2O, 10e jour"},
+        Case{"processor.rtf",
+             "Relevé\nun bois\nune haie\n1.\tpremier\nnom\tdate\nSite example ł fin"},
+        Case{"pictures.rtf", "avant \uFFFC milieu \uFFFC après"},
+        Case{"pages.rtf", "é При čř αβ ış \uF06C Ж"}, Case{"nul_bytes.rtf", " Zoe gras"},
+        Case{"truncated.rtf", "Le début est là, la fin"},
+        Case{"stray_braces.rtf", "Un deux trois\nquatre"},
+        Case{"wild_numbers.rtf", "grand\uFFFD texte"}));
+
+TEST(Samples, DamagedAtRandomStayReadable) {
+  std::mt19937 random(7);
+  for (const auto& entry : std::filesystem::directory_iterator(kSamples)) {
+    if (entry.path().extension() != ".rtf") continue;
+    const std::string whole = Bytes(entry.path());
+    for (int times = 0; times < 60; ++times) {
+      std::string damaged = whole.substr(0, whole.size() - random() % (whole.size() / 4));
+      for (int bytes = times % 8; bytes > 0; --bytes) {
+        damaged[random() % damaged.size()] = "\\{}\0a9' \xE9"[random() % 9];
+      }
+      ReadStably(damaged);
+    }
+  }
+}
+
+/// `piece` until the source is `kLong`.
+std::string Repeated(std::string_view piece) {
+  constexpr std::size_t kLong = 3'000'000;
+  std::string rtf = "{\\rtf1 ";
+  while (rtf.size() < kLong) rtf += piece;
+  return rtf;
+}
+
+// Each of these took time or memory by the square of its length if a group, a list of tabs or a
+// marker were looked at again.
+TEST(Hostile, CostsItsLengthOnly) {
+  const char* const pieces[] = {
+      "{",
+      "}",
+      "{}",
+      "{\\b a",
+      "{\\pict",
+      "{\\pict{",
+      "{\\upr{",
+      "{\\pntext a",
+      "{\\*\\x",
+      "{\\fonttbl{\\f0 A;",
+      "\\tx9",
+      "\\tx9\\par",
+      "\\bin9 ",
+      "\\'z",
+      "\\u233?",
+      "\\cell",
+      "{\\pntext a}b",
+      "{\\tx2 a}",
+      "\\fs9",
+      "\\row\\cell",
+      "\\sect a",
+      "{\\*\\listtable{\\list",
+      "\\uc9\\u1 ",
+  };
+  for (const char* piece : pieces) {
+    const auto start = std::clock();
+    Document document = Read(Repeated(piece));
+    EXPECT_LT(WriteRtf(document).size(), 20'000'000u) << piece;
+    EXPECT_LT(std::clock() - start, 10 * CLOCKS_PER_SEC) << piece;
+  }
+}
+
+TEST(Hostile, DeepGroupsCloseAgain) {
+  const std::string deep(30'000, '{');
+  const std::string rtf = "{\\rtf1 a" + deep + "\\b b" + std::string(30'000, '}') + "c}";
+  EXPECT_EQ(TextOf(Read(rtf)), "abc");
+}
+
+TEST(Hostile, MoreFormatsThanATableHoldsLoseNoText) {
+  std::string rtf = "{\\rtf1 ";
+  for (int size = 1; size <= 1100; ++size) {
+    rtf += "\\fs" + std::to_string(size);
+    for (int space = 0; space < 1000; ++space) rtf += "\\expndtw" + std::to_string(space) + " x";
+  }
+  EXPECT_EQ(Read(rtf).Length(), 1'100'000);
+}
+
+}  // namespace
+}  // namespace lumenote
