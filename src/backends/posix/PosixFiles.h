@@ -1,0 +1,31 @@
+// Files of a POSIX system.
+#pragma once
+#include <utility>
+
+#include "backends/posix/DrivePaths.h"
+#include "platform/Files.h"
+
+namespace lumenote {
+
+class PosixFiles : public Files {
+ public:
+  explicit PosixFiles(DrivePaths drives) : drives_(std::move(drives)) {}
+
+  bool Exists(std::u16string_view path) const override;
+  bool IsReadOnly(std::u16string_view path) const override;
+  FileTime ModificationTime(std::u16string_view path) const override;
+  std::string ReadAll(std::u16string_view path) const override;
+
+  /// Writes through a symbolic link: the link stays, the file behind it is replaced.
+  void Write(std::u16string_view path, std::string_view bytes) override;
+  /// Removes a symbolic link itself.
+  void Delete(std::u16string_view path, bool force) override;
+  void Copy(std::u16string_view from, std::u16string_view to) override;
+  /// Across file systems the file is copied, with mode, owner and time, then removed.
+  void Move(std::u16string_view from, std::u16string_view to) override;
+
+ private:
+  DrivePaths drives_;
+};
+
+}  // namespace lumenote

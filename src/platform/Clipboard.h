@@ -1,0 +1,26 @@
+// The system clipboard as the editor uses it: plain text and RTF.
+#pragma once
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lumenote {
+
+struct ClipboardContent {
+  std::optional<std::u16string> text;
+  std::optional<std::string> rtf;  // RTF source, bytes
+};
+
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+  /// What can be pasted; both empty when the clipboard holds neither.
+  virtual ClipboardContent Get() const = 0;
+  /// Whether `Get` would return anything, without fetching it.
+  virtual bool HasContent() const = 0;
+  /// Replaces whatever the clipboard held.
+  virtual void Set(const ClipboardContent& content) = 0;
+  virtual void Clear() = 0;
+};
+
+}  // namespace lumenote

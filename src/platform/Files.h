@@ -1,0 +1,38 @@
+// Files of the real system, addressed by drive-letter paths.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace lumenote {
+
+/// Nanoseconds since the epoch; full precision of the file system.
+using FileTime = std::int64_t;
+
+/// Every path is a drive-letter path ("C:\notes\a.rtf"), case kept. Failures are run-time errors:
+/// FileNotFound, DiskFull, PermissionDenied, PathAccess, PathNotFound (a missing folder or drive, a
+/// text that is no path). A folder is not a file.
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  /// Whether a file (not a folder) stands there; never fails.
+  virtual bool Exists(std::u16string_view path) const = 0;
+  /// The read-only attribute: the owner's missing write bit on POSIX.
+  virtual bool IsReadOnly(std::u16string_view path) const = 0;
+  virtual FileTime ModificationTime(std::u16string_view path) const = 0;
+  virtual std::string ReadAll(std::u16string_view path) const = 0;
+
+  /// Replaces the file's content at once or not at all: writes beside it, flushes, renames. Keeps
+  /// the mode of the file it replaces; refuses a read-only file (PathAccess).
+  virtual void Write(std::u16string_view path, std::string_view bytes) = 0;
+  /// A read-only file is deleted only with `force` (else PermissionDenied).
+  virtual void Delete(std::u16string_view path, bool force) = 0;
+  /// Copies content and mode; an existing target is overwritten unless read-only
+  /// (PermissionDenied).
+  virtual void Copy(std::u16string_view from, std::u16string_view to) = 0;
+  /// One rename where the file system allows; an existing target is an error (PermissionDenied).
+  virtual void Move(std::u16string_view from, std::u16string_view to) = 0;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,20 @@
+// Drive-letter paths taken apart, as plain text arithmetic.
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace lumenote {
+
+/// Longer than 7 characters and ":\" as second and third: what counts as a path, not a note.
+bool IsDrivePath(std::u16string_view text);
+/// The path minus its last component and the separator before it; a drive root keeps its backslash.
+/// Empty for a text without a backslash.
+std::u16string ParentFolder(std::u16string_view path);
+/// What follows the last backslash; all of a text without one.
+std::u16string FileName(std::u16string_view path);
+/// The file name without its extension, the part from its last point on.
+std::u16string BaseName(std::u16string_view path);
+/// Every doubled backslash made single, in one pass.
+std::u16string FoldBackslashes(std::u16string_view path);
+
+}  // namespace lumenote

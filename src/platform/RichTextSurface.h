@@ -1,0 +1,173 @@
+// The rich-text surface: every operation that windows and procedures may ask of a document box.
+#pragma once
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Position.h"
+#include "document/UndoKind.h"
+
+namespace lumenote {
+
+enum class FileType { Rtf = 0, Text = 1 };
+
+/// Options of `Find`, to be added.
+enum FindOption : int { kFindWholeWord = 2, kFindMatchCase = 4 };
+
+enum class LineSpacingRule {
+  Single = 0,
+  OneAndHalf = 1,
+  Double = 2,
+  AtLeast = 3,
+  Exact = 4,
+  Multiple = 5
+};
+
+/// The paragraph-format record: only the members named by `mask` are read or written.
+struct ParagraphRecord {
+  enum Member : unsigned { kLineSpacing = 0x100, kSpaceBefore = 0x40, kSpaceAfter = 0x80 };
+  unsigned mask = 0;
+  LineSpacingRule lineSpacingRule = LineSpacingRule::Single;
+  std::int32_t lineSpacing = 0;  // twips; twentieths of a line under the rule Multiple
+  std::int32_t spaceBefore = 0;  // twips
+  std::int32_t spaceAfter = 0;   // twips
+};
+
+/// What the text mode switches on: rich text, multi-level undo, multi-code-page text.
+inline constexpr int kTextModeRichMultilevel = 42;
+
+/// Text, formats, selection, undo and clipboard of one box. Accessors come in pairs: without an
+/// argument they read, with one they write. A character or paragraph attribute of the selection
+/// that is mixed reads as an empty optional; on an empty selection the attribute is that of the
+/// text typed next. A position or length beyond the end is clipped, a negative one raises
+/// InvalidPropertyValue (380) and leaves the selection as it is. An assignment that changes nothing
+/// makes no undo step and no notification, but a new whole content always notifies. What the
+/// program assigns is undo kind Unknown; an edit made from inside a notification raises
+/// InvalidArgument (5).
+class RichTextSurface {
+ public:
+  virtual ~RichTextSurface() = default;
+
+  /// The whole content, paragraphs separated by CR LF. Writing it replaces everything, formats
+  /// included, and clears the undo history.
+  virtual std::u16string Text() const = 0;
+  virtual void Text(std::u16string_view text) = 0;
+  /// The whole content as RTF source, one byte a unit. Writing a text that is not RTF loads it as
+  /// plain text.
+  virtual std::u16string TextRTF() const = 0;
+  virtual void TextRTF(std::u16string_view rtf) = 0;
+
+  virtual Position SelStart() const = 0;
+  virtual void SelStart(Position start) = 0;  // leaves an empty selection there
+  virtual Position SelLength() const = 0;
+  virtual void SelLength(Position length) = 0;
+  virtual std::u16string SelText() const = 0;
+  /// The new text takes the format of the first character replaced; the caret ends behind it, with
+  /// nothing selected. A lone CR or LF becomes CR LF.
+  virtual void SelText(std::u16string_view text) = 0;
+  virtual std::u16string SelRTF() const = 0;
+  virtual void SelRTF(std::u16string_view rtf) = 0;
+
+  /// A selection that reaches the end of the document takes in the final mark, so that text typed
+  /// there later looks alike.
+  virtual std::optional<bool> SelBold() const = 0;
+  virtual void SelBold(bool on) = 0;
+  virtual std::optional<bool> SelItalic() const = 0;
+  virtual void SelItalic(bool on) = 0;
+  virtual std::optional<bool> SelUnderline() const = 0;
+  virtual void SelUnderline(bool on) = 0;
+  virtual std::optional<bool> SelStrikeThru() const = 0;
+  virtual void SelStrikeThru(bool on) = 0;
+  virtual std::optional<int> SelCharOffset() const = 0;  // twips, positive above the line
+  virtual void SelCharOffset(int twips) = 0;             // 16 bits, else Overflow (6)
+  virtual std::optional<std::u16string> SelFontName() const = 0;
+  virtual void SelFontName(std::u16string_view name) = 0;  // an empty name changes nothing
+  virtual std::optional<float> SelFontSize() const = 0;    // points, halves kept
+  virtual void SelFontSize(float points) = 0;  // 1 to 1638, else InvalidPropertyValue (380)
+  virtual std::optional<std::int32_t> SelColor() const = 0;  // 0xBBGGRR; automatic reads as black
+  virtual void SelColor(std::int32_t colour) = 0;  // other bits raise InvalidPropertyValue (380)
+
+  /// Of every paragraph that the selection touches; one that ends just before a paragraph's first
+  /// character does not touch it.
+  virtual std::optional<bool> SelBullet() const = 0;
+  virtual void SelBullet(bool on) = 0;
+  virtual std::optional<int> SelAlignment() const = 0;  // 0 left (or justified), 1 right, 2 centre
+  virtual void SelAlignment(int alignment) = 0;         // others raise InvalidPropertyValue (380)
+  virtual std::optional<int> SelIndent() const = 0;     // twips, of the first line
+  virtual void SelIndent(int twips) = 0;
+  virtual std::optional<int> SelRightIndent() const = 0;  // twips
+  virtual void SelRightIndent(int twips) = 0;
+  virtual std::optional<int> SelHangingIndent() const = 0;  // twips, following lines from the first
+  virtual void SelHangingIndent(int twips) = 0;
+  /// The width lines wrap at, in twips from the left edge; 0 wraps at the visible width, a negative
+  /// one raises InvalidPropertyValue (380). No part of the document, nor of undo.
+  virtual float RightMargin() const = 0;
+  virtual void RightMargin(float twips) = 0;
+
+  /// Replaces everything and clears the undo history. A file that is no RTF behind `FileType::Rtf`
+  /// raises InvalidArgument (5); a failure leaves the content as it is.
+  virtual void LoadFile(std::u16string_view path, FileType type) = 0;
+  virtual void SaveFile(std::u16string_view path, FileType type) = 0;
+
+  /// Searches from `start` to the end of the document, selects the match and returns its position;
+  /// -1, with the selection left alone, when there is none or `text` is empty. A negative start
+  /// searches from the beginning.
+  virtual Position Find(std::u16string_view text, Position start, int options) = 0;
+  /// Extends the selection's end (or, backward, its start) over the characters of `set`, with
+  /// `negate` over those outside it. A set that holds CR or LF holds the paragraph break, which is
+  /// passed as one character.
+  virtual void Span(std::u16string_view set, bool forward, bool negate) = 0;
+  /// Moves the caret, selecting nothing, forward to (or backward to just after) the next character
+  /// of `set`, with `negate` the next one outside it; does nothing when there is none.
+  virtual void UpTo(std::u16string_view set, bool forward, bool negate) = 0;
+
+  /// Switches multi-level undo (8) on or off, off at first; the other flags are what this surface
+  /// is anyway. Raises InvalidPropertyValue (380) unless the surface is empty.
+  virtual void TextMode(int mode) = 0;
+  virtual UndoKind UndoType() const = 0;
+  virtual UndoKind RedoType() const = 0;
+  virtual bool CanPaste() const = 0;
+  virtual bool CanUndo() const = 0;
+  virtual bool CanRedo() const = 0;
+  virtual void Undo() = 0;
+  virtual void Redo() = 0;
+  /// What is done between the two is one undo step of kind Unknown; see `EditGroup`.
+  virtual void BeginGroup() = 0;
+  virtual void EndGroup() = 0;
+  virtual void Cut() = 0;
+  virtual void Copy() = 0;
+  virtual void Paste() = 0;
+  /// The user's "&Suppr.": deletes the selection, undo kind Delete.
+  virtual void Clear() = 0;
+
+  /// Lines as laid out on screen, counted from 0.
+  virtual std::int32_t LineFromChar(Position position) const = 0;
+  /// First position of a line; -1 for a line that does not exist.
+  virtual Position LineIndex(std::int32_t line) const = 0;
+  /// Length of the line that holds `position`, without its break.
+  virtual Position LineLength(Position position) const = 0;
+
+  /// Of the selection's first paragraph.
+  virtual ParagraphRecord GetParaFormat(unsigned mask) const = 0;
+  /// On every selected paragraph.
+  virtual void SetParaFormat(const ParagraphRecord& record) = 0;
+
+  /// Called after the content (text or formats) has changed, whoever changed it.
+  virtual void OnChange(std::function<void()> handler) = 0;
+};
+
+/// Makes one undo step of everything that is done while it lives; groups nest.
+class EditGroup {
+ public:
+  explicit EditGroup(RichTextSurface& surface) : surface_(surface) { surface_.BeginGroup(); }
+  ~EditGroup() { surface_.EndGroup(); }
+  EditGroup(const EditGroup&) = delete;
+  EditGroup& operator=(const EditGroup&) = delete;
+
+ private:
+  RichTextSurface& surface_;
+};
+
+}  // namespace lumenote

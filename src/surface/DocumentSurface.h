@@ -1,0 +1,140 @@
+// The rich-text surface over our own document.
+#pragma once
+#include "platform/RichTextSurface.h"
+#include "surface/CaretMotion.h"
+#include "surface/CharacterFormats.h"
+#include "surface/EditingCore.h"
+#include "surface/ParagraphFormats.h"
+#include "surface/SurfaceView.h"
+#include "surface/TextEditing.h"
+#include "surface/Transfer.h"
+#include "surface/UserKeys.h"
+
+namespace lumenote {
+
+/// Implements `RichTextSurface`; adds the user's door (typing, keys, mouse selection, drops), which
+/// gives undo steps their kinds, and what a view needs to paint. Its parts share the document
+/// through `EditingCore`; the members here only say which part does what.
+class DocumentSurface final : public RichTextSurface {
+ public:
+  /// `breaker` lays out lines for the line queries and the vertical caret keys. All three outlive
+  /// the surface.
+  DocumentSurface(Clipboard& clipboard, Files& files, LineBreaker& breaker);
+
+  std::u16string Text() const override;
+  void Text(std::u16string_view text) override { transfer_.Text(text); }
+  std::u16string TextRTF() const override { return transfer_.Rtf(); }
+  void TextRTF(std::u16string_view rtf) override { transfer_.Rtf(rtf); }
+
+  Position SelStart() const override { return core_.Selected().start; }
+  void SelStart(Position start) override;
+  Position SelLength() const override { return core_.Selected().Length(); }
+  void SelLength(Position length) override;
+  std::u16string SelText() const override;
+  void SelText(std::u16string_view text) override;
+  std::u16string SelRTF() const override { return transfer_.SelectedRtf(); }
+  void SelRTF(std::u16string_view rtf) override { transfer_.SelectedRtf(rtf); }
+
+  std::optional<bool> SelBold() const override { return characters_.Effect(kBold); }
+  void SelBold(bool on) override { characters_.Effect(kBold, on); }
+  std::optional<bool> SelItalic() const override { return characters_.Effect(kItalic); }
+  void SelItalic(bool on) override { characters_.Effect(kItalic, on); }
+  std::optional<bool> SelUnderline() const override { return characters_.Underlined(); }
+  void SelUnderline(bool on) override { characters_.Underlined(on); }
+  std::optional<bool> SelStrikeThru() const override { return characters_.Effect(kStrike); }
+  void SelStrikeThru(bool on) override { characters_.Effect(kStrike, on); }
+  std::optional<int> SelCharOffset() const override { return characters_.Offset(); }
+  void SelCharOffset(int twips) override { characters_.Offset(twips); }
+  std::optional<std::u16string> SelFontName() const override { return characters_.FontName(); }
+  void SelFontName(std::u16string_view name) override { characters_.FontName(name); }
+  std::optional<float> SelFontSize() const override { return characters_.FontSize(); }
+  void SelFontSize(float points) override { characters_.FontSize(points); }
+  std::optional<std::int32_t> SelColor() const override { return characters_.TextColour(); }
+  void SelColor(std::int32_t colour) override { characters_.TextColour(colour); }
+
+  std::optional<bool> SelBullet() const override { return paragraphs_.Bullet(); }
+  void SelBullet(bool on) override { paragraphs_.Bullet(UndoKind::Unknown, on); }
+  std::optional<int> SelAlignment() const override { return paragraphs_.AlignmentCode(); }
+  void SelAlignment(int alignment) override { paragraphs_.AlignmentCode(alignment); }
+  std::optional<int> SelIndent() const override;
+  void SelIndent(int twips) override;
+  std::optional<int> SelRightIndent() const override;
+  void SelRightIndent(int twips) override;
+  std::optional<int> SelHangingIndent() const override;
+  void SelHangingIndent(int twips) override;
+  float RightMargin() const override { return rightMargin_; }
+  void RightMargin(float twips) override;
+
+  void LoadFile(std::u16string_view path, FileType type) override { transfer_.Load(path, type); }
+  void SaveFile(std::u16string_view path, FileType type) override { transfer_.Save(path, type); }
+
+  Position Find(std::u16string_view text, Position start, int options) override;
+  void Span(std::u16string_view set, bool forward, bool negate) override;
+  void UpTo(std::u16string_view set, bool forward, bool negate) override;
+
+  void TextMode(int mode) override;
+  UndoKind UndoType() const override { return core_.History().UndoType(); }
+  UndoKind RedoType() const override { return core_.History().RedoType(); }
+  bool CanPaste() const override { return transfer_.CanPaste(); }
+  bool CanUndo() const override { return core_.History().CanUndo(); }
+  bool CanRedo() const override { return core_.History().CanRedo(); }
+  void Undo() override { core_.Undo(); }
+  void Redo() override { core_.Redo(); }
+  void BeginGroup() override { core_.BeginGroup(); }
+  void EndGroup() override { core_.EndGroup(); }
+  void Cut() override { transfer_.Cut(); }
+  void Copy() override { transfer_.Copy(); }
+  void Paste() override { transfer_.Paste(); }
+  void Clear() override { text_.DeleteSelection(UndoKind::Delete); }
+
+  std::int32_t LineFromChar(Position position) const override;
+  Position LineIndex(std::int32_t line) const override;
+  Position LineLength(Position position) const override;
+
+  ParagraphRecord GetParaFormat(unsigned mask) const override { return paragraphs_.Record(mask); }
+  void SetParaFormat(const ParagraphRecord& record) override { paragraphs_.Record(record); }
+
+  void OnChange(std::function<void()> handler) override { core_.OnChange(std::move(handler)); }
+
+  // For a view.
+  const Document& Content() const { return core_.Content(); }
+  LineTable& Lines() { return core_.Lines(); }
+  Position Caret() const { return core_.Caret(); }
+  Position Anchor() const { return core_.Anchor(); }
+  Selection Selected() const { return core_.Selected(); }
+  /// The format that a character typed now would take.
+  CharFormat InsertionFormat() const { return core_.InsertionFormat(); }
+  /// The document's default font.
+  std::u16string BaseFontName() const { return transfer_.BaseFontName(); }
+  /// Not owned; null for none.
+  void View(SurfaceView* view) { core_.View(view); }
+
+  // The user's door.
+  /// Types one character or composed text, replacing the selection; CR LF is the Return key.
+  void UserType(std::u16string_view text);
+  /// Whether the key did something here; the others are the window's to use.
+  bool UserKey(const KeyStroke& key);
+  /// Sets the selection, its moving end at `caret`.
+  void UserSelect(Position anchor, Position caret) { core_.Select(anchor, caret); }
+  /// Moves (or copies) the selected text to `target`, undo kind 3; the dropped text stays selected.
+  void UserDrop(Position target, bool copy) { text_.MoveSelection(target, copy); }
+  /// Drops content from elsewhere at `target`, undo kind 3; it stays selected.
+  void UserDropContent(const ClipboardContent& content, Position target) {
+    transfer_.Drop(content, target);
+  }
+
+ private:
+  void Reveal();
+
+  // Line look-ups fill the line table, which no caller can tell.
+  mutable EditingCore core_;
+  TextEditing text_{core_};
+  CharacterFormats characters_{core_};
+  ParagraphFormats paragraphs_{core_};
+  Transfer transfer_;
+  CaretMotion motion_;
+  UserKeys keys_{core_, motion_, text_, characters_, paragraphs_, transfer_};
+  float rightMargin_ = 0;
+};
+
+}  // namespace lumenote

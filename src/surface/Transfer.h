@@ -1,0 +1,50 @@
+// Content that comes and goes as a whole or through the clipboard: texts, RTF, files.
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "platform/Clipboard.h"
+#include "platform/Files.h"
+#include "platform/RichTextSurface.h"
+#include "surface/EditingCore.h"
+#include "surface/TextEditing.h"
+
+namespace lumenote {
+
+/// Turns foreign content into fragments and back. Behaviour and errors: see `RichTextSurface`.
+class Transfer {
+ public:
+  /// All four outlive this object. The document takes the default format.
+  Transfer(EditingCore& core, TextEditing& text, Clipboard& clipboard, Files& files);
+
+  void Text(std::u16string_view text);
+  std::u16string Rtf() const;
+  void Rtf(std::u16string_view rtf);
+  std::u16string SelectedRtf() const;
+  void SelectedRtf(std::u16string_view rtf);
+
+  void Load(std::u16string_view path, FileType type);
+  void Save(std::u16string_view path, FileType type);
+
+  bool CanPaste() const { return clipboard_.HasContent(); }
+  void Copy();
+  void Cut();
+  void Paste();
+  void Drop(const ClipboardContent& content, Position target);
+
+  /// The font that the content names as its default.
+  std::u16string BaseFontName() const { return baseFontName_; }
+
+ private:
+  void LoadRtf(std::string_view bytes);
+  Fragment FragmentOf(const ClipboardContent& content);
+
+  EditingCore& core_;
+  TextEditing& text_;
+  Clipboard& clipboard_;
+  Files& files_;
+  CharFormat defaultFormat_;
+  std::u16string baseFontName_;
+};
+
+}  // namespace lumenote
