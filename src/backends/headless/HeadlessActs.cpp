@@ -1,0 +1,112 @@
+// Acts as calls of the doors.
+#include "backends/headless/HeadlessActs.h"
+
+#include <algorithm>
+
+#include "base/Strings.h"
+#include "forms/Form.h"
+#include "forms/Menu.h"
+#include "forms/RichTextBox.h"
+#include "surface/DocumentSurface.h"
+
+namespace lumenote {
+namespace {
+
+DocumentSurface& SurfaceOf(RichTextBox& box) {
+  return dynamic_cast<DocumentSurface&>(box.Surface());
+}
+
+/// Length of the key at the start of the text: CR LF and a surrogate pair are one.
+std::size_t KeyLength(std::u16string_view text) {
+  const bool pair = text.starts_with(u"\r\n") ||
+                    (text.size() > 1 && IsHighSurrogate(text[0]) && IsLowSurrogate(text[1]));
+  return pair ? 2 : 1;
+}
+
+/// Whether the key leaves the text as it is: caret keys, select all, copy.
+bool OnlyLooks(const KeyStroke& key) {
+  if (key.name >= KeyName::Left && key.name <= KeyName::PageDown) return true;
+  if (!key.control) return false;
+  return key.name == KeyName::Insert || key.character == u'a' || key.character == u'c';
+}
+
+/// Whether the window is still there; an event may have closed it.
+class StillLoaded {
+ public:
+  explicit StillLoaded(Form& form) : windows_(form.Windows()), form_(&form) {}
+  explicit operator bool() const {
+    const auto& loaded = windows_.Loaded();
+    return std::find(loaded.begin(), loaded.end(), form_) != loaded.end();
+  }
+
+ private:
+  const WindowList& windows_;
+  const Form* form_;
+};
+
+void SelectIn(RichTextBox& box, Position start, Position length) {
+  DocumentSurface& surface = SurfaceOf(box);
+  const Position end = surface.Content().Length();
+  start = std::min(start, end);
+  surface.UserSelect(start, start + std::min(length, end - start));
+}
+
+}  // namespace
+
+void HeadlessActs::Click(Control& control) {
+  const Point middle{control.Width() / 2, control.Height() / 2};
+  Mouse(control, MouseAct::Down, {MouseButton::Left, middle});
+  Mouse(control, MouseAct::Up, {MouseButton::Left, middle});
+}
+
+void HeadlessActs::DoubleClick(Control& control) {
+  const StillLoaded loaded(control.Owner());
+  Click(control);
+  if (loaded) Click(control);
+}
+
+void HeadlessActs::Choose(Menu& entry) { entry.UserClick(); }
+
+void HeadlessActs::Open(Menu& menu) { menu.UserOpen(); }
+
+void HeadlessActs::Type(Control& control, std::u16string_view text) {
+  control.SetFocus();
+  auto* box = dynamic_cast<RichTextBox*>(&control);
+  if (!box || box->Locked()) return;
+  const StillLoaded loaded(box->Owner());
+  const std::u16string keys = WithCrLf(text);
+  for (std::u16string_view rest = keys; !rest.empty() && loaded;) {
+    const std::size_t length = KeyLength(rest);
+    SurfaceOf(*box).UserType(rest.substr(0, length));
+    rest.remove_prefix(length);
+  }
+}
+
+void HeadlessActs::Key(Control& control, const KeyStroke& key) {
+  control.SetFocus();
+  auto* box = dynamic_cast<RichTextBox*>(&control);
+  if (box && (!box->Locked() || OnlyLooks(key))) SurfaceOf(*box).UserKey(key);
+}
+
+void HeadlessActs::Select(RichTextBox& box, Position start, Position length) {
+  box.SetFocus();
+  SelectIn(box, start, length);
+}
+
+void HeadlessActs::Mouse(Control& control, MouseAct act, const MouseEvent& event) {
+  if (act == MouseAct::Down) control.SetFocus();
+  if (act == MouseAct::Up) control.UserMouseUp(event);
+}
+
+void HeadlessActs::Drag(RichTextBox& box, Position start, Position length, Position to) {
+  Select(box, start, length);
+  if (!box.Locked()) SurfaceOf(box).UserDrop(to, false);
+}
+
+void HeadlessActs::Resize(Form& form, float width, float height) { form.UserResize(width, height); }
+
+void HeadlessActs::Activate(Form& form) { form.UserActivate(); }
+
+void HeadlessActs::Close(Form& form) { form.UserClose(); }
+
+}  // namespace lumenote

@@ -1,0 +1,25 @@
+// The user's acts without a window system.
+#pragma once
+#include "base/Position.h"
+#include "forms/UserActs.h"
+
+namespace lumenote {
+
+/// Performs each act through the elements' doors, on windows of a `HeadlessBackend`.
+class HeadlessActs final : public UserActs {
+ public:
+  void Click(Control& control) override;
+  void DoubleClick(Control& control) override;
+  void Choose(Menu& entry) override;
+  void Open(Menu& menu) override;
+  void Type(Control& control, std::u16string_view text) override;
+  void Key(Control& control, const KeyStroke& key) override;
+  void Select(RichTextBox& box, Position start, Position length) override;
+  void Mouse(Control& control, MouseAct act, const MouseEvent& event) override;
+  void Drag(RichTextBox& box, Position start, Position length, Position to) override;
+  void Resize(Form& form, float width, float height) override;
+  void Activate(Form& form) override;
+  void Close(Form& form) override;
+};
+
+}  // namespace lumenote

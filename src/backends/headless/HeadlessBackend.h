@@ -1,0 +1,34 @@
+// A backend without a window system: windows are their state, and nobody sits before them.
+#pragma once
+#include <map>
+#include <memory>
+
+#include "backends/headless/BoxLayout.h"
+#include "forms/Backend.h"
+#include "forms/ManualClock.h"
+
+namespace lumenote {
+
+/// Surfaces are laid out with fixed advances. Message boxes are answered with their default button
+/// at once; popup menus are dismissed. Timers tick only while `Advance` is called. Outlives the
+/// windows.
+class HeadlessBackend final : public Backend {
+ public:
+  std::unique_ptr<FormPeer> Realise(Form& form) override;
+  std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
+                                               Files& files) override;
+  MessageBox::Answer Show(const MessageBox& box, Form* over) override;
+  /// No event can come while the caller waits: raises std::logic_error unless `done` holds already.
+  void RunUntil(const std::function<bool()>& done) override;
+  void Arm(Timer& timer) override { clock_.Arm(timer); }
+  void Disarm(Timer& timer) override { clock_.Disarm(timer); }
+
+  void Advance(int milliseconds) { clock_.Advance(milliseconds); }
+
+ private:
+  ManualClock clock_;
+  /// A box that is gone leaves its layout behind, until another one takes its place.
+  std::map<const RichTextBox*, std::unique_ptr<BoxLayout>> layouts_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,58 @@
+// The public control: a host sets its properties, opens the editor, reads the note back.
+#pragma once
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace lumenote {
+
+class Platform;
+struct Component;
+
+/// Hosts speak drive-letter paths on every system; `ToDrivePath` of the platform makes one of a
+/// native path. Set the descriptive properties, then `pStrOrchm`, call `ShowMicroEdit(1)`, read
+/// `pStrOrchm`. Use it on the user-interface thread only. Errors are `RuntimeError`.
+class CoBxRtf {
+ public:
+  /// `platform` outlives the control.
+  explicit CoBxRtf(Platform& platform);
+  /// Closes the editor as the user would if it is still open.
+  ~CoBxRtf();
+  CoBxRtf(const CoBxRtf&) = delete;
+  CoBxRtf& operator=(const CoBxRtf&) = delete;
+
+  /// Name under which the paragraph styles are kept.
+  void pNomAppli(std::u16string_view name);
+  /// The host program's path; the correction list lies beside it and is created when missing.
+  void pChmAppli(std::u16string_view path);
+  void pTitreFenêtre(std::u16string_view title);
+  void pTitreCadre(std::u16string_view title);
+  /// Background of the window, a decimal number 0xBBGGRR as text.
+  void pCouleurFen(std::u16string_view number);
+  /// Section under which the window's place is kept.
+  void pSScléReg(std::u16string_view section);
+  /// "readonly" or "lectureseule", in any letter case, opens the note read-only.
+  void pAttribut(std::u16string_view access);
+  /// Template handed to an external word processor.
+  void pModelWord(std::u16string_view path);
+
+  /// The note itself, or the path of its file (a drive-letter path longer than 7 characters).
+  void pStrOrchm(std::u16string_view noteOrPath);
+  /// Closes the editor if it is open, which may ask the user whether to save, and returns the note
+  /// or path; empty after the user has deleted the document.
+  std::u16string pStrOrchm();
+
+  /// Opens the editor. With 1 it returns when the editor has closed, the host's events flowing
+  /// meanwhile; otherwise at once. Raises TypeMismatch (13) or Overflow (6) for a colour text that
+  /// is no 32-bit number.
+  void ShowMicroEdit(std::int32_t mode = 0);
+
+  /// The parts behind the control, for tests and scripts.
+  Component& Parts() { return *parts_; }
+
+ private:
+  std::unique_ptr<Component> parts_;
+};
+
+}  // namespace lumenote

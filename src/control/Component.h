@@ -1,0 +1,20 @@
+// What stands behind one control: its session, its windows.
+#pragma once
+#include "control/Session.h"
+#include "editor/Co_Rtf.h"
+#include "forms/Instance.h"
+#include "forms/WindowList.h"
+
+namespace lumenote {
+
+class Platform;
+
+struct Component {
+  explicit Component(Platform& platform);
+
+  Session session;
+  WindowList windows;
+  Instance<Co_Rtf> editor;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,154 @@
+#include "editor/Co_Rtf.h"
+
+#include "control/Session.h"
+#include "editor/DocumentStorage.h"
+#include "editor/EditCommands.h"
+#include "editor/Layout.h"
+#include "editor/SessionLife.h"
+#include "editor/WindowPlace.h"
+#include "forms/Platform.h"
+#include "platform/Settings.h"
+
+namespace lumenote {
+
+Co_Rtf::Co_Rtf(WindowList& windows, Session& session)
+    : Form(windows, "Co_Rtf", {5000, 3250, 5650, 4350}, u"MicroEditeur"), session_(session) {
+  Lb_3Bascules.Add(Fr_Notes, Rect{57, 210, 5262, 45});
+  Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 45});
+  Bx_Règle.Locked(true);
+  Bx_RTF.Change = [this] { Bx_RTF_Change(); };
+  Bx_RTF.MouseUp = [this](const MouseEvent& event) { Bx_RTF_MouseUp(event); };
+  WirePopup();
+  Bar.mnuFmtActBarMenu.Click = [this] { AfficheBarreMenu(3); };
+  DisableEntriesWithoutCommand();
+}
+
+void Co_Rtf::WirePopup() {
+  Pop.mnuPop.Click = [this] { mnuPop_Click(); };
+  Pop.mnuPopCut.Click = [this] { Document().Cut(); };
+  Pop.mnuPopCopy.Click = [this] { Document().Copy(); };
+  Pop.mnuPopPaste.Click = [this] { Document().Paste(); };
+  Pop.mnuPopClear.Click = [this] { Document().Clear(); };
+  Pop.mnuPopUndo.Click = [this] { Document().Undo(); };
+  Pop.mnuPopRedo.Click = [this] { Document().Redo(); };
+  Pop.mnuPopMettreDessus.Click = [this] { mnuPopMettreDessus_Click(); };
+  Pop.mnuPopEnregistrer.Click = [this] { mnuPopEnregistrer_Click(); };
+  Pop.mnuPopSupprDoc.Click = [this] { mnuPopSupprDoc_Click(); };
+  Pop.mnuPopQuitter.Click = [this] { mnuPopQuitter_Click(); };
+}
+
+void Co_Rtf::DisableEntriesWithoutCommand() {
+  for (Element* element : Elements()) {
+    auto* entry = dynamic_cast<Menu*>(element);
+    if (entry && entry->Entries().empty() && !entry->IsSeparator() && !entry->Click)
+      entry->Enabled(false);
+  }
+}
+
+// --- life
+
+void Co_Rtf::Form_Load() {
+  CommencerSession(session_);
+  Document().TextMode(kTextModeRichMultilevel);
+  Timer1.Interval(10);
+  Timer1.Enabled(true);
+  AfficheBarreMenu(2);
+  Bx_Règle.Visible(false);
+  Pop.mnuPopSupprDoc.Visible(session_.fileMode);
+  RetablirDessus();
+}
+
+void Co_Rtf::Form_Activate() {
+  if (!firstActivation_) return;
+  firstActivation_ = false;
+  const Rect place = LireGeometrie(Machine().UserSettings(), session_.settingsKey);
+  IgnoringErrors([&] { Height(place.height); });
+  IgnoringErrors([&] { Width(place.width); });
+  Top(place.top);
+  Left(place.left);
+  Pop.mnuPopEnregistrer.Visible(session_.fileMode);
+  PreparerDocument(*this);
+  session_.loaded = LoadFilAndIni(*this);
+  if (session_.loaded)
+    Bx_RTF.SetFocus();
+  else
+    Unload();
+}
+
+void Co_Rtf::Form_Resize() {
+  Disposer({Fr_Notes, Bx_RTF, Bx_Règle, Lb_Format, {&Lb_3Bascules(0), &Lb_3Bascules(1)}}, Width(),
+           Height(), session_.menuBarShown);
+}
+
+void Co_Rtf::Form_QueryUnload() {
+  if (session_.deleted || !session_.loaded) return;
+  SuspendreDessus();
+  if (TerminerEdition(*this) == Fermeture::Complete)
+    EcrireGeometrie(Machine().UserSettings(), session_.settingsKey, Place());
+  Maj_StrOrChm(*this);
+}
+
+void Co_Rtf::Form_Unload() {
+  Timer1.Enabled(false);
+  CloreSession(session_);
+}
+
+// --- above the other windows
+
+void Co_Rtf::SuspendreDessus() {
+  OnTop(false);
+  Pop.mnuPopMettreDessus.Checked(false);
+  session_.onTop = false;
+}
+
+void Co_Rtf::RetablirDessus() {
+  if (session_.onTop) OnTop(true);
+  Pop.mnuPopMettreDessus.Checked(true);
+  session_.onTop = true;
+}
+
+void Co_Rtf::mnuPopMettreDessus_Click() {
+  session_.onTop = !session_.onTop;
+  Pop.mnuPopMettreDessus.Checked(session_.onTop);
+  OnTop(session_.onTop);
+}
+
+// --- layout
+
+void Co_Rtf::AfficheBarreMenu(int mode) {
+  session_.menuBarShown = mode == 3 ? !session_.menuBarShown : mode == 1;
+  Form_Resize();
+  Bar.Visible(session_.menuBarShown);
+}
+
+// --- document and context menu
+
+void Co_Rtf::Bx_RTF_Change() { session_.dirty = true; }
+
+void Co_Rtf::Bx_RTF_MouseUp(const MouseEvent& event) {
+  if (event.button != MouseButton::Right) return;
+  session_.onTop = Machine().Windows().IsTopmost(*this);
+  Pop.mnuPopMettreDessus.Checked(session_.onTop);
+  PopUp(Pop.mnuPop, Bx_RTF, event.at);
+}
+
+void Co_Rtf::mnuPop_Click() {
+  UpdateItems(Pop, Document());
+  Pop.mnuPopMettreDessus.Checked(session_.onTop);
+}
+
+void Co_Rtf::mnuPopEnregistrer_Click() { EnregistrerNote(*this); }
+
+void Co_Rtf::mnuPopSupprDoc_Click() {
+  if (!SupprimerDocument(*this)) return;
+  Unload();
+  RetablirDessus();
+}
+
+void Co_Rtf::mnuPopQuitter_Click() {
+  SuspendreDessus();
+  Maj_StrOrChm(*this);
+  Unload();
+}
+
+}  // namespace lumenote

@@ -1,0 +1,69 @@
+// The editor window: its controls, and handlers that forward to the procedures.
+#pragma once
+#include "editor/ContextMenu.h"
+#include "editor/EditorWindow.h"
+#include "editor/MenuBar.h"
+#include "forms/ControlArray.h"
+#include "forms/Form.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+#include "forms/RichTextBox.h"
+#include "forms/StatusBar.h"
+#include "forms/Timer.h"
+
+namespace lumenote {
+
+struct Session;
+
+class Co_Rtf : public Form, public EditorWindow {
+ public:
+  /// `session` and `windows` outlive the window.
+  Co_Rtf(WindowList& windows, Session& session);
+
+  Frame Fr_Notes{*this, "Fr_Notes", {80, 84, 5376, 3560}};
+  Label Lb_Format{Fr_Notes, "Lb_Format", {3573, 0, 1700, 195}};
+  ControlArray<Label> Lb_3Bascules{"Lb_3Bascules"};
+  RichTextBox Bx_RTF{Fr_Notes, "Bx_RTF", {30, 270, 5316, 3230}};
+  RichTextBox Bx_Règle{Fr_Notes, "Bx_Règle", {30, 15, 5450, 255}};
+  StatusBar Bar_Etat{*this, "Bar_Etat", 2};
+  Timer Timer1{*this, "Timer1"};
+  ContextMenu Pop{*this};
+  MenuBar Bar{*this};
+
+  // EditorWindow
+  RichTextSurface& Document() override { return Bx_RTF.Surface(); }
+  Session& Values() override { return session_; }
+  Platform& Services() override { return Machine(); }
+  void SuspendreDessus() override;
+  void RetablirDessus() override;
+  MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
+  void ShowStatus(int panel, std::u16string_view text) override { Bar_Etat.Panel(panel, text); }
+  std::u16string Status(int panel) const override { return Bar_Etat.Panel(panel); }
+  void ShowFormat(std::u16string_view text) override { Lb_Format.Caption(text); }
+
+  /// Mode 1 shows the menu bar, 2 hides it, 3 toggles it; then the layout follows.
+  void AfficheBarreMenu(int mode);
+
+ private:
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Resize() override;
+  void Form_QueryUnload() override;
+  void Form_Unload() override;
+
+  void WirePopup();
+  void DisableEntriesWithoutCommand();
+
+  void Bx_RTF_Change();
+  void Bx_RTF_MouseUp(const MouseEvent& event);
+  void mnuPop_Click();
+  void mnuPopMettreDessus_Click();
+  void mnuPopEnregistrer_Click();
+  void mnuPopSupprDoc_Click();
+  void mnuPopQuitter_Click();
+
+  Session& session_;
+  bool firstActivation_ = true;
+};
+
+}  // namespace lumenote

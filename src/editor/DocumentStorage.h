@@ -1,0 +1,52 @@
+// The note's file: creating, naming, loading, saving and deleting it.
+#pragma once
+#include <string>
+#include <string_view>
+
+#include "editor/EditorWindow.h"
+
+namespace lumenote {
+
+class Files;
+class Folders;
+
+/// The temporary folder without its trailing backslash.
+std::u16string CheminTemp(const Folders& folders);
+/// Temporary folder, "\TmpFl", prefix, ".", extension.
+std::u16string NomFichTemp(const Folders& folders, std::u16string_view prefix,
+                           std::u16string_view extension);
+/// Writes the note as it stands, in code page 1252, without a line end of its own.
+void EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
+/// Writes the empty RTF document.
+void CreFVideRtf(Files& files, std::u16string_view path);
+/// The path with its last three characters replaced by `extension`; empty when it is shorter.
+std::u16string ChmExts(std::u16string_view path, std::u16string_view extension);
+/// The path between three blanks on each side, as the status bar shows it.
+std::u16string EspDvtDer(std::u16string_view path);
+/// The lower-cased last three characters of a path.
+std::u16string FormatDe(std::u16string_view path);
+/// Whether a note is RTF source: it begins with "{\rtf" in any letter case.
+bool EstNoteRtf(std::u16string_view note);
+
+/// The content of the document in the form that the host gets: plain for "txt", else RTF.
+std::u16string ContenuNote(EditorWindow& editor);
+
+/// Loads the document path into the surface and sets status, format and label. A failure is told to
+/// the user and returned as false.
+bool LoadFilAndIni(EditorWindow& editor);
+
+enum class Sauvegarde { Inutile, Refusee, Faite, Impossible };
+/// Saves a dirty document, after a question when `ask`, and deletes its stale twin. A failure
+/// leaves the old file whole and the document dirty, and stands in the second status panel.
+Sauvegarde SauveFich(EditorWindow& editor, bool ask);
+/// String mode: copies the content into the note, for the formats "txt" and "rtf".
+void Maj_StrOrChm(EditorWindow& editor);
+/// Saves without asking and updates the note.
+void EnregistrerNote(EditorWindow& editor);
+/// Asks, deletes the document and empties the note; whether the window is to be closed.
+bool SupprimerDocument(EditorWindow& editor);
+/// Keeps the content in the personal documents folder, as "Secours_" and the file name, beside any
+/// earlier copy of that name.
+void CopieDeSecours(EditorWindow& editor);
+
+}  // namespace lumenote

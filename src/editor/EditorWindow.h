@@ -1,0 +1,41 @@
+// What dialogs and procedures need of the editor window.
+#pragma once
+#include <string_view>
+
+#include "forms/MessageBox.h"
+#include "platform/RichTextSurface.h"
+
+namespace lumenote {
+
+class Platform;
+struct Session;
+
+class EditorWindow {
+ public:
+  virtual ~EditorWindow() = default;
+  /// The surface of the note.
+  virtual RichTextSurface& Document() = 0;
+  virtual Session& Values() = 0;
+  virtual Platform& Services() = 0;
+
+  /// Drops the always-on-top state before a box, a dialog or a program comes up.
+  virtual void SuspendreDessus() = 0;
+  /// Its counterpart: sets flag and check mark, the state itself only when the flag still stands.
+  virtual void RetablirDessus() = 0;
+  virtual MessageBox::Answer Ask(const MessageBox& box) = 0;
+  /// A message box between `SuspendreDessus` and `RetablirDessus`.
+  MessageBox::Answer AskOver(const MessageBox& box) {
+    SuspendreDessus();
+    const MessageBox::Answer answer = Ask(box);
+    RetablirDessus();
+    return answer;
+  }
+
+  /// Text of a status panel, counted from 1.
+  virtual void ShowStatus(int panel, std::u16string_view text) = 0;
+  virtual std::u16string Status(int panel) const = 0;
+  /// Text of the label `Lb_Format`.
+  virtual void ShowFormat(std::u16string_view text) = 0;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,117 @@
+#include "editor/SessionLife.h"
+
+#include "base/RuntimeError.h"
+#include "control/Session.h"
+#include "editor/DocumentStorage.h"
+#include "forms/Platform.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+
+namespace lumenote {
+
+namespace {
+
+void PrepareFile(EditorWindow& editor) {
+  Session& session = editor.Values();
+  Files& files = editor.Services().FileSystem();
+  session.format = FormatDe(session.documentPath);
+  if (!files.Exists(session.documentPath)) {
+    if (session.format == u"txt")
+      IgnoringErrors([&] { files.Write(session.documentPath, ""); });
+    else if (session.format == u"rtf")
+      IgnoringErrors([&] { CreFVideRtf(files, session.documentPath); });
+  }
+  IgnoringErrors([&] { session.readOnly = files.IsReadOnly(session.documentPath); });
+}
+
+void PrepareString(EditorWindow& editor) {
+  Session& session = editor.Values();
+  Files& files = editor.Services().FileSystem();
+  const Folders& folders = editor.Services().SpecialFolders();
+  const std::u16string leftOver = NomFichTemp(folders, u"Str", u"rtf");
+  if (files.Exists(leftOver)) IgnoringErrors([&] { files.Delete(leftOver, false); });
+  session.documentPath = NomFichTemp(folders, u"Str", EstNoteRtf(session.note) ? u"rtf" : u"txt");
+  IgnoringErrors([&] { EcritNoteTemp(files, session.documentPath, session.note); });
+}
+
+/// A note kept as x.txt never leaves a stale x.rtf beside it, nor the reverse.
+void DeleteStaleTwin(EditorWindow& editor) {
+  const Session& session = editor.Values();
+  Files& files = editor.Services().FileSystem();
+  const std::u16string text = ChmExts(session.documentPath, u"txt");
+  const std::u16string rtf = ChmExts(session.documentPath, u"rtf");
+  if (session.format == u"txt" && files.Exists(text))
+    IgnoringErrors([&] { files.Delete(rtf, false); });
+  else if (files.Exists(rtf))
+    IgnoringErrors([&] { files.Delete(text, false); });
+}
+
+Fermeture CloseFile(EditorWindow& editor) {
+  Session& session = editor.Values();
+  const Sauvegarde outcome = SauveFich(editor, true);
+  if (!session.noteReplaced) session.note = session.documentPath;
+  if (outcome == Sauvegarde::Impossible)
+    CopieDeSecours(editor);
+  else
+    DeleteStaleTwin(editor);
+  return Fermeture::Complete;
+}
+
+Fermeture CloseString(EditorWindow& editor) {
+  Session& session = editor.Values();
+  if (!session.dirty) return Fermeture::Complete;
+  if (session.noteReplaced) CopieDeSecours(editor);
+  if (editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
+                      .buttons = MessageBox::Buttons::YesNo,
+                      .icon = MessageBox::Icon::Question}) != MessageBox::Answer::Yes)
+    return Fermeture::SansGeometrie;
+  if (!session.noteReplaced) session.note = ContenuNote(editor);
+  return Fermeture::Complete;
+}
+
+}  // namespace
+
+void CommencerSession(Session& session) {
+  session.deleted = false;
+  session.loaded = false;
+  session.format.clear();
+  session.dirty = false;
+  session.onTop = false;
+  session.menuBarShown = false;
+}
+
+void PreparerDocument(EditorWindow& editor) {
+  if (editor.Values().fileMode)
+    PrepareFile(editor);
+  else
+    PrepareString(editor);
+}
+
+Fermeture TerminerEdition(EditorWindow& editor) {
+  const Session& session = editor.Values();
+  if (session.readOnly && session.dirty) {
+    if (!session.fileMode && session.noteReplaced) CopieDeSecours(editor);
+    editor.AskOver({.text = u"Attribut 'Lecture Seule'\r\nAbandon des modifications",
+                    .title = u"Attention",
+                    .icon = MessageBox::Icon::Exclamation});
+    return Fermeture::SansGeometrie;
+  }
+  return session.fileMode ? CloseFile(editor) : CloseString(editor);
+}
+
+void CloreSession(Session& session) {
+  session.closed = true;
+  if (!session.noteReplaced) return;
+  session.noteReplaced = false;
+  PrendreNote(session, session.note);
+}
+
+void PrendreNote(Session& session, std::u16string_view noteOrPath) {
+  const std::u16string value(noteOrPath);
+  session.note = value;
+  session.deleted = false;
+  session.fileMode = IsDrivePath(value);
+  session.documentPath = session.fileMode ? value : std::u16string();
+}
+
+}  // namespace lumenote

@@ -1,0 +1,24 @@
+// The life of an editing session: preparing the note's file, deciding what closing does.
+#pragma once
+#include <string_view>
+
+#include "editor/EditorWindow.h"
+
+namespace lumenote {
+
+/// Forgets what the editor before left in the session's values.
+void CommencerSession(Session& session);
+/// File mode: creates a missing "txt" or "rtf" file and reads the read-only attribute. String
+/// mode: writes the note to its temporary file, which becomes the document path.
+void PreparerDocument(EditorWindow& editor);
+
+enum class Fermeture { Complete, SansGeometrie };
+/// The closing decision: refuses the changes of a read-only note, asks whether to save, deletes the
+/// twin of the note's file. Says whether the geometry is to be stored.
+Fermeture TerminerEdition(EditorWindow& editor);
+/// Takes a note that the host wrote while the editor was open for the next opening.
+void CloreSession(Session& session);
+/// The host's note or path, and the mode that it means.
+void PrendreNote(Session& session, std::u16string_view noteOrPath);
+
+}  // namespace lumenote

@@ -1,0 +1,75 @@
+#include "forms/Control.h"
+
+#include "base/RuntimeError.h"
+#include "forms/Form.h"
+
+namespace lumenote {
+
+Control::Control(Container& container, std::string name, Rect place)
+    : Element(container.ContainingForm(), std::move(name)), container_(container), place_(place) {
+  Enlist();
+  container_.controls_.push_back(this);
+}
+
+Control::~Control() = default;
+
+void Control::Place(Rect place) {
+  if (place.width < 0 || place.height < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+  if (place == place_) return;
+  place_ = place;
+  Changed(Property::Geometry);
+}
+
+void Control::Left(float twips) { Place({twips, place_.top, place_.width, place_.height}); }
+
+void Control::Top(float twips) { Place({place_.left, twips, place_.width, place_.height}); }
+
+void Control::Width(float twips) { Place({place_.left, place_.top, twips, place_.height}); }
+
+void Control::Height(float twips) { Place({place_.left, place_.top, place_.width, twips}); }
+
+void Control::Visible(bool on) {
+  if (on == visible_) return;
+  visible_ = on;
+  Changed(Property::Visible);
+}
+
+void Control::Enabled(bool on) {
+  if (on == enabled_) return;
+  enabled_ = on;
+  Changed(Property::Enabled);
+}
+
+void Control::SetFocus() {
+  if (!TakesFocus()) return;
+  Owner().ActiveControl(this);
+  if (FormPeer* peer = Owner().Peer()) peer->Focus(*this);
+}
+
+void Control::UserMouseUp(const MouseEvent& event) {
+  if (!MouseUp) return;
+  Owner().Raise([&] { MouseUp(event); });
+}
+
+void Control::Describe(MemberTable& members) {
+  Element::Describe(members);
+  const auto length = [&](std::string_view name, auto get, auto set) {
+    members.Add(
+        name, [this, get] { return Value((this->*get)()); },
+        [this, set](const Value& value) { (this->*set)(static_cast<float>(NumberOf(value))); });
+  };
+  using Get = float (Control::*)() const;
+  using Set = void (Control::*)(float);
+  length("Left", Get(&Control::Left), Set(&Control::Left));
+  length("Top", Get(&Control::Top), Set(&Control::Top));
+  length("Width", Get(&Control::Width), Set(&Control::Width));
+  length("Height", Get(&Control::Height), Set(&Control::Height));
+  members.Add(
+      "Visible", [this] { return Value(Visible()); },
+      [this](const Value& value) { Visible(BooleanOf(value)); });
+  members.Add(
+      "Enabled", [this] { return Value(Enabled()); },
+      [this](const Value& value) { Enabled(BooleanOf(value)); });
+}
+
+}  // namespace lumenote

@@ -1,0 +1,81 @@
+// Controls: the parts of a window that have a place on it.
+#pragma once
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/Element.h"
+#include "forms/Geometry.h"
+
+namespace lumenote {
+
+class Control;
+
+/// A form or a frame: what controls are placed on. Places are relative to its inner corner.
+class Container {
+ public:
+  virtual ~Container() = default;
+  virtual Form& ContainingForm() = 0;
+  const std::vector<Control*>& Controls() const { return controls_; }
+
+ private:
+  friend class Control;
+  std::vector<Control*> controls_;  // in tab order
+};
+
+/// Buttons of a mouse event.
+enum class MouseButton { None = 0, Left = 1, Right = 2, Middle = 4 };
+
+/// A mouse event over a control; the point is relative to the control's corner, in twips.
+struct MouseEvent {
+  MouseButton button = MouseButton::None;
+  Point at;
+};
+
+/// A control with its place, visibility and enabled state. Assigning what already stands is silent.
+class Control : public Element {
+ public:
+  Control(Container& container, std::string name, Rect place);
+  ~Control() override;
+
+  Container& Parent() const { return container_; }
+
+  const Rect& Place() const { return place_; }
+  float Left() const { return place_.left; }
+  void Left(float twips);
+  float Top() const { return place_.top; }
+  void Top(float twips);
+  /// A negative width or height raises InvalidPropertyValue (380) and changes nothing.
+  float Width() const { return place_.width; }
+  void Width(float twips);
+  float Height() const { return place_.height; }
+  void Height(float twips);
+
+  bool Visible() const { return visible_; }
+  void Visible(bool on);
+  bool Enabled() const { return enabled_; }
+  void Enabled(bool on);
+
+  /// Whether the keyboard can reach the control.
+  virtual bool TakesFocus() const { return false; }
+  /// Gives the control the keyboard; one that takes none is left alone.
+  void SetFocus();
+
+  /// Events, wired by the form.
+  std::function<void(const MouseEvent&)> MouseUp;
+
+  /// The user's door: a mouse act, as the peer reports it.
+  virtual void UserMouseUp(const MouseEvent& event);
+
+  void Describe(MemberTable& members) override;
+
+ private:
+  void Place(Rect place);
+
+  Container& container_;
+  Rect place_;
+  bool visible_ = true;
+  bool enabled_ = true;
+};
+
+}  // namespace lumenote

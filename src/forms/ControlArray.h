@@ -1,0 +1,39 @@
+// Controls of one name told apart by an index.
+#pragma once
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/RuntimeError.h"
+#include "forms/Control.h"
+
+namespace lumenote {
+
+/// Elements 0 to size - 1, each named with its index in parentheses.
+template <class C>
+class ControlArray {
+ public:
+  explicit ControlArray(std::string name) : name_(std::move(name)) {}
+
+  /// Appends the next element, made with these arguments behind its name.
+  template <class... Arguments>
+  C& Add(Container& container, Arguments&&... arguments) {
+    std::string name = name_ + "(" + std::to_string(controls_.size()) + ")";
+    controls_.push_back(
+        std::make_unique<C>(container, std::move(name), std::forward<Arguments>(arguments)...));
+    return *controls_.back();
+  }
+
+  int Count() const { return static_cast<int>(controls_.size()); }
+  /// Raises NoSuchElement (340) for an index that is not there.
+  C& operator()(int index) const {
+    if (index < 0 || index >= Count()) throw RuntimeError(ErrorNumber::NoSuchElement);
+    return *controls_[static_cast<std::size_t>(index)];
+  }
+
+ private:
+  std::string name_;
+  std::vector<std::unique_ptr<C>> controls_;
+};
+
+}  // namespace lumenote

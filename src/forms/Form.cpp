@@ -1,0 +1,215 @@
+#include "forms/Form.h"
+
+#include <algorithm>
+
+#include "base/Strings.h"
+#include "forms/Menu.h"
+#include "forms/Platform.h"
+#include "forms/Timer.h"
+
+namespace lumenote {
+
+/// While one stands, the form is in use by an event and is not destroyed.
+class Form::Scope {
+ public:
+  explicit Scope(Form& form) : form_(form) { ++form_.depth_; }
+  ~Scope() {
+    if (--form_.depth_ > 0 || !form_.unloaded_ || !form_.Released) return;
+    const auto released = std::move(form_.Released);
+    released();
+  }
+  Scope(const Scope&) = delete;
+  Scope& operator=(const Scope&) = delete;
+
+ private:
+  Form& form_;
+};
+
+Form::Form(WindowList& windows, std::string name, Rect place, std::u16string caption)
+    : Element(*this, std::move(name)),
+      windows_(windows),
+      caption_(std::move(caption)),
+      place_(place) {}
+
+Form::~Form() { windows_.Leave(*this); }
+
+void Form::Caption(std::u16string_view text) {
+  if (text == caption_) return;
+  caption_ = text;
+  Changed(Property::Caption);
+}
+
+void Form::BackColor(std::int32_t colour) {
+  if (colour == backColor_) return;
+  backColor_ = colour;
+  Changed(Property::BackColor);
+}
+
+void Form::OnTop(bool on) {
+  if (on == onTop_) return;
+  onTop_ = on;
+  Changed(Property::OnTop);
+}
+
+// --- place
+
+void Form::Place(Rect place) {
+  if (place.width < 0 || place.height < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+  if (place == place_) return;
+  const bool resized = place.width != place_.width || place.height != place_.height;
+  place_ = place;
+  Changed(Property::Geometry);
+  if (resized) Raise([this] { Form_Resize(); });
+}
+
+void Form::Left(float twips) { Place({twips, place_.top, place_.width, place_.height}); }
+
+void Form::Top(float twips) { Place({place_.left, twips, place_.width, place_.height}); }
+
+void Form::Width(float twips) { Place({place_.left, place_.top, twips, place_.height}); }
+
+void Form::Height(float twips) { Place({place_.left, place_.top, place_.width, twips}); }
+
+void Form::UserResize(float width, float height) {
+  place_.width = width;
+  place_.height = height;
+  Raise([this] { Form_Resize(); });
+}
+
+void Form::UserMove(float left, float top) {
+  place_.left = left;
+  place_.top = top;
+}
+
+// --- life
+
+void Form::Load() {
+  if (loaded_) return;
+  loaded_ = true;
+  unloaded_ = false;
+  windows_.Enter(*this);
+  peer_ = Machine().Windows().Realise(*this);
+  RearmTimers();
+  Raise([this] { Form_Load(); });
+}
+
+void Form::RearmTimers() {
+  for (Timer* timer : timers_) timer->Rearm();
+}
+
+void Form::Show(Form* owner) {
+  const Scope scope(*this);
+  Load();
+  ownerWindow_ = owner;
+  if (!visible_) {
+    visible_ = true;
+    Changed(Property::Visible);
+    Raise([this] { Form_Resize(); });
+  }
+  if (peer_) peer_->Activate();
+  if (loaded_) UserActivate();
+}
+
+void Form::ShowModal() {
+  const Scope scope(*this);
+  modal_ = true;
+  Show();
+  Machine().Windows().RunUntil([this] { return !visible_; });
+  modal_ = false;
+}
+
+void Form::Hide() {
+  if (!visible_) return;
+  visible_ = false;
+  Changed(Property::Visible);
+  if (Form* next = windows_.Deactivate(*this)) next->UserActivate();
+}
+
+void Form::UserActivate() {
+  if (!windows_.Activate(*this)) return;
+  Raise([this] { Form_Activate(); });
+}
+
+void Form::Unload() {
+  if (!loaded_ || unloading_) return;
+  const Scope scope(*this);
+  unloading_ = true;
+  Raise([this] { Form_QueryUnload(); });
+  Raise([this] { Form_Unload(); });
+  unloading_ = false;
+  loaded_ = false;
+  visible_ = false;
+  unloaded_ = true;
+  RearmTimers();
+  peer_.reset();
+  Form* next = windows_.Deactivate(*this);
+  windows_.Leave(*this);
+  if (next) next->UserActivate();
+}
+
+// --- events
+
+void Form::Raise(const std::function<void()>& event) {
+  const Scope scope(*this);
+  try {
+    event();
+  } catch (const RuntimeError& error) {
+    Machine().Windows().EventFailed(error, this);
+  }
+}
+
+MessageBox::Answer Form::Ask(const MessageBox& box) { return Machine().Windows().Show(box, this); }
+
+void Form::PopUp(Menu& menu, Control& control, Point at) {
+  const Scope scope(*this);
+  menu.UserOpen();
+  if (!peer_) return;
+  for (Control* inner = &control; inner; inner = dynamic_cast<Control*>(&inner->Parent())) {
+    at.x += inner->Left();
+    at.y += inner->Top();
+  }
+  peer_->PopUp(menu, at);
+}
+
+// --- parts
+
+Element* Form::Find(std::string_view name) {
+  const auto found = std::find_if(elements_.begin(), elements_.end(),
+                                  [&](const Element* element) { return element->Name() == name; });
+  return found == elements_.end() ? nullptr : *found;
+}
+
+bool Form::HasMenuBar() const {
+  return std::any_of(menus_.begin(), menus_.end(),
+                     [](const Menu* menu) { return menu->Visible(); });
+}
+
+void Form::Describe(MemberTable& members) {
+  Element::Describe(members);
+  members.Add(
+      "Caption", [this] { return Value(Caption()); },
+      [this](const Value& value) { Caption(TextOf(value)); });
+  const auto length = [&](std::string_view name, float Rect::*side) {
+    members.Add(
+        name, [this, side] { return Value(place_.*side); },
+        [this, side](const Value& value) {
+          Rect place = place_;
+          place.*side = static_cast<float>(NumberOf(value));
+          Place(place);
+        });
+  };
+  length("Left", &Rect::left);
+  length("Top", &Rect::top);
+  length("Width", &Rect::width);
+  length("Height", &Rect::height);
+  members.Add("Visible", [this] { return Value(Visible()); });
+  members.Add("TopMost", [this] { return Value(OnTop()); });
+  members.Add("ActiveControl", [this] {
+    return activeControl_ ? Value(FromUtf8(activeControl_->Name())) : Value();
+  });
+  members.Add(
+      "BackColor", [this] { return Value(BackColor()); },
+      [this](const Value& value) { BackColor(static_cast<std::int32_t>(NumberOf(value))); });
+}
+
+}  // namespace lumenote

@@ -1,0 +1,137 @@
+// A window without a toolkit: its state, its controls, its life.
+#pragma once
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/RuntimeError.h"
+#include "forms/Backend.h"
+#include "forms/Control.h"
+#include "forms/WindowList.h"
+
+namespace lumenote {
+
+class Timer;
+
+/// A window class derives from it and has its controls as members. Made unloaded; `Load` realises
+/// it, `Unload` takes it down and asks its keeper to destroy it, which waits until the form's own
+/// events have returned. State lives here; the peer only mirrors it.
+class Form : public Element, public Container {
+ public:
+  /// Places in twips of the screen, outer size with nominal decorations of 8 by 27 pixels (15 twips
+  /// each).
+  Form(WindowList& windows, std::string name, Rect place, std::u16string caption);
+  ~Form() override;
+
+  Form& ContainingForm() override { return *this; }
+  WindowList& Windows() const { return windows_; }
+  Platform& Machine() const { return windows_.Machine(); }
+
+  const std::u16string& Caption() const { return caption_; }
+  void Caption(std::u16string_view text);
+  /// 0xBBGGRR, or -1 for the desktop's own colour.
+  std::int32_t BackColor() const { return backColor_; }
+  void BackColor(std::int32_t colour);
+
+  const Rect& Place() const { return place_; }
+  float Left() const { return place_.left; }
+  void Left(float twips);
+  float Top() const { return place_.top; }
+  void Top(float twips);
+  /// Changing width or height raises Resize. Negative sizes raise InvalidPropertyValue (380).
+  float Width() const { return place_.width; }
+  void Width(float twips);
+  float Height() const { return place_.height; }
+  void Height(float twips);
+
+  bool Visible() const { return visible_; }
+  /// Above all other windows; set on the native window in place.
+  bool OnTop() const { return onTop_; }
+  void OnTop(bool on);
+
+  /// Raises Load once; the window exists, hidden.
+  void Load();
+  bool IsLoaded() const { return loaded_; }
+  /// Loads when needed, shows and activates. An owned window stays above `owner`.
+  void Show(Form* owner = nullptr);
+  /// Shows and returns when the window has been unloaded; the other windows are locked meanwhile.
+  void ShowModal();
+  bool IsModal() const { return modal_; }
+  Form* OwnerWindow() const { return ownerWindow_; }
+  void Hide();
+  /// Raises QueryUnload and Unload at once, then leaves the list of windows. A form that is not
+  /// loaded, or is unloading already, is left alone.
+  void Unload();
+
+  Control* ActiveControl() const { return activeControl_; }
+  /// The control that has the keyboard while the window is active, as the peer reports it.
+  void ActiveControl(Control* control) { activeControl_ = control; }
+
+  /// Runs an event: an error that reaches its edge is shown, the form outlives it.
+  void Raise(const std::function<void()>& event);
+
+  /// Shows a box over this window and returns the answer.
+  MessageBox::Answer Ask(const MessageBox& box);
+  /// Pops the menu up at a point of `control`, after its opening event.
+  void PopUp(Menu& menu, Control& control, Point at);
+
+  /// An element by name; null when there is none. An index in parentheses belongs to the name.
+  Element* Find(std::string_view name);
+  /// Every part of the window, in the order of declaration.
+  const std::vector<Element*>& Elements() const { return elements_; }
+  const std::vector<Menu*>& Menus() const { return menus_; }
+  /// Whether any top-level menu is visible: then a menu bar of 300 twips stands above the content.
+  bool HasMenuBar() const;
+
+  /// The user's door, as the peer reports it.
+  void UserResize(float width, float height);
+  void UserMove(float left, float top);
+  /// The window has become the active one of this control; raises Activate if it was not.
+  void UserActivate();
+  void UserClose() { Unload(); }
+
+  /// Called when the form may be destroyed; set by the keeper.
+  std::function<void()> Released;
+
+  FormPeer* Peer() const { return peer_.get(); }
+  void Describe(MemberTable& members) override;
+
+ protected:
+  /// Life events, overridden by the windows.
+  virtual void Form_Load() {}
+  virtual void Form_Activate() {}
+  virtual void Form_Resize() {}
+  virtual void Form_QueryUnload() {}
+  virtual void Form_Unload() {}
+
+ private:
+  friend class Element;
+  friend class Menu;
+  friend class Timer;
+  class Scope;  // an event on this form's stack
+
+  void Place(Rect place);
+  void RearmTimers();
+
+  WindowList& windows_;
+  std::unique_ptr<FormPeer> peer_;
+  std::vector<Element*> elements_;
+  std::vector<Menu*> menus_;
+  std::vector<Timer*> timers_;
+  std::u16string caption_;
+  Rect place_;
+  std::int32_t backColor_ = -1;
+  Form* ownerWindow_ = nullptr;
+  Control* activeControl_ = nullptr;
+  int depth_ = 0;
+  bool visible_ = false;
+  bool onTop_ = false;
+  bool loaded_ = false;
+  bool unloading_ = false;
+  bool unloaded_ = false;
+  bool modal_ = false;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,15 @@
+// A titled box around other controls.
+#pragma once
+#include "forms/CaptionedControl.h"
+
+namespace lumenote {
+
+class Frame : public CaptionedControl, public Container {
+ public:
+  Frame(Container& container, std::string name, Rect place, std::u16string caption = {})
+      : CaptionedControl(container, std::move(name), place, std::move(caption)) {}
+
+  Form& ContainingForm() override { return Owner(); }
+};
+
+}  // namespace lumenote

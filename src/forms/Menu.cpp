@@ -1,0 +1,73 @@
+#include "forms/Menu.h"
+
+#include "base/Strings.h"
+#include "forms/Form.h"
+
+namespace lumenote {
+
+Menu::Menu(Form& form, std::string name, std::u16string caption, bool visible)
+    : Element(form, std::move(name)), caption_(std::move(caption)), visible_(visible) {
+  Enlist();
+  form.menus_.push_back(this);
+}
+
+Menu::Menu(Menu& parent, std::string name, std::u16string caption)
+    : Element(parent.Owner(), std::move(name)), caption_(std::move(caption)) {
+  Enlist();
+  parent.entries_.push_back(this);
+}
+
+void Menu::Caption(std::u16string_view text) {
+  if (text == caption_) return;
+  caption_ = text;
+  Changed(Property::Caption);
+}
+
+void Menu::Visible(bool on) {
+  if (on == visible_) return;
+  visible_ = on;
+  Changed(Property::Visible);
+}
+
+void Menu::Enabled(bool on) {
+  if (on == enabled_) return;
+  enabled_ = on;
+  Changed(Property::Enabled);
+}
+
+void Menu::Checked(bool on) {
+  if (on == checked_) return;
+  checked_ = on;
+  Changed(Property::Checked);
+}
+
+void Menu::UserClick() {
+  if (enabled_ && visible_) UserOpen();
+}
+
+void Menu::UserOpen() {
+  if (Click) Owner().Raise(Click);
+}
+
+void Menu::Describe(MemberTable& members) {
+  Element::Describe(members);
+  members.Add(
+      "Caption", [this] { return Value(Caption()); },
+      [this](const Value& value) { Caption(TextOf(value)); });
+  members.Add(
+      "Visible", [this] { return Value(Visible()); },
+      [this](const Value& value) { Visible(BooleanOf(value)); });
+  members.Add(
+      "Enabled", [this] { return Value(Enabled()); },
+      [this](const Value& value) { Enabled(BooleanOf(value)); });
+  members.Add(
+      "Checked", [this] { return Value(Checked()); },
+      [this](const Value& value) { Checked(BooleanOf(value)); });
+  members.Add("List", [this] {
+    Value::Array names;
+    for (const Menu* entry : entries_) names.emplace_back(FromUtf8(entry->Name()));
+    return Value(std::move(names));
+  });
+}
+
+}  // namespace lumenote

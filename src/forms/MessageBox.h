@@ -1,0 +1,19 @@
+// A message box and its answer.
+#pragma once
+#include <string>
+
+namespace lumenote {
+
+/// A message box; an empty title stands for the application's.
+struct MessageBox {
+  enum class Buttons { Ok, YesNo };
+  enum class Icon { None, Critical, Question, Exclamation, Information };
+  enum class Answer { Ok, Yes, No };
+
+  std::u16string text{};
+  std::u16string title{};
+  Buttons buttons = Buttons::Ok;
+  Icon icon = Icon::None;
+};
+
+}  // namespace lumenote

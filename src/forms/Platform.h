@@ -1,0 +1,23 @@
+// Everything the component asks of the machine, in one bundle that a program constructs.
+#pragma once
+
+namespace lumenote {
+
+class Backend;
+class Clipboard;
+class Files;
+class Folders;
+class Settings;
+
+/// Outlives every control made with it.
+class Platform {
+ public:
+  virtual ~Platform() = default;
+  virtual Backend& Windows() = 0;
+  virtual Settings& UserSettings() = 0;
+  virtual Files& FileSystem() = 0;
+  virtual Folders& SpecialFolders() = 0;
+  virtual Clipboard& SystemClipboard() = 0;
+};
+
+}  // namespace lumenote

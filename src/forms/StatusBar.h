@@ -1,0 +1,24 @@
+// The bar of text panels at a window's lower edge.
+#pragma once
+#include "forms/Control.h"
+
+namespace lumenote {
+
+/// Panels are counted from 1; each is as wide as its text. Its place is the backend's to choose, at
+/// most 300 twips high.
+class StatusBar : public Control {
+ public:
+  StatusBar(Container& container, std::string name, int panels);
+
+  int Count() const { return static_cast<int>(panels_.size()); }
+  /// Raise NoSuchElement (340) for a panel that is not there.
+  const std::u16string& Panel(int number) const;
+  void Panel(int number, std::u16string_view text);
+
+  void Describe(MemberTable& members) override;
+
+ private:
+  std::vector<std::u16string> panels_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,46 @@
+// The machine that a script runs on: the component's side of it, and the script's.
+#pragma once
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumenote {
+
+class Clipboard;
+class Files;
+class Folders;
+class Settings;
+
+/// A machine of its own: drive C: in a folder, settings and a machine-wide registry in files, a
+/// private clipboard. Nothing outside is read or written. Outlives the run.
+class Sandbox {
+ public:
+  virtual ~Sandbox() = default;
+
+  virtual Settings& UserSettings() = 0;
+  virtual Files& FileSystem() = 0;
+  virtual Folders& SpecialFolders() = 0;
+  virtual Clipboard& SystemClipboard() = 0;
+
+  /// One string by key (its case ignored) and name ("" for the key's default value).
+  virtual std::optional<std::u16string> ReadRegistry(std::u16string_view key,
+                                                     std::u16string_view name) const = 0;
+  virtual void WriteRegistry(std::u16string_view key, std::u16string_view name,
+                             std::u16string_view value) = 0;
+
+  // What happens to the files behind the component's back. Paths are drive-letter paths; failures
+  // are run-time errors.
+  /// Makes the folders above `path` that are missing.
+  virtual void MakeParents(std::u16string_view path) = 0;
+  /// Names of the files and folders in a folder, sorted by UTF-16 unit.
+  virtual std::vector<std::u16string> List(std::u16string_view folder) const = 0;
+  /// Removes a file, or a folder with all it holds, read-only or not.
+  virtual void Remove(std::u16string_view path) = 0;
+  virtual void ReadOnly(std::u16string_view path, bool on) = 0;
+  /// Moves the file's modification time.
+  virtual void Age(std::u16string_view path, std::int64_t seconds) = 0;
+};
+
+}  // namespace lumenote

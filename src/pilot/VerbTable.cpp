@@ -1,0 +1,57 @@
+// The verbs by name.
+#include <array>
+#include <utility>
+
+#include "pilot/Verbs.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::array<std::pair<std::string_view, Verb>, 36> kVerbs{{
+    {"activate", verbs::Activate},
+    {"answer", verbs::QueueAnswers},
+    {"boxes", verbs::Boxes},
+    {"cat", verbs::Cat},
+    {"click", verbs::Click},
+    {"clip", verbs::Clip},
+    {"clip-rtf", verbs::ClipRtf},
+    {"close", verbs::Close},
+    {"drag", verbs::Drag},
+    {"expect", verbs::Expect},
+    {"expect-has", verbs::ExpectHas},
+    {"expect-kept", verbs::ExpectKept},
+    {"expect-like", verbs::ExpectLike},
+    {"file", verbs::File},
+    {"forms", verbs::Forms},
+    {"get", verbs::Get},
+    {"host", verbs::Host},
+    {"keep", verbs::Keep},
+    {"key", verbs::Key},
+    {"ls", verbs::Ls},
+    {"mouse", verbs::Mouse},
+    {"open", verbs::Open},
+    {"popup", verbs::PopUp},
+    {"printer-fonts", verbs::PrinterFonts},
+    {"readonly", verbs::ReadOnly},
+    {"registry", verbs::Registry},
+    {"resize", verbs::Resize},
+    {"rm", verbs::Rm},
+    {"screen-fonts", verbs::ScreenFonts},
+    {"select", verbs::Select},
+    {"set", verbs::Set},
+    {"setting", verbs::Setting},
+    {"show", verbs::Show},
+    {"tick", verbs::Tick},
+    {"touch", verbs::Touch},
+    {"type", verbs::Type},
+}};
+
+}  // namespace
+
+Verb FindVerb(std::string_view name) {
+  for (const auto& [known, verb] : kVerbs)
+    if (known == name) return verb;
+  return nullptr;
+}
+
+}  // namespace lumenote

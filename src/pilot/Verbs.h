@@ -1,0 +1,76 @@
+// The verbs of scripts.
+#pragma once
+#include <optional>
+#include <string_view>
+
+#include "base/Value.h"
+
+namespace lumenote {
+
+class Arguments;
+struct Stage;
+
+/// What a line prints; nothing for a verb that does not answer.
+using Answer = std::optional<Value>;
+
+/// Reads all its arguments before it does anything. Raises `ScriptError` for what it cannot
+/// understand, `Refusal` for what cannot be done now, `RuntimeError` for what went wrong.
+using Verb = Answer (*)(Stage& stage, Arguments& arguments);
+
+/// Null when there is no such verb.
+Verb FindVerb(std::string_view name);
+
+namespace verbs {
+
+// HostVerbs.cpp
+Answer Host(Stage& stage, Arguments& arguments);
+Answer Show(Stage& stage, Arguments& arguments);
+
+// MemberVerbs.cpp
+Answer Get(Stage& stage, Arguments& arguments);
+Answer Set(Stage& stage, Arguments& arguments);
+
+// ActVerbs.cpp: what the user does to controls and menus
+Answer Click(Stage& stage, Arguments& arguments);
+Answer Open(Stage& stage, Arguments& arguments);
+Answer Type(Stage& stage, Arguments& arguments);
+Answer Key(Stage& stage, Arguments& arguments);
+Answer Select(Stage& stage, Arguments& arguments);
+Answer Mouse(Stage& stage, Arguments& arguments);
+Answer Drag(Stage& stage, Arguments& arguments);
+
+// WindowVerbs.cpp: windows, message boxes, popup menus
+Answer Resize(Stage& stage, Arguments& arguments);
+Answer Activate(Stage& stage, Arguments& arguments);
+Answer Close(Stage& stage, Arguments& arguments);
+Answer Forms(Stage& stage, Arguments& arguments);
+Answer QueueAnswers(Stage& stage, Arguments& arguments);
+Answer Boxes(Stage& stage, Arguments& arguments);
+Answer PopUp(Stage& stage, Arguments& arguments);
+
+// MachineVerbs.cpp: clipboard, time, settings, registry, fonts
+Answer Clip(Stage& stage, Arguments& arguments);
+Answer ClipRtf(Stage& stage, Arguments& arguments);
+Answer Tick(Stage& stage, Arguments& arguments);
+Answer Setting(Stage& stage, Arguments& arguments);
+Answer Registry(Stage& stage, Arguments& arguments);
+Answer ScreenFonts(Stage& stage, Arguments& arguments);
+Answer PrinterFonts(Stage& stage, Arguments& arguments);
+
+// FileVerbs.cpp
+Answer File(Stage& stage, Arguments& arguments);
+Answer Cat(Stage& stage, Arguments& arguments);
+Answer Ls(Stage& stage, Arguments& arguments);
+Answer Rm(Stage& stage, Arguments& arguments);
+Answer ReadOnly(Stage& stage, Arguments& arguments);
+Answer Touch(Stage& stage, Arguments& arguments);
+
+// ExpectVerbs.cpp
+Answer Expect(Stage& stage, Arguments& arguments);
+Answer ExpectHas(Stage& stage, Arguments& arguments);
+Answer ExpectLike(Stage& stage, Arguments& arguments);
+Answer Keep(Stage& stage, Arguments& arguments);
+Answer ExpectKept(Stage& stage, Arguments& arguments);
+
+}  // namespace verbs
+}  // namespace lumenote

@@ -1,0 +1,266 @@
+// Scripts on windows made for the purpose: modal ones, failing events, timers.
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "backends/headless/HeadlessActs.h"
+#include "backends/headless/HeadlessBackend.h"
+#include "backends/posix/PosixSandbox.h"
+#include "forms/Label.h"
+#include "forms/Platform.h"
+#include "forms/RichTextBox.h"
+#include "forms/Timer.h"
+#include "pilot/ScriptRunner.h"
+
+namespace lumenote {
+namespace {
+
+/// A window under a name that scripts know; what happens on it is written down.
+class TestWindow : public Form {
+ public:
+  TestWindow(WindowList& windows, std::string name, std::string& log)
+      : Form(windows, std::move(name), {0, 0, 3000, 3000}, u"Essai"), log_(log) {
+    lbl.MouseUp = [this](const MouseEvent&) { Clicked(); };
+    box.Change = [this] { Changed(); };
+  }
+
+  Label lbl{*this, "lbl", {0, 0, 600, 300}};
+  RichTextBox box{*this, "box", {0, 300, 2000, 1000}};
+  Timer slow{*this, "slow"};
+  Timer fast{*this, "fast"};
+  std::function<void()> Clicked = [] {};
+  std::function<void()> Changed = [] {};
+
+ protected:
+  void Form_Activate() override { log_ += "activate " + Name() + ";"; }
+  void Form_Unload() override { log_ += "unload " + Name() + ";"; }
+
+ private:
+  std::string& log_;
+};
+
+/// Headless, but for windows that may claim to differ from their state.
+class SkewedBackend : public Backend {
+ public:
+  std::unique_ptr<FormPeer> Realise(Form& form) override {
+    return std::make_unique<Peer>(headless_.Realise(form), differences);
+  }
+  std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
+                                               Files& files) override {
+    return headless_.MakeSurface(box, clipboard, files);
+  }
+  MessageBox::Answer Show(const MessageBox&, Form*) override { return MessageBox::Answer::Ok; }
+  void RunUntil(const std::function<bool()>&) override {}
+  void Arm(Timer&) override {}
+  void Disarm(Timer&) override {}
+
+  std::vector<std::string> differences;
+
+ private:
+  struct Peer : FormPeer {
+    Peer(std::unique_ptr<FormPeer> inner, const std::vector<std::string>& differences)
+        : inner_(std::move(inner)), differences_(differences) {}
+    void Update(Element& element, Property property) override { inner_->Update(element, property); }
+    void Focus(Control&) override {}
+    void Activate() override {}
+    void PopUp(Menu&, Point) override {}
+    std::vector<std::string> Differences() const override { return differences_; }
+    std::unique_ptr<FormPeer> inner_;
+    const std::vector<std::string>& differences_;
+  };
+
+  HeadlessBackend headless_;
+};
+
+class PilotTest : public testing::Test, public Platform {
+ protected:
+  Backend& Windows() override { return backend; }
+  Settings& UserSettings() override { return sandbox.UserSettings(); }
+  Files& FileSystem() override { return sandbox.FileSystem(); }
+  Folders& SpecialFolders() override { return sandbox.SpecialFolders(); }
+  Clipboard& SystemClipboard() override { return sandbox.SystemClipboard(); }
+
+  /// What the script prints, one line each.
+  std::string Run(const std::string& script) {
+    std::istringstream lines(script);
+    ScriptRunner(lines, stage, [this] { log += "end;"; }).Run();
+    return out.str();
+  }
+
+  std::string log;
+  std::ostringstream out;
+  std::ostringstream err;
+  PosixSandbox sandbox;
+  SkewedBackend inner;
+  HeadlessActs acts;
+  PilotBackend backend{inner};
+  Transcript transcript{out, err};
+  CoBxRtf control{*this};
+  Stage stage{control, sandbox, backend, acts, transcript};
+  TestWindow first{stage.Windows(), "Co_Trouver", log};
+  TestWindow second{stage.Windows(), "Co_Paragraph", log};
+};
+
+const std::string kError = "{\"error\":13,\"description\":\"Incompatibilité de type\"}\n";
+const std::string kDisabled = "{\"error\":\"pilot\",\"description\":\"disabled\"}\n";
+
+TEST_F(PilotTest, AnErrorAtAnEventsEdgeIsPrintedByItsCommandAndShownOnce) {
+  first.Show();
+  first.Clicked = [] { throw RuntimeError(ErrorNumber::TypeMismatch); };
+  first.fast.Tick = [] { throw RuntimeError(ErrorNumber::TypeMismatch); };
+  first.fast.Interval(10);
+  first.fast.Enabled(true);
+  EXPECT_EQ(Run("click Co_Trouver.lbl\nget Co_Trouver.Left\nboxes\ntick 25\n"),
+            kError + "0\n" +
+                "[{\"text\":\"Erreur d'exécution 13\\r\\nIncompatibilité de type\",\"title\":\"\","
+                "\"buttons\":\"OK\",\"icon\":\"critical\",\"answer\":\"OK\"}]\n" +
+                kError);
+  EXPECT_EQ(backend.TakeBoxes().size(), 2U);
+}
+
+TEST_F(PilotTest, LinesRunInsideAModalWindowWhichLocksTheOthers) {
+  first.Show();
+  first.Clicked = [&] {
+    second.ShowModal();
+    throw RuntimeError(ErrorNumber::TypeMismatch);
+  };
+  EXPECT_EQ(Run("click Co_Trouver.lbl\n"
+                "get Co_Paragraph.Visible\nclick Co_Trouver.lbl\nclose Co_Trouver\n"
+                "click Co_Paragraph.lbl\nclose Co_Paragraph\nget Co_Trouver.Visible\n"),
+            "true\n" + kDisabled + kDisabled + kError + "true\n");
+}
+
+TEST_F(PilotTest, AScriptThatEndsInsideClosesFromTheTop) {
+  first.Show();
+  first.Clicked = [&] {
+    second.ShowModal();
+    log += "returned;";
+  };
+  Run("click Co_Trouver.lbl\n");
+  EXPECT_EQ(log,
+            "activate Co_Trouver;activate Co_Paragraph;end;unload Co_Paragraph;"
+            "activate Co_Trouver;returned;unload Co_Trouver;");
+}
+
+TEST_F(PilotTest, AWindowThatCannotBeClosedDoesNotHoldTheEndUp) {
+  first.Show();
+  first.Clicked = [&] { backend.RunUntil([] { return false; }); };
+  Run("click Co_Trouver.lbl\n");
+  EXPECT_FALSE(first.IsLoaded());
+}
+
+TEST_F(PilotTest, AnActActivatesItsWindowFirst) {
+  first.Show();
+  second.Show();
+  log.clear();
+  Run("click Co_Trouver.lbl\ntype Co_Paragraph.box a\nkey Co_Paragraph Left\nmouse Co_Trouver.lbl "
+      "up "
+      "1 0 0\nactivate Co_Trouver\n");
+  EXPECT_TRUE(log.starts_with("activate Co_Trouver;activate Co_Paragraph;activate Co_Trouver;end;"))
+      << log;
+}
+
+TEST_F(PilotTest, TimersTickInTheOrderOfTime) {
+  const auto note = [&](const char* what) { return [this, what] { log += what; }; };
+  first.slow.Tick = note("s");
+  first.slow.Interval(20);
+  first.slow.Enabled(true);
+  first.fast.Tick = note("f");
+  first.fast.Interval(10);
+  first.fast.Enabled(true);
+  first.Load();
+  Run("tick 9\ntick 1\ntick 15\ntick 5\n");
+  EXPECT_TRUE(log.starts_with("fsffend;")) << log;
+}
+
+TEST_F(PilotTest, ATimerArmedAnewInItsTickCountsFromThen) {
+  first.fast.Tick = [&] {
+    log += "f";
+    first.fast.Interval(first.fast.Interval() + 10);
+    if (first.fast.Interval() == 40) first.fast.Enabled(false);
+  };
+  first.fast.Interval(10);
+  first.fast.Enabled(true);
+  first.Load();
+  Run("tick 59\ntick 1\ntick 1000\n");
+  EXPECT_TRUE(log.starts_with("fffend;")) << log;
+}
+
+TEST_F(PilotTest, TickingInsideATickGoesOnFromThere) {
+  first.slow.Tick = [&] {
+    log += "s";
+    if (first.slow.Interval() == 20) {
+      first.slow.Interval(1000);
+      backend.Tick(30);
+    }
+  };
+  first.fast.Tick = [&] { log += "f"; };
+  first.slow.Interval(20);
+  first.slow.Enabled(true);
+  first.fast.Interval(15);
+  first.fast.Enabled(true);
+  first.Load();
+  Run("tick 40\n");
+  EXPECT_TRUE(log.starts_with("fsffend;")) << log;
+}
+
+TEST_F(PilotTest, TypingStopsWhenItClosesTheWindow) {
+  first.Show();
+  int keys = 0;
+  first.Changed = [&] {
+    if (++keys == 2) first.Unload();
+  };
+  EXPECT_EQ(Run("type Co_Trouver.box abcd\nget Co_Trouver.box.Text\n"),
+            "{\"error\":\"pilot\",\"description\":\"not loaded\"}\n");
+  EXPECT_EQ(keys, 2);
+}
+
+TEST_F(PilotTest, ALockedBoxTakesNoEditsFromTheUser) {
+  first.Show();
+  first.box.Surface().Text(u"abc");
+  first.box.Locked(true);
+  EXPECT_EQ(Run("type Co_Trouver.box x\nkey Co_Trouver.box Delete\ndrag Co_Trouver.box 0 1 3\n"
+                "key Co_Trouver.box Ctrl+A\nkey Co_Trouver.box Ctrl+C\nkey Co_Trouver.box Ctrl+X\n"
+                "get Co_Trouver.box.Text\nget Co_Trouver.box.SelLength\nclip\n")
+                .substr(0, 22),
+            "\"abc\"\n3\n{\"text\":\"abc\",");
+}
+
+TEST_F(PilotTest, LinesWrapAtTheBoxOrAtItsRightMargin) {
+  RichTextSurface& surface = first.box.Surface();
+  first.box.Width(3000);
+  surface.Text(std::u16string(90, u'x'));
+  first.Load();
+  const std::int32_t lines = surface.LineFromChar(90);
+  first.box.Width(1500);
+  EXPECT_EQ(surface.LineFromChar(90), 2 * lines + 1);
+  surface.RightMargin(3000);
+  EXPECT_EQ(surface.LineFromChar(90), lines);
+  first.box.Width(500);
+  EXPECT_EQ(surface.LineFromChar(90), lines);
+  surface.RightMargin(0);
+  EXPECT_EQ(surface.LineFromChar(90), 6 * lines + 5);
+}
+
+TEST_F(PilotTest, DifferencesOfAWindowFailTheScript) {
+  first.Show();
+  Run("# one\nget Co_Trouver.Left\n");
+  EXPECT_EQ(transcript.Close(), 0);
+  second.Show();
+  inner.differences = {"caption"};
+  Run("get Co_Paragraph.Left\n");
+  EXPECT_EQ(transcript.Close(), 1);
+  EXPECT_EQ(err.str(), "line 1: get Co_Paragraph.Left\n  Co_Paragraph: caption\n");
+}
+
+TEST(HeadlessBackendTest, AWaitThatCannotEndIsRefused) {
+  HeadlessBackend backend;
+  EXPECT_THROW(backend.RunUntil([] { return false; }), std::logic_error);
+  EXPECT_NO_THROW(backend.RunUntil([] { return true; }));
+  MessageBox question;
+  question.buttons = MessageBox::Buttons::YesNo;
+  EXPECT_EQ(backend.Show(question, nullptr), MessageBox::Answer::Yes);
+  EXPECT_EQ(backend.Show({}, nullptr), MessageBox::Answer::Ok);
+}
+
+}  // namespace
+}  // namespace lumenote

@@ -1,0 +1,209 @@
+#!/usr/bin/env python3
+"""The script language itself: what lines print, what a run returns.
+
+usage: language_test.py LUMENOTE
+"""
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+import unittest
+
+TOOL = sys.argv.pop(1)
+OPEN = 'host pCouleurFen 0\nhost pStrOrchm "abc"\n'
+
+
+def run(script, *options):
+    """Standard output's lines, exit status, standard error."""
+    done = subprocess.run([TOOL, "pilot", *options], input=script.encode(), capture_output=True,
+                          timeout=60)
+    return done.stdout.decode().splitlines(), done.returncode, done.stderr.decode()
+
+
+class Language(unittest.TestCase):
+    def lines(self, script, *wanted, status=0):
+        out, code, err = run(script)
+        self.assertEqual((out, code), (list(wanted), status), err)
+
+    def not_understood(self, line):
+        out, code, _ = run(line + "\nclip\n")
+        self.assertEqual((len(out), code), (2, 2), line)
+        self.assertTrue(out[0].startswith('{"error":"pilot","description":"'), out[0])
+
+    def test_arguments(self):
+        note = "host pStrOrchm "
+        read = "\nhost pStrOrchm\n"
+        for source, answer in [
+            ("mot", '"mot"'), ('"deux mots"', '"deux mots"'), ("a#b", '"a#b"'),
+            ('"a # b"  # comment', '"a # b"'), ("a\t# comment", '"a"'), ("12.50", '"12.50"'),
+            (r'"\u00e9\r\n\"\\"', r'"é\r\n\"\\"'), ("C:\\x\\y", r'"C:\\x\\y"'), ("été", '"été"'),
+            (r'"\ud83d\ude00\ud800"', r'"😀\ud800"'),
+        ]:
+            self.lines(note + source + read, answer)
+        self.lines("\ufeff# comment\n\n  \t\n   clip   \r\n", '{"text":null,"rtf":null}')
+        self.lines("", status=0)
+
+    def test_not_understood(self):
+        for line in ["foo", "get", "get Co_Rtf", "get Nulle.Caption", "get Session.Rien", "clip a b",
+                     "host pRien x", "host pNomAppli", 'host pNomAppli "a', 'host pNomAppli "a"b',
+                     "host pNomAppli null", "show 1.5", "show 9999999999", "tick -1", "answer",
+                     "answer Cancel", "set Session.Note x", "expect", "expect {", "expect 1 2",
+                     "expect mot", "expect-like (", "expect-kept rien", "readonly C:\\x oui",
+                     "mouse Co_Rtf.Bx_RTF up 3 0 0", "key Co_Rtf.Bx_RTF Rien",
+                     "select Co_Rtf.Bx_RTF -1 0", 'file C:\\x "\u0416"', "screen-fonts Arial",
+                     "printer-fonts -1", "printer-fonts", "clip 5",
+                     "resize Co_Rtf -1 0", "resize Co_Rtf 1e300 0", "mouse Co_Rtf.Bx_RTF up 1 x 0"]:
+            self.not_understood(line)
+        out, code, _ = run(OPEN + "show\nget Co_Rtf.Rien.Text\nget Co_Rtf.Bx_RTF.Rien\n"
+                           "get Co_Rtf.Bx_RTF(1).Text\nset Co_Rtf.Bx_RTF.CanUndo true\n"
+                           "click Co_Rtf.Timer1\ntype Co_Rtf.Lb_Format x\n"
+                           "select Co_Rtf.Fr_Notes 0 1\nopen Co_Rtf.Bx_RTF\nclose Co_Rtf.Bx_RTF\n"
+                           "get Co_Rtf.Bar_Etat.Panels(x)\nget Co_Rtf.Bar_Etat.Panels(99999999999)\n")
+        self.assertEqual((len(out), code), (11, 2), out)
+
+    def test_bytes_that_are_no_text(self):
+        done = subprocess.run([TOOL, "pilot"], input=b'clip "\xff"\n\xff\nclip\n', capture_output=True)
+        self.assertEqual((done.stdout.count(b"\n"), done.returncode), (3, 2))
+
+    def test_what_is_understood_but_cannot_be_done(self):
+        self.lines("click Co_Rtf.mnuPopCut\n", '{"error":"pilot","description":"not loaded"}')
+        self.lines("get Co_Symbols.Columns\n", '{"error":"pilot","description":"not loaded"}')
+        self.lines(OPEN + "show\nset Co_Rtf.Bx_RTF.Enabled false\ntype Co_Rtf.Bx_RTF x\n"
+                   "set Co_Rtf.Bx_RTF.Enabled true\nset Co_Rtf.Fr_Notes.Visible false\n"
+                   "click Co_Rtf.Bx_RTF\nget Co_Rtf.Bx_RTF.Text\n",
+                   '{"error":"pilot","description":"disabled"}',
+                   '{"error":"pilot","description":"disabled"}', '"abc"')
+
+    def test_expectations(self):
+        self.lines('clip "a"\nclip\nexpect {"rtf":null,"text":"a"}\nexpect-has {"text":"a"}\n'
+                   'expect-like ^."text":"."\nkeep k\nclip\nexpect-kept k\n',
+                   '{"text":"a","rtf":null}', '{"text":"a","rtf":null}', "4 passed, 0 failed")
+        for wrong in ['expect {"text":"a"}', 'expect-has {"text":null}', 'expect-has {"x":null}',
+                      "expect-like ^b", 'expect-has []', "expect 1"]:
+            out, code, err = run(f'clip "a"\nclip\n{wrong}  \n')
+            self.assertEqual((out[-1], code), ("0 passed, 1 failed", 1), wrong)
+            self.assertIn("line 3: " + wrong, err)
+            self.assertIn('{"text":"a","rtf":null}', err)
+        self.lines("host pStrOrchm 1e2\nhost pStrOrchm\nexpect 100\n", '"1e2"', "0 passed, 1 failed",
+                   status=1)
+        self.lines("tick 1\nexpect null\n", "0 passed, 1 failed", status=1)
+        self.lines("get Session.FileMode\nexpect false\nfoo\n", "false",
+                   '{"error":"pilot","description":"unknown verb foo"}', "1 passed, 0 failed",
+                   status=2)
+
+    def test_subsets_nest(self):
+        forms = OPEN + "show\nforms\n"
+        line = '[{"name":"Co_Rtf","caption":"","visible":true,"modal":false}]'
+        self.lines(forms + 'expect-has [{"visible":true}]\n', line, "1 passed, 0 failed")
+        self.lines(forms + "expect-has [{},{}]\nexpect-has []\n", line, "0 passed, 2 failed", status=1)
+
+    def test_patterns_see_characters(self):
+        note = 'host pStrOrchm "{}"\nhost pStrOrchm\nexpect-like {}\n'
+        for text, pattern in [("é", "^.é.$"), ("é", '"[é]"$'), ("😀", '^"."$'), ("aa", r"(a)\1"),
+                              ("x y", 'x y"$'), ("a#b", "#b # ?|#b"), ("1", r'^"\d"$')]:
+            self.assertEqual(run(note.format(text, pattern))[1], 0, pattern)
+        self.assertEqual(run(note.format("x" * 300000 + "y", 'x*y"$'))[1], 0)
+
+    def test_answers_left_over(self):
+        out, code, err = run("answer Yes\n")
+        self.assertEqual((out, code), ([], 1))
+        self.assertIn("left over", err)
+
+    def test_an_answer_waits_for_a_box_that_has_its_button(self):
+        self.lines(OPEN + 'file C:\\n\\faux.rtf "x"\nhost pStrOrchm C:\\n\\faux.rtf\nanswer No\nshow\n'
+                   'boxes\nexpect-has [{"answer":"OK"}]\nhost pStrOrchm "a"\nshow\n'
+                   'type Co_Rtf.Bx_RTF b\nclose Co_Rtf\nboxes\nexpect-has [{"answer":"No"}]\n',
+                   '[{"text":"Impossible de Charger le fichier\\r\\nC:\\\\n\\\\faux.rtf","title":"",'
+                   '"buttons":"OK","icon":"critical","answer":"OK"}]',
+                   '[{"text":"Voulez-vous enregistrer les modifs en cours","title":"",'
+                   '"buttons":"YesNo","icon":"question","answer":"No"}]', "2 passed, 0 failed")
+
+    def test_a_script_may_end_anywhere(self):
+        self.lines(OPEN + "show\n")
+        self.lines(OPEN + "show 1\n")
+        self.lines(OPEN + "show 1\ntype Co_Rtf.Bx_RTF x\nanswer No\n")
+        self.lines(OPEN + "show 1\ntype Co_Rtf.Bx_RTF x\nanswer No No\n", status=1)
+
+    def test_errors_of_the_component(self):
+        self.lines(OPEN + "show\nset Co_Rtf.Height -1\nget Co_Rtf.Lb_3Bascules(9).Left\n"
+                   "set Co_Rtf.Bx_RTF.SelStart mot\n",
+                   '{"error":380,"description":"Valeur de propriété incorrecte"}',
+                   '{"error":340,"description":"Élément de tableau de contrôles inexistant"}',
+                   '{"error":13,"description":"Incompatibilité de type"}')
+
+
+class Machine(unittest.TestCase):
+    def test_files(self):
+        script = r'''ls C:\
+file C:\a\b\c.txt "l\u0027\u00e9t\u00e9 \u20ac\r\n"
+file "C:\\a\\Z y.txt" ""
+file C:\a\é.txt x
+ls C:\a
+ls C:\a\b\
+cat C:\a\b\c.txt
+cat "C:/a/Z y.txt"
+cat C:\a\rien.txt
+cat C:\a
+readonly C:\a\é.txt true
+file C:\a\é.txt y
+cat C:\a\é.txt
+rm C:\a\é.txt
+rm C:\a\b
+ls C:\a
+rm C:\a\b
+ls C:\rien
+touch C:\rien.txt
+readonly C:\rien.txt true
+cat C:\..\..\etc\passwd
+cat Z:\etc\passwd
+'''
+        missing = '{"error":53,"description":"Fichier introuvable"}'
+        nowhere = '{"error":76,"description":"Chemin d\'accès introuvable"}'
+        self.assertEqual(run(script)[0], [
+            '["Documents","Lumenote","Program Files","Temp"]', '["Z y.txt","b","é.txt"]', '["c.txt"]',
+            r'"l' + "'" + r'été €\r\n"', '""', "null", "null",
+            '{"error":75,"description":"Erreur d\'accès au chemin/fichier"}', '"x"', '["Z y.txt"]',
+            missing, nowhere, missing, missing, "null", "null"])
+
+    def test_a_root_is_kept(self):
+        with tempfile.TemporaryDirectory() as folder:
+            root = pathlib.Path(folder) / "bac"
+            script = (r'file C:\n\a.txt "été"' '\n' r'setting Appli "Sec tion" Clé "vale\r\nur"' '\n'
+                      'registry SOFTWARE\\Word "" C:\\w.exe\nclip "a"\ntouch C:\\n\\a.txt\n')
+            self.assertEqual(run(script, "--root", str(root))[1], 0)
+            self.assertEqual((root / "c/n/a.txt").read_bytes(), "été".encode("cp1252"))
+            self.assertTrue((root / "settings.ini").exists() and (root / "registry.ini").exists())
+            out, _, _ = run('cat C:\\n\\a.txt\nsetting Appli "Sec tion" Clé\nsetting Appli x Clé\n'
+                            'registry software\\WORD ""\nregistry software\\WORD x\nclip\n',
+                            "--root", str(root))
+            self.assertEqual(out, ['"été"', r'"vale\r\nur"', "null", r'"C:\\w.exe"', "null",
+                                   '{"text":null,"rtf":null}'])
+
+    def test_touch_adds_ten_seconds(self):
+        with tempfile.TemporaryDirectory() as root:
+            run("file C:\\a.txt x\n", "--root", root)
+            file = pathlib.Path(root) / "c/a.txt"
+            before = file.stat().st_mtime_ns
+            run("readonly C:\\a.txt true\ntouch C:\\a.txt\n", "--root", root)
+            self.assertEqual(file.stat().st_mtime_ns - before, 10 * 10**9)
+
+    def test_a_fresh_sandbox_is_removed(self):
+        with tempfile.TemporaryDirectory() as folder:
+            done = subprocess.run([TOOL, "pilot"], input=b"file C:\\a.txt x\nreadonly C:\\a.txt true\n",
+                                  env={"TMPDIR": folder}, capture_output=True)
+            self.assertEqual(done.returncode, 0, done.stderr)
+            self.assertEqual(list(pathlib.Path(folder).iterdir()), [])
+
+    def test_fonts_are_accepted(self):
+        out, code, _ = run('screen-fonts ["Arial","Symbol"]\nprinter-fonts 3\nprinter-fonts none\n')
+        self.assertEqual((out, code), ([], 0))
+
+    def test_run_time_of_a_long_script(self):
+        out, code, _ = run(OPEN + "show\n" + "type Co_Rtf.Bx_RTF x\n" * 5000 +
+                           "get Co_Rtf.Bx_RTF.SelStart\n")
+        self.assertEqual((out, code), (["5000"], 0))
+
+
+if __name__ == "__main__":
+    unittest.main()

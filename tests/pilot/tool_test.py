@@ -1,0 +1,112 @@
+#!/usr/bin/env python3
+"""The tool's commands on files and streams.   usage: tool_test.py LUMENOTE"""
+import os
+import pathlib
+import stat
+import subprocess
+import sys
+import tempfile
+import unittest
+
+TOOL = os.path.abspath(sys.argv.pop(1))
+RTF = rb"{\rtf1\ansi{\fonttbl{\f0 Arial;}}\f0 caf\'e9 \b gras\b0\line z\par fin}"
+
+
+class Tool(unittest.TestCase):
+    def setUp(self):
+        self.temporary = tempfile.TemporaryDirectory()
+        self.folder = pathlib.Path(self.temporary.name)
+
+    def tearDown(self):
+        self.temporary.cleanup()
+
+    def run_tool(self, *arguments, data=b"", status=0):
+        done = subprocess.run([TOOL, *arguments], input=data, capture_output=True, timeout=60,
+                              cwd=self.folder)
+        self.assertEqual(done.returncode, status, (arguments, done.stderr))
+        if status:
+            self.assertEqual(done.stderr.count(b"\n"), 1, done.stderr)
+        return done.stdout
+
+    def write(self, name, data):
+        (self.folder / name).write_bytes(data)
+
+    def read(self, name):
+        return (self.folder / name).read_bytes()
+
+    def test_text(self):
+        for name, data, text in [
+            ("a.rtf", RTF, "café gras\nz\nfin\n"),
+            ("A.RTF", b"{\\rtf1 x\\par y\\par }", "x\ny\n"),
+            ("b.txt", "l'été\r\n€".encode("cp1252"), "l'été\n€\n"),
+            ("c.txt", b"a\nb\r\n", "a\nb\n"),
+            ("d.txt", b"\xef\xbb\xbf" + "Ωé".encode(), "Ωé\n"),
+            ("e.txt", b"\xff\xfe" + "Ωé".encode("utf-16-le"), "Ωé\n"),
+            ("f.txt", b"", ""),
+            ("g.txt", RTF[:12], RTF[:12].decode() + "\n"),
+            ("h.note", RTF, "café gras\nz\nfin\n"),
+            ("i.rtf", RTF[:-9], "café gras\nz\n"),
+        ]:
+            self.write(name, data)
+            self.assertEqual(self.run_tool("text", name).decode(), text, name)
+        self.assertEqual(self.run_tool("text", "-", data=RTF).decode(), "café gras\nz\nfin\n")
+        self.assertEqual(self.run_tool("text", "-", data=b"x"), b"x\n")
+
+    def test_convert(self):
+        self.write("a.rtf", RTF)
+        self.run_tool("convert", "a.rtf", "b.txt")
+        self.assertEqual(self.read("b.txt"), "café gras\vz\r\nfin".encode("cp1252"))
+        self.run_tool("convert", "b.txt", "c.rtf")
+        self.assertTrue(self.read("c.rtf").startswith(b"{\\rtf1"))
+        self.assertEqual(self.run_tool("text", "c.rtf").decode(), "café gras\nz\nfin\n")
+        self.run_tool("convert", "c.rtf", "d.rtf")
+        self.assertEqual(self.read("c.rtf"), self.read("d.rtf"))
+        self.assertEqual(self.run_tool("convert", "a.rtf", "-"), self.read("b.txt"))
+        self.assertEqual(self.run_tool("convert", "-", "-", data=b"x")[:6], b"{\\rtf1")
+        self.assertEqual(self.run_tool("convert", "-", "-", "--to", "rtf", data=RTF)[:6], b"{\\rtf1")
+        self.run_tool("convert", "--to=txt", "a.rtf", "e.note")
+        self.assertEqual(self.read("e.note"), self.read("b.txt"))
+
+    def test_characters_without_a_byte(self):
+        done = subprocess.run([TOOL, "convert", "--to", "txt", "-", "-"],
+                              input=b"\xef\xbb\xbf" + "aΩ😀".encode(), capture_output=True)
+        self.assertEqual((done.returncode, done.stdout), (0, b"a??"))
+        self.assertEqual(done.stderr.count(b"\n"), 1)
+
+    def test_what_cannot_be_done(self):
+        self.write("faux.rtf", b"texte")
+        self.write("a.txt", b"x")
+        self.write("garde.rtf", b"garde")
+        for arguments in [("text", "rien.rtf"), ("text", "faux.rtf"), ("text", "."),
+                          ("text", "nulle/part.txt"), ("convert", "a.txt", "nulle/part.rtf"),
+                          ("convert", "faux.rtf", "b.txt"), ("convert", "a.txt", "./x.rtf/y.rtf")]:
+            self.run_tool(*arguments, status=1)
+        (self.folder / "garde.rtf").chmod(stat.S_IRUSR)
+        self.run_tool("convert", "a.txt", "garde.rtf", status=1)
+        self.assertEqual(self.read("garde.rtf"), b"garde")
+        self.assertEqual(sorted(os.listdir(self.folder)), ["a.txt", "faux.rtf", "garde.rtf"])
+
+    def test_wrong_command_lines(self):
+        self.write("a.txt", b"x")
+        for arguments in [(), ("rien",), ("text",), ("text", "a.txt", "a.txt"), ("convert", "a.txt"),
+                          ("convert", "a.txt", "b.doc"), ("convert", "--to", "doc", "a.txt", "-"),
+                          ("text", "--rien", "a.txt"), ("pilot", "rien.pilot"), ("pilot", "--root"),
+                          ("pilot", "--root", "a.txt"), ("pilot", "a", "b")]:
+            self.run_tool(*arguments, status=2)
+        self.assertEqual(os.listdir(self.folder), ["a.txt"])
+
+    def test_help_and_version(self):
+        self.assertIn(b"lumenote convert", self.run_tool("--help"))
+        self.assertRegex(self.run_tool("--version"), rb"^lumenote \d+\.\d+\.\d+\n$")
+
+    def test_a_full_device(self):
+        if not os.path.exists("/dev/full"):
+            self.skipTest("no full device here")
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run([TOOL, "text", "-"], input=b"x", stdout=full,
+                                  stderr=subprocess.PIPE)
+        self.assertEqual((done.returncode, done.stderr.count(b"\n")), (1, 1))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,49 @@
+// A clipboard and a disk that live in memory.
+#pragma once
+#include <map>
+#include <string>
+
+#include "base/RuntimeError.h"
+#include "platform/Clipboard.h"
+#include "platform/Files.h"
+
+namespace lumenote {
+
+class MemoryClipboard final : public Clipboard {
+ public:
+  ClipboardContent Get() const override { return content_; }
+  bool HasContent() const override { return content_.text || content_.rtf; }
+  void Set(const ClipboardContent& content) override { content_ = content; }
+  void Clear() override { content_ = {}; }
+
+ private:
+  ClipboardContent content_;
+};
+
+/// Flat: a path is only a key. `broken` makes every write fail.
+class MemoryFiles final : public Files {
+ public:
+  std::map<std::u16string, std::string, std::less<>> files;
+  bool broken = false;
+
+  bool Exists(std::u16string_view path) const override { return files.contains(path); }
+  bool IsReadOnly(std::u16string_view) const override { return false; }
+  FileTime ModificationTime(std::u16string_view) const override { return 0; }
+  std::string ReadAll(std::u16string_view path) const override {
+    const auto found = files.find(path);
+    if (found == files.end()) throw RuntimeError(ErrorNumber::FileNotFound);
+    return found->second;
+  }
+  void Write(std::u16string_view path, std::string_view bytes) override {
+    if (broken) throw RuntimeError(ErrorNumber::PathAccess);
+    files[std::u16string(path)] = bytes;
+  }
+  void Delete(std::u16string_view path, bool) override { files.erase(std::u16string(path)); }
+  void Copy(std::u16string_view from, std::u16string_view to) override { Write(to, ReadAll(from)); }
+  void Move(std::u16string_view from, std::u16string_view to) override {
+    Copy(from, to);
+    Delete(from, true);
+  }
+};
+
+}  // namespace lumenote

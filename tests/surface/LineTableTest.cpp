@@ -1,0 +1,173 @@
+// The line table against a layout of everything, and the breaker that both use.
+#include <gtest/gtest.h>
+#include <random>
+
+#include "backends/headless/FixedBreaker.h"
+#include "base/Strings.h"
+#include "document/LineTable.h"
+#include "surface/SurfaceContract.h"
+
+namespace lumenote {
+namespace {
+
+std::vector<Line> FullLayout(const Document& document, LineBreaker& breaker) {
+  std::vector<Line> lines;
+  for (Position p = 0; p < document.ParagraphCount(); ++p) {
+    const Position end = document.ParagraphEnd(p);
+    std::vector<Position> starts{document.ParagraphStart(p)};
+    for (const Position at : breaker.Break(document, starts[0], end)) starts.push_back(at);
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+      const bool last = i + 1 == starts.size();
+      const Position next = last ? end : starts[i + 1];
+      const bool broken = !last && document.At(next - 1) == u'\v';
+      lines.push_back({starts[i], broken ? next - 1 : next, last ? end + 2 : next});
+    }
+  }
+  lines.back().next = -1;
+  return lines;
+}
+
+class RandomNote {
+ public:
+  explicit RandomNote(unsigned seed) : random_(seed) { Insert(0, 3000); }
+
+  const Document& Content() const { return document_; }
+  int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+  /// Makes some edit and returns where it begins.
+  Position Edit() {
+    const Position length = document_.Length();
+    const Position from = document_.Before(Below(length + 1));
+    const Position to = document_.After(std::min(from + Below(60), length));
+    switch (Below(8)) {
+      case 0:
+        return Replace(from, to, {});
+      case 1:
+        return Map(from, to);
+      case 2:
+        return Indent(from);
+      default:
+        return Insert(from, 1 + Below(Below(20) == 0 ? 600 : 12));
+    }
+  }
+
+ private:
+  // Words long and short, blanks in rows, hyphens, tabs, breaks of both kinds, pairs.
+  Position Insert(Position at, int pieces) {
+    static constexpr std::u16string_view kPieces[] = {
+        u"a",  u"mot", u"plus", u"anticonstitutionnellement",  u" ",    u" ", u" ",  u"   ",
+        u"\t", u"-",   u"\v",   u"a a a a a a a a a a a a a ", u"\r\n", u"𝄞", u"l'", u"été"};
+    std::u16string text;
+    while (pieces-- > 0) text += kPieces[Below(Below(3) == 0 ? 16 : 8)];
+    return Replace(at, at, PlainFragment(text, Format(), document_.ParaFormatAt(at)));
+  }
+  Position Map(Position from, Position to) {
+    const CharId format = Format();
+    const auto map = [=](CharId) { return format; };
+    const auto mapped = document_.MapFormats(from, to, map, {});
+    return mapped ? Replace(from, to, *mapped) : from;
+  }
+  Position Indent(Position at) {
+    ParaFormat format;
+    format.firstIndent = Below(3) * 300;
+    format.hangingIndent = (Below(5) - 2) * 150;
+    format.rightIndent = Below(2) * 400;
+    const ParaId id = document_.Formats().paragraphs.Intern(format);
+    const Position paragraph = document_.ParagraphOf(at);
+    const Position end = document_.ParagraphEnd(paragraph);
+    const bool final = paragraph + 1 == document_.ParagraphCount();
+    const Position to = final ? end : end + 2;
+    const auto mapped = document_.MapFormats(
+        end, to, {}, [=](ParaId) { return id; }, final);
+    return mapped ? Replace(end, to, *mapped) : end;
+  }
+  Position Replace(Position from, Position to, const Fragment& fragment) {
+    document_.Replace(from, to, fragment);
+    return from;
+  }
+  CharId Format() {
+    CharFormat format;
+    format.size = static_cast<std::uint16_t>(16 + Below(3) * 8);
+    return document_.Formats().characters.Intern(format);
+  }
+
+  std::mt19937 random_;
+  Document document_;
+};
+
+TEST(LineTable, AgreesWithAFullLayoutAfterRandomEdits) {
+  for (unsigned seed = 1; seed <= 20; ++seed) {
+    RandomNote note(seed);
+    FixedBreaker breaker(static_cast<float>(1000 + 400 * note.Below(5)));
+    LineTable table(note.Content(), breaker);
+    for (int round = 0; round < 40; ++round) {
+      const std::vector<Line> lines = FullLayout(note.Content(), breaker);
+      const int count = static_cast<int>(lines.size());
+      for (int look = 0; look < 6; ++look) {
+        const int i = note.Below(count);
+        const Line& line = lines[static_cast<std::size_t>(i)];
+        ASSERT_EQ(table.LineAt(line.start), line) << seed << ' ' << round;
+        ASSERT_EQ(table.LineAt(std::max(line.start, line.end - 1)).start, line.start);
+        if (i > 0) {
+          ASSERT_EQ(table.LineBefore(line.start), lines[static_cast<std::size_t>(i) - 1]);
+        }
+        if (note.Below(4) > 0) continue;
+        ASSERT_EQ(table.LineOf(line.start), i);
+        ASSERT_EQ(table.LineStart(i), line.start);
+        ASSERT_EQ(table.LineEnd(i), line.end);
+      }
+      if (round % 10 == 9) {
+        ASSERT_EQ(table.LineStart(count), -1);
+      }
+      table.Edited(note.Edit());
+    }
+  }
+}
+
+TEST(FixedBreaker, Wraps) {
+  struct Row {
+    std::u16string_view text;
+    int width;  // in characters
+    std::u16string_view lines;
+  };
+  const Row rows[] = {{u"un deux trois", 7, u"un deux |trois"},
+                      {u"un    deux", 4, u"un    |deux"},
+                      {u"porte-avions", 8, u"porte-|avions"},
+                      {u"abcdefgh", 3, u"abc|def|gh"},
+                      {u"a abcdefgh", 3, u"a |abc|def|gh"},
+                      {u"a𝄞𝄞b", 2, u"a𝄞|𝄞b"},
+                      {u"𝄞𝄞", 0, u"𝄞|𝄞"},
+                      {u"a\tb", 8, u"a\t|b"},
+                      {u"a\vb\v", 9, u"a\v|b\v|"},
+                      {u"", 5, u""}};
+  for (const Row& row : rows) {
+    Document document;
+    document.Replace(0, 0, PlainFragment(row.text, 0, 0));
+    FixedBreaker breaker(static_cast<float>(row.width) * 100);
+    std::u16string lines(row.text);
+    std::vector<Position> starts = breaker.Break(document, 0, document.Length());
+    for (auto at = starts.rbegin(); at != starts.rend(); ++at)
+      lines.insert(static_cast<std::size_t>(*at), 1, u'|');
+    EXPECT_EQ(ToUtf8(lines), ToUtf8(row.lines));
+  }
+}
+
+TEST(FixedBreaker, IndentsNarrowTheLinesAndShiftX) {
+  Document document;
+  ParaFormat format;
+  format.firstIndent = 200;
+  format.hangingIndent = -100;
+  format.rightIndent = 300;
+  Fragment text = PlainFragment(u"abcdefghij", 0, 0);
+  text.mark = FinalMark{0, document.Formats().paragraphs.Intern(format)};
+  document.Replace(0, 0, text);
+  FixedBreaker breaker(1000);
+  EXPECT_EQ(breaker.Break(document, 0, 10), (std::vector<Position>{5}));
+  EXPECT_EQ(breaker.XOf(document, 0, 2), 400);
+  EXPECT_EQ(breaker.XOf(document, 5, 5), 100);
+  EXPECT_EQ(breaker.AtX(document, 0, 5, 349), 1);
+  EXPECT_EQ(breaker.AtX(document, 0, 5, 351), 2);
+  EXPECT_EQ(breaker.AtX(document, 5, 10, 9999), 10);
+}
+
+}  // namespace
+}  // namespace lumenote

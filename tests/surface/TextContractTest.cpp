@@ -1,0 +1,184 @@
+// Text, selection, search and scans, as every surface must do them.
+#include "surface/SurfaceContract.h"
+
+namespace lumenote {
+namespace {
+
+TEST_P(SurfaceContract, SelectionIsTheTextBetween) {
+  Put(s, u"été ^¶→ 𝄞 fi|n¶");
+  for (Position start = 0; start <= 14; ++start)
+    for (Position length = 0; length <= 14; ++length) {
+      s.SelStart(start);
+      const Position moved = s.SelStart();
+      s.SelLength(length);
+      const std::u16string text = s.Text();
+      EXPECT_EQ(text.substr(static_cast<std::size_t>(s.SelStart()),
+                            static_cast<std::size_t>(s.SelLength())),
+                s.SelText());
+      EXPECT_LE(moved, start);
+      EXPECT_EQ(s.SelStart(), moved);
+      EXPECT_GE(s.SelLength(), std::min(length, 14 - moved));
+    }
+}
+
+TEST_P(SurfaceContract, PairsStayWhole) {
+  Put(s, u"a¶𝄞|");
+  s.SelStart(2);  // inside CR LF
+  EXPECT_EQ(s.SelStart(), 1);
+  s.SelLength(1);
+  EXPECT_EQ(s.SelText(), u"\r\n");
+  s.SelStart(4);  // inside the surrogate pair
+  EXPECT_EQ(s.SelStart(), 3);
+}
+
+TEST_P(SurfaceContract, SelectionOutOfRangeIsClippedButNegativeRaises) {
+  Put(s, u"ab^cd|");
+  EXPECT_EQ(ErrorOf([&] { s.SelLength(-1); }), 380);
+  EXPECT_EQ(ErrorOf([&] { s.SelStart(-1); }), 380);
+  EXPECT_EQ(Marked(s), u"ab^cd|");
+  s.SelStart(1);
+  EXPECT_EQ(Marked(s), u"a|bcd");
+  s.SelLength(0x7FFFFFFF);
+  EXPECT_EQ(Marked(s), u"a^bcd|");
+  s.SelStart(99);
+  EXPECT_EQ(Marked(s), u"abcd|");
+}
+
+TEST_P(SurfaceContract, SelTextReplacesAndNormalisesBreaks) {
+  struct Row {
+    std::u16string_view before, text, after;
+  };
+  const Row rows[] = {{u"a^b|c", u"xy", u"axy|c"},      {u"a|c", u"\n", u"a¶|c"},
+                      {u"a|c", u"\r\r\n\n", u"a¶¶¶|c"}, {u"a^b¶|c", u"", u"a|c"},
+                      {u"^a¶b¶c|", u"é", u"é|"},        {u"|", u"\v", u"↓|"}};
+  for (const Row& row : rows) {
+    Put(s, row.before);
+    Changes();
+    s.SelText(row.text);
+    EXPECT_EQ(Marked(s), row.after);
+    EXPECT_EQ(Changes(), 1);
+    EXPECT_EQ(s.UndoType(), UndoKind::Unknown);
+    s.Undo();
+    EXPECT_EQ(Marked(s), row.before);
+  }
+}
+
+TEST_P(SurfaceContract, WhatChangesNothingIsSilent) {
+  Put(s, u"un ^deux|¶");
+  s.SelBold(true);
+  s.SelIndent(150);
+  Changes();
+  EditGroup group(s);
+  s.SelText(u"deux");
+  EXPECT_EQ(Marked(s), u"un deux|¶");
+  s.SelText(u"");
+  SelectAs(s, u"un ^deux|¶");
+  s.SelBold(true);
+  s.SelFontName(u"Arial");
+  s.SelFontSize(10);
+  s.SelColor(0);
+  s.SelCharOffset(0);
+  s.SelIndent(150);
+  s.SelAlignment(0);
+  s.SelBullet(false);
+  s.RightMargin(0);
+  s.Paste();
+  EXPECT_EQ(Changes(), 0);
+}
+
+TEST_P(SurfaceContract, NewContentNotifiesAndCannotBeUndone) {
+  files.files[u"C:\\a.txt"] = "abc";
+  const std::function<void()> loads[] = {
+      [&] { s.Text(u"abc"); }, [&] { s.TextRTF(u"{\\rtf1 abc\\par }"); },
+      [&] { s.TextRTF(u"abc"); }, [&] { s.LoadFile(u"C:\\a.txt", FileType::Text); }};
+  for (const auto& load : loads) {
+    s.SelText(u"avant");
+    s.SelBold(true);
+    Changes();
+    load();
+    EXPECT_EQ(Marked(s), u"|abc");
+    EXPECT_EQ(Changes(), 1);
+    EXPECT_FALSE(s.CanUndo() || s.CanRedo());
+    EXPECT_EQ(s.SelBold(), false);
+  }
+}
+
+TEST_P(SurfaceContract, FindSelectsTheMatch) {
+  Put(s, u"Été, étés ; l'ÉTÉ.¶fin ^été|");
+  struct Row {
+    std::u16string_view text;
+    Position start;
+    int options;
+    Position found;
+  };
+  const Row rows[] = {{u"été", 0, 0, 0},
+                      {u"été", 1, 0, 5},
+                      {u"été", 6, kFindMatchCase, 24},
+                      {u"été", 1, kFindWholeWord, 14},
+                      {u"été", 1, kFindWholeWord | kFindMatchCase, 24},
+                      {u"été", -5, 0, 0},
+                      {u".\r\nfin", 0, 0, 17},
+                      {u"été", 25, 0, -1},
+                      {u"été", 99, 0, -1},
+                      {u"hiver", 0, 0, -1},
+                      {u"", 0, 0, -1}};
+  for (const Row& row : rows) {
+    s.SelStart(3);
+    EXPECT_EQ(s.Find(row.text, row.start, row.options), row.found);
+    const bool found = row.found >= 0;
+    EXPECT_EQ(s.SelStart(), found ? row.found : 3);
+    EXPECT_EQ(s.SelLength(), found ? static_cast<Position>(row.text.size()) : 0);
+  }
+}
+
+TEST_P(SurfaceContract, SpanAndUpTo) {
+  constexpr std::u16string_view kWord = u"\r\n ,;:.?!";
+  constexpr std::u16string_view kSentence = u".?!";
+  struct Row {
+    std::u16string_view before, set;
+    bool upTo, forward, negate;
+    std::u16string_view after;
+  };
+  const Row rows[] = {
+      {u"dit: bon|jour, monde", kWord, false, false, true, u"dit: ^bon|jour, monde"},
+      {u"dit: ^bon|jour, monde", kWord, false, true, true, u"dit: ^bonjour|, monde"},
+      {u"dit: bonjour|, monde", kWord, false, true, true, u"dit: bonjour|, monde"},
+      {u"|a", kWord, false, false, true, u"|a"},
+      {u"Il pleut.¶Il ve|nte", kSentence, false, false, true, u"Il pleut.^¶Il ve|nte"},
+      {u"ab¶c|d¶e", u"\n", false, false, true, u"ab¶^c|d¶e"},
+      {u"a|  ¶ b", u" \r", false, true, false, u"a^  ¶ |b"},
+      {u"|𝄞𝄞a", u"𝄞", false, true, false, u"^𝄞𝄞|a"},
+      {u"a^bc|de;f", u";", true, true, false, u"abcde|;f"},
+      {u"a;b^cd|e", u";", true, false, false, u"a;|bcde"},
+      {u"a|  b", u" ", true, true, true, u"a  |b"},
+      {u"a |  b", u" ", true, false, true, u"a|   b"},
+      {u"a^b|c", u";", true, true, false, u"a^b|c"},
+      {u"a^b|c", u";", true, false, false, u"a^b|c"}};
+  for (const Row& row : rows) {
+    Put(s, row.before);
+    row.upTo ? s.UpTo(row.set, row.forward, row.negate) : s.Span(row.set, row.forward, row.negate);
+    EXPECT_EQ(Marked(s), row.after);
+  }
+}
+
+TEST_P(SurfaceContract, LinesAreThoseOfTheLayout) {
+  Put(s, u"un deux trois quatre¶¶cinq↓six|");
+  struct Row {
+    Position position;
+    std::int32_t line;
+    Position start, length;
+  };
+  const Row rows[] = {{-5, 0, 0, 14}, {0, 0, 0, 14},  {13, 0, 0, 14}, {14, 1, 14, 6},
+                      {20, 1, 14, 6}, {22, 2, 22, 0}, {24, 3, 24, 4}, {28, 3, 24, 4},
+                      {29, 4, 29, 3}, {99, 4, 29, 3}};
+  for (const Row& row : rows) {
+    EXPECT_EQ(s.LineFromChar(row.position), row.line) << row.position;
+    EXPECT_EQ(s.LineIndex(row.line), row.start) << row.position;
+    EXPECT_EQ(s.LineLength(row.position), row.length) << row.position;
+  }
+  EXPECT_EQ(s.LineIndex(5), -1);
+  EXPECT_EQ(s.LineIndex(-1), -1);
+}
+
+}  // namespace
+}  // namespace lumenote

@@ -1,0 +1,58 @@
+// A document surface with everything around it, for tests of what only it has.
+#pragma once
+#include <vector>
+
+#include "backends/headless/FixedBreaker.h"
+#include "base/Strings.h"
+#include "surface/DocumentSurface.h"
+#include "surface/SurfaceContract.h"
+
+namespace lumenote {
+
+struct ViewLog final : SurfaceView {
+  std::vector<DocumentChange> changes;
+  int selections = 0;
+  int widths = 0;
+  int reveals = 0;
+
+  void DocumentChanged(const DocumentChange& change) override { changes.push_back(change); }
+  void SelectionChanged() override { ++selections; }
+  void WrapWidthChanged() override { ++widths; }
+  void RevealCaret() override { ++reveals; }
+  int LinesPerPage() const override { return 3; }
+};
+
+/// Lines of fifteen characters of ten points, pages of three lines.
+struct UserBench {
+  MemoryClipboard clipboard;
+  MemoryFiles files;
+  FixedBreaker breaker{1500};
+  ViewLog view;
+  DocumentSurface surface{clipboard, files, breaker};
+
+  UserBench() { surface.TextMode(kTextModeRichMultilevel); }
+
+  void Put(std::u16string_view marked) {
+    surface.Text(Unmarked(marked));
+    Select(marked);
+    view = {};
+    surface.View(&view);
+  }
+  void Select(std::u16string_view marked) {
+    const auto [anchor, caret] = MarksOf(marked);
+    surface.UserSelect(anchor, caret);
+  }
+  std::u16string Shown() const { return Marked(surface.Text(), surface.Anchor(), surface.Caret()); }
+  /// Whether every key of a list separated by blanks did something.
+  bool Press(std::u16string_view keys) {
+    bool all = true;
+    while (!keys.empty()) {
+      const std::size_t length = std::min(keys.find(u' '), keys.size());
+      all = surface.UserKey(ParseKey(keys.substr(0, length)).value()) && all;
+      keys.remove_prefix(std::min(length + 1, keys.size()));
+    }
+    return all;
+  }
+};
+
+}  // namespace lumenote

@@ -1,0 +1,45 @@
+// lumenote convert: a note as RTF or plain text, either way.
+#include <iostream>
+
+#include "Command.h"
+#include "NoteFile.h"
+#include "base/CommandLine.h"
+#include "rtf/CodePage.h"
+
+namespace lumenote::tool {
+namespace {
+
+constexpr OptionRule kOptions[] = {{"--to", true}};
+
+/// What --to or else the name says; nothing leaves the choice open.
+std::optional<Format> AskedFormat(const CommandLine& line) {
+  const std::string& target = line.Operands()[1];
+  if (const auto to = line.Value("--to")) {
+    if (*to == "rtf") return Format::Rtf;
+    if (*to == "txt") return Format::Text;
+    throw CommandLineError("--to attend rtf ou txt");
+  }
+  const std::optional<Format> named = FormatOfName(target);
+  if (!named && target != "-")
+    throw CommandLineError(target + " : extension .rtf ou .txt attendue, ou --to");
+  return named;
+}
+
+Format OtherThan(Format format) { return format == Format::Rtf ? Format::Text : Format::Rtf; }
+
+}  // namespace
+
+int Convert(Arguments arguments) {
+  const CommandLine line(arguments, kOptions);
+  if (line.Operands().size() != 2) throw CommandLineError("deux fichiers sont attendus");
+  const std::optional<Format> asked = AskedFormat(line);
+  const std::string& source = line.Operands()[0];
+  const Note note(source, ReadBytes(source));
+  const Format format = asked.value_or(OtherThan(note.Source()));
+  WriteBytes(line.Operands()[1], note.Bytes(format));
+  if (format == Format::Text && !Fits1252(note.Text()))
+    std::cerr << "lumenote : des caractères hors de la page de code 1252 sont devenus \"?\"\n";
+  return 0;
+}
+
+}  // namespace lumenote::tool

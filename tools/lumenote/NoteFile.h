@@ -1,0 +1,45 @@
+// Notes in native files and standard streams.
+#pragma once
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "backends/headless/FixedBreaker.h"
+#include "backends/posix/PosixFiles.h"
+#include "pilot/MemoryClipboard.h"
+#include "surface/DocumentSurface.h"
+
+namespace lumenote::tool {
+
+enum class Format { Rtf, Text };
+
+/// What a file name's extension says, in any letter case; nothing for another one.
+std::optional<Format> FormatOfName(std::string_view name);
+
+/// A note without a window.
+class Note {
+ public:
+  /// Raises `Failure` when `name` ends in .rtf and its content is not RTF. Without an extension
+  /// that says so, content is RTF when it looks like it.
+  Note(const std::string& name, std::string_view bytes);
+
+  /// The format it was read in.
+  Format Source() const { return source_; }
+  std::u16string Text() const { return surface_.Text(); }
+  /// The note as a file: RTF, or text in code page 1252 with CR LF.
+  std::string Bytes(Format format) const;
+
+ private:
+  MemoryClipboard clipboard_;
+  PosixFiles files_{DrivePaths{""}};
+  FixedBreaker breaker_{0};
+  DocumentSurface surface_{clipboard_, files_, breaker_};
+  Format source_;
+};
+
+/// `name` is a native path, or "-" for a standard stream. Raise `Failure`.
+std::string ReadBytes(const std::string& name);
+/// A file is replaced at once or not at all.
+void WriteBytes(const std::string& name, std::string_view bytes);
+
+}  // namespace lumenote::tool
