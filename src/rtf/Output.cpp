@@ -2,19 +2,28 @@
 #include "rtf/Output.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdint>
 #include <iterator>
 
+#include "rtf/PlainText.h"
+
 namespace lumenote {
 namespace {
 
-constexpr std::array<bool, 128> kPlain = [] {
-  std::array<bool, 128> plain{};
-  for (int c = 0x20; c < 0x7F; ++c) plain[c] = c != '\\' && c != '{' && c != '}';
-  return plain;
-}();
+/// Copies the plain beginning of `text`; returns its length.
+std::size_t PlainInto(std::u16string_view text, char* out) {
+  std::size_t done = 0;
+  while (done + kPlainStep <= text.size()) {
+    const int plain = PlainPrefix(text.data() + done);
+    for (int i = 0; i < kPlainStep; ++i) out[done + i] = static_cast<char>(text[done + i]);
+    done += static_cast<std::size_t>(plain);
+    if (plain < kPlainStep) return done;
+  }
+  for (; done < text.size() && IsPlain(text[done]); ++done)
+    out[done] = static_cast<char>(text[done]);
+  return done;
+}
 
 }  // namespace
 
@@ -36,7 +45,8 @@ void Output::Flush() {
 }
 
 void Output::Word(std::string_view name) {
-  Append("\\");
+  if (size_ == kPiece) Flush();
+  buffer_[size_++] = '\\';
   Append(name);
   openWord_ = true;
 }
@@ -71,18 +81,16 @@ void Output::Unicode(char16_t unit) {
 }
 
 std::size_t Output::Plain(std::u16string_view text) {
-  if (text.empty() || text[0] >= 0x80 || !kPlain[text[0]]) return 0;
+  if (text.empty() || !IsPlain(text.front())) return 0;
   if (openWord_) Raw(" ");
   std::size_t done = 0;
-  while (done < text.size() && text[done] < 0x80 && kPlain[text[done]]) {
+  std::size_t count = 0;
+  do {
     if (size_ == kPiece) Flush();
-    const std::size_t limit = std::min(text.size(), done + kPiece - size_);
-    char* out = buffer_.data() + size_ - done;
-    for (; done < limit && text[done] < 0x80 && kPlain[text[done]]; ++done) {
-      out[done] = static_cast<char>(text[done]);
-    }
-    size_ = static_cast<std::size_t>(out + done - buffer_.data());
-  }
+    count = PlainInto(text.substr(done, kPiece - size_), buffer_.data() + size_);
+    size_ += count;
+    done += count;
+  } while (size_ == kPiece && count > 0);
   return done;
 }
 

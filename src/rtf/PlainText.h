@@ -1,4 +1,4 @@
-// Scanning for what is not plain text, eight bytes at a time.
+// Scanning for what is not plain text, eight characters at a time.
 #pragma once
 #include <bit>
 #include <cstdint>
@@ -8,20 +8,43 @@ namespace lumenote {
 
 inline constexpr int kPlainStep = 8;
 
-/// How many of the `kPlainStep` bytes at `bytes` come before the first one that RTF does not take
-/// as plain text: a control character, a backslash, a brace, or a byte from 0x80 on.
-inline int PlainPrefix(const char* bytes) {
-  constexpr std::uint64_t kEach = 0x0101010101010101;
-  std::uint64_t word;
-  std::memcpy(&word, bytes, sizeof word);
-  // The top bit of each byte that is zero; exact, no carry runs into a neighbour.
-  const auto zeros = [](std::uint64_t w) { return ~(((w & kEach * 0x7F) + kEach * 0x7F) | w); };
-  const std::uint64_t marks = zeros(word ^ kEach * '\\') | zeros(word ^ kEach * '{') |
-                              zeros(word ^ kEach * '}') | zeros(word & kEach * 0xE0) | word;
-  const std::uint64_t tops = marks & kEach * 0x80;
-  const int bits =
-      std::endian::native == std::endian::little ? std::countr_zero(tops) : std::countl_zero(tops);
-  return bits / 8;
+/// Lanes of `Bits` bits in a 64-bit word.
+template <int Bits>
+struct Lanes {
+  static constexpr std::uint64_t kTop = std::uint64_t{1} << (Bits - 1);
+  static constexpr std::uint64_t kEach = ~std::uint64_t{0} / (kTop * 2 - 1);
+
+  /// The top bit of each lane that is zero; exact, no carry runs into a neighbour.
+  static std::uint64_t Zeros(std::uint64_t word) {
+    constexpr std::uint64_t kLow = kEach * (kTop - 1);
+    return ~(((word & kLow) + kLow) | word) & kEach * kTop;
+  }
+  /// How many lanes, in the order of memory, come before the first one that RTF does not take as
+  /// plain text: below 0x20 or from 0x80 on, a backslash or a brace.
+  static int Plain(const void* memory) {
+    std::uint64_t word;
+    std::memcpy(&word, memory, sizeof word);
+    const std::uint64_t ascii = Zeros(word & kEach * (kTop * 2 - 0x80));
+    const std::uint64_t marks = Zeros(word & kEach * (kTop * 2 - 0x20)) |
+                                Zeros(word ^ kEach * '\\') | Zeros(word ^ kEach * '{') |
+                                Zeros(word ^ kEach * '}') | (ascii ^ kEach * kTop);
+    const int bits = std::endian::native == std::endian::little ? std::countr_zero(marks)
+                                                                : std::countl_zero(marks);
+    return bits / Bits;
+  }
+};
+
+/// The same for `kPlainStep` bytes or units.
+inline int PlainPrefix(const char* bytes) { return Lanes<8>::Plain(bytes); }
+inline int PlainPrefix(const char16_t* units) {
+  constexpr int kHalf = kPlainStep / 2;
+  const int first = Lanes<16>::Plain(units);
+  return first < kHalf ? first : kHalf + Lanes<16>::Plain(units + kHalf);
+}
+
+/// Whether a single unit is plain text.
+inline bool IsPlain(char16_t unit) {
+  return unit >= 0x20 && unit < 0x80 && unit != u'\\' && unit != u'{' && unit != u'}';
 }
 
 }  // namespace lumenote

@@ -61,8 +61,8 @@ class Body {
   std::vector<ParaId> paragraphs_;
   Output& out_;
 
-  std::size_t next_ = 0;  // of `paragraphs_`
-  std::string words_;     // those of the paragraph
+  std::size_t next_ = 0;                // of `paragraphs_`
+  const std::string* words_ = nullptr;  // those of the paragraph, in `knownWords_`
   bool bullet_ = false;
   std::unordered_map<ParaId, std::string> knownWords_;
   WrittenFormat format_;
@@ -74,14 +74,12 @@ void Body::StartParagraph() {
   const ParaId paragraph = paragraphs_[next_];
   const bool bullet = tables_.paragraphs[paragraph].bullet != 0;
   const std::string& words = Words(paragraph);
-  const bool changed = next_ == 0 || bullet != bullet_ || words != words_;
+  const bool changed = !words_ || bullet != bullet_ || words != *words_;
   if (changed) out_.Word("pard");
   if (bullet) Bullet(changed);
-  if (changed) {
-    out_.Words(words);
-    words_ = words;
-    bullet_ = bullet;
-  }
+  if (changed) out_.Words(words);
+  words_ = &words;
+  bullet_ = bullet;
   ++next_;
 }
 

@@ -1,0 +1,26 @@
+# The CMake package: find_package(Lumenote), targets Lumenote::Lumenote and Lumenote::Qt.
+include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
+
+set(targets lumenote)
+if(LUMENOTE_QT)
+  list(APPEND targets lumenote_qt)
+endif()
+install(TARGETS ${targets} EXPORT LumenoteTargets)
+install(EXPORT LumenoteTargets NAMESPACE Lumenote::
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote)
+install(DIRECTORY src/ DESTINATION include/lumenote FILES_MATCHING PATTERN "*.h")
+
+configure_package_config_file(cmake/LumenoteConfig.cmake.in
+  ${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfig.cmake
+  INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote)
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfig.cmake
+              ${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfigVersion.cmake
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote)
+
+install(TARGETS lumenote_tool RUNTIME)
+if(LUMENOTE_QT)
+  install(TARGETS microedit RUNTIME)
+endif()

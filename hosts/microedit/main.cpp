@@ -1,0 +1,161 @@
+// The launcher: opens the editor on a note's file.
+#include <QApplication>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <vector>
+
+#include "backends/posix/PosixSandbox.h"
+#include "backends/qt/QtBackend.h"
+#include "backends/qt/QtPlatform.h"
+#include "backends/qt/QtUserActs.h"
+#include "backends/qt/Shot.h"
+#include "base/CommandLine.h"
+#include "base/RuntimeError.h"
+#include "base/Strings.h"
+#include "control/CoBxRtf.h"
+#include "control/Component.h"
+#include "editor/DocumentStorage.h"
+#include "pilot/RunPilot.h"
+#include "platform/Files.h"
+#include "platform/Paths.h"
+#include "rtf/CodePage.h"
+#include "rtf/Reader.h"
+
+using namespace lumenote;
+
+namespace {
+
+constexpr const char* kUsage = R"(Utilisation : microedit [OPTION...] NOTE
+
+Ouvre l'éditeur sur NOTE, un fichier .rtf ou .txt (chemin du système ou avec
+lettre de lecteur). Un fichier .rtf ou .txt qui manque est créé.
+
+  --title T       titre de la fenêtre
+  --frame T       titre du cadre
+  --colour N      couleur de la fenêtre, nombre décimal 0xBBGGRR
+  --key K         nom sous lequel la place de la fenêtre est gardée
+  --app NOM       nom de l'application pour les styles et la liste de corrections
+  --readonly      ouvre en lecture seule
+  --capture PNG   dessine la fenêtre dans un fichier PNG et quitte
+
+  --pilot SCRIPT [--root DOSSIER] [--shot PNG]
+                  conduit l'éditeur par un script (voir docs/pilot.md)
+  --help          affiche cette aide
+  --version       affiche la version
+)";
+
+constexpr OptionRule kOptions[] = {{"--title", true},   {"--frame", true}, {"--colour", true},
+                                   {"--key", true},     {"--app", true},   {"--readonly"},
+                                   {"--capture", true}, {"--pilot", true}, {"--root", true},
+                                   {"--shot", true},    {"--help"},        {"--version"}};
+
+int Fail(const std::string& message, int status) {
+  std::cerr << "microedit : " << message << "\n";
+  return status;
+}
+
+/// Why the note cannot be opened; empty when it can. A note that is missing can be created.
+std::string Obstacle(const Files& files, std::u16string_view path) {
+  const std::u16string format = FormatDe(path);
+  try {
+    if (!files.Exists(path))
+      return format == u"rtf" || format == u"txt" ? "" : "fichier introuvable";
+    const std::string bytes = files.ReadAll(path);
+    return format == u"txt" || LooksLikeRtf(bytes) ? "" : "n'est pas un fichier RTF";
+  } catch (const RuntimeError& error) {
+    return ToUtf8(error.Description());
+  }
+}
+
+/// A read-only note is handed over as a text, so that its file is out of reach whatever its own
+/// attribute says.
+void HandOver(CoBxRtf& control, const Files& files, const std::u16string& path, bool readOnly) {
+  if (!readOnly) {
+    control.pStrOrchm(path);
+    return;
+  }
+  control.pAttribut(u"readonly");
+  control.pStrOrchm(Decode1252(files.ReadAll(path)));
+}
+
+void Describe(CoBxRtf& control, const CommandLine& line) {
+  const auto text = [&](std::string_view option, std::string_view standard) {
+    return FromUtf8(line.Value(option).value_or(std::string(standard)));
+  };
+  control.pNomAppli(text("--app", "microedit"));
+  control.pTitreFenêtre(text("--title", "MicroEditeur"));
+  control.pTitreCadre(text("--frame", ""));
+  control.pCouleurFen(text("--colour", "14737632"));
+  control.pSScléReg(text("--key", "microedit"));
+}
+
+/// Opens the editor, draws it into a file and closes it again.
+bool Capture(CoBxRtf& control, QtPlatform& platform, const std::string& png) {
+  control.ShowMicroEdit();
+  Form* editor = control.Parts().windows.Active();
+  return editor && platform.SaveShot(*editor, png);
+}
+
+int Edit(const CommandLine& line) {
+  const std::string& note = line.Operands().front();
+  QtPlatform platform;
+  const std::u16string typed = FromUtf8(note);
+  const std::u16string path = IsDrivePath(typed) ? typed : platform.ToDrivePath(note);
+  if (!IsDrivePath(path)) return Fail(note + " : chemin trop court", 2);
+  if (const std::string why = Obstacle(platform.FileSystem(), path); !why.empty())
+    return Fail(note + " : " + why, 1);
+  CoBxRtf control(platform);
+  Describe(control, line);
+  HandOver(control, platform.FileSystem(), path, line.Has("--readonly"));
+  if (const auto png = line.Value("--capture"))
+    return Capture(control, platform, *png) ? 0 : Fail(*png + " : écriture impossible", 1);
+  control.ShowMicroEdit(1);
+  return control.Parts().session.loaded ? 0 : 1;
+}
+
+/// A script conducts the editor on real widgets, in a sandbox.
+int DrivePilot(const CommandLine& line) {
+  std::ifstream script(*line.Value("--pilot"), std::ios::binary);
+  if (!script) return Fail(*line.Value("--pilot") + " : lecture impossible", 2);
+  const auto root = line.Value("--root");
+  const auto sandbox =
+      root ? std::make_unique<PosixSandbox>(*root) : std::make_unique<PosixSandbox>();
+  QtBackend backend;
+  QtUserActs acts(backend);
+  PilotRun run{script, std::cout, std::cerr, *sandbox, backend, acts};
+  if (const auto png = line.Value("--shot"))
+    run.atEnd = [&backend, file = QString::fromStdString(*png)](const Form& active) {
+      SaveWindowShot(backend.Widgets(), active, file);
+    };
+  return RunPilot(run);
+}
+
+int Launch(int argc, char** argv) {
+  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+  const CommandLine line(arguments, kOptions);
+  if (line.Has("--help")) {
+    std::cout << kUsage;
+    return 0;
+  }
+  if (line.Has("--version")) {
+    std::cout << "microedit " LUMENOTE_VERSION "\n";
+    return 0;
+  }
+  if (line.Operands().size() != (line.Has("--pilot") ? 0 : 1))
+    return Fail("une note est attendue (voir --help)", 2);
+  const QApplication application(argc, argv);
+  return line.Has("--pilot") ? DrivePilot(line) : Edit(line);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Launch(argc, argv);
+  } catch (const CommandLineError& error) {
+    return Fail(error.what(), 2);
+  } catch (const RuntimeError& error) {
+    return Fail(ToUtf8(error.Description()), 1);
+  }
+}

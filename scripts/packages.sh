@@ -1,0 +1,23 @@
+# Sourced by run.sh, test.sh and .ci/run: installs the Debian packages that are missing.
+# usage: ensure_packages PACKAGE...
+
+ensure_packages() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q '^install ok installed$' ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  echo "Installing: ${missing[*]}"
+  local root=()
+  [ "$(id -u)" -eq 0 ] || root=(sudo)
+  "${root[@]}" apt-get update -qq
+  "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev)
+# Metric-compatible with the fonts that notes name.
+FONT_PACKAGES=(fonts-liberation fonts-dejavu-core fontconfig)
+TEST_PACKAGES=(libgtest-dev python3 xvfb xauth)
+CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev)

@@ -1,0 +1,152 @@
+#include "backends/qt/CharStyles.h"
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <algorithm>
+#include <cmath>
+
+#include "backends/qt/FontNames.h"
+#include "backends/qt/Units.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr std::size_t kMostStyles = 4096;
+constexpr double kLeastPoints = 1;
+constexpr double kMostPoints = 1638;
+constexpr int kMostStretch = 4000;  // per cent
+constexpr double kScriptSize = 0.65;
+constexpr double kSuperscriptRaise = 0.33;  // of the full size
+constexpr double kSubscriptRaise = -0.14;
+constexpr double kLeastContrast = 2;
+
+/// The underlines that the toolkit draws as wanted.
+QTextCharFormat::UnderlineStyle NativeUnderline(Underline kind) {
+  return kind == Underline::Single ? QTextCharFormat::SingleUnderline
+                                   : QTextCharFormat::NoUnderline;
+}
+
+double Luminance(const QColor& colour) {
+  const auto linear = [](double c) {
+    return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+         0.0722 * linear(colour.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const auto [low, high] = std::minmax({Luminance(one), Luminance(other)});
+  return (high + 0.05) / (low + 0.05);
+}
+
+QColor FromBgr(Colour colour) {
+  return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
+}
+
+/// Size of a character and the shift of its baseline that superscript, subscript and offset give.
+struct Raised {
+  double points;
+  double raise;  // pixels
+};
+
+Raised RaisedSize(const CharFormat& format) {
+  const double full = std::clamp(format.size / 2.0, kLeastPoints, kMostPoints);
+  const double pixels = full * 4 / 3;
+  const double offset = ToPixels(format.offset);
+  if (format.effects & kSuperscript)
+    return {full * kScriptSize, offset + pixels * kSuperscriptRaise};
+  if (format.effects & kSubscript) return {full * kScriptSize, offset + pixels * kSubscriptRaise};
+  return {full, offset};
+}
+
+void SetCase(QFont& font, unsigned effects) {
+  if (effects & kAllCaps) font.setCapitalization(QFont::AllUppercase);
+  if (effects & kSmallCaps) font.setCapitalization(QFont::SmallCaps);
+}
+
+QFont MakeFont(const FontFace& face, const CharFormat& format, double points, double zoom) {
+  QFont font(MachineFamily(face));
+  font.setPointSizeF(std::max(points * zoom, kLeastPoints));
+  font.setBold(format.effects & kBold);
+  font.setItalic(format.effects & kItalic);
+  SetCase(font, format.effects);
+  if (format.scale != 100) font.setStretch(std::clamp<int>(format.scale, 1, kMostStretch));
+  if (format.spacing != 0) {
+    const double least = -points / 2;  // keeps characters in their order
+    font.setLetterSpacing(QFont::AbsoluteSpacing, std::max(ToPixels(format.spacing), least) * zoom);
+  }
+  return QFont(font, CharStyles::Device());
+}
+
+}  // namespace
+
+QPaintDevice* CharStyles::Device() {
+  static QImage device = [] {
+    QImage image(1, 1, QImage::Format_RGB32);
+    constexpr int kDotsPerMetre = 3780;  // 96 an inch
+    image.setDotsPerMeterX(kDotsPerMetre);
+    image.setDotsPerMeterY(kDotsPerMetre);
+    return image;
+  }();
+  return &device;
+}
+
+const CharStyle& CharStyles::Of(const Document& document, CharId id) {
+  if (const auto found = styles_.find(id); found != styles_.end()) return found->second;
+  if (styles_.size() >= kMostStyles) styles_.clear();
+  return styles_.emplace(id, Make(document, document.Formats().characters[id])).first->second;
+}
+
+const CharStyle& CharStyles::Of(const Document& document, const CharFormat& format) {
+  if (!lastStyle_ || !(lastFormat_ == format)) lastStyle_ = Make(document, format);
+  lastFormat_ = format;
+  return *lastStyle_;
+}
+
+CharStyle CharStyles::Make(const Document& document, const CharFormat& format) const {
+  const Raised raised = RaisedSize(format);
+  const FontFace& face = document.Formats().fonts[format.font];
+  const QFont font = MakeFont(face, format, raised.points, zoom_);
+  const QFontMetricsF metrics(font);
+  CharStyle style;
+  style.ascent = metrics.ascent();
+  style.descent = metrics.descent();
+  style.raise = raised.raise * zoom_;
+  style.hidden = format.effects & kHidden;
+  style.object = format.object != 0;
+  style.doubleStrike = format.effects & kDoubleStrike;
+  style.underline = format.underline == Underline::Single ? Underline::None : format.underline;
+  style.format.setFont(font);
+  style.format.setFontStrikeOut(format.effects & (kStrike | kDeleted));
+  style.format.setUnderlineStyle(NativeUnderline(format.underline));
+  style.format.setBaselineOffset(100 * style.raise / (style.ascent + style.descent));
+  if (format.colour != kAutoColour) style.format.setForeground(Readable(format.colour));
+  if (style.object) style.format.setForeground(QColor(Qt::transparent));
+  if (format.highlight != kAutoColour) style.format.setBackground(FromBgr(format.highlight));
+  return style;
+}
+
+void CharStyles::Zoom(double factor) {
+  zoom_ = factor;
+  Forget();
+}
+
+void CharStyles::Ground(const QColor& colour) {
+  ground_ = colour;
+  Forget();
+}
+
+void CharStyles::Forget() {
+  styles_.clear();
+  lastStyle_.reset();
+}
+
+QColor CharStyles::Readable(Colour colour) const {
+  const QColor wanted = FromBgr(colour);
+  const bool darkGround = ground_.lightness() < 128;
+  if (!darkGround || Contrast(wanted, ground_) >= kLeastContrast) return wanted;
+  return QColor::fromHsl(wanted.hslHue(), wanted.hslSaturation(), 255 - wanted.lightness());
+}
+
+}  // namespace lumenote

@@ -1,0 +1,53 @@
+// Character formats as the toolkit draws them.
+#pragma once
+#include <QColor>
+#include <QTextCharFormat>
+#include <optional>
+#include <unordered_map>
+
+#include "document/Document.h"
+
+namespace lumenote {
+
+/// One character format at one zoom; lengths in pixels.
+struct CharStyle {
+  QTextCharFormat format;  // font, colours, raise; underlines only where the toolkit has them
+  double ascent = 0;       // of the font, above its baseline
+  double descent = 0;
+  double raise = 0;                       // of the font's baseline above the line's
+  Underline underline = Underline::None;  // left to the painter
+  bool doubleStrike = false;              // left to the painter
+  bool hidden = false;
+  bool object = false;  // a placeholder, itself invisible, is left to the painter
+};
+
+/// The styles of one document's formats, made when first asked for.
+class CharStyles {
+ public:
+  /// Valid until the next call of any member.
+  const CharStyle& Of(const Document& document, CharId id);
+  /// Of a format that no text need have yet.
+  const CharStyle& Of(const Document& document, const CharFormat& format);
+
+  double Zoom() const { return zoom_; }
+  void Zoom(double factor);
+  /// The colour that text stands on: colours that would be lost on it are lightened or darkened.
+  void Ground(const QColor& colour);
+
+  /// What a font is measured with, so that a point is 4/3 pixels on every screen.
+  static QPaintDevice* Device();
+
+ private:
+  CharStyle Make(const Document& document, const CharFormat& format) const;
+  QColor Readable(Colour colour) const;
+
+  void Forget();
+
+  std::unordered_map<CharId, CharStyle> styles_;
+  CharFormat lastFormat_;  // the one asked for by itself last
+  std::optional<CharStyle> lastStyle_;
+  double zoom_ = 1;
+  QColor ground_ = Qt::white;
+};
+
+}  // namespace lumenote

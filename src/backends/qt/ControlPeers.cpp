@@ -1,0 +1,45 @@
+// Which peer each kind of control gets: a kind is one line here and a class of its own.
+#include <stdexcept>
+
+#include "backends/qt/FramePeer.h"
+#include "backends/qt/LabelPeer.h"
+#include "backends/qt/RichTextPeer.h"
+#include "backends/qt/StatusBarPeer.h"
+
+namespace lumenote {
+
+namespace {
+
+using Maker = std::unique_ptr<ControlPeer> (*)(Control&, QWidget&, LayouterSource&);
+
+template <class Kind, class Peer>
+std::unique_ptr<ControlPeer> Make(Control& control, QWidget& parent, LayouterSource& layouters) {
+  auto* kind = dynamic_cast<Kind*>(&control);
+  return kind ? std::make_unique<Peer>(*kind, parent, layouters) : nullptr;
+}
+
+constexpr Maker kMakers[] = {
+    Make<Frame, FramePeer>,
+    Make<Label, LabelPeer>,
+    Make<RichTextBox, RichTextPeer>,
+    Make<StatusBar, StatusBarPeer>,
+};
+
+constexpr Property kAllOfAControl[] = {Property::Geometry, Property::Caption, Property::Enabled,
+                                       Property::Checked,  Property::Panels,  Property::Content,
+                                       Property::Visible};
+
+}  // namespace
+
+std::unique_ptr<ControlPeer> MakeControlPeer(Control& control, QWidget& parent,
+                                             LayouterSource& layouters) {
+  for (const Maker make : kMakers) {
+    auto peer = make(control, parent, layouters);
+    if (!peer) continue;
+    for (const Property property : kAllOfAControl) peer->Update(property);
+    return peer;
+  }
+  throw std::logic_error("no widget for the control " + control.Name());
+}
+
+}  // namespace lumenote

@@ -1,0 +1,54 @@
+#include "backends/qt/FramePeer.h"
+
+#include <QPainter>
+
+#include "backends/qt/QtText.h"
+
+namespace lumenote {
+
+namespace {
+constexpr int kTitleLeft = 8;
+constexpr int kTitleGap = 3;
+}  // namespace
+
+void FrameWidget::Title(const QString& text) {
+  title_ = text;
+  update();
+}
+
+void FrameWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor ground = palette().color(QPalette::Window);
+  const QFontMetrics metrics = fontMetrics();
+  const int lineY = metrics.height() / 2;
+  const QRect titleBox(kTitleLeft, 0, metrics.size(Qt::TextShowMnemonic, title_).width(),
+                       metrics.height());
+  if (!title_.isEmpty()) {
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(titleBox, Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic, title_);
+    painter.setClipRegion(QRegion(rect()) - titleBox.adjusted(-kTitleGap, 0, kTitleGap, 0));
+  }
+  const QRect line(0, lineY, width() - 1, height() - lineY - 1);
+  painter.setPen(ground.lighter(125));
+  painter.drawRect(line.translated(1, 1).adjusted(0, 0, -1, -1));
+  painter.setPen(ground.darker(145));
+  painter.drawRect(line.adjusted(0, 0, -1, -1));
+}
+
+FramePeer::FramePeer(Frame& frame, QWidget& parent, LayouterSource&)
+    : FramePeer(frame, new FrameWidget(&parent)) {}
+
+FramePeer::FramePeer(Frame& frame, FrameWidget* widget)
+    : ControlPeer(frame, *widget), frame_(frame), widget_(*widget) {}
+
+void FramePeer::Update(Property property) {
+  ControlPeer::Update(property);
+  if (property == Property::Caption) widget_.Title(ToQString(frame_.Caption()));
+}
+
+void FramePeer::Compare(DifferenceList& differences) const {
+  ControlPeer::Compare(differences);
+  differences.Check(frame_, "Caption", widget_.Title() == ToQString(frame_.Caption()));
+}
+
+}  // namespace lumenote

@@ -1,0 +1,21 @@
+// Keys of the toolkit and of the surface.
+#pragma once
+#include <QKeyEvent>
+#include <optional>
+
+#include "surface/KeyStroke.h"
+
+namespace lumenote {
+
+/// Empty for a key that the surface has no name for, a lone modifier above all.
+std::optional<KeyStroke> StrokeOf(const QKeyEvent& event);
+/// The event that pressing (or releasing) the key brings.
+QKeyEvent EventOf(const KeyStroke& key, QEvent::Type type);
+/// What the key types by itself; empty for a command.
+QString TypedText(const QKeyEvent& event);
+/// Whether the key moves the caret or copies, but never changes the text.
+bool OnlyLooks(const KeyStroke& key);
+/// Whether an editor uses such a key, so that no shortcut of the host should take it.
+bool IsEditingKey(const KeyStroke& key);
+
+}  // namespace lumenote

@@ -1,0 +1,21 @@
+// The look of the low menu bar: the desktop's style with less room around the captions.
+#pragma once
+#include <QProxyStyle>
+
+namespace lumenote {
+
+/// A menu bar of 20 pixels has no room for what styles put around its items, and the blanks in the
+/// captions are all the room between them that the design wants.
+class MenuBarStyle : public QProxyStyle {
+ public:
+  MenuBarStyle();
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,48 @@
+// The forms on Qt widgets.
+#pragma once
+#include <QDeadlineTimer>
+#include <memory>
+#include <unordered_map>
+
+#include "backends/qt/QtBreaker.h"
+#include "backends/qt/QtFormPeer.h"
+#include "backends/qt/QtTimers.h"
+#include "backends/qt/WidgetRegistry.h"
+#include "forms/Backend.h"
+
+namespace lumenote {
+
+/// Needs a QApplication, and outlives the windows.
+class QtBackend final : public Backend, private PeerServices {
+ public:
+  std::unique_ptr<FormPeer> Realise(Form& form) override;
+  std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
+                                               Files& files) override;
+  MessageBox::Answer Show(const MessageBox& box, Form* over) override;
+  void RunUntil(const std::function<bool()>& done) override;
+  void Arm(Timer& timer) override { timers_.Arm(timer); }
+  void Disarm(Timer& timer) override { timers_.Disarm(timer); }
+
+  /// The window, widget or action that shows an element.
+  WidgetRegistry& Widgets() override { return widgets_; }
+  void Activating(Form& form) override;
+
+ private:
+  struct SurfaceLayout {
+    TextLayouter layouter;
+    QtBreaker breaker{layouter};
+  };
+
+  TextLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
+  void NativelyActive(Form& form) override;
+  void Gone(Form& form) override;
+
+  WidgetRegistry widgets_;
+  QtTimers timers_;
+  // A box that is made where an earlier one was takes its place here.
+  std::unordered_map<const Control*, std::unique_ptr<SurfaceLayout>> layouts_;
+  const Form* awaited_ = nullptr;  // told to become active, not so yet
+  QDeadlineTimer awaiting_{0};
+};
+
+}  // namespace lumenote

@@ -1,0 +1,67 @@
+#include "backends/qt/QtPlatform.h"
+
+#include <QApplication>
+
+#include "backends/posix/DrivePaths.h"
+#include "backends/posix/IniSettings.h"
+#include "backends/posix/PosixFiles.h"
+#include "backends/posix/PosixFolders.h"
+#include "backends/qt/QtBackend.h"
+#include "backends/qt/QtClipboard.h"
+#include "backends/qt/Shot.h"
+#include "forms/Form.h"
+
+namespace lumenote {
+
+namespace {
+
+/// The program's application object, made when the host has none.
+class OwnApplication {
+ public:
+  OwnApplication() {
+    if (!QCoreApplication::instance())
+      application_ = std::make_unique<QApplication>(count_, names_);
+  }
+
+ private:
+  char name_[9] = "Lumenote";
+  char* names_[2] = {name_, nullptr};
+  int count_ = 1;
+  std::unique_ptr<QApplication> application_;
+};
+
+}  // namespace
+
+struct QtPlatform::Parts {
+  OwnApplication application;
+  DrivePaths drives = DrivePaths::OfUser();
+  QtBackend windows;
+  QtClipboard clipboard;
+  PosixFiles files{drives};
+  IniSettings settings;
+  PosixFolders folders{drives};
+};
+
+QtPlatform::QtPlatform() : parts_(std::make_unique<Parts>()) {}
+
+QtPlatform::~QtPlatform() = default;
+
+Backend& QtPlatform::Windows() { return parts_->windows; }
+
+Settings& QtPlatform::UserSettings() { return parts_->settings; }
+
+Files& QtPlatform::FileSystem() { return parts_->files; }
+
+Folders& QtPlatform::SpecialFolders() { return parts_->folders; }
+
+Clipboard& QtPlatform::SystemClipboard() { return parts_->clipboard; }
+
+std::u16string QtPlatform::ToDrivePath(std::string_view native) const {
+  return parts_->drives.ToDrivePath(native);
+}
+
+bool QtPlatform::SaveShot(const Form& form, const std::string& path) {
+  return SaveWindowShot(parts_->windows.Widgets(), form, QString::fromStdString(path));
+}
+
+}  // namespace lumenote

@@ -1,0 +1,39 @@
+// The desktop as a program's platform: Qt windows, the user's files, settings and clipboard.
+#pragma once
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "forms/Platform.h"
+
+namespace lumenote {
+
+class Form;
+
+/// `QtPlatform platform; CoBxRtf control(platform);` is all a host needs. Works in a program that
+/// has a QApplication, which must outlive it, and makes one of its own where there is none.
+class QtPlatform final : public Platform {
+ public:
+  QtPlatform();
+  ~QtPlatform() override;
+
+  Backend& Windows() override;
+  Settings& UserSettings() override;
+  Files& FileSystem() override;
+  Folders& SpecialFolders() override;
+  Clipboard& SystemClipboard() override;
+
+  /// A native path, UTF-8, as the path that the control takes. Raises PathNotFound for one that no
+  /// drive-letter path can name.
+  std::u16string ToDrivePath(std::string_view native) const;
+
+  /// Draws the window of a form that is loaded, without the desktop's decorations, into a PNG file
+  /// of that native path; false when it cannot be written.
+  bool SaveShot(const Form& form, const std::string& path);
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,171 @@
+#include "backends/qt/QtUserActs.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPointer>
+#include <stdexcept>
+
+#include "backends/qt/FormWindow.h"
+#include "backends/qt/Keys.h"
+#include "backends/qt/MouseButtons.h"
+#include "backends/qt/QtBackend.h"
+#include "backends/qt/QtText.h"
+#include "backends/qt/RichTextView.h"
+#include "backends/qt/SelectionMime.h"
+#include "backends/qt/Units.h"
+#include "forms/RichTextBox.h"
+
+namespace lumenote {
+
+namespace {
+
+template <class Kind>
+Kind& Shown(const WidgetRegistry& widgets, const Element& element) {
+  if (auto* found = widgets.Find<Kind>(element)) return *found;
+  throw std::logic_error(element.Name() + " is not on screen");
+}
+
+/// A mouse over a control: its events go to the innermost widget at the point.
+class Hand {
+ public:
+  Hand(QWidget& widget, QPointF at) {
+    QWidget* inner = widget.childAt(at.toPoint());
+    target_ = inner ? inner : &widget;
+    at_ = target_->mapFrom(&widget, at);
+  }
+
+  /// The widget may be gone after any event.
+  void Send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+    if (!target_) return;
+    QMouseEvent event(type, at_, target_->mapToGlobal(at_), button, held, Qt::NoModifier);
+    QApplication::sendEvent(target_, &event);
+  }
+  void Press(Qt::MouseButton button, QEvent::Type type = QEvent::MouseButtonPress) {
+    Send(type, button, button);
+  }
+  void Release(Qt::MouseButton button) { Send(QEvent::MouseButtonRelease, button, {}); }
+  void Move(Qt::MouseButton held) { Send(QEvent::MouseMove, Qt::NoButton, held); }
+
+ private:
+  QPointer<QWidget> target_;
+  QPointF at_;
+};
+
+void PressKey(QWidget& widget, const KeyStroke& key) {
+  const QPointer<QWidget> target = &widget;
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event = EventOf(key, type);
+    if (target) QApplication::sendEvent(target, &event);
+  }
+}
+
+void TypeCharacter(QWidget& widget, QStringView text) {
+  const QPointer<QWidget> target = &widget;
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, Qt::Key_unknown, Qt::NoModifier, text.toString());
+    if (target) QApplication::sendEvent(target, &event);
+  }
+}
+
+}  // namespace
+
+QtUserActs::QtUserActs(QtBackend& backend) : backend_(backend), widgets_(backend.Widgets()) {}
+
+RichTextView& QtUserActs::ViewOf(RichTextBox& box) const {
+  return Shown<RichTextView>(widgets_, box);
+}
+
+void QtUserActs::Click(Control& control) {
+  QWidget& widget = Shown<QWidget>(widgets_, control);
+  Hand hand(widget, QRectF(widget.rect()).center());
+  hand.Press(Qt::LeftButton);
+  hand.Release(Qt::LeftButton);
+}
+
+void QtUserActs::DoubleClick(Control& control) {
+  QWidget& widget = Shown<QWidget>(widgets_, control);
+  Hand hand(widget, QRectF(widget.rect()).center());
+  hand.Press(Qt::LeftButton);
+  hand.Release(Qt::LeftButton);
+  hand.Press(Qt::LeftButton, QEvent::MouseButtonDblClick);
+  hand.Release(Qt::LeftButton);
+}
+
+void QtUserActs::Choose(Menu& entry) { Shown<QAction>(widgets_, entry).trigger(); }
+
+void QtUserActs::Open(Menu& menu) {
+  if (QMenu* list = Shown<QAction>(widgets_, menu).menu())
+    QMetaObject::invokeMethod(list, "aboutToShow");
+  else
+    menu.UserOpen();
+}
+
+void QtUserActs::Type(Control& control, std::u16string_view text) {
+  control.SetFocus();
+  const QPointer<QWidget> widget = &Shown<QWidget>(widgets_, control);
+  const QString typed = ToLines(text);
+  for (qsizetype i = 0; i < typed.size() && widget; ++i) {
+    const bool pair = typed[i].isHighSurrogate() && i + 1 < typed.size();
+    if (typed[i] == u'\n')
+      PressKey(*widget, {.name = KeyName::Return});
+    else if (typed[i] == u'\t')
+      PressKey(*widget, {.name = KeyName::Tab});
+    else
+      TypeCharacter(*widget, QStringView(typed).mid(i, pair ? 2 : 1));
+    if (pair) ++i;
+  }
+}
+
+void QtUserActs::Key(Control& control, const KeyStroke& key) {
+  control.SetFocus();
+  PressKey(Shown<QWidget>(widgets_, control), key);
+}
+
+void QtUserActs::Select(RichTextBox& box, Position start, Position length) {
+  box.SetFocus();
+  RichTextView& view = ViewOf(box);
+  const Position end = start + std::min(length, view.Surface().Content().Length());
+  view.Act([&] { view.Surface().UserSelect(start, end); });
+}
+
+void QtUserActs::Mouse(Control& control, MouseAct act, const MouseEvent& event) {
+  Hand hand(Shown<QWidget>(widgets_, control), QPointF(ToPixels(event.at.x), ToPixels(event.at.y)));
+  const Qt::MouseButton button = ButtonOf(event.button);
+  if (act == MouseAct::Down) hand.Press(button);
+  if (act == MouseAct::Move) hand.Move(button);
+  if (act == MouseAct::Up) hand.Release(button);
+}
+
+void QtUserActs::Drag(RichTextBox& box, Position start, Position length, Position to) {
+  Select(box, start, length);
+  RichTextView& view = ViewOf(box);
+  view.Pane().Reveal(to);
+  view.Settle();
+  const std::optional<QRectF> caret = view.Pane().CaretAt(to);
+  if (!caret) return;
+  const SelectionMime content(view);
+  const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
+  const QPointF at(caret->left(), caret->center().y());
+  QDragEnterEvent enter(at.toPoint(), actions, &content, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view.viewport(), &enter);
+  QDropEvent drop(at, actions, &content, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view.viewport(), &drop);
+}
+
+void QtUserActs::Resize(Form& form, float width, float height) {
+  Shown<FormWindow>(widgets_, form).DragTo(width, height);
+}
+
+void QtUserActs::Activate(Form& form) {
+  FormWindow& window = Shown<FormWindow>(widgets_, form);
+  backend_.Activating(form);
+  window.activateWindow();
+  QApplication::setActiveWindow(&window);
+}
+
+void QtUserActs::Close(Form& form) { Shown<FormWindow>(widgets_, form).close(); }
+
+}  // namespace lumenote

@@ -1,0 +1,56 @@
+#include "backends/qt/ViewDrop.h"
+
+#include "backends/qt/MimeContent.h"
+#include "backends/qt/RichTextView.h"
+#include "backends/qt/SelectionMime.h"
+
+namespace lumenote {
+
+namespace {
+constexpr double kEdge = 12;  // pixels
+}
+
+bool ViewDrop::Accepts(const QDropEvent& event) const {
+  return !view_.IsLocked() && event.mimeData() && HasMimeContent(*event.mimeData());
+}
+
+bool ViewDrop::IsOwn(const QDropEvent& event) const {
+  const auto* selection = dynamic_cast<const SelectionMime*>(event.mimeData());
+  return selection && selection->View() == &view_;
+}
+
+void ViewDrop::Move(QDropEvent& event) {
+  event.setAccepted(Accepts(event));
+  if (!event.isAccepted()) return;
+  const bool copy = event.modifiers() & Qt::ControlModifier;
+  event.setDropAction(IsOwn(event) && !copy ? Qt::MoveAction : event.proposedAction());
+  ScrollNearEdge(event.position().y());
+  view_.DropCaret(view_.Pane().PositionAt(event.position()));
+}
+
+void ViewDrop::ScrollNearEdge(double y) {
+  const double below = y - (view_.Pane().Size().height() - kEdge);
+  if (y < kEdge)
+    view_.ScrollBy(y - kEdge);
+  else if (below > 0)
+    view_.ScrollBy(below);
+}
+
+void ViewDrop::Leave() { view_.DropCaret(std::nullopt); }
+
+void ViewDrop::Drop(QDropEvent& event) {
+  Leave();
+  event.setAccepted(Accepts(event));
+  if (!event.isAccepted()) return;
+  const Position target = view_.Pane().PositionAt(event.position());
+  const bool copy = event.modifiers() & Qt::ControlModifier;
+  if (IsOwn(event)) {
+    event.setDropAction(copy ? Qt::CopyAction : Qt::MoveAction);
+    view_.Act([&] { view_.Surface().UserDrop(target, copy); });
+  } else {
+    const ClipboardContent content = ReadMime(*event.mimeData());
+    view_.Act([&] { view_.Surface().UserDropContent(content, target); });
+  }
+}
+
+}  // namespace lumenote
