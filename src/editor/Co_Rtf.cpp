@@ -6,8 +6,12 @@
 #include "editor/Layout.h"
 #include "editor/SessionLife.h"
 #include "editor/WindowPlace.h"
+#include "format/FormatCommands.h"
+#include "format/Ruler.h"
 #include "forms/Platform.h"
 #include "platform/Settings.h"
+#include "selection/LetterCase.h"
+#include "selection/TextUnits.h"
 
 namespace lumenote {
 
@@ -18,8 +22,11 @@ Co_Rtf::Co_Rtf(WindowList& windows, Session& session)
   Bx_Règle.Locked(true);
   Bx_RTF.Change = [this] { Bx_RTF_Change(); };
   Bx_RTF.MouseUp = [this](const MouseEvent& event) { Bx_RTF_MouseUp(event); };
+  Bx_Règle.Surface().TextRTF(RulerRtf());
   WirePopup();
-  Bar.mnuFmtActBarMenu.Click = [this] { AfficheBarreMenu(3); };
+  WireBar();
+  WireSelectionMenu();
+  WireZones();
   DisableEntriesWithoutCommand();
 }
 
@@ -35,6 +42,46 @@ void Co_Rtf::WirePopup() {
   Pop.mnuPopEnregistrer.Click = [this] { mnuPopEnregistrer_Click(); };
   Pop.mnuPopSupprDoc.Click = [this] { mnuPopSupprDoc_Click(); };
   Pop.mnuPopQuitter.Click = [this] { mnuPopQuitter_Click(); };
+}
+
+void Co_Rtf::WireBar() {
+  Bar.mnuGras.Click = [this] { BasculerGras(Document()); };
+  Bar.mnuItal.Click = [this] { BasculerItalique(Document()); };
+  Bar.mnuSoul.Click = [this] { BasculerSouligné(Document()); };
+  Bar.mnuBarré.Click = [this] { BasculerBarré(Document()); };
+  Bar.mnuNorm.Click = [this] { MettreNormal(Document()); };
+  Bar.mnubulles.Click = [this] { BasculerPuces(Document()); };
+  Bar.mnuIdt.Click = [this] { DécalerRetrait(Document(), kIndentStep); };
+  Bar.mnuODt.Click = [this] { DécalerRetrait(Document(), -kIndentStep); };
+  Bar.mnuEdtGauche.Click = [this] { Align(0); };
+  Bar.mnuEdtCentre.Click = [this] { Align(2); };
+  Bar.mnuEdtDroite.Click = [this] { Align(1); };
+  Bar.mnuFmtActRègle.Click = [this] { mnuFmtActRègle_Click(); };
+  Bar.mnuFmtActBarMenu.Click = [this] { AfficheBarreMenu(3); };
+}
+
+void Co_Rtf::WireSelectionMenu() {
+  Bar.mnuSelMot.Click = [this] { SelectMot(Document()); };
+  Bar.mnuSelPhrase.Click = [this] { SelectPhrase(Document()); };
+  Bar.mnuSelLigne.Click = [this] { mnuSelLigne_Click(); };
+  Bar.mnuSelParagraphe.Click = [this] { SelectParagraphe(Document()); };
+  Bar.mnuSelTout.Click = [this] { SelectTout(Document()); };
+  Bar.mnuEdtUpperCase.Click = [this] { MettreEnMajuscules(Document()); };
+  Bar.mnuEdtLowerCase.Click = [this] { MettreEnMinuscules(Document()); };
+  Bar.mnuEdtTitre.Click = [this] { MettreEnTitre(Document(), Machine().SystemClipboard()); };
+  Bar.mnuEdtSuperScript.Click = [this] { Document().SelCharOffset(kExposant); };
+  Bar.mnuEdtSubScript.Click = [this] { Document().SelCharOffset(kIndice); };
+  Bar.mnuEdtNoScript.Click = [this] { Document().SelCharOffset(0); };
+}
+
+void Co_Rtf::WireZones() {
+  Bx_Règle.MouseUp = [this](const MouseEvent& event) { SwitchZone(event.at.x, Bx_RTF.Width()); };
+  for (int index = 0; index < Lb_3Bascules.Count(); ++index) {
+    Label& label = Lb_3Bascules(index);
+    label.MouseUp = [this, &label](const MouseEvent& event) {
+      SwitchZone(event.at.x, label.Width());
+    };
+  }
 }
 
 void Co_Rtf::DisableEntriesWithoutCommand() {
@@ -119,6 +166,33 @@ void Co_Rtf::AfficheBarreMenu(int mode) {
   session_.menuBarShown = mode == 3 ? !session_.menuBarShown : mode == 1;
   Form_Resize();
   Bar.Visible(session_.menuBarShown);
+}
+
+void Co_Rtf::SwitchZone(float x, float middleWidth) {
+  switch (ZoneAt(x, Bx_RTF.Width(), middleWidth)) {
+    case Zone::Left:
+      AfficheBarreMenu(3);
+      break;
+    case Zone::Middle:
+      mnuFmtActRègle_Click();
+      break;
+    case Zone::Right:
+      break;
+  }
+}
+
+void Co_Rtf::mnuFmtActRègle_Click() { Bx_Règle.Visible(!Bx_Règle.Visible()); }
+
+// --- selection and formats
+
+void Co_Rtf::mnuSelLigne_Click() {
+  bool failed = false;
+  SelectLigne(Document(), failed);
+}
+
+void Co_Rtf::Align(int alignment) {
+  Document().SelAlignment(alignment);
+  Bx_RTF.SetFocus();
 }
 
 // --- document and context menu

@@ -52,10 +52,19 @@ class Co_Rtf : public Form, public EditorWindow {
   void Form_Unload() override;
 
   void WirePopup();
+  void WireBar();
+  void WireSelectionMenu();
+  void WireZones();
   void DisableEntriesWithoutCommand();
 
   void Bx_RTF_Change();
   void Bx_RTF_MouseUp(const MouseEvent& event);
+  /// A click on the ruler or on one of the labels above and below the document.
+  void SwitchZone(float x, float middleWidth);
+  void mnuFmtActRègle_Click();
+  void mnuSelLigne_Click();
+  /// The menu commands of alignment give the keyboard back to the document.
+  void Align(int alignment);
   void mnuPop_Click();
   void mnuPopMettreDessus_Click();
   void mnuPopEnregistrer_Click();
