@@ -6,7 +6,9 @@
 namespace lumenote {
 
 Control::Control(Container& container, std::string name, Rect place)
-    : Element(container.ContainingForm(), std::move(name)), container_(container), place_(place) {
+    : ShownElement(container.ContainingForm(), std::move(name)),
+      container_(container),
+      place_(place) {
   Enlist();
   container_.controls_.push_back(this);
 }
@@ -28,18 +30,6 @@ void Control::Width(float twips) { Place({place_.left, place_.top, twips, place_
 
 void Control::Height(float twips) { Place({place_.left, place_.top, place_.width, twips}); }
 
-void Control::Visible(bool on) {
-  if (on == visible_) return;
-  visible_ = on;
-  Changed(Property::Visible);
-}
-
-void Control::Enabled(bool on) {
-  if (on == enabled_) return;
-  enabled_ = on;
-  Changed(Property::Enabled);
-}
-
 void Control::SetFocus() {
   if (!TakesFocus()) return;
   Owner().ActiveControl(this);
@@ -52,7 +42,7 @@ void Control::UserMouseUp(const MouseEvent& event) {
 }
 
 void Control::Describe(MemberTable& members) {
-  Element::Describe(members);
+  ShownElement::Describe(members);
   const auto length = [&](std::string_view name, auto get, auto set) {
     members.Add(
         name, [this, get] { return Value((this->*get)()); },
@@ -64,12 +54,6 @@ void Control::Describe(MemberTable& members) {
   length("Top", Get(&Control::Top), Set(&Control::Top));
   length("Width", Get(&Control::Width), Set(&Control::Width));
   length("Height", Get(&Control::Height), Set(&Control::Height));
-  members.Add(
-      "Visible", [this] { return Value(Visible()); },
-      [this](const Value& value) { Visible(BooleanOf(value)); });
-  members.Add(
-      "Enabled", [this] { return Value(Enabled()); },
-      [this](const Value& value) { Enabled(BooleanOf(value)); });
 }
 
 }  // namespace lumenote

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/Element.h"
 #include "forms/Geometry.h"
+#include "forms/ShownElement.h"
 
 namespace lumenote {
 
@@ -33,7 +33,7 @@ struct MouseEvent {
 };
 
 /// A control with its place, visibility and enabled state. Assigning what already stands is silent.
-class Control : public Element {
+class Control : public ShownElement {
  public:
   Control(Container& container, std::string name, Rect place);
   ~Control() override;
@@ -50,11 +50,6 @@ class Control : public Element {
   void Width(float twips);
   float Height() const { return place_.height; }
   void Height(float twips);
-
-  bool Visible() const { return visible_; }
-  void Visible(bool on);
-  bool Enabled() const { return enabled_; }
-  void Enabled(bool on);
 
   /// Whether the keyboard can reach the control.
   virtual bool TakesFocus() const { return false; }
@@ -74,8 +69,6 @@ class Control : public Element {
 
   Container& container_;
   Rect place_;
-  bool visible_ = true;
-  bool enabled_ = true;
 };
 
 }  // namespace lumenote

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Numbers.h"
 #include "base/Strings.h"
 #include "forms/Menu.h"
 #include "forms/Platform.h"
@@ -209,7 +210,7 @@ void Form::Describe(MemberTable& members) {
   });
   members.Add(
       "BackColor", [this] { return Value(BackColor()); },
-      [this](const Value& value) { BackColor(static_cast<std::int32_t>(NumberOf(value))); });
+      [this](const Value& value) { BackColor(ToInt32(NumberOf(value))); });
 }
 
 }  // namespace lumenote

@@ -6,13 +6,14 @@
 namespace lumenote {
 
 Menu::Menu(Form& form, std::string name, std::u16string caption, bool visible)
-    : Element(form, std::move(name)), caption_(std::move(caption)), visible_(visible) {
+    : ShownElement(form, std::move(name)), caption_(std::move(caption)) {
   Enlist();
+  Visible(visible);
   form.menus_.push_back(this);
 }
 
 Menu::Menu(Menu& parent, std::string name, std::u16string caption)
-    : Element(parent.Owner(), std::move(name)), caption_(std::move(caption)) {
+    : ShownElement(parent.Owner(), std::move(name)), caption_(std::move(caption)) {
   Enlist();
   parent.entries_.push_back(this);
 }
@@ -23,18 +24,6 @@ void Menu::Caption(std::u16string_view text) {
   Changed(Property::Caption);
 }
 
-void Menu::Visible(bool on) {
-  if (on == visible_) return;
-  visible_ = on;
-  Changed(Property::Visible);
-}
-
-void Menu::Enabled(bool on) {
-  if (on == enabled_) return;
-  enabled_ = on;
-  Changed(Property::Enabled);
-}
-
 void Menu::Checked(bool on) {
   if (on == checked_) return;
   checked_ = on;
@@ -42,7 +31,7 @@ void Menu::Checked(bool on) {
 }
 
 void Menu::UserClick() {
-  if (enabled_ && visible_) UserOpen();
+  if (Enabled() && Visible()) UserOpen();
 }
 
 void Menu::UserOpen() {
@@ -50,16 +39,10 @@ void Menu::UserOpen() {
 }
 
 void Menu::Describe(MemberTable& members) {
-  Element::Describe(members);
+  ShownElement::Describe(members);
   members.Add(
       "Caption", [this] { return Value(Caption()); },
       [this](const Value& value) { Caption(TextOf(value)); });
-  members.Add(
-      "Visible", [this] { return Value(Visible()); },
-      [this](const Value& value) { Visible(BooleanOf(value)); });
-  members.Add(
-      "Enabled", [this] { return Value(Enabled()); },
-      [this](const Value& value) { Enabled(BooleanOf(value)); });
   members.Add(
       "Checked", [this] { return Value(Checked()); },
       [this](const Value& value) { Checked(BooleanOf(value)); });

@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "forms/Element.h"
+#include "forms/ShownElement.h"
 
 namespace lumenote {
 
 /// An entry; with children it is a submenu, with the caption "-" a separator. A top-level menu that
 /// is not visible stays out of the bar and can still be popped up.
-class Menu : public Element {
+class Menu : public ShownElement {
  public:
   /// A top-level menu of the form.
   Menu(Form& form, std::string name, std::u16string caption, bool visible = true);
@@ -22,10 +22,6 @@ class Menu : public Element {
 
   const std::u16string& Caption() const { return caption_; }
   void Caption(std::u16string_view text);
-  bool Visible() const { return visible_; }
-  void Visible(bool on);
-  bool Enabled() const { return enabled_; }
-  void Enabled(bool on);
   bool Checked() const { return checked_; }
   void Checked(bool on);
 
@@ -42,8 +38,6 @@ class Menu : public Element {
  private:
   std::vector<Menu*> entries_;
   std::u16string caption_;
-  bool visible_ = true;
-  bool enabled_ = true;
   bool checked_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "forms/Timer.h"
 
+#include "base/Numbers.h"
 #include "forms/Form.h"
 #include "forms/Platform.h"
 
@@ -44,7 +45,7 @@ void Timer::Describe(MemberTable& members) {
   Element::Describe(members);
   members.Add(
       "Interval", [this] { return Value(Interval()); },
-      [this](const Value& value) { Interval(static_cast<int>(NumberOf(value))); });
+      [this](const Value& value) { Interval(ToInt32(NumberOf(value))); });
   members.Add(
       "Enabled", [this] { return Value(Enabled()); },
       [this](const Value& value) { Enabled(BooleanOf(value)); });

@@ -1,24 +1,13 @@
-// A clipboard and a disk that live in memory.
+// A disk that lives in memory.
 #pragma once
 #include <map>
 #include <string>
 
 #include "base/RuntimeError.h"
-#include "platform/Clipboard.h"
+#include "pilot/MemoryClipboard.h"
 #include "platform/Files.h"
 
 namespace lumenote {
-
-class MemoryClipboard final : public Clipboard {
- public:
-  ClipboardContent Get() const override { return content_; }
-  bool HasContent() const override { return content_.text || content_.rtf; }
-  void Set(const ClipboardContent& content) override { content_ = content; }
-  void Clear() override { content_ = {}; }
-
- private:
-  ClipboardContent content_;
-};
 
 /// Flat: a path is only a key. `broken` makes every write fail.
 class MemoryFiles final : public Files {
