@@ -9,9 +9,6 @@
 namespace lumenote {
 namespace {
 
-/// The document's own level and that of its outermost group; a "}" too many never leaves them.
-constexpr std::size_t kOutermost = 2;
-
 /// What a symbol stands for; 0 for the marks of groups, indexes and formulas.
 char16_t CharacterOf(char symbol) {
   switch (symbol) {
@@ -100,7 +97,7 @@ void Interpreter::TakeText() {
 /// formats as they are, for the final mark; behind the document's own one, text without any markup
 /// is no part of it but what some mailer or disk left there.
 bool Interpreter::Ended() const {
-  const bool outermost = uncounted_ == 0 && groups_.size() <= kOutermost;
+  const bool outermost = !placingMarker_ && uncounted_ == 0 && groups_.size() <= outermost_;
   return tokens_.OnlyClosesFollow() || (outermost && !tokens_.MarkupFollows());
 }
 
@@ -118,7 +115,7 @@ void Interpreter::Close() {
   swallow_ = 0;
   if (uncounted_ > 0) {
     --uncounted_;
-  } else if (groups_.size() > kOutermost) {
+  } else if (groups_.size() > outermost_) {
     groups_.pop_back();
   }
 }
@@ -189,21 +186,24 @@ void Interpreter::BeforeText() {
   if (body_.Holds()) body_.Release();
 }
 
+/// Reads the marker as text, in a group of its own that it cannot leave.
 void Interpreter::PlaceMarker() {
   const std::string_view marker = std::exchange(marker_, {});
   if (HasBullet()) return;
-  const Tokenizer source = std::exchange(tokens_, Tokenizer(marker));
   const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
-  const std::size_t uncounted = uncounted_;
   groups_.push_back(groups_.back());
+  const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
+  const std::size_t outermost = std::exchange(outermost_, groups_.size());
+  const std::size_t uncounted = std::exchange(uncounted_, 0);
   placingMarker_ = true;
   Interpret();
   placingMarker_ = false;
-  groups_.erase(groups_.begin() + depth, groups_.end());
+  tokens_ = tokens;
+  outermost_ = outermost;
   uncounted_ = uncounted;
   swallow_ = 0;
   starred_ = false;
-  tokens_ = source;
+  groups_.erase(groups_.begin() + depth, groups_.end());
 }
 
 CharFormat& Interpreter::EditCharacter() {

@@ -115,6 +115,7 @@ class Interpreter {
   FormatTables& formats_;
   BodyText body_;
   std::vector<GroupState> groups_;
+  std::size_t outermost_ = 2;  // a "}" too many never leaves this many: the source, its own group
   std::size_t uncounted_ = 0;  // groups opened beyond `kDeepest`
 
   FontTable fonts_;

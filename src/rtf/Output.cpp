@@ -15,8 +15,7 @@ namespace {
 std::size_t PlainInto(std::u16string_view text, char* out) {
   std::size_t done = 0;
   while (done + kPlainStep <= text.size()) {
-    const int plain = PlainPrefix(text.data() + done);
-    for (int i = 0; i < kPlainStep; ++i) out[done + i] = static_cast<char>(text[done + i]);
+    const int plain = CopyPlain(text.data() + done, out + done);
     done += static_cast<std::size_t>(plain);
     if (plain < kPlainStep) return done;
   }

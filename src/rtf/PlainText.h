@@ -1,4 +1,4 @@
-// Scanning for what is not plain text, eight characters at a time.
+// Copying plain text, eight characters at a time.
 #pragma once
 #include <bit>
 #include <cstdint>
@@ -6,45 +6,71 @@
 
 namespace lumenote {
 
-inline constexpr int kPlainStep = 8;
-
-/// Lanes of `Bits` bits in a 64-bit word.
-template <int Bits>
-struct Lanes {
-  static constexpr std::uint64_t kTop = std::uint64_t{1} << (Bits - 1);
-  static constexpr std::uint64_t kEach = ~std::uint64_t{0} / (kTop * 2 - 1);
-
-  /// The top bit of each lane that is zero; exact, no carry runs into a neighbour.
-  static std::uint64_t Zeros(std::uint64_t word) {
-    constexpr std::uint64_t kLow = kEach * (kTop - 1);
-    return ~(((word & kLow) + kLow) | word) & kEach * kTop;
-  }
-  /// How many lanes, in the order of memory, come before the first one that RTF does not take as
-  /// plain text: below 0x20 or from 0x80 on, a backslash or a brace.
-  static int Plain(const void* memory) {
-    std::uint64_t word;
-    std::memcpy(&word, memory, sizeof word);
-    const std::uint64_t ascii = Zeros(word & kEach * (kTop * 2 - 0x80));
-    const std::uint64_t marks = Zeros(word & kEach * (kTop * 2 - 0x20)) |
-                                Zeros(word ^ kEach * '\\') | Zeros(word ^ kEach * '{') |
-                                Zeros(word ^ kEach * '}') | (ascii ^ kEach * kTop);
-    const int bits = std::endian::native == std::endian::little ? std::countr_zero(marks)
-                                                                : std::countl_zero(marks);
-    return bits / Bits;
-  }
-};
-
-/// The same for `kPlainStep` bytes or units.
-inline int PlainPrefix(const char* bytes) { return Lanes<8>::Plain(bytes); }
-inline int PlainPrefix(const char16_t* units) {
-  constexpr int kHalf = kPlainStep / 2;
-  const int first = Lanes<16>::Plain(units);
-  return first < kHalf ? first : kHalf + Lanes<16>::Plain(units + kHalf);
+/// Whether a character means itself in RTF: from 0x20 to 0x7F, no backslash and no brace.
+constexpr bool IsPlain(char16_t unit) {
+  return unit >= 0x20 && unit < 0x80 && unit != u'\\' && unit != u'{' && unit != u'}';
 }
 
-/// Whether a single unit is plain text.
-inline bool IsPlain(char16_t unit) {
-  return unit >= 0x20 && unit < 0x80 && unit != u'\\' && unit != u'{' && unit != u'}';
+inline constexpr int kPlainStep = 8;
+
+// The characters lie side by side in 64-bit words, in lanes of eight or sixteen bits.
+namespace lanes {
+
+inline constexpr std::uint64_t kBytes = 0x0101010101010101;  // 1 in each lane
+inline constexpr std::uint64_t kUnits = 0x0001000100010001;
+
+template <class Word, class Character>
+Word Load(const Character* from) {
+  Word word;
+  std::memcpy(&word, from, sizeof word);
+  return word;
+}
+
+/// 0x80 in each byte that is zero; exact, no carry runs into a neighbour.
+constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
+  constexpr std::uint64_t kLow = kBytes * 0x7F;
+  return ~(((word & kLow) + kLow) | word) & kBytes * 0x80;
+}
+
+/// How many bytes, in the order of memory, come before the first one that is not plain.
+inline int PlainBytes(std::uint64_t word) {
+  const std::uint64_t marks = ZeroBytes(word & kBytes * 0xE0) | ZeroBytes(word ^ kBytes * '\\') |
+                              ZeroBytes(word ^ kBytes * '{') | ZeroBytes(word ^ kBytes * '}') |
+                              (word & kBytes * 0x80);
+  const int bits = std::endian::native == std::endian::little ? std::countr_zero(marks)
+                                                              : std::countl_zero(marks);
+  return bits / 8;
+}
+
+constexpr std::uint64_t FourUnits(std::uint32_t bytes) {
+  std::uint64_t units = bytes;
+  units = (units | units << 16) & 0x0000FFFF0000FFFF;
+  return (units | units << 8) & kUnits * 0xFF;
+}
+
+/// A unit from 0x80 on becomes a byte from 0x80 on.
+constexpr std::uint32_t FourBytes(std::uint64_t units) {
+  const std::uint64_t beyond = ((units & kUnits * 0x7F80) + kUnits * 0x7F80) | units;
+  std::uint64_t bytes = (units & kUnits * 0x7F) | (beyond >> 8 & kUnits * 0x80);
+  bytes = (bytes | bytes >> 8) & 0x0000FFFF0000FFFF;
+  return static_cast<std::uint32_t>(bytes | bytes >> 16);
+}
+
+}  // namespace lanes
+
+/// Copies `kPlainStep` characters and returns how many of them come before the first one that is
+/// not plain; the others come out anyhow.
+inline int CopyPlain(const char* from, char16_t* to) {
+  const std::uint64_t units[] = {lanes::FourUnits(lanes::Load<std::uint32_t>(from)),
+                                 lanes::FourUnits(lanes::Load<std::uint32_t>(from + 4))};
+  std::memcpy(to, units, sizeof units);
+  return lanes::PlainBytes(lanes::Load<std::uint64_t>(from));
+}
+inline int CopyPlain(const char16_t* from, char* to) {
+  const std::uint32_t bytes[] = {lanes::FourBytes(lanes::Load<std::uint64_t>(from)),
+                                 lanes::FourBytes(lanes::Load<std::uint64_t>(from + 4))};
+  std::memcpy(to, bytes, sizeof bytes);
+  return lanes::PlainBytes(lanes::Load<std::uint64_t>(to));
 }
 
 }  // namespace lumenote

@@ -141,8 +141,7 @@ std::size_t Tokenizer::Decode(const CodePage& page, char16_t* out, std::size_t r
   const char16_t* const limit = out + room;
   while (out != limit && at_ != end_) {
     if (page.KeepsAscii() && end_ - at_ >= kPlainStep && limit - out >= kPlainStep) {
-      const int plain = PlainPrefix(at_);
-      for (int i = 0; i < kPlainStep; ++i) out[i] = static_cast<unsigned char>(at_[i]);
+      const int plain = CopyPlain(at_, out);
       at_ += plain;
       out += plain;
       if (plain == kPlainStep) continue;

@@ -37,6 +37,26 @@ int ByteFor(char16_t unit, Encoding encoding) {
   return unit < 0x80 ? unit : -1;
 }
 
+/// The symbol of a character that has one, else nothing.
+std::string_view SymbolFor(char16_t unit) {
+  switch (unit) {
+    case u'\\':
+      return "\\\\";
+    case u'{':
+      return "\\{";
+    case u'}':
+      return "\\}";
+    case u'\u00A0':
+      return "\\~";
+    case u'\u00AD':
+      return "\\-";
+    case u'\u2011':
+      return "\\_";
+    default:
+      return {};
+  }
+}
+
 class Body {
  public:
   /// `paragraphs` are the formats of the text's paragraphs in order.
@@ -126,41 +146,20 @@ std::size_t Body::Plain(std::u16string_view text) {
 }
 
 std::size_t Body::Special(std::u16string_view text, ObjectId object) {
-  switch (text.front()) {
-    case u'\r':
-      out_.Raw("\\par\r\n");
-      StartParagraph();
-      return 2;
-    case u'\t':
-      out_.Word("tab");
-      break;
-    case u'\v':
-      out_.Word("line");
-      break;
-    case u'\\':
-      out_.Raw("\\\\");
-      break;
-    case u'{':
-      out_.Raw("\\{");
-      break;
-    case u'}':
-      out_.Raw("\\}");
-      break;
-    case u'\u00A0':
-      out_.Raw("\\~");
-      break;
-    case u'\u00AD':
-      out_.Raw("\\-");
-      break;
-    case u'\u2011':
-      out_.Raw("\\_");
-      break;
-    default:
-      if (text.front() == u'\uFFFC' && object != 0) {
-        out_.Raw(tables_.objects[object].rtf);
-      } else {
-        Coded(text.front());
-      }
+  const char16_t unit = text.front();
+  if (unit == u'\r') {
+    out_.Raw("\\par\r\n");
+    StartParagraph();
+    return 2;
+  }
+  if (unit == u'\t' || unit == u'\v') {
+    out_.Word(unit == u'\t' ? "tab" : "line");
+  } else if (unit == u'\uFFFC' && object != 0) {
+    out_.Raw(tables_.objects[object].rtf);
+  } else if (const std::string_view symbol = SymbolFor(unit); !symbol.empty()) {
+    out_.Raw(symbol);
+  } else {
+    Coded(unit);
   }
   return 1;
 }
@@ -174,32 +173,43 @@ void Body::Coded(char16_t unit) {
   }
 }
 
-std::vector<ParaId> ParagraphsOf(const Document& document, Position from, Position to) {
+/// The formats of the paragraphs between `from` and `to`, and with `mark` of the last one.
+std::vector<ParaId> ParagraphsOf(const Document& document, Position from, Position to,
+                                 const FinalMark* mark) {
   std::vector<ParaId> paragraphs;
   document.ForEachParagraph(from, to, [&](ParaId format) { paragraphs.push_back(format); });
+  const auto all = static_cast<std::size_t>(document.ParagraphCount());
+  if (mark) paragraphs.resize(all, mark->paragraph);
   return paragraphs;
 }
 
-void WriteText(const Document& document, Position from, Position to, const FinalMark* mark,
-               const ByteSink& sink) {
+WrittenFormats FormatsOf(const Document& document, Position from, Position to,
+                         const std::vector<ParaId>& paragraphs, const FinalMark* mark) {
   const FormatTables& tables = document.Formats();
   WrittenFormats formats(tables);
   document.ForEachRun(from, to,
                       [&](Position, std::u16string_view, CharId format) { formats.Use(format); });
-  std::vector<ParaId> paragraphs = ParagraphsOf(document, from, to);
-  if (mark) {
-    formats.Use(mark->character);
-    paragraphs.resize(static_cast<std::size_t>(document.ParagraphCount()), mark->paragraph);
-  }
+  if (mark) formats.Use(mark->character);
   const auto hasBullet = [&](ParaId format) { return tables.paragraphs[format].bullet != 0; };
   if (std::any_of(paragraphs.begin(), paragraphs.end(), hasBullet)) formats.UseBullets();
+  return formats;
+}
 
-  Output out(sink);
+void WriteHead(const WrittenFormats& formats, Output& out) {
   out.Raw("{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1036");
   formats.WriteFontTable(out);
   formats.WriteColourTable(out);
   out.Words("\\viewkind4\\uc1");
-  Body body(tables, formats, std::move(paragraphs), out);
+}
+
+/// With `mark` a whole document, else a selection.
+void WriteText(const Document& document, Position from, Position to, const FinalMark* mark,
+               const ByteSink& sink) {
+  std::vector<ParaId> paragraphs = ParagraphsOf(document, from, to, mark);
+  const WrittenFormats formats = FormatsOf(document, from, to, paragraphs, mark);
+  Output out(sink);
+  WriteHead(formats, out);
+  Body body(document.Formats(), formats, std::move(paragraphs), out);
   body.StartParagraph();
   document.ForEachRun(from, to, [&](Position, std::u16string_view text, CharId format) {
     body.Text(text, format);

@@ -27,10 +27,9 @@ std::uint16_t WrittenEffects(std::uint16_t effects) {
 void WriteFontName(const FontFace& face, Output& out) {
   const int page = CodePageOfCharset(face.charset);
   const bool inWindowsPage = page == 0 || page == kPageOfWindows || page == kPageOfSymbols;
-  for (std::size_t i = 0; i < face.name.size(); ++i) {
-    const char16_t unit = face.name[i];
+  for (const char16_t& unit : face.name) {
+    if (unit != u';' && out.Plain({&unit, 1}) == 1) continue;
     const int byte = unit < 0x80 || inWindowsPage ? ByteIn1252(unit) : -1;
-    if (unit != u';' && out.Plain({&face.name[i], 1}) == 1) continue;
     if (byte >= 0) {
       out.Hex(byte);
     } else {

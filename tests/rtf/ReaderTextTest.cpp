@@ -78,6 +78,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{
             R"({\rtf1{\*\listtable{\list{\listlevel\levelnfc23}\listid7}{\list{\listlevel\levelnfc0}\listid8}}{\*\listoverridetable{\listoverride\listid7\ls1}{\listoverride\listid8\ls2}}\pard\ls1{\listtext *\tab}a\par\pard\ls2{\listtext 1.\tab}b\par})",
             "a\n1.\tb"},
+        Case{R"({\rtf1{\pntext 1{\fonttbl{{{\pard}}}}2}a})", "12a"},
         Case{R"({\rtf1{\pntext{\pntext{\pntext x}}1.\u233}text})", "1.étext"}));
 
 INSTANTIATE_TEST_SUITE_P(
