@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "backends/qt/Colours.h"
 #include "backends/qt/FontNames.h"
 #include "backends/qt/Units.h"
 
@@ -19,13 +20,9 @@ constexpr int kMostStretch = 4000;  // per cent
 constexpr double kScriptSize = 0.65;
 constexpr double kSuperscriptRaise = 0.33;  // of the full size
 constexpr double kSubscriptRaise = -0.14;
+constexpr double kSmallCapitalSize = 0.8;
+constexpr double kPlaceholderSize = 1.6;
 constexpr double kLeastContrast = 2;
-
-/// The underlines that the toolkit draws as wanted.
-QTextCharFormat::UnderlineStyle NativeUnderline(Underline kind) {
-  return kind == Underline::Single ? QTextCharFormat::SingleUnderline
-                                   : QTextCharFormat::NoUnderline;
-}
 
 double Luminance(const QColor& colour) {
   const auto linear = [](double c) {
@@ -38,10 +35,6 @@ double Luminance(const QColor& colour) {
 double Contrast(const QColor& one, const QColor& other) {
   const auto [low, high] = std::minmax({Luminance(one), Luminance(other)});
   return (high + 0.05) / (low + 0.05);
-}
-
-QColor FromBgr(Colour colour) {
-  return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
 }
 
 /// Size of a character and the shift of its baseline that superscript, subscript and offset give.
@@ -60,9 +53,9 @@ Raised RaisedSize(const CharFormat& format) {
   return {full, offset};
 }
 
-void SetCase(QFont& font, unsigned effects) {
-  if (effects & kAllCaps) font.setCapitalization(QFont::AllUppercase);
-  if (effects & kSmallCaps) font.setCapitalization(QFont::SmallCaps);
+int StrikesOf(unsigned effects) {
+  if (effects & kDoubleStrike) return 2;
+  return effects & (kStrike | kDeleted) ? 1 : 0;
 }
 
 QFont MakeFont(const FontFace& face, const CharFormat& format, double points, double zoom) {
@@ -70,7 +63,6 @@ QFont MakeFont(const FontFace& face, const CharFormat& format, double points, do
   font.setPointSizeF(std::max(points * zoom, kLeastPoints));
   font.setBold(format.effects & kBold);
   font.setItalic(format.effects & kItalic);
-  SetCase(font, format.effects);
   if (format.scale != 100) font.setStretch(std::clamp<int>(format.scale, 1, kMostStretch));
   if (format.spacing != 0) {
     const double least = -points / 2;  // keeps characters in their order
@@ -107,7 +99,8 @@ const CharStyle& CharStyles::Of(const Document& document, const CharFormat& form
 CharStyle CharStyles::Make(const Document& document, const CharFormat& format) const {
   const Raised raised = RaisedSize(format);
   const FontFace& face = document.Formats().fonts[format.font];
-  const QFont font = MakeFont(face, format, raised.points, zoom_);
+  const double points = raised.points * (format.object ? kPlaceholderSize : 1);
+  const QFont font = MakeFont(face, format, points, zoom_);
   const QFontMetricsF metrics(font);
   CharStyle style;
   style.ascent = metrics.ascent();
@@ -115,15 +108,17 @@ CharStyle CharStyles::Make(const Document& document, const CharFormat& format) c
   style.raise = raised.raise * zoom_;
   style.hidden = format.effects & kHidden;
   style.object = format.object != 0;
-  style.doubleStrike = format.effects & kDoubleStrike;
-  style.underline = format.underline == Underline::Single ? Underline::None : format.underline;
+  style.underline = format.underline;
+  style.strikes = StrikesOf(format.effects);
   style.format.setFont(font);
-  style.format.setFontStrikeOut(format.effects & (kStrike | kDeleted));
-  style.format.setUnderlineStyle(NativeUnderline(format.underline));
   style.format.setBaselineOffset(100 * style.raise / (style.ascent + style.descent));
-  if (format.colour != kAutoColour) style.format.setForeground(Readable(format.colour));
-  if (style.object) style.format.setForeground(QColor(Qt::transparent));
-  if (format.highlight != kAutoColour) style.format.setBackground(FromBgr(format.highlight));
+  SetColours(style, format);
+  style.capitals = format.effects & (kAllCaps | kSmallCaps);
+  if ((format.effects & (kAllCaps | kSmallCaps)) == kSmallCaps) {
+    style.smallLetter = style.format;
+    style.smallLetter->setFont(MakeFont(face, format, points * kSmallCapitalSize, zoom_),
+                               QTextCharFormat::FontPropertiesSpecifiedOnly);
+  }
   return style;
 }
 
@@ -140,6 +135,18 @@ void CharStyles::Ground(const QColor& colour) {
 void CharStyles::Forget() {
   styles_.clear();
   lastStyle_.reset();
+}
+
+void CharStyles::SetColours(CharStyle& style, const CharFormat& format) const {
+  const bool highlit = format.highlight != kAutoColour;
+  const QColor ground = highlit ? FromBgr(format.highlight) : ground_;
+  if (highlit) style.format.setBackground(ground);
+  if (style.object)
+    style.format.setForeground(QColor(Qt::transparent));
+  else if (format.colour != kAutoColour)
+    style.format.setForeground(highlit ? FromBgr(format.colour) : Readable(format.colour));
+  else if (highlit)
+    style.format.setForeground(InkOn(ground));
 }
 
 QColor CharStyles::Readable(Colour colour) const {

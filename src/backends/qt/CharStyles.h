@@ -11,13 +11,15 @@ namespace lumenote {
 
 /// One character format at one zoom; lengths in pixels.
 struct CharStyle {
-  QTextCharFormat format;  // font, colours, raise; underlines only where the toolkit has them
+  QTextCharFormat format;  // font, colours, raise
   double ascent = 0;       // of the font, above its baseline
   double descent = 0;
-  double raise = 0;                       // of the font's baseline above the line's
-  Underline underline = Underline::None;  // left to the painter
-  bool doubleStrike = false;              // left to the painter
+  double raise = 0;  // of the font's baseline above the line's
+  Underline underline = Underline::None;
+  int strikes = 0;  // lines through the text
   bool hidden = false;
+  bool capitals = false;                       // shown for small letters
+  std::optional<QTextCharFormat> smallLetter;  // how those look that are shown as small capitals
   bool object = false;  // a placeholder, itself invisible, is left to the painter
 };
 
@@ -39,6 +41,7 @@ class CharStyles {
 
  private:
   CharStyle Make(const Document& document, const CharFormat& format) const;
+  void SetColours(CharStyle& style, const CharFormat& format) const;
   QColor Readable(Colour colour) const;
 
   void Forget();

@@ -83,7 +83,7 @@ class DecorationPainter {
 
   void Paint(const Stretch& stretch) {
     if (decoration_.object) PaintObjects(stretch);
-    if (decoration_.doubleStrike) PaintDoubleStrike(stretch);
+    if (decoration_.strikes > 0) PaintStrikes(stretch);
     if (decoration_.underline == Underline::Words)
       UnderlineWords(stretch);
     else if (decoration_.underline != Underline::None)
@@ -92,7 +92,8 @@ class DecorationPainter {
 
  private:
   void PaintObjects(const Stretch& stretch);
-  void PaintDoubleStrike(const Stretch& stretch);
+  void PaintStrikes(const Stretch& stretch);
+  double Weight() const;
   void UnderlineWords(const Stretch& stretch);
   void UnderlineBetween(const Stretch& stretch, int start, int end);
   void DrawLine(double x1, double x2, double y, const Stroke& stroke);
@@ -103,8 +104,14 @@ class DecorationPainter {
   const QColor ink_;
 };
 
+/// Width of a thin line under text of this size.
+double DecorationPainter::Weight() const {
+  constexpr double kAscentPerPixel = 16;
+  return std::max(1.0, std::round(decoration_.ascent / kAscentPerPixel));
+}
+
 void DecorationPainter::DrawLine(double x1, double x2, double y, const Stroke& stroke) {
-  QPen pen(ink_, stroke.weight);
+  QPen pen(ink_, stroke.weight * Weight());
   pen.setCapStyle(Qt::FlatCap);
   if (!stroke.dashes.isEmpty()) pen.setDashPattern(stroke.dashes);
   painter_.setPen(pen);
@@ -123,7 +130,7 @@ void DecorationPainter::DrawLine(double x1, double x2, double y, const Stroke& s
 void DecorationPainter::UnderlineBetween(const Stretch& stretch, int start, int end) {
   const Stroke stroke = StrokeOf(decoration_.underline);
   double y = std::floor(stretch.baseline + decoration_.descent * 0.4) + 0.5;
-  for (int i = 0; i < stroke.lines; ++i, y += stroke.wave ? 3 : 2)
+  for (int i = 0; i < stroke.lines; ++i, y += (stroke.wave ? 3 : 2) * Weight())
     DrawLine(stretch.X(start), stretch.X(end), y, stroke);
 }
 
@@ -136,9 +143,9 @@ void DecorationPainter::UnderlineWords(const Stretch& stretch) {
   }
 }
 
-void DecorationPainter::PaintDoubleStrike(const Stretch& stretch) {
-  const double middle = std::floor(stretch.baseline - decoration_.ascent * 0.3) + 0.5;
-  for (const double y : {middle - 1, middle + 1})
+void DecorationPainter::PaintStrikes(const Stretch& stretch) {
+  double y = std::floor(stretch.baseline - decoration_.ascent * 0.3) + 0.5;
+  for (int i = 0; i < decoration_.strikes; ++i, y -= 2 * Weight())
     DrawLine(stretch.X(stretch.start), stretch.X(stretch.end), y, {});
 }
 

@@ -1,4 +1,4 @@
-// Underlines of all kinds, double strike-out and placeholders, drawn over the text of a piece.
+// Underlines, strike-out and placeholders, drawn over the text of a piece.
 #pragma once
 #include <QPainter>
 

@@ -4,25 +4,13 @@
 #include <QCloseEvent>
 #include <QWindow>
 
+#include "backends/qt/Colours.h"
 #include "backends/qt/FontNames.h"
 #include "backends/qt/MenuBarStyle.h"
 #include "backends/qt/QtText.h"
 #include "backends/qt/Units.h"
 
 namespace lumenote {
-
-namespace {
-
-QColor FromBgr(std::int32_t colour) {
-  return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
-}
-
-/// Black or white, whichever stands out more.
-QColor InkOn(const QColor& ground) {
-  return qGray(ground.rgb()) >= 128 ? QColor(Qt::black) : QColor(Qt::white);
-}
-
-}  // namespace
 
 FormWindow::FormWindow(Form& form, ActivationListener& listener)
     : QWidget(nullptr, Qt::Window), form_(&form), listener_(listener) {
@@ -88,7 +76,8 @@ void FormWindow::ShowOnTop() {
 
 QColor FormWindow::WantedGround() const {
   const std::int32_t colour = form_->BackColor();
-  return colour < 0 ? QApplication::palette().color(QPalette::Window) : FromBgr(colour);
+  return colour < 0 ? QApplication::palette().color(QPalette::Window)
+                    : FromBgr(static_cast<std::uint32_t>(colour));
 }
 
 void FormWindow::ShowBackColor() {

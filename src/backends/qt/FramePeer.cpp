@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "backends/qt/Colours.h"
 #include "backends/qt/QtText.h"
 
 namespace lumenote {
@@ -9,6 +10,7 @@ namespace lumenote {
 namespace {
 constexpr int kTitleLeft = 8;
 constexpr int kTitleGap = 3;
+constexpr float kRelief = 0.35F;
 }  // namespace
 
 void FrameWidget::Title(const QString& text) {
@@ -29,9 +31,9 @@ void FrameWidget::paintEvent(QPaintEvent*) {
     painter.setClipRegion(QRegion(rect()) - titleBox.adjusted(-kTitleGap, 0, kTitleGap, 0));
   }
   const QRect line(0, lineY, width() - 1, height() - lineY - 1);
-  painter.setPen(ground.lighter(125));
+  painter.setPen(Mixed(ground, Qt::white, kRelief));
   painter.drawRect(line.translated(1, 1).adjusted(0, 0, -1, -1));
-  painter.setPen(ground.darker(145));
+  painter.setPen(Mixed(ground, Qt::black, kRelief));
   painter.drawRect(line.adjusted(0, 0, -1, -1));
 }
 

@@ -38,6 +38,13 @@ Position Piece::PositionAt(int line, double x) const {
   return ToPosition(index);
 }
 
+Position Piece::CharacterAt(int line, double x) const {
+  const QTextLine text = layout.lineAt(line);
+  const double left = text.x() + text.naturalTextRect().left() - text.rect().left();
+  if (x < left || x >= left + text.naturalTextWidth()) return -1;
+  return ToPosition(text.xToCursor(x, QTextLine::CursorOnCharacter));
+}
+
 int Piece::LineAt(double y) const {
   const auto below = std::find_if(lines.begin(), lines.end(), [&](const PieceLine& line) {
     return y < line.top + line.height;

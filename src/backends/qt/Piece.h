@@ -32,7 +32,7 @@ struct Decoration {
   int start = 0;
   int end = 0;
   Underline underline = Underline::None;
-  bool doubleStrike = false;
+  int strikes = 0;
   bool object = false;  // a placeholder for what cannot be shown
   double ascent = 0;    // of the font, pixels
   double descent = 0;
@@ -79,6 +79,8 @@ class Piece {
   double XOf(Position position) const;
   /// The nearest caret position that is shown in the line.
   Position PositionAt(int line, double x) const;
+  /// The character that is shown there; -1 beside the line's text.
+  Position CharacterAt(int line, double x) const;
   /// The line at a height, the first or last one outside the piece.
   int LineAt(double y) const;
 

@@ -23,7 +23,9 @@ ScrollModel::Spot ScrollModel::Top() {
   return {&piece, piece.lines[static_cast<std::size_t>(line)].top + hidden_};
 }
 
+// Whole pixels keep the text crisp.
 void ScrollModel::Top(Spot spot) {
+  spot.offset = std::round(spot.offset);
   const int line = spot.piece->LineAt(spot.offset);
   line_ = spot.piece->LineStart(line);
   hidden_ = spot.offset - spot.piece->lines[static_cast<std::size_t>(line)].top;

@@ -7,6 +7,7 @@
 
 #include "backends/qt/QtText.h"
 #include "backends/qt/Units.h"
+#include "base/Characters.h"
 
 namespace lumenote {
 
@@ -16,7 +17,7 @@ constexpr double kMostTwips = 31680;  // 22 inches
 constexpr double kLeastWidth = 16;
 constexpr double kTabStep = 720;     // twips
 constexpr double kBulletRoom = 240;  // twips, where the format leaves less
-constexpr double kOutOfSight = -1e6;
+constexpr double kOutOfSight = 1e6;  // below: lines are drawn up to the first one out of sight
 constexpr char16_t kLineBreak = u'\v';
 constexpr char16_t kObject = u'\uFFFC';
 // What stands for them in the layout's text: one unit each.
@@ -42,7 +43,8 @@ class SpanText {
 
  private:
   void Append(std::u16string_view run, CharId id);
-  void AppendCharacters(std::u16string_view run, bool hidden);
+  void AppendCharacters(std::u16string_view run, const CharStyle& style);
+  void AppendSmallCapitals(std::u16string_view run, const CharStyle& style, int start);
   void Decorate(const CharStyle& style, int start);
 
   const Document& document_;
@@ -55,39 +57,52 @@ class SpanText {
 
 void SpanText::Append(std::u16string_view run, CharId id) {
   const int start = static_cast<int>(text_.size());
-  const int length = static_cast<int>(run.size());
   const CharStyle& style = styles_.Of(document_, id);
-  AppendCharacters(run, style.hidden);
-  if (!runs_.empty() && runs_.back().format == id) {
-    formats_.back().length += length;
-  } else {
-    formats_.push_back({start, length, style.format});
-    runs_.push_back({start, id});
-  }
+  const bool goesOn = !runs_.empty() && runs_.back().format == id;
+  if (!goesOn) runs_.push_back({start, id});
+  AppendCharacters(run, style);
+  if (style.smallLetter)
+    AppendSmallCapitals(run, style, start);
+  else if (goesOn)
+    formats_.back().length += static_cast<int>(run.size());
+  else
+    formats_.push_back({start, static_cast<int>(run.size()), style.format});
   Decorate(style, start);
 }
 
-void SpanText::AppendCharacters(std::u16string_view run, bool hidden) {
-  if (hidden) {
+void SpanText::AppendCharacters(std::u16string_view run, const CharStyle& style) {
+  if (style.hidden) {
     text_.append(QString(static_cast<qsizetype>(run.size()), QChar(kInvisible)));
     return;
   }
   const qsizetype start = text_.size();
-  text_.append(ToQString(run));
+  text_.append(style.capitals ? ToQString(Upper(run)) : ToQString(run));
   if (run.find_first_of(u"\v\uFFFC") == run.npos) return;
   std::replace(text_.begin() + start, text_.end(), QChar(kLineBreak), QChar(kLineSeparator));
   std::replace(text_.begin() + start, text_.end(), QChar(kObject), QChar(kPlaceholder));
 }
 
+void SpanText::AppendSmallCapitals(std::u16string_view run, const CharStyle& style, int start) {
+  const auto isSmall = [](char16_t c) { return ToUpper(c) != c; };
+  for (std::size_t from = 0; from < run.size();) {
+    const bool small = isSmall(run[from]);
+    std::size_t to = from + 1;
+    while (to < run.size() && isSmall(run[to]) == small) ++to;
+    formats_.push_back({start + static_cast<int>(from), static_cast<int>(to - from),
+                        small ? *style.smallLetter : style.format});
+    from = to;
+  }
+}
+
 void SpanText::Decorate(const CharStyle& style, int start) {
   const bool underlined = style.underline != Underline::None;
-  if (!underlined && !style.doubleStrike && !style.object && style.raise == 0) return;
+  if (!underlined && style.strikes == 0 && !style.object && style.raise == 0) return;
   if (style.hidden) return;
   Decoration decoration;
   decoration.start = start;
   decoration.end = static_cast<int>(text_.size());
   decoration.underline = style.underline;
-  decoration.doubleStrike = style.doubleStrike;
+  decoration.strikes = style.strikes;
   decoration.object = style.object;
   decoration.ascent = style.ascent;
   decoration.descent = style.descent;

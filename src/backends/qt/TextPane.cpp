@@ -47,14 +47,23 @@ double TextPane::MostRight() const {
   return std::max(0.0, std::ceil(WrapWidth() + 2 * kMargin - size_.width()));
 }
 
-Position TextPane::PositionAt(QPointF point) {
+TextPane::LineSpot TextPane::LineNear(double y) {
   const std::vector<ShownPiece> shown = Visible();
   const auto below = std::find_if(shown.begin(), shown.end(), [&](const ShownPiece& item) {
-    return point.y() < item.y + item.piece->height;
+    return y < item.y + item.piece->height;
   });
   const ShownPiece& item = below == shown.end() ? shown.back() : *below;
-  const int line = item.piece->LineAt(point.y() - item.y);
-  return Content().Before(item.piece->PositionAt(line, point.x() - TextLeft()));
+  return {item.piece, item.piece->LineAt(y - item.y)};
+}
+
+Position TextPane::PositionAt(QPointF point) {
+  const LineSpot spot = LineNear(point.y());
+  return Content().Before(spot.piece->PositionAt(spot.line, point.x() - TextLeft()));
+}
+
+Position TextPane::CharacterAt(QPointF point) {
+  const LineSpot spot = LineNear(point.y());
+  return spot.piece->CharacterAt(spot.line, point.x() - TextLeft());
 }
 
 std::optional<QRectF> TextPane::LineAt(Position position) {

@@ -40,6 +40,8 @@ class TextPane {
   std::vector<ShownPiece> Visible() { return scroll_.Visible(); }
   /// The caret position nearest to a point, which may lie outside.
   Position PositionAt(QPointF point);
+  /// The character shown at a point; -1 where there is none.
+  Position CharacterAt(QPointF point);
   /// The line that holds a position, as wide as the pane; empty unless it is in the pane or near.
   std::optional<QRectF> LineAt(Position position);
   /// The caret at a position, in the height of what would be typed there; empty as above.
@@ -53,6 +55,11 @@ class TextPane {
   static constexpr double kMargin = 3;
   static constexpr double kCaretWidth = 1;
 
+  struct LineSpot {
+    const Piece* piece;
+    int line;
+  };
+  LineSpot LineNear(double y);
   double WrapWidth() const;
   void RevealAcross(Position position);
 

@@ -28,8 +28,9 @@ Position ViewMouse::PositionAt(QPointF point) const { return view_.Pane().Positi
 
 bool ViewMouse::InSelection(QPointF point) const {
   const Selection selection = view_.Surface().Selected();
-  const Position position = PositionAt(point);
-  return position > selection.start && position < selection.end;
+  if (selection.Length() == 0) return false;
+  const Position character = view_.Pane().CharacterAt(point);
+  return character >= selection.start && character < selection.end;
 }
 
 Selection ViewMouse::Around(Position position) const {

@@ -26,23 +26,44 @@ void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QR
   painter.setPen(state_.palette.color(QPalette::Text));
   PaintSelectedBreak(painter, item);
   PaintBullet(painter, item);
-  const QRectF lines =
-      area.intersected(QRectF(0, item.y, pane_.Size().width(), item.piece->height));
-  item.piece->layout.draw(&painter, origin, Selections(*item.piece),
-                          QRectF(lines.left(), lines.top(), lines.width(), lines.height()));
+  item.piece->layout.draw(&painter, origin, {}, area);
+  PaintSelection(painter, item);
   PaintDecorations(painter, *item.piece, origin, state_.palette.color(QPalette::Text));
 }
 
-QList<QTextLayout::FormatRange> ViewPainter::Selections(const Piece& piece) const {
+// The toolkit's own painting of selections cuts off raised and lowered text.
+void ViewPainter::PaintSelection(QPainter& painter, const ShownPiece& item) {
+  const Piece& piece = *item.piece;
   const int start = piece.ToIndex(std::max(state_.selection.start, piece.from));
   const int end = piece.ToIndex(std::min(state_.selection.end, piece.to));
-  if (start >= end) return {};
-  QTextLayout::FormatRange range;
-  range.start = start;
-  range.length = end - start;
-  range.format.setBackground(state_.palette.highlight());
-  range.format.setForeground(state_.palette.highlightedText());
-  return {range};
+  const QPointF origin(pane_.TextLeft(), item.y);
+  for (int i = 0; i < std::ssize(piece.lines); ++i) {
+    const PieceLine& line = piece.lines[static_cast<std::size_t>(i)];
+    const int from = std::max(start, line.start);
+    const int to = std::min(end, line.end);
+    if (from >= to) continue;
+    const QTextLine text = piece.layout.lineAt(i);
+    const auto [left, right] = std::minmax({text.cursorToX(from), text.cursorToX(to)});
+    const QRectF box(origin.x() + left, item.y + line.top, right - left, line.height);
+    painter.fillRect(box, state_.palette.highlight());
+    PaintSelectedText(painter, piece, origin, i, from, to);
+  }
+}
+
+void ViewPainter::PaintSelectedText(QPainter& painter, const Piece& piece, QPointF origin, int line,
+                                    int start, int end) {
+  painter.setPen(state_.palette.color(QPalette::HighlightedText));
+  const QTextLine text = piece.layout.lineAt(line);
+  for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
+    const auto next = std::next(run);
+    const int from = std::max(run->start, start);
+    const int to = next == piece.runs.end() ? end : std::min(next->start, end);
+    if (from >= to) continue;
+    const CharStyle& style = pane_.Layouter().styles.Of(pane_.Content(), run->format);
+    if (style.object) continue;
+    for (const QGlyphRun& glyphs : text.glyphRuns(from, to - from))
+      painter.drawGlyphRun(origin - QPointF(0, style.raise), glyphs);
+  }
 }
 
 // A selected paragraph break shows as a narrow stripe behind the last line.

@@ -26,7 +26,9 @@ class ViewPainter {
   void PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area);
   void PaintSelectedBreak(QPainter& painter, const ShownPiece& item);
   void PaintBullet(QPainter& painter, const ShownPiece& item);
-  QList<QTextLayout::FormatRange> Selections(const Piece& piece) const;
+  void PaintSelection(QPainter& painter, const ShownPiece& item);
+  void PaintSelectedText(QPainter& painter, const Piece& piece, QPointF origin, int line, int start,
+                         int end);
 
   TextPane& pane_;
   const PaintState& state_;

@@ -1,0 +1,101 @@
+// What the tests work on: a surface with its layout, a platform, a window.
+#pragma once
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "backends/qt/QtBackend.h"
+#include "backends/qt/QtBreaker.h"
+#include "base/RuntimeError.h"
+#include "forms/Form.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+#include "forms/Menu.h"
+#include "forms/Platform.h"
+#include "forms/RichTextBox.h"
+#include "forms/StatusBar.h"
+#include "forms/Timer.h"
+#include "pilot/MemoryClipboard.h"
+#include "platform/Files.h"
+#include "surface/DocumentSurface.h"
+
+namespace lumenote {
+
+/// There are no files here.
+class NoFiles final : public Files {
+ public:
+  bool Exists(std::u16string_view) const override { return false; }
+  bool IsReadOnly(std::u16string_view) const override { return false; }
+  FileTime ModificationTime(std::u16string_view) const override { Refuse(); }
+  std::string ReadAll(std::u16string_view) const override { Refuse(); }
+  void Write(std::u16string_view, std::string_view) override { Refuse(); }
+  void Delete(std::u16string_view, bool) override { Refuse(); }
+  void Copy(std::u16string_view, std::u16string_view) override { Refuse(); }
+  void Move(std::u16string_view, std::u16string_view) override { Refuse(); }
+
+ private:
+  [[noreturn]] static void Refuse() { throw RuntimeError(ErrorNumber::FileNotFound); }
+};
+
+/// A surface as the backend makes it, without a window.
+struct TestSurface {
+  explicit TestSurface(double width = 300) { layouter.Width(width); }
+
+  MemoryClipboard clipboard;
+  NoFiles files;
+  TextLayouter layouter;
+  QtBreaker breaker{layouter};
+  DocumentSurface surface{clipboard, files, breaker};
+};
+
+class TestPlatform final : public Platform {
+ public:
+  QtBackend& Windows() override { return windows; }
+  Files& FileSystem() override { return files; }
+  Clipboard& SystemClipboard() override { return clipboard; }
+  Settings& UserSettings() override { throw std::logic_error("no settings"); }
+  Folders& SpecialFolders() override { throw std::logic_error("no folders"); }
+
+  QtBackend windows;
+  MemoryClipboard clipboard;
+  NoFiles files;
+};
+
+/// A window with a control and a menu of each kind; counts what it is told.
+class TestForm final : public Form {
+ public:
+  explicit TestForm(WindowList& windows, std::string name = "TestForm")
+      : Form(windows, std::move(name), {1500, 1500, 6000, 4500}, u"Essai") {}
+  ~TestForm() override { Unload(); }
+
+  Frame frame{*this, "frame", {80, 84, 5700, 3600}, u"Cadre"};
+  Label label{frame, "label", {3000, 0, 1700, 195}, u"Format"};
+  RichTextBox box{frame, "box", {30, 270, 5640, 3200}};
+  StatusBar bar{*this, "bar", 2};
+  Timer timer{*this, "timer"};
+  Menu popup{*this, "popup", u"popup", false};
+  Menu cut{popup, "cut", u"&Couper"};
+  Menu line{popup, "line", u"-"};
+  Menu more{popup, "more", u"Plus"};
+  Menu inner{more, "inner", u"Dedans"};
+
+  DocumentSurface& Surface() { return dynamic_cast<DocumentSurface&>(box.Surface()); }
+
+  int activations = 0;
+  int resizes = 0;
+
+ private:
+  void Form_Activate() override { ++activations; }
+  void Form_Resize() override { ++resizes; }
+};
+
+/// French-looking words, so many characters of them.
+inline std::u16string Words(std::size_t length) {
+  static constexpr std::u16string_view kWords[] = {u"plante ", u"de ",       u"lisière ", u"à ",
+                                                   u"fleurs ", u"pourpres ", u"été, "};
+  std::u16string text;
+  for (std::size_t i = 0; text.size() < length; ++i) text += kWords[(i * 5 + i / 3) % 7];
+  return text.substr(0, length);
+}
+
+}  // namespace lumenote

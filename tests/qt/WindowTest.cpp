@@ -1,0 +1,221 @@
+// Windows on real widgets: they show what the forms hold, and what the user does comes in.
+#include <QApplication>
+#include <QMenu>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "Desk.h"
+#include "backends/qt/FormWindow.h"
+#include "backends/qt/QtUserActs.h"
+#include "backends/qt/RichTextView.h"
+
+namespace lumenote {
+namespace {
+
+struct WindowTest : testing::Test {
+  WindowTest() { form->Show(); }
+
+  std::vector<std::string> Differences() { return form->Peer()->Differences(); }
+  FormWindow& Native() { return *platform.windows.Widgets().Find<FormWindow>(*form); }
+
+  const std::vector<std::string> none;
+  TestPlatform platform;
+  WindowList windows{platform};
+  QtUserActs acts{platform.windows};
+  std::unique_ptr<TestForm> form = std::make_unique<TestForm>(windows);
+};
+
+TEST_F(WindowTest, FollowsEveryChangeOfState) {
+  form->Caption(u"Autre titre");
+  form->BackColor(0x204060);
+  form->OnTop(true);
+  form->Width(7777);
+  form->frame.Caption(u"Autre cadre");
+  form->label.Caption(u"RTF");
+  form->label.Visible(false);
+  form->box.Enabled(false);
+  form->box.Left(99);
+  form->bar.Panel(2, u"prêt");
+  form->popup.Visible(true);
+  form->cut.Checked(true);
+  form->more.Enabled(false);
+  EXPECT_EQ(Differences(), none);
+  form->OnTop(false);
+  form->popup.Visible(false);
+  EXPECT_EQ(Differences(), none);
+}
+
+TEST_F(WindowTest, NoticesADifference) {
+  Native().setWindowTitle(QStringLiteral("?"));
+  EXPECT_EQ(Differences(), std::vector<std::string>{"TestForm.Caption"});
+}
+
+TEST_F(WindowTest, KeepsTwipsThatAreNoWholePixels) {
+  const Rect place = form->Place();
+  form->Width(5651);
+  QApplication::sendPostedEvents();
+  EXPECT_EQ(form->Width(), 5651);
+  EXPECT_EQ(form->Left(), place.left);
+  const int resizes = form->resizes;
+  Native().resize(Native().width() + 20, Native().height());
+  EXPECT_EQ(form->Width(), 5951);
+  EXPECT_EQ(form->resizes, resizes + 1);
+  acts.Resize(*form, 7000, 5001);
+  EXPECT_EQ(form->Width(), 7000);
+  EXPECT_EQ(form->Height(), 5001);
+  EXPECT_EQ(Differences(), none);
+}
+
+TEST_F(WindowTest, KeysReachTheDocument) {
+  acts.Type(form->box, u"un deux\r\ntrois \U0001F33F");
+  EXPECT_EQ(form->box.Surface().Text(), u"un deux\r\ntrois \U0001F33F");
+  acts.Key(form->box, *ParseKey(u"BackSpace"));
+  acts.Key(form->box, *ParseKey(u"Ctrl+Z"));
+  EXPECT_EQ(form->box.Surface().Text(), u"un deux\r\ntrois \U0001F33F");
+  form->box.Locked(true);
+  acts.Type(form->box, u"x");
+  acts.Key(form->box, *ParseKey(u"Delete"));
+  acts.Key(form->box, *ParseKey(u"Home"));
+  EXPECT_EQ(form->box.Surface().Text(), u"un deux\r\ntrois \U0001F33F");
+  EXPECT_EQ(form->box.Surface().SelStart(), 9);
+  EXPECT_EQ(Differences(), none);
+}
+
+TEST_F(WindowTest, DraggingMovesTextAsOneStep) {
+  form->box.Surface().Text(u"un deux trois");
+  acts.Drag(form->box, 0, 3, 8);
+  EXPECT_EQ(form->box.Surface().Text(), u"deux un trois");
+  EXPECT_EQ(form->box.Surface().UndoType(), UndoKind::DragDrop);
+}
+
+TEST_F(WindowTest, MouseEventsComeInTwips) {
+  std::vector<MouseEvent> seen;
+  form->box.MouseUp = [&](const MouseEvent& event) { seen.push_back(event); };
+  acts.Mouse(form->box, UserActs::MouseAct::Up, {MouseButton::Right, {100, 250}});
+  ASSERT_EQ(seen.size(), 1u);
+  EXPECT_EQ(seen[0].button, MouseButton::Right);
+  EXPECT_NEAR(seen[0].at.x, 100, 0.01);
+  EXPECT_NEAR(seen[0].at.y, 250, 0.01);
+}
+
+TEST_F(WindowTest, ClickAndShiftClickSelect) {
+  form->box.Surface().Text(u"abc def");
+  auto& view = *platform.windows.Widgets().Find<RichTextView>(form->box);
+  const auto click = [&](Position at, Qt::KeyboardModifiers modifiers, QEvent::Type type) {
+    const QPointF point = view.Pane().CaretAt(at)->center();
+    QMouseEvent press(type, point, view.viewport()->mapToGlobal(point), Qt::LeftButton,
+                      Qt::LeftButton, modifiers);
+    QApplication::sendEvent(view.viewport(), &press);
+    QMouseEvent release(QEvent::MouseButtonRelease, point, view.viewport()->mapToGlobal(point),
+                        Qt::LeftButton, Qt::NoButton, modifiers);
+    QApplication::sendEvent(view.viewport(), &release);
+  };
+  click(1, {}, QEvent::MouseButtonPress);
+  click(6, Qt::ShiftModifier, QEvent::MouseButtonPress);
+  EXPECT_EQ(form->box.Surface().SelText(), u"bc de");
+  click(2, {}, QEvent::MouseButtonDblClick);
+  EXPECT_EQ(form->box.Surface().SelText().substr(0, 3), u"abc");
+}
+
+TEST_F(WindowTest, ComposedTextIsShownAndThenTyped) {
+  auto& view = *platform.windows.Widgets().Find<RichTextView>(form->box);
+  form->box.Surface().Text(u"ab");
+  form->box.Surface().SelStart(1);
+  QInputMethodEvent composing(QStringLiteral("^"), {});
+  QApplication::sendEvent(&view, &composing);
+  EXPECT_EQ(view.Pane().Cache().At(0).layout.text(), QStringLiteral("a^b"));
+  QInputMethodEvent done;
+  done.setCommitString(QStringLiteral("ê"));
+  QApplication::sendEvent(&view, &done);
+  EXPECT_EQ(form->box.Surface().Text(), u"aêb");
+  EXPECT_EQ(Differences(), none);
+}
+
+// --- menus
+
+TEST_F(WindowTest, MenusClickAndOpen) {
+  std::vector<std::string> events;
+  form->cut.Click = [&] { events.push_back("cut"); };
+  form->more.Click = [&] { events.push_back("more"); };
+  form->cut.Checked(true);
+  acts.Choose(form->cut);
+  acts.Open(form->more);
+  form->cut.Enabled(false);
+  acts.Choose(form->cut);
+  EXPECT_EQ(events, (std::vector<std::string>{"cut", "more"}));
+  EXPECT_EQ(Differences(), none) << "the toolkit's own toggling of the mark must not show";
+}
+
+TEST_F(WindowTest, APopupOpensOnceAndEndsWithTheWindow) {
+  int opened = 0;
+  form->popup.Click = [&] { ++opened; };
+  form->box.MouseUp = [&](const MouseEvent& event) {
+    form->PopUp(form->popup, form->box, event.at);
+  };
+  form->Released = [&] { form.reset(); };
+  QTimer::singleShot(0, [&] { form->Unload(); });
+  acts.Mouse(form->box, UserActs::MouseAct::Up, {MouseButton::Right, {100, 250}});
+  EXPECT_EQ(opened, 1);
+  EXPECT_FALSE(form);
+}
+
+// --- life
+
+TEST_F(WindowTest, TheWindowMayGoDuringItsOwnEvents) {
+  form->Released = [&] { form.reset(); };
+  form->cut.Click = [&] { form->Unload(); };
+  acts.Choose(form->cut);
+  EXPECT_FALSE(form);
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+TEST_F(WindowTest, TheCloseBoxLeavesTheDecisionToTheForm) {
+  acts.Close(*form);
+  EXPECT_FALSE(form->IsLoaded());
+  form->Show();
+  EXPECT_EQ(Differences(), none) << "it can be shown again";
+}
+
+TEST_F(WindowTest, OnlyChangesBetweenWindowsActivate) {
+  TestForm other(windows, "Other");
+  other.Show();
+  acts.Activate(*form);
+  acts.Activate(*form);
+  EXPECT_EQ(form->activations, 2);
+  EXPECT_EQ(other.activations, 1);
+}
+
+TEST_F(WindowTest, TimersTickWhileWaiting) {
+  int ticks = 0;
+  Timer& timer = form->timer;
+  timer.Tick = [&] {
+    if (++ticks == 3) timer.Enabled(false);
+  };
+  timer.Interval(1);
+  timer.Enabled(true);
+  platform.windows.RunUntil([&] { return ticks == 3; });
+  EXPECT_EQ(ticks, 3);
+}
+
+struct BoxCase {
+  MessageBox::Buttons buttons;
+  Qt::Key key;
+  MessageBox::Answer answer;
+};
+
+TEST_F(WindowTest, BoxesAnswerToKeys) {
+  using Answer = MessageBox::Answer;
+  const BoxCase cases[] = {{MessageBox::Buttons::Ok, Qt::Key_Escape, Answer::Ok},
+                           {MessageBox::Buttons::YesNo, Qt::Key_Return, Answer::Yes},
+                           {MessageBox::Buttons::YesNo, Qt::Key_Escape, Answer::No}};
+  for (const BoxCase& c : cases) {
+    QTimer::singleShot(0, [&] {
+      QKeyEvent press(QEvent::KeyPress, c.key, Qt::NoModifier);
+      QApplication::sendEvent(QApplication::activeModalWidget(), &press);
+    });
+    EXPECT_EQ(form->Ask({.text = u"Oui ?", .buttons = c.buttons}), c.answer);
+  }
+}
+
+}  // namespace
+}  // namespace lumenote
