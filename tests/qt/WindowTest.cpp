@@ -1,7 +1,9 @@
 // Windows on real widgets: they show what the forms hold, and what the user does comes in.
+#include <QAccessible>
 #include <QApplication>
 #include <QMenu>
 #include <QTimer>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include "Desk.h"
@@ -183,6 +185,37 @@ TEST_F(WindowTest, OnlyChangesBetweenWindowsActivate) {
   acts.Activate(*form);
   EXPECT_EQ(form->activations, 2);
   EXPECT_EQ(other.activations, 1);
+}
+
+TEST_F(WindowTest, AModalWindowLocksTheOthersUntilItHasUnloaded) {
+  TestForm modal(windows, "Modal");
+  bool locked = false;
+  QTimer::singleShot(0, [&] {
+    auto* native = platform.windows.Widgets().Find<FormWindow>(modal);
+    locked = QApplication::activeModalWidget() == native;
+    EXPECT_EQ(native->windowHandle()->transientParent(), Native().windowHandle());
+    acts.Close(modal);
+  });
+  modal.ShowModal();
+  EXPECT_TRUE(locked);
+  EXPECT_FALSE(modal.IsLoaded());
+}
+
+TEST_F(WindowTest, AssistiveProgramsReadAndEdit) {
+  form->box.Surface().Text(u"un deux\r\ntrois");
+  auto* view = platform.windows.Widgets().Find<RichTextView>(form->box);
+  QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(view);
+  QAccessibleTextInterface* text = accessible->textInterface();
+  ASSERT_TRUE(text);
+  EXPECT_EQ(text->text(3, 7), QStringLiteral("deux"));
+  int start = 0;
+  int end = 0;
+  EXPECT_EQ(text->textAtOffset(4, QAccessible::WordBoundary, &start, &end), QStringLiteral("deux"));
+  EXPECT_EQ(text->textAtOffset(11, QAccessible::LineBoundary, &start, &end),
+            QStringLiteral("trois"));
+  EXPECT_EQ(start, 9);
+  accessible->editableTextInterface()->replaceText(0, 2, QStringLiteral("une"));
+  EXPECT_EQ(form->box.Surface().Text(), u"une deux\r\ntrois");
 }
 
 TEST_F(WindowTest, TimersTickWhileWaiting) {

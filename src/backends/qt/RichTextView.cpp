@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QPainter>
+#include <QStyle>
 #include <QStyleHints>
 #include <algorithm>
 #include <cmath>
@@ -19,7 +20,8 @@ namespace lumenote {
 namespace {
 
 constexpr int kFramelessHeight = 20;  // pixels; lower boxes have no frame
-constexpr double kWheelLine = 20;     // pixels
+constexpr double kMargin = 3;
+constexpr double kWheelLine = 20;  // pixels
 constexpr double kZoomStep = 1.1;
 constexpr double kLeastZoom = 0.2;
 constexpr double kMostZoom = 5;
@@ -177,9 +179,17 @@ void RichTextView::ShowGround() {
 
 void RichTextView::resizeEvent(QResizeEvent*) {
   bars_.Choose(height());
-  setFrameShape(height() < kFramelessHeight ? QFrame::NoFrame : QFrame::StyledPanel);
+  ChooseFrame();
   pane_.Resize(viewport()->size());
   Settle();
+}
+
+// The text begins at the same place with and without a frame.
+void RichTextView::ChooseFrame() {
+  const bool frameless = height() < kFramelessHeight;
+  setFrameShape(frameless ? QFrame::NoFrame : QFrame::StyledPanel);
+  const int frame = style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this);
+  pane_.Margin(kMargin + (frameless ? frame : 0));
 }
 
 void RichTextView::showEvent(QShowEvent*) {

@@ -97,6 +97,7 @@ class RichTextView : public QAbstractScrollArea, private SurfaceView {
   void SettleSoon();
   void OfferSelection();
   void ShowGround();
+  void ChooseFrame();
   PaintState State();
   void RestartBlinking();
 

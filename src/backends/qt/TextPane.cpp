@@ -15,7 +15,7 @@ const PieceLine& LineOf(const Piece& piece, Position position) {
 
 double TextPane::WrapWidth() const {
   const double margin = surface_.RightMargin();
-  return margin > 0 ? layouter_.Pixels(margin) : size_.width() - 2 * kMargin;
+  return margin > 0 ? layouter_.Pixels(margin) : size_.width() - 2 * margin_;
 }
 
 void TextPane::Resize(QSizeF size) {
@@ -44,7 +44,7 @@ void TextPane::Composing(const Preedit& preedit) {
 }
 
 double TextPane::MostRight() const {
-  return std::max(0.0, std::ceil(WrapWidth() + 2 * kMargin - size_.width()));
+  return std::max(0.0, std::ceil(WrapWidth() + 2 * margin_ - size_.width()));
 }
 
 TextPane::LineSpot TextPane::LineNear(double y) {
@@ -110,8 +110,8 @@ void TextPane::RevealAcross(Position position) {
   const std::optional<QRectF> caret = CaretAt(position);
   if (!caret) return;
   const double room = size_.width() / 8;
-  if (caret->left() < kMargin) scrolledRight_ += caret->left() - room;
-  if (caret->right() > size_.width() - kMargin)
+  if (caret->left() < margin_) scrolledRight_ += caret->left() - room;
+  if (caret->right() > size_.width() - margin_)
     scrolledRight_ += caret->right() - size_.width() + room;
   scrolledRight_ = std::clamp(std::round(scrolledRight_), 0.0, most);
 }

@@ -30,8 +30,10 @@ class TextPane {
   double Zoom() const { return layouter_.styles.Zoom(); }
   void Composing(const Preedit& preedit);
 
+  /// Room beside the text.
+  void Margin(double pixels) { margin_ = pixels; }
   /// Where the text's left edge is.
-  double TextLeft() const { return kMargin - scrolledRight_; }
+  double TextLeft() const { return margin_ - scrolledRight_; }
   double ScrolledRight() const { return scrolledRight_; }
   void ScrolledRight(double pixels) { scrolledRight_ = pixels; }
   /// How far it can be scrolled to the right.
@@ -52,7 +54,6 @@ class TextPane {
   int LinesPerPage();
 
  private:
-  static constexpr double kMargin = 3;
   static constexpr double kCaretWidth = 1;
 
   struct LineSpot {
@@ -68,6 +69,7 @@ class TextPane {
   LayoutCache cache_{surface_.Content(), layouter_};
   ScrollModel scroll_{surface_.Content(), cache_};
   QSizeF size_;
+  double margin_ = 3;
   double scrolledRight_ = 0;
 };
 
