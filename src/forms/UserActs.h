@@ -2,6 +2,7 @@
 #pragma once
 #include <string_view>
 
+#include "base/Position.h"
 #include "forms/Control.h"
 #include "surface/KeyStroke.h"
 
