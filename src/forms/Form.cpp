@@ -119,13 +119,6 @@ void Form::ShowModal() {
   modal_ = false;
 }
 
-void Form::Hide() {
-  if (!visible_) return;
-  visible_ = false;
-  Changed(Property::Visible);
-  if (Form* next = windows_.Deactivate(*this)) next->UserActivate();
-}
-
 void Form::UserActivate() {
   if (!windows_.Activate(*this)) return;
   Raise([this] { Form_Activate(); });

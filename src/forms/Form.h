@@ -60,7 +60,6 @@ class Form : public Element, public Container {
   void ShowModal();
   bool IsModal() const { return modal_; }
   Form* OwnerWindow() const { return ownerWindow_; }
-  void Hide();
   /// Raises QueryUnload and Unload at once, then leaves the list of windows. A form that is not
   /// loaded, or is unloading already, is left alone.
   void Unload();
