@@ -51,10 +51,16 @@ void Interpreter::DefaultLanguage(int, const Token& word) {
 void Interpreter::Fallback(int, const Token& word) { State().fallback = std::max(word.number, 0); }
 
 void Interpreter::Plain(int, const Token&) {
-  EditCharacter() = default_;
-  State().character.size = kStandardSize;
+  EditCharacter() = PlainFormat();
   const SourceFont* font = fonts_.Find(defaultFont_);
   State().page = CodePage(font && font->page ? font->page : documentPage_);
+  if (State().style) ApplyCharacterStyle(*State().style);
+}
+
+CharFormat Interpreter::PlainFormat() const {
+  CharFormat plain = default_;
+  plain.size = kStandardSize;
+  return plain;
 }
 
 void Interpreter::Font(int, const Token& word) {

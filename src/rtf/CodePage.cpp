@@ -5,6 +5,7 @@
 
 #include "base/Strings.h"
 #include "rtf/CodePageTables.h"
+#include "rtf/DoubleBytePage.h"
 
 namespace lumenote {
 namespace {
@@ -23,13 +24,17 @@ const char16_t* UpperHalfOrWindows(int page) {
 
 }  // namespace
 
-CodePage::CodePage(int number) : upper_(UpperHalfOrWindows(number)), number_(number) {}
+CodePage::CodePage(int number)
+    : upper_(UpperHalfOrWindows(number)),
+      number_(number),
+      multiByte_(number == kPageUtf8 || DoubleBytePage::Is(number)) {}
 
 void DecodeCodePage(int page, std::string_view bytes, std::u16string& out) {
   if (page == kPageUtf8) {
     out += FromUtf8(bytes);
     return;
   }
+  if (const DoubleBytePage* pairs = DoubleBytePage::Find(page)) return pairs->Decode(bytes, out);
   const CodePage decode(page);
   out.reserve(out.size() + bytes.size());
   for (const char byte : bytes) out.push_back(decode[static_cast<unsigned char>(byte)]);

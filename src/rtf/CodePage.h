@@ -19,7 +19,7 @@ bool Fits1252(std::u16string_view text);
 int ByteIn1252(char16_t unit);
 
 /// Decodes a run of bytes in a Windows, OEM or Mac code page by its number (as in \ansicpg);
-/// an unknown page reads as 1252. Appends to `out`.
+/// an unknown page reads as 1252. No character of a multi-byte page may be cut. Appends to `out`.
 void DecodeCodePage(int page, std::string_view bytes, std::u16string& out);
 /// The code page of an RTF font character set (\fcharset); 0 for "the document's own".
 int CodePageOfCharset(int charset);
@@ -31,7 +31,7 @@ class CodePage {
   explicit CodePage(int number = kPageOfWindows);
 
   /// Whether a character may take several bytes; such text goes through `DecodeCodePage`.
-  bool MultiByte() const { return number_ == kPageUtf8; }
+  bool MultiByte() const { return multiByte_; }
   /// Whether the bytes below 0x80 stand for themselves.
   bool KeepsAscii() const { return number_ != kPageOfSymbols; }
   int Number() const { return number_; }
@@ -44,6 +44,7 @@ class CodePage {
  private:
   const char16_t* upper_;
   int number_;
+  bool multiByte_;
 };
 
 }  // namespace lumenote

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <utility>
 
 #include "base/Strings.h"
@@ -28,12 +29,15 @@ class Entry {
 
   void Word(const Token& word);
   void Bytes(std::string_view bytes);
+  /// Gives the bytes of the name so far their characters.
+  void EndBytes();
 
  private:
   int documentPage_;
   int number_;
   int page_ = 0;
-  int fallback_ = 0;  // bytes still to pass over behind a \u
+  int fallback_ = 0;   // bytes still to pass over behind a \u
+  std::string bytes_;  // of the name, not yet decoded
   FontFace face_;
 };
 
@@ -52,6 +56,7 @@ void Entry::Word(const Token& word) {
   } else if (word.text == "fprq") {
     face_.pitch = Small(word.number);
   } else if (word.text == "u") {
+    EndBytes();
     face_.name.push_back(static_cast<char16_t>(word.number));
     fallback_ = 1;
   } else {
@@ -66,8 +71,12 @@ void Entry::Bytes(std::string_view bytes) {
   const int passed = std::min(fallback_, static_cast<int>(bytes.size()));
   fallback_ -= passed;
   bytes.remove_prefix(static_cast<std::size_t>(passed));
+  bytes_ += bytes;
+}
+
+void Entry::EndBytes() {
   const bool ownPage = page_ != 0 && page_ != kPageOfSymbols;
-  DecodeCodePage(ownPage ? page_ : documentPage_, bytes, face_.name);
+  DecodeCodePage(ownPage ? page_ : documentPage_, std::exchange(bytes_, {}), face_.name);
 }
 
 }  // namespace
@@ -75,6 +84,7 @@ void Entry::Bytes(std::string_view bytes) {
 void FontTable::Read(Tokenizer& tokens, InternTable<FontFace>& faces, int documentPage) {
   Entry entry(documentPage);
   const auto start = [&](int number) {
+    entry.EndBytes();
     if (entry.Number() >= 0) fonts_[entry.Number()] = {faces.Intern(entry.Face()), entry.Page()};
     entry = Entry(documentPage, number);
   };

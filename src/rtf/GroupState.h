@@ -25,11 +25,14 @@ struct ParagraphState {
   ParaFormat Resolved() const;
 };
 
+struct Style;
+
 struct GroupState {
   CharFormat character;
   ParagraphState paragraph;
-  CodePage page;     // of text bytes
-  int fallback = 1;  // \uc: characters that follow a \u for readers without Unicode
+  CodePage page;                 // of text bytes
+  int fallback = 1;              // \uc: characters that follow a \u for readers without Unicode
+  const Style* style = nullptr;  // of the paragraph
 
   // Numbers of the formats in the document's tables, while they are known.
   bool characterKnown = false;

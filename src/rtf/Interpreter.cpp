@@ -9,6 +9,12 @@
 namespace lumenote {
 namespace {
 
+/// Whether a token is a byte behind a backslash, which may be the second half of a character.
+bool IsEscapedByte(const Token& token) {
+  const unsigned char byte = token.byte;
+  return token.kind == Token::Kind::Symbol && (byte == '\\' || byte == '{' || byte == '}');
+}
+
 /// What a symbol stands for; 0 for the marks of groups, indexes and formulas.
 char16_t CharacterOf(char symbol) {
   switch (symbol) {
@@ -30,9 +36,11 @@ char16_t CharacterOf(char symbol) {
 
 }  // namespace
 
-Interpreter::Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base)
+Interpreter::Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base,
+                         std::size_t opened)
     : tokens_(source), formats_(formats), groups_(1), default_(base) {
   State().character = base;
+  groups_.resize(groups_.size() + opened, groups_.front());
 }
 
 Fragment Interpreter::Read(RtfTarget target) {
@@ -55,6 +63,7 @@ void Interpreter::Take(const Token& token) {
   using Kind = Token::Kind;
   wasStarred_ = std::exchange(starred_, false);
   const bool first = std::exchange(opened_, false);
+  if (State().page.MultiByte() && IsEscapedByte(token)) return Byte(token.byte);
   const bool ofBytes =
       token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
   if (!ofBytes) EndBytes();
@@ -95,10 +104,11 @@ void Interpreter::TakeText() {
 
 /// Whether the "}" just read is the last that matters. Braces that only close at the end leave the
 /// formats as they are, for the final mark; behind the document's own one, text without any markup
-/// is no part of it but what some mailer or disk left there.
+/// is no part of it but what some mailer or disk left there, and neither is a second document.
 bool Interpreter::Ended() const {
+  if (tokens_.OnlyClosesFollow()) return true;
   const bool outermost = !placingMarker_ && uncounted_ == 0 && groups_.size() <= outermost_;
-  return tokens_.OnlyClosesFollow() || (outermost && !tokens_.MarkupFollows());
+  return outermost && (!tokens_.MarkupFollows() || tokens_.DocumentFollows());
 }
 
 void Interpreter::Open() {
@@ -169,9 +179,10 @@ void Interpreter::Bytes(std::string_view bytes) {
 
 void Interpreter::EndBytes() {
   if (bytes_.empty()) return;
-  decoded_.clear();
-  DecodeCodePage(State().page.Number(), std::exchange(bytes_, {}), decoded_);
+  const std::string bytes = std::exchange(bytes_, {});
   BeforeText();
+  decoded_.clear();
+  DecodeCodePage(State().page.Number(), bytes, decoded_);
   body_.Append(decoded_, CharacterNumber());
 }
 

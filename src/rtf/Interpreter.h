@@ -12,6 +12,7 @@
 #include "rtf/GroupState.h"
 #include "rtf/ListTable.h"
 #include "rtf/Reader.h"
+#include "rtf/StyleSheet.h"
 #include "rtf/Tokenizer.h"
 
 namespace lumenote {
@@ -20,7 +21,9 @@ namespace lumenote {
 /// only, so that their formats leak outwards but memory stays bounded.
 class Interpreter {
  public:
-  Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base);
+  /// The source begins inside `opened` groups.
+  Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base,
+              std::size_t opened);
   Fragment Read(RtfTarget target);
 
   // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it.
@@ -78,6 +81,11 @@ class Interpreter {
   void List(int value, const Token& word);
   void ListLevel(int value, const Token& word);
 
+  // Styles.
+  void Styles(int value, const Token& word);
+  void ParagraphStyle(int value, const Token& word);
+  void CharacterStyle(int value, const Token& word);
+
  private:
   static constexpr std::size_t kDeepest = 10'000;
 
@@ -100,6 +108,11 @@ class Interpreter {
   std::string KeptGroup();
   void UseDefaultFont(GroupState& state);
   bool HasBullet() const;
+  /// What \plain gives where no style says otherwise.
+  CharFormat PlainFormat() const;
+  const Style* ResolvedStyle(StyleSheet::Kind kind, int number);
+  void ResolveStyle(const Style* base, Style& style);
+  void ApplyCharacterStyle(const Style& style);
 
   GroupState& State() { return groups_.back(); }
   const GroupState& State() const { return groups_.back(); }
@@ -121,7 +134,8 @@ class Interpreter {
   FontTable fonts_;
   ColourTable colours_;
   ListTable lists_;
-  CharFormat default_;    // what \plain gives
+  StyleSheet styles_;
+  CharFormat default_;    // what \plain gives, but for the size
   int defaultFont_ = -1;  // \deff
   int documentPage_ = kPageOfWindows;
 

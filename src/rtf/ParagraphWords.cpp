@@ -67,7 +67,10 @@ ParaFormat ParagraphState::Resolved() const {
   return format;
 }
 
-void Interpreter::DefaultParagraph(int, const Token&) { EditParagraph() = {}; }
+void Interpreter::DefaultParagraph(int, const Token&) {
+  EditParagraph() = {};
+  State().style = nullptr;
+}
 
 void Interpreter::Align(int value, const Token&) {
   EditParagraph().alignment = static_cast<Alignment>(value);

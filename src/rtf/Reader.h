@@ -6,7 +6,8 @@
 
 namespace lumenote {
 
-/// Whether the bytes begin as RTF does: "{\rtf" or "{\urtf", whatever the letter case.
+/// Whether the bytes begin as RTF does: "{\rtf" or "{\urtf", whatever the letter case. A UTF-8 byte
+/// order mark, blanks and NUL bytes may stand before it, blanks behind the brace.
 bool LooksLikeRtf(std::string_view bytes);
 
 /// What the text is read for.

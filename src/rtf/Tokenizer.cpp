@@ -62,6 +62,12 @@ Tokenizer::Tokenizer(std::string_view source)
   while (tail_ != begin_ && ClosesOrNothing(tail_[-1])) --tail_;
 }
 
+bool Tokenizer::DocumentFollows() const {
+  const std::string_view rest(at_, end_);
+  const std::size_t markup = rest.find_first_of("\\{}");
+  return markup != rest.npos && rest.substr(markup).starts_with("{\\rtf");
+}
+
 /// What the escape at hand stands for when it is a whole \'xx of a printable byte, else -1.
 inline int Tokenizer::HexValue() const {
   if (end_ - at_ < kHexLength || at_[1] != '\'') return -1;

@@ -53,6 +53,8 @@ class Tokenizer {
   bool OnlyClosesFollow() const { return at_ >= tail_; }
   /// Whether any brace or backslash is left.
   bool MarkupFollows() const { return At() < markupEnd_; }
+  /// Whether the next brace or backslash is the beginning of a document.
+  bool DocumentFollows() const;
   bool AtEnd() const { return at_ == end_; }
   /// Puts the last token back.
   void Unread() { at_ = start_; }

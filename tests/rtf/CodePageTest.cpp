@@ -55,6 +55,11 @@ TEST(CodePage, DecodesTheOthers) {
       {65001, "\xC3\xA9", u"é"},
       {42, "A \xB7", u"\uF041 \uF0B7"},
       {0, "\x80", u"€"},
+      {932, "\x83\x6F\xB1\xA0\xFD\xF0\x40", u"バｱ\u00A0\uFFFD\uE000"},
+      {936, "\x80\xD2\xBB\x81\x40\xFE\x4F", u"€一丂\uFA29"},
+      {949, "\xB0\xA1\x81\x41\xCA\xA1", u"가갂伽"},
+      {950, "\xA4\x40\xC9\x40\xF9\xD5", u"一乂龘"},
+      {950, "\xA4 \x81\x81x\x81", u"\uFFFD \uFFFDx\uFFFD"},
       {99999, "\xE9\x92", u"é’"},
   };
   for (const auto& c : cases) EXPECT_EQ(Decoded(c.page, c.bytes), c.text) << c.page;

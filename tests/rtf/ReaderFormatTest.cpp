@@ -10,6 +10,25 @@ class ReaderFormat : public testing::TestWithParam<Case> {};
 TEST_P(ReaderFormat, ComesOut) { EXPECT_EQ(Shown(Read(GetParam().rtf)), GetParam().expected); }
 
 INSTANTIATE_TEST_SUITE_P(
+    Styles, ReaderFormat,
+    testing::Values(
+        Case{R"({\rtf1{\stylesheet{\s1\qc\b H;}}\pard\plain\s1 a\plain b\par\pard\plain c})",
+             "<b>ab|<qc><>c|<>"},
+        Case{R"({\rtf1{\stylesheet{\s1\b\i H;}}\s1 a\b0 b})", "<b i>a<i>b|<>"},
+        Case{R"({\rtf1{\stylesheet{\*\cs3\additive\ul C;}{\s3\fs40 P;}}\b{\cs3 a}b})",
+             "<b ul1>a<b>b|<>"},
+        Case{R"({\rtf1{\stylesheet{\s1\sbasedon2\b A;}{\s2\qr\i B;}}\s1 a})", "<b i>a|<qr>"},
+        Case{R"({\rtf1{\stylesheet{\sa200 N;}{\s1\widctlpar\sb60\sbasedon0 A;}}\s1 a})",
+             "a|<before60>"},
+        Case{
+            R"({\rtf1{\stylesheet{\s1\sbasedon2\b A;}{\s2\sbasedon1\i B;}}\s1 a\par\pard\plain b})",
+            "<b i>a|<><>b|<>"},
+        Case{R"({\rtf1{\stylesheet{\s1\b A;}}\s7\cs7 a})", "a|<>"},
+        Case{R"({\rtf1{\stylesheet{\ts1\b A;}{\*\ds2\i B;}}\s1 a\s2 b})", "ab|<>"},
+        Case{R"({\rtf1{\fonttbl{\f1\fcharset204 A;}}{\stylesheet{\s1\f1 A;}}\s1\'cf})",
+             "<A charset204>П|<>"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Characters, ReaderFormat,
     testing::Values(
         Case{R"({\rtf1 a\b b\i c\b0 d\plain e})", "a<b>b<b i>c<i>d<>e|<>"},

@@ -28,6 +28,16 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1{\fonttbl{\f0\cpg1251 A;}}\deff0\plain\'cf})", "П"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    DoubleBytes, ReaderText,
+    testing::Values(
+        Case{R"({\rtf1{\fonttbl{\f0\fcharset128 A;}{\f1 B;}}\f0\'83\'6f\'81[\f1\'e9})", "バーé"},
+        Case{R"({\rtf1\ansicpg932 \'83\\\'b1\\\{\'94\}})", "ソｱ\\{媒"},
+        Case{R"({\rtf1\ansicpg936 \'b1\'b1a\u20140\'be\'a9})", "北a京\uFFFD"},
+        Case{R"({\rtf1\ansicpg949\uc2\u44032\'b0\'a1\'c7\'d1})", "가한"},
+        Case{R"({\rtf1\ansicpg950{\listtext 1.\tab}\'a4\'a4\par\'a4})", "1.\t中\n\uFFFD"},
+        Case{R"({\rtf1\ansicpg932{\pntext \'82\'50}\'82\'51})", "１２"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Unicode, ReaderText,
     testing::Values(
         Case{R"({\rtf1\u233?x\u-3913?y})", "éx\uF0B7y"},
@@ -87,7 +97,9 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1 a}b\par c})", "ab\nc"}, Case{R"({\rtf1 a}}}{\b b})", "ab"},
         Case{R"({\rtf1 Hello}  )", "Hello"}, Case{R"({\rtf1{\b a} })", "a "},
         Case{"{\\rtf1 Hello}\r\ntrailing", "Hello"}, Case{R"({\rtf1 a{\b b{\i c)", "abc"},
-        Case{R"({\rtf1 caf\'e)", "caf"},
+        Case{R"({\rtf1 caf\'e)", "caf"}, Case{R"({\rtf1 a} b {\rtf1 c})", "a"},
+        Case{R"({\rtf1 a}{\b b}})", "ab"}, Case{"\xEF\xBB\xBF \r\n{\n \\rtf1 a{\\b b}}", "ab"},
+        Case{R"({\rtf1{*\themedata 00}a{*\latentstyles x}})", "*a*"},
         Case{R"({\rtf1{\fonttbl{\f0 Arial}{\f1 Times}}\f1 x})", "x"},
         Case{R"({\rtf1{\fonttbl{\f0 Arial;}\pard\f0 a\par b})", "a\nb"},
         Case{R"({\rtf1{\fonttbl{\f0 A;{\f1 B;}}{\colortbl;\red1;{\info{\title t}\pard a})", "a"},
@@ -113,7 +125,7 @@ TEST(Reader, RecognisesRtf) {
   for (const char* rtf : {"{\\rtf1 a}", "{\\RTF1", "{\\urtf x", "{\\rtf sometext}"}) {
     EXPECT_TRUE(LooksLikeRtf(rtf)) << rtf;
   }
-  for (const char* other : {"", "{\\rt", "text", " {\\rtf1}", "{{\\rtf1}}", "\\rtf1"}) {
+  for (const char* other : {"", "{\\rt", "text", "a {\\rtf1}", "{{\\rtf1}}", "\\rtf1"}) {
     EXPECT_FALSE(LooksLikeRtf(other)) << other;
   }
 }

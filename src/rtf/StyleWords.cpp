@@ -1,0 +1,66 @@
+// Words that give text the formats of styles.
+#include <vector>
+
+#include "rtf/Interpreter.h"
+#include "rtf/Keywords.h"
+
+namespace lumenote {
+
+void Interpreter::Styles(int, const Token&) { styles_.Read(tokens_); }
+
+void Interpreter::ParagraphStyle(int, const Token& word) {
+  const Style* style = ResolvedStyle(StyleSheet::Kind::Paragraph, word.number);
+  State().style = style;
+  if (!style) return;
+  ApplyStyle(style->paragraph, EditParagraph());
+  ApplyCharacterStyle(*style);
+}
+
+void Interpreter::CharacterStyle(int, const Token& word) {
+  const Style* style = ResolvedStyle(StyleSheet::Kind::Character, word.number);
+  if (style) ApplyCharacterStyle(*style);
+}
+
+void Interpreter::ApplyCharacterStyle(const Style& style) {
+  if (style.character.font != default_.font) State().page = style.page;
+  ApplyStyle(style.character, PlainFormat(), EditCharacter());
+}
+
+/// A style is read once, behind those it is based on.
+const Style* Interpreter::ResolvedStyle(StyleSheet::Kind kind, int number) {
+  constexpr std::size_t kMostBases = 16;
+  std::vector<Style*> line;
+  Style* style = styles_.Find(kind, number);
+  while (style && !style->resolved && line.size() < kMostBases) {
+    line.push_back(style);
+    style = styles_.Find(kind, style->base);
+  }
+  const Style* base = style && style->resolved ? style : nullptr;
+  for (; !line.empty(); line.pop_back()) {
+    if (!line.back()->resolved) ResolveStyle(base, *line.back());
+    base = line.back();
+  }
+  return base;
+}
+
+/// Reads the words of the style on top of its base, in a group of its own.
+void Interpreter::ResolveStyle(const Style* base, Style& style) {
+  GroupState state;
+  state.character = base ? base->character : PlainFormat();
+  if (base) state.paragraph = base->paragraph;
+  state.page = base ? base->page : CodePage(documentPage_);
+  groups_.push_back(state);
+  Tokenizer tokens(style.source);
+  for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
+    if (token.kind != Token::Kind::Word) continue;
+    const Keyword* keyword = FindKeyword(token.text);
+    if (keyword && keyword->formats) (this->*keyword->handler)(keyword->value, token);
+  }
+  style.character = State().character;
+  style.paragraph = State().paragraph;
+  style.page = State().page;
+  style.resolved = true;
+  groups_.pop_back();
+}
+
+}  // namespace lumenote

@@ -1,0 +1,81 @@
+#!/usr/bin/env python3
+"""Writes src/rtf/DoubleByteTables.cpp: the double-byte code pages, packed.
+
+    tools/double_byte_pages.py > src/rtf/DoubleByteTables.cpp
+
+The pages come from Python's own codecs. Each is the list of its characters by rising lead byte
+(0x81 to 0xFE), then by rising trail byte (0x40 to 0xFE), written as differences; the C++ side of
+the packing is DoubleBytePage.cpp."""
+
+PAGES = (932, "cp932"), (936, "gbk"), (949, "cp949"), (950, "cp950")
+DIGITS = [chr(c) for c in range(ord("#"), 0x7F) if chr(c) not in "?\\"]
+BASE = len(DIGITS)  # 90
+# The first digit of an item tells its kind; the limits are those of DoubleBytePage.cpp.
+PAIR, RUN, GAP, FAR = 44, 78, 79, 80
+BACK = 700  # the farthest a pair goes back
+
+
+def digits(value, count):
+    return "".join(DIGITS[value // BASE**i % BASE] for i in reversed(range(count)))
+
+
+def far_or_near(step, unit):
+    if 1 <= step <= PAIR:
+        return DIGITS[step - 1]
+    if 0 <= step + BACK < (RUN - PAIR) * BASE:
+        return digits(PAIR * BASE + step + BACK, 2)
+    return digits(FAR * BASE * BASE + unit, 3)
+
+
+def counted(kind, count):
+    """Items of `kind` for `count` cells, each item at most BASE of them."""
+    full, rest = divmod(count, BASE)
+    items = [DIGITS[kind] + DIGITS[BASE - 1]] * full
+    return "".join(items) + (DIGITS[kind] + DIGITS[rest - 1] if rest else "")
+
+
+def units(codec):
+    for lead in range(0x81, 0xFF):
+        for trail in range(0x40, 0xFF):
+            try:
+                text = bytes([lead, trail]).decode(codec)
+            except UnicodeDecodeError:
+                text = ""
+            yield ord(text) if len(text) == 1 else 0
+
+
+def packed(cells):
+    out, last, at = "", 0, 0
+    while at < len(cells):
+        end = at
+        while end < len(cells) and cells[end] == 0:
+            end += 1
+        if end > at:
+            out += counted(GAP, end - at)
+            at = end
+            continue
+        while end < len(cells) and cells[end] == last + 1 + end - at:
+            end += 1
+        if end - at > 2:
+            out += counted(RUN, end - at)
+        else:
+            end = at + 1
+            out += far_or_near(cells[at] - last, cells[at])
+        last, at = cells[end - 1], end
+    return out
+
+
+def main():
+    print("// The double-byte code pages, packed. Made by tools/double_byte_pages.py: not to be edited.")
+    print('#include "rtf/DoubleBytePage.h"\n\nnamespace lumenote {\n')
+    print("// clang-format off")
+    print("const PackedPage kDoubleBytePages[4] = {")
+    for number, codec in PAGES:
+        text = packed(list(units(codec)))
+        lines = [text[at : at + 96] for at in range(0, len(text), 96)]
+        print("{%d," % number)
+        print("\n".join('"%s"' % line for line in lines) + "},")
+    print("};\n// clang-format on\n\n}  // namespace lumenote")
+
+
+main()
