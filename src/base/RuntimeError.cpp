@@ -30,6 +30,8 @@ const char16_t* DescriptionOf(ErrorNumber number) {
       return u"Élément de tableau de contrôles inexistant";
     case ErrorNumber::InvalidPropertyValue:
       return u"Valeur de propriété incorrecte";
+    case ErrorNumber::Printer:
+      return u"Erreur d'imprimante";
   }
   return u"Erreur définie par l'application ou par l'objet";
 }

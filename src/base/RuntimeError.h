@@ -17,6 +17,7 @@ enum class ErrorNumber : int {
   PathNotFound = 76,
   NoSuchElement = 340,
   InvalidPropertyValue = 380,
+  Printer = 482,
 };
 
 /// The one exception that crosses the component: a number and its French description. Raised by

@@ -1,14 +1,18 @@
 #include "editor/Co_Rtf.h"
 
 #include "control/Session.h"
-#include "editor/DocumentStorage.h"
+#include "editor/Conversion.h"
 #include "editor/EditCommands.h"
 #include "editor/Layout.h"
 #include "editor/SessionLife.h"
 #include "editor/WindowPlace.h"
+#include "extapps/OcrLaunch.h"
+#include "format/FontCommand.h"
 #include "format/FormatCommands.h"
 #include "format/Ruler.h"
+#include "format/StyleStore.h"
 #include "forms/Platform.h"
+#include "ocr/OcrCommands.h"
 #include "platform/Settings.h"
 #include "selection/LetterCase.h"
 #include "selection/TextUnits.h"
@@ -16,7 +20,13 @@
 namespace lumenote {
 
 Co_Rtf::Co_Rtf(WindowList& windows, Session& session)
-    : Form(windows, "Co_Rtf", {5000, 3250, 5650, 4350}, u"MicroEditeur"), session_(session) {
+    : Form(windows, "Co_Rtf", {5000, 3250, 5650, 4350}, u"MicroEditeur"),
+      session_(session),
+      paragraph_([this] { return std::make_unique<Co_Paragraph>(Windows(), *this); }),
+      find_([this] { return std::make_unique<Co_Trouver>(Windows(), *this); }),
+      symbols_([this] { return std::make_unique<Co_Symbols>(Windows(), *this); }),
+      learn_([this] { return std::make_unique<Co_Apprendre>(Windows(), *this); }),
+      exchange_(*this, *this, programs_, Machine().Programs()) {
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 210, 5262, 45});
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 45});
   Bx_Règle.Locked(true);
@@ -25,6 +35,9 @@ Co_Rtf::Co_Rtf(WindowList& windows, Session& session)
   Bx_Règle.Surface().TextRTF(RulerRtf());
   WirePopup();
   WireBar();
+  WireFormatMenu();
+  WirePrograms();
+  WireOcr();
   WireSelectionMenu();
   WireZones();
   DisableEntriesWithoutCommand();
@@ -56,8 +69,47 @@ void Co_Rtf::WireBar() {
   Bar.mnuEdtGauche.Click = [this] { Align(0); };
   Bar.mnuEdtCentre.Click = [this] { Align(2); };
   Bar.mnuEdtDroite.Click = [this] { Align(1); };
+  Bar.mnuEdtTrouver.Click = [this] { mnuEdtTrouver_Click(); };
+  Bar.mnuEdtSymboles.Click = [this] { mnuEdtSymboles_Click(); };
+  Bar.mnuEdtSuivantppp.Click = [this] { mnuEdtSuivantppp_Click(); };
+}
+
+void Co_Rtf::WireFormatMenu() {
+  Bar.mnuFmtPolice.Click = [this] { FmtPolice(*this); };
+  Bar.mnuFmtParagraph.Click = [this] { ActFenFormat(); };
+  Bar.mnuFmtStyStandard.Click = [this] { ApplyStyFromName(kStandardSection); };
+  Menu* const styles[] = {&Bar.mnuFmtStyle1, &Bar.mnuFmtStyle2, &Bar.mnuFmtStyle3};
+  for (std::size_t index = 0; index < std::size(styles); ++index)
+    styles[index]->Click = [this, index] { ApplyStyFromName(StyleNames[index + 1]); };
   Bar.mnuFmtActRègle.Click = [this] { mnuFmtActRègle_Click(); };
   Bar.mnuFmtActBarMenu.Click = [this] { AfficheBarreMenu(3); };
+}
+
+void Co_Rtf::WirePrograms() {
+  Pop.mnuPopQjot.Click = [this] { exchange_.mnuPopQjot_Click(); };
+  Pop.mnuPopAtlantis.Click = [this] { exchange_.mnuPopAtlantis_Click(); };
+  Pop.mnuPopMSWord.Click = [this] { exchange_.mnuPopMSWord_Click(); };
+  TimerWpd.Tick = [this] { exchange_.TimerWpd_Timer(); };
+  const auto launch = [this](Menu& entry, Program program) {
+    entry.Click = [this, program] {
+      OuvrirOcr(*this, Machine().Programs(), programs_.Path(program));
+    };
+  };
+  launch(Pop.mnuPopOcrReadIris, Program::ReadIris);
+  launch(Pop.mnuPopOcrFineReader7, Program::FineReader);
+  Pop.mnuPopConvertir.Click = [this] { UpdateConvertir(Pop, session_); };
+  Pop.mnuPopRichTextText.Click = [this] { ConvertirEnTexte(*this); };
+  Pop.mnuPopTextRichText.Click = [this] { ConvertirEnRtf(*this); };
+}
+
+void Co_Rtf::WireOcr() {
+  Pop.mnuPopOcrNettoyer.Click = [this] { NettoyerNote(*this); };
+  Pop.mnuPopOcrApprendre.Click = [this] {
+    ApprendreCorrection(*this, [this] { learn_.Get().ShowModal(); });
+  };
+  Pop.mnuPopOcrListCorr.Click = [this] {
+    EditerListCorr(*this, Machine().Programs(), programs_.Path(Program::Atlantis));
+  };
 }
 
 void Co_Rtf::WireSelectionMenu() {
@@ -114,6 +166,7 @@ void Co_Rtf::Form_Activate() {
   Top(place.top);
   Left(place.left);
   Pop.mnuPopEnregistrer.Visible(session_.fileMode);
+  LocatePrograms();
   PreparerDocument(*this);
   session_.loaded = LoadFilAndIni(*this);
   if (session_.loaded)
@@ -137,6 +190,11 @@ void Co_Rtf::Form_QueryUnload() {
 
 void Co_Rtf::Form_Unload() {
   Timer1.Enabled(false);
+  TimerWpd.Enabled(false);
+  if (Co_Paragraph* dialog = paragraph_.Loaded()) dialog->Unload();
+  if (Co_Trouver* dialog = find_.Loaded()) dialog->Unload();
+  if (Co_Symbols* dialog = symbols_.Loaded()) dialog->Unload();
+  if (Co_Apprendre* dialog = learn_.Loaded()) dialog->Unload();
   CloreSession(session_);
 }
 
@@ -160,6 +218,30 @@ void Co_Rtf::mnuPopMettreDessus_Click() {
   OnTop(session_.onTop);
 }
 
+// --- other programs
+
+void Co_Rtf::LocatePrograms() {
+  IgnoringErrors([this] {
+    programs_ = ChercherApplis({.files = Machine().FileSystem(),
+                                .folders = Machine().SpecialFolders(),
+                                .programs = Machine().InstalledPrograms(),
+                                .registry = Machine().MachineRegistry()});
+  });
+}
+
+void Co_Rtf::Watch(bool on) {
+  TimerWpd.Interval(RoundTrip::kInterval);
+  TimerWpd.Enabled(on);
+}
+
+void Co_Rtf::Describe(MemberTable& members) {
+  Form::Describe(members);
+  members.Add("TypeEditeur", [this] { return Value(int{exchange_.TypeEditeur()}); });
+  members.Add("EtatWpd", [this] { return Value(int{exchange_.EtatWpd()}); });
+  members.Add("FichierTravail", [this] { return Value(exchange_.FichierTravail()); });
+  members.Add("DateTravail", [this] { return Value(exchange_.DateTravail()); });
+}
+
 // --- layout
 
 void Co_Rtf::AfficheBarreMenu(int mode) {
@@ -177,11 +259,61 @@ void Co_Rtf::SwitchZone(float x, float middleWidth) {
       mnuFmtActRègle_Click();
       break;
     case Zone::Right:
+      ActFenFormat();
       break;
   }
 }
 
 void Co_Rtf::mnuFmtActRègle_Click() { Bx_Règle.Visible(!Bx_Règle.Visible()); }
+
+// --- dialogs
+
+std::optional<FontChoice> Co_Rtf::ChooseFont(const FontChoice& shown) {
+  SuspendreDessus();
+  auto chosen = Machine().Windows().ChooseFont(shown, this);
+  RetablirDessus();
+  return chosen;
+}
+
+void Co_Rtf::ActFenFormat() {
+  if (Co_Paragraph* shown = paragraph_.Loaded(); shown && shown->Visible()) return shown->Unload();
+  IgnoringErrors([this] {
+    Co_Paragraph& dialog = paragraph_.Get();
+    dialog.SetPosFenPara();
+    dialog.Show(this);
+    dialog.RafraichirFenFmt();
+  });
+}
+
+// Styles belong to the dialog, which is loaded for them but not shown.
+void Co_Rtf::ApplyStyFromName(std::u16string_view section) {
+  Co_Paragraph& dialog = paragraph_.Get();
+  dialog.Load();
+  dialog.ApplyStyFromName(section);
+}
+
+void Co_Rtf::mnuEdtTrouver_Click() {
+  SuspendreDessus();
+  find_.Get().Show(this);
+}
+
+// The dialog's own button goes on with the search; this entry only reads the options, for which
+// the dialog is loaded.
+void Co_Rtf::mnuEdtSuivantppp_Click() {
+  try {
+    Co_Trouver& dialog = find_.Get();
+    dialog.Load();
+    dialog.Options();
+  } catch (const RuntimeError& error) {
+    AskOver({.text = error.Description()});
+  }
+}
+
+void Co_Rtf::mnuEdtSymboles_Click() {
+  SuspendreDessus();
+  symbols_.Get().ShowModal();
+  RetablirDessus();
+}
 
 // --- selection and formats
 

@@ -1,21 +1,29 @@
 // The editor window: its controls, and handlers that forward to the procedures.
 #pragma once
 #include "editor/ContextMenu.h"
+#include "editor/DocumentStorage.h"
 #include "editor/EditorWindow.h"
 #include "editor/MenuBar.h"
+#include "extapps/ProgramTable.h"
+#include "extapps/RoundTrip.h"
+#include "find/Co_Trouver.h"
+#include "format/Co_Paragraph.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
 #include "forms/Frame.h"
+#include "forms/Instance.h"
 #include "forms/Label.h"
 #include "forms/RichTextBox.h"
 #include "forms/StatusBar.h"
 #include "forms/Timer.h"
+#include "ocr/Co_Apprendre.h"
+#include "symbols/Co_Symbols.h"
 
 namespace lumenote {
 
 struct Session;
 
-class Co_Rtf : public Form, public EditorWindow {
+class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
  public:
   /// `session` and `windows` outlive the window.
   Co_Rtf(WindowList& windows, Session& session);
@@ -27,6 +35,7 @@ class Co_Rtf : public Form, public EditorWindow {
   RichTextBox Bx_Règle{Fr_Notes, "Bx_Règle", {30, 15, 5450, 255}};
   StatusBar Bar_Etat{*this, "Bar_Etat", 2};
   Timer Timer1{*this, "Timer1"};
+  Timer TimerWpd{*this, "TimerWpd"};
   ContextMenu Pop{*this};
   MenuBar Bar{*this};
 
@@ -37,12 +46,19 @@ class Co_Rtf : public Form, public EditorWindow {
   void SuspendreDessus() override;
   void RetablirDessus() override;
   MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
+  std::optional<FontChoice> ChooseFont(const FontChoice& shown) override;
+  Rect WindowPlace() const override { return Place(); }
+  float DocumentWidth() const override { return Bx_RTF.Width(); }
+  void FocusDocument() override { Bx_RTF.SetFocus(); }
+  void EnableSuivant(bool on) override { Bar.mnuEdtSuivantppp.Enabled(on); }
   void ShowStatus(int panel, std::u16string_view text) override { Bar_Etat.Panel(panel, text); }
   std::u16string Status(int panel) const override { return Bar_Etat.Panel(panel); }
   void ShowFormat(std::u16string_view text) override { Lb_Format.Caption(text); }
 
   /// Mode 1 shows the menu bar, 2 hides it, 3 toggles it; then the layout follows.
   void AfficheBarreMenu(int mode);
+
+  void Describe(MemberTable& members) override;
 
  private:
   void Form_Load() override;
@@ -53,15 +69,29 @@ class Co_Rtf : public Form, public EditorWindow {
 
   void WirePopup();
   void WireBar();
+  void WireFormatMenu();
+  void WirePrograms();
+  void WireOcr();
   void WireSelectionMenu();
   void WireZones();
   void DisableEntriesWithoutCommand();
 
+  // RoundTripDesk
+  void Watch(bool on) override;
+  void Reload() override { LoadFilAndIni(*this); }
+
+  void LocatePrograms();
   void Bx_RTF_Change();
   void Bx_RTF_MouseUp(const MouseEvent& event);
   /// A click on the ruler or on one of the labels above and below the document.
   void SwitchZone(float x, float middleWidth);
   void mnuFmtActRègle_Click();
+  /// Opens the paragraph dialog, or closes it.
+  void ActFenFormat();
+  void ApplyStyFromName(std::u16string_view section);
+  void mnuEdtTrouver_Click();
+  void mnuEdtSuivantppp_Click();
+  void mnuEdtSymboles_Click();
   void mnuSelLigne_Click();
   /// The menu commands of alignment give the keyboard back to the document.
   void Align(int alignment);
@@ -73,6 +103,12 @@ class Co_Rtf : public Form, public EditorWindow {
 
   Session& session_;
   bool firstActivation_ = true;
+  Instance<Co_Paragraph> paragraph_;
+  Instance<Co_Trouver> find_;
+  Instance<Co_Symbols> symbols_;
+  Instance<Co_Apprendre> learn_;
+  ProgramTable programs_;
+  RoundTrip exchange_;
 };
 
 }  // namespace lumenote

@@ -1,7 +1,11 @@
 // What dialogs and procedures need of the editor window.
 #pragma once
+#include <optional>
+#include <string>
 #include <string_view>
 
+#include "forms/FontChoice.h"
+#include "forms/Geometry.h"
 #include "forms/MessageBox.h"
 #include "platform/RichTextSurface.h"
 
@@ -30,6 +34,18 @@ class EditorWindow {
     RetablirDessus();
     return answer;
   }
+
+  /// The desktop's font dialog between the same two; empty when cancelled.
+  virtual std::optional<FontChoice> ChooseFont(const FontChoice& shown) = 0;
+
+  /// The window's place on the screen, in twips.
+  virtual Rect WindowPlace() const = 0;
+  /// Width of the note's box, in twips.
+  virtual float DocumentWidth() const = 0;
+  /// Gives the note the keyboard.
+  virtual void FocusDocument() = 0;
+  /// Whether the menu entry that goes on with a search can be chosen.
+  virtual void EnableSuivant(bool on) = 0;
 
   /// Text of a status panel, counted from 1.
   virtual void ShowStatus(int panel, std::u16string_view text) = 0;

@@ -2,11 +2,13 @@
 #pragma once
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/RuntimeError.h"
 #include "forms/Element.h"
+#include "forms/FontChoice.h"
 #include "forms/Geometry.h"
 #include "forms/MessageBox.h"
 #include "platform/RichTextSurface.h"
@@ -32,6 +34,9 @@ class FormPeer {
   virtual void Focus(Control& control) = 0;
   /// In front of the other windows, with the keyboard.
   virtual void Activate() = 0;
+  /// A control has come to the form, or is about to go, while the window exists.
+  virtual void Add(Control& control) = 0;
+  virtual void Remove(Control& control) = 0;
   /// Shows the menu at a point of the form (twips from its inner corner) until an entry is chosen,
   /// whose door it calls, or the menu is dismissed.
   virtual void PopUp(Menu& menu, Point at) = 0;
@@ -50,6 +55,8 @@ class Backend {
   /// Blocks, keeping events and timers flowing, until the user has answered. `over` is the window
   /// the box belongs to; it may be null.
   virtual MessageBox::Answer Show(const MessageBox& box, Form* over) = 0;
+  /// The desktop's font dialog, starting from `shown`; blocks like a box. Empty when cancelled.
+  virtual std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* over) = 0;
   /// Keeps events and timers flowing until `done` says so; it is asked after every event.
   virtual void RunUntil(const std::function<bool()>& done) = 0;
   /// Whether no window of the desktop stands above the form's. Without a desktop that tells, the

@@ -13,7 +13,28 @@ Control::Control(Container& container, std::string name, Rect place)
   container_.controls_.push_back(this);
 }
 
-Control::~Control() = default;
+Control::~Control() {
+  if (FormPeer* peer = Owner().Peer()) peer->Remove(*this);
+  if (Owner().ActiveControl() == this) Owner().ActiveControl(nullptr);
+  std::erase(container_.controls_, this);
+  Delist();
+}
+
+void Control::Arrive() {
+  if (FormPeer* peer = Owner().Peer()) peer->Add(*this);
+}
+
+void Control::FontName(std::u16string_view name) {
+  if (name == fontName_) return;
+  fontName_ = name;
+  Changed(Property::Font);
+}
+
+void Control::FontSize(float points) {
+  if (points == fontSize_) return;
+  fontSize_ = points;
+  Changed(Property::Font);
+}
 
 void Control::Place(Rect place) {
   if (place.width < 0 || place.height < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
@@ -34,6 +55,7 @@ void Control::SetFocus() {
   if (!TakesFocus()) return;
   Owner().ActiveControl(this);
   if (FormPeer* peer = Owner().Peer()) peer->Focus(*this);
+  Owner().Activate();
 }
 
 void Control::UserMouseUp(const MouseEvent& event) {
@@ -41,8 +63,22 @@ void Control::UserMouseUp(const MouseEvent& event) {
   Owner().Raise([&] { MouseUp(event); });
 }
 
+void Control::UserMouseMove(const MouseEvent& event) {
+  if (!MouseMove) return;
+  Owner().Raise([&] { MouseMove(event); });
+}
+
+void Control::UserClick() {
+  if (Click) Owner().Raise(Click);
+}
+
+void Control::UserDoubleClick() {
+  if (DblClick) Owner().Raise(DblClick);
+}
+
 void Control::Describe(MemberTable& members) {
   ShownElement::Describe(members);
+  members.Add("FontName", [this] { return Value(FontName()); });
   const auto length = [&](std::string_view name, auto get, auto set) {
     members.Add(
         name, [this, get] { return Value((this->*get)()); },

@@ -6,6 +6,7 @@
 
 #include "forms/Geometry.h"
 #include "forms/ShownElement.h"
+#include "surface/KeyStroke.h"
 
 namespace lumenote {
 
@@ -51,16 +52,37 @@ class Control : public ShownElement {
   float Height() const { return place_.height; }
   void Height(float twips);
 
+  /// The font of the control's text; an empty name or a size of 0 points is the window's own.
+  const std::u16string& FontName() const { return fontName_; }
+  void FontName(std::u16string_view name);
+  float FontSize() const { return fontSize_; }
+  void FontSize(float points);
+  /// Above the other controls of its container.
+  void BringToFront() { Changed(Property::Order); }
+  /// Tells a window that exists already of a control that is new.
+  void Arrive();
+
   /// Whether the keyboard can reach the control.
   virtual bool TakesFocus() const { return false; }
-  /// Gives the control the keyboard; one that takes none is left alone.
+  /// Gives the control the keyboard, and its window, once shown, the foreground; one that takes
+  /// none is left alone.
   void SetFocus();
 
   /// Events, wired by the form.
   std::function<void(const MouseEvent&)> MouseUp;
+  std::function<void(const MouseEvent&)> MouseMove;
+  std::function<void()> Click;
+  std::function<void()> DblClick;
 
-  /// The user's door: a mouse act, as the peer reports it.
-  virtual void UserMouseUp(const MouseEvent& event);
+  /// The user's door: acts as the peer reports them.
+  void UserMouseUp(const MouseEvent& event);
+  void UserMouseMove(const MouseEvent& event);
+  virtual void UserClick();
+  void UserDoubleClick();
+  /// Keys of characters; a control without text takes none.
+  virtual void UserType(std::u16string_view) {}
+  /// Whether the key did something here.
+  virtual bool UserKey(const KeyStroke&) { return false; }
 
   void Describe(MemberTable& members) override;
 
@@ -69,6 +91,8 @@ class Control : public ShownElement {
 
   Container& container_;
   Rect place_;
+  std::u16string fontName_;
+  float fontSize_ = 0;
 };
 
 }  // namespace lumenote

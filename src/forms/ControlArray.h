@@ -21,8 +21,11 @@ class ControlArray {
     std::string name = name_ + "(" + std::to_string(controls_.size()) + ")";
     controls_.push_back(
         std::make_unique<C>(container, std::move(name), std::forward<Arguments>(arguments)...));
+    controls_.back()->Arrive();
     return *controls_.back();
   }
+  /// Removes the elements from index `count` on.
+  void Truncate(int count) { controls_.resize(static_cast<std::size_t>(count)); }
 
   int Count() const { return static_cast<int>(controls_.size()); }
   /// Raises NoSuchElement (340) for an index that is not there.

@@ -11,6 +11,8 @@ Element::~Element() = default;
 
 void Element::Enlist() { form_.elements_.push_back(this); }
 
+void Element::Delist() { std::erase(form_.elements_, this); }
+
 void Element::Describe(MemberTable& members) {
   members.Add("Name", [this] { return Value(FromUtf8(name_)); });
 }

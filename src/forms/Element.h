@@ -19,6 +19,11 @@ enum class Property {
   OnTop,
   Panels,
   Content,
+  Value,
+  List,
+  Locked,
+  Font,
+  Order,
 };
 
 /// A window, control, menu entry or timer. Lives as long as its form, which it is a member of.
@@ -38,6 +43,8 @@ class Element {
  protected:
   /// Enters the form's list of elements; called once, by the constructors of a form's parts.
   void Enlist();
+  /// Leaves it again, where the part goes before its form does.
+  void Delist();
   /// Pushes the change to the form's peer, if there is one.
   void Changed(Property property);
 

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Strings.h"
+#include "forms/Button.h"
 #include "forms/Menu.h"
 #include "forms/Platform.h"
 #include "forms/Timer.h"
@@ -82,6 +83,24 @@ void Form::UserMove(float left, float top) {
   place_.top = top;
 }
 
+void Form::UserMouseMove(const MouseEvent& event) {
+  Raise([&] { Form_MouseMove(event); });
+}
+
+bool Form::UserKey(const KeyStroke& key) {
+  if (key.control || key.alt) return false;
+  Button* button = key.name == KeyName::Return   ? defaultButton_
+                   : key.name == KeyName::Escape ? cancelButton_
+                                                 : nullptr;
+  if (button && button->Enabled() && button->Visible()) {
+    button->UserClick();
+    return true;
+  }
+  if (key.name != KeyName::Escape || !escapeCloses_) return false;
+  Unload();
+  return true;
+}
+
 // --- life
 
 void Form::Load() {
@@ -109,6 +128,22 @@ void Form::Show(Form* owner) {
   }
   if (peer_) peer_->Activate();
   if (loaded_) UserActivate();
+  if (loaded_) FocusFirst();
+}
+
+void Form::Activate() {
+  if (!visible_ || !peer_ || windows_.Active() == this) return;
+  peer_->Activate();
+  UserActivate();
+}
+
+void Form::FocusFirst() {
+  if (activeControl_) return;
+  for (Element* element : elements_) {
+    auto* control = dynamic_cast<Control*>(element);
+    if (control && control->TakesFocus() && control->Visible() && control->Enabled())
+      return control->SetFocus();
+  }
 }
 
 void Form::ShowModal() {

@@ -13,6 +13,7 @@
 
 namespace lumenote {
 
+class Button;
 class Timer;
 
 /// A window class derives from it and has its controls as members. Made unloaded; `Load` realises
@@ -56,6 +57,8 @@ class Form : public Element, public Container {
   bool IsLoaded() const { return loaded_; }
   /// Loads when needed, shows and activates. An owned window stays above `owner`.
   void Show(Form* owner = nullptr);
+  /// Brings a visible window that is not the active one to the front.
+  void Activate();
   /// Shows and returns when the window has been unloaded; the other windows are locked meanwhile.
   void ShowModal();
   bool IsModal() const { return modal_; }
@@ -63,6 +66,13 @@ class Form : public Element, public Container {
   /// Raises QueryUnload and Unload at once, then leaves the list of windows. A form that is not
   /// loaded, or is unloading already, is left alone.
   void Unload();
+
+  /// What Return and Escape click, where the control with the keyboard has no use for them; null
+  /// for none. A button that is disabled or hidden is not clicked.
+  void DefaultButton(Button* button) { defaultButton_ = button; }
+  void CancelButton(Button* button) { cancelButton_ = button; }
+  /// Escape closes the window, which has no cancel button.
+  void EscapeCloses(bool on) { escapeCloses_ = on; }
 
   Control* ActiveControl() const { return activeControl_; }
   /// The control that has the keyboard while the window is active, as the peer reports it.
@@ -90,6 +100,10 @@ class Form : public Element, public Container {
   /// The window has become the active one of this control; raises Activate if it was not.
   void UserActivate();
   void UserClose() { Unload(); }
+  /// The pointer moves over the window where no control is.
+  void UserMouseMove(const MouseEvent& event);
+  /// A key that its control had no use for; whether the window had.
+  bool UserKey(const KeyStroke& key);
 
   /// Called when the form may be destroyed; set by the keeper.
   std::function<void()> Released;
@@ -102,6 +116,7 @@ class Form : public Element, public Container {
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
   virtual void Form_Resize() {}
+  virtual void Form_MouseMove(const MouseEvent&) {}
   virtual void Form_QueryUnload() {}
   virtual void Form_Unload() {}
 
@@ -113,6 +128,8 @@ class Form : public Element, public Container {
 
   void Place(Rect place);
   void RearmTimers();
+  /// A window that nothing on has the keyboard gives it to the first control that takes it.
+  void FocusFirst();
 
   WindowList& windows_;
   std::unique_ptr<FormPeer> peer_;
@@ -124,6 +141,8 @@ class Form : public Element, public Container {
   std::int32_t backColor_ = -1;
   Form* ownerWindow_ = nullptr;
   Control* activeControl_ = nullptr;
+  Button* defaultButton_ = nullptr;
+  Button* cancelButton_ = nullptr;
   int depth_ = 0;
   bool visible_ = false;
   bool onTop_ = false;
@@ -131,6 +150,7 @@ class Form : public Element, public Container {
   bool unloading_ = false;
   bool unloaded_ = false;
   bool modal_ = false;
+  bool escapeCloses_ = false;
 };
 
 }  // namespace lumenote

@@ -4,10 +4,19 @@
 
 namespace lumenote {
 
+/// A cell is framed, its text centred and taken literally, ampersands too.
+enum class LabelStyle { Text, Cell };
+
 class Label : public CaptionedControl {
  public:
-  Label(Container& container, std::string name, Rect place, std::u16string caption = {})
-      : CaptionedControl(container, std::move(name), place, std::move(caption)) {}
+  Label(Container& container, std::string name, Rect place, std::u16string caption = {},
+        LabelStyle style = LabelStyle::Text)
+      : CaptionedControl(container, std::move(name), place, std::move(caption)), style_(style) {}
+
+  LabelStyle Style() const { return style_; }
+
+ private:
+  LabelStyle style_;
 };
 
 }  // namespace lumenote

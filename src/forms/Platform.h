@@ -7,6 +7,10 @@ class Backend;
 class Clipboard;
 class Files;
 class Folders;
+class Fonts;
+class Processes;
+class ProgramFolders;
+class Registry;
 class Settings;
 
 /// Outlives every control made with it.
@@ -18,6 +22,11 @@ class Platform {
   virtual Files& FileSystem() = 0;
   virtual Folders& SpecialFolders() = 0;
   virtual Clipboard& SystemClipboard() = 0;
+  virtual const Fonts& SystemFonts() = 0;
+  /// Other programs: where they are registered and installed, and running them.
+  virtual const Registry& MachineRegistry() = 0;
+  virtual const ProgramFolders& InstalledPrograms() = 0;
+  virtual Processes& Programs() = 0;
 };
 
 }  // namespace lumenote

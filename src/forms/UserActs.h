@@ -8,8 +8,10 @@
 
 namespace lumenote {
 
+class ComboBox;
 class Menu;
 class RichTextBox;
+class UpDown;
 
 /// Each backend performs the acts its own way: the headless one through the elements' doors, a
 /// desktop one by real events to the widgets. The element is loaded, visible and enabled.
@@ -28,6 +30,12 @@ class UserActs {
   enum class MouseAct { Down, Move, Up };
   virtual void Mouse(Control& control, MouseAct act, const MouseEvent& event) = 0;
   virtual void Drag(RichTextBox& box, Position start, Position length, Position to) = 0;
+  /// One click on an arrow; the upper one raises the value.
+  virtual void Spin(UpDown& spinner, bool up) = 0;
+  /// Chooses an entry of the list, from 0; it is there.
+  virtual void Pick(ComboBox& combo, int index) = 0;
+  /// Drops the list down and leaves it without a choice.
+  virtual void Drop(ComboBox& combo) = 0;
   virtual void Resize(Form& form, float width, float height) = 0;
   virtual void Activate(Form& form) = 0;
   virtual void Close(Form& form) = 0;

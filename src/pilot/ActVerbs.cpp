@@ -2,9 +2,11 @@
 #include <array>
 #include <limits>
 
+#include "forms/ComboBox.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
 #include "forms/RichTextBox.h"
+#include "forms/UpDown.h"
 #include "pilot/Arguments.h"
 #include "pilot/Reach.h"
 #include "pilot/ScriptError.h"
@@ -43,6 +45,13 @@ MouseEvent ReadMouseEvent(Arguments& arguments) {
   return event;
 }
 
+/// A control of one kind that the user can reach.
+template <class Kind>
+Kind& ReachKind(Stage& stage, std::string_view path) {
+  if (auto* control = dynamic_cast<Kind*>(&ReachControl(stage, path))) return *control;
+  throw ScriptError(std::string(path) + " is not of that kind");
+}
+
 }  // namespace
 
 Answer Click(Stage& stage, Arguments& arguments) {
@@ -56,6 +65,13 @@ Answer Click(Stage& stage, Arguments& arguments) {
     stage.acts.Choose(*menu);
   else
     stage.acts.Open(*menu);
+  return {};
+}
+
+Answer DoubleClick(Stage& stage, Arguments& arguments) {
+  const std::string path = arguments.Name();
+  arguments.End();
+  stage.acts.DoubleClick(ReachControl(stage, path));
   return {};
 }
 
@@ -108,6 +124,33 @@ Answer Drag(Stage& stage, Arguments& arguments) {
   const Position to = ReadPosition(arguments);
   arguments.End();
   stage.acts.Drag(ReachSurface(stage, path), start, length, to);
+  return {};
+}
+
+Answer Spin(Stage& stage, Arguments& arguments) {
+  const std::string path = arguments.Name();
+  const std::string arrow = arguments.Name();
+  arguments.End();
+  if (arrow != "up" && arrow != "down") throw ScriptError("up or down expected");
+  stage.acts.Spin(ReachKind<UpDown>(stage, path), arrow == "up");
+  return {};
+}
+
+Answer Pick(Stage& stage, Arguments& arguments) {
+  const std::string path = arguments.Name();
+  const int index = arguments.Whole(0, std::numeric_limits<int>::max());
+  arguments.End();
+  auto& combo = ReachKind<ComboBox>(stage, path);
+  if (index >= static_cast<int>(combo.List().size()))
+    throw RuntimeError(ErrorNumber::NoSuchElement);
+  stage.acts.Pick(combo, index);
+  return {};
+}
+
+Answer Drop(Stage& stage, Arguments& arguments) {
+  const std::string path = arguments.Name();
+  arguments.End();
+  stage.acts.Drop(ReachKind<ComboBox>(stage, path));
   return {};
 }
 

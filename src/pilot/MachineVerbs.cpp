@@ -6,6 +6,7 @@
 #include "pilot/Stage.h"
 #include "pilot/Verbs.h"
 #include "platform/Clipboard.h"
+#include "platform/Registry.h"
 #include "platform/Settings.h"
 #include "surface/TextBytes.h"
 
@@ -67,7 +68,7 @@ Answer Setting(Stage& stage, Arguments& arguments) {
 Answer Registry(Stage& stage, Arguments& arguments) {
   const std::u16string key = arguments.Text();
   const std::u16string name = arguments.Text();
-  if (arguments.AtEnd()) return ValueOrNull(stage.sandbox.ReadRegistry(key, name));
+  if (arguments.AtEnd()) return ValueOrNull(stage.sandbox.MachineRegistry().Read(key, name));
   const std::u16string value = arguments.Text();
   arguments.End();
   stage.sandbox.WriteRegistry(key, name, value);
@@ -91,7 +92,8 @@ Answer PrinterFonts(Stage& stage, Arguments& arguments) {
   Arguments ahead = arguments;
   const bool none = ahead.Any() == Value(u"none");
   if (none) arguments = ahead;
-  const int count = none ? 0 : arguments.Whole(0, std::numeric_limits<int>::max());
+  std::optional<int> count;
+  if (!none) count = arguments.Whole(0, std::numeric_limits<int>::max());
   arguments.End();
   stage.fonts.printer = count;
   return {};

@@ -17,6 +17,7 @@ namespace {
 constexpr std::array<std::string_view, 5> kWindowNames{"Co_Rtf", "Co_Paragraph", "Co_Apprendre",
                                                        "Co_Trouver", "Co_Symbols"};
 constexpr std::string_view kSession = "Session";
+constexpr std::string_view kStyle = "CurrentStyle";
 
 [[noreturn]] void Unknown(std::string_view kind, std::string_view name) {
   throw ScriptError("unknown " + std::string(kind) + " " + std::string(name));
@@ -87,6 +88,7 @@ Element& FindElement(const WindowList& windows, std::string_view path) {
 Value ReadMember(Stage& stage, std::string_view path) {
   const auto [object, name] = SplitMember(path);
   if (object == kSession) return ReadSession(stage.control.Parts().session, name);
+  if (object == kStyle) return ReadStyle(name);
   const MemberName wanted = ParseMember(name);
   MemberTable members;
   FindElement(stage.Windows(), object).Describe(members);
@@ -95,8 +97,9 @@ Value ReadMember(Stage& stage, std::string_view path) {
 
 void WriteMember(Stage& stage, std::string_view path, const Value& value) {
   const auto [object, name] = SplitMember(path);
-  const MemberName wanted = ParseMember(name);
   if (object == kSession) throw ScriptError("session values can only be read");
+  if (object == kStyle) return WriteStyle(name, value);
+  const MemberName wanted = ParseMember(name);
   MemberTable members;
   FindElement(stage.Windows(), object).Describe(members);
   const Member& member = FindMember(members, wanted);

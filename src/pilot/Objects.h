@@ -26,4 +26,8 @@ void WriteMember(Stage& stage, std::string_view path, const Value& value);
 /// One of the session's values; raises `ScriptError` for an unknown name.
 Value ReadSession(const Session& session, std::string_view name);
 
+/// One field of the paragraph style in use, or its right margin; the same.
+Value ReadStyle(std::string_view name);
+void WriteStyle(std::string_view name, const Value& value);
+
 }  // namespace lumenote

@@ -17,6 +17,8 @@ class PilotPeer final : public FormPeer {
   void Update(Element& element, Property property) override { inner_->Update(element, property); }
   void Focus(Control& control) override { inner_->Focus(control); }
   void Activate() override { inner_->Activate(); }
+  void Add(Control& control) override { inner_->Add(control); }
+  void Remove(Control& control) override { inner_->Remove(control); }
   void PopUp(Menu& menu, Point) override { popUp_ = menu.Name(); }
   std::vector<std::string> Differences() const override { return inner_->Differences(); }
 
@@ -53,6 +55,10 @@ MessageBox::Answer PilotBackend::Show(const MessageBox& box, Form*) {
   }
   boxes_.push_back({box, answer});
   return answer;
+}
+
+std::optional<FontChoice> PilotBackend::ChooseFont(const FontChoice&, Form*) {
+  return std::exchange(fontAnswer_, {});
 }
 
 void PilotBackend::RunUntil(const std::function<bool()>& done) {

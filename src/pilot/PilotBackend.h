@@ -41,6 +41,7 @@ class PilotBackend final : public Backend {
   std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
                                                Files& files) override;
   MessageBox::Answer Show(const MessageBox& box, Form* over) override;
+  std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* over) override;
   /// Ends, too, when the script is over and nothing is left that could be closed.
   void RunUntil(const std::function<bool()>& done) override;
   bool IsTopmost(const Form& form) override { return inner_.IsTopmost(form); }
@@ -52,6 +53,8 @@ class PilotBackend final : public Backend {
   /// head of the queue gets its default button.
   void Answer(MessageBox::Answer answer) { answers_.push_back(answer); }
   bool HasAnswers() const { return !answers_.empty(); }
+  /// What the next font dialog answers; without an answer it is cancelled.
+  void FontAnswer(std::optional<FontChoice> choice) { fontAnswer_ = std::move(choice); }
   /// The boxes shown since the last call.
   std::vector<ShownBox> TakeBoxes();
   /// Name of the menu popped up last since the last call.
@@ -82,6 +85,7 @@ class PilotBackend final : public Backend {
   std::deque<MessageBox::Answer> answers_;
   std::vector<ShownBox> boxes_;
   std::optional<std::string> popUp_;
+  std::optional<FontChoice> fontAnswer_;
   FailureTrap* trap_ = nullptr;
 };
 

@@ -1,7 +1,6 @@
 // The machine that a script runs on: the component's side of it, and the script's.
 #pragma once
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,7 +10,10 @@ namespace lumenote {
 class Clipboard;
 class Files;
 class Folders;
+class ProgramFolders;
+class Registry;
 class Settings;
+class StandIns;
 
 /// A machine of its own: drive C: in a folder, settings and a machine-wide registry in files, a
 /// private clipboard. Nothing outside is read or written. Outlives the run.
@@ -24,9 +26,12 @@ class Sandbox {
   virtual Folders& SpecialFolders() = 0;
   virtual Clipboard& SystemClipboard() = 0;
 
+  virtual const Registry& MachineRegistry() const = 0;
+  virtual const ProgramFolders& InstalledPrograms() const = 0;
+  /// The only programs that run on this machine.
+  virtual StandIns& Programs() = 0;
+
   /// One string by key (its case ignored) and name ("" for the key's default value).
-  virtual std::optional<std::u16string> ReadRegistry(std::u16string_view key,
-                                                     std::u16string_view name) const = 0;
   virtual void WriteRegistry(std::u16string_view key, std::u16string_view name,
                              std::u16string_view value) = 0;
 

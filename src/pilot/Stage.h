@@ -8,16 +8,11 @@
 #include "control/Component.h"
 #include "forms/UserActs.h"
 #include "pilot/PilotBackend.h"
+#include "pilot/ReportedFonts.h"
 #include "pilot/Sandbox.h"
 #include "pilot/Transcript.h"
 
 namespace lumenote {
-
-/// The fonts that scripts let the machine report; nothing set means its own.
-struct ReportedFonts {
-  std::vector<std::u16string> screen;
-  std::optional<int> printer;  // 0 without a printer
-};
 
 struct Stage {
   CoBxRtf& control;
@@ -25,7 +20,7 @@ struct Stage {
   PilotBackend& backend;
   UserActs& acts;
   Transcript& transcript;
-  ReportedFonts fonts{};
+  ReportedFonts& fonts;
 
   WindowList& Windows() const { return control.Parts().windows; }
 };

@@ -32,12 +32,16 @@ Answer Set(Stage& stage, Arguments& arguments);
 
 // ActVerbs.cpp: what the user does to controls and menus
 Answer Click(Stage& stage, Arguments& arguments);
+Answer DoubleClick(Stage& stage, Arguments& arguments);
 Answer Open(Stage& stage, Arguments& arguments);
 Answer Type(Stage& stage, Arguments& arguments);
 Answer Key(Stage& stage, Arguments& arguments);
 Answer Select(Stage& stage, Arguments& arguments);
 Answer Mouse(Stage& stage, Arguments& arguments);
 Answer Drag(Stage& stage, Arguments& arguments);
+Answer Spin(Stage& stage, Arguments& arguments);
+Answer Pick(Stage& stage, Arguments& arguments);
+Answer Drop(Stage& stage, Arguments& arguments);
 
 // WindowVerbs.cpp: windows, message boxes, popup menus
 Answer Resize(Stage& stage, Arguments& arguments);
@@ -47,6 +51,7 @@ Answer Forms(Stage& stage, Arguments& arguments);
 Answer QueueAnswers(Stage& stage, Arguments& arguments);
 Answer Boxes(Stage& stage, Arguments& arguments);
 Answer PopUp(Stage& stage, Arguments& arguments);
+Answer FontAnswer(Stage& stage, Arguments& arguments);
 
 // MachineVerbs.cpp: clipboard, time, settings, registry, fonts
 Answer Clip(Stage& stage, Arguments& arguments);
@@ -64,6 +69,12 @@ Answer Ls(Stage& stage, Arguments& arguments);
 Answer Rm(Stage& stage, Arguments& arguments);
 Answer ReadOnly(Stage& stage, Arguments& arguments);
 Answer Touch(Stage& stage, Arguments& arguments);
+
+// ProgramVerbs.cpp: the stand-ins for external programs
+Answer PutProgram(Stage& stage, Arguments& arguments);
+Answer Started(Stage& stage, Arguments& arguments);
+Answer Killed(Stage& stage, Arguments& arguments);
+Answer Finish(Stage& stage, Arguments& arguments);
 
 // ExpectVerbs.cpp
 Answer Expect(Stage& stage, Arguments& arguments);

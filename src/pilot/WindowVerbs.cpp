@@ -2,6 +2,7 @@
 #include <array>
 #include <utility>
 
+#include "base/Numbers.h"
 #include "base/Strings.h"
 #include "forms/Form.h"
 #include "pilot/Arguments.h"
@@ -71,6 +72,29 @@ BoxAnswer ReadAnswer(Arguments& arguments) {
   throw ScriptError("Yes, No or OK expected");
 }
 
+/// One key of an object, when it is there; `read` raises where it is of another type.
+template <class Read>
+auto Optional(const Value& object, std::string_view key, Read read)
+    -> std::optional<std::decay_t<decltype(read(object))>> {
+  const Value* value = object.Find(key);
+  if (!value) return {};
+  return read(*value);
+}
+
+FontChoice ReadFontChoice(const Value& font) {
+  if (!font.AsObject()) throw ScriptError("object or null expected");
+  FontChoice choice;
+  choice.name = Optional(font, "name", [](const Value& v) { return std::u16string(TextOf(v)); });
+  choice.size =
+      Optional(font, "size", [](const Value& v) { return static_cast<float>(NumberOf(v)); });
+  choice.bold = Optional(font, "bold", BooleanOf);
+  choice.italic = Optional(font, "italic", BooleanOf);
+  choice.underline = Optional(font, "underline", BooleanOf);
+  choice.strike = Optional(font, "strike", BooleanOf);
+  choice.colour = Optional(font, "color", [](const Value& v) { return ToInt32(NumberOf(v)); });
+  return choice;
+}
+
 }  // namespace
 
 Answer Resize(Stage& stage, Arguments& arguments) {
@@ -123,6 +147,16 @@ Answer PopUp(Stage& stage, Arguments& arguments) {
   arguments.End();
   const std::optional<std::string> menu = stage.backend.TakePopUp();
   return menu ? Value(FromUtf8(*menu)) : Value();
+}
+
+Answer FontAnswer(Stage& stage, Arguments& arguments) {
+  const Value font = arguments.Json();
+  arguments.End();
+  if (font.IsNull())
+    stage.backend.FontAnswer({});
+  else
+    stage.backend.FontAnswer(ReadFontChoice(font));
+  return {};
 }
 
 }  // namespace lumenote::verbs

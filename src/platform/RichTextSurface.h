@@ -82,6 +82,8 @@ class RichTextSurface {
   virtual void SelStrikeThru(bool on) = 0;
   virtual std::optional<int> SelCharOffset() const = 0;  // twips, positive above the line
   virtual void SelCharOffset(int twips) = 0;             // 16 bits, else Overflow (6)
+  /// The document's default font, whatever the text has.
+  virtual std::u16string BaseFontName() const = 0;
   virtual std::optional<std::u16string> SelFontName() const = 0;
   virtual void SelFontName(std::u16string_view name) = 0;  // an empty name changes nothing
   virtual std::optional<float> SelFontSize() const = 0;    // points, halves kept

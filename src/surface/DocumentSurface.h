@@ -105,7 +105,7 @@ class DocumentSurface final : public RichTextSurface {
   /// The format that a character typed now would take.
   CharFormat InsertionFormat() const { return core_.InsertionFormat(); }
   /// The document's default font.
-  std::u16string BaseFontName() const { return transfer_.BaseFontName(); }
+  std::u16string BaseFontName() const override { return transfer_.BaseFontName(); }
   /// Not owned; null for none.
   void View(SurfaceView* view) { core_.View(view); }
 

@@ -49,6 +49,7 @@ class SkewedBackend : public Backend {
     return headless_.MakeSurface(box, clipboard, files);
   }
   MessageBox::Answer Show(const MessageBox&, Form*) override { return MessageBox::Answer::Ok; }
+  std::optional<FontChoice> ChooseFont(const FontChoice&, Form*) override { return {}; }
   void RunUntil(const std::function<bool()>&) override {}
   void Arm(Timer&) override {}
   void Disarm(Timer&) override {}
@@ -62,6 +63,8 @@ class SkewedBackend : public Backend {
     void Update(Element& element, Property property) override { inner_->Update(element, property); }
     void Focus(Control&) override {}
     void Activate() override {}
+    void Add(Control&) override {}
+    void Remove(Control&) override {}
     void PopUp(Menu&, Point) override {}
     std::vector<std::string> Differences() const override { return differences_; }
     std::unique_ptr<FormPeer> inner_;
@@ -78,6 +81,10 @@ class PilotTest : public testing::Test, public Platform {
   Files& FileSystem() override { return sandbox.FileSystem(); }
   Folders& SpecialFolders() override { return sandbox.SpecialFolders(); }
   Clipboard& SystemClipboard() override { return sandbox.SystemClipboard(); }
+  const Fonts& SystemFonts() override { return fonts; }
+  const Registry& MachineRegistry() override { return sandbox.MachineRegistry(); }
+  const ProgramFolders& InstalledPrograms() override { return sandbox.InstalledPrograms(); }
+  Processes& Programs() override { return sandbox.Programs(); }
 
   /// What the script prints, one line each.
   std::string Run(const std::string& script) {
@@ -90,12 +97,13 @@ class PilotTest : public testing::Test, public Platform {
   std::ostringstream out;
   std::ostringstream err;
   PosixSandbox sandbox;
+  ReportedFonts fonts;
   SkewedBackend inner;
   HeadlessActs acts;
   PilotBackend backend{inner};
   Transcript transcript{out, err};
   CoBxRtf control{*this};
-  Stage stage{control, sandbox, backend, acts, transcript};
+  Stage stage{control, sandbox, backend, acts, transcript, fonts};
   TestWindow first{stage.Windows(), "Co_Trouver", log};
   TestWindow second{stage.Windows(), "Co_Paragraph", log};
 };

@@ -56,6 +56,11 @@ class TestPlatform final : public Platform {
   Settings& UserSettings() override { throw std::logic_error("no settings"); }
   Folders& SpecialFolders() override { throw std::logic_error("no folders"); }
 
+  const Fonts& SystemFonts() override { throw std::logic_error("no fonts"); }
+  const Registry& MachineRegistry() override { throw std::logic_error("no registry"); }
+  const ProgramFolders& InstalledPrograms() override { throw std::logic_error("no programs"); }
+  Processes& Programs() override { throw std::logic_error("no programs"); }
+
   QtBackend windows;
   MemoryClipboard clipboard;
   NoFiles files;

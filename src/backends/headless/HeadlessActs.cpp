@@ -4,9 +4,11 @@
 #include <algorithm>
 
 #include "base/Strings.h"
+#include "forms/ComboBox.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
 #include "forms/RichTextBox.h"
+#include "forms/UpDown.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {
@@ -51,18 +53,36 @@ void SelectIn(RichTextBox& box, Position start, Position length) {
   surface.UserSelect(start, start + std::min(length, end - start));
 }
 
+/// The window takes the keys that a control has no use for.
+void PressKey(Control& control, const KeyStroke& key) {
+  Form& form = control.Owner();
+  if (!control.UserKey(key)) form.UserKey(key);
+}
+
+void TypeKey(Control& control, std::u16string_view key) {
+  auto* box = dynamic_cast<RichTextBox*>(&control);
+  if (box && !box->Locked())
+    SurfaceOf(*box).UserType(key);
+  else if (!box && key == u"\r\n")
+    PressKey(control, {.name = KeyName::Return});
+  else if (!box)
+    control.UserType(key);
+}
+
 }  // namespace
 
 void HeadlessActs::Click(Control& control) {
+  const StillLoaded loaded(control.Owner());
   const Point middle{control.Width() / 2, control.Height() / 2};
   Mouse(control, MouseAct::Down, {MouseButton::Left, middle});
   Mouse(control, MouseAct::Up, {MouseButton::Left, middle});
+  if (loaded) control.UserClick();
 }
 
 void HeadlessActs::DoubleClick(Control& control) {
   const StillLoaded loaded(control.Owner());
   Click(control);
-  if (loaded) Click(control);
+  if (loaded) control.UserDoubleClick();
 }
 
 void HeadlessActs::Choose(Menu& entry) { entry.UserClick(); }
@@ -71,13 +91,11 @@ void HeadlessActs::Open(Menu& menu) { menu.UserOpen(); }
 
 void HeadlessActs::Type(Control& control, std::u16string_view text) {
   control.SetFocus();
-  auto* box = dynamic_cast<RichTextBox*>(&control);
-  if (!box || box->Locked()) return;
-  const StillLoaded loaded(box->Owner());
+  const StillLoaded loaded(control.Owner());
   const std::u16string keys = WithCrLf(text);
   for (std::u16string_view rest = keys; !rest.empty() && loaded;) {
     const std::size_t length = KeyLength(rest);
-    SurfaceOf(*box).UserType(rest.substr(0, length));
+    TypeKey(control, rest.substr(0, length));
     rest.remove_prefix(length);
   }
 }
@@ -85,7 +103,10 @@ void HeadlessActs::Type(Control& control, std::u16string_view text) {
 void HeadlessActs::Key(Control& control, const KeyStroke& key) {
   control.SetFocus();
   auto* box = dynamic_cast<RichTextBox*>(&control);
-  if (box && (!box->Locked() || OnlyLooks(key))) SurfaceOf(*box).UserKey(key);
+  if (!box)
+    PressKey(control, key);
+  else if (!box->Locked() || OnlyLooks(key))
+    SurfaceOf(*box).UserKey(key);
 }
 
 void HeadlessActs::Select(RichTextBox& box, Position start, Position length) {
@@ -95,12 +116,28 @@ void HeadlessActs::Select(RichTextBox& box, Position start, Position length) {
 
 void HeadlessActs::Mouse(Control& control, MouseAct act, const MouseEvent& event) {
   if (act == MouseAct::Down) control.SetFocus();
+  if (act == MouseAct::Move) control.UserMouseMove(event);
   if (act == MouseAct::Up) control.UserMouseUp(event);
 }
 
 void HeadlessActs::Drag(RichTextBox& box, Position start, Position length, Position to) {
   Select(box, start, length);
   if (!box.Locked()) SurfaceOf(box).UserDrop(to, false);
+}
+
+void HeadlessActs::Spin(UpDown& spinner, bool up) {
+  spinner.SetFocus();
+  spinner.UserSpin(up);
+}
+
+void HeadlessActs::Pick(ComboBox& combo, int index) {
+  combo.SetFocus();
+  combo.UserPick(index);
+}
+
+void HeadlessActs::Drop(ComboBox& combo) {
+  combo.SetFocus();
+  combo.UserDrop();
 }
 
 void HeadlessActs::Resize(Form& form, float width, float height) { form.UserResize(width, height); }

@@ -35,6 +35,8 @@ class HeadlessPeer final : public FormPeer {
   }
   void Focus(Control&) override {}
   void Activate() override {}
+  void Add(Control&) override {}
+  void Remove(Control&) override {}
   void PopUp(Menu&, Point) override {}
   std::vector<std::string> Differences() const override { return {}; }
 

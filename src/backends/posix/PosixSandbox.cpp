@@ -54,16 +54,13 @@ PosixSandbox::PosixSandbox(const std::string& root)
       files_(drives_),
       folders_(u"C:\\Documents", u"C:\\Temp\\"),
       settings_(root + "/settings.ini"),
-      registry_(root + "/registry.ini") {}
-
-std::optional<std::u16string> PosixSandbox::ReadRegistry(std::u16string_view key,
-                                                         std::u16string_view name) const {
-  return registry_.Read(kRegistry, Lower(key), name);
-}
+      registry_({root + "/registry.ini"}),
+      registryFile_(root + "/registry.ini"),
+      programs_(files_) {}
 
 void PosixSandbox::WriteRegistry(std::u16string_view key, std::u16string_view name,
                                  std::u16string_view value) {
-  registry_.Write(kRegistry, Lower(key), name, value);
+  registryFile_.Write(kRegistry, Lower(key), name, value);
 }
 
 void PosixSandbox::MakeParents(std::u16string_view path) {

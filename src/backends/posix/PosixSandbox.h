@@ -1,15 +1,17 @@
 // A machine for scripts in one folder of the file system.
 #pragma once
 #include <memory>
-#include <optional>
 #include <string>
 
+#include "backends/posix/IniRegistry.h"
 #include "backends/posix/IniSettings.h"
 #include "backends/posix/PosixFiles.h"
 #include "backends/posix/PosixFolders.h"
+#include "backends/posix/PosixProgramFolders.h"
 #include "backends/posix/TemporaryFolder.h"
 #include "pilot/MemoryClipboard.h"
 #include "pilot/Sandbox.h"
+#include "pilot/StandIns.h"
 
 namespace lumenote {
 
@@ -29,8 +31,10 @@ class PosixSandbox final : public Sandbox {
   Folders& SpecialFolders() override { return folders_; }
   Clipboard& SystemClipboard() override { return clipboard_; }
 
-  std::optional<std::u16string> ReadRegistry(std::u16string_view key,
-                                             std::u16string_view name) const override;
+  const Registry& MachineRegistry() const override { return registry_; }
+  const ProgramFolders& InstalledPrograms() const override { return programFolders_; }
+  StandIns& Programs() override { return programs_; }
+
   void WriteRegistry(std::u16string_view key, std::u16string_view name,
                      std::u16string_view value) override;
 
@@ -48,7 +52,10 @@ class PosixSandbox final : public Sandbox {
   PosixFiles files_;
   FixedFolders folders_;
   IniSettings settings_;
-  IniSettings registry_;
+  IniRegistry registry_;
+  IniSettings registryFile_;
+  FixedProgramFolders programFolders_;
+  StandIns programs_;
   MemoryClipboard clipboard_;
 };
 

@@ -1,5 +1,6 @@
 // The widget of one control.
 #pragma once
+#include <QMouseEvent>
 #include <QPointer>
 #include <QWidget>
 #include <memory>
@@ -29,10 +30,15 @@ class ControlPeer : public QObject {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  protected:
+  /// Whether a press and release of the left button is a click; native buttons tell by themselves.
+  virtual bool ClicksByMouse() const { return false; }
   /// Whether mouse events reach the control as they come to the widget.
   virtual bool PassesMouse() const { return true; }
 
  private:
+  void ShowFont();
+  void PassMouse(const QMouseEvent& mouse);
+
   Control& control_;
   QPointer<QWidget> widget_;
 };

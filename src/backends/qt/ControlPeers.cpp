@@ -1,10 +1,16 @@
 // Which peer each kind of control gets: a kind is one line here and a class of its own.
 #include <stdexcept>
 
+#include "backends/qt/ButtonPeer.h"
+#include "backends/qt/ComboBoxPeer.h"
 #include "backends/qt/FramePeer.h"
 #include "backends/qt/LabelPeer.h"
+#include "backends/qt/PictureBoxPeer.h"
 #include "backends/qt/RichTextPeer.h"
+#include "backends/qt/ScrollBarPeer.h"
 #include "backends/qt/StatusBarPeer.h"
+#include "backends/qt/TextBoxPeer.h"
+#include "backends/qt/UpDownPeer.h"
 
 namespace lumenote {
 
@@ -19,15 +25,18 @@ std::unique_ptr<ControlPeer> Make(Control& control, QWidget& parent, LayouterSou
 }
 
 constexpr Maker kMakers[] = {
-    Make<Frame, FramePeer>,
-    Make<Label, LabelPeer>,
-    Make<RichTextBox, RichTextPeer>,
-    Make<StatusBar, StatusBarPeer>,
+    Make<Button, ButtonPeer>,         Make<CheckBox, CheckBoxPeer>,
+    Make<ComboBox, ComboBoxPeer>,     Make<Frame, FramePeer>,
+    Make<Label, LabelPeer>,           Make<OptionButton, OptionButtonPeer>,
+    Make<PictureBox, PictureBoxPeer>, Make<RichTextBox, RichTextPeer>,
+    Make<ScrollBar, ScrollBarPeer>,   Make<StatusBar, StatusBarPeer>,
+    Make<TextBox, TextBoxPeer>,       Make<UpDown, UpDownPeer>,
 };
 
-constexpr Property kAllOfAControl[] = {Property::Geometry, Property::Caption, Property::Enabled,
-                                       Property::Checked,  Property::Panels,  Property::Content,
-                                       Property::Visible};
+constexpr Property kAllOfAControl[] = {Property::Geometry, Property::Font,    Property::Caption,
+                                       Property::Enabled,  Property::Checked, Property::Panels,
+                                       Property::List,     Property::Content, Property::Value,
+                                       Property::Locked,   Property::Visible};
 
 }  // namespace
 

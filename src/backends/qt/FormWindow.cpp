@@ -2,10 +2,12 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMouseEvent>
 #include <QWindow>
 
 #include "backends/qt/Colours.h"
 #include "backends/qt/FontNames.h"
+#include "backends/qt/Keys.h"
 #include "backends/qt/MenuBarStyle.h"
 #include "backends/qt/QtText.h"
 #include "backends/qt/Units.h"
@@ -18,6 +20,8 @@ FormWindow::FormWindow(Form& form, ActivationListener& listener)
   setFont(ControlFont());
   content_ = new QWidget(this);
   content_->setAutoFillBackground(true);
+  content_->setMouseTracking(true);
+  content_->installEventFilter(this);
   bar_ = new QMenuBar(this);
   bar_->setNativeMenuBar(false);
   bar_->setFont(ControlFont());
@@ -100,6 +104,19 @@ bool FormWindow::event(QEvent* event) {
   if (form_ && event->type() == QEvent::WindowActivate) listener_.NativelyActive(*form_);
   if (form_ && event->type() == QEvent::ApplicationPaletteChange) ShowBackColor();
   return QWidget::event(event);
+}
+
+bool FormWindow::eventFilter(QObject* object, QEvent* event) {
+  if (form_ && object == content_ && event->type() == QEvent::MouseMove) {
+    const QPointF at = static_cast<const QMouseEvent*>(event)->position();
+    form_->UserMouseMove({MouseButton::None, {ToTwips(at.x()), ToTwips(at.y())}});
+  }
+  return QWidget::eventFilter(object, event);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const auto key = StrokeOf(*event);
+  event->setAccepted(form_ && key && form_->UserKey(*key));
 }
 
 // The form decides; its window goes when it has unloaded.

@@ -3,13 +3,15 @@
 #include <QPainter>
 #include <QStyle>
 
+#include "backends/qt/Colours.h"
 #include "backends/qt/QtText.h"
 
 namespace lumenote {
 
 namespace {
 constexpr int kClearance = 3;
-}
+constexpr float kLine = 0.25F;
+}  // namespace
 
 void LabelWidget::Text(const QString& text) {
   text_ = text;
@@ -17,6 +19,7 @@ void LabelWidget::Text(const QString& text) {
 }
 
 void LabelWidget::paintEvent(QPaintEvent*) {
+  if (style_ == LabelStyle::Cell) return PaintCell();
   if (text_.isEmpty()) return;
   QPainter painter(this);
   const int flags = Qt::AlignLeft | Qt::TextWordWrap | Qt::TextShowMnemonic;
@@ -26,11 +29,23 @@ void LabelWidget::paintEvent(QPaintEvent*) {
                         QPalette::WindowText);
 }
 
+void LabelWidget::PaintCell() {
+  QPainter painter(this);
+  const QPalette& colours = palette();
+  painter.fillRect(rect(), colours.base());
+  painter.setPen(Mixed(colours.color(QPalette::Base), colours.color(QPalette::Text), kLine));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.setPen(colours.color(QPalette::Text));
+  painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text_);
+}
+
 LabelPeer::LabelPeer(Label& label, QWidget& parent, LayouterSource&)
     : LabelPeer(label, new LabelWidget(&parent)) {}
 
 LabelPeer::LabelPeer(Label& label, LabelWidget* widget)
-    : ControlPeer(label, *widget), label_(label), widget_(*widget) {}
+    : ControlPeer(label, *widget), label_(label), widget_(*widget) {
+  widget_.Style(label.Style());
+}
 
 void LabelPeer::Update(Property property) {
   ControlPeer::Update(property);

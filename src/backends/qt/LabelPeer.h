@@ -13,12 +13,16 @@ class LabelWidget : public QWidget {
 
   const QString& Text() const { return text_; }
   void Text(const QString& text);
+  void Style(LabelStyle style) { style_ = style; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void PaintCell();
+
   QString text_;
+  LabelStyle style_ = LabelStyle::Text;
 };
 
 class LabelPeer final : public ControlPeer {
@@ -27,6 +31,9 @@ class LabelPeer final : public ControlPeer {
 
   void Update(Property property) override;
   void Compare(DifferenceList& differences) const override;
+
+ protected:
+  bool ClicksByMouse() const override { return true; }
 
  private:
   LabelPeer(Label& label, LabelWidget* widget);

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
+#include "backends/qt/FontDialog.h"
 #include "backends/qt/MessageBoxes.h"
 #include "backends/qt/Units.h"
 #include "forms/RichTextBox.h"
@@ -27,6 +28,10 @@ std::unique_ptr<RichTextSurface> QtBackend::MakeSurface(RichTextBox& box, Clipbo
 
 MessageBox::Answer QtBackend::Show(const MessageBox& box, Form* over) {
   return ShowMessageBox(box, over ? widgets_.Find<QWidget>(*over) : nullptr);
+}
+
+std::optional<FontChoice> QtBackend::ChooseFont(const FontChoice& shown, Form* over) {
+  return ShowFontDialog(shown, over ? widgets_.Find<QWidget>(*over) : nullptr);
 }
 
 void QtBackend::RunUntil(const std::function<bool()>& done) {

@@ -19,6 +19,7 @@ class QtBackend final : public Backend, private PeerServices {
   std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
                                                Files& files) override;
   MessageBox::Answer Show(const MessageBox& box, Form* over) override;
+  std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* over) override;
   void RunUntil(const std::function<bool()>& done) override;
   void Arm(Timer& timer) override { timers_.Arm(timer); }
   void Disarm(Timer& timer) override { timers_.Disarm(timer); }

@@ -57,6 +57,21 @@ void QtFormPeer::Update(Element& element, Property property) {
   if (property == Property::Visible) window_->PlaceParts();
 }
 
+void QtFormPeer::Add(Control& control) {
+  const auto* outer = dynamic_cast<const Control*>(&control.Parent());
+  Add(control, outer ? controls_.at(outer)->Widget() : window_->Content());
+}
+
+void QtFormPeer::Remove(Control& control) {
+  const auto found = controls_.find(&control);
+  if (found == controls_.end()) return;
+  services_.Widgets().Remove(control);
+  QWidget& widget = found->second->Widget();
+  controls_.erase(found);
+  widget.hide();
+  widget.deleteLater();
+}
+
 void QtFormPeer::UpdateForm(Property property) {
   if (property == Property::Caption) window_->ShowCaption();
   if (property == Property::Geometry) window_->ShowGeometry();

@@ -30,6 +30,8 @@ class QtFormPeer final : public FormPeer {
   void Update(Element& element, Property property) override;
   void Focus(Control& control) override;
   void Activate() override;
+  void Add(Control& control) override;
+  void Remove(Control& control) override;
   void PopUp(Menu& menu, Point at) override;
   std::vector<std::string> Differences() const override;
 

@@ -3,11 +3,15 @@
 #include <QApplication>
 
 #include "backends/posix/DrivePaths.h"
+#include "backends/posix/IniRegistry.h"
 #include "backends/posix/IniSettings.h"
 #include "backends/posix/PosixFiles.h"
 #include "backends/posix/PosixFolders.h"
+#include "backends/posix/PosixProcesses.h"
+#include "backends/posix/PosixProgramFolders.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
+#include "backends/qt/QtFonts.h"
 #include "backends/qt/Shot.h"
 #include "forms/Form.h"
 
@@ -37,9 +41,13 @@ struct QtPlatform::Parts {
   DrivePaths drives = DrivePaths::OfUser();
   QtBackend windows;
   QtClipboard clipboard;
+  QtFonts fonts;
   PosixFiles files{drives};
   IniSettings settings;
   PosixFolders folders{drives};
+  IniRegistry registry;
+  PosixProgramFolders programFolders{drives};
+  PosixProcesses programs{drives};
 };
 
 QtPlatform::QtPlatform() : parts_(std::make_unique<Parts>()) {}
@@ -55,6 +63,14 @@ Files& QtPlatform::FileSystem() { return parts_->files; }
 Folders& QtPlatform::SpecialFolders() { return parts_->folders; }
 
 Clipboard& QtPlatform::SystemClipboard() { return parts_->clipboard; }
+
+const Fonts& QtPlatform::SystemFonts() { return parts_->fonts; }
+
+const Registry& QtPlatform::MachineRegistry() { return parts_->registry; }
+
+const ProgramFolders& QtPlatform::InstalledPrograms() { return parts_->programFolders; }
+
+Processes& QtPlatform::Programs() { return parts_->programs; }
 
 std::u16string QtPlatform::ToDrivePath(std::string_view native) const {
   return parts_->drives.ToDrivePath(native);

@@ -22,6 +22,10 @@ class QtPlatform final : public Platform {
   Files& FileSystem() override;
   Folders& SpecialFolders() override;
   Clipboard& SystemClipboard() override;
+  const Fonts& SystemFonts() override;
+  const Registry& MachineRegistry() override;
+  const ProgramFolders& InstalledPrograms() override;
+  Processes& Programs() override;
 
   /// A native path, UTF-8, as the path that the control takes. Raises PathNotFound for one that no
   /// drive-letter path can name.

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <stdexcept>
 
+#include "backends/qt/ComboBoxPeer.h"
 #include "backends/qt/FormWindow.h"
 #include "backends/qt/Keys.h"
 #include "backends/qt/MouseButtons.h"
@@ -16,6 +17,7 @@
 #include "backends/qt/RichTextView.h"
 #include "backends/qt/SelectionMime.h"
 #include "backends/qt/Units.h"
+#include "backends/qt/UpDownPeer.h"
 #include "forms/RichTextBox.h"
 
 namespace lumenote {
@@ -153,6 +155,28 @@ void QtUserActs::Drag(RichTextBox& box, Position start, Position length, Positio
   QApplication::sendEvent(view.viewport(), &enter);
   QDropEvent drop(at, actions, &content, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(view.viewport(), &drop);
+}
+
+void QtUserActs::Spin(UpDown& spinner, bool up) {
+  spinner.SetFocus();
+  QToolButton& arrow = Shown<UpDownWidget>(widgets_, spinner).Arrow(up);
+  Hand hand(arrow, QRectF(arrow.rect()).center());
+  hand.Press(Qt::LeftButton);
+  hand.Release(Qt::LeftButton);
+}
+
+void QtUserActs::Pick(ComboBox& combo, int index) {
+  combo.SetFocus();
+  auto& widget = Shown<ComboBoxWidget>(widgets_, combo);
+  widget.setCurrentIndex(index);
+  emit widget.activated(index);
+}
+
+void QtUserActs::Drop(ComboBox& combo) {
+  combo.SetFocus();
+  const QPointer<ComboBoxWidget> widget = &Shown<ComboBoxWidget>(widgets_, combo);
+  widget->showPopup();
+  if (widget) widget->hidePopup();
 }
 
 void QtUserActs::Resize(Form& form, float width, float height) {

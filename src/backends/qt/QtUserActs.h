@@ -29,6 +29,9 @@ class QtUserActs final : public UserActs {
   void Select(RichTextBox& box, Position start, Position length) override;
   void Mouse(Control& control, MouseAct act, const MouseEvent& event) override;
   void Drag(RichTextBox& box, Position start, Position length, Position to) override;
+  void Spin(UpDown& spinner, bool up) override;
+  void Pick(ComboBox& combo, int index) override;
+  void Drop(ComboBox& combo) override;
   void Resize(Form& form, float width, float height) override;
   void Activate(Form& form) override;
   void Close(Form& form) override;

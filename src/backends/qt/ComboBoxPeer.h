@@ -1,0 +1,40 @@
+// Drop-down lists on screen.
+#pragma once
+#include <QComboBox>
+
+#include "backends/qt/ControlPeer.h"
+#include "forms/ComboBox.h"
+
+namespace lumenote {
+
+/// Tells before its list drops down.
+class ComboBoxWidget : public QComboBox {
+ public:
+  ComboBoxWidget(ComboBox& combo, QWidget* parent);
+
+  void Detach() { combo_ = nullptr; }
+  void showPopup() override;
+
+ private:
+  ComboBox* combo_;
+};
+
+class ComboBoxPeer final : public ControlPeer {
+ public:
+  ComboBoxPeer(ComboBox& combo, QWidget& parent, LayouterSource&);
+  ~ComboBoxPeer() override;
+
+  void Update(Property property) override;
+  void Compare(DifferenceList& differences) const override;
+
+ private:
+  ComboBoxPeer(ComboBox& combo, ComboBoxWidget* widget);
+  void ShowList();
+  void ShowContent();
+  QStringList Entries() const;
+
+  ComboBox& combo_;
+  QPointer<ComboBoxWidget> widget_;
+};
+
+}  // namespace lumenote

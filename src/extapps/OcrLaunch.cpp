@@ -1,0 +1,16 @@
+#include "extapps/OcrLaunch.h"
+
+#include "forms/Platform.h"
+#include "platform/Files.h"
+#include "platform/Processes.h"
+#include "platform/ProgramCommand.h"
+
+namespace lumenote {
+
+void OuvrirOcr(EditorWindow& editor, Processes& processes, std::u16string_view path) {
+  if (!editor.Services().FileSystem().Exists(path)) return;
+  editor.SuspendreDessus();
+  processes.Start(Quoted(path));
+}
+
+}  // namespace lumenote

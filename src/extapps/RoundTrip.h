@@ -1,0 +1,97 @@
+// Editing the note in an external program: out to a work file, and back when the program has ended.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "editor/EditorWindow.h"
+#include "extapps/ProgramTable.h"
+#include "platform/Processes.h"
+
+namespace lumenote {
+
+class Files;
+
+/// What an exchange needs of the editor beyond `EditorWindow`.
+class RoundTripDesk {
+ public:
+  virtual ~RoundTripDesk() = default;
+  /// Switches the timer of the watch, which calls `TimerWpd_Timer` every 20 ms.
+  virtual void Watch(bool on) = 0;
+  /// Loads the document path into the surface again; tells the user of a failure.
+  virtual void Reload() = 0;
+};
+
+/// One exchange at a time, carried forward by the ticks of a timer; nothing here waits. At every
+/// moment the note is on the disk, in the surface, or in both: it is written before the program
+/// starts, only what the program saved replaces it, and at once or not at all, and the surface is
+/// loaded again only from a file that holds the note. Failing file operations are passed over.
+class RoundTrip {
+ public:
+  static constexpr int kInterval = 20;  // milliseconds between two ticks
+
+  /// All outlive the exchange. `programs` may be filled again between two exchanges.
+  RoundTrip(EditorWindow& editor, RoundTripDesk& desk, const ProgramTable& programs,
+            Processes& processes)
+      : editor_(editor), desk_(desk), programs_(programs), processes_(processes) {}
+  RoundTrip(const RoundTrip&) = delete;
+  RoundTrip& operator=(const RoundTrip&) = delete;
+
+  /// The menu commands: refuse a read-only note and a missing program with a message, else begin.
+  void mnuPopQjot_Click() { Appeler(kQjot); }
+  void mnuPopAtlantis_Click() { Appeler(kAtlantis); }
+  void mnuPopMSWord_Click() { Appeler(kWord); }
+
+  /// Begin, from the first state on, or report the missing program.
+  void EditerAvecQjot() { EditerAvec(kQjot); }
+  void EditerAvecAtlantis() { EditerAvec(kAtlantis); }
+  void EditerAvecWord() { EditerAvec(kWord); }
+
+  /// The next state and what it does. Raises Overflow when the states run out of 16 bits, and what
+  /// `Processes::Start` raises; the next tick goes on behind it.
+  void TimerWpd_Timer();
+
+  std::int32_t TypeEditeur() const { return type_; }  // 1 Qjot, 2 Atlantis, 3 Word; 0 none yet
+  std::int16_t EtatWpd() const { return state_; }
+  const std::u16string& FichierTravail() const { return workFile_; }
+  /// Modification time of the work file as it went out, at full precision.
+  const std::u16string& DateTravail() const { return workTime_; }
+
+ private:
+  static constexpr std::int32_t kQjot = 1;
+  static constexpr std::int32_t kAtlantis = 2;
+  static constexpr std::int32_t kWord = 3;
+
+  void Appeler(std::int32_t type);
+  void EditerAvec(std::int32_t type);
+
+  void TerminateInstances();
+  /// Asks what runs of that program to end; a failure is told to the user.
+  void TuerParNom(Program program);
+  void Report(const SystemError& error);
+  void ReportLingering();
+  void PrepareWorkFile();
+  void WriteNote();
+  void StartProgram();
+  void BringBack();
+  void Finish();
+
+  Files& Disk();
+  const std::u16string& ProgramPath() const;
+  std::u16string CommandLine() const;
+  std::u16string TimeOfWorkFile();
+
+  EditorWindow& editor_;
+  RoundTripDesk& desk_;
+  const ProgramTable& programs_;
+  Processes& processes_;
+
+  std::int32_t type_ = 0;
+  std::int16_t state_ = 0;
+  std::u16string workFile_;
+  std::u16string workTime_;
+  ProcessId process_ = 0;
+  bool noteOnDisk_ = false;  // the document path holds the note of this exchange
+};
+
+}  // namespace lumenote

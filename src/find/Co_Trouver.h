@@ -1,0 +1,58 @@
+// The find and replace dialog.
+#pragma once
+#include "forms/Button.h"
+#include "forms/CheckBox.h"
+#include "forms/ComboBox.h"
+#include "forms/Form.h"
+#include "forms/Frame.h"
+#include "forms/Label.h"
+
+namespace lumenote {
+
+class EditorWindow;
+
+/// Opens compact, for finding only; "&Remplace..." expands it for as long as it lives. The captions
+/// of `cmdFind` and `cmdReplace` are its whole state.
+class Co_Trouver : public Form {
+ public:
+  /// `editor` outlives the dialog.
+  Co_Trouver(WindowList& windows, EditorWindow& editor);
+
+  Label lblFind{*this, "lblFind", {120, 165, 840, 240}, u"Trouver:"};
+  ComboBox cboFind{*this, "cboFind", {1020, 120, 2775, 315}};
+  Label lblReplace{*this, "lblReplace", {120, 540, 840, 240}, u"Rpl. par:"};
+  ComboBox cboReplace{*this, "cboReplace", {1020, 480, 2775, 315}};
+  Frame Frame1{*this, "Frame1", {1020, 480, 2775, 735}};
+  CheckBox chkWholeWord{Frame1, "chkWholeWord", {105, 90, 2580, 270}, u"&Mots entier seulement"};
+  CheckBox chkMatchCase{Frame1, "chkMatchCase", {105, 390, 2580, 270}, u"&Sensible à la casse"};
+  Button cmdFind{*this, "cmdFind", {3960, 120, 1215, 330}, u"&Trouver"};
+  Button cmdCancel{*this, "cmdCancel", {3960, 532, 1215, 330}, u"&Annuler"};
+  Button cmdReplace{*this, "cmdReplace", {3960, 945, 1215, 330}, u"&Remplace..."};
+  Button cmdReplaceAll{*this, "cmdReplaceAll", {3960, 1305, 1215, 330}, u"Rpl. &Tout"};
+
+  /// The options of the surface's `Find` as the two boxes stand.
+  int Options() const;
+
+ private:
+  void Form_Load() override;
+  void Form_Unload() override;
+
+  void cmdFind_Click();
+  void cmdReplace_Click();
+  void cmdReplaceAll_Click();
+
+  /// Runs a command; what goes wrong in it is told by its description alone.
+  void Command(void (Co_Trouver::*command)());
+  void FirstSearch();
+  void NextSearch();
+  void Expand();
+  void ReplaceAndFind();
+  /// Searches on behind the selection; a match has the document take the keyboard.
+  bool FindOn();
+  void TellNotFound();
+  void ReplaceButtons(bool on);
+
+  EditorWindow& editor_;
+};
+
+}  // namespace lumenote

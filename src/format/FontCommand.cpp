@@ -1,0 +1,28 @@
+#include "format/FontCommand.h"
+
+#include "editor/EditorWindow.h"
+#include "forms/FontChoice.h"
+
+namespace lumenote {
+
+void FmtPolice(EditorWindow& editor) {
+  RichTextSurface& surface = editor.Document();
+  const auto chosen = editor.ChooseFont({.name = surface.SelFontName(),
+                                         .size = surface.SelFontSize(),
+                                         .bold = surface.SelBold(),
+                                         .italic = surface.SelItalic(),
+                                         .underline = surface.SelUnderline(),
+                                         .strike = surface.SelStrikeThru(),
+                                         .colour = surface.SelColor()});
+  if (!chosen) return;
+  const EditGroup group(surface);
+  if (chosen->name) surface.SelFontName(*chosen->name);
+  if (chosen->size) surface.SelFontSize(*chosen->size);
+  if (chosen->bold) surface.SelBold(*chosen->bold);
+  if (chosen->italic) surface.SelItalic(*chosen->italic);
+  if (chosen->underline) surface.SelUnderline(*chosen->underline);
+  if (chosen->strike) surface.SelStrikeThru(*chosen->strike);
+  if (chosen->colour) surface.SelColor(*chosen->colour);
+}
+
+}  // namespace lumenote

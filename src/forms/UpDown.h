@@ -1,0 +1,37 @@
+// A pair of small arrows that steps a number.
+#pragma once
+#include <functional>
+
+#include "forms/Control.h"
+
+namespace lumenote {
+
+/// `Value` stays within `Min`..`Max`; a real change raises Change, whoever made it.
+class UpDown : public Control {
+ public:
+  UpDown(Container& container, std::string name, Rect place, int least, int most, int value)
+      : Control(container, std::move(name), place), min_(least), max_(most), value_(value) {}
+
+  int Min() const { return min_; }
+  int Max() const { return max_; }
+  int Value() const { return value_; }
+  /// Raises InvalidPropertyValue (380) outside the range.
+  void Value(int value);
+  /// Sets the value, clipped to the range, without an event.
+  void Preset(int value);
+  bool TakesFocus() const override { return true; }
+
+  std::function<void()> Change;
+
+  /// The user's door: one click on an arrow; at the end of the range it does nothing.
+  void UserSpin(bool up);
+
+  void Describe(MemberTable& members) override;
+
+ private:
+  int min_;
+  int max_;
+  int value_;
+};
+
+}  // namespace lumenote

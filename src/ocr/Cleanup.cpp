@@ -1,0 +1,71 @@
+#include "ocr/Cleanup.h"
+
+#include <string>
+
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "ocr/CorrectionList.h"
+#include "platform/Files.h"
+#include "selection/TextUnits.h"
+#include "surface/ParagraphSpacing.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr float kFontSize = 11;  // points
+constexpr std::u16string_view kFontName = u"Times New Roman";
+constexpr int kSingleSpacing = 20;     // twentieths of a line
+constexpr int kFirstLineIndent = 150;  // twips
+constexpr int kFollowingLines = -150;  // from the first line: back to the left edge
+constexpr int kSpaceBefore = 60;       // twips
+
+}  // namespace
+
+std::int16_t RemplacerTout(RichTextSurface& surface, std::u16string_view find,
+                           std::u16string_view replace) {
+  ToInt16(static_cast<std::int64_t>(surface.Text().size()));
+  // Each round moves the start on by one at least, so the count stays within 16 bits with it.
+  std::int16_t count = 0;
+  std::int16_t start = 0;
+  while (surface.Find(find, start, 0) != -1) {
+    surface.SelText(replace);
+    start = ToInt16(std::int64_t{surface.SelStart()} + 1);
+    ++count;
+  }
+  return count;
+}
+
+void ApplyListCorr(RichTextSurface& surface, Files& files, std::u16string_view path) {
+  if (!files.Exists(path)) return;
+  const std::string bytes = files.ReadAll(path);
+  CorrectionReader reader(bytes);
+  while (const auto pair = reader.Next()) RemplacerTout(surface, pair->wrong, pair->right);
+}
+
+void NormaliserEspaces(RichTextSurface& surface) {
+  RemplacerTout(surface, u",", u", ");
+  RemplacerTout(surface, u";", u" ; ");
+  RemplacerTout(surface, u" ,", u",");
+  while (RemplacerTout(surface, u"  ", u" ") > 0) {
+  }
+}
+
+void MettreAuPropre(RichTextSurface& surface) {
+  IgnoringErrors([&] { SelectTout(surface); });
+  IgnoringErrors([&] { surface.SelFontSize(kFontSize); });
+  IgnoringErrors([&] { surface.SelFontName(kFontName); });
+  IgnoringErrors([&] { SetLineSpacing(surface, kSingleSpacing); });
+  IgnoringErrors([&] { surface.SelIndent(kFirstLineIndent); });
+  IgnoringErrors([&] { surface.SelHangingIndent(kFollowingLines); });
+  IgnoringErrors([&] { surface.RightMargin(0); });
+  IgnoringErrors([&] { SetSpaceBefore(surface, kSpaceBefore); });
+}
+
+void NettoyerTexte(RichTextSurface& surface, Files& files, std::u16string_view listPath) {
+  ApplyListCorr(surface, files, listPath);
+  NormaliserEspaces(surface);
+  MettreAuPropre(surface);
+}
+
+}  // namespace lumenote

@@ -1,0 +1,70 @@
+#include "ocr/Co_Apprendre.h"
+
+#include <algorithm>
+
+#include "base/RuntimeError.h"
+#include "control/Session.h"
+#include "editor/EditorWindow.h"
+#include "forms/Platform.h"
+#include "ocr/CorrectionList.h"
+
+namespace lumenote {
+
+Co_Apprendre::Co_Apprendre(WindowList& windows, EditorWindow& editor)
+    : Form(windows, "Co_Apprendre", {0, 0, 5400, 3555}, u"Apprentissage"), editor_(editor) {
+  CancelButton(&Bt_Quitter);
+  Bx_TextErroné.Change = [this] { Bx_TextErroné_Change(); };
+  Bx_Saisircorr.MouseUp = [this](const MouseEvent& event) { Bx_Saisircorr_MouseUp(event); };
+  Bt_Valider.Click = [this] { Bt_Valider_Click(); };
+  Bt_Enregistrer.Click = [this] { Bt_Enregistrer_Click(); };
+  Bt_Quitter.Click = [this] { Unload(); };
+  mnuSCopier.Click = [this] { SaiCopy(); };
+  mnuSColler.Click = [this] { SaiPaste(); };
+}
+
+void Co_Apprendre::Describe(MemberTable& members) {
+  Form::Describe(members);
+  members.Add("ErronModifie", [this] { return Value(erronModifie_); });
+}
+
+void Co_Apprendre::Form_Load() {
+  erronModifie_ = false;
+  const Rect editor = editor_.WindowPlace();
+  Left(std::max(0.0F, editor.left + (editor.width - Width()) / 2));
+  Top(std::max(0.0F, editor.top + (editor.height - Height()) / 2));
+}
+
+// Boxes that are filled again start empty, so that the text never stands there twice.
+void Co_Apprendre::Form_Activate() {
+  filling_ = true;
+  for (RichTextBox* box : {&Bx_TextErroné, &Bx_Saisircorr}) {
+    IgnoringErrors([box] { box->Surface().Text(u""); });
+    IgnoringErrors([box] { box->Surface().TextMode(kTextModeRichMultilevel); });
+  }
+  IgnoringErrors([this] { ErrPaste(); });
+  IgnoringErrors([this] { SaiPaste(); });
+  filling_ = false;
+}
+
+void Co_Apprendre::Bx_TextErroné_Change() {
+  if (!filling_) erronModifie_ = true;
+}
+
+void Co_Apprendre::Bx_Saisircorr_MouseUp(const MouseEvent& event) {
+  if (event.button == MouseButton::Right) PopUp(mnuSaisi, Bx_Saisircorr, event.at);
+}
+
+// The note's window is locked while this one is shown: its box has had the keyboard since the
+// selection was copied, and taking the foreground now would only fill these boxes anew.
+void Co_Apprendre::Bt_Valider_Click() {
+  if (erronModifie_) return;
+  IgnoringErrors([this] { editor_.Document().SelText(Bx_Saisircorr.Surface().Text()); });
+}
+
+void Co_Apprendre::Bt_Enregistrer_Click() {
+  AppendCorrection(Machine().FileSystem(), editor_.Values().listCorrPath,
+                   Bx_TextErroné.Surface().Text(), Bx_Saisircorr.Surface().Text());
+  Unload();
+}
+
+}  // namespace lumenote

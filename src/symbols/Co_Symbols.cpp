@@ -1,0 +1,167 @@
+#include "symbols/Co_Symbols.h"
+
+#include <string>
+
+#include "base/Numbers.h"
+#include "editor/EditorWindow.h"
+#include "forms/Platform.h"
+#include "platform/Clipboard.h"
+#include "platform/Fonts.h"
+#include "rtf/CodePage.h"
+#include "symbols/SymbolGrid.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr float kCellWidth = 345;
+constexpr float kCellHeight = 360;
+constexpr float kCellFontSize = 11;  // points
+constexpr float kBigFontSize = 26;
+constexpr float kTemplateLeft = -5000;  // out of sight
+
+std::u16string SymbolOf(int code) { return Decode1252(std::string(1, static_cast<char>(code))); }
+
+}  // namespace
+
+Co_Symbols::Co_Symbols(WindowList& windows, EditorWindow& editor)
+    : Form(windows, "Co_Symbols", {4000, 3000, 6930, 5160}, u"   Insertion/Copie de Symboles"),
+      editor_(editor) {
+  CancelButton(&cmdClose);
+  lblBigDisplay.FontSize(kBigFontSize);
+  lblBigDisplay.Visible(false);
+  Label& pattern = lblsymbols.Add(picHolder, Rect{kTemplateLeft, 0, kCellWidth, kCellHeight}, u"",
+                                  LabelStyle::Cell);
+  pattern.FontSize(kCellFontSize);
+  cboFonts.DropDown = [this] { cboFonts_DropDown(); };
+  cboFonts.Click = [this] { cboFonts_Click(); };
+  VScroll1.Change = [this] { VScroll1_Change(); };
+  lblBigDisplay.DblClick = [this] { lblBigDisplay_DblClick(); };
+  cmdInsert.Click = [this] { cmdInsert_Click(); };
+  cmdCopy.Click = [this] { cmdCopy_Click(); };
+  cmdClose.Click = [this] { Unload(); };
+  WireHiding();
+}
+
+void Co_Symbols::WireHiding() {
+  Control* const others[] = {&cmdClose,   &cmdCopy,   &cmdInsert, &lblLabel,
+                             &lblMessage, &lblStatus, &txtInsert};
+  for (Control* control : others)
+    control->MouseMove = [this](const MouseEvent&) { HideBigDisplay(); };
+}
+
+void Co_Symbols::Form_Load() {
+  IgnoringErrors([this] { currentFont_ = editor_.Document().BaseFontName(); });
+  lblBigDisplay.FontName(currentFont_);
+  lblsymbols(0).FontName(currentFont_);
+  FillSymbols(0);
+  building_ = true;
+  IgnoringErrors([this] {
+    VScroll1.Max(hiddenRows_);
+    VScroll1.Min(0);
+  });
+  building_ = false;
+  cboFonts.List({currentFont_});
+  IgnoringErrors([this] { cboFonts.ListIndex(0); });
+}
+
+// --- the grid
+
+void Co_Symbols::FillSymbols(std::int16_t offset) {
+  lblsymbols(0).Left(kTemplateLeft);
+  picHolder.Visible(false);
+  const SymbolGrid grid = LayOutSymbols(offset, {lblsymbols(0).Width(), lblsymbols(0).Height(),
+                                                 picHolder.Width(), picHolder.Height()});
+  for (const SymbolCell& cell : grid.cells) AddCell(cell.code, {cell.left, cell.top});
+  if (columns_ == 0) columns_ = grid.columns;
+  hiddenRows_ = grid.hiddenRows;
+  picHolder.Visible(true);
+}
+
+void Co_Symbols::AddCell(int code, Point at) {
+  const Label& pattern = lblsymbols(0);
+  const int index = lblsymbols.Count();
+  Label& cell = lblsymbols.Add(picHolder, Rect{at.x, at.y, pattern.Width(), pattern.Height()},
+                               SymbolOf(code), LabelStyle::Cell);
+  cell.FontName(pattern.FontName());
+  cell.FontSize(pattern.FontSize());
+  cell.MouseMove = [this, index](const MouseEvent&) { lblsymbols_MouseMove(index); };
+}
+
+void Co_Symbols::VScroll1_Change() {
+  if (building_) return;
+  lblsymbols.Truncate(1);
+  FillSymbols(ToInt16(std::int64_t{columns_} * VScroll1.Value()));
+  HideBigDisplay();
+  picHolder.SetFocus();
+}
+
+void Co_Symbols::lblsymbols_MouseMove(int index) {
+  const Label& cell = lblsymbols(index);
+  lblBigDisplay.Left(cell.Left() - (lblBigDisplay.Width() - cell.Width()) / 2);
+  lblBigDisplay.Top(cell.Top() - (lblBigDisplay.Height() - cell.Height()) / 2);
+  lblBigDisplay.Caption(cell.Caption());
+  lblBigDisplay.BringToFront();
+  lblBigDisplay.Visible(true);
+  const int code = ByteIn1252(cell.Caption().at(0));
+  lblStatus.Caption(u"Special Char " + NumberText(std::int64_t{code}));
+}
+
+// --- the font
+
+// As many names as the printer has fonts, taken from the screen's.
+void Co_Symbols::cboFonts_DropDown() {
+  if (fontsListed_) return;
+  const Fonts& fonts = Machine().SystemFonts();
+  const std::vector<std::u16string> screen = fonts.ScreenFonts();
+  const int count = fonts.PrinterFontCount();
+  cboFonts.List({});
+  for (int index = 0; index < count; ++index) {
+    if (index >= static_cast<int>(screen.size()))
+      throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+    cboFonts.AddItem(screen[static_cast<std::size_t>(index)]);
+  }
+  fontsListed_ = true;
+  IgnoringErrors([this] { cboFonts.Text(currentFont_); });
+}
+
+void Co_Symbols::cboFonts_Click() {
+  HideBigDisplay();
+  const std::u16string& font = cboFonts.Text();
+  for (int index = 0; index < lblsymbols.Count(); ++index) lblsymbols(index).FontName(font);
+  lblBigDisplay.FontName(font);
+  Caption(u"  Insère les symboles de '" + font + u"' (Double-clic)");
+  txtInsert.FontName(font);
+}
+
+// --- the collected characters
+
+void Co_Symbols::lblBigDisplay_DblClick() {
+  txtInsert.Text(txtInsert.Text() + lblBigDisplay.Caption());
+}
+
+void Co_Symbols::cmdInsert_Click() {
+  picHolder.SetFocus();
+  RichTextSurface& surface = editor_.Document();
+  const EditGroup group(surface);
+  surface.SelFontName(cboFonts.Text());
+  surface.SelText(u"");
+  surface.SelText(txtInsert.Text());
+  HideBigDisplay();
+}
+
+void Co_Symbols::cmdCopy_Click() {
+  Clipboard& clipboard = Machine().SystemClipboard();
+  clipboard.Clear();
+  clipboard.Set({.text = txtInsert.Text(), .rtf = {}});
+  HideBigDisplay();
+  picHolder.SetFocus();
+}
+
+void Co_Symbols::Describe(MemberTable& members) {
+  Form::Describe(members);
+  members.Add("Columns", [this] { return Value(int{columns_}); });
+  members.Add("HiddenRows", [this] { return Value(int{hiddenRows_}); });
+}
+
+}  // namespace lumenote

@@ -1,0 +1,68 @@
+// The symbol picker.
+#pragma once
+#include <cstdint>
+#include <string>
+
+#include "forms/Button.h"
+#include "forms/ComboBox.h"
+#include "forms/ControlArray.h"
+#include "forms/Form.h"
+#include "forms/Label.h"
+#include "forms/PictureBox.h"
+#include "forms/ScrollBar.h"
+#include "forms/TextBox.h"
+
+namespace lumenote {
+
+class EditorWindow;
+
+/// Shows the characters 33 to 255 of code page 1252 in a font of the user's choice; what is
+/// collected goes into the note in that font, or onto the clipboard as plain text.
+class Co_Symbols : public Form {
+ public:
+  /// `editor` outlives the picker.
+  Co_Symbols(WindowList& windows, EditorWindow& editor);
+
+  Label lblMessage{*this, "lblMessage", {120, 165, 1350, 240}, u"Choisir la fonte"};
+  ComboBox cboFonts{*this, "cboFonts", {1500, 120, 3300, 315}, ComboStyle::ListOnly};
+  Label lblStatus{*this, "lblStatus", {4950, 165, 1770, 240}};
+  PictureBox picHolder{*this, "picHolder", {120, 540, 6300, 3300}};
+  ScrollBar VScroll1{*this, "VScroll1", {6435, 540, 255, 3300}};
+  /// Above the cells that it enlarges.
+  Label lblBigDisplay{picHolder, "lblBigDisplay", {0, 0, 720, 720}, u"", LabelStyle::Cell};
+  ControlArray<Label> lblsymbols{"lblsymbols"};
+  Label lblLabel{*this, "lblLabel", {120, 3990, 2400, 240}, u"Symboles sélectionnés"};
+  TextBox txtInsert{*this, "txtInsert", {120, 4245, 3240, 375}};
+  Button cmdInsert{*this, "cmdInsert", {3480, 4245, 1020, 375}, u"Insèrer"};
+  Button cmdCopy{*this, "cmdCopy", {4575, 4245, 1020, 375}, u"Copier"};
+  Button cmdClose{*this, "cmdClose", {5670, 4245, 1020, 375}, u"&Fermer"};
+
+  void Describe(MemberTable& members) override;
+
+ private:
+  void Form_Load() override;
+  void Form_MouseMove(const MouseEvent&) override { HideBigDisplay(); }
+
+  void WireHiding();
+  /// Builds the grid anew, `offset` codes behind the first symbol.
+  void FillSymbols(std::int16_t offset);
+  void AddCell(int code, Point at);
+  void cboFonts_DropDown();
+  void cboFonts_Click();
+  void VScroll1_Change();
+  void lblsymbols_MouseMove(int index);
+  void lblBigDisplay_DblClick();
+  void cmdInsert_Click();
+  void cmdCopy_Click();
+
+  void HideBigDisplay() { lblBigDisplay.Visible(false); }
+
+  EditorWindow& editor_;
+  std::u16string currentFont_;
+  bool fontsListed_ = false;
+  bool building_ = false;
+  std::int16_t columns_ = 0;
+  std::int16_t hiddenRows_ = 0;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,130 @@
+// Real programs: starting, watching and ending them; the files of the registry.
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <thread>
+
+#include "backends/posix/IniRegistry.h"
+#include "backends/posix/PosixProcesses.h"
+#include "backends/posix/PosixProgramFolders.h"
+#include "platform/ProgramCommand.h"
+#include "posix/Sandbox.h"
+
+namespace lumenote {
+namespace {
+
+class ProcessesTest : public SandboxTest {
+ protected:
+  void Script(const std::string& name, const std::string& lines) {
+    Put(name, "#!/bin/sh\n" + lines, 0755);
+  }
+  /// Whether it comes true within ten seconds.
+  template <class Condition>
+  static bool Soon(Condition condition) {
+    for (int i = 0; i < 1000 && !condition(); ++i)
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return condition();
+  }
+  bool EndsSoon(ProcessId process) {
+    return Soon([&] { return !processes.IsRunning(process); });
+  }
+  static bool HasChildren() { return waitpid(-1, nullptr, WNOHANG) != -1 || errno != ECHILD; }
+
+  PosixProcesses processes{drives_};
+};
+
+TEST_F(ProcessesTest, ArgumentsBecomeNativeAndTheTemplateSwitchGoes) {
+  Script("p q.exe", "printf '%s|' \"$@\" > \"${0%/*}/out\"\n");
+  const ProcessId process =
+      processes.Start(u"\"C:\\p q.exe\" \"C:\\Temp\\Sav a.rtf\" x /l\"C:\\m.dot\"");
+  EXPECT_TRUE(EndsSoon(process));
+  EXPECT_EQ(Get("out"), Native("Temp/Sav a.rtf") + "|x|");
+  EXPECT_FALSE(HasChildren());
+}
+
+TEST_F(ProcessesTest, WhatCannotBeStartedIsAnError) {
+  Put("text", "x");
+  EXPECT_EQ(ErrorOf([&] { processes.Start(u"\"C:\\none.exe\""); }), 53);
+  EXPECT_EQ(ErrorOf([&] { processes.Start(u"C:\\text"); }), 75);
+  EXPECT_EQ(ErrorOf([&] { processes.Start(u""); }), 53);
+  EXPECT_FALSE(processes.IsRunning(0));
+}
+
+TEST_F(ProcessesTest, AProgramRunsWhileAnythingOfItsGroupDoes) {
+  Script("p.exe", "sh -c 'while [ ! -e \"$1\" ]; do sleep 0.02; done' - \"${0%/*}/go\" &\n");
+  const ProcessId process = processes.Start(u"C:\\p.exe");
+  EXPECT_TRUE(Soon([] { return !HasChildren(); }));
+  EXPECT_TRUE(processes.IsRunning(process));
+  Put("go", "");
+  EXPECT_TRUE(EndsSoon(process));
+}
+
+TEST_F(ProcessesTest, OnlyTheProgramItselfIsEnded) {
+  std::filesystem::copy_file("/bin/sleep", Native("a.exe"));
+  std::filesystem::copy_file("/bin/sleep", Native("b.exe"));
+  PosixProcesses another(drives_);
+  const ProcessId own = processes.Start(u"C:\\a.exe 60");
+  const ProcessId foreign = another.Start(u"C:\\a.exe 60");
+  const ProcessId other = processes.Start(u"C:\\b.exe 60");
+  EXPECT_TRUE(processes.Lingering(u"C:\\a.exe"));
+  EXPECT_FALSE(processes.Terminate(u"C:\\a.exe"));
+  EXPECT_TRUE(EndsSoon(own));
+  EXPECT_TRUE(Soon([&] { return !another.IsRunning(foreign); }));
+  EXPECT_FALSE(processes.Lingering(u"C:\\a.exe"));
+  EXPECT_TRUE(processes.IsRunning(other));
+  processes.Terminate(u"C:\\b.exe");
+  EXPECT_TRUE(EndsSoon(other));
+}
+
+TEST_F(ProcessesTest, AProgramThatRefusesLingers) {
+  Script("p.exe",
+         "trap '' TERM\n: > \"${0%/*}/up\"\nwhile [ ! -e \"${0%/*}/go\" ]; do sleep 0.02; done\n");
+  const ProcessId process = processes.Start(u"C:\\p.exe");
+  EXPECT_TRUE(Soon([&] { return Get("up").empty(); }));
+  EXPECT_FALSE(processes.Terminate(u"C:\\p.exe"));
+  const auto error = processes.Lingering(u"C:\\p.exe");
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->number, ETIMEDOUT);
+  EXPECT_FALSE(error->description.empty());
+  Put("go", "");
+  EXPECT_TRUE(EndsSoon(process));
+}
+
+TEST_F(ProcessesTest, TheFirstFileThatHoldsAValueCounts) {
+  Put("a.ini", "[Machine/SOFTWARE\\\\Ab]\nPath=one\n");
+  Put("b.ini", "[Machine/Software\\\\ab]\nPath=two\n=default\n");
+  const IniRegistry registry({Native("none.ini"), Native("a.ini"), Native("b.ini")});
+  EXPECT_EQ(registry.Read(u"software\\AB", u"Path"), u"one");
+  EXPECT_EQ(registry.Read(u"software\\AB", u""), u"default");
+  EXPECT_EQ(registry.Read(u"software", u"Path"), std::nullopt);
+}
+
+TEST(ProgramFoldersTest, TheComponentsFolderHoldsThisProgram) {
+  const PosixProgramFolders folders(DrivePaths::OfUser());
+  const std::string native = DrivePaths::OfUser().ToNative(folders.Component());
+  EXPECT_EQ(native, std::filesystem::read_symlink("/proc/self/exe").parent_path().string());
+}
+
+TEST(ProgramCommandTest, SplitsByTheRulesOfDriveLetterPrograms) {
+  const struct {
+    std::u16string line;
+    std::vector<std::u16string> words;
+  } cases[] = {
+      {u"", {}},
+      {u"  a b\t c ", {u"a", u"b", u"c"}},
+      {u"\"C:\\a b\\\" x", {u"C:\\a b\\", u"x"}},
+      {u"p \"C:\\a b\" /l\"\" \"\"", {u"p", u"C:\\a b", u"/l", u""}},
+      {u"p a\\\\\"b c\" \\\"d\\\\e", {u"p", u"a\\b c", u"\"d\\\\e"}},
+      {u"p \"open", {u"p", u"open"}},
+      {u"\"open", {u"open"}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(SplitCommandLine(c.line), c.words);
+  EXPECT_EQ(WithExtension(u"C:\\a.rtf", u"txt"), u"C:\\a.txt");
+  EXPECT_EQ(WithExtension(u"ab", u"txt"), u"");
+}
+
+}  // namespace
+}  // namespace lumenote

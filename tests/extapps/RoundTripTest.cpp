@@ -1,0 +1,249 @@
+// The exchange with an external editor, tick by tick, on a machine of stand-in programs.
+#include <gtest/gtest.h>
+#include <optional>
+
+#include "backends/headless/HeadlessBackend.h"
+#include "backends/posix/PosixSandbox.h"
+#include "base/ErrorOf.h"
+#include "control/CoBxRtf.h"
+#include "control/Component.h"
+#include "editor/DocumentStorage.h"
+#include "extapps/OcrLaunch.h"
+#include "extapps/RoundTrip.h"
+#include "forms/Platform.h"
+#include "pilot/PilotBackend.h"
+#include "pilot/ReportedFonts.h"
+
+namespace lumenote {
+namespace {
+
+const std::u16string kQjotPath = u"C:\\Program Files\\qjot\\qjot.exe";
+const std::u16string kAtlantisPath = u"C:\\Program Files\\Atlantis Nova\\Atlantis.exe";
+const std::u16string kWordPath = u"C:\\Program Files\\Microsoft\\Office11\\WinWord.exe";
+using Texts = std::vector<std::u16string>;
+
+class RoundTripTest : public testing::Test, public Platform, public RoundTripDesk {
+ protected:
+  Backend& Windows() override { return backend; }
+  Settings& UserSettings() override { return sandbox.UserSettings(); }
+  Files& FileSystem() override { return sandbox.FileSystem(); }
+  Folders& SpecialFolders() override { return sandbox.SpecialFolders(); }
+  Clipboard& SystemClipboard() override { return sandbox.SystemClipboard(); }
+  const Fonts& SystemFonts() override { return fonts; }
+  const Registry& MachineRegistry() override { return sandbox.MachineRegistry(); }
+  const ProgramFolders& InstalledPrograms() override { return sandbox.InstalledPrograms(); }
+  Processes& Programs() override { return sandbox.Programs(); }
+
+  void Watch(bool on) override { watching = on; }
+  void Reload() override {
+    ++reloads;
+    LoadFilAndIni(Editor());
+  }
+
+  void SetUp() override {
+    for (const std::u16string& path : {kQjotPath, kAtlantisPath, kWordPath}) {
+      sandbox.MakeParents(path);
+      sandbox.Programs().Put(path);
+    }
+  }
+  /// Opens a note as a file of that path.
+  void Open(std::u16string_view path, std::string_view note = "avant") {
+    sandbox.MakeParents(path);
+    disk.Write(path, note);
+    control.pCouleurFen(u"0");
+    control.pStrOrchm(path);
+    control.ShowMicroEdit();
+    programs = ChercherApplis(
+        {disk, SpecialFolders(), sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
+    exchange.emplace(Editor(), *this, programs, sandbox.Programs());
+  }
+  Co_Rtf& Editor() { return control.Parts().editor.Get(); }
+  Session& Values() { return control.Parts().session; }
+  /// As long as the timer runs, at most `count` times.
+  void Tick(int count) {
+    for (int i = 0; i < count && watching; ++i) exchange->TimerWpd_Timer();
+  }
+  /// What the user does in the program, then its end and the way back.
+  void FinishAfter(const std::function<void()>& work = [] {}) {
+    Tick(40);
+    EXPECT_EQ(exchange->EtatWpd(), 26);
+    work();
+    sandbox.Programs().Finish();
+    Tick(5);
+    EXPECT_FALSE(watching);
+  }
+  Texts BoxTexts() {
+    Texts texts;
+    for (const ShownBox& shown : backend.TakeBoxes()) texts.push_back(shown.box.text);
+    return texts;
+  }
+
+  PosixSandbox sandbox;
+  Files& disk = sandbox.FileSystem();
+  HeadlessBackend inner;
+  PilotBackend backend{inner};
+  ReportedFonts fonts;
+  CoBxRtf control{*this};
+  ProgramTable programs;
+  std::optional<RoundTrip> exchange;  // of the window that is open
+  bool watching = false;
+  int reloads = 0;
+};
+
+TEST_F(RoundTripTest, EachStateDoesItsPart) {
+  Open(u"C:\\n\\a.txt");
+  Editor().Document().Text(u"apr\u00E8s");
+  disk.Write(u"C:\\Temp\\Sava.rtf", "old");
+  disk.Write(u"C:\\Documents\\SavNotes.doc", "old");
+  exchange->mnuPopQjot_Click();
+  EXPECT_EQ(exchange->EtatWpd(), 0);
+  Tick(2);
+  EXPECT_EQ(exchange->FichierTravail(), u"C:\\Temp\\Sava.txt");
+  EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.rtf"));
+  EXPECT_FALSE(disk.Exists(u"C:\\Documents\\SavNotes.doc"));
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
+  Tick(1);
+  EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.txt"), "apr\xE8s");
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "apr\xE8s");
+  Tick(11);
+  EXPECT_NE(exchange->DateTravail(), u"");
+  EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts());
+  Tick(1);
+  EXPECT_EQ(sandbox.Programs().TakeStarted(),
+            Texts{u"\"" + kQjotPath + u"\" \"C:\\Temp\\Sava.txt\""});
+  EXPECT_FALSE(Values().onTop);
+  FinishAfter();
+  EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.txt"));
+  EXPECT_EQ(Editor().Document().Text(), u"apr\u00E8s");
+  EXPECT_EQ(Values().documentPath, u"C:\\n\\a.txt");
+  EXPECT_EQ(reloads, 1);
+  EXPECT_TRUE(Values().onTop);
+}
+
+TEST_F(RoundTripTest, WhatTheProgramSavedComesBack) {
+  const struct {
+    void (RoundTrip::*begin)();
+    std::u16string saved;
+    std::u16string path;
+  } cases[] = {
+      {&RoundTrip::mnuPopQjot_Click, u"C:\\Temp\\Sava.txt", u"C:\\n\\a.txt"},
+      {&RoundTrip::mnuPopMSWord_Click, u"C:\\Temp\\Sava.sav", u"C:\\n\\a.txt"},
+      {&RoundTrip::mnuPopMSWord_Click, u"C:\\Documents\\SavNotes.txt", {}},
+      {&RoundTrip::mnuPopQjot_Click, u"C:\\Program Files\\qjot\\SavNotes.txt", u"C:\\n\\a.txt"},
+      {&RoundTrip::mnuPopAtlantis_Click, u"C:\\Documents\\SavNotes.txt", u"C:\\n\\a.txt"},
+  };
+  for (const auto& c : cases) {
+    Open(u"C:\\n\\a.txt");
+    (*exchange.*c.begin)();
+    FinishAfter([&] {
+      disk.Write(c.saved, "retour");
+      sandbox.Age(c.saved, 10);
+    });
+    EXPECT_EQ(Editor().Document().Text(), c.path.empty() ? u"avant" : u"retour");
+    EXPECT_EQ(Values().documentPath, u"C:\\n\\a.txt");
+    Editor().Unload();
+  }
+}
+
+TEST_F(RoundTripTest, AnotherFormatChangesTheDocumentsPath) {
+  Open(u"C:\\n\\a.txt");
+  exchange->mnuPopQjot_Click();
+  FinishAfter([&] { disk.Write(u"C:\\Program Files\\qjot\\SavNotes.Rtf", "{\\rtf1 \\b retour}"); });
+  EXPECT_EQ(Values().documentPath, u"C:\\n\\a.rtf");
+  EXPECT_EQ(Values().format, u"rtf");
+  EXPECT_EQ(Editor().Document().Text(), u"retour");
+  EXPECT_EQ(exchange->FichierTravail(), u"C:\\Temp\\Sava.rtf");
+  EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.rtf"));
+}
+
+TEST_F(RoundTripTest, WordGetsTheTemplate) {
+  Open(u"C:\\n\\a.txt");
+  const std::u16string start = u"\"" + kWordPath + u"\" \"C:\\Temp\\Sava.txt\" /l\"";
+  exchange->mnuPopMSWord_Click();
+  Tick(20);
+  control.pModelWord(u"C:\\\\m.dot");
+  exchange->mnuPopMSWord_Click();
+  Tick(20);
+  EXPECT_EQ(sandbox.Programs().TakeStarted(), (Texts{start + u"\"", start + u"C:\\m.dot\""}));
+  EXPECT_EQ(sandbox.Programs().TakeKilled(), Texts{kWordPath});
+}
+
+TEST_F(RoundTripTest, RefusalsNameTheProgram) {
+  Open(u"C:\\n\\a.txt");
+  disk.Delete(kWordPath, true);
+  exchange->mnuPopMSWord_Click();
+  exchange->EditerAvecWord();
+  EXPECT_EQ(exchange->TypeEditeur(), 3);
+  Values().readOnly = true;
+  exchange->mnuPopAtlantis_Click();
+  EXPECT_EQ(exchange->TypeEditeur(), 2);
+  EXPECT_EQ(BoxTexts(),
+            (Texts{u"MS WinWord Introuvable", u"MS Word introuvable\r\nEdition impossible",
+                   u"Fichier en 'lecture seule'\r\nAbandon de l'appel Atlantis"}));
+  EXPECT_FALSE(watching);
+}
+
+TEST_F(RoundTripTest, WithoutAWorkFileNothingStarts) {
+  Open(u"C:\\n\\a.odt", "{\\rtf1 avant}");
+  exchange->mnuPopQjot_Click();
+  Tick(50);
+  EXPECT_EQ(exchange->EtatWpd(), 30);
+  EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire"});
+  EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts());
+  EXPECT_EQ(reloads, 0);
+}
+
+TEST_F(RoundTripTest, AVanishedWorkFileLeavesTheSavedNote) {
+  Open(u"C:\\n\\a.txt");
+  Editor().Document().Text(u"neuf");
+  exchange->mnuPopAtlantis_Click();
+  FinishAfter([&] { disk.Delete(u"C:\\Temp\\Sava.txt", true); });
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "neuf");
+  EXPECT_EQ(Editor().Document().Text(), u"neuf");
+}
+
+TEST_F(RoundTripTest, ANoteThatCannotBeWrittenStaysInTheWindow) {
+  Open(u"C:\\n\\a.txt");
+  Editor().Document().Text(u"neuf");
+  sandbox.ReadOnly(u"C:\\n\\a.txt", true);
+  exchange->mnuPopQjot_Click();
+  FinishAfter();
+  EXPECT_EQ(reloads, 0);
+  EXPECT_EQ(Editor().Document().Text(), u"neuf");
+  EXPECT_TRUE(Values().dirty);
+}
+
+TEST_F(RoundTripTest, ATargetThatCannotBeReplacedKeepsBothFiles) {
+  Open(u"C:\\n\\a.txt");
+  disk.Write(u"C:\\n\\a.rtf", "{\\rtf1 autre}");
+  sandbox.ReadOnly(u"C:\\n\\a.rtf", true);
+  exchange->mnuPopMSWord_Click();
+  FinishAfter([&] { disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 retour}"); });
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.rtf"), "{\\rtf1 autre}");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.rtf"), "{\\rtf1 retour}");
+  EXPECT_EQ(Values().documentPath, u"C:\\n\\a.txt");
+}
+
+TEST_F(RoundTripTest, AFailedStartIsAnErrorAndTheWatchGoesOn) {
+  Open(u"C:\\n\\a.txt");
+  exchange->mnuPopQjot_Click();
+  disk.Write(kQjotPath, "no program");
+  Tick(14);
+  EXPECT_EQ(ErrorOf([&] { Tick(1); }), 75);
+  Tick(14);
+  EXPECT_FALSE(watching);
+  EXPECT_EQ(reloads, 1);
+}
+
+TEST_F(RoundTripTest, AnOcrProgramStartsAndTheEditorStaysBelow) {
+  Open(u"C:\\n\\a.txt");
+  Editor().RetablirDessus();
+  OuvrirOcr(Editor(), sandbox.Programs(), u"");
+  EXPECT_TRUE(Values().onTop);
+  OuvrirOcr(Editor(), sandbox.Programs(), kQjotPath);
+  EXPECT_FALSE(Values().onTop);
+  EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts{u"\"" + kQjotPath + u"\""});
+}
+
+}  // namespace
+}  // namespace lumenote

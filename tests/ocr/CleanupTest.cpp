@@ -1,0 +1,122 @@
+// Replacements, blanks and the format of clean text.
+#include <gtest/gtest.h>
+
+#include "ocr/Cleanup.h"
+#include "ocr/Note.h"
+#include "surface/ParagraphSpacing.h"
+
+namespace lumenote {
+namespace {
+
+TEST(RemplacerTout, GoesOnBehindWhatItPutIn) {
+  const struct {
+    std::u16string_view text, find, replace, result;
+    int count;
+  } rows[] = {
+      {u"", u"a", u"b", u"", 0},
+      {u"abc", u"", u"x", u"abc", 0},
+      {u"Teh teh TEH", u"teh", u"the", u"the the the", 3},
+      {u"modern", u"RN", u"m", u"modem", 1},
+      {u"a,,b", u",", u", ", u"a, ,b", 1},
+      {u"aaaa", u"a", u"", u"aa", 2},
+      {u"aaa", u"a", u"aa", u"aaaaa", 2},
+      {u"aaaaaa", u"aa", u"aa", u"aaaaaa", 2},
+      {u"x\r\nx", u"x", u"y", u"y\r\ny", 2},
+      {u"end", u"d", u"", u"en", 1},
+  };
+  for (const auto& row : rows) {
+    Note note(row.text);
+    const int count = RemplacerTout(note.surface, row.find, row.replace);
+    EXPECT_EQ(note.surface.Text(), row.result) << ToUtf8(row.text);
+    EXPECT_EQ(count, row.count) << ToUtf8(row.text);
+  }
+}
+
+TEST(RemplacerTout, HasPositionsOf16Bits) {
+  Note full(std::u16string(32767, u'a'));
+  EXPECT_EQ(RemplacerTout(full.surface, u"b", u"c"), 0);
+  EXPECT_EQ(ErrorOf([&] { RemplacerTout(full.surface, u"a", u"aaaaaaaaaa"); }), 6);
+  EXPECT_GT(full.surface.Text().size(), 32767u);
+  Note longer(std::u16string(32768, u'a'));
+  EXPECT_EQ(ErrorOf([&] { RemplacerTout(longer.surface, u"a", u"b"); }), 6);
+  EXPECT_EQ(longer.surface.Text(), std::u16string(32768, u'a'));
+}
+
+TEST(NormaliserEspaces, FollowsItsOrder) {
+  const struct {
+    std::u16string_view text, result;
+  } rows[] = {
+      {u"a,b;c", u"a, b ; c"}, {u"a , b", u"a, b"}, {u"a    b", u"a b"},
+      {u"A,,B", u"A,,B"},      {u"1,5", u"1, 5"},   {u"a:b.c?d!e", u"a:b.c?d!e"},
+      {u"a  ;b", u"a ; b"},    {u";", u" ; "},      {u"a\r\n  b", u"a\r\n b"},
+      {u"         ", u" "},
+  };
+  for (const auto& row : rows) {
+    Note note(row.text);
+    NormaliserEspaces(note.surface);
+    EXPECT_EQ(note.surface.Text(), row.result) << ToUtf8(row.text);
+  }
+}
+
+TEST(ApplyListCorr, AppliesPairsInFileOrder) {
+  const struct {
+    std::string_view list;
+    std::u16string_view text, result;
+    int error;
+  } rows[] = {
+      {"a=:=b\r\nb=:=c\r\n", u"a b", u"c c", 0},
+      {"b=:=c\r\na=:=b\r\n", u"a b", u"b c", 0},
+      {"a=:=b=:=c\r\n", u"a", u"b=:=c", 0},
+      {"=:=x\r\nteh=:=the", u"Teh", u"the", 0},
+      {"a=:=\r\n", u"xay", u"xy", 0},
+      {"a=:=b\r\n\r\nc=:=d\r\n", u"a c", u"b c", 5},
+      {"a=:=b\r\nno pair\r\n", u"a", u"b", 5},
+  };
+  for (const auto& row : rows) {
+    Note note(row.text);
+    note.files.Write(kList, row.list);
+    EXPECT_EQ(ErrorOf([&] { ApplyListCorr(note.surface, note.files, kList); }), row.error);
+    EXPECT_EQ(note.surface.Text(), row.result) << row.list;
+  }
+  Note note(u"a");
+  ApplyListCorr(note.surface, note.files, u"C:\\none.txt");
+  EXPECT_EQ(note.surface.Text(), u"a");
+}
+
+TEST(NettoyerTexte, GivesTheWholeNoteOneFormat) {
+  Note note(u"un ,deux\r\ntrois");
+  RichTextSurface& s = note.surface;
+  s.SelLength(4);
+  s.SelFontSize(20);
+  s.RightMargin(3000);
+  NettoyerTexte(s, note.files, kList);
+  EXPECT_EQ(s.SelText(), u"un, deux\r\ntrois");
+  EXPECT_EQ(s.SelLength(), static_cast<Position>(s.Text().size()));
+  EXPECT_EQ(s.SelFontSize(), 11.0F);
+  EXPECT_EQ(s.SelFontName(), u"Times New Roman");
+  EXPECT_EQ(LineSpacing(s), 20);
+  EXPECT_EQ(s.SelIndent(), 150);
+  EXPECT_EQ(s.SelHangingIndent(), -150);
+  EXPECT_EQ(s.RightMargin(), 0.0F);
+  EXPECT_EQ(SpaceBefore(s), 60);
+}
+
+TEST(NettoyerTexte, StopsAtABadLineBeforeEverythingElse) {
+  Note note(u"a,b");
+  note.files.Write(kList, "a=:=c\r\nbad");
+  EXPECT_EQ(ErrorOf([&] { NettoyerTexte(note.surface, note.files, kList); }), 5);
+  EXPECT_EQ(note.surface.Text(), u"c,b");
+  EXPECT_NE(note.surface.SelFontSize(), 11.0F);
+}
+
+TEST(NettoyerTexte, IsASeriesOfUndoSteps) {
+  Note note;
+  note.surface.TextMode(kTextModeRichMultilevel);
+  note.surface.Text(u"a,b,c");
+  NettoyerTexte(note.surface, note.files, kList);
+  while (note.surface.Text() == u"a, b, c") note.surface.Undo();
+  EXPECT_EQ(note.surface.Text(), u"a, b,c");
+}
+
+}  // namespace
+}  // namespace lumenote
