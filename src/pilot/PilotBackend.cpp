@@ -58,7 +58,9 @@ MessageBox::Answer PilotBackend::Show(const MessageBox& box, Form*) {
 }
 
 std::optional<FontChoice> PilotBackend::ChooseFont(const FontChoice&, Form*) {
-  return std::exchange(fontAnswer_, {});
+  std::optional<FontChoice> answer = std::move(fontAnswer_);
+  fontAnswer_.reset();
+  return answer;
 }
 
 void PilotBackend::RunUntil(const std::function<bool()>& done) {

@@ -18,6 +18,7 @@ constexpr float kCellWidth = 345;
 constexpr float kCellHeight = 360;
 constexpr float kCellFontSize = 11;  // points
 constexpr float kBigFontSize = 26;
+constexpr float kInsertFontSize = 12;
 constexpr float kTemplateLeft = -5000;  // out of sight
 
 std::u16string SymbolOf(int code) { return Decode1252(std::string(1, static_cast<char>(code))); }
@@ -30,6 +31,7 @@ Co_Symbols::Co_Symbols(WindowList& windows, EditorWindow& editor)
   CancelButton(&cmdClose);
   lblBigDisplay.FontSize(kBigFontSize);
   lblBigDisplay.Visible(false);
+  txtInsert.FontSize(kInsertFontSize);
   Label& pattern = lblsymbols.Add(picHolder, Rect{kTemplateLeft, 0, kCellWidth, kCellHeight}, u"",
                                   LabelStyle::Cell);
   pattern.FontSize(kCellFontSize);

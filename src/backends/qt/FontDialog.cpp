@@ -1,7 +1,12 @@
 #include "backends/qt/FontDialog.h"
 
+#include <QColorDialog>
 #include <QFontDialog>
+#include <QLayout>
+#include <QPointer>
+#include <QPushButton>
 
+#include "backends/qt/Colours.h"
 #include "backends/qt/FontNames.h"
 #include "backends/qt/QtText.h"
 
@@ -33,14 +38,51 @@ FontChoice Changes(const QFont& before, const QFont& after) {
   return choice;
 }
 
+std::int32_t ToBgr(const QColor& colour) {
+  return colour.blue() << 16 | colour.green() << 8 | colour.red();
+}
+
+/// The toolkit's dialog with a button for the colour.
+class ColouredFontDialog : public QFontDialog {
+ public:
+  ColouredFontDialog(const FontChoice& shown, QWidget* over)
+      : QFontDialog(FontOf(shown), over),
+        colour_(FromBgr(static_cast<std::uint32_t>(shown.colour.value_or(0)))) {
+    setOption(QFontDialog::DontUseNativeDialog);
+    setWindowTitle(QStringLiteral("Police"));
+    auto* button = new QPushButton(QStringLiteral("C&ouleur..."), this);
+    layout()->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this] { ChooseColour(); });
+  }
+
+  /// Empty while the user has chosen none.
+  std::optional<std::int32_t> Colour() const { return chosen_; }
+
+ private:
+  void ChooseColour() {
+    const QColor colour = QColorDialog::getColor(colour_, this, QStringLiteral("Couleur"));
+    if (!colour.isValid()) return;
+    colour_ = colour;
+    chosen_ = ToBgr(colour);
+  }
+
+  QColor colour_;
+  std::optional<std::int32_t> chosen_;
+};
+
 }  // namespace
 
+// The dialog may be destroyed with its window while it is up.
 std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, QWidget* over) {
-  const QFont before = FontOf(shown);
-  bool accepted = false;
-  const QFont after = QFontDialog::getFont(&accepted, before, over, QStringLiteral("Police"));
-  if (!accepted) return {};
-  return Changes(before, after);
+  const QPointer<ColouredFontDialog> dialog = new ColouredFontDialog(shown, over);
+  const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
+  std::optional<FontChoice> choice;
+  if (accepted) {
+    choice = Changes(FontOf(shown), dialog->selectedFont());
+    choice->colour = dialog->Colour();
+  }
+  delete dialog;
+  return choice;
 }
 
 }  // namespace lumenote

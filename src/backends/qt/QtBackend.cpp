@@ -6,6 +6,7 @@
 #include "backends/qt/FontDialog.h"
 #include "backends/qt/MessageBoxes.h"
 #include "backends/qt/Units.h"
+#include "backends/qt/WindowOrder.h"
 #include "forms/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
@@ -32,6 +33,11 @@ MessageBox::Answer QtBackend::Show(const MessageBox& box, Form* over) {
 
 std::optional<FontChoice> QtBackend::ChooseFont(const FontChoice& shown, Form* over) {
   return ShowFontDialog(shown, over ? widgets_.Find<QWidget>(*over) : nullptr);
+}
+
+bool QtBackend::IsTopmost(const Form& form) {
+  const auto* window = widgets_.Find<QWidget>(form);
+  return (window ? IsTopmostOnDesktop(*window) : std::nullopt).value_or(Backend::IsTopmost(form));
 }
 
 void QtBackend::RunUntil(const std::function<bool()>& done) {

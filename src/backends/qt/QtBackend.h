@@ -21,6 +21,7 @@ class QtBackend final : public Backend, private PeerServices {
   MessageBox::Answer Show(const MessageBox& box, Form* over) override;
   std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* over) override;
   void RunUntil(const std::function<bool()>& done) override;
+  bool IsTopmost(const Form& form) override;
   void Arm(Timer& timer) override { timers_.Arm(timer); }
   void Disarm(Timer& timer) override { timers_.Disarm(timer); }
 

@@ -1,6 +1,8 @@
 #include "backends/qt/QtPlatform.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 #include "backends/posix/DrivePaths.h"
 #include "backends/posix/IniRegistry.h"
@@ -23,14 +25,19 @@ namespace {
 class OwnApplication {
  public:
   OwnApplication() {
-    if (!QCoreApplication::instance())
-      application_ = std::make_unique<QApplication>(count_, names_);
+    if (QCoreApplication::instance()) return;
+    application_ = std::make_unique<QApplication>(count_, names_);
+    // The toolkit's own dialogs speak French as the editor does.
+    if (french_.load(QStringLiteral("qtbase_fr"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+      QCoreApplication::installTranslator(&french_);
   }
 
  private:
   char name_[9] = "Lumenote";
   char* names_[2] = {name_, nullptr};
   int count_ = 1;
+  QTranslator french_;
   std::unique_ptr<QApplication> application_;
 };
 
