@@ -10,30 +10,13 @@
 #include "Notes.h"
 #include "backends/qt/QtBreaker.h"
 #include "backends/qt/RichTextView.h"
-#include "base/RuntimeError.h"
-#include "pilot/MemoryClipboard.h"
+#include "surface/Fakes.h"
 
 using namespace lumenote;
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
-
-/// There are no files here.
-class NoFiles final : public Files {
- public:
-  bool Exists(std::u16string_view) const override { return false; }
-  bool IsReadOnly(std::u16string_view) const override { return false; }
-  FileTime ModificationTime(std::u16string_view) const override { Refuse(); }
-  std::string ReadAll(std::u16string_view) const override { Refuse(); }
-  void Write(std::u16string_view, std::string_view) override { Refuse(); }
-  void Delete(std::u16string_view, bool) override { Refuse(); }
-  void Copy(std::u16string_view, std::u16string_view) override { Refuse(); }
-  void Move(std::u16string_view, std::u16string_view) override { Refuse(); }
-
- private:
-  [[noreturn]] static void Refuse() { throw RuntimeError(ErrorNumber::FileNotFound); }
-};
 
 class CountingView final : public RichTextView {
  public:
@@ -82,7 +65,7 @@ class Desk {
   }
 
   MemoryClipboard clipboard;
-  NoFiles files;
+  MemoryFiles files;
   TextLayouter layouter;
   QtBreaker breaker{layouter};
   DocumentSurface surface{clipboard, files, breaker};

@@ -6,7 +6,6 @@
 
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtBreaker.h"
-#include "base/RuntimeError.h"
 #include "forms/Form.h"
 #include "forms/Frame.h"
 #include "forms/Label.h"
@@ -15,34 +14,17 @@
 #include "forms/RichTextBox.h"
 #include "forms/StatusBar.h"
 #include "forms/Timer.h"
-#include "pilot/MemoryClipboard.h"
-#include "platform/Files.h"
 #include "surface/DocumentSurface.h"
+#include "surface/Fakes.h"
 
 namespace lumenote {
-
-/// There are no files here.
-class NoFiles final : public Files {
- public:
-  bool Exists(std::u16string_view) const override { return false; }
-  bool IsReadOnly(std::u16string_view) const override { return false; }
-  FileTime ModificationTime(std::u16string_view) const override { Refuse(); }
-  std::string ReadAll(std::u16string_view) const override { Refuse(); }
-  void Write(std::u16string_view, std::string_view) override { Refuse(); }
-  void Delete(std::u16string_view, bool) override { Refuse(); }
-  void Copy(std::u16string_view, std::u16string_view) override { Refuse(); }
-  void Move(std::u16string_view, std::u16string_view) override { Refuse(); }
-
- private:
-  [[noreturn]] static void Refuse() { throw RuntimeError(ErrorNumber::FileNotFound); }
-};
 
 /// A surface as the backend makes it, without a window.
 struct TestSurface {
   explicit TestSurface(double width = 300) { layouter.Width(width); }
 
   MemoryClipboard clipboard;
-  NoFiles files;
+  MemoryFiles files;
   TextLayouter layouter;
   QtBreaker breaker{layouter};
   DocumentSurface surface{clipboard, files, breaker};
@@ -63,7 +45,7 @@ class TestPlatform final : public Platform {
 
   QtBackend windows;
   MemoryClipboard clipboard;
-  NoFiles files;
+  MemoryFiles files;
 };
 
 /// A window with a control and a menu of each kind; counts what it is told.
