@@ -8,6 +8,7 @@
 #include "editor/DocumentStorage.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
+#include "platform/Paths.h"
 
 namespace lumenote {
 namespace {

@@ -57,11 +57,6 @@ void EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view n
 
 void CreFVideRtf(Files& files, std::u16string_view path) { files.Write(path, kEmptyRtf); }
 
-std::u16string ChmExts(std::u16string_view path, std::u16string_view extension) {
-  if (path.size() < 3) return {};
-  return std::u16string(path.substr(0, path.size() - 3)) + std::u16string(extension);
-}
-
 std::u16string EspDvtDer(std::u16string_view path) {
   return u"   " + std::u16string(path) + u"   ";
 }

@@ -19,8 +19,6 @@ std::u16string NomFichTemp(const Folders& folders, std::u16string_view prefix,
 void EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
 /// Writes the empty RTF document.
 void CreFVideRtf(Files& files, std::u16string_view path);
-/// The path with its last three characters replaced by `extension`; empty when it is shorter.
-std::u16string ChmExts(std::u16string_view path, std::u16string_view extension);
 /// The path between three blanks on each side, as the status bar shows it.
 std::u16string EspDvtDer(std::u16string_view path);
 /// The lower-cased last three characters of a path.

@@ -195,7 +195,7 @@ void RoundTrip::BringBack() {
   workFile_ = result;
   const std::u16string extension = result.substr(result.size() - 3);
   const std::u16string target =
-      extension == u"sav" ? session.documentPath : WithExtension(session.documentPath, extension);
+      extension == u"sav" ? session.documentPath : ChmExts(session.documentPath, extension);
   IgnoringErrors([&] {
     Remplacer(files, result, target);
     session.documentPath = target;

@@ -13,7 +13,7 @@ void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view
        {u"Sav" + std::u16string(documentName), std::u16string(u"SavNotes.xxx")}) {
     const std::u16string path = FoldBackslashes(std::u16string(folder) + u"\\" + name);
     for (const std::u16string_view extension : {u"txt", u"rtf", u"Rtf", u"doc"}) {
-      const std::u16string copy = WithExtension(path, extension);
+      const std::u16string copy = ChmExts(path, extension);
       if (files.Exists(copy)) IgnoringErrors([&] { files.Delete(copy, false); });
     }
   }
@@ -24,7 +24,7 @@ void RapatriFch(Files& files, std::u16string_view folder, std::u16string_view ba
     const std::u16string saved =
         FoldBackslashes(std::u16string(folder) + u"\\SavNotes." + std::u16string(extension));
     if (!files.Exists(saved)) continue;
-    const std::u16string copy = FoldBackslashes(WithExtension(base, Lower(extension)));
+    const std::u16string copy = FoldBackslashes(ChmExts(base, Lower(extension)));
     IgnoringErrors([&] { files.Delete(copy, true); });
     IgnoringErrors([&] { files.Copy(saved, copy); });
   }
@@ -32,7 +32,7 @@ void RapatriFch(Files& files, std::u16string_view folder, std::u16string_view ba
 
 std::u16string TrouverRetour(const Files& files, std::u16string_view workFile) {
   for (const std::u16string_view extension : {u"rtf", u"txt", u"sav"}) {
-    std::u16string path = WithExtension(workFile, extension);
+    std::u16string path = ChmExts(workFile, extension);
     if (files.Exists(path)) return path;
   }
   return {};

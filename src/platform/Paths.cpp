@@ -35,4 +35,9 @@ std::u16string FoldBackslashes(std::u16string_view path) {
   return ReplaceEvery(path, u"\\\\", u"\\");
 }
 
+std::u16string ChmExts(std::u16string_view path, std::u16string_view extension) {
+  if (path.size() < 3) return {};
+  return std::u16string(path.substr(0, path.size() - 3)).append(extension);
+}
+
 }  // namespace lumenote

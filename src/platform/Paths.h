@@ -17,4 +17,7 @@ std::u16string BaseName(std::u16string_view path);
 /// Every doubled backslash made single, in one pass.
 std::u16string FoldBackslashes(std::u16string_view path);
 
+/// The path with its last three characters replaced by `extension`; empty when it is shorter.
+std::u16string ChmExts(std::u16string_view path, std::u16string_view extension);
+
 }  // namespace lumenote

@@ -65,10 +65,4 @@ std::vector<std::u16string> SplitCommandLine(std::u16string_view line) {
 
 std::u16string Quoted(std::u16string_view text) { return u'"' + std::u16string(text) + u'"'; }
 
-std::u16string WithExtension(std::u16string_view path, std::u16string_view extension) {
-  constexpr std::size_t kLength = 3;
-  if (path.size() < kLength) return {};
-  return std::u16string(path.substr(0, path.size() - kLength)).append(extension);
-}
-
 }  // namespace lumenote

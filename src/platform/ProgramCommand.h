@@ -12,7 +12,5 @@ namespace lumenote {
 std::vector<std::u16string> SplitCommandLine(std::u16string_view line);
 /// `text` between double quotes.
 std::u16string Quoted(std::u16string_view text);
-/// The path with its last three characters replaced by `extension`; empty when it is shorter.
-std::u16string WithExtension(std::u16string_view path, std::u16string_view extension);
 
 }  // namespace lumenote

@@ -10,6 +10,7 @@
 #include "backends/posix/IniRegistry.h"
 #include "backends/posix/PosixProcesses.h"
 #include "backends/posix/PosixProgramFolders.h"
+#include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
 #include "posix/Sandbox.h"
 
@@ -122,8 +123,8 @@ TEST(ProgramCommandTest, SplitsByTheRulesOfDriveLetterPrograms) {
       {u"\"open", {u"open"}},
   };
   for (const auto& c : cases) EXPECT_EQ(SplitCommandLine(c.line), c.words);
-  EXPECT_EQ(WithExtension(u"C:\\a.rtf", u"txt"), u"C:\\a.txt");
-  EXPECT_EQ(WithExtension(u"ab", u"txt"), u"");
+  EXPECT_EQ(ChmExts(u"C:\\a.rtf", u"txt"), u"C:\\a.txt");
+  EXPECT_EQ(ChmExts(u"ab", u"txt"), u"");
 }
 
 }  // namespace
