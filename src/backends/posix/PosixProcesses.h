@@ -30,6 +30,8 @@ class PosixProcesses : public Processes {
 
   /// Takes notice of what has ended meanwhile.
   void Collect();
+  /// Whether nothing that was started still runs, as far as noticed.
+  bool Idle() const { return started_.empty(); }
 
  private:
   struct Started {

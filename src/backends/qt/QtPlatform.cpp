@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QTimer>
 #include <QTranslator>
 
 #include "backends/posix/DrivePaths.h"
@@ -41,6 +42,27 @@ class OwnApplication {
   std::unique_ptr<QApplication> application_;
 };
 
+/// Programs that nobody asks after are collected from time to time, lest they stay as zombies.
+class CollectedProcesses final : public PosixProcesses {
+ public:
+  explicit CollectedProcesses(DrivePaths drives) : PosixProcesses(std::move(drives)) {
+    QObject::connect(&timer_, &QTimer::timeout, [this] {
+      Collect();
+      if (Idle()) timer_.stop();
+    });
+  }
+
+  ProcessId Start(std::u16string_view commandLine) override {
+    timer_.start(kInterval);
+    return PosixProcesses::Start(commandLine);
+  }
+
+ private:
+  static constexpr int kInterval = 1000;  // milliseconds
+
+  QTimer timer_;
+};
+
 }  // namespace
 
 struct QtPlatform::Parts {
@@ -54,7 +76,7 @@ struct QtPlatform::Parts {
   PosixFolders folders{drives};
   IniRegistry registry;
   PosixProgramFolders programFolders{drives};
-  PosixProcesses programs{drives};
+  CollectedProcesses programs{drives};
 };
 
 QtPlatform::QtPlatform() : parts_(std::make_unique<Parts>()) {}

@@ -47,7 +47,9 @@ bool IsPanel(xcb_connection_t* server, xcb_window_t window) {
 
 }  // namespace
 
+// Windows that are only drawn into memory have a connection as well, but no place among the others.
 std::optional<bool> IsTopmostOnDesktop(const QWidget& window) {
+  if (QGuiApplication::platformName() != u"xcb") return {};
   const auto* desktop = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (!desktop) return {};
   xcb_connection_t* server = desktop->connection();
