@@ -86,12 +86,55 @@ class Tool(unittest.TestCase):
         self.assertEqual(self.read("garde.rtf"), b"garde")
         self.assertEqual(sorted(os.listdir(self.folder)), ["a.txt", "faux.rtf", "garde.rtf"])
 
+    def test_clean(self):
+        self.write("liste.txt", b"teh=:=the\r\nrn=:=m\r\nzz=:=z\n")
+        for name in ("a.rtf", "b.rtf"):
+            self.write(name, b"{\\rtf1 Teh rnot,teh;x}")
+        before = self.read("a.rtf")
+        self.assertEqual(self.run_tool("clean", "--dry-run", "--list", "liste.txt", "a.rtf"),
+                         b"teh\tthe\t2\nrn\tm\t1\nzz\tz\t0\n")
+        self.assertEqual(self.read("a.rtf"), before)
+        self.run_tool("clean", "--list", "liste.txt", "a.rtf", "-o", "c.rtf")
+        self.assertEqual(self.read("a.rtf"), before)
+        self.assertEqual(self.run_tool("text", "c.rtf"), b"the mot, the ; x\n")
+        self.write("faux.rtf", b"texte")
+        self.run_tool("clean", "--list=liste.txt", "a.rtf", "faux.rtf", "b.rtf", status=1)
+        self.assertEqual([self.read(name) for name in ("a.rtf", "b.rtf", "faux.rtf")],
+                         [self.read("c.rtf")] * 2 + [b"texte"])
+
+    def test_clean_leaves_what_it_cannot_clean(self):
+        self.write("a.rtf", b"{\\rtf1 " + b"," * 30000 + b"}")
+        self.write("liste.txt", b"a=:=b\n\n")
+        before = self.read("a.rtf")
+        for options in [(), ("--dry-run",), ("--list", "liste.txt"), ("--list", "rien.txt")]:
+            self.assertEqual(self.run_tool("clean", *options, "a.rtf", status=1), b"")
+            self.assertEqual(self.read("a.rtf"), before)
+
+    def test_links(self):
+        os.environ["LUMENOTE_DRIVE_C"] = str(self.folder / "c")
+        self.addCleanup(os.environ.pop, "LUMENOTE_DRIVE_C")
+        link = self.folder / "c/Program Files/Microsoft/Office11/WinWord.exe"
+        self.run_tool("link", "winword", "/bin/cat")
+        self.run_tool("link", "WINWORD", TOOL)
+        self.assertEqual(os.readlink(link), TOOL)
+        self.assertEqual(os.listdir(link.parent), ["WinWord.exe"])
+        self.assertEqual(self.run_tool("links").decode().splitlines(),
+                         ["Qjot\t-", "Atlantis\t-", "WinWord\t" + os.path.realpath(TOOL),
+                          "ReadIris\t-", "FineReader\t-"])
+        link.unlink()
+        link.write_bytes(b"garde")
+        for program in ("/bin/cat", "rien", "."):
+            self.run_tool("link", "WinWord", program, status=1)
+        self.assertEqual(link.read_bytes(), b"garde")
+
     def test_wrong_command_lines(self):
         self.write("a.txt", b"x")
         for arguments in [(), ("rien",), ("text",), ("text", "a.txt", "a.txt"), ("convert", "a.txt"),
                           ("convert", "a.txt", "b.doc"), ("convert", "--to", "doc", "a.txt", "-"),
                           ("text", "--rien", "a.txt"), ("pilot", "rien.pilot"), ("pilot", "--root"),
-                          ("pilot", "--root", "a.txt"), ("pilot", "a", "b")]:
+                          ("pilot", "--root", "a.txt"), ("pilot", "a", "b"), ("clean",),
+                          ("clean", "-o", "c", "a", "b"), ("clean", "-o", "c", "--dry-run", "a"),
+                          ("link", "Qjot"), ("link", "Rien", "/bin/cat"), ("links", "a")]:
             self.run_tool(*arguments, status=2)
         self.assertEqual(os.listdir(self.folder), ["a.txt"])
 

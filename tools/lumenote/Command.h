@@ -19,5 +19,8 @@ class Failure : public std::runtime_error {
 int Text(Arguments arguments);
 int Convert(Arguments arguments);
 int Pilot(Arguments arguments);
+int Clean(Arguments arguments);
+int Link(Arguments arguments);
+int Links(Arguments arguments);
 
 }  // namespace lumenote::tool

@@ -22,13 +22,6 @@ namespace {
 
 constexpr std::string_view kStream = "-";
 
-/// Absolute, so that the folder above it can be looked at when it is missing.
-std::string Absolute(const std::string& name) {
-  std::error_code error;
-  const std::filesystem::path path = std::filesystem::absolute(name, error);
-  return error ? name : path.string();
-}
-
 Format FormatOf(const std::string& name, std::string_view bytes) {
   const std::optional<Format> named = FormatOfName(name);
   const bool looksLikeRtf = LooksLikeRtf(bytes);
@@ -48,6 +41,12 @@ void WriteStandardOutput(std::string_view bytes) {
 }
 
 }  // namespace
+
+std::string Absolute(const std::string& name) {
+  std::error_code error;
+  const std::filesystem::path path = std::filesystem::absolute(name, error);
+  return error ? name : path.string();
+}
 
 std::optional<Format> FormatOfName(std::string_view name) {
   const std::u16string lower = Lower(FromUtf8(name));

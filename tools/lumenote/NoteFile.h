@@ -26,6 +26,7 @@ class Note {
   /// The format it was read in.
   Format Source() const { return source_; }
   std::u16string Text() const { return surface_.Text(); }
+  RichTextSurface& Surface() { return surface_; }
   /// The note as a file: RTF, or text in code page 1252 with CR LF.
   std::string Bytes(Format format) const;
 
@@ -36,6 +37,9 @@ class Note {
   DocumentSurface surface_{clipboard_, files_, breaker_};
   Format source_;
 };
+
+/// Absolute, so that the folder above it can be looked at when it is missing.
+std::string Absolute(const std::string& name);
 
 /// `name` is a native path, or "-" for a standard stream. Raise `Failure`.
 std::string ReadBytes(const std::string& name);

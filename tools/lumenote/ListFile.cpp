@@ -1,0 +1,33 @@
+// Finding and reading a correction list.
+#include "ListFile.h"
+
+#include "Command.h"
+#include "NoteFile.h"
+#include "backends/posix/Descriptor.h"
+#include "base/RuntimeError.h"
+
+namespace lumenote::tool {
+
+ListFile::ListFile(const std::string& name) {
+  if (name.empty()) return;
+  std::string bytes;
+  try {
+    path_ = DrivePaths{"/"}.ToDrivePath(Absolute(name));
+    bytes = ReadWholeFile(Absolute(name));
+  } catch (const RuntimeError& error) {
+    throw Failure(name + " : lecture impossible : " + error.what());
+  }
+  ReadPairs(name, bytes);
+}
+
+void ListFile::ReadPairs(const std::string& name, const std::string& bytes) {
+  CorrectionReader reader(bytes);
+  try {
+    while (const auto pair = reader.Next()) pairs_.push_back(*pair);
+  } catch (const RuntimeError& error) {
+    // Every line is a pair, so the one that failed follows those that were read.
+    throw Failure(name + ", ligne " + std::to_string(pairs_.size() + 1) + " : " + error.what());
+  }
+}
+
+}  // namespace lumenote::tool

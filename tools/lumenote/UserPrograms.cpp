@@ -1,0 +1,44 @@
+// Looking up programs as the editor does.
+#include "UserPrograms.h"
+
+#include "Command.h"
+#include "backends/posix/IniRegistry.h"
+#include "backends/posix/PosixFiles.h"
+#include "backends/posix/PosixFolders.h"
+#include "backends/posix/PosixProgramFolders.h"
+#include "base/RuntimeError.h"
+
+namespace lumenote::tool {
+namespace {
+
+/// Files as they would be if every program stood at its first place.
+class EveryFile : public PosixFiles {
+ public:
+  using PosixFiles::PosixFiles;
+  bool Exists(std::u16string_view) const override { return true; }
+};
+
+ProgramTable LookUp(const DrivePaths& drives, const Files& files) {
+  const FixedFolders noFolders(u"", u"");
+  const PosixProgramFolders programs(drives);
+  const IniRegistry registry;
+  return ChercherApplis({files, noFolders, programs, registry});
+}
+
+}  // namespace
+
+ProgramTable InstalledPrograms(const DrivePaths& drives) {
+  return LookUp(drives, PosixFiles(drives));
+}
+
+ProgramTable FirstPlaces(const DrivePaths& drives) { return LookUp(drives, EveryFile(drives)); }
+
+std::filesystem::path NativePath(const DrivePaths& drives, std::u16string_view path) {
+  try {
+    return drives.ToNative(path);
+  } catch (const RuntimeError& error) {
+    throw Failure(std::string("lecteur C: : ") + error.what());
+  }
+}
+
+}  // namespace lumenote::tool
