@@ -5,6 +5,7 @@
 #include "NoteFile.h"
 #include "backends/posix/Descriptor.h"
 #include "base/RuntimeError.h"
+#include "base/Strings.h"
 
 namespace lumenote::tool {
 
@@ -25,8 +26,8 @@ void ListFile::ReadPairs(const std::string& name, const std::string& bytes) {
   try {
     while (const auto pair = reader.Next()) pairs_.push_back(*pair);
   } catch (const RuntimeError& error) {
-    // Every line is a pair, so the one that failed follows those that were read.
-    throw Failure(name + ", ligne " + std::to_string(pairs_.size() + 1) + " : " + error.what());
+    // The description names the line behind a line end.
+    throw Failure(name + " : " + ToUtf8(ReplaceEvery(error.Description(), u"\r\n", u" : ")));
   }
 }
 
