@@ -198,6 +198,12 @@ void Co_Rtf::Form_Unload() {
   CloreSession(session_);
 }
 
+bool Co_Rtf::Form_KeyDown(const KeyStroke& key) {
+  if (key != KeyStroke{.character = u'f', .control = true}) return false;
+  mnuEdtTrouver_Click();
+  return true;
+}
+
 // --- above the other windows
 
 void Co_Rtf::SuspendreDessus() {

@@ -66,6 +66,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   void Form_Resize() override;
   void Form_QueryUnload() override;
   void Form_Unload() override;
+  bool Form_KeyDown(const KeyStroke& key) override;
 
   void WirePopup();
   void WireBar();

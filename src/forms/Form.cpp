@@ -88,6 +88,9 @@ void Form::UserMouseMove(const MouseEvent& event) {
 }
 
 bool Form::UserKey(const KeyStroke& key) {
+  bool used = false;
+  Raise([&] { used = Form_KeyDown(key); });
+  if (used) return true;
   if (key.control || key.alt) return false;
   Button* button = key.name == KeyName::Return   ? defaultButton_
                    : key.name == KeyName::Escape ? cancelButton_

@@ -117,6 +117,8 @@ class Form : public Element, public Container {
   virtual void Form_Activate() {}
   virtual void Form_Resize() {}
   virtual void Form_MouseMove(const MouseEvent&) {}
+  /// A shortcut of the window; whether the key is one.
+  virtual bool Form_KeyDown(const KeyStroke&) { return false; }
   virtual void Form_QueryUnload() {}
   virtual void Form_Unload() {}
 

@@ -56,7 +56,10 @@ void SelectIn(RichTextBox& box, Position start, Position length) {
 /// The window takes the keys that a control has no use for.
 void PressKey(Control& control, const KeyStroke& key) {
   Form& form = control.Owner();
-  if (!control.UserKey(key)) form.UserKey(key);
+  auto* box = dynamic_cast<RichTextBox*>(&control);
+  const bool reaches = !box || !box->Locked() || OnlyLooks(key);
+  const bool used = reaches && (box ? SurfaceOf(*box).UserKey(key) : control.UserKey(key));
+  if (!used) form.UserKey(key);
 }
 
 void TypeKey(Control& control, std::u16string_view key) {
@@ -102,11 +105,7 @@ void HeadlessActs::Type(Control& control, std::u16string_view text) {
 
 void HeadlessActs::Key(Control& control, const KeyStroke& key) {
   control.SetFocus();
-  auto* box = dynamic_cast<RichTextBox*>(&control);
-  if (!box)
-    PressKey(control, key);
-  else if (!box->Locked() || OnlyLooks(key))
-    SurfaceOf(*box).UserKey(key);
+  PressKey(control, key);
 }
 
 void HeadlessActs::Select(RichTextBox& box, Position start, Position length) {
