@@ -5,13 +5,10 @@
 #include "ListFile.h"
 #include "NoteFile.h"
 #include "Progress.h"
-#include "backends/posix/AtomicFile.h"
-#include "backends/posix/Descriptor.h"
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "ocr/Cleanup.h"
-#include "rtf/Reader.h"
 
 namespace lumenote::tool {
 namespace {
@@ -26,30 +23,14 @@ void Check(const CommandLine& line) {
   if (line.Has("--dry-run")) throw CommandLineError("-o et --dry-run s'excluent");
 }
 
-/// Does `act` to the file `name`; a run-time error says that the file `what`.
+/// Does `act` to the note `name`; a run-time error says that it cannot be cleaned up.
 template <class Act>
-auto OnFile(const std::string& name, const char* what, Act act) {
+auto Cleaning(const std::string& name, Act act) {
   try {
     return act();
   } catch (const RuntimeError& error) {
-    throw Failure(name + " : " + what + " : " + error.what());
+    throw Failure(name + " : nettoyage impossible : " + error.what());
   }
-}
-
-std::string ReadRtf(const std::string& name) {
-  std::string bytes =
-      OnFile(name, "lecture impossible", [&] { return ReadWholeFile(Absolute(name)); });
-  if (!LooksLikeRtf(bytes) || FormatOfName(name) == Format::Text)
-    throw Failure(name + " : pas une note RTF");
-  return bytes;
-}
-
-void WriteCleaned(Note& note, ListFile& list, const std::string& name, const std::string& target) {
-  constexpr mode_t kNewFileMode = 0666;
-  OnFile(name, "nettoyage impossible",
-         [&] { NettoyerTexte(note.Surface(), list.Disk(), list.Path()); });
-  OnFile(target, "écriture impossible",
-         [&] { ReplaceFile(Absolute(target), note.Bytes(Format::Rtf), kNewFileMode); });
 }
 
 /// A line for each pair. The blanks are set too, since the note may grow too long by them.
@@ -64,14 +45,15 @@ std::string Foretell(RichTextSurface& surface, const ListFile& list) {
 }
 
 void CleanOne(const CommandLine& line, ListFile& list, const std::string& name) {
-  Note note(name, ReadRtf(name));
-  if (!line.Has("--dry-run"))
-    return WriteCleaned(note, list, name, line.Value("-o").value_or(name));
-  const std::string lines =
-      OnFile(name, "nettoyage impossible", [&] { return Foretell(note.Surface(), list); });
-  if (line.Operands().size() > 1) std::cout << "==> " << name << " <==\n";
-  std::cout << lines << std::flush;
-  if (!std::cout) throw Failure("sortie standard : écriture impossible");
+  Note note(name, ReadBytes(name));
+  if (note.Source() != Format::Rtf) throw Failure(name + " : pas une note RTF");
+  if (!line.Has("--dry-run")) {
+    Cleaning(name, [&] { NettoyerTexte(note.Surface(), list.Disk(), list.Path()); });
+    return WriteBytes(line.Value("-o").value_or(name), note.Bytes(Format::Rtf));
+  }
+  std::string lines = Cleaning(name, [&] { return Foretell(note.Surface(), list); });
+  if (line.Operands().size() > 1) lines.insert(0, "==> " + name + " <==\n");
+  WriteBytes("-", lines);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 
 #include "Command.h"
 #include "NoteFile.h"
-#include "backends/posix/Descriptor.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 
@@ -11,12 +10,11 @@ namespace lumenote::tool {
 
 ListFile::ListFile(const std::string& name) {
   if (name.empty()) return;
-  std::string bytes;
+  const std::string bytes = ReadBytes(name);
   try {
     path_ = DrivePaths{"/"}.ToDrivePath(Absolute(name));
-    bytes = ReadWholeFile(Absolute(name));
   } catch (const RuntimeError& error) {
-    throw Failure(name + " : lecture impossible : " + error.what());
+    throw Failure(name + " : " + error.what());
   }
   ReadPairs(name, bytes);
 }

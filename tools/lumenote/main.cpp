@@ -32,7 +32,7 @@ constexpr std::string_view kUsage =
   pilot     conduit l'éditeur, sans fenêtre, par un script (voir docs/pilot.md)
 
 Les fichiers sont des chemins du système ; l'extension .rtf ou .txt en dit le
-format. Avec text et convert "-" est l'entrée ou la sortie standard : en entrée le
+format. Avec text, convert et clean "-" est l'entrée ou la sortie standard : en entrée le
 RTF se reconnaît à son début, en sortie c'est l'autre format, sauf avec --to. Un
 fichier texte est en page de code 1252 avec CR LF ; en entrée, une marque d'ordre
 des octets est suivie.
