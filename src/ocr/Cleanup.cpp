@@ -24,7 +24,7 @@ constexpr int kSpaceBefore = 60;       // twips
 
 std::int16_t RemplacerTout(RichTextSurface& surface, std::u16string_view find,
                            std::u16string_view replace) {
-  ToInt16(static_cast<std::int64_t>(surface.Text().size()));
+  ToInt16(std::int64_t{surface.TextLength()});
   // Each round moves the start on by one at least, so the count stays within 16 bits with it.
   std::int16_t count = 0;
   std::int16_t start = 0;

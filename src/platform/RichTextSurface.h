@@ -54,6 +54,8 @@ class RichTextSurface {
   /// included, and clears the undo history.
   virtual std::u16string Text() const = 0;
   virtual void Text(std::u16string_view text) = 0;
+  /// Of the whole content, without copying it.
+  virtual Position TextLength() const = 0;
   /// The whole content as RTF source, one byte a unit. Writing a text that is not RTF loads it as
   /// plain text.
   virtual std::u16string TextRTF() const = 0;

@@ -48,7 +48,7 @@ void SelectLigne(RichTextSurface& surface, bool& failed) {
 
 void SelectTout(RichTextSurface& surface) {
   surface.SelStart(0);
-  surface.SelLength(static_cast<Position>(surface.Text().size()));
+  surface.SelLength(surface.TextLength());
 }
 
 }  // namespace lumenote

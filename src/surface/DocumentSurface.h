@@ -23,6 +23,7 @@ class DocumentSurface final : public RichTextSurface {
 
   std::u16string Text() const override;
   void Text(std::u16string_view text) override { transfer_.Text(text); }
+  Position TextLength() const override { return core_.Content().Length(); }
   std::u16string TextRTF() const override { return transfer_.Rtf(); }
   void TextRTF(std::u16string_view rtf) override { transfer_.Rtf(rtf); }
 
