@@ -11,27 +11,23 @@ constexpr float kTopShare = 0.7F;  // of a row that lies above the first one
 }  // namespace
 
 SymbolGrid LayOutSymbols(int offset, const GridMeasures& measures) {
-  SymbolGrid grid;
-  const float across = measures.cellWidth - kOverlap;
-  const float down = measures.cellHeight - kOverlap;
-  int row = 1;
-  int column = 0;
-  const auto beginRow = [&] {
-    const float top = (static_cast<float>(row) - kTopShare) * down;
-    if (top + measures.cellHeight > measures.boxHeight) ++grid.hiddenRows;
+  const auto leftOf = [&](int column) {
+    return kLeftEdge + static_cast<float>(column) * (measures.cellWidth - kOverlap);
   };
+  const auto topOf = [&](int row) {
+    return (static_cast<float>(row + 1) - kTopShare) * (measures.cellHeight - kOverlap);
+  };
+  int columns = 1;
+  while (leftOf(columns) + measures.cellWidth <= measures.boxWidth) ++columns;
+
+  SymbolGrid grid;
   for (int code = kFirstSymbol + offset; code <= kLastSymbol; ++code) {
-    if (column == 0) beginRow();
-    float left = kLeftEdge + static_cast<float>(column) * across;
-    if (column > 0 && left + measures.cellWidth > measures.boxWidth) {
-      if (grid.columns == 0) grid.columns = static_cast<std::int16_t>(column);
-      ++row;
-      column = 0;
-      left = kLeftEdge;
-      beginRow();
-    }
-    ++column;
-    grid.cells.push_back({code, left, (static_cast<float>(row) - kTopShare) * down});
+    const int index = static_cast<int>(grid.cells.size());
+    const float top = topOf(index / columns);
+    const bool beginsRow = index % columns == 0;
+    if (beginsRow && top + measures.cellHeight > measures.boxHeight) ++grid.hiddenRows;
+    if (beginsRow && index > 0) grid.columns = static_cast<std::int16_t>(columns);
+    grid.cells.push_back({code, leftOf(index % columns), top});
   }
   return grid;
 }

@@ -29,7 +29,7 @@ struct GridMeasures {
   float boxHeight;
 };
 
-/// The grid that starts `offset` codes behind the first symbol.
+/// The grid that starts `offset` codes behind the first symbol. Cells are wider than they overlap.
 SymbolGrid LayOutSymbols(int offset, const GridMeasures& measures);
 
 }  // namespace lumenote
