@@ -136,6 +136,7 @@ void Form::Show(Form* owner) {
 
 void Form::Activate() {
   if (!visible_ || !peer_ || windows_.Active() == this) return;
+  if (const Form* modal = windows_.TopModal(); modal && modal != this) return;
   peer_->Activate();
   UserActivate();
 }

@@ -57,7 +57,8 @@ class Form : public Element, public Container {
   bool IsLoaded() const { return loaded_; }
   /// Loads when needed, shows and activates. An owned window stays above `owner`.
   void Show(Form* owner = nullptr);
-  /// Brings a visible window that is not the active one to the front.
+  /// Brings a visible window that is not the active one to the front; one that a modal window locks
+  /// stays where it is.
   void Activate();
   /// Shows and returns when the window has been unloaded; the other windows are locked meanwhile.
   void ShowModal();
@@ -130,7 +131,7 @@ class Form : public Element, public Container {
 
   void Place(Rect place);
   void RearmTimers();
-  /// A window that nothing on has the keyboard gives it to the first control that takes it.
+  /// Gives the keyboard to the first control that takes it, unless one has it already.
   void FocusFirst();
 
   WindowList& windows_;

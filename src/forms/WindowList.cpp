@@ -6,6 +6,13 @@
 
 namespace lumenote {
 
+Form* WindowList::TopModal() const {
+  const auto top = std::find_if(loaded_.rbegin(), loaded_.rend(), [](const Form* form) {
+    return form->IsModal() && form->Visible();
+  });
+  return top == loaded_.rend() ? nullptr : *top;
+}
+
 void WindowList::Leave(Form& form) {
   loaded_.erase(std::remove(loaded_.begin(), loaded_.end(), &form), loaded_.end());
   if (active_ == &form) active_ = nullptr;

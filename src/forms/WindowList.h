@@ -16,6 +16,8 @@ class WindowList {
   Platform& Machine() const { return platform_; }
   const std::vector<Form*>& Loaded() const { return loaded_; }
   Form* Active() const { return active_; }
+  /// The modal window on top, which locks the others; null when there is none.
+  Form* TopModal() const;
 
  private:
   friend class Form;

@@ -54,10 +54,9 @@ void Co_Apprendre::Bx_Saisircorr_MouseUp(const MouseEvent& event) {
   if (event.button == MouseButton::Right) PopUp(mnuSaisi, Bx_Saisircorr, event.at);
 }
 
-// The note's window is locked while this one is shown: its box has had the keyboard since the
-// selection was copied, and taking the foreground now would only fill these boxes anew.
 void Co_Apprendre::Bt_Valider_Click() {
   if (erronModifie_) return;
+  IgnoringErrors([this] { editor_.FocusDocument(); });
   IgnoringErrors([this] { editor_.Document().SelText(Bx_Saisircorr.Surface().Text()); });
 }
 

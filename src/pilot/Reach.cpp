@@ -17,16 +17,8 @@ void Require(bool reachable) {
   if (!reachable) throw Refusal("disabled");
 }
 
-/// The modal window on top; the user reaches nothing else.
-const Form* TopModal(const WindowList& windows) {
-  const auto& loaded = windows.Loaded();
-  for (auto form = loaded.rbegin(); form != loaded.rend(); ++form)
-    if ((*form)->IsModal() && (*form)->Visible()) return *form;
-  return nullptr;
-}
-
 bool IsReachable(const Form& form) {
-  const Form* modal = TopModal(form.Windows());
+  const Form* modal = form.Windows().TopModal();
   return form.Visible() && (!modal || modal == &form);
 }
 
