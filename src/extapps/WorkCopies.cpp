@@ -4,7 +4,6 @@
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
-#include "platform/ProgramCommand.h"
 
 namespace lumenote {
 

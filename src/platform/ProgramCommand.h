@@ -1,4 +1,4 @@
-// Command lines of programs, and path endings.
+// Command lines of programs.
 #pragma once
 #include <string>
 #include <string_view>
