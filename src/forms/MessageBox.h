@@ -16,4 +16,9 @@ struct MessageBox {
   Icon icon = Icon::None;
 };
 
+/// What a user who only presses Return answers.
+inline MessageBox::Answer DefaultAnswer(const MessageBox& box) {
+  return box.buttons == MessageBox::Buttons::Ok ? MessageBox::Answer::Ok : MessageBox::Answer::Yes;
+}
+
 }  // namespace lumenote

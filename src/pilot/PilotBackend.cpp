@@ -27,10 +27,6 @@ class PilotPeer final : public FormPeer {
   std::optional<std::string>& popUp_;
 };
 
-MessageBox::Answer DefaultAnswer(const MessageBox& box) {
-  return box.buttons == MessageBox::Buttons::Ok ? MessageBox::Answer::Ok : MessageBox::Answer::Yes;
-}
-
 bool HasButton(const MessageBox& box, MessageBox::Answer answer) {
   const bool ok = answer == MessageBox::Answer::Ok;
   return ok == (box.buttons == MessageBox::Buttons::Ok);

@@ -6,9 +6,9 @@
 #include "backends/headless/HeadlessBackend.h"
 #include "backends/posix/PosixSandbox.h"
 #include "forms/Label.h"
-#include "forms/Platform.h"
 #include "forms/RichTextBox.h"
 #include "forms/Timer.h"
+#include "pilot/PilotPlatform.h"
 #include "pilot/ScriptRunner.h"
 
 namespace lumenote {
@@ -74,18 +74,8 @@ class SkewedBackend : public Backend {
   HeadlessBackend headless_;
 };
 
-class PilotTest : public testing::Test, public Platform {
+class PilotTest : public testing::Test {
  protected:
-  Backend& Windows() override { return backend; }
-  Settings& UserSettings() override { return sandbox.UserSettings(); }
-  Files& FileSystem() override { return sandbox.FileSystem(); }
-  Folders& SpecialFolders() override { return sandbox.SpecialFolders(); }
-  Clipboard& SystemClipboard() override { return sandbox.SystemClipboard(); }
-  const Fonts& SystemFonts() override { return fonts; }
-  const Registry& MachineRegistry() override { return sandbox.MachineRegistry(); }
-  const ProgramFolders& InstalledPrograms() override { return sandbox.InstalledPrograms(); }
-  Processes& Programs() override { return sandbox.Programs(); }
-
   /// What the script prints, one line each.
   std::string Run(const std::string& script) {
     std::istringstream lines(script);
@@ -102,7 +92,8 @@ class PilotTest : public testing::Test, public Platform {
   HeadlessActs acts;
   PilotBackend backend{inner};
   Transcript transcript{out, err};
-  CoBxRtf control{*this};
+  PilotPlatform machine{sandbox, backend, fonts};
+  CoBxRtf control{machine};
   Stage stage{control, sandbox, backend, acts, transcript, fonts};
   TestWindow first{stage.Windows(), "Co_Trouver", log};
   TestWindow second{stage.Windows(), "Co_Paragraph", log};

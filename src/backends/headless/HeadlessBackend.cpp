@@ -61,7 +61,7 @@ std::unique_ptr<RichTextSurface> HeadlessBackend::MakeSurface(RichTextBox& box,
 }
 
 MessageBox::Answer HeadlessBackend::Show(const MessageBox& box, Form*) {
-  return box.buttons == MessageBox::Buttons::Ok ? MessageBox::Answer::Ok : MessageBox::Answer::Yes;
+  return DefaultAnswer(box);
 }
 
 void HeadlessBackend::RunUntil(const std::function<bool()>& done) {
