@@ -60,6 +60,13 @@ int FunctionNumber(std::u16string_view text) {
 
 }  // namespace
 
+bool OnlyLooks(const KeyStroke& key) {
+  if (key.name >= KeyName::Left && key.name <= KeyName::PageDown) return true;
+  if (!key.control || key.alt) return false;
+  return key.name == KeyName::Insert ||
+         (key.name == KeyName::Character && (key.character == u'a' || key.character == u'c'));
+}
+
 std::optional<KeyStroke> ParseKey(std::u16string_view name) {
   KeyStroke key;
   TakeModifiers(name, key);

@@ -36,6 +36,9 @@ struct KeyStroke {
   bool operator==(const KeyStroke&) const = default;
 };
 
+/// Whether the key moves the caret, selects or copies, but never changes the text.
+bool OnlyLooks(const KeyStroke& key);
+
 /// Reads "Delete", "Shift+End", "Ctrl+Z", "Ctrl+Shift+Left"; empty when it is no key's name.
 std::optional<KeyStroke> ParseKey(std::u16string_view name);
 

@@ -25,13 +25,6 @@ std::size_t KeyLength(std::u16string_view text) {
   return pair ? 2 : 1;
 }
 
-/// Whether the key leaves the text as it is: caret keys, select all, copy.
-bool OnlyLooks(const KeyStroke& key) {
-  if (key.name >= KeyName::Left && key.name <= KeyName::PageDown) return true;
-  if (!key.control) return false;
-  return key.name == KeyName::Insert || key.character == u'a' || key.character == u'c';
-}
-
 /// Whether the window is still there; an event may have closed it.
 class StillLoaded {
  public:

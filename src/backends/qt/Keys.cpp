@@ -93,12 +93,6 @@ QString TypedText(const QKeyEvent& event) {
   return text[0].isPrint() || text[0].isSurrogate() ? text : QString();
 }
 
-bool OnlyLooks(const KeyStroke& key) {
-  const bool moves = key.name >= KeyName::Left && key.name <= KeyName::PageDown;
-  const bool copies = key.name == KeyName::Insert && key.control;
-  return moves || copies || IsCommandOf(key, u"ac");
-}
-
 bool IsEditingKey(const KeyStroke& key) {
   if (key.alt) return false;
   if (key.name == KeyName::Character) return !key.control || IsCommandOf(key, u"acvxyzbiu");

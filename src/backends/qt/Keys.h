@@ -13,8 +13,6 @@ std::optional<KeyStroke> StrokeOf(const QKeyEvent& event);
 QKeyEvent EventOf(const KeyStroke& key, QEvent::Type type);
 /// What the key types by itself; empty for a command.
 QString TypedText(const QKeyEvent& event);
-/// Whether the key moves the caret or copies, but never changes the text.
-bool OnlyLooks(const KeyStroke& key);
 /// Whether an editor uses such a key, so that no shortcut of the host should take it.
 bool IsEditingKey(const KeyStroke& key);
 
