@@ -1,11 +1,10 @@
 // Editing, formatting, searching and reading notes of every shape and size.
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <cstring>
-#include <malloc.h>
 #include <memory>
 #include <random>
 
+#include "Limits.h"
 #include "Notes.h"
 #include "document/Search.h"
 #include "document/Undo.h"
@@ -83,22 +82,35 @@ void Measure(benchmark::State& state, NoteShape shape, int bytes, Act before, Ac
   CountOperations(state, count);
 }
 
-void GetText(benchmark::State& state, NoteShape shape, int bytes) {
-  const Document note = NoteDocument(shape, bytes);
-  for (auto _ : state) benchmark::DoNotOptimize(note.Text(0, note.Length()));
-  CountOperations(state, 1);
+std::int64_t SizeOf(const std::u16string& text) {
+  return static_cast<std::int64_t>(text.size() * sizeof(char16_t));
 }
 
-/// What `GetText` cannot be faster than.
-void CopyMemory(benchmark::State& state, NoteShape shape, int bytes) {
+void GetText(benchmark::State& state, NoteShape shape, int bytes) {
   const Document note = NoteDocument(shape, bytes);
   const std::u16string text = note.Text(0, note.Length());
-  for (auto _ : state) {
-    const std::unique_ptr<char16_t[]> copy(new char16_t[text.size()]);
-    std::memcpy(copy.get(), text.data(), text.size() * sizeof(char16_t));
-    benchmark::DoNotOptimize(copy.get()[text.size() / 2]);
+  for (auto _ : state) benchmark::DoNotOptimize(note.Text(0, note.Length()));
+  state.SetBytesProcessed(SizeOf(text) * state.iterations());
+  CompareWith(state, [&] { CopyToFreshMemory(text); });
+}
+
+void CopyText(benchmark::State& state, NoteShape shape, int bytes) {
+  const Document note = NoteDocument(shape, bytes);
+  const std::u16string text = note.Text(0, note.Length());
+  for (auto _ : state) CopyToFreshMemory(text);
+  state.SetBytesProcessed(SizeOf(text) * state.iterations());
+}
+
+void ReplaceAll(benchmark::State& state, NoteShape shape, int bytes) {
+  std::u16string text;
+  {
+    const Document note = NoteDocument(shape, bytes);
+    text = note.Text(0, note.Length());
   }
-  CountOperations(state, 1);
+  Measure(state, shape, bytes, nullptr, &Desk::ReplaceAll, 1);
+  std::size_t hits = 0;
+  CompareWith(state, [&] { hits = ReplaceByCopy(text, kNeedle, kReplacement); });
+  state.counters["hits"] = static_cast<double>(hits);
 }
 
 /// A needle that is nowhere and begins with the most frequent letter.
@@ -108,19 +120,6 @@ void Search(benchmark::State& state, NoteShape shape, int bytes, SearchOptions o
     benchmark::DoNotOptimize(FindText(note, u"entomologie", 0, note.Length(), options));
   }
   CountOperations(state, 1);
-}
-
-void Memory(benchmark::State& state, NoteShape shape, int bytes) {
-  const auto inUse = [] { return static_cast<double>(mallinfo2().uordblks + mallinfo2().hblkhd); };
-  const double length = NoteDocument(shape, bytes).Length();
-  double before = 0;
-  double after = 0;
-  for (auto _ : state) {
-    before = inUse();
-    const Document note = NoteDocument(shape, bytes);
-    after = inUse();
-  }
-  state.counters["B/char"] = (after - before) / length;
 }
 
 void Register(NoteShape shape, int bytes, const std::string& note) {
@@ -134,18 +133,17 @@ void Register(NoteShape shape, int bytes, const std::string& note) {
     add(name, Measure, before, act, count);
   };
   add("GetText", GetText);
-  add("CopyMemory", CopyMemory);
+  add("CopyText", CopyText);
   measure("InsertRandom", nullptr, &Desk::InsertAtRandom, kEdits);
   measure("UndoRandom", &Desk::InsertAtRandom, &Desk::UndoAll, kEdits);
   measure("Typing", nullptr, &Desk::TypeInTheMiddle, kEdits);
   measure("UndoTyping", &Desk::TypeInTheMiddle, &Desk::UndoAll, 1);
-  measure("ReplaceAll", nullptr, &Desk::ReplaceAll, 1);
+  add("ReplaceAll", ReplaceAll);
   measure("UndoReplaceAll", &Desk::ReplaceAll, &Desk::UndoAll, 1);
   measure("BoldAll", nullptr, &Desk::MakeBold, 1);
   measure("UndoBoldAll", &Desk::MakeBold, &Desk::UndoAll, 1);
   add("SearchFolded", Search, SearchOptions{});
   add("SearchExact", Search, SearchOptions{.matchCase = true});
-  add("Memory", Memory);
 }
 
 const bool kRegistered = (ForEachNote(Register), true);

@@ -1,8 +1,8 @@
 // Commands over a whole note: search and replace on 10 MB, the clean-up of a scanned page.
 #include <benchmark/benchmark.h>
-#include <string>
 
 #include "Notes.h"
+#include "ScannedPage.h"
 #include "backends/headless/FixedBreaker.h"
 #include "base/Strings.h"
 #include "ocr/Cleanup.h"
@@ -15,9 +15,6 @@ namespace {
 
 constexpr int kLargeNote = 10'000'000;  // bytes of RTF
 constexpr int kMatches = 100;
-constexpr int kPairs = 500;
-constexpr std::size_t kPage = 29'000;  // characters
-constexpr std::u16string_view kList = u"C:\\ListCorr.txt";
 
 struct Desk {
   MemoryClipboard clipboard;
@@ -57,24 +54,14 @@ void ReplaceAll(benchmark::State& state) {
   }
 }
 
-/// A page with a wrong word in every line, a list that mends them all.
 void CleanUp(benchmark::State& state) {
-  std::string list;
-  std::u16string page;
-  for (int pair = 0; pair < kPairs; ++pair) {
-    const std::string number = std::to_string(1000 + pair);
-    list += "rnot" + number + "=:=mot" + number + "\r\n";
-  }
-  for (int line = 0; page.size() < kPage; ++line)
-    page += u"le rnot" + FromUtf8(std::to_string(1000 + line * 7 % kPairs)) +
-            u" ,est  ici;la plante,verte.\r\n";
   for (auto _ : state) {
     state.PauseTiming();
     Desk desk;
-    desk.files.Write(kList, list);
-    desk.surface.Text(page);
+    desk.files.Write(kCorrectionsPath, Corrections());
+    desk.surface.Text(ScannedPage());
     state.ResumeTiming();
-    NettoyerTexte(desk.surface, desk.files, kList);
+    NettoyerTexte(desk.surface, desk.files, kCorrectionsPath);
   }
 }
 

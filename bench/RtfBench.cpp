@@ -1,9 +1,9 @@
-// Loading and saving notes as RTF, beside a bare scan of the same bytes: the limit to measure
-// against.
+// Loading and saving notes as RTF, beside a bare scan of the same bytes; what a loaded note holds.
 #include <benchmark/benchmark.h>
-#include <cstring>
+#include <malloc.h>
 #include <string>
 
+#include "Limits.h"
 #include "Notes.h"
 #include "rtf/Reader.h"
 #include "rtf/Writer.h"
@@ -15,18 +15,14 @@ void CountBytes(benchmark::State& state, std::size_t bytes) {
   state.SetBytesProcessed(static_cast<std::int64_t>(bytes) * state.iterations());
 }
 
-/// Finds every backslash.
 void ScanRtf(benchmark::State& state, NoteShape shape, int bytes) {
   const std::string& rtf = RtfNote(shape, bytes);
-  const char* const end = rtf.data() + rtf.size();
-  for (auto _ : state) {
-    std::size_t count = 0;
-    for (const char* at = rtf.data(); at != nullptr; ++count) {
-      at = static_cast<const char*>(std::memchr(at, '\\', static_cast<std::size_t>(end - at)));
-      if (at != nullptr) ++at;
-    }
-    benchmark::DoNotOptimize(count);
-  }
+  for (auto _ : state) benchmark::DoNotOptimize(CountBackslashes(rtf));
+  CountBytes(state, rtf.size());
+}
+
+void CompareWithScan(benchmark::State& state, const std::string& rtf) {
+  CompareWith(state, [&] { benchmark::DoNotOptimize(CountBackslashes(rtf)); });
   CountBytes(state, rtf.size());
 }
 
@@ -36,7 +32,22 @@ void LoadRtf(benchmark::State& state, NoteShape shape, int bytes) {
     FormatTables formats;
     benchmark::DoNotOptimize(ReadRtf(rtf, formats, RtfTarget::Document));
   }
-  CountBytes(state, rtf.size());
+  CompareWithScan(state, rtf);
+}
+
+std::size_t BytesInUse() {
+  const struct mallinfo2 heap = mallinfo2();
+  return heap.uordblks + heap.hblkhd;
+}
+
+void Memory(benchmark::State& state, NoteShape shape, int bytes) {
+  const std::string& rtf = RtfNote(shape, bytes);
+  for (auto _ : state) {
+    const std::size_t before = BytesInUse();
+    FormatTables formats;
+    const Fragment note = ReadRtf(rtf, formats, RtfTarget::Document);
+    state.counters["B/char"] = static_cast<double>(BytesInUse() - before) / note.Length();
+  }
 }
 
 void SaveRtf(benchmark::State& state, NoteShape shape, int bytes) {
@@ -46,7 +57,7 @@ void SaveRtf(benchmark::State& state, NoteShape shape, int bytes) {
     rtf.clear();
     WriteRtf(document, [&](std::string_view piece) { rtf += piece; });
   }
-  CountBytes(state, rtf.size());
+  CompareWithScan(state, rtf);
 }
 
 void Register(NoteShape shape, int bytes, const std::string& note) {
@@ -58,6 +69,7 @@ void Register(NoteShape shape, int bytes, const std::string& note) {
   add("ScanRtf", ScanRtf);
   add("LoadRtf", LoadRtf);
   add("SaveRtf", SaveRtf);
+  add("Memory", Memory);
 }
 
 const bool kRegistered = (ForEachNote(Register), true);
