@@ -30,9 +30,9 @@ std::optional<Position> CaretMotion::Target(const KeyStroke& key) {
     case KeyName::Right:
       return key.control ? NextWord(document, caret) : RightOf(key.shift);
     case KeyName::Home:
-      return key.control ? 0 : core_.Lines().LineAt(caret).start;
+      return key.control ? 0 : LineAt(caret).start;
     case KeyName::End:
-      return key.control ? document.Length() : LastCaret(document, core_.Lines().LineAt(caret));
+      return key.control ? document.Length() : LastCaret(document, LineAt(caret));
     case KeyName::Up:
       return PreviousParagraph(document, caret);
     case KeyName::Down:
@@ -61,6 +61,13 @@ int CaretMotion::LinesOf(const KeyStroke& key) const {
   }
 }
 
+// The user goes by the lines seen, which cost nothing more; without a view, by the line table's.
+Line CaretMotion::LineAt(Position position) const {
+  std::optional<Line> shown;
+  if (core_.View()) shown = core_.View()->ShownLine(position);
+  return shown ? *shown : core_.Lines().LineAt(position);
+}
+
 Position CaretMotion::LeftOf(bool extend) const {
   if (core_.HasSelection() && !extend) return core_.Selected().start;
   return core_.Content().Before(std::max(core_.Caret() - 1, 0));
@@ -74,12 +81,12 @@ Position CaretMotion::RightOf(bool extend) const {
 
 Position CaretMotion::Vertically(int lines) {
   const Document& document = core_.Content();
-  const Line from = core_.Lines().LineAt(core_.Caret());
+  const Line from = LineAt(core_.Caret());
   if (!goal_ || goalCaret_ != core_.Caret())
     goal_ = breaker_.XOf(document, from.start, core_.Caret());
   Line to = from;
-  for (; lines < 0 && to.start > 0; ++lines) to = core_.Lines().LineBefore(to.start);
-  for (; lines > 0 && to.next >= 0; --lines) to = core_.Lines().LineAt(to.next);
+  for (; lines < 0 && to.start > 0; ++lines) to = LineAt(to.start - 1);
+  for (; lines > 0 && to.next >= 0; --lines) to = LineAt(to.next);
   goalCaret_ = to == from ? core_.Caret()
                           : breaker_.AtX(document, to.start, LastCaret(document, to), *goal_);
   return goalCaret_;

@@ -19,6 +19,7 @@ class CaretMotion {
  private:
   Position LeftOf(bool extend) const;
   Position RightOf(bool extend) const;
+  Line LineAt(Position position) const;
   int LinesOf(const KeyStroke& key) const;
   Position Vertically(int lines);
 

@@ -1,5 +1,8 @@
 // What a surface tells the view that shows it.
 #pragma once
+#include <optional>
+
+#include "document/LineTable.h"
 #include "document/Undo.h"
 
 namespace lumenote {
@@ -20,6 +23,10 @@ class SurfaceView {
   virtual void RevealCaret() = 0;
   /// How many lines a page key moves.
   virtual int LinesPerPage() const = 0;
+  /// The line that holds `position`, as the view shows it or would; empty when the view has no
+  /// lines of its own. Far inside a very long paragraph a view need not begin lines where a layout
+  /// of the whole paragraph would.
+  virtual std::optional<Line> ShownLine(Position) { return std::nullopt; }
 };
 
 }  // namespace lumenote

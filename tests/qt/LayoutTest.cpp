@@ -38,6 +38,9 @@ TEST_P(LayoutAgreement, OfViewAndLineTable) {
   LayoutCache cache(test.surface.Content(), test.layouter);
   EXPECT_EQ(LineStarts(cache), LineStarts(test.surface.Lines()));
   EXPECT_GT(LineStarts(cache).size(), 1u);
+  TextPane pane(test.surface, test.layouter);
+  for (const Position start : LineStarts(cache))
+    EXPECT_EQ(pane.ShownLine(start), test.surface.Lines().LineAt(start)) << start;
 }
 
 const std::u16string kWords = Words(700);

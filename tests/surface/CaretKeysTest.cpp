@@ -85,6 +85,22 @@ TEST(CaretKeys, UpAndDown) {
   for (const KeyRow row : kRows) Check(row);
 }
 
+// The breaker's lines would have fifteen characters; the view's have four.
+TEST(CaretKeys, FollowTheLinesThatAreShown) {
+  UserBench bench;
+  bench.Put(u"aaaabbbbccccdd|ddeeee");
+  bench.view.shownLine = [](Position at) {
+    const Position start = std::min(at, 16) / 4 * 4;
+    return Line{start, start + 4, start < 16 ? start + 4 : -1};
+  };
+  EXPECT_TRUE(bench.Press(u"Up"));
+  EXPECT_EQ(bench.Shown(), u"aaaabbbbcc|ccddddeeee");
+  EXPECT_TRUE(bench.Press(u"PageDown"));
+  EXPECT_EQ(bench.Shown(), u"aaaabbbbccccddddee|ee");
+  EXPECT_TRUE(bench.Press(u"PageUp Shift+Home"));
+  EXPECT_EQ(bench.Shown(), u"aaaa|bb^bbccccddddeeee");
+}
+
 TEST(EditingKeys, EditTheText) {
   static constexpr KeyRow kRows[] = {u"ab|c > BackSpace > a|c",
                                      u"a¶|b > BackSpace > a|b",

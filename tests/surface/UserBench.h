@@ -14,12 +14,16 @@ struct ViewLog final : SurfaceView {
   int selections = 0;
   int widths = 0;
   int reveals = 0;
+  Line (*shownLine)(Position) = nullptr;  // lines of its own
 
   void DocumentChanged(const DocumentChange& change) override { changes.push_back(change); }
   void SelectionChanged() override { ++selections; }
   void WrapWidthChanged() override { ++widths; }
   void RevealCaret() override { ++reveals; }
   int LinesPerPage() const override { return 3; }
+  std::optional<Line> ShownLine(Position position) override {
+    return shownLine ? std::optional(shownLine(position)) : std::nullopt;
+  }
 };
 
 /// Lines of fifteen characters of ten points, pages of three lines.

@@ -93,6 +93,7 @@ class RichTextView : public QAbstractScrollArea, private SurfaceView {
   void WrapWidthChanged() override;
   void RevealCaret() override;
   int LinesPerPage() const override;
+  std::optional<Line> ShownLine(Position position) override { return pane_.ShownLine(position); }
 
   void SettleSoon();
   void OfferSelection();

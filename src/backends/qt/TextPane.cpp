@@ -66,6 +66,17 @@ Position TextPane::CharacterAt(QPointF point) {
   return spot.piece->CharacterAt(spot.line, point.x() - TextLeft());
 }
 
+Line TextPane::ShownLine(Position position) {
+  const Position length = Content().Length();
+  const Piece& piece = cache_.At(std::clamp(position, 0, length));
+  const int line = piece.LineOf(std::min(position, piece.to));
+  const Position start = piece.LineStart(line);
+  const bool last = line + 1 == std::ssize(piece.lines);
+  if (last && piece.closes) return {start, piece.to, piece.to < length ? piece.to + 2 : -1};
+  const Position next = last ? piece.to : piece.LineStart(line + 1);
+  return {start, Content().At(next - 1) == u'\v' ? next - 1 : next, next};
+}
+
 std::optional<QRectF> TextPane::LineAt(Position position) {
   const Piece& piece = cache_.At(position);
   const std::optional<double> y = scroll_.YNear(piece);

@@ -46,6 +46,8 @@ class TextPane {
   Position CharacterAt(QPointF point);
   /// The line that holds a position, as wide as the pane; empty unless it is in the pane or near.
   std::optional<QRectF> LineAt(Position position);
+  /// The line of the text that holds a position, wherever that is.
+  Line ShownLine(Position position);
   /// The caret at a position, in the height of what would be typed there; empty as above.
   std::optional<QRectF> CaretAt(Position position);
   /// The part of the lines `from`..`to` that is in the pane.
