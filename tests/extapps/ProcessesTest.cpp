@@ -17,6 +17,19 @@
 namespace lumenote {
 namespace {
 
+/// A desktop on which every process that it knows has a window.
+struct FakeWindows : ProgramWindows {
+  bool AskToClose(const std::vector<pid_t>& processes) override {
+    asked += processes.size();
+    return hasWindows;
+  }
+  bool Show(std::string_view text) const override { return text == title; }
+
+  bool hasWindows = true;
+  std::size_t asked = 0;
+  std::string title;
+};
+
 class ProcessesTest : public SandboxTest {
  protected:
   void Script(const std::string& name, const std::string& lines) {
@@ -78,6 +91,52 @@ TEST_F(ProcessesTest, OnlyTheProgramItselfIsEnded) {
   EXPECT_TRUE(processes.IsRunning(other));
   processes.Terminate(u"C:\\b.exe");
   EXPECT_TRUE(EndsSoon(other));
+}
+
+TEST_F(ProcessesTest, OtherScriptsOfTheInterpreterAreLeftAlone) {
+  Script("a.exe", "while :; do sleep 0.02; done\n");
+  std::filesystem::copy_file(Native("a.exe"), Native("b.exe"));
+  PosixProcesses another(drives_);
+  const ProcessId foreign = another.Start(u"C:\\a.exe");
+  const ProcessId other = another.Start(u"C:\\b.exe");
+  const ProcessId own = processes.Start(u"C:\\a.exe");
+  EXPECT_FALSE(processes.Terminate(u"C:\\a.exe"));
+  EXPECT_TRUE(EndsSoon(own));
+  EXPECT_TRUE(another.IsRunning(foreign) && another.IsRunning(other));
+  another.Terminate(u"C:\\a.exe");
+  another.Terminate(u"C:\\b.exe");
+  EXPECT_TRUE(Soon([&] { return !another.IsRunning(foreign) && !another.IsRunning(other); }));
+}
+
+TEST_F(ProcessesTest, AProgramWithWindowsIsAskedThroughThem) {
+  FakeWindows windows;
+  PosixProcesses desktop(drives_, &windows);
+  std::filesystem::copy_file("/bin/sleep", Native("a.exe"));
+  const ProcessId own = desktop.Start(u"C:\\a.exe 60");
+  const ProcessId foreign = processes.Start(u"C:\\a.exe 60");
+  EXPECT_TRUE(Soon([&] {  // the copy of this process has become the program
+    windows.asked = 0;
+    desktop.Terminate(u"C:\\a.exe");
+    return windows.asked == 2;
+  }));
+  EXPECT_TRUE(desktop.IsRunning(own) && processes.IsRunning(foreign));
+  EXPECT_TRUE(desktop.Lingering(u"C:\\a.exe"));
+  windows.hasWindows = false;
+  EXPECT_FALSE(desktop.Terminate(u"C:\\a.exe"));
+  EXPECT_TRUE(Soon([&] { return !desktop.IsRunning(own) && !processes.IsRunning(foreign); }));
+}
+
+TEST_F(ProcessesTest, AFileThatWasHandedOverIsWaitedFor) {
+  FakeWindows windows;
+  PosixProcesses desktop(drives_, &windows);
+  Script("p.exe", "exit 0\n");
+  const ProcessId process = desktop.Start(u"C:\\p.exe \"C:\\Temp\\Sav a.rtf\"");
+  windows.title = "Sav a.rtf";
+  std::this_thread::sleep_for(std::chrono::milliseconds(2500));
+  EXPECT_TRUE(desktop.IsRunning(process));
+  EXPECT_TRUE(desktop.HoldsFiles());
+  windows.title.clear();
+  EXPECT_TRUE(Soon([&] { return !desktop.IsRunning(process); }));
 }
 
 TEST_F(ProcessesTest, AProgramThatRefusesLingers) {

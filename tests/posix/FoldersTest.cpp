@@ -1,4 +1,7 @@
 // The special folders.
+#include <chrono>
+#include <fstream>
+
 #include "Sandbox.h"
 #include "backends/posix/PosixFolders.h"
 #include "backends/posix/UserFolders.h"
@@ -25,6 +28,31 @@ TEST_F(FoldersTest, TempIsPrivateAndGoes) {
     std::filesystem::create_directories(native + "sub");
   }
   EXPECT_FALSE(std::filesystem::exists(native));
+}
+
+TEST_F(FoldersTest, WhatWasKeptGoesAWeekAfterItsLastChange) {
+  const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
+  using std::filesystem::file_time_type;
+  const auto age = [](const std::string& path) {
+    std::filesystem::last_write_time(path, file_time_type::clock::now() - std::chrono::hours(170));
+  };
+  std::string kept;
+  {
+    TemporaryFolder folder;
+    folder.Keep();
+    kept = folder.Path();
+    std::ofstream(kept + "/Sava.rtf") << "x";
+    age(kept);
+    const TemporaryFolder owned;
+    age(owned.Path());
+    const TemporaryFolder other;
+    EXPECT_TRUE(std::filesystem::exists(owned.Path()));
+  }
+  { const TemporaryFolder another; }
+  EXPECT_TRUE(std::filesystem::exists(kept + "/Sava.rtf"));
+  age(kept + "/Sava.rtf");
+  const TemporaryFolder next;
+  EXPECT_FALSE(std::filesystem::exists(kept));
 }
 
 TEST_F(FoldersTest, AnUnusableTempVariableIsPassedOver) {

@@ -10,13 +10,16 @@
 namespace lumenote {
 
 /// The temporary folder belongs to this object alone: two never meet in one file, and it is removed
-/// with what is left in it at the end.
+/// with what is left in it at the end, unless it is kept.
 class PosixFolders : public Folders {
  public:
   explicit PosixFolders(DrivePaths drives) : drives_(std::move(drives)) {}
 
   std::u16string Documents() const override;
   std::u16string Temp() const override;
+
+  /// Leaves the temporary folder behind at the end, for a program that still works in it.
+  void KeepTemp() { temp_.Keep(); }
 
  private:
   DrivePaths drives_;

@@ -1,21 +1,25 @@
 // Programs of a POSIX system, addressed by drive-letter paths.
 #pragma once
+#include <map>
 #include <string>
 #include <sys/types.h>
 #include <utility>
 #include <vector>
 
 #include "backends/posix/DrivePaths.h"
+#include "backends/posix/ProgramWindows.h"
+#include "backends/posix/StartedProgram.h"
 #include "platform/Processes.h"
 
 namespace lumenote {
 
-/// Every program leads a process group of its own and counts as running while any process of the
-/// group does, so that one which hands over to another and returns has not ended. Programs outlive
-/// this object; what it started is collected at every call, so that none stays behind as a zombie.
+/// Programs outlive this object; what it started is collected at every call, so that none stays
+/// behind as a zombie.
 class PosixProcesses : public Processes {
  public:
-  explicit PosixProcesses(DrivePaths drives) : drives_(std::move(drives)) {}
+  /// `windows` outlives it; null where the desktop does not tell.
+  explicit PosixProcesses(DrivePaths drives, ProgramWindows* windows = nullptr)
+      : drives_(std::move(drives)), windows_(windows) {}
   PosixProcesses(const PosixProcesses&) = delete;
   PosixProcesses& operator=(const PosixProcesses&) = delete;
   ~PosixProcesses() override { Collect(); }
@@ -24,7 +28,8 @@ class PosixProcesses : public Processes {
   /// switch is left out: it means nothing to a program of this system.
   ProcessId Start(std::u16string_view commandLine) override;
   bool IsRunning(ProcessId process) override;
-  /// With the signal that a program may heed in its own way.
+  /// Through its windows a program that has some, which may ask its user first; any other with the
+  /// signal that it may heed in its own way.
   std::optional<SystemError> Terminate(std::u16string_view path) override;
   std::optional<SystemError> Lingering(std::u16string_view path) override;
 
@@ -32,20 +37,16 @@ class PosixProcesses : public Processes {
   void Collect();
   /// Whether nothing that was started still runs, as far as noticed.
   bool Idle() const { return started_.empty(); }
+  /// Whether a program that was given a file still runs.
+  bool HoldsFiles();
 
  private:
-  struct Started {
-    ProcessId id;
-    pid_t leader;
-    std::string program;  // native path, as it was started
-    bool leaderEnded = false;
-  };
-
-  /// Programs of `native` whose leader still runs; its number is nobody else's until then.
-  std::vector<pid_t> OwnLeaders(const std::string& native) const;
+  /// What runs of the program at `native`, by process group.
+  std::map<pid_t, std::vector<pid_t>> InstancesOf(const std::string& native) const;
 
   DrivePaths drives_;
-  std::vector<Started> started_;  // until the whole group has ended
+  ProgramWindows* windows_;
+  std::vector<StartedProgram> started_;  // until nothing of them is left
   ProcessId last_ = 0;
 };
 

@@ -69,21 +69,31 @@ std::vector<ProcessEntry> RunningProcesses() {
   return entries;
 }
 
-bool IsGroupRunning(pid_t group) {
+bool IsGroupRunning(pid_t group, pid_t& member) {
   if (kill(-group, 0) != 0 && errno == ESRCH) return false;
+  const auto known = member == 0 ? std::nullopt : ReadEntry(member);
+  if (known && known->group == group) return true;
   const std::vector<ProcessEntry> entries = RunningProcesses();
-  return entries.empty() ||
-         std::any_of(entries.begin(), entries.end(),
-                     [&](const ProcessEntry& entry) { return entry.group == group; });
+  const auto found = std::find_if(entries.begin(), entries.end(),
+                                  [&](const ProcessEntry& entry) { return entry.group == group; });
+  if (found == entries.end()) return entries.empty();
+  member = found->id;
+  return true;
 }
 
-std::vector<pid_t> ProcessesOf(const std::string& native) {
+std::vector<pid_t> ProcessesOfGroup(pid_t group) {
   std::vector<pid_t> found;
+  for (const ProcessEntry& entry : RunningProcesses())
+    if (entry.group == group) found.push_back(entry.id);
+  return found;
+}
+
+std::vector<ProcessEntry> ProcessesOf(const std::string& native) {
+  std::vector<ProcessEntry> found;
   for (const ProcessEntry& entry : RunningProcesses()) {
     std::error_code error;
     const bool same = fs::equivalent(FolderOf(entry.id) + "/exe", native, error);
-    if (same && !error && entry.id != getpid() && BelongsToUser(entry.id))
-      found.push_back(entry.id);
+    if (same && !error && entry.id != getpid() && BelongsToUser(entry.id)) found.push_back(entry);
   }
   return found;
 }

@@ -15,10 +15,12 @@ struct ProcessEntry {
 /// The processes of the system; empty where it does not tell.
 std::vector<ProcessEntry> RunningProcesses();
 /// Whether any process of the group has not ended. Those that have, and wait for their parent to
-/// notice, do not count.
-bool IsGroupRunning(pid_t group);
+/// notice, do not count. `member`, 0 at first, remembers one that runs: as long as it does the
+/// others are not looked at.
+bool IsGroupRunning(pid_t group, pid_t& member);
+std::vector<pid_t> ProcessesOfGroup(pid_t group);
 /// This user's processes, but for this one, whose executable is exactly the file at `native`, links
-/// followed.
-std::vector<pid_t> ProcessesOf(const std::string& native);
+/// followed. A script's executable is its interpreter, so no script is ever among them.
+std::vector<ProcessEntry> ProcessesOf(const std::string& native);
 
 }  // namespace lumenote

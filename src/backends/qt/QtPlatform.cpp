@@ -16,6 +16,7 @@
 #include "backends/qt/QtClipboard.h"
 #include "backends/qt/QtFonts.h"
 #include "backends/qt/Shot.h"
+#include "backends/qt/X11Windows.h"
 #include "forms/Form.h"
 
 namespace lumenote {
@@ -45,7 +46,8 @@ class OwnApplication {
 /// Programs that nobody asks after are collected from time to time, lest they stay as zombies.
 class CollectedProcesses final : public PosixProcesses {
  public:
-  explicit CollectedProcesses(DrivePaths drives) : PosixProcesses(std::move(drives)) {
+  CollectedProcesses(DrivePaths drives, ProgramWindows& windows)
+      : PosixProcesses(std::move(drives), &windows) {
     QObject::connect(&timer_, &QTimer::timeout, [this] {
       Collect();
       if (Idle()) timer_.stop();
@@ -76,7 +78,12 @@ struct QtPlatform::Parts {
   PosixFolders folders{drives};
   IniRegistry registry;
   PosixProgramFolders programFolders{drives};
-  CollectedProcesses programs{drives};
+  X11Windows programWindows;
+  CollectedProcesses programs{drives, programWindows};
+
+  ~Parts() {
+    if (programs.HoldsFiles()) folders.KeepTemp();
+  }
 };
 
 QtPlatform::QtPlatform() : parts_(std::make_unique<Parts>()) {}
