@@ -33,6 +33,8 @@ constexpr std::array kToTerminate{Program::Qjot, Program::WinWord, Program::Atla
 
 const Editor& EditorOf(std::int32_t type) { return kEditors[static_cast<std::size_t>(type) - 1]; }
 
+constexpr int kPatience = 5000 / RoundTrip::kInterval;  // ticks for programs to end
+
 // The states that do something; those between them let time pass.
 enum State : std::int16_t {
   kTerminate = 1,
@@ -91,12 +93,12 @@ void RoundTrip::TimerWpd_Timer() {
     case kTerminate:
       return TerminateInstances();
     case kPrepare:
-      return PrepareWorkFile();
+      return AwaitInstances();
     case kWrite:
       return WriteNote();
     case kTakeTime:
       IgnoringErrors([&] { workTime_ = TimeOfWorkFile(); });
-      return ReportLingering();
+      return;
     case kStart:
       return StartProgram();
     case kPoll:
@@ -114,6 +116,7 @@ void RoundTrip::TimerWpd_Timer() {
 }
 
 void RoundTrip::TerminateInstances() {
+  patience_ = kPatience;
   for (const Program program : kToTerminate) TuerParNom(program);
 }
 
@@ -129,13 +132,25 @@ void RoundTrip::Report(const SystemError& error) {
                    .icon = MessageBox::Icon::Critical});
 }
 
-/// A program is asked to end and given the pause before the start to do so.
-void RoundTrip::ReportLingering() {
+std::optional<SystemError> RoundTrip::Lingering() {
   for (const Program program : kToTerminate) {
     const std::u16string& path = programs_.Path(program);
     const auto error = path.empty() ? std::nullopt : processes_.Lingering(path);
-    if (error) Report(*error);
+    if (error) return error;
   }
+  return std::nullopt;
+}
+
+/// A program that was asked to end may first write its files, or ask its user. The work file must
+/// not be there yet, lest it write that.
+void RoundTrip::AwaitInstances() {
+  const auto error = Lingering();
+  if (error && patience_-- > 0) {
+    state_ = kTerminate;
+    return;
+  }
+  PrepareWorkFile();
+  if (error) Report(*error);
 }
 
 void RoundTrip::PrepareWorkFile() {
@@ -172,12 +187,16 @@ std::u16string RoundTrip::CommandLine() const {
 void RoundTrip::StartProgram() {
   process_ = 0;
   if (!Disk().Exists(workFile_)) {
-    editor_.AskOver({.text = u"Erreur fichier temporaire", .icon = MessageBox::Icon::Critical});
+    ReportWorkFile();
     state_ = kFinish;
     return;
   }
   editor_.SuspendreDessus();
   process_ = processes_.Start(CommandLine());
+}
+
+void RoundTrip::ReportWorkFile() {
+  editor_.AskOver({.text = u"Erreur fichier temporaire", .icon = MessageBox::Icon::Critical});
 }
 
 // --- the way back
@@ -192,6 +211,7 @@ void RoundTrip::BringBack() {
   });
   const std::u16string result = TrouverRetour(files, workFile_);
   if (result.empty()) return;
+  if (!EstEntier(files, result)) return ReportWorkFile();
   workFile_ = result;
   const std::u16string extension = result.substr(result.size() - 3);
   const std::u16string target =

@@ -1,6 +1,7 @@
 // Editing the note in an external program: out to a work file, and back when the program has ended.
 #pragma once
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,8 +25,9 @@ class RoundTripDesk {
 
 /// One exchange at a time, carried forward by the ticks of a timer; nothing here waits. At every
 /// moment the note is on the disk, in the surface, or in both: it is written before the program
-/// starts, only what the program saved replaces it, and at once or not at all, and the surface is
-/// loaded again only from a file that holds the note. Failing file operations are passed over.
+/// starts, only what the program saved whole replaces it, and at once or not at all, and the
+/// surface is loaded again only from a file that holds the note. Failing file operations are passed
+/// over.
 class RoundTrip {
  public:
   static constexpr int kInterval = 20;  // milliseconds between two ticks
@@ -69,10 +71,13 @@ class RoundTrip {
   /// Asks what runs of that program to end; a failure is told to the user.
   void TuerParNom(Program program);
   void Report(const SystemError& error);
-  void ReportLingering();
+  /// An error while one of the programs that were asked to end goes on running.
+  std::optional<SystemError> Lingering();
+  void AwaitInstances();
   void PrepareWorkFile();
   void WriteNote();
   void StartProgram();
+  void ReportWorkFile();
   void BringBack();
   void Finish();
 
@@ -88,6 +93,7 @@ class RoundTrip {
 
   std::int32_t type_ = 0;
   std::int16_t state_ = 0;
+  int patience_ = 0;
   std::u16string workFile_;
   std::u16string workTime_;
   ProcessId process_ = 0;

@@ -1,9 +1,12 @@
 #include "extapps/WorkCopies.h"
 
+#include <string>
+
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "rtf/Reader.h"
 
 namespace lumenote {
 
@@ -35,6 +38,18 @@ std::u16string TrouverRetour(const Files& files, std::u16string_view workFile) {
     if (files.Exists(path)) return path;
   }
   return {};
+}
+
+bool EstEntier(const Files& files, std::u16string_view path) {
+  bool whole = false;
+  IgnoringErrors([&] {
+    const std::string bytes = files.ReadAll(path);
+    constexpr std::string_view kBehindTheEnd("\r\n \t\0", 5);
+    const std::size_t last = bytes.find_last_not_of(kBehindTheEnd);
+    whole = !path.ends_with(u".rtf") ||
+            (LooksLikeRtf(bytes) && last != std::string::npos && bytes[last] == '}');
+  });
+  return whole;
 }
 
 void Remplacer(Files& files, std::u16string_view from, std::u16string_view to) {

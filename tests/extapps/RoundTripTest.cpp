@@ -10,8 +10,8 @@
 #include "editor/DocumentStorage.h"
 #include "extapps/OcrLaunch.h"
 #include "extapps/RoundTrip.h"
-#include "forms/Platform.h"
 #include "pilot/PilotBackend.h"
+#include "pilot/PilotPlatform.h"
 #include "pilot/ReportedFonts.h"
 
 namespace lumenote {
@@ -22,18 +22,21 @@ const std::u16string kAtlantisPath = u"C:\\Program Files\\Atlantis Nova\\Atlanti
 const std::u16string kWordPath = u"C:\\Program Files\\Microsoft\\Office11\\WinWord.exe";
 using Texts = std::vector<std::u16string>;
 
-class RoundTripTest : public testing::Test, public Platform, public RoundTripDesk {
- protected:
-  Backend& Windows() override { return backend; }
-  Settings& UserSettings() override { return sandbox.UserSettings(); }
-  Files& FileSystem() override { return sandbox.FileSystem(); }
-  Folders& SpecialFolders() override { return sandbox.SpecialFolders(); }
-  Clipboard& SystemClipboard() override { return sandbox.SystemClipboard(); }
-  const Fonts& SystemFonts() override { return fonts; }
-  const Registry& MachineRegistry() override { return sandbox.MachineRegistry(); }
-  const ProgramFolders& InstalledPrograms() override { return sandbox.InstalledPrograms(); }
-  Processes& Programs() override { return sandbox.Programs(); }
+/// A program that goes on whatever it is asked.
+struct Stubborn : Processes {
+  ProcessId Start(std::u16string_view) override { return ++started; }
+  bool IsRunning(ProcessId) override { return true; }
+  std::optional<SystemError> Terminate(std::u16string_view) override { return std::nullopt; }
+  std::optional<SystemError> Lingering(std::u16string_view path) override {
+    if (path != kAtlantisPath) return std::nullopt;
+    return SystemError{110, u"too late"};
+  }
 
+  int started = 0;
+};
+
+class RoundTripTest : public testing::Test, public RoundTripDesk {
+ protected:
   void Watch(bool on) override { watching = on; }
   void Reload() override {
     ++reloads;
@@ -54,7 +57,7 @@ class RoundTripTest : public testing::Test, public Platform, public RoundTripDes
     control.pStrOrchm(path);
     control.ShowMicroEdit();
     programs = ChercherApplis(
-        {disk, SpecialFolders(), sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
+        {disk, sandbox.SpecialFolders(), sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
     exchange.emplace(Editor(), *this, programs, sandbox.Programs());
   }
   Co_Rtf& Editor() { return control.Parts().editor.Get(); }
@@ -83,7 +86,8 @@ class RoundTripTest : public testing::Test, public Platform, public RoundTripDes
   HeadlessBackend inner;
   PilotBackend backend{inner};
   ReportedFonts fonts;
-  CoBxRtf control{*this};
+  PilotPlatform platform{sandbox, backend, fonts};
+  CoBxRtf control{platform};
   ProgramTable programs;
   std::optional<RoundTrip> exchange;  // of the window that is open
   bool watching = false;
@@ -96,9 +100,7 @@ TEST_F(RoundTripTest, EachStateDoesItsPart) {
   disk.Write(u"C:\\Temp\\Sava.rtf", "old");
   disk.Write(u"C:\\Documents\\SavNotes.doc", "old");
   exchange->mnuPopQjot_Click();
-  EXPECT_EQ(exchange->EtatWpd(), 0);
   Tick(2);
-  EXPECT_EQ(exchange->FichierTravail(), u"C:\\Temp\\Sava.txt");
   EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.rtf"));
   EXPECT_FALSE(disk.Exists(u"C:\\Documents\\SavNotes.doc"));
   EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
@@ -109,13 +111,10 @@ TEST_F(RoundTripTest, EachStateDoesItsPart) {
   EXPECT_NE(exchange->DateTravail(), u"");
   EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts());
   Tick(1);
-  EXPECT_EQ(sandbox.Programs().TakeStarted(),
-            Texts{u"\"" + kQjotPath + u"\" \"C:\\Temp\\Sava.txt\""});
   EXPECT_FALSE(Values().onTop);
   FinishAfter();
   EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.txt"));
   EXPECT_EQ(Editor().Document().Text(), u"apr\u00E8s");
-  EXPECT_EQ(Values().documentPath, u"C:\\n\\a.txt");
   EXPECT_EQ(reloads, 1);
   EXPECT_TRUE(Values().onTop);
 }
@@ -145,27 +144,42 @@ TEST_F(RoundTripTest, WhatTheProgramSavedComesBack) {
   }
 }
 
-TEST_F(RoundTripTest, AnotherFormatChangesTheDocumentsPath) {
+TEST_F(RoundTripTest, BeginningAgainEndsTheProgramThatRuns) {
   Open(u"C:\\n\\a.txt");
-  exchange->mnuPopQjot_Click();
-  FinishAfter([&] { disk.Write(u"C:\\Program Files\\qjot\\SavNotes.Rtf", "{\\rtf1 \\b retour}"); });
-  EXPECT_EQ(Values().documentPath, u"C:\\n\\a.rtf");
-  EXPECT_EQ(Values().format, u"rtf");
-  EXPECT_EQ(Editor().Document().Text(), u"retour");
-  EXPECT_EQ(exchange->FichierTravail(), u"C:\\Temp\\Sava.rtf");
-  EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.rtf"));
+  exchange->mnuPopMSWord_Click();
+  Tick(20);
+  exchange->mnuPopMSWord_Click();
+  Tick(20);
+  EXPECT_EQ(sandbox.Programs().TakeStarted().size(), 2U);
+  EXPECT_EQ(sandbox.Programs().TakeKilled(), Texts{kWordPath});
 }
 
-TEST_F(RoundTripTest, WordGetsTheTemplate) {
+TEST_F(RoundTripTest, AProgramThatGoesOnIsWaitedForThenReported) {
+  Stubborn stubborn;
   Open(u"C:\\n\\a.txt");
-  const std::u16string start = u"\"" + kWordPath + u"\" \"C:\\Temp\\Sava.txt\" /l\"";
-  exchange->mnuPopMSWord_Click();
-  Tick(20);
-  control.pModelWord(u"C:\\\\m.dot");
-  exchange->mnuPopMSWord_Click();
-  Tick(20);
-  EXPECT_EQ(sandbox.Programs().TakeStarted(), (Texts{start + u"\"", start + u"C:\\m.dot\""}));
-  EXPECT_EQ(sandbox.Programs().TakeKilled(), Texts{kWordPath});
+  exchange.emplace(Editor(), *this, programs, stubborn);
+  exchange->mnuPopQjot_Click();
+  Tick(250);
+  EXPECT_EQ(BoxTexts(), Texts());
+  EXPECT_EQ(exchange->FichierTravail(), u"");
+  Tick(290);
+  EXPECT_EQ(BoxTexts(), Texts{u"Destruction Windows Erreur : Error #110 too late"});
+  EXPECT_EQ(stubborn.started, 1);
+  EXPECT_EQ(exchange->EtatWpd(), 26);
+}
+
+TEST_F(RoundTripTest, AResultThatWasCutOffDoesNotReplaceTheNote) {
+  Open(u"C:\\n\\a.rtf", "{\\rtf1 avant}");
+  for (const std::string_view cut : {"", "{\\rtf1 apr", "texte}"}) {
+    exchange->mnuPopMSWord_Click();
+    FinishAfter([&] {
+      disk.Write(u"C:\\Temp\\Sava.rtf", cut);
+      sandbox.Age(u"C:\\Temp\\Sava.rtf", 10);
+    });
+    EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire"});
+    EXPECT_EQ(Editor().Document().Text(), u"avant");
+    EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.rtf"), cut);
+  }
 }
 
 TEST_F(RoundTripTest, RefusalsNameTheProgram) {
