@@ -20,5 +20,6 @@ BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev libxcb1-dev
   qt6-translations-l10n)
 # Metric-compatible with the fonts that notes name.
 FONT_PACKAGES=(fonts-liberation fonts-dejavu-core fontconfig)
-TEST_PACKAGES=(libgtest-dev python3 xvfb xauth)
+# With abiword (15 MB) a real word processor takes part in the tests too; without it they skip that.
+TEST_PACKAGES=(libgtest-dev python3 xvfb xauth openbox xdotool x11-utils procps)
 CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev)
