@@ -58,7 +58,9 @@ std::optional<Fragment> Document::MapFormats(Position from, Position to, const C
     mapped.leaves.Add(std::move(result));
   }
   if (withMark) {
-    mapped.mark = FinalMark{characterMap(mark_.character), paragraphMap(mark_.paragraph)};
+    mapped.mark = mark_;
+    mapped.mark->character = characterMap(mark_.character);
+    mapped.mark->paragraph = paragraphMap(mark_.paragraph);
     changed |= *mapped.mark != mark_;
   }
   if (!changed) return std::nullopt;

@@ -1,6 +1,11 @@
 #include "document/Formats.h"
 
 namespace lumenote {
+namespace {
+
+std::uint64_t HashOf(const std::string& source) { return HashBytes(source.data(), source.size()); }
+
+}  // namespace
 
 std::uint64_t HashOf(const FontFace& face) {
   const std::uint8_t rest[] = {face.charset, face.family, face.pitch};
@@ -18,8 +23,20 @@ std::uint64_t HashOf(const TabStops& stops) {
   return hash;
 }
 
-std::uint64_t HashOf(const KeptObject& object) {
-  return HashBytes(object.rtf.data(), object.rtf.size());
+std::uint64_t HashOf(const Kept& kept) {
+  const std::uint32_t rest[] = {kept.field, kept.paragraph};
+  return HashOf(kept.before) * 31 + HashOf(kept.instead) + HashBytes(rest, sizeof rest);
+}
+
+std::uint64_t HashOf(const KeptField& field) {
+  const std::uint32_t rest[] = {field.outer, field.serial};
+  return HashOf(field.opening) ^ HashBytes(rest, sizeof rest);
+}
+
+std::uint64_t HashOf(const KeptWords& words) { return HashOf(words.source); }
+
+std::uint64_t HashOf(const KeptHead& head) {
+  return HashOf(head.source) * 31 + HashOf(head.fontTable);
 }
 
 FormatTables::FormatTables() {
@@ -27,7 +44,10 @@ FormatTables::FormatTables() {
   characters.Intern({});
   paragraphs.Intern({});
   tabs.Intern({});
-  objects.Intern({});
+  kept.Intern({});
+  fields.Intern({});
+  words.Intern({});
+  heads.Intern({});
 }
 
 }  // namespace lumenote

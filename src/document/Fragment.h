@@ -8,10 +8,12 @@
 
 namespace lumenote {
 
-/// The hidden mark behind the last paragraph: its formats, which an empty note starts with.
+/// The hidden mark behind the last paragraph: its formats, which an empty note starts with, and
+/// what goes with the note as a whole.
 struct FinalMark {
   CharId character = 0;
   ParaId paragraph = 0;
+  HeadId head = 0;  // of the note's source
   bool operator==(const FinalMark&) const = default;
 };
 

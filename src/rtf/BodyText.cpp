@@ -19,10 +19,6 @@ void BodyText::Break(const FinalMark& formats) {
   started_ = false;
 }
 
-void BodyText::EndParagraph(const FinalMark& formats) {
-  if (started_ || cell_) Break(formats);
-}
-
 void BodyText::Cell(CharId format) {
   if (cell_) Release();
   cell_ = format;
@@ -30,9 +26,8 @@ void BodyText::Cell(CharId format) {
 }
 
 void BodyText::Row(const FinalMark& formats) {
-  const bool holdsText = started_ || cell_;
   cell_.reset();
-  if (holdsText) Break(formats);
+  Break(formats);
 }
 
 Fragment BodyText::Finish(RtfTarget target, const FinalMark& unfinished) {

@@ -21,11 +21,13 @@ class BodyText {
 
   /// Ends the paragraph, whose formats are `formats`.
   void Break(const FinalMark& formats);
-  /// The same, unless nothing stands in the paragraph.
-  void EndParagraph(const FinalMark& formats);
+  /// Whether anything stands in the paragraph or table row at hand.
+  bool Started() const { return started_ || cell_; }
   /// Ends a cell: a tab, if another cell follows in the row.
   void Cell(CharId format);
-  /// Ends a table row: a break, if the row holds anything.
+  /// The cell that has just been ended, if it may be the last of its row.
+  std::optional<CharId> LastCell() const { return cell_; }
+  /// Ends a table row, its last cell included.
   void Row(const FinalMark& formats);
 
   /// `unfinished` are the formats in force at the end of the source, which the text behind the

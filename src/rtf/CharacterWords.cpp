@@ -51,6 +51,7 @@ void Interpreter::DefaultLanguage(int, const Token& word) {
 void Interpreter::Fallback(int, const Token& word) { State().fallback = std::max(word.number, 0); }
 
 void Interpreter::Plain(int, const Token&) {
+  BeginBody();
   EditCharacter() = PlainFormat();
   const SourceFont* font = fonts_.Find(defaultFont_);
   State().page = CodePage(font && font->page ? font->page : documentPage_);

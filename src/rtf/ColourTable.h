@@ -13,6 +13,7 @@ class ColourTable {
   void Read(Tokenizer& tokens);
   /// The automatic colour for an entry without one and for a number out of the table.
   Colour operator[](int number) const;
+  const std::vector<Colour>& All() const { return colours_; }
 
  private:
   std::vector<Colour> colours_;

@@ -19,6 +19,7 @@ class FontTable {
   void Read(Tokenizer& tokens, InternTable<FontFace>& faces, int documentPage);
   /// Null when the source defines no such font.
   const SourceFont* Find(int number) const;
+  const std::unordered_map<int, SourceFont>& All() const { return fonts_; }
 
  private:
   std::unordered_map<int, SourceFont> fonts_;

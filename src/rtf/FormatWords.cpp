@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <iterator>
 
+#include "rtf/KeptWords.h"
 #include "rtf/WrittenFormats.h"
 
 namespace lumenote {
@@ -74,16 +75,21 @@ LineWords WordsOf(LineRule rule, int spacing) {
 
 class ParagraphWriter {
  public:
+  /// With `whole`, what has its default is told too.
+  ParagraphWriter(std::string kept, bool whole) : words_(std::move(kept)), whole_(whole) {}
+
   void Word(std::string_view name) { words_.append("\\").append(name); }
   void Number(std::string_view name, std::int64_t number) {
     Word(name);
     words_ += std::to_string(std::clamp<std::int64_t>(number, -kMostLength, kMostLength));
   }
   void Length(std::string_view name, std::int64_t twips) {
-    if (twips != 0) Number(name, twips);
+    if (twips != 0 || whole_) Number(name, twips);
   }
   void LineSpacing(LineWords line) {
-    if (line.spacing == 0 || (line.multiple && line.spacing == 240)) return;
+    const bool single = line.spacing == 0 || (line.multiple && line.spacing == 240);
+    if (single && whole_) return void(words_ += "\\sl240\\slmult1");
+    if (single) return;
     Number("sl", line.spacing);
     Number("slmult", line.multiple ? 1 : 0);
   }
@@ -93,6 +99,7 @@ class ParagraphWriter {
 
  private:
   std::string words_;
+  bool whole_;
 };
 
 void ParagraphWriter::Tab(const TabStop& tab) {
@@ -107,7 +114,16 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 
 }  // namespace
 
-void WriteChange(const WrittenFormat& from, const WrittenFormat& to, Output& out) {
+void WriteChange(WrittenFormat from, const WrittenFormat& to, const FormatTables& tables,
+                 Output& out) {
+  const std::string_view words = tables.words[to.words].source;
+  const std::size_t high = HighPart(tables.words[to.words].source);
+  const bool anew = from.words != to.words || high < words.size();
+  if (anew) {
+    if (from.words != 0) out.Word("plain");
+    if (from.words != 0) from = {};
+    out.Words(words.substr(0, high));
+  }
   if (from.effects != to.effects) WriteEffects(from.effects, to.effects, out);
   if (from.underline != to.underline) out.Word(kUnderlines[static_cast<std::size_t>(to.underline)]);
   if (from.halfPoints != to.halfPoints) {
@@ -118,24 +134,31 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, Output& out
   if (from.colour != to.colour) out.Word("cf", to.colour);
   if (from.highlight != to.highlight) out.Word("highlight", to.highlight);
   if (from.language != to.language) out.Word("lang", to.language);
-  if (from.font != to.font) out.Word("f", to.font);
+  if (high == words.size() && from.font != to.font) out.Word("f", to.font);
   if (from.size != to.size) out.Word("fs", to.size);
+  if (high == words.size()) return;
+  out.Words(words.substr(high));
+  out.Word("f", to.font);
 }
 
-std::string ParagraphWords(const ParaFormat& format, const TabStops& tabs) {
-  static constexpr std::string_view kAlignments[] = {"", "qr", "qc", "qj"};
+std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled) {
+  static constexpr std::string_view kAlignments[] = {"ql", "qr", "qc", "qj"};
   const std::int64_t hanging = format.hangingIndent;
   const std::string_view alignment = kAlignments[static_cast<std::size_t>(format.alignment)];
-  ParagraphWriter words;
+  // Styles and lists have formats of their own for paragraphs that tell none.
+  const bool whole = styled || format.list != 0;
+  ParagraphWriter words(tables.words[format.words].source, whole);
   if (format.rightToLeft != 0) words.Word("rtlpar");
+  if (format.list != 0) words.Number("ls", format.list - 1);
+  if (format.list != 0) words.Number("ilvl", format.level);
   words.Length("fi", -hanging);
   words.Length("li", format.firstIndent + hanging);
   words.Length("ri", format.rightIndent);
   words.Length("sb", format.spaceBefore);
   words.Length("sa", format.spaceAfter);
   words.LineSpacing(WordsOf(format.lineRule, format.lineSpacing));
-  for (const TabStop& tab : tabs) words.Tab(tab);
-  if (!alignment.empty()) words.Word(alignment);
+  for (const TabStop& tab : tables.tabs[format.tabs]) words.Tab(tab);
+  if (whole || format.alignment != Alignment::Left) words.Word(alignment);
   return words.Take();
 }
 

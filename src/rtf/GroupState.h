@@ -14,25 +14,39 @@ struct ParagraphState {
   bool multipleLines = false;  // \slmult
   Alignment alignment = Alignment::Left;
   bool rightToLeft = false;
-  bool bullet = false;  // by a \pn group
-  int list = -1;        // \ls; -1 none
-  int level = 0;        // \ilvl
+  bool bullet = false;    // by a \pn group
+  int list = -1;          // \ls; -1 none
+  int level = 0;          // \ilvl
+  bool numbered = false;  // by a \pn group
+  bool inTable = false;   // \intbl
+  int nesting = 0;        // \itap
+  WordsId words = 0;      // kept
   std::shared_ptr<const TabStops> tabs;
   TabStop nextTab;  // kind and leader given for the next \tx
 
   void AddTab(int position);
-  /// The format but for `tabs` and `bullet`, which need the tables of the document and the source.
+  /// The format but for `tabs`, `bullet` and `list`, which need the tables of the document and the
+  /// source.
   ParaFormat Resolved() const;
 };
 
 struct Style;
 
 struct GroupState {
+  static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
+
   CharFormat character;
   ParagraphState paragraph;
   CodePage page;                 // of text bytes
   int fallback = 1;              // \uc: characters that follow a \u for readers without Unicode
   const Style* style = nullptr;  // of the paragraph
+
+  FieldId field = 0;               // the innermost one, 0 none
+  KeptId inField = 0;              // what is kept with a character in that field
+  int fieldDepth = 0;              // fields around each other
+  std::size_t fieldAt = kNowhere;  // offset of the \field whose result is still to come
+  std::size_t laidBefore = 0;      // what the reader had laid down when that field began
+  std::size_t pendingBefore = 0;   // and what it had kept for the next character
 
   // Numbers of the formats in the document's tables, while they are known.
   bool characterKnown = false;

@@ -4,15 +4,23 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Strings.h"
 #include "rtf/Keywords.h"
 
 namespace lumenote {
 namespace {
 
+constexpr std::size_t kLeastWords = 1 << 16;
+
 /// Whether a token is a byte behind a backslash, which may be the second half of a character.
 bool IsEscapedByte(const Token& token) {
   const unsigned char byte = token.byte;
   return token.kind == Token::Kind::Symbol && (byte == '\\' || byte == '{' || byte == '}');
+}
+
+std::size_t CharacterLength(std::u16string_view text) {
+  return text.size() > 1 && IsHighSurrogate(text.front()) ? 2
+                                                          : std::min<std::size_t>(text.size(), 1);
 }
 
 /// What a symbol stands for; 0 for the marks of groups, indexes and formulas.
@@ -36,17 +44,34 @@ char16_t CharacterOf(char symbol) {
 
 }  // namespace
 
-Interpreter::Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base,
-                         std::size_t opened)
-    : tokens_(source), formats_(formats), groups_(1), default_(base) {
+Interpreter::Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
+                         const CharFormat& base, std::size_t opened)
+    : tokens_(source),
+      target_(target),
+      formats_(formats),
+      groups_(1),
+      default_(base),
+      wordsLeft_(source.size() + kLeastWords) {
   State().character = base;
   groups_.resize(groups_.size() + opened, groups_.front());
 }
 
-Fragment Interpreter::Read(RtfTarget target) {
+Fragment Interpreter::Read() {
   Interpret();
+  for (std::size_t group = groups_.size() - 1; group > 0; --group)
+    EndField(groups_[group], groups_[group - 1]);
+  BeginBody();
   if (!marker_.empty()) PlaceMarker();
-  return body_.Finish(target, Formats());
+  Fragment fragment = body_.Finish(target_, {CharacterNumber(), ParagraphNumber()});
+  if (fragment.mark) {
+    CharFormat format = formats_.characters[fragment.mark->character];
+    Kept kept = formats_.kept[format.kept];
+    kept.before += pending_;
+    format.kept = formats_.kept.Intern(kept);
+    fragment.mark->character = formats_.characters.Intern(format);
+    fragment.mark->head = Head();
+  }
+  return fragment;
 }
 
 void Interpreter::Interpret() {
@@ -94,6 +119,10 @@ void Interpreter::TakeText() {
   opened_ = starred_ = false;
   BeforeText();
   const CodePage page = State().page;
+  if (!pending_.empty()) {
+    body_.Commit(static_cast<int>(tokens_.Decode(page, body_.Room(), 1)), NextCharacter());
+    if (!tokens_.AtText()) return;
+  }
   const CharId format = CharacterNumber();
   std::size_t count = FragmentBuilder::kRoom;
   while (count == FragmentBuilder::kRoom) {
@@ -126,6 +155,7 @@ void Interpreter::Close() {
   if (uncounted_ > 0) {
     --uncounted_;
   } else if (groups_.size() > outermost_) {
+    EndField(State(), Outer());
     groups_.pop_back();
   }
 }
@@ -134,9 +164,11 @@ void Interpreter::Close() {
 /// passed over: no break and no format is lost.
 void Interpreter::Word(const Token& word) {
   const Keyword* keyword = FindKeyword(word.text);
-  if (wasStarred_ && !(keyword && keyword->opensGroup)) return tokens_.SkipGroup();
+  if (wasStarred_ && !(keyword && keyword->opensGroup)) return KeepAside(0, word);
   const bool swallowed = Swallowed();
-  if (!keyword || (swallowed && keyword->handler == &Interpreter::Character)) return;
+  if (!keyword) return KeepUnknown(word);
+  if (keyword->handler != &Interpreter::KeepWord) borderOf_ = WordScope::None;
+  if (swallowed && keyword->handler == &Interpreter::Character) return;
   (this->*keyword->handler)(keyword->value, word);
 }
 
@@ -183,16 +215,21 @@ void Interpreter::EndBytes() {
   BeforeText();
   decoded_.clear();
   DecodeCodePage(State().page.Number(), bytes, decoded_);
-  body_.Append(decoded_, CharacterNumber());
+  const std::u16string_view text = decoded_;
+  const std::size_t first = pending_.empty() ? 0 : CharacterLength(text);
+  if (first > 0) body_.Append(text.substr(0, first), NextCharacter());
+  body_.Append(text.substr(first), CharacterNumber());
 }
 
 void Interpreter::Put(char16_t unit) {
   BeforeText();
   *body_.Room() = unit;
-  body_.Commit(1, CharacterNumber());
+  body_.Commit(1, NextCharacter());
 }
 
 void Interpreter::BeforeText() {
+  Lay();
+  if (inHead_) BeginBody();
   if (!marker_.empty()) PlaceMarker();
   if (body_.Holds()) body_.Release();
 }
@@ -203,12 +240,17 @@ void Interpreter::PlaceMarker() {
   if (HasBullet()) return;
   const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
   groups_.push_back(groups_.back());
+  State().fieldAt = GroupState::kNowhere;
+  if (IsNumbered())
+    EnterField({.opening = "{\\" + std::string(markerWord_), .closing = "}", .numbers = true});
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
   const std::size_t uncounted = std::exchange(uncounted_, 0);
+  const std::string behind = std::exchange(pending_, {});
   placingMarker_ = true;
   Interpret();
   placingMarker_ = false;
+  pending_ += behind;
   tokens_ = tokens;
   outermost_ = outermost;
   uncounted_ = uncounted;
@@ -230,7 +272,9 @@ ParagraphState& Interpreter::EditParagraph() {
 CharId Interpreter::CharacterNumber() {
   GroupState& state = State();
   if (!state.characterKnown) {
-    state.characterId = formats_.characters.Intern(state.character);
+    CharFormat format = state.character;
+    format.kept = state.inField;
+    state.characterId = formats_.characters.Intern(format);
     state.characterKnown = true;
   }
   return state.characterId;
@@ -241,6 +285,10 @@ ParaId Interpreter::ParagraphNumber() {
   if (!state.paragraphKnown) {
     ParaFormat format = state.paragraph.Resolved();
     format.bullet = HasBullet();
+    if (target_ == RtfTarget::Document && state.paragraph.list >= 0) {
+      format.list = static_cast<std::uint16_t>(std::min(state.paragraph.list, 0xFFFE) + 1);
+      format.level = static_cast<std::uint8_t>(std::clamp(state.paragraph.level, 0, 0xFF));
+    }
     if (state.paragraph.tabs) format.tabs = formats_.tabs.Intern(*state.paragraph.tabs);
     state.paragraphId = formats_.paragraphs.Intern(format);
     state.paragraphKnown = true;

@@ -10,6 +10,8 @@
 #include "rtf/ColourTable.h"
 #include "rtf/FontTable.h"
 #include "rtf/GroupState.h"
+#include "rtf/KeptSource.h"
+#include "rtf/KeptWords.h"
 #include "rtf/ListTable.h"
 #include "rtf/Reader.h"
 #include "rtf/StyleSheet.h"
@@ -22,9 +24,9 @@ namespace lumenote {
 class Interpreter {
  public:
   /// The source begins inside `opened` groups.
-  Interpreter(std::string_view source, FormatTables& formats, const CharFormat& base,
-              std::size_t opened);
-  Fragment Read(RtfTarget target);
+  Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
+              const CharFormat& base, std::size_t opened);
+  Fragment Read();
 
   // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it.
 
@@ -39,8 +41,14 @@ class Interpreter {
   // Groups.
   void EnterGroup(int value, const Token& word);
   void SkipGroup(int value, const Token& word);
-  void SkipTable(int value, const Token& word);
   void KeepGroup(int value, const Token& word);
+  void KeepAside(int value, const Token& word);
+  void KeepTable(int value, const Token& word);
+  void Field(int value, const Token& word);
+  void FieldResult(int value, const Token& word);
+  void Generator(int value, const Token& word);
+  void KeepWord(int value, const Token& word);
+  void KeepAssociated(int value, const Token& word);
   void SkipAlternative(int value, const Token& word);
   void Marker(int value, const Token& word);
   void Numbering(int value, const Token& word);
@@ -78,6 +86,8 @@ class Interpreter {
   void TabKindIs(int value, const Token& word);
   void TabLeaderIs(int value, const Token& word);
   void RightToLeft(int value, const Token& word);
+  void InTable(int value, const Token& word);
+  void TableNesting(int value, const Token& word);
   void List(int value, const Token& word);
   void ListLevel(int value, const Token& word);
 
@@ -105,7 +115,27 @@ class Interpreter {
   void Put(char16_t unit);
   void BeforeText();
   void PlaceMarker();
-  std::string KeptGroup();
+  bool IsNumbered() const;
+
+  void KeepUnknown(const Token& word);
+  void AddWord(const Token& word, WordsId& words);
+  WordsId WordsNumber(std::string source, WordsId otherwise);
+  void KeepSource(const std::string& source);
+  void KeepInHead(const std::string& source);
+  std::string GroupSource(std::size_t from);
+  void EnterField(KeptField field);
+  void LeaveField();
+  void EndField(const GroupState& group, const GroupState& around);
+  void BeginBody();
+  /// Takes note that text or a break is laid down.
+  void Lay() {
+    ++laid_;
+    borderOf_ = WordScope::None;
+  }
+  void BreakAs(Kept kept);
+  CharId CharacterWith(Kept kept);
+  CharId NextCharacter();
+  HeadId Head();
   void UseDefaultFont(GroupState& state);
   bool HasBullet() const;
   /// What \plain gives where no style says otherwise.
@@ -122,9 +152,9 @@ class Interpreter {
   ParagraphState& EditParagraph();
   CharId CharacterNumber();
   ParaId ParagraphNumber();
-  FinalMark Formats() { return {CharacterNumber(), ParagraphNumber()}; }
 
   Tokenizer tokens_;
+  RtfTarget target_;
   FormatTables& formats_;
   BodyText body_;
   std::vector<GroupState> groups_;
@@ -138,6 +168,16 @@ class Interpreter {
   CharFormat default_;    // what \plain gives, but for the size
   int defaultFont_ = -1;  // \deff
   int documentPage_ = kPageOfWindows;
+  bool appliesStyles_ = true;
+
+  // What is kept.
+  std::string pending_;   // words and groups that go with the next character
+  std::size_t laid_ = 0;  // pieces of text and breaks so far
+  WordScope borderOf_ = WordScope::None;
+  std::string_view associatedWith_;  // the last marker
+  std::size_t wordsLeft_;            // bytes of words that may still be kept
+  bool inHead_ = true;               // nothing of the text has come yet
+  KeptHead head_;
 
   int swallow_ = 0;          // characters still to pass over behind a \u
   bool opened_ = false;      // the last token was {
@@ -147,6 +187,7 @@ class Interpreter {
   std::u16string decoded_;
   bool placingMarker_ = false;
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
+  std::string_view markerWord_;
 };
 
 }  // namespace lumenote

@@ -60,7 +60,7 @@ void Output::Word(std::string_view name, int number) {
 void Output::Words(std::string_view source) {
   if (source.empty()) return;
   Append(source);
-  openWord_ = true;
+  openWord_ = source.back() != '}';
 }
 
 void Output::Raw(std::string_view source) {

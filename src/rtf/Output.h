@@ -17,7 +17,7 @@ class Output {
   /// A control word, without its backslash.
   void Word(std::string_view name);
   void Word(std::string_view name, int number);
-  /// Control words with their backslashes.
+  /// Control words with their backslashes, and groups between and behind them.
   void Words(std::string_view source);
   /// Braces, line ends and whatever else can follow a control word directly.
   void Raw(std::string_view source);

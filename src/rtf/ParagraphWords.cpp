@@ -64,10 +64,14 @@ ParaFormat ParagraphState::Resolved() const {
   SetLineSpacing(lengths[kLine], multipleLines, format);
   format.alignment = alignment;
   format.rightToLeft = rightToLeft;
+  format.words = words;
+  const int depth = std::max(nesting, inTable ? 1 : 0);
+  format.nesting = static_cast<std::uint8_t>(std::clamp(depth, 0, 255));
   return format;
 }
 
 void Interpreter::DefaultParagraph(int, const Token&) {
+  BeginBody();
   EditParagraph() = {};
   State().style = nullptr;
 }
@@ -99,6 +103,14 @@ void Interpreter::TabLeaderIs(int value, const Token&) {
 }
 
 void Interpreter::RightToLeft(int value, const Token&) { EditParagraph().rightToLeft = value != 0; }
+
+void Interpreter::InTable(int, const Token& word) {
+  EditParagraph().inTable = !word.hasNumber || word.number != 0;
+}
+
+void Interpreter::TableNesting(int, const Token& word) {
+  EditParagraph().nesting = word.number > 1 ? word.number : 0;
+}
 
 void Interpreter::List(int, const Token& word) { EditParagraph().list = word.number; }
 

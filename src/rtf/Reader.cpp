@@ -46,7 +46,7 @@ Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target
   constexpr std::size_t kMost = std::numeric_limits<Position>::max();
   const std::optional<std::string_view> body = Body(bytes);
   const std::string_view source = body.value_or(bytes).substr(0, kMost);
-  return Interpreter(source, formats, base, body ? 1 : 0).Read(target);
+  return Interpreter(source, target, formats, base, body ? 1 : 0).Read();
 }
 
 }  // namespace lumenote

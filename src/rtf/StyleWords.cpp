@@ -6,9 +6,15 @@
 
 namespace lumenote {
 
-void Interpreter::Styles(int, const Token&) { styles_.Read(tokens_); }
+void Interpreter::Styles(int, const Token&) {
+  const std::size_t from = tokens_.Start();
+  styles_.Read(tokens_);
+  KeepInHead(GroupSource(from));
+}
 
 void Interpreter::ParagraphStyle(int, const Token& word) {
+  BeginBody();
+  if (target_ == RtfTarget::Document) AddWord(word, EditParagraph().words);
   const Style* style = ResolvedStyle(StyleSheet::Kind::Paragraph, word.number);
   State().style = style;
   if (!style) return;
@@ -17,6 +23,7 @@ void Interpreter::ParagraphStyle(int, const Token& word) {
 }
 
 void Interpreter::CharacterStyle(int, const Token& word) {
+  if (target_ == RtfTarget::Document) AddWord(word, EditCharacter().words);
   const Style* style = ResolvedStyle(StyleSheet::Kind::Character, word.number);
   if (style) ApplyCharacterStyle(*style);
 }
@@ -28,6 +35,7 @@ void Interpreter::ApplyCharacterStyle(const Style& style) {
 
 /// A style is read once, behind those it is based on.
 const Style* Interpreter::ResolvedStyle(StyleSheet::Kind kind, int number) {
+  if (!appliesStyles_) return nullptr;
   constexpr std::size_t kMostBases = 16;
   std::vector<Style*> line;
   Style* style = styles_.Find(kind, number);

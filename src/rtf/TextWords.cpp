@@ -1,7 +1,21 @@
 // Words that are text: characters, breaks, cells.
+#include <algorithm>
+#include <utility>
+
 #include "rtf/Interpreter.h"
 
 namespace lumenote {
+namespace {
+
+std::string EndOfCell(int nested) { return nested != 0 ? "\\nestcell" : "\\cell"; }
+
+/// The end of a nested row, behind its last cell. Readers want the table told anew before it.
+std::string NestedRow(const std::string& definition, int nesting) {
+  return "\\pard\\intbl\\itap" + std::to_string(std::max(nesting, 2)) + "{\\*\\nesttableprops" +
+         definition + "\\nestrow}{\\nonesttables\\par}";
+}
+
+}  // namespace
 
 void Interpreter::Character(int value, const Token&) { Put(static_cast<char16_t>(value)); }
 
@@ -20,24 +34,51 @@ void Interpreter::Unicode(int, const Token& word) {
   swallow_ = State().fallback;
 }
 
-void Interpreter::Break(int, const Token&) {
+void Interpreter::Break(int, const Token&) { BreakAs({}); }
+
+void Interpreter::BreakAs(Kept kept) {
+  BeginBody();
   if (!marker_.empty()) BeforeText();
-  body_.Break(Formats());
+  if (formats_.fields[State().field].numbers) LeaveField();
+  Lay();
+  const bool plain = pending_.empty() && kept == Kept();
+  body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
 }
 
-void Interpreter::EndParagraph(int, const Token&) {
+/// The end of a page, column or section ends a paragraph that has begun.
+void Interpreter::EndParagraph(int, const Token& word) {
+  BeginBody();
   if (!marker_.empty()) BeforeText();
-  body_.EndParagraph(Formats());
+  if (!body_.Started()) return KeepSource(SourceOf(word));
+  BreakAs({.instead = SourceOf(word)});
 }
 
-void Interpreter::Cell(int, const Token&) {
+void Interpreter::Cell(int nested, const Token&) {
+  BeginBody();
   if (!marker_.empty()) BeforeText();
-  body_.Cell(CharacterNumber());
+  Lay();
+  body_.Cell(CharacterWith(
+      {.instead = EndOfCell(nested), .paragraph = ParagraphNumber(), .kind = Kept::Kind::Cell}));
 }
 
-void Interpreter::Row(int, const Token&) {
+/// The row's break stands for the end of its last cell too, whose format the paragraph has. A row
+/// that holds nothing is none.
+void Interpreter::Row(int nested, const Token&) {
   if (!marker_.empty()) BeforeText();
-  body_.Row(Formats());
+  if (!body_.Started()) return;
+  Lay();
+  Kept kept{.instead = EndOfCell(nested)};
+  ParaId paragraph = ParagraphNumber();
+  const std::string definition = std::exchange(pending_, {});
+  if (const auto cell = body_.LastCell()) {
+    kept = formats_.kept[formats_.characters[*cell].kept];
+    paragraph = std::exchange(kept.paragraph, 0);
+    pending_ = std::exchange(kept.before, {});
+  }
+  kept.kind = Kept::Kind::Row;
+  kept.instead +=
+      nested ? NestedRow(definition, formats_.paragraphs[paragraph].nesting) : definition + "\\row";
+  body_.Row({CharacterWith(std::move(kept)), paragraph});
 }
 
 }  // namespace lumenote

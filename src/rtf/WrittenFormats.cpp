@@ -2,6 +2,7 @@
 #include "rtf/WrittenFormats.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
 
 #include "base/Strings.h"
@@ -24,6 +25,17 @@ std::uint16_t WrittenEffects(std::uint16_t effects) {
   return static_cast<std::uint16_t>(both ? effects & ~kSubscript : effects);
 }
 
+Encoding EncodingOf(int page) {
+  switch (page) {
+    case kPageOfWindows:
+      return Encoding::Windows;
+    case kPageOfSymbols:
+      return Encoding::Symbols;
+    default:
+      return Encoding::UnicodeOnly;
+  }
+}
+
 void WriteFontName(const FontFace& face, Output& out) {
   const int page = CodePageOfCharset(face.charset);
   const bool inWindowsPage = page == 0 || page == kPageOfWindows || page == kPageOfSymbols;
@@ -40,22 +52,49 @@ void WriteFontName(const FontFace& face, Output& out) {
 
 }  // namespace
 
-WrittenFormats::WrittenFormats(const FormatTables& tables)
-    : tables_(tables), written_(tables.characters.Size()) {}
+WrittenFormats::WrittenFormats(const FormatTables& tables, const KeptHead& head)
+    : tables_(tables), written_(tables.characters.Size()), head_(head) {
+  for (const KeptHead::Font& font : head.fonts) {
+    const std::uint32_t known = faces_.Size();
+    faces_.Intern(tables.fonts[font.font]);
+    nextFont_ = font.number == INT_MAX ? font.number : std::max(nextFont_, font.number + 1);
+    if (faces_.Size() != known)
+      fonts_.push_back({font.number, EncodingOf(font.page == 0 ? head.page : font.page)});
+  }
+  keptFonts_ = faces_.Size();
+  for (const Colour colour : head.colours) {
+    if (colour != kAutoColour)
+      colourNumbers_.try_emplace(colour, static_cast<int>(colours_.size()));
+    colours_.push_back(colour);
+  }
+  if (colours_.empty()) colours_.push_back(kAutoColour);
+}
 
 void WrittenFormats::Use(CharId format) {
   if (written_[format].font < 0) written_[format] = Written(tables_.characters[format]);
 }
 
 void WrittenFormats::UseBullets() {
-  bulletFont_ = static_cast<int>(fonts_.Intern({.name = u"Symbol", .charset = 2}));
+  bulletFont_ = fonts_[FontIndex({.name = u"Symbol", .charset = 2})].number;
+}
+
+std::uint32_t WrittenFormats::FontIndex(const FontFace& face) {
+  const std::uint32_t index = faces_.Intern(face);
+  if (index == fonts_.size()) {
+    const int page = CodePageOfCharset(face.charset);
+    fonts_.push_back({nextFont_++, EncodingOf(page == 0 ? head_.page : page)});
+  }
+  return index;
 }
 
 WrittenFormat WrittenFormats::Written(const CharFormat& format) {
   FontFace face = tables_.fonts[format.font];
   face.name = TrimBlanks(face.name);
   WrittenFormat written;
-  written.font = static_cast<int>(fonts_.Intern(face));
+  const Font& font = fonts_[FontIndex(face)];
+  written.font = font.number;
+  written.encoding = font.encoding;
+  written.words = format.words;
   written.size = std::max<int>(format.size, 1);
   written.colour = ColourNumber(format.colour);
   written.highlight = ColourNumber(format.highlight);
@@ -71,7 +110,7 @@ WrittenFormat WrittenFormats::Written(const CharFormat& format) {
 int WrittenFormats::ColourNumber(Colour colour) {
   if (colour == kAutoColour) return 0;
   const auto [entry, added] =
-      colourNumbers_.try_emplace(colour & 0xFFFFFF, static_cast<int>(colours_.size()) + 1);
+      colourNumbers_.try_emplace(colour & 0xFFFFFF, static_cast<int>(colours_.size()));
   if (added) colours_.push_back(colour & 0xFFFFFF);
   return entry->second;
 }
@@ -80,10 +119,10 @@ void WrittenFormats::WriteFontTable(Output& out) const {
   static constexpr std::string_view kFamilies[] = {"fnil",    "froman", "fswiss", "fmodern",
                                                    "fscript", "fdecor", "ftech",  "fbidi"};
   out.Raw("{\\fonttbl");
-  for (std::uint32_t number = 0; number < fonts_.Size(); ++number) {
-    const FontFace& face = fonts_[number];
+  for (std::uint32_t index = keptFonts_; index < faces_.Size(); ++index) {
+    const FontFace& face = faces_[index];
     out.Raw("{");
-    out.Word("f", static_cast<int>(number));
+    out.Word("f", fonts_[index].number);
     out.Word(kFamilies[face.family % std::size(kFamilies)]);
     if (face.pitch != 0) out.Word("fprq", face.pitch);
     out.Word("fcharset", face.charset);
@@ -91,16 +130,21 @@ void WrittenFormats::WriteFontTable(Output& out) const {
     WriteFontName(face, out);
     out.Raw(";}");
   }
+  const std::string& kept = head_.fontTable;
+  if (!kept.empty() && kept[0] != '{' && kept[0] != '\\') out.Raw(" ");
+  out.Words(kept);
   out.Raw("}\r\n");
 }
 
 void WrittenFormats::WriteColourTable(Output& out) const {
-  if (colours_.empty()) return;
-  out.Raw("{\\colortbl ;");
+  if (colours_.size() == 1) return;
+  out.Raw("{\\colortbl ");
   for (const Colour colour : colours_) {
-    out.Word("red", static_cast<int>(colour & 0xFF));
-    out.Word("green", static_cast<int>(colour >> 8 & 0xFF));
-    out.Word("blue", static_cast<int>(colour >> 16));
+    if (colour != kAutoColour) {
+      out.Word("red", static_cast<int>(colour & 0xFF));
+      out.Word("green", static_cast<int>(colour >> 8 & 0xFF));
+      out.Word("blue", static_cast<int>(colour >> 16));
+    }
     out.Raw(";");
   }
   out.Raw("}\r\n");

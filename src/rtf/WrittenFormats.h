@@ -10,6 +10,9 @@
 
 namespace lumenote {
 
+/// How the characters of a font are written.
+enum class Encoding : std::uint8_t { Windows, Symbols, UnicodeOnly };
+
 /// A character format as the words of RTF can tell it: two formats that are written alike are
 /// equal here. The fields are the words' own numbers.
 struct WrittenFormat {
@@ -23,13 +26,16 @@ struct WrittenFormat {
   int scale = 100;
   std::uint16_t effects = 0;
   Underline underline = Underline::None;
+  Encoding encoding = Encoding::Windows;  // that of the font
+  WordsId words = 0;
   bool operator==(const WrittenFormat&) const = default;
 };
 
-/// Font table, colour table and character formats of a text, numbered as they first occur.
+/// Font table, colour table and character formats of a text. Fonts and colours have the numbers
+/// that they have in the head of the note's source; others follow, as they first occur.
 class WrittenFormats {
  public:
-  explicit WrittenFormats(const FormatTables& tables);
+  WrittenFormats(const FormatTables& tables, const KeptHead& head);
 
   /// Takes in a format that the text uses.
   void Use(CharId format);
@@ -38,8 +44,8 @@ class WrittenFormats {
 
   /// A format that was taken in.
   const WrittenFormat& operator[](CharId format) const { return written_[format]; }
-  const FontFace& Face(int font) const { return fonts_[static_cast<std::uint32_t>(font)]; }
   int BulletFont() const { return bulletFont_; }
+  bool HasStyles() const { return head_.tables; }
 
   void WriteFontTable(Output& out) const;
   /// Nothing when no colour is used.
@@ -47,19 +53,31 @@ class WrittenFormats {
 
  private:
   WrittenFormat Written(const CharFormat& format);
+  std::uint32_t FontIndex(const FontFace& face);
   int ColourNumber(Colour colour);
 
   const FormatTables& tables_;
   std::vector<WrittenFormat> written_;  // by CharId; font -1 where not used
-  InternTable<FontFace> fonts_;
+  const KeptHead& head_;
+  struct Font {
+    int number;
+    Encoding encoding;
+  };
+  InternTable<FontFace> faces_;
+  std::vector<Font> fonts_;  // of the faces, the kept ones first
+  std::uint32_t keptFonts_ = 0;
+  int nextFont_ = 0;
   std::vector<Colour> colours_;
   std::unordered_map<Colour, int> colourNumbers_;
   int bulletFont_ = -1;
 };
 
-/// Writes the words that lead from one character format to another.
-void WriteChange(const WrittenFormat& from, const WrittenFormat& to, Output& out);
-/// The words of a paragraph format behind \pard, its bullet excepted.
-std::string ParagraphWords(const ParaFormat& format, const TabStops& tabs);
+/// Writes the words that lead from one character format to another. Behind \hich readers take sizes
+/// and effects for those of right-to-left text, so they are told before it.
+void WriteChange(WrittenFormat from, const WrittenFormat& to, const FormatTables& tables,
+                 Output& out);
+/// The words of a paragraph format behind \pard, its bullet and its table excepted. `styled` tells
+/// of a source that has styles.
+std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled);
 
 }  // namespace lumenote

@@ -74,12 +74,22 @@ void EditingCore::Select(Position anchor, Position caret) {
   Tell();
 }
 
+/// What is typed between two characters of a field belongs to it.
+KeptId EditingCore::TypedInside(Position position) const {
+  if (HasSelection() || position == 0) return 0;
+  const auto keptAt = [&](Position at) { return CharacterFormat(document_.CharFormatAt(at)).kept; };
+  const auto& table = document_.Formats().kept;
+  const KeptId before = keptAt(position - 1);
+  const bool onlyField = table[before] == Kept{.field = table[before].field};
+  return onlyField && table[before].field == table[keptAt(position)].field ? before : 0;
+}
+
 CharFormat EditingCore::InsertionFormat() const {
   if (chosenFormat_) return *chosenFormat_;
   const Position start = Selected().start;
   const bool behind = HasSelection() || start == 0 || document_.At(start - 1) == u'\n';
   CharFormat format = CharacterFormat(document_.CharFormatAt(behind ? start : start - 1));
-  format.object = 0;
+  format.kept = TypedInside(start);
   return format;
 }
 

@@ -37,7 +37,7 @@ class EditingCore {
 
   /// The format of text typed now: the one chosen for it, else that of the first character
   /// selected, else of the one before the caret in its paragraph, else of the one behind it; never
-  /// that of an embedded object itself.
+  /// an embedded object itself. Between two characters of a field it is in the field too.
   CharFormat InsertionFormat() const;
   /// Chooses one, until the caret moves or something is typed.
   void InsertionFormat(const CharFormat& format) { chosenFormat_ = format; }
@@ -68,6 +68,7 @@ class EditingCore {
   void RequireQuiet() const;
 
  private:
+  KeptId TypedInside(Position position) const;
   void Note(const DocumentChange& edit);
   bool Move(Position anchor, Position caret);
   void Travel(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&));

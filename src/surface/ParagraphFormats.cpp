@@ -47,7 +47,10 @@ std::optional<bool> ParagraphFormats::Bullet() const {
 }
 
 void ParagraphFormats::Bullet(UndoKind kind, bool on) {
-  Apply(kind, [=](ParaFormat& format) { format.bullet = on; });
+  Apply(kind, [=](ParaFormat& format) {
+    if (format.bullet != on) format.list = 0;
+    format.bullet = on;
+  });
 }
 
 std::optional<int> ParagraphFormats::AlignmentCode() const {

@@ -65,7 +65,7 @@ void Transfer::Text(std::u16string_view text) {
   const CharId format = core_.Formats().characters.Intern(defaultFormat_);
   const ParaId paragraph = core_.Formats().paragraphs.Intern({});
   Fragment whole = PlainFragment(text, format, paragraph);
-  whole.mark = FinalMark{format, paragraph};
+  whole.mark = FinalMark{.character = format, .paragraph = paragraph};
   core_.Load(whole);
   baseFontName_ = kDefaultFont;
 }

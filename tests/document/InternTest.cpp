@@ -25,8 +25,9 @@ TEST(InternTable, TellsMembersApart) {
   EXPECT_EQ(tables.tabs.Intern({{720}, {1440, TabKind::Right, 1}}), 1u);
   EXPECT_EQ(tables.tabs.Intern({{720}, {1440, TabKind::Right, 2}}), 2u);
   EXPECT_EQ(tables.tabs.Intern({{720}, {1440, TabKind::Right, 1}}), 1u);
-  EXPECT_EQ(tables.objects.Intern({"{\\pict}"}), 1u);
-  EXPECT_EQ(tables.objects.Intern({"{\\pict}"}), 1u);
+  EXPECT_EQ(tables.kept.Intern({.before = "a", .instead = "b"}), 1u);
+  EXPECT_EQ(tables.kept.Intern({.before = "b", .instead = "a"}), 2u);
+  EXPECT_EQ(tables.kept.Intern({.before = "a", .instead = "b"}), 1u);
 }
 
 TEST(InternTable, AnswersTheDefaultWhenFull) {

@@ -47,7 +47,12 @@ std::string Shown(const CharFormat& format, const FormatTables& tables) {
   words.Number(format.scale, 100, "scale");
   Colour(format.colour, "cf", words);
   Colour(format.highlight, "bg", words);
-  words.Add(format.object != 0, tables.objects[format.object].rtf);
+  const Kept& kept = tables.kept[format.kept];
+  words.Add(!kept.before.empty(), kept.before);
+  words.Add(!kept.instead.empty(), kept.instead);
+  for (FieldId id = kept.field; id != 0; id = tables.fields[id].outer)
+    words.Add(true, tables.fields[id].opening);
+  words.Add(format.words != 0, tables.words[format.words].source);
   return words.Text();
 }
 
@@ -65,6 +70,10 @@ std::string Shown(const ParaFormat& format, const FormatTables& tables) {
   words.Number(format.lineSpacing, 0, "");
   words.Add(format.bullet != 0, "bullet");
   words.Add(format.rightToLeft != 0, "rtl");
+  words.Number(format.list, 0, "list");
+  words.Number(format.level, 0, "level");
+  words.Number(format.nesting, 0, "nesting");
+  words.Add(format.words != 0, tables.words[format.words].source);
   for (const TabStop& tab : tables.tabs[format.tabs]) {
     words.Next() << 't' << "lrcdb"[static_cast<int>(tab.kind)] << tab.position;
     words.Number(tab.leader, 0, "leader");

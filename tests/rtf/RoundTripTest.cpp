@@ -46,7 +46,8 @@ class Generator {
   CharId Character(FormatTables& tables) { return tables.characters.Intern(Format(tables)); }
   CharId Object(FormatTables& tables) {
     CharFormat format = Format(tables);
-    format.object = tables.objects.Intern({"{\\pict\\wmetafile8 0102}"});
+    format.kept =
+        tables.kept.Intern({.instead = "{\\pict\\wmetafile8 0102}", .kind = Kept::Kind::Embedded});
     return tables.characters.Intern(format);
   }
 

@@ -99,7 +99,8 @@ const CharStyle& CharStyles::Of(const Document& document, const CharFormat& form
 CharStyle CharStyles::Make(const Document& document, const CharFormat& format) const {
   const Raised raised = RaisedSize(format);
   const FontFace& face = document.Formats().fonts[format.font];
-  const double points = raised.points * (format.object ? kPlaceholderSize : 1);
+  const bool embedded = document.Formats().kept[format.kept].kind == Kept::Kind::Embedded;
+  const double points = raised.points * (embedded ? kPlaceholderSize : 1);
   const QFont font = MakeFont(face, format, points, zoom_);
   const QFontMetricsF metrics(font);
   CharStyle style;
@@ -107,7 +108,7 @@ CharStyle CharStyles::Make(const Document& document, const CharFormat& format) c
   style.descent = metrics.descent();
   style.raise = raised.raise * zoom_;
   style.hidden = format.effects & kHidden;
-  style.object = format.object != 0;
+  style.object = embedded;
   style.underline = format.underline;
   style.strikes = StrikesOf(format.effects);
   style.format.setFont(font);

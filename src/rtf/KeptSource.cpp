@@ -1,0 +1,63 @@
+#include "rtf/KeptSource.h"
+
+#include "rtf/KeptWords.h"
+
+namespace lumenote {
+namespace {
+
+constexpr int kOwnFallback = 1;  // what the writer tells with \uc
+
+void AppendHex(std::string_view bytes, std::string_view before, std::string& out) {
+  constexpr char kDigits[] = "0123456789abcdef";
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    out += before;
+    out += kDigits[byte >> 4];
+    out += kDigits[byte & 15];
+  }
+}
+
+}  // namespace
+
+KeptSource::KeptSource(std::string_view source, int fallback) {
+  Tokenizer tokens(source);
+  std::size_t end = 0;
+  std::size_t firstWordEnd = 0;
+  bool unicode = false;
+  bool delimited = false;
+  for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
+    const bool nothing = (token.kind == Token::Kind::Close && open == 0) ||
+                         (token.kind == Token::Kind::Binary && token.text.empty());
+    if (nothing) continue;
+    if (tokens.Start() != end) text += "\r\n";
+    end = tokens.At();
+    Append(token, tokens.Source(tokens.Start(), end));
+    const bool word = token.kind == Token::Kind::Word;
+    delimited = word && text.ends_with(' ');
+    if (word && firstWordEnd == 0) firstWordEnd = text.size() - (delimited ? 1 : 0);
+    unicode |= word && token.text == "u";
+  }
+  if (delimited) text.pop_back();
+  if (unicode && fallback != kOwnFallback)
+    text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
+}
+
+void KeptSource::Append(const Token& token, std::string_view source) {
+  using Kind = Token::Kind;
+  if (token.kind == Kind::Open) ++open;
+  if (token.kind == Kind::Close) --open;
+  needsHead |= token.kind == Kind::High || token.kind == Kind::Byte ||
+               (token.kind == Kind::Word && NamesTableEntry(token.text));
+  if (token.kind == Kind::High) return AppendHex(token.text, "\\'", text);
+  if (token.kind != Kind::Binary) return void(text += source);
+  if (!text.ends_with('\n')) text += "\r\n";
+  AppendHex(token.text, "", text);
+}
+
+std::string SourceOf(const Token& word) {
+  std::string source = "\\" + std::string(word.text);
+  if (word.hasNumber) source += std::to_string(word.number);
+  return source;
+}
+
+}  // namespace lumenote

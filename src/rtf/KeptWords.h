@@ -1,0 +1,39 @@
+// The control words that are kept although the editor shows nothing of them.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "rtf/Tokenizer.h"
+
+namespace lumenote {
+
+/// What a word belongs to, and thus what makes it go.
+enum class WordScope : std::uint8_t {
+  None,       // means nothing, or nothing that outlasts the session that wrote it
+  Character,  // until \plain
+  Paragraph,  // until \pard
+  Place,      // stays where it is: sections, table rows, automatic text
+  Border,     // says more about the border that the word before it names
+};
+
+/// The scope of a word by the family that its name begins with.
+WordScope FamilyScope(std::string_view word);
+// How other scripts look in a run is told in parts, each a marker and the words that hold for it:
+// for the directions (\rtlch, \ltrch), and behind these for the scripts (\loch, \hich, \dbch). The
+// last one of each kind is the run's own.
+
+bool IsMarker(std::string_view word);
+/// Where the last part begins in `words` if it is that of \hich, else the end.
+std::size_t HighPart(const std::string& words);
+/// Makes the part of that marker the last of its kind.
+std::string WithMarker(std::string words, std::string_view marker);
+/// Adds a word to the part of that marker.
+std::string WithAssociated(std::string words, std::string_view marker, const Token& word);
+
+/// Takes the word called `name` out of `words`, with its number.
+void EraseWord(std::string_view name, std::string& words);
+/// Whether the word's number is that of a font, colour, style or list.
+bool NamesTableEntry(std::string_view word);
+
+}  // namespace lumenote

@@ -1,0 +1,266 @@
+#include "rtf/WrittenBody.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "rtf/CodePage.h"
+
+namespace lumenote {
+namespace {
+
+/// The byte that a reader turns into `unit` again, or -1.
+int ByteFor(char16_t unit, Encoding encoding) {
+  if (unit == 0) return -1;
+  if (unit <= u' ') return unit;
+  if (encoding == Encoding::Windows) return ByteIn1252(unit);
+  if (encoding == Encoding::Symbols) return unit > 0xF020 && unit < 0xF100 ? unit - 0xF000 : -1;
+  return unit < 0x80 ? unit : -1;
+}
+
+/// The symbol of a character that has one, else nothing.
+std::string_view SymbolFor(char16_t unit) {
+  switch (unit) {
+    case u'\\':
+      return "\\\\";
+    case u'{':
+      return "\\{";
+    case u'}':
+      return "\\}";
+    case u'\u00A0':
+      return "\\~";
+    case u'\u00AD':
+      return "\\-";
+    case u'\u2011':
+      return "\\_";
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+// --- paragraphs
+
+void WrittenBody::BeginParagraph() {
+  begun_ = true;
+  if (index_ < paragraphs_.formats.size()) Paragraph(Governing(), true);
+}
+
+void WrittenBody::Paragraph(ParaId id, bool atStart) {
+  const ParaFormat& format = tables_.paragraphs[id];
+  const Told wanted{&Words(id), InRow() ? format.nesting : 0, format.bullet != 0};
+  const bool changed = !told_.words || wanted.nesting != told_.nesting ||
+                       wanted.bullet != told_.bullet || *wanted.words != *told_.words;
+  told_ = wanted;
+  if (changed) out_.Word("pard");
+  if (wanted.bullet) Bullet(id, changed, atStart);
+  if (!changed) return;
+  if (wanted.nesting > 0) out_.Word("intbl");
+  if (wanted.nesting > 1) out_.Word("itap", wanted.nesting);
+  out_.Words(*wanted.words);
+}
+
+/// The format, out of a list that the source does not define.
+ParaFormat WrittenBody::InList(ParaId paragraph) const {
+  ParaFormat format = tables_.paragraphs[paragraph];
+  if (!paragraphs_.inLists) format.list = 0;
+  return format;
+}
+
+const std::string& WrittenBody::Words(ParaId paragraph) {
+  const auto [entry, added] = knownWords_.try_emplace(paragraph);
+  if (added) entry->second = ParagraphWords(InList(paragraph), tables_, formats_.HasStyles());
+  return entry->second;
+}
+
+/// What readers without bullets show comes with each paragraph; the first one of a series says what
+/// the bullet is, unless its list does.
+void WrittenBody::Bullet(ParaId id, bool changed, bool atStart) {
+  const int font = formats_.BulletFont();
+  const bool ofList = InList(id).list != 0;
+  if (atStart) {
+    out_.Raw("{");
+    out_.Word(ofList ? "listtext" : "pntext");
+    out_.Word("f", font);
+    out_.Raw("\\'B7\\tab}");
+  }
+  if (!changed || ofList) return;
+  out_.Raw("{\\*\\pn\\pnlvlblt");
+  out_.Word("pnf", font);
+  out_.Raw("\\pnindent0{\\pntxtb\\'B7}}");
+}
+
+void WrittenBody::EndParagraph() {
+  while (cell_ < paragraphs_.cells.size() && paragraphs_.cells[cell_].paragraph == index_) ++cell_;
+  ++index_;
+  begun_ = false;
+  filled_ = false;
+}
+
+/// The format of the cell at hand, or of the paragraph.
+ParaId WrittenBody::Governing() const {
+  const std::vector<WrittenParagraphs::Cell>& cells = paragraphs_.cells;
+  const bool inCell = InRow() && cell_ < cells.size() && cells[cell_].paragraph == index_;
+  return inCell ? cells[cell_].format : paragraphs_.formats[index_];
+}
+
+/// Whether readers number the paragraph at hand.
+bool WrittenBody::IsList() const {
+  if (index_ == paragraphs_.formats.size()) return false;
+  const ParaFormat format = InList(Governing());
+  const bool numbered = tables_.words[format.words].source.find("{\\*\\pn") != std::string::npos;
+  return format.bullet == 0 && (format.list != 0 || numbered);
+}
+
+// --- fields
+
+/// Leaves the fields that the next character is not in, and enters those that it is in. A list
+/// number whose paragraph is no list any more is ordinary text.
+void WrittenBody::Field(FieldId wanted) {
+  if (fields_.empty() && wanted == 0 && begun_) return;
+  chain_.clear();
+  for (FieldId id = wanted; id != 0; id = tables_.fields[id].outer)
+    if (!tables_.fields[id].numbers || IsList()) chain_.insert(chain_.begin(), id);
+  const auto differs = std::ranges::mismatch(fields_, chain_, {}, &OpenField::id).in2;
+  const auto common = static_cast<std::size_t>(differs - chain_.begin());
+  while (fields_.size() > common) CloseField();
+  if (!begun_) BeginParagraph();
+  for (; fields_.size() < chain_.size();) {
+    const FieldId id = chain_[fields_.size()];
+    fields_.push_back({id, told_, format_});
+    out_.Words(tables_.fields[id].opening);
+    if (!tables_.fields[id].numbers) continue;
+    out_.Word("plain");
+    format_ = {};
+  }
+}
+
+void WrittenBody::CloseField() {
+  const OpenField field = fields_.back();
+  fields_.pop_back();
+  out_.Raw(tables_.fields[field.id].closing);
+  told_ = field.told;
+  format_ = field.format;
+  if (begun_) Paragraph(Governing(), false);
+}
+
+// --- characters
+
+void WrittenBody::Format(CharId format) {
+  const WrittenFormat& wanted = formats_[format];
+  if (wanted == format_) return;
+  WriteChange(format_, wanted, tables_, out_);
+  format_ = wanted;
+}
+
+void WrittenBody::Text(std::u16string_view text, CharId format) {
+  const KeptId kept = tables_.characters[format].kept;
+  const bool again = std::exchange(lastKept_, kept) == kept;
+  if (kept != 0 || !fields_.empty()) return KeptText(text, format, tables_.kept[kept], again);
+  if (!begun_) BeginParagraph();
+  Format(format);
+  while (!text.empty()) text.remove_prefix(Step(text));
+}
+
+/// What an edit has made of one character is one still: what stands before it comes once.
+void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again) {
+  while (!text.empty()) {
+    Field(kept.field);
+    Format(format);
+    const bool stands = Stands(kept, text.front());
+    if (stands || !again) out_.Words(kept.before);
+    if (EndsNothing(kept, text.front())) out_.Words(kept.instead);
+    again = true;
+    text.remove_prefix(stands ? Instead(kept, text.front()) : Step(text));
+  }
+}
+
+/// Whether the character is still what the source said.
+bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
+  switch (kept.kind) {
+    case Kept::Kind::Embedded:
+      return unit == u'\uFFFC';
+    case Kept::Kind::Cell:
+      return unit == u'\t' && InRow();
+    case Kept::Kind::Row:
+      return unit == u'\r' && InRow();
+    default:
+      return unit == u'\r' && filled_ && !kept.instead.empty();
+  }
+}
+
+/// Whether the end of a page, column or section has lost the text before it: readers then make no
+/// paragraph of it.
+bool WrittenBody::EndsNothing(const Kept& kept, char16_t unit) const {
+  return kept.kind == Kept::Kind::Character && unit == u'\r' && !filled_;
+}
+
+std::size_t WrittenBody::Instead(const Kept& kept, char16_t unit) {
+  const bool endsCell = kept.kind == Kept::Kind::Cell || kept.kind == Kept::Kind::Row;
+  if (endsCell) Paragraph(Governing(), false);
+  out_.Words(kept.instead);
+  if (endsCell) {
+    ++cell_;
+    begun_ = false;
+  }
+  if (kept.instead.find("\\pard") != std::string::npos) told_ = {};
+  filled_ = true;
+  if (unit != u'\r') return 1;
+  out_.Raw("\r\n");
+  EndParagraph();
+  return 2;
+}
+
+/// Writes some of the text and returns how much.
+std::size_t WrittenBody::Step(std::u16string_view text) {
+  if (!begun_) BeginParagraph();
+  filled_ = true;
+  const std::size_t plain = Plain(text);
+  return plain > 0 ? plain : Special(text);
+}
+
+std::size_t WrittenBody::Plain(std::u16string_view text) {
+  if (format_.encoding != Encoding::Symbols) return out_.Plain(text);
+  return out_.Plain(text.substr(0, text.front() == u' ' ? 1 : 0));
+}
+
+/// Writes the first character of `text`, which is not plain; returns its length.
+std::size_t WrittenBody::Special(std::u16string_view text) {
+  const char16_t unit = text.front();
+  if (unit == u'\r') {
+    Paragraph(paragraphs_.formats[index_], false);
+    out_.Raw("\\par\r\n");
+    EndParagraph();
+    return 2;
+  }
+  if (unit == u'\t' || unit == u'\v') {
+    out_.Word(unit == u'\t' ? "tab" : "line");
+  } else if (const std::string_view symbol = SymbolFor(unit); !symbol.empty()) {
+    out_.Raw(symbol);
+  } else if (const int byte = ByteFor(unit, format_.encoding); byte >= 0) {
+    out_.Hex(byte);
+  } else {
+    out_.Unicode(unit);
+  }
+  return 1;
+}
+
+void WrittenBody::Finish(const FinalMark* mark) {
+  if (mark) {
+    const Kept& kept = tables_.kept[tables_.characters[mark->character].kept];
+    Field(kept.field);
+    Format(mark->character);
+    out_.Words(kept.before);
+    if (EndsNothing(kept, u'\r')) out_.Words(kept.instead);
+    if (Stands(kept, u'\r')) {
+      Instead(kept, u'\r');
+    } else {
+      Paragraph(mark->paragraph, false);
+      out_.Raw("\\par ");
+    }
+  }
+  if (!told_.words && !paragraphs_.formats.empty()) BeginParagraph();
+  while (!fields_.empty()) CloseField();
+}
+
+}  // namespace lumenote

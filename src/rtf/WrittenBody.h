@@ -1,0 +1,91 @@
+// The body of the source: paragraphs, runs, characters, and what is kept among them.
+#pragma once
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "document/Document.h"
+#include "rtf/Output.h"
+#include "rtf/WrittenFormats.h"
+
+namespace lumenote {
+
+/// The paragraphs of a text in order.
+struct WrittenParagraphs {
+  std::vector<ParaId> formats;
+  std::vector<bool> inRow{};  // whether each one is part of a whole table row
+  struct Cell {
+    std::size_t paragraph;  // that it ends in
+    ParaId format;
+  };
+  std::vector<Cell> cells{};  // in order
+  bool inLists = true;        // their lists are those of the source's head
+};
+
+class WrittenBody {
+ public:
+  WrittenBody(const FormatTables& tables, const WrittenFormats& formats,
+              WrittenParagraphs paragraphs, Output& out)
+      : tables_(tables), formats_(formats), paragraphs_(std::move(paragraphs)), out_(out) {}
+
+  /// A piece of one format.
+  void Text(std::u16string_view text, CharId format);
+  /// Ends a document by its final mark, a selection without one.
+  void Finish(const FinalMark* mark);
+
+ private:
+  /// What a reader knows of the paragraph at hand.
+  struct Told {
+    const std::string* words = nullptr;  // in `knownWords_`; null: nothing yet
+    int nesting = 0;
+    bool bullet = false;
+  };
+  /// An open field, and what holds again behind it.
+  struct OpenField {
+    FieldId id;
+    Told told;
+    WrittenFormat format;
+  };
+
+  void BeginParagraph();
+  /// Tells the paragraph format `id` where it is not told already.
+  void Paragraph(ParaId id, bool atStart);
+  void Bullet(ParaId id, bool changed, bool atStart);
+  ParaFormat InList(ParaId paragraph) const;
+  const std::string& Words(ParaId paragraph);
+  bool InRow() const { return index_ < paragraphs_.inRow.size() && paragraphs_.inRow[index_]; }
+  ParaId Governing() const;
+  bool IsList() const;
+
+  void Field(FieldId wanted);
+  void CloseField();
+
+  void Format(CharId format);
+  void KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again);
+  bool Stands(const Kept& kept, char16_t unit) const;
+  bool EndsNothing(const Kept& kept, char16_t unit) const;
+  std::size_t Instead(const Kept& kept, char16_t unit);
+  std::size_t Step(std::u16string_view text);
+  std::size_t Plain(std::u16string_view text);
+  std::size_t Special(std::u16string_view text);
+  void EndParagraph();
+
+  const FormatTables& tables_;
+  const WrittenFormats& formats_;
+  WrittenParagraphs paragraphs_;
+  Output& out_;
+
+  std::size_t index_ = 0;  // of the paragraph at hand
+  std::size_t cell_ = 0;   // the next one that ends
+  bool begun_ = false;     // whether anything of the paragraph, or of its cell, is written
+  bool filled_ = false;    // whether the paragraph has text
+  Told told_;
+  std::unordered_map<ParaId, std::string> knownWords_;
+  WrittenFormat format_;
+  std::vector<OpenField> fields_;
+  std::vector<FieldId> chain_;
+  KeptId lastKept_ = 0;
+};
+
+}  // namespace lumenote

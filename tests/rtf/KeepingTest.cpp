@@ -1,0 +1,110 @@
+// What the editor does not show comes through reading, editing and writing.
+#include <gtest/gtest.h>
+
+#include "Reading.h"
+#include "rtf/Writer.h"
+
+namespace lumenote {
+namespace {
+
+/// What stands behind the head of the source.
+std::string Body(const std::string& rtf) {
+  constexpr std::string_view kHead = "\\viewkind4\\uc1\\pard";
+  const std::size_t at = rtf.find(kHead);
+  return at == rtf.npos ? rtf : rtf.substr(at + kHead.size());
+}
+
+class Keeping : public testing::TestWithParam<Case> {};
+TEST_P(Keeping, WritesWhatItRead) {
+  const std::string written = WriteRtf(Read(GetParam().rtf));
+  EXPECT_EQ(Body(written), GetParam().expected);
+  EXPECT_EQ(WriteRtf(Read(written)), written);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Places, Keeping,
+    testing::Values(
+        Case{
+            R"({\rtf1 a{\field{\*\fldinst HYPERLINK "x"}{\fldrslt b\b c{\field{\*\fldinst P}{\fldrslt 7}}}}d})",
+            "\\f0\\fs24 a{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt b\\b c"
+            "{\\field{\\*\\fldinst P}{\\fldrslt 7}}}}d\\par }\r\n"},
+        Case{
+            R"({\rtf1 a{\field{\*\fldinst PAGE}{\fldrslt}}b{\*\bkmkstart k}c{\footnote n\bin1 }}d})",
+            "\\f0\\fs24 a{\\field{\\*\\fldinst PAGE}{\\fldrslt}}b{\\*\\bkmkstart k}c"
+            "{\\footnote n\r\n7d}d\\par }\r\n"},
+        Case{R"({\rtf1 a\page b\par\page c\sect\sectd\cols2 d})",
+             "\\f0\\fs24 a\\page\r\nb\\par\r\n\\page c\\sect\r\n\\sectd\\cols2 d\\par }\r\n"},
+        Case{R"({\rtf1\pard\brdrt\brdrs\brdrw10\keepn\keepn\foo1 a\par\pard{\kerning8 b}c})",
+             "\\brdrt\\brdrs\\brdrw10\\keepn\\f0\\fs24 a\\par\r\n"
+             "\\pard\\kerning8 b\\plain\\f0\\fs24 c\\par }\r\n"},
+        Case{R"({\rtf1\rtlch\af1\ltrch\hich\af2\b a\dbch\b0 b})",
+             "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql\\rtlch\\af1\\ltrch\\b\\fs24\\hich\\af2"
+             "\\f0 a"
+             "\\plain\\rtlch\\af1\\ltrch\\hich\\af2\\dbch\\f0\\fs24 b\\par }\r\n"},
+        Case{R"({\rtf1{\*\x\uc0\u233 \'e9}\pard\uc0{\*\y \u233 }a})",
+             "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql\\f0\\fs24{\\*\\y\\uc0 \\u233}a\\par "
+             "}\r\n"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Tables, Keeping,
+    testing::Values(
+        Case{
+            R"({\rtf1\trowd\cellx9\cellx19\pard\intbl a\par b\cell\qc c\cell\trowd\cellx9\row\pard d})",
+            "\\intbl\\f0\\fs24\\trowd\\cellx9\\cellx19 a\\par\r\nb\\cell"
+            "\\pard\\intbl\\qc c\\cell\\trowd\\cellx9\\row\r\n\\pard d\\par }\r\n"},
+        Case{
+            R"({\rtf1\pard\intbl\itap2 a\nestcell{\nonesttables\par}{\*\nesttableprops\trowd\cellx9\nestrow}\pard\intbl b\cell\row\pard c})",
+            "\\intbl\\itap2\\f0\\fs24 a\\nestcell\\pard\\intbl\\itap2"
+            "{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}{\\nonesttables\\par}\r\n"
+            "\\pard\\intbl b\\cell\\row\r\n\\pard c\\par }\r\n"},
+        Case{R"({\rtf1\pard\intbl a\cell b\cell\par\pard c})",
+             "\\f0\\fs24 a\\tab b\\tab\\par\r\nc\\par }\r\n"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Lists, Keeping,
+    testing::Values(
+        Case{R"({\rtf1\pard\ls1\fi-9{\listtext 1.\tab}a\par})",
+             "\\ls1\\ilvl0\\fi-9\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql"
+             "{\\listtext\\plain\\f0\\fs24 1.\\tab}\\f0\\fs24 a\\par }\r\n"},
+        Case{R"({\rtf1\pard{\pntext 1.\tab}{\*\pn\pnlvlbody\pnstart1}a\par})",
+             "{\\*\\pn\\pnlvlbody\\pnstart1}{\\pntext\\plain\\f0\\fs24 1.\\tab}\\f0\\fs24 a\\par "
+             "}\r\n"},
+        Case{R"({\rtf1\pard{\listtext 1.\tab}a\par})", "\\f0\\fs24 1.\\tab a\\par }\r\n"}));
+
+TEST(Keeping, KeepsTheHeadWithTheNumbersOfItsTables) {
+  const std::string written = WriteRtf(Read(
+      R"({\rtf1\ansi\ansicpg1251\deff7{\fonttbl{\f7\fcharset204 B;}{\f9\fcharset0 C;}}{\colortbl;\red1\green0\blue0;\red2\green0\blue0;}{\stylesheet{\s3\b\cf2 T;}}{\info{\title \'cf}}{\*\generator x;}\paperw9\sectd\pard\s3 \'cf})"));
+  EXPECT_EQ(written,
+            "{\\rtf1\\ansi\\ansicpg1251\\deff7\\deflang1036{\\fonttbl{\\f7\\fcharset204 B;}"
+            "{\\f9\\fcharset0 C;}}\r\n"
+            "{\\colortbl ;\\red1\\green0\\blue0;\\red2\\green0\\blue0;}\r\n"
+            "{\\stylesheet{\\s3\\b\\cf2 T;}}{\\info{\\title \\'cf}}\\paperw9\\sectd"
+            "{\\*\\generator Lumenote;}\\viewkind4\\uc1\\pard\\s3\\fi0\\li0\\ri0\\sb0\\sa0\\sl240"
+            "\\slmult1\\ql\\b\\cf2\\f7\\fs24\\u1055?\\par }\r\n");
+  EXPECT_EQ(WriteRtf(Read(written)), written);
+}
+
+TEST(Keeping, ASelectionLeavesTheHeadAndItsNumbersBehind) {
+  const Document document =
+      Read(R"({\rtf1{\info{\title t}}\pard\s1\ls2\keep{\listtext 1.\tab}a\par})");
+  const std::string part = WriteRtf(document, 0, document.Length());
+  EXPECT_EQ(part.find("title"), part.npos);
+  EXPECT_EQ(part.find("listtext"), part.npos);
+  EXPECT_EQ(TextOf(Read(part, RtfTarget::Selection)), "1.\ta");
+}
+
+TEST(Keeping, WhatAnEditLeavesOfARowIsText) {
+  Document document = Read(R"({\rtf1\trowd\cellx9\pard\intbl a\cell b\cell\row\pard c\par d})");
+  ASSERT_EQ(TextOf(document), "a\tb\nc\nd");
+  document.Replace(3, 5, Fragment());
+  EXPECT_EQ(Body(WriteRtf(document)), "\\f0\\fs24\\trowd\\cellx9 a\\tab bc\\par\r\nd\\par }\r\n");
+}
+
+TEST(Keeping, APageThatLostItsTextEndsBeforeAParagraph) {
+  Document document = Read(R"({\rtf1\pard a\page b})");
+  document.Replace(0, 1, Fragment());
+  EXPECT_EQ(TextOf(Read(WriteRtf(document))), TextOf(document));
+}
+
+}  // namespace
+}  // namespace lumenote
