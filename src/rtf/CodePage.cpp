@@ -48,7 +48,7 @@ std::u16string Decode1252(std::string_view bytes) {
 
 int ByteIn1252(char16_t unit) {
   if (unit < 0x80 || (unit >= 0xA0 && unit < 0x100)) return unit;
-  const std::u16string_view middle(UpperHalf(kPageOfWindows), 0x20);
+  static const std::u16string_view middle(UpperHalf(kPageOfWindows), 0x20);
   const std::size_t at = middle.find(unit);
   return at == std::u16string_view::npos ? -1 : static_cast<int>(0x80 + at);
 }

@@ -65,6 +65,22 @@ void Unpacker::Item(int kind) {
   }
 }
 
+/// The page that serves for another one.
+int OwnNumber(int number) {
+  switch (number) {
+    case 10001:
+      return 932;
+    case 10002:
+      return 950;
+    case 10003:
+      return 949;
+    case 10008:
+      return 936;
+    default:
+      return number;
+  }
+}
+
 }  // namespace
 
 DoubleBytePage::DoubleBytePage(const PackedPage& packed) : number_(packed.number) {
@@ -73,15 +89,16 @@ DoubleBytePage::DoubleBytePage(const PackedPage& packed) : number_(packed.number
 }
 
 bool DoubleBytePage::Is(int number) {
-  return std::any_of(std::begin(kDoubleBytePages), std::end(kDoubleBytePages),
-                     [number](const PackedPage& page) { return page.number == number; });
+  return std::any_of(
+      std::begin(kDoubleBytePages), std::end(kDoubleBytePages),
+      [own = OwnNumber(number)](const PackedPage& page) { return page.number == own; });
 }
 
 const DoubleBytePage* DoubleBytePage::Find(int number) {
   static std::array<std::unique_ptr<const DoubleBytePage>, std::size(kDoubleBytePages)> unpacked;
   static std::array<std::once_flag, std::size(kDoubleBytePages)> once;
   for (std::size_t i = 0; i < unpacked.size(); ++i) {
-    if (kDoubleBytePages[i].number != number) continue;
+    if (kDoubleBytePages[i].number != OwnNumber(number)) continue;
     std::call_once(once[i], [i] { unpacked[i].reset(new DoubleBytePage(kDoubleBytePages[i])); });
     return unpacked[i].get();
   }

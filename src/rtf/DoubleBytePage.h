@@ -1,4 +1,5 @@
-// The double-byte code pages 932, 936, 949 and 950.
+// The double-byte code pages 932, 936, 949 and 950, which also serve for the Macintosh's 10001,
+// 10008, 10003 and 10002: these differ in a few signs only.
 #pragma once
 #include <string>
 #include <string_view>
@@ -16,7 +17,7 @@ extern const PackedPage kDoubleBytePages[4];
 /// A page unpacked: a cell for each pair of a lead and a trail byte.
 class DoubleBytePage {
  public:
-  /// The page unpacked at its first use, or null when the number is not one of the four.
+  /// The page unpacked at its first use, or null when the number is none of these.
   static const DoubleBytePage* Find(int number);
   static bool Is(int number);
 

@@ -43,12 +43,16 @@ void Interpreter::Numbering(int, const Token&) {
 
 void Interpreter::Fonts(int, const Token&) {
   const std::size_t from = tokens_.At();
+  ++laid_;
   fonts_.Read(tokens_, formats_.fonts, documentPage_);
   head_.fontTable += KeptSource(tokens_.Source(from, tokens_.At()), State().fallback).Closed();
   UseDefaultFont(Outer());
 }
 
-void Interpreter::Colours(int, const Token&) { colours_.Read(tokens_); }
+void Interpreter::Colours(int, const Token&) {
+  ++laid_;
+  colours_.Read(tokens_);
+}
 
 void Interpreter::Lists(int, const Token&) {
   const std::size_t from = tokens_.Start();

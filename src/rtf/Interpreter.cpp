@@ -285,7 +285,8 @@ ParaId Interpreter::ParagraphNumber() {
   if (!state.paragraphKnown) {
     ParaFormat format = state.paragraph.Resolved();
     format.bullet = HasBullet();
-    if (target_ == RtfTarget::Document && state.paragraph.list >= 0) {
+    const bool listed = state.paragraph.list >= 0 && !state.paragraph.bullet;
+    if (target_ == RtfTarget::Document && listed) {
       format.list = static_cast<std::uint16_t>(std::min(state.paragraph.list, 0xFFFE) + 1);
       format.level = static_cast<std::uint8_t>(std::clamp(state.paragraph.level, 0, 0xFF));
     }

@@ -26,16 +26,22 @@ std::size_t PlainInto(std::u16string_view text, char* out) {
 
 }  // namespace
 
-Output::Output(const ByteSink& sink) : sink_(sink), buffer_(kPiece) {}
+Output::Output(const ByteSink& sink) : sink_(sink), buffer_(kPiece + kShort) {}
 
 void Output::Append(std::string_view source) {
-  while (!source.empty()) {
-    if (size_ == kPiece) Flush();
-    const std::size_t count = std::min(source.size(), kPiece - size_);
-    std::copy_n(source.data(), count, buffer_.data() + size_);
-    size_ += count;
-    source.remove_prefix(count);
-  }
+  if (source.size() > kShort) return AppendLong(source);
+  std::copy_n(source.data(), source.size(), buffer_.data() + size_);
+  Grow(source.size());
+}
+
+void Output::AppendLong(std::string_view source) {
+  for (; source.size() > kShort; source.remove_prefix(kShort)) Append(source.substr(0, kShort));
+  Append(source);
+}
+
+void Output::Grow(std::size_t count) {
+  size_ += count;
+  if (size_ >= kPiece) Flush();
 }
 
 void Output::Flush() {
@@ -44,17 +50,18 @@ void Output::Flush() {
 }
 
 void Output::Word(std::string_view name) {
-  if (size_ == kPiece) Flush();
-  buffer_[size_++] = '\\';
-  Append(name);
+  buffer_[size_] = '\\';
+  std::copy_n(name.data(), name.size(), buffer_.data() + size_ + 1);
+  Grow(name.size() + 1);
   openWord_ = true;
 }
 
 void Output::Word(std::string_view name, int number) {
-  char digits[12];
-  const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+  constexpr std::size_t kLongestNumber = 11;
   Word(name);
-  Append({digits, end});
+  char* const digits = buffer_.data() + size_;
+  Grow(static_cast<std::size_t>(std::to_chars(digits, digits + kLongestNumber, number).ptr -
+                                digits));
 }
 
 void Output::Words(std::string_view source) {
@@ -71,7 +78,9 @@ void Output::Raw(std::string_view source) {
 void Output::Hex(int byte) {
   constexpr char kDigits[] = "0123456789abcdef";
   const char escape[] = {'\\', '\'', kDigits[byte >> 4], kDigits[byte & 15]};
-  Raw({escape, sizeof escape});
+  std::copy_n(escape, sizeof escape, buffer_.data() + size_);
+  Grow(sizeof escape);
+  openWord_ = false;
 }
 
 void Output::Unicode(char16_t unit) {
@@ -84,12 +93,13 @@ std::size_t Output::Plain(std::u16string_view text) {
   if (openWord_) Raw(" ");
   std::size_t done = 0;
   std::size_t count = 0;
+  std::size_t room = 0;
   do {
-    if (size_ == kPiece) Flush();
-    count = PlainInto(text.substr(done, kPiece - size_), buffer_.data() + size_);
-    size_ += count;
+    room = kPiece + kShort - size_;
+    count = PlainInto(text.substr(done, room), buffer_.data() + size_);
+    Grow(count);
     done += count;
-  } while (size_ == kPiece && count > 0);
+  } while (count == room);
   return done;
 }
 

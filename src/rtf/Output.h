@@ -14,7 +14,7 @@ class Output {
  public:
   explicit Output(const ByteSink& sink);
 
-  /// A control word, without its backslash.
+  /// A control word, without its backslash; no longer than words are.
   void Word(std::string_view name);
   void Word(std::string_view name, int number);
   /// Control words with their backslashes, and groups between and behind them.
@@ -31,8 +31,11 @@ class Output {
 
  private:
   static constexpr std::size_t kPiece = std::size_t{1} << 16;
+  static constexpr std::size_t kShort = 256;  // there is always room for as many bytes
 
   void Append(std::string_view source);
+  void AppendLong(std::string_view source);
+  void Grow(std::size_t count);
 
   const ByteSink& sink_;
   std::vector<char> buffer_;

@@ -2,7 +2,6 @@
 #include "rtf/WrittenFormats.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstdlib>
 
 #include "base/Strings.h"
@@ -12,6 +11,7 @@ namespace lumenote {
 namespace {
 
 constexpr int kTwipsPerHalfPoint = 10;
+constexpr int kWildNumber = 1'000'000;  // fonts are never numbered so high in earnest
 
 /// Rounded away from zero.
 int HalfPoints(int twips) {
@@ -57,7 +57,7 @@ WrittenFormats::WrittenFormats(const FormatTables& tables, const KeptHead& head)
   for (const KeptHead::Font& font : head.fonts) {
     const std::uint32_t known = faces_.Size();
     faces_.Intern(tables.fonts[font.font]);
-    nextFont_ = font.number == INT_MAX ? font.number : std::max(nextFont_, font.number + 1);
+    if (font.number < kWildNumber) nextFont_ = std::max(nextFont_, font.number + 1);
     if (faces_.Size() != known)
       fonts_.push_back({font.number, EncodingOf(font.page == 0 ? head.page : font.page)});
   }
