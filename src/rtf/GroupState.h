@@ -43,7 +43,7 @@ struct GroupState {
 
   FieldId field = 0;               // the innermost one, 0 none
   KeptId inField = 0;              // what is kept with a character in that field
-  int fieldDepth = 0;              // fields around each other
+  int openFields = 0;              // fields around each other
   std::size_t fieldAt = kNowhere;  // offset of the \field whose result is still to come
   std::size_t laidBefore = 0;      // what the reader had laid down when that field began
   std::size_t pendingBefore = 0;   // and what it had kept for the next character

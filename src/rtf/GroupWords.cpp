@@ -54,13 +54,17 @@ void Interpreter::Colours(int, const Token&) {
   colours_.Read(tokens_);
 }
 
+// Lists that come behind the first text would be others when the note is written and read again.
+
 void Interpreter::Lists(int, const Token&) {
+  if (begun_) return tokens_.SkipGroup();
   const std::size_t from = tokens_.Start();
   lists_.ReadLists(tokens_);
   KeepInHead(GroupSource(from));
 }
 
 void Interpreter::ListOverrides(int, const Token&) {
+  if (begun_) return tokens_.SkipGroup();
   const std::size_t from = tokens_.Start();
   lists_.ReadOverrides(tokens_);
   KeepInHead(GroupSource(from));

@@ -251,6 +251,8 @@ void Interpreter::PlaceMarker() {
   Interpret();
   placingMarker_ = false;
   pending_ += behind;
+  borderOf_ = WordScope::None;
+  associatedWith_ = {};
   tokens_ = tokens;
   outermost_ = outermost;
   uncounted_ = uncounted;

@@ -130,6 +130,7 @@ class Interpreter {
   /// Takes note that text or a break is laid down.
   void Lay() {
     ++laid_;
+    begun_ = true;
     borderOf_ = WordScope::None;
   }
   void BreakAs(Kept kept);
@@ -176,7 +177,8 @@ class Interpreter {
   WordScope borderOf_ = WordScope::None;
   std::string_view associatedWith_;  // the last marker
   std::size_t wordsLeft_;            // bytes of words that may still be kept
-  bool inHead_ = true;               // nothing of the text has come yet
+  bool inHead_ = true;               // nothing of the body has come yet
+  bool begun_ = false;               // text has come
   KeptHead head_;
 
   int swallow_ = 0;          // characters still to pass over behind a \u

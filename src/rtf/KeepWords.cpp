@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::u16string_view kObjectCharacter = u"\uFFFC";
 constexpr std::size_t kMostWords = 512;  // bytes of the kept words of one format
-constexpr int kDeepestField = 32;
+constexpr int kDeepestField = 32;  // fields in each other; what is deeper in keeps its text alone
 constexpr std::string_view kOwnName = "Lumenote";
 
 /// Words of the head that the writer gives itself.
@@ -84,7 +84,7 @@ void Interpreter::KeepUnknown(const Token& word) {
 
 void Interpreter::KeepSource(const std::string& source) { pending_ += source; }
 
-/// Tables that stand among the text serve all of it.
+/// A table of the head that has been read, be it behind the first words of the body.
 void Interpreter::KeepInHead(const std::string& source) {
   ++laid_;
   if (inHead_)
@@ -134,6 +134,8 @@ void Interpreter::KeepTable(int, const Token&) {
 
 void Interpreter::Field(int, const Token&) {
   GroupState& state = State();
+  if (state.openFields == kDeepestField) return;
+  ++state.openFields;
   state.fieldAt = tokens_.Start();
   state.laidBefore = laid_;
   state.pendingBefore = pending_.size();
@@ -152,8 +154,6 @@ void Interpreter::FieldResult(int, const Token&) {
 /// What the group at hand holds from now on is in the field.
 void Interpreter::EnterField(KeptField field) {
   GroupState& state = State();
-  if (state.fieldDepth == kDeepestField) return;
-  ++state.fieldDepth;
   field.outer = state.field;
   field.serial = formats_.fields.Size();
   state.field = formats_.fields.Intern(field);

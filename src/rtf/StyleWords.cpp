@@ -9,7 +9,7 @@ namespace lumenote {
 void Interpreter::Styles(int, const Token&) {
   const std::size_t from = tokens_.Start();
   styles_.Read(tokens_);
-  KeepInHead(GroupSource(from));
+  if (!begun_) KeepInHead(GroupSource(from));
 }
 
 void Interpreter::ParagraphStyle(int, const Token& word) {

@@ -202,8 +202,8 @@ std::size_t WrittenBody::Instead(const Kept& kept, char16_t unit) {
   if (endsCell) {
     ++cell_;
     begun_ = false;
+    if (kept.instead.find("\\pard") != std::string::npos) told_ = {};
   }
-  if (kept.instead.find("\\pard") != std::string::npos) told_ = {};
   filled_ = true;
   if (unit != u'\r') return 1;
   out_.Raw("\r\n");
