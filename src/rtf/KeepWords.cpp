@@ -224,7 +224,7 @@ HeadId Interpreter::Head() {
       head_.fonts.push_back({number, font.font, font.page});
     std::ranges::sort(head_.fonts, {}, &KeptHead::Font::number);
     head_.colours = colours_.All();
-    head_.page = documentPage_;
+    if (head_.fontTable.empty()) head_.page = documentPage_;
     head_.defaultFont = std::max(defaultFont_, 0);
   } else {
     head_.fontTable.clear();

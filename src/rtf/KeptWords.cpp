@@ -38,13 +38,21 @@ constexpr Names kScripts[] = {"loch", "hich", "dbch"};
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
+/// Whether a place in `words` lies in the group of a numbering.
+bool InGroup(const std::string& words, std::size_t at) {
+  const auto end = words.begin() + static_cast<std::ptrdiff_t>(at);
+  return std::count(words.begin(), end, '{') > std::count(words.begin(), end, '}');
+}
+
 /// Where the word called `name` stands in `words`, or npos.
 std::size_t Find(Names name, const std::string& words) {
   const std::string word = "\\" + std::string(name);
-  std::size_t at = words.find(word);
-  while (at != words.npos && at + word.size() < words.size() && IsLetter(words[at + word.size()]))
-    at = words.find(word, at + 1);
-  return at;
+  for (std::size_t at = words.find(word); at != words.npos; at = words.find(word, at + 1)) {
+    const std::size_t end = at + word.size();
+    const bool whole = end == words.size() || !IsLetter(words[end]);
+    if (whole && !InGroup(words, at)) return at;
+  }
+  return words.npos;
 }
 
 /// Where the first of the words stands behind `from`, or the end.
