@@ -67,7 +67,9 @@ INSTANTIATE_TEST_SUITE_P(
     Groups, ReaderText,
     testing::Values(
         Case{R"({\rtf1{\info{\title T}}{\stylesheet{\s1 Normal;}}{\*\what ever{x}}a})", "a"},
-        Case{R"({\rtf1{\header h}{\footerf f}b{\footnote n}c})", "b\uFFFC" "c"},
+        Case{R"({\rtf1{\header h}{\footerf f}b{\footnote n}c})",
+             "b\uFFFC"
+             "c"},
         Case{
             R"({\rtf1{\field{\*\fldinst HYPERLINK "x"}{\fldrslt L{\field{\fldinst P}{\fldrslt 7}}M}}B})",
             "L7MB"},
