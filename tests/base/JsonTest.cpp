@@ -72,13 +72,5 @@ TEST(Json, ComparesByStructure) {
   for (const auto& c : kDifferent) EXPECT_FALSE(Read(c.first) == Read(c.second)) << c.first;
 }
 
-TEST(Json, FindsMembers) {
-  const Value value = Read("{\"é\":1}");
-  ASSERT_NE(value.Find("é"), nullptr);
-  EXPECT_EQ(*value.Find("é"), Value(1));
-  EXPECT_EQ(value.Find("e"), nullptr);
-  EXPECT_EQ(Value(1).Find("e"), nullptr);
-}
-
 }  // namespace
 }  // namespace lumenote

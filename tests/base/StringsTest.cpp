@@ -44,15 +44,6 @@ TEST(Strings, Helpers) {
   EXPECT_EQ(WithCrLf(u"\n\r\r\n\n"), u"\r\n\r\n\r\n\r\n");
 }
 
-TEST(Strings, HexadecimalUnits) {
-  EXPECT_EQ(UnitFromHex("00e9xyz"), u'é');
-  EXPECT_EQ(UnitFromHex("FFFF"), u'\xFFFF');
-  for (const char* text : {"", "12", "12g4", "-123", "+123", "0x12", " 123"}) {
-    EXPECT_EQ(UnitFromHex(text), std::nullopt) << text;
-  }
-  EXPECT_EQ(HexOfUnit(u'é'), "00e9");
-}
-
 TEST(RuntimeErrors, CarryNumberAndFrenchDescription) {
   const RuntimeError error(ErrorNumber::PathAccess);
   EXPECT_EQ(error.Number(), 75);

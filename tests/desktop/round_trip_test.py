@@ -100,6 +100,16 @@ class RoundTrip(Desktop):
         self.send_to_word()
         self.check_return()
 
+    def test_a_program_that_crashes_while_it_saves(self):
+        self.link(self.script("word", """printf '{\\\\rtf1 caf' > "$1"; kill -9 $$"""))
+        self.open_editor()
+        self.send_to_word()
+        box = self.wait(lambda: self.window("microedit"), "the message")
+        self.keys(box, "Return")
+        self.choose("q")
+        self.assertEqual(self.editor.wait(timeout=60), 0, self.log())
+        self.assertEqual(self.text(), "café gras\nfin\n")
+
     def test_an_editor_that_closes_first(self):
         self.link(self.script("word", f"while [ ! -e '{self.home}/go' ]; do sleep 0.05; done",
                               "sed -i 's/fin/fin retour/' \"$1\""))

@@ -42,29 +42,6 @@ TEST(Document, MovesEdgesOutOfPairs) {
   EXPECT_EQ(document.Text(0, 99), u"ax\r\nb\U0001F33C");
 }
 
-TEST(Document, VisitsTheParagraphsThatARangeTouches) {
-  Document document;
-  FragmentBuilder builder;
-  for (ParaId paragraph : {1, 2, 3}) {
-    builder.Append(u"ab", 0);
-    builder.AppendBreak(0, paragraph);
-  }
-  builder.Append(u"end", 0);
-  Fragment fragment = builder.Finish();
-  fragment.mark = FinalMark{0, 9};
-  EXPECT_EQ(document.Replace(0, 0, fragment).mark, FinalMark{});
-  struct Case {
-    Position from, to;
-    std::vector<ParaId> paragraphs;
-  };
-  for (const Case& c : {Case{0, 0, {1}}, Case{0, 4, {1}}, Case{3, 5, {1, 2}}, Case{4, 4, {2}},
-                        Case{2, 8, {1, 2}}, Case{9, 99, {3, 9}}, Case{15, 15, {9}}}) {
-    std::vector<ParaId> visited;
-    document.ForEachParagraph(c.from, c.to, [&](ParaId id) { visited.push_back(id); });
-    EXPECT_EQ(visited, c.paragraphs) << c.from << ".." << c.to;
-  }
-}
-
 TEST(Document, MapsEachFormatOnceAndSharesTheText) {
   Document document;
   for (std::uint16_t size : {30, 40}) document.Formats().characters.Intern({.size = size});
@@ -97,15 +74,6 @@ TEST(Document, RefusesToOutgrowAPosition) {
   document.Replace(1, 2, twice);
   EXPECT_EQ(document.Length(), LeafList::kMost);
   EXPECT_THROW(document.Replace(0, 0, PlainFragment(u"x", 0, 0)), RuntimeError);
-}
-
-TEST(PlainFragment, MakesEveryLineEndABreak) {
-  EXPECT_EQ(PlainFragment(u"", 0, 0).Length(), 0);
-  Document document;
-  document.Replace(0, 0, PlainFragment(u"\ra\r\n\nb\n\r\n", 0, 4));
-  EXPECT_EQ(document.Text(0, 99), u"\r\na\r\n\r\nb\r\n\r\n");
-  EXPECT_EQ(document.ParagraphCount(), 6);
-  EXPECT_EQ(document.ParaFormatAt(3), 4u);
 }
 
 TEST(FragmentBuilder, KeepsPairsInOneLeaf) {

@@ -6,17 +6,6 @@
 namespace lumenote {
 namespace {
 
-TEST(InternTable, NumbersEachValueOnce) {
-  FormatTables tables;
-  EXPECT_EQ(tables.characters.Intern({}), 0u);
-  const std::uint32_t bold = tables.characters.Intern({.effects = kBold});
-  EXPECT_EQ(bold, 1u);
-  EXPECT_EQ(tables.characters.Intern({.effects = kItalic}), 2u);
-  EXPECT_EQ(tables.characters.Intern({.effects = kBold}), bold);
-  EXPECT_EQ(tables.characters[bold].effects, kBold);
-  EXPECT_EQ(tables.characters.Size(), 3u);
-}
-
 TEST(InternTable, TellsMembersApart) {
   FormatTables tables;
   EXPECT_EQ(tables.fonts.Intern({u"Arial", 0, 2, 0}), 1u);

@@ -26,20 +26,6 @@ class ProgramTableTest : public testing::Test {
   PosixSandbox sandbox;
 };
 
-TEST_F(ProgramTableTest, NamesFoldersAndFilesOfAnEmptyMachine) {
-  const ProgramTable table = Find();
-  EXPECT_EQ(table.dossierDocuments, u"C:\\Documents");
-  EXPECT_EQ(table.dossierProgrammes, u"C:\\Program Files");
-  EXPECT_EQ(table.dossierTemp, u"C:\\Temp");
-  EXPECT_EQ(table.tmpFileCD, u"C:\\Temp\\TmpFileCD.Txt");
-  std::u16string names;
-  for (const ProgramTable::Row& row : table.rows) {
-    names += row.name + u" ";
-    EXPECT_EQ(row.path, u"");
-  }
-  EXPECT_EQ(names, u"Qjot Atlantis WinWord ReadIris FineReader ");
-}
-
 TEST_F(ProgramTableTest, TheFirstCandidateGoesBeforeTheFallback) {
   sandbox.WriteRegistry(kWordClass, u"", u"{1}");
   sandbox.WriteRegistry(kWordServer, u"", u"\"C:\\\\Office\\WINWORD.EXE /automation\"");

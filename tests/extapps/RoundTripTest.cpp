@@ -94,31 +94,6 @@ class RoundTripTest : public testing::Test, public RoundTripDesk {
   int reloads = 0;
 };
 
-TEST_F(RoundTripTest, EachStateDoesItsPart) {
-  Open(u"C:\\n\\a.txt");
-  Editor().Document().Text(u"apr\u00E8s");
-  disk.Write(u"C:\\Temp\\Sava.rtf", "old");
-  disk.Write(u"C:\\Documents\\SavNotes.doc", "old");
-  exchange->mnuPopQjot_Click();
-  Tick(2);
-  EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.rtf"));
-  EXPECT_FALSE(disk.Exists(u"C:\\Documents\\SavNotes.doc"));
-  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
-  Tick(1);
-  EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.txt"), "apr\xE8s");
-  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "apr\xE8s");
-  Tick(11);
-  EXPECT_NE(exchange->DateTravail(), u"");
-  EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts());
-  Tick(1);
-  EXPECT_FALSE(Values().onTop);
-  FinishAfter();
-  EXPECT_FALSE(disk.Exists(u"C:\\Temp\\Sava.txt"));
-  EXPECT_EQ(Editor().Document().Text(), u"apr\u00E8s");
-  EXPECT_EQ(reloads, 1);
-  EXPECT_TRUE(Values().onTop);
-}
-
 TEST_F(RoundTripTest, WhatTheProgramSavedComesBack) {
   const struct {
     void (RoundTrip::*begin)();
@@ -247,16 +222,6 @@ TEST_F(RoundTripTest, AFailedStartIsAnErrorAndTheWatchGoesOn) {
   Tick(14);
   EXPECT_FALSE(watching);
   EXPECT_EQ(reloads, 1);
-}
-
-TEST_F(RoundTripTest, AnOcrProgramStartsAndTheEditorStaysBelow) {
-  Open(u"C:\\n\\a.txt");
-  Editor().RetablirDessus();
-  OuvrirOcr(Editor(), sandbox.Programs(), u"");
-  EXPECT_TRUE(Values().onTop);
-  OuvrirOcr(Editor(), sandbox.Programs(), kQjotPath);
-  EXPECT_FALSE(Values().onTop);
-  EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts{u"\"" + kQjotPath + u"\""});
 }
 
 }  // namespace

@@ -128,18 +128,6 @@ TEST_F(PilotTest, LinesRunInsideAModalWindowWhichLocksTheOthers) {
             "true\n" + kDisabled + kDisabled + kError + "true\n");
 }
 
-TEST_F(PilotTest, AScriptThatEndsInsideClosesFromTheTop) {
-  first.Show();
-  first.Clicked = [&] {
-    second.ShowModal();
-    log += "returned;";
-  };
-  Run("click Co_Trouver.lbl\n");
-  EXPECT_EQ(log,
-            "activate Co_Trouver;activate Co_Paragraph;end;unload Co_Paragraph;"
-            "activate Co_Trouver;returned;unload Co_Trouver;");
-}
-
 TEST_F(PilotTest, AWindowThatCannotBeClosedDoesNotHoldTheEndUp) {
   first.Show();
   first.Clicked = [&] { backend.RunUntil([] { return false; }); };
@@ -156,19 +144,6 @@ TEST_F(PilotTest, AnActActivatesItsWindowFirst) {
       "1 0 0\nactivate Co_Trouver\n");
   EXPECT_TRUE(log.starts_with("activate Co_Trouver;activate Co_Paragraph;activate Co_Trouver;end;"))
       << log;
-}
-
-TEST_F(PilotTest, TimersTickInTheOrderOfTime) {
-  const auto note = [&](const char* what) { return [this, what] { log += what; }; };
-  first.slow.Tick = note("s");
-  first.slow.Interval(20);
-  first.slow.Enabled(true);
-  first.fast.Tick = note("f");
-  first.fast.Interval(10);
-  first.fast.Enabled(true);
-  first.Load();
-  Run("tick 9\ntick 1\ntick 15\ntick 5\n");
-  EXPECT_TRUE(log.starts_with("fsffend;")) << log;
 }
 
 TEST_F(PilotTest, ATimerArmedAnewInItsTickCountsFromThen) {

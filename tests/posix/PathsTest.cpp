@@ -7,18 +7,6 @@
 namespace lumenote {
 namespace {
 
-TEST(Paths, WhatIsAPath) {
-  for (const std::u16string_view text :
-       {u"C:\\a.txt", u"z:\\notes\\a.rtf", u"1:\\     ", u"é:\\12345"}) {
-    EXPECT_TRUE(IsDrivePath(text)) << testing::PrintToString(text);
-  }
-  for (const std::u16string_view text :
-       {u"", u"C:\\a.tx", u"C:/notes/a.txt", u"\\\\host\\share\\a.txt", u"notes\\a.txt",
-        u" C:\\a.txt"}) {
-    EXPECT_FALSE(IsDrivePath(text)) << testing::PrintToString(text);
-  }
-}
-
 TEST(Paths, Parts) {
   const struct {
     std::u16string_view path, parent, name, base;

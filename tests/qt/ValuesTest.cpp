@@ -32,13 +32,6 @@ TEST(WindowGeometryTest, NeverWritesRoundedPixelsBack) {
   EXPECT_EQ(geometry.Moved({340, 250}, kPlace), std::nullopt) << "the window manager";
 }
 
-TEST(WindowGeometryTest, AddsWhatTheUserDragged) {
-  WindowGeometry geometry;
-  geometry.Asked(kPlace);
-  geometry.Resized({369, 263}, kPlace);
-  EXPECT_EQ(geometry.Resized({379, 243}, kPlace), (Rect{5000, 3250, 5800, 4050}));
-}
-
 struct KeyCase {
   int key;
   Qt::KeyboardModifiers modifiers;

@@ -27,26 +27,6 @@ struct WindowTest : testing::Test {
   std::unique_ptr<TestForm> form = std::make_unique<TestForm>(windows);
 };
 
-TEST_F(WindowTest, FollowsEveryChangeOfState) {
-  form->Caption(u"Autre titre");
-  form->BackColor(0x204060);
-  form->OnTop(true);
-  form->Width(7777);
-  form->frame.Caption(u"Autre cadre");
-  form->label.Caption(u"RTF");
-  form->label.Visible(false);
-  form->box.Enabled(false);
-  form->box.Left(99);
-  form->bar.Panel(2, u"prêt");
-  form->popup.Visible(true);
-  form->cut.Checked(true);
-  form->more.Enabled(false);
-  EXPECT_EQ(Differences(), none);
-  form->OnTop(false);
-  form->popup.Visible(false);
-  EXPECT_EQ(Differences(), none);
-}
-
 TEST_F(WindowTest, NoticesADifference) {
   Native().setWindowTitle(QStringLiteral("?"));
   EXPECT_EQ(Differences(), std::vector<std::string>{"TestForm.Caption"});
@@ -66,38 +46,6 @@ TEST_F(WindowTest, KeepsTwipsThatAreNoWholePixels) {
   EXPECT_EQ(form->Width(), 7000);
   EXPECT_EQ(form->Height(), 5001);
   EXPECT_EQ(Differences(), none);
-}
-
-TEST_F(WindowTest, KeysReachTheDocument) {
-  acts.Type(form->box, u"un deux\r\ntrois \U0001F33F");
-  EXPECT_EQ(form->box.Surface().Text(), u"un deux\r\ntrois \U0001F33F");
-  acts.Key(form->box, *ParseKey(u"BackSpace"));
-  acts.Key(form->box, *ParseKey(u"Ctrl+Z"));
-  EXPECT_EQ(form->box.Surface().Text(), u"un deux\r\ntrois \U0001F33F");
-  form->box.Locked(true);
-  acts.Type(form->box, u"x");
-  acts.Key(form->box, *ParseKey(u"Delete"));
-  acts.Key(form->box, *ParseKey(u"Home"));
-  EXPECT_EQ(form->box.Surface().Text(), u"un deux\r\ntrois \U0001F33F");
-  EXPECT_EQ(form->box.Surface().SelStart(), 9);
-  EXPECT_EQ(Differences(), none);
-}
-
-TEST_F(WindowTest, DraggingMovesTextAsOneStep) {
-  form->box.Surface().Text(u"un deux trois");
-  acts.Drag(form->box, 0, 3, 8);
-  EXPECT_EQ(form->box.Surface().Text(), u"deux un trois");
-  EXPECT_EQ(form->box.Surface().UndoType(), UndoKind::DragDrop);
-}
-
-TEST_F(WindowTest, MouseEventsComeInTwips) {
-  std::vector<MouseEvent> seen;
-  form->box.MouseUp = [&](const MouseEvent& event) { seen.push_back(event); };
-  acts.Mouse(form->box, UserActs::MouseAct::Up, {MouseButton::Right, {100, 250}});
-  ASSERT_EQ(seen.size(), 1u);
-  EXPECT_EQ(seen[0].button, MouseButton::Right);
-  EXPECT_NEAR(seen[0].at.x, 100, 0.01);
-  EXPECT_NEAR(seen[0].at.y, 250, 0.01);
 }
 
 TEST_F(WindowTest, ClickAndShiftClickSelect) {
@@ -135,19 +83,6 @@ TEST_F(WindowTest, ComposedTextIsShownAndThenTyped) {
 
 // --- menus
 
-TEST_F(WindowTest, MenusClickAndOpen) {
-  std::vector<std::string> events;
-  form->cut.Click = [&] { events.push_back("cut"); };
-  form->more.Click = [&] { events.push_back("more"); };
-  form->cut.Checked(true);
-  acts.Choose(form->cut);
-  acts.Open(form->more);
-  form->cut.Enabled(false);
-  acts.Choose(form->cut);
-  EXPECT_EQ(events, (std::vector<std::string>{"cut", "more"}));
-  EXPECT_EQ(Differences(), none) << "the toolkit's own toggling of the mark must not show";
-}
-
 TEST_F(WindowTest, APopupOpensOnceAndEndsWithTheWindow) {
   int opened = 0;
   form->popup.Click = [&] { ++opened; };
@@ -162,21 +97,6 @@ TEST_F(WindowTest, APopupOpensOnceAndEndsWithTheWindow) {
 }
 
 // --- life
-
-TEST_F(WindowTest, TheWindowMayGoDuringItsOwnEvents) {
-  form->Released = [&] { form.reset(); };
-  form->cut.Click = [&] { form->Unload(); };
-  acts.Choose(form->cut);
-  EXPECT_FALSE(form);
-  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
-
-TEST_F(WindowTest, TheCloseBoxLeavesTheDecisionToTheForm) {
-  acts.Close(*form);
-  EXPECT_FALSE(form->IsLoaded());
-  form->Show();
-  EXPECT_EQ(Differences(), none) << "it can be shown again";
-}
 
 TEST_F(WindowTest, OnlyChangesBetweenWindowsActivate) {
   TestForm other(windows, "Other");

@@ -5,7 +5,6 @@
 #include "backends/headless/FixedBreaker.h"
 #include "base/Strings.h"
 #include "document/LineTable.h"
-#include "surface/SurfaceContract.h"
 
 namespace lumenote {
 namespace {

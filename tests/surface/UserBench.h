@@ -1,13 +1,22 @@
-// A document surface with everything around it, for tests of what only it has.
+// A document surface with everything around it, and texts in which the selection is marked.
 #pragma once
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "backends/headless/FixedBreaker.h"
 #include "base/Strings.h"
 #include "surface/DocumentSurface.h"
-#include "surface/SurfaceContract.h"
+#include "surface/Fakes.h"
 
 namespace lumenote {
+
+/// Text in tables: "|" is the caret, "^" the other end of a selection, "¶" a paragraph break, "↓" a
+/// line break.
+std::u16string Unmarked(std::u16string_view marked);
+std::u16string Marked(std::u16string text, Position anchor, Position caret);
+/// Where the marks stand in the text without them: {anchor, caret}.
+std::pair<Position, Position> MarksOf(std::u16string_view marked);
 
 struct ViewLog final : SurfaceView {
   std::vector<DocumentChange> changes;

@@ -30,8 +30,9 @@ TEST(UserDoor, RunsOfTypingAndDeletingAreSteps) {
                       {u"|abc", u"Delete Delete", u"|c <2 |abc"},
                       {u"a^b|c", u"Delete", u"a|c <2 a^b|c"},
                       {u"|", u"a b BackSpace", u"a| <2 ab| <1 |"},
+                      {u"ab|c", u"BackSpace Delete", u"a| <2 ab|c"},
                       {u"|", u"Tab Space", u"\t | <1 |"},
-                      {u"a^b|c", u"Ctrl+x Ctrl+v", u"ab|c <5 a|c <4 a^b|c"}};
+                      {u"a^b|c", u"Ctrl+x Ctrl+v Ctrl+v", u"abb|c <5 ab|c <5 a|c <4 a^b|c"}};
   for (const Row& row : rows) {
     UserBench bench;
     bench.Put(row.before);
@@ -144,18 +145,6 @@ TEST(UserDoor, ViewHearsOfEachActOnce) {
   const std::size_t before = bench.view.changes.size();
   bench.surface.UserSelect(3, 3);
   EXPECT_EQ(bench.view.changes.size(), before);
-}
-
-TEST(UserDoor, BaseFontIsTheDocumentsDefault) {
-  UserBench bench;
-  EXPECT_EQ(bench.surface.BaseFontName(), u"Arial");
-  bench.surface.TextRTF(
-      u"{\\rtf1\\deff1{\\fonttbl{\\f0 Arial;}{\\f1{\\*\\falt \\{x}Courier New;}}\\f0 a\\par}");
-  EXPECT_EQ(bench.surface.BaseFontName(), u"Courier New");
-  bench.surface.TextRTF(u"{\\rtf1{\\fonttbl");
-  EXPECT_EQ(bench.surface.BaseFontName(), u"Arial");
-  bench.surface.TextRTF(u"{\\rtf1 abc}");
-  EXPECT_EQ(bench.surface.BaseFontName(), u"Arial");
 }
 
 TEST(UserDoor, DoubleClickTakesAWord) {
