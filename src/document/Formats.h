@@ -164,12 +164,12 @@ struct KeptHead {
     int page = 0;  // of its bytes; 0: the document's
     bool operator==(const Font&) const = default;
   };
-  std::string source;           // words and groups, the tables excepted
-  bool tables = false;          // something kept names entries of the tables: they are kept too
-  std::string fontTable;        // what stands in its group
-  std::vector<Font> fonts;      // by rising number
-  std::vector<Colour> colours;  // by their numbers
-  int page = 1252;              // of bytes under no font of another one
+  std::string source{};           // words and groups, the tables excepted
+  bool tables = false;            // something kept names entries of the tables: they are kept too
+  std::string fontTable{};        // what stands in its group
+  std::vector<Font> fonts{};      // by rising number
+  std::vector<Colour> colours{};  // by their numbers
+  int page = 1252;                // of bytes under no font of another one
   int defaultFont = 0;
   bool operator==(const KeptHead&) const = default;
 };

@@ -227,7 +227,7 @@ HeadId Interpreter::Head() {
     if (head_.fontTable.empty()) head_.page = documentPage_;
     head_.defaultFont = std::max(defaultFont_, 0);
   } else {
-    head_.fontTable.clear();
+    head_ = {.source = std::move(head_.source)};
   }
   return formats_.heads.Intern(head_);
 }

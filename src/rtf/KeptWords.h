@@ -19,6 +19,7 @@ enum class WordScope : std::uint8_t {
 
 /// The scope of a word by the family that its name begins with.
 WordScope FamilyScope(std::string_view word);
+
 // How other scripts look in a run is told in parts, each a marker and the words that hold for it:
 // for the directions (\rtlch, \ltrch), and behind these for the scripts (\loch, \hich, \dbch). The
 // last one of each kind is the run's own.

@@ -32,6 +32,8 @@ TEST_F(ProgramTableTest, TheFirstCandidateGoesBeforeTheFallback) {
   sandbox.WriteRegistry(u"Software\\I.R.I.S.\\Readiris\\10.0", u"path", u"C:\\Iris\\");
   sandbox.WriteRegistry(u"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\FineReader.exe",
                         u"Path", u"C:\\Fine");
+  EXPECT_EQ(Find().dossierDocuments, u"C:\\Documents");
+  EXPECT_EQ(Find().tmpFileCD, u"C:\\Temp\\TmpFileCD.Txt");
   const struct {
     Program program;
     std::u16string fallback;

@@ -64,12 +64,8 @@ TEST(ApplyListCorr, AppliesPairsInFileOrder) {
     std::u16string_view text, result;
     int error;
   } rows[] = {
-      {"a=:=b\r\nb=:=c\r\n", u"a b", u"c c", 0},
-      {"b=:=c\r\na=:=b\r\n", u"a b", u"b c", 0},
-      {"a=:=b=:=c\r\n", u"a", u"b=:=c", 0},
-      {"=:=x\r\nteh=:=the", u"Teh", u"the", 0},
-      {"a=:=\r\n", u"xay", u"xy", 0},
-      {"a=:=b\r\n\r\nc=:=d\r\n", u"a c", u"b c", 5},
+      {"a=:=b\r\nb=:=c\r\n", u"a b", u"c c", 0}, {"b=:=c\r\na=:=b\r\n", u"a b", u"b c", 0},
+      {"=:=x\r\nteh=:=the", u"Teh", u"the", 0},  {"a=:=b\r\n\r\nc=:=d\r\n", u"a c", u"b c", 5},
       {"a=:=b\r\nno pair\r\n", u"a", u"b", 5},
   };
   for (const auto& row : rows) {
@@ -83,39 +79,12 @@ TEST(ApplyListCorr, AppliesPairsInFileOrder) {
   EXPECT_EQ(note.surface.Text(), u"a");
 }
 
-TEST(NettoyerTexte, GivesTheWholeNoteOneFormat) {
-  Note note(u"un ,deux\r\ntrois");
-  RichTextSurface& s = note.surface;
-  s.SelLength(4);
-  s.SelFontSize(20);
-  s.RightMargin(3000);
-  NettoyerTexte(s, note.files, kList);
-  EXPECT_EQ(s.SelText(), u"un, deux\r\ntrois");
-  EXPECT_EQ(s.SelLength(), static_cast<Position>(s.Text().size()));
-  EXPECT_EQ(s.SelFontSize(), 11.0F);
-  EXPECT_EQ(s.SelFontName(), u"Times New Roman");
-  EXPECT_EQ(LineSpacing(s), 20);
-  EXPECT_EQ(s.SelIndent(), 150);
-  EXPECT_EQ(s.SelHangingIndent(), -150);
-  EXPECT_EQ(s.RightMargin(), 0.0F);
-  EXPECT_EQ(SpaceBefore(s), 60);
-}
-
 TEST(NettoyerTexte, StopsAtABadLineBeforeEverythingElse) {
   Note note(u"a,b");
   note.files.Write(kList, "a=:=c\r\nbad");
   EXPECT_EQ(ErrorOf([&] { NettoyerTexte(note.surface, note.files, kList); }), 5);
   EXPECT_EQ(note.surface.Text(), u"c,b");
   EXPECT_NE(note.surface.SelFontSize(), 11.0F);
-}
-
-TEST(NettoyerTexte, IsASeriesOfUndoSteps) {
-  Note note;
-  note.surface.TextMode(kTextModeRichMultilevel);
-  note.surface.Text(u"a,b,c");
-  NettoyerTexte(note.surface, note.files, kList);
-  while (note.surface.Text() == u"a, b, c") note.surface.Undo();
-  EXPECT_EQ(note.surface.Text(), u"a, b,c");
 }
 
 }  // namespace

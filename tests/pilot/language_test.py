@@ -125,13 +125,6 @@ class Language(unittest.TestCase):
         self.lines(OPEN + "show 1\ntype Co_Rtf.Bx_RTF x\nanswer No\n")
         self.lines(OPEN + "show 1\ntype Co_Rtf.Bx_RTF x\nanswer No No\n", status=1)
 
-    def test_errors_of_the_component(self):
-        self.lines(OPEN + "show\nset Co_Rtf.Height -1\nget Co_Rtf.Lb_3Bascules(9).Left\n"
-                   "set Co_Rtf.Bx_RTF.SelStart mot\n",
-                   '{"error":380,"description":"Valeur de propriété incorrecte"}',
-                   '{"error":340,"description":"Élément de tableau de contrôles inexistant"}',
-                   '{"error":13,"description":"Incompatibilité de type"}')
-
 
 class Machine(unittest.TestCase):
     def test_files(self):
@@ -194,10 +187,6 @@ cat Z:\etc\passwd
                                   env={"TMPDIR": folder}, capture_output=True)
             self.assertEqual(done.returncode, 0, done.stderr)
             self.assertEqual(list(pathlib.Path(folder).iterdir()), [])
-
-    def test_fonts_are_accepted(self):
-        out, code, _ = run('screen-fonts ["Arial","Symbol"]\nprinter-fonts 3\nprinter-fonts none\n')
-        self.assertEqual((out, code), ([], 0))
 
     def test_run_time_of_a_long_script(self):
         out, code, _ = run(OPEN + "show\n" + "type Co_Rtf.Bx_RTF x\n" * 5000 +

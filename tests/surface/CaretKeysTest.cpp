@@ -1,4 +1,6 @@
 // The caret keys and the editing keys, as data.
+#include <gtest/gtest.h>
+
 #include "surface/UserBench.h"
 
 namespace lumenote {

@@ -46,13 +46,9 @@ TEST_F(SurfaceContract, EditFromANotificationIsRefused) {
   EXPECT_EQ(Shown(), u"abc|");
 }
 
-TEST_F(SurfaceContract, PastePrefersRtfThenTextInTheFormatAround) {
-  Put(u"a|");
-  clipboard.Set({u"texte", "{\\rtf1 riche}"});
-  s.Paste();
-  EXPECT_EQ(Shown(), u"ariche|");
+TEST_F(SurfaceContract, WhatIsNoRtfIsPastedAsTextInTheFormatAround) {
+  Put(u"^a|");
   clipboard.Set({u"texte", "pas du RTF"});
-  Select(u"^ariche|");
   s.SelBold(true);
   s.Paste();
   Select(u"^texte|");

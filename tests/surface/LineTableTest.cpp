@@ -1,10 +1,10 @@
 // The line table against a layout of everything, and the breaker that both use.
 #include <gtest/gtest.h>
-#include <random>
 
 #include "backends/headless/FixedBreaker.h"
 #include "base/Strings.h"
 #include "document/LineTable.h"
+#include "document/Model.h"
 
 namespace lumenote {
 namespace {
@@ -26,70 +26,53 @@ std::vector<Line> FullLayout(const Document& document, LineBreaker& breaker) {
   return lines;
 }
 
+/// Words, blanks and breaks of both kinds in several sizes and indents.
 class RandomNote {
  public:
-  explicit RandomNote(unsigned seed) : random_(seed) { Insert(0, 3000); }
+  explicit RandomNote(unsigned seed) : dice_(seed) {
+    for (int i = 0; i < 5; ++i)
+      document_.Formats().characters.Intern({.size = static_cast<std::uint16_t>(16 + 4 * i)});
+    for (int i = 0; i < 4; ++i)
+      document_.Formats().paragraphs.Intern(
+          {.firstIndent = i % 3 * 300, .hangingIndent = (2 - i) * 150, .rightIndent = i % 2 * 400});
+    while (document_.Length() < 9000) Edit();
+  }
 
   const Document& Content() const { return document_; }
-  int Below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+  Position Below(Position limit) { return dice_.Below(limit); }
   /// Makes some edit and returns where it begins.
   Position Edit() {
     const Position length = document_.Length();
     const Position from = document_.Before(Below(length + 1));
     const Position to = document_.After(std::min(from + Below(60), length));
+    const auto character = [](CharId id) { return (id + 1) % 5; };
+    const auto paragraph = [](ParaId id) { return (id + 1) % 4; };
+    Model inserted;
     switch (Below(8)) {
       case 0:
-        return Replace(from, to, {});
+        return Replace(from, to, Fragment());
       case 1:
-        return Map(from, to);
+        return Replace(from, to, document_.MapFormats(from, to, character, paragraph));
       case 2:
-        return Indent(from);
+        return Replace(from, from, PlainFragment(LongParagraph(), 1, 2));
       default:
-        return Insert(from, 1 + Below(Below(20) == 0 ? 600 : 12));
+        return Replace(from, from, RandomFragment(dice_, Below(Below(9) ? 40 : 2000), inserted));
     }
   }
 
  private:
-  // Words long and short, blanks in rows, hyphens, tabs, breaks of both kinds, pairs.
-  Position Insert(Position at, int pieces) {
-    static constexpr std::u16string_view kPieces[] = {
-        u"a",  u"mot", u"plus", u"anticonstitutionnellement",  u" ",    u" ", u" ",  u"   ",
-        u"\t", u"-",   u"\v",   u"a a a a a a a a a a a a a ", u"\r\n", u"𝄞", u"l'", u"été"};
+  std::u16string LongParagraph() {
     std::u16string text;
-    while (pieces-- > 0) text += kPieces[Below(Below(3) == 0 ? 16 : 8)];
-    return Replace(at, at, PlainFragment(text, Format(), document_.ParaFormatAt(at)));
+    for (Position count = Below(40); count > 0; --count)
+      text += u"a b c\v-\t   anticonstitutionnellement d e f ";
+    return text;
   }
-  Position Map(Position from, Position to) {
-    const CharId format = Format();
-    const auto map = [=](CharId) { return format; };
-    const auto mapped = document_.MapFormats(from, to, map, {});
-    return mapped ? Replace(from, to, *mapped) : from;
-  }
-  Position Indent(Position at) {
-    ParaFormat format;
-    format.firstIndent = Below(3) * 300;
-    format.hangingIndent = (Below(5) - 2) * 150;
-    format.rightIndent = Below(2) * 400;
-    const ParaId id = document_.Formats().paragraphs.Intern(format);
-    const Position paragraph = document_.ParagraphOf(at);
-    const Position end = document_.ParagraphEnd(paragraph);
-    const bool final = paragraph + 1 == document_.ParagraphCount();
-    const Position to = final ? end : end + 2;
-    const auto mapped = document_.MapFormats(
-        end, to, {}, [=](ParaId) { return id; }, final);
-    return mapped ? Replace(end, to, *mapped) : end;
-  }
-  Position Replace(Position from, Position to, const Fragment& fragment) {
-    document_.Replace(from, to, fragment);
+  Position Replace(Position from, Position to, const std::optional<Fragment>& fragment) {
+    if (fragment) document_.Replace(from, to, *fragment);
     return from;
   }
-  CharId Format() {
-    CharFormat format;
-    format.size = static_cast<std::uint16_t>(16 + Below(3) * 8);
-    return document_.Formats().characters.Intern(format);
-  }
 
-  std::mt19937 random_;
+  Dice dice_;
   Document document_;
 };
 

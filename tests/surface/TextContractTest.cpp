@@ -88,13 +88,10 @@ TEST_F(SurfaceContract, FindSelectsTheMatch) {
     int options;
     Position found;
   };
-  const Row rows[] = {{u"été", 0, 0, 0},
-                      {u"été", 1, 0, 5},
-                      {u"été", 1, kFindWholeWord | kFindMatchCase, 24},
-                      {u"été", -5, 0, 0},
-                      {u".\r\nfin", 0, 0, 17},
-                      {u"été", 99, 0, -1},
-                      {u"", 0, 0, -1}};
+  const Row rows[] = {
+      {u"été", 0, 0, 0},  {u"été", 1, 0, 5},       {u"été", 1, kFindWholeWord | kFindMatchCase, 24},
+      {u"été", -5, 0, 0}, {u".\r\nfin", 0, 0, 17}, {u"été", 99, 0, -1},
+      {u"", 0, 0, -1}};
   for (const Row& row : rows) {
     s.SelStart(3);
     EXPECT_EQ(s.Find(row.text, row.start, row.options), row.found);
@@ -111,17 +108,16 @@ TEST_F(SurfaceContract, SpanAndUpTo) {
     bool upTo, forward, negate;
     std::u16string_view after;
   };
-  const Row rows[] = {
-      {u"dit: bonjour|, monde", kWord, false, true, true, u"dit: bonjour|, monde"},
-      {u"|a", kWord, false, false, true, u"|a"},
-      {u"a|  ¶ b", u" \r", false, true, false, u"a^  ¶ |b"},
-      {u"|𝄞𝄞a", u"𝄞", false, true, false, u"^𝄞𝄞|a"},
-      {u"a^bc|de;f", u";", true, true, false, u"abcde|;f"},
-      {u"a;b^cd|e", u";", true, false, false, u"a;|bcde"},
-      {u"a|  b", u" ", true, true, true, u"a  |b"},
-      {u"a |  b", u" ", true, false, true, u"a|   b"},
-      {u"a^b|c", u";", true, true, false, u"a^b|c"},
-      {u"a^b|c", u";", true, false, false, u"a^b|c"}};
+  const Row rows[] = {{u"dit: bonjour|, monde", kWord, false, true, true, u"dit: bonjour|, monde"},
+                      {u"|a", kWord, false, false, true, u"|a"},
+                      {u"a|  ¶ b", u" \r", false, true, false, u"a^  ¶ |b"},
+                      {u"|𝄞𝄞a", u"𝄞", false, true, false, u"^𝄞𝄞|a"},
+                      {u"a^bc|de;f", u";", true, true, false, u"abcde|;f"},
+                      {u"a;b^cd|e", u";", true, false, false, u"a;|bcde"},
+                      {u"a|  b", u" ", true, true, true, u"a  |b"},
+                      {u"a |  b", u" ", true, false, true, u"a|   b"},
+                      {u"a^b|c", u";", true, true, false, u"a^b|c"},
+                      {u"a^b|c", u";", true, false, false, u"a^b|c"}};
   for (const Row& row : rows) {
     Put(row.before);
     row.upTo ? s.UpTo(row.set, row.forward, row.negate) : s.Span(row.set, row.forward, row.negate);

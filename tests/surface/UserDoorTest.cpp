@@ -1,4 +1,6 @@
 // What the user does: undo kinds, steps, drops, and what a view hears of it.
+#include <gtest/gtest.h>
+
 #include "surface/UserBench.h"
 #include "surface/Words.h"
 
