@@ -9,9 +9,9 @@
 
 namespace lumenote {
 
-/// Whether a character means itself in RTF: from 0x20 to 0x7F, no backslash and no brace.
+/// Whether a character means itself in RTF: from 0x20 to 0x7E, no backslash and no brace.
 constexpr bool IsPlain(char16_t unit) {
-  return unit >= 0x20 && unit < 0x80 && unit != u'\\' && unit != u'{' && unit != u'}';
+  return unit >= 0x20 && unit < 0x7F && unit != u'\\' && unit != u'{' && unit != u'}';
 }
 
 // `CopyPlain` copies `kPlainStep` characters and returns how many of them come before the first one
@@ -22,10 +22,11 @@ inline constexpr int kPlainStep = 16;
 
 namespace lanes {
 
-/// How many of sixteen bytes come before the first one that is not plain. Bytes from 0x80 on are
-/// negative here.
+/// How many of sixteen bytes come before the first one that is not plain. Raised by one,
+/// bytes from 0x7F on are negative or 0 here.
 inline int PlainBytes(__m128i bytes) {
-  const __m128i marks = _mm_or_si128(_mm_or_si128(_mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20)),
+  const __m128i raised = _mm_add_epi8(bytes, _mm_set1_epi8(1));
+  const __m128i marks = _mm_or_si128(_mm_or_si128(_mm_cmplt_epi8(raised, _mm_set1_epi8(0x21)),
                                                   _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\'))),
                                      _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('{')),
                                                   _mm_cmpeq_epi8(bytes, _mm_set1_epi8('}'))));
@@ -78,7 +79,7 @@ constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
 inline int PlainBytes(std::uint64_t word) {
   const std::uint64_t marks = ZeroBytes(word & kBytes * 0xE0) | ZeroBytes(word ^ kBytes * '\\') |
                               ZeroBytes(word ^ kBytes * '{') | ZeroBytes(word ^ kBytes * '}') |
-                              (word & kBytes * 0x80);
+                              ZeroBytes(word ^ kBytes * 0x7F) | (word & kBytes * 0x80);
   const int bits = std::endian::native == std::endian::little ? std::countr_zero(marks)
                                                               : std::countl_zero(marks);
   return bits / 8;

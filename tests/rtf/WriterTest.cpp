@@ -42,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
              "\\f0\\fs20 a\\par\r\n\\pard\\qc b\\par\r\nc\\par\r\n"
              "\\pard\\fi-100\\li300\\sl276\\slmult1\\tqc\\tx700 d\\par }\r\n"},
         Case{R"(x{\*\shppict{\pict 01}}y)", "\\f0\\fs20 x{\\*\\shppict{\\pict 01}}y\\par }\r\n"},
-        Case{R"(\'01\'7f\u0?\u65535?)", "\\f0\\fs20\\'01\x7F\\u0?\\u-1?\\par }\r\n"}));
+        Case{R"(\'01\'7f\u0?\u65535?)", "\\f0\\fs20\\'01\\'7f\\u0?\\u-1?\\par }\r\n"}));
 
 TEST(Writer, WritesTheFontsAndColoursInUse) {
   const Document document = Note(
