@@ -133,6 +133,7 @@ class Interpreter {
     begun_ = true;
     borderOf_ = WordScope::None;
   }
+  void BeforeBreak();
   void BreakAs(Kept kept);
   CharId CharacterWith(Kept kept);
   CharId NextCharacter();

@@ -161,7 +161,6 @@ void Interpreter::EnterField(KeptField field) {
   state.characterKnown = false;
 }
 
-/// A list number ends with its paragraph.
 void Interpreter::LeaveField() {
   GroupState& state = State();
   state.field = formats_.fields[state.field].outer;

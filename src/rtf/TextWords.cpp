@@ -36,11 +36,16 @@ void Interpreter::Unicode(int, const Token& word) {
 
 void Interpreter::Break(int, const Token&) { BreakAs({}); }
 
-void Interpreter::BreakAs(Kept kept) {
+/// A list number ends with its paragraph or cell.
+void Interpreter::BeforeBreak() {
   BeginBody();
   if (!marker_.empty()) BeforeText();
   if (formats_.fields[State().field].numbers) LeaveField();
   Lay();
+}
+
+void Interpreter::BreakAs(Kept kept) {
+  BeforeBreak();
   const bool plain = pending_.empty() && kept == Kept();
   body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
 }
@@ -54,9 +59,7 @@ void Interpreter::EndParagraph(int, const Token& word) {
 }
 
 void Interpreter::Cell(int nested, const Token&) {
-  BeginBody();
-  if (!marker_.empty()) BeforeText();
-  Lay();
+  BeforeBreak();
   body_.Cell(CharacterWith(
       {.instead = EndOfCell(nested), .paragraph = ParagraphNumber(), .kind = Kept::Kind::Cell}));
 }
@@ -66,7 +69,7 @@ void Interpreter::Cell(int nested, const Token&) {
 void Interpreter::Row(int nested, const Token&) {
   if (!marker_.empty()) BeforeText();
   if (!body_.Started()) return;
-  Lay();
+  BeforeBreak();
   Kept kept{.instead = EndOfCell(nested)};
   ParaId paragraph = ParagraphNumber();
   const std::string definition = std::exchange(pending_, {});
