@@ -36,7 +36,7 @@ std::uint64_t HashOf(const KeptField& field) {
 std::uint64_t HashOf(const KeptWords& words) { return HashOf(words.source); }
 
 std::uint64_t HashOf(const KeptHead& head) {
-  return HashOf(head.source) * 31 + HashOf(head.fontTable);
+  return (HashOf(head.source) * 31 + HashOf(head.tail)) * 31 + HashOf(head.fontTable);
 }
 
 FormatTables::FormatTables() {

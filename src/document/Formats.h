@@ -155,8 +155,8 @@ struct KeptWords {
   bool operator==(const KeptWords&) const = default;
 };
 
-/// What a source says ahead of its text. What is kept names fonts and colours by numbers, so their
-/// tables stay as they were, and what the note uses besides comes behind.
+/// What a source says ahead of its text and behind it. What is kept names fonts and colours by
+/// numbers, so their tables stay as they were, and what the note uses besides comes behind.
 struct KeptHead {
   struct Font {
     int number = 0;
@@ -165,6 +165,7 @@ struct KeptHead {
     bool operator==(const Font&) const = default;
   };
   std::string source{};           // words and groups, the tables excepted
+  std::string tail{};             // words and groups behind the text
   bool tables = false;            // something kept names entries of the tables: they are kept too
   std::string fontTable{};        // what stands in its group
   std::vector<Font> fonts{};      // by rising number

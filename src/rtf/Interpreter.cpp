@@ -63,14 +63,7 @@ Fragment Interpreter::Read() {
   BeginBody();
   if (!marker_.empty()) PlaceMarker();
   Fragment fragment = body_.Finish(target_, {CharacterNumber(), ParagraphNumber()});
-  if (fragment.mark) {
-    CharFormat format = formats_.characters[fragment.mark->character];
-    Kept kept = formats_.kept[format.kept];
-    kept.before += pending_;
-    format.kept = formats_.kept.Intern(kept);
-    fragment.mark->character = formats_.characters.Intern(format);
-    fragment.mark->head = Head();
-  }
+  if (fragment.mark) fragment.mark->head = Head();
   return fragment;
 }
 

@@ -228,6 +228,7 @@ HeadId Interpreter::Head() {
   } else {
     head_ = {.source = std::move(head_.source)};
   }
+  head_.tail = std::exchange(pending_, {});
   return formats_.heads.Intern(head_);
 }
 

@@ -92,6 +92,7 @@ void WriteText(const Document& document, Position from, Position to, const Final
     body.Text(text, format);
   });
   body.Finish(mark);
+  if (mark) out.Words(document.Formats().heads[mark->head].tail);
   out.Raw("}\r\n");
   out.Flush();
 }

@@ -146,6 +146,19 @@ TEST_F(PilotTest, AnActActivatesItsWindowFirst) {
       << log;
 }
 
+TEST_F(PilotTest, TimersTickInTheOrderOfTime) {
+  const auto note = [&](const char* what) { return [this, what] { log += what; }; };
+  first.slow.Tick = note("s");
+  first.slow.Interval(20);
+  first.slow.Enabled(true);
+  first.fast.Tick = note("f");
+  first.fast.Interval(10);
+  first.fast.Enabled(true);
+  first.Load();
+  Run("tick 9\ntick 1\ntick 15\ntick 5\n");
+  EXPECT_TRUE(log.starts_with("fsffend;")) << log;
+}
+
 TEST_F(PilotTest, ATimerArmedAnewInItsTickCountsFromThen) {
   first.fast.Tick = [&] {
     log += "f";

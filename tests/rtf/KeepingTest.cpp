@@ -34,6 +34,7 @@ INSTANTIATE_TEST_SUITE_P(
             "{\\footnote n\r\n7d}d\\par }\r\n"},
         Case{R"({\rtf1 a\page b\par\page c\sect\sectd\cols2 d})",
              "\\f0\\fs24 a\\page\r\nb\\par\r\n\\page c\\sect\r\n\\sectd\\cols2 d\\par }\r\n"},
+        Case{R"({\rtf1 a\par\page{\*\z}})", "\\f0\\fs24 a\\par \\page{\\*\\z}}\r\n"},
         Case{R"({\rtf1\pard\brdrt\brdrs\brdrw10\keepn\keepn\foo1 a\par\pard{\kerning8 b}c})",
              "\\brdrt\\brdrs\\brdrw10\\keepn\\f0\\fs24 a\\par\r\n"
              "\\pard\\kerning8 b\\plain\\f0\\fs24 c\\par }\r\n"},

@@ -37,6 +37,9 @@ TEST_F(SurfaceContract, ChosenFormatGoesWithTheTextTypedNext) {
   Select(u"a|bc");
   Select(u"ab|c");
   EXPECT_EQ(s.SelItalic(), false);  // forgotten as the caret moved
+  s.SelItalic(true);
+  s.Undo();
+  EXPECT_EQ(s.SelItalic(), false);
 }
 
 TEST_F(SurfaceContract, ParagraphStartTakesTheFormatBehindIt) {

@@ -63,23 +63,6 @@ TEST_F(SurfaceContract, WhatChangesNothingIsSilent) {
   EXPECT_EQ(Changes(), 0);
 }
 
-TEST_F(SurfaceContract, NewContentNotifiesAndCannotBeUndone) {
-  files.files[u"C:\\a.txt"] = "abc";
-  const std::function<void()> loads[] = {
-      [&] { s.Text(u"abc"); }, [&] { s.TextRTF(u"{\\rtf1 abc\\par }"); },
-      [&] { s.TextRTF(u"abc"); }, [&] { s.LoadFile(u"C:\\a.txt", FileType::Text); }};
-  for (const auto& load : loads) {
-    s.SelText(u"avant");
-    s.SelBold(true);
-    Changes();
-    load();
-    EXPECT_EQ(Shown(), u"|abc");
-    EXPECT_EQ(Changes(), 1);
-    EXPECT_FALSE(s.CanUndo() || s.CanRedo());
-    EXPECT_EQ(s.SelBold(), false);
-  }
-}
-
 TEST_F(SurfaceContract, FindSelectsTheMatch) {
   Put(u"Été, étés ; l'ÉTÉ.¶fin ^été|");
   struct Row {
