@@ -18,6 +18,7 @@ void Interpreter::Marker(int, const Token& word) {
   const std::size_t from = tokens_.At();
   tokens_.SkipGroup();
   if (!marker_.empty() || placingMarker_) return;
+  ++laid_;
   marker_ = tokens_.Source(from, tokens_.At());
   markerWord_ = word.text;
 }

@@ -174,7 +174,7 @@ class Interpreter {
 
   // What is kept.
   std::string pending_;   // words and groups that go with the next character
-  std::size_t laid_ = 0;  // pieces of text and breaks so far
+  std::size_t laid_ = 0;  // pieces of text, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
   std::string_view associatedWith_;  // the last marker
   std::size_t wordsLeft_;            // bytes of words that may still be kept
