@@ -45,9 +45,11 @@ void Interpreter::Numbering(int, const Token&) {
 void Interpreter::Fonts(int, const Token&) {
   const std::size_t from = tokens_.At();
   ++laid_;
-  fonts_.Read(tokens_, formats_.fonts, documentPage_);
-  if (!head_.fontTable.empty()) head_.fontTable += "}\r\n{\\fonttbl ";
-  head_.page = documentPage_;
+  if (head_.fontTable.empty())
+    head_.page = documentPage_;
+  else
+    head_.fontTable += "}\r\n{\\fonttbl ";
+  fonts_.Read(tokens_, formats_.fonts, head_.page);
   head_.fontTable += KeptSource(tokens_.Source(from, tokens_.At()), State().fallback).Closed();
   UseDefaultFont(Outer());
 }
