@@ -33,12 +33,24 @@ void ParagraphFormats::Apply(UndoKind kind, Set set) {
     set(format);
     return core_.Formats().paragraphs.Intern(format);
   };
+  // A table row is one paragraph here, whose cells have their formats at their ends.
+  const auto mapCell = [&](CharId id) {
+    CharFormat format = core_.CharacterFormat(id);
+    Kept kept = core_.Formats().kept[format.kept];
+    if (kept.kind != Kept::Kind::Cell) return id;
+    kept.paragraph = map(kept.paragraph);
+    format.kept = core_.Formats().kept.Intern(kept);
+    return core_.Formats().characters.Intern(format);
+  };
   const Document& document = core_.Content();
-  const Position from = document.ParagraphEnd(document.ParagraphOf(core_.Selected().start));
+  const Position start = core_.Selected().start;
+  const Position first = document.ParagraphOf(start);
+  const bool inTable = core_.ParagraphFormat(document.ParaFormatAt(start)).nesting > 0;
+  const Position from = inTable ? document.ParagraphStart(first) : document.ParagraphEnd(first);
   const Position last = LastTouched();
   const bool final = last + 1 == document.ParagraphCount();
   const Position to = final ? document.Length() : document.ParagraphStart(last + 1);
-  const auto mapped = document.MapFormats(from, to, {}, map, final);
+  const auto mapped = document.MapFormats(from, to, mapCell, map, final);
   if (mapped) core_.Edit(kind, [&] { core_.Replace(from, to, *mapped); });
 }
 
