@@ -88,8 +88,6 @@ class LineTable {
 
   /// The line that holds `position`; costs no more than its paragraph, wherever it lies.
   Line LineAt(Position position);
-  /// The line before the one that begins at `lineStart`, which must not be the first one.
-  Line LineBefore(Position lineStart) { return LineAt(lineStart - 1); }
 
   /// After an edit of text or formats at `at`: forgets the lines it may have moved.
   void Edited(Position at);

@@ -90,7 +90,7 @@ TEST(LineTable, AgreesWithAFullLayoutAfterRandomEdits) {
         ASSERT_EQ(table.LineAt(line.start), line) << seed << ' ' << round;
         ASSERT_EQ(table.LineAt(std::max(line.start, line.end - 1)).start, line.start);
         if (i > 0) {
-          ASSERT_EQ(table.LineBefore(line.start), lines[static_cast<std::size_t>(i) - 1]);
+          ASSERT_EQ(table.LineAt(line.start - 1), lines[static_cast<std::size_t>(i) - 1]);
         }
         if (note.Below(4) > 0) continue;
         ASSERT_EQ(table.LineOf(line.start), i);
