@@ -116,8 +116,9 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 
 void WriteChange(WrittenFormat from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out) {
-  const std::string_view words = tables.words[to.words].source;
-  const std::size_t high = HighPart(tables.words[to.words].source);
+  const std::string& kept = tables.words[to.words].source;
+  const std::string_view words = kept;
+  const std::size_t high = kept.empty() ? 0 : HighPart(kept);
   const bool anew = from.words != to.words || high < words.size();
   if (anew) {
     if (from.words != 0) out.Word("plain");

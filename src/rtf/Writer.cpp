@@ -47,6 +47,8 @@ WrittenParagraphs WithRows(const Document& document, Position from, Position to,
     paragraphs.cells.push_back({paragraph, last ? paragraphs.formats[paragraph] : kept.paragraph});
     if (last) inRow[paragraph] = true;
   };
+  const bool nothingKept = tables.kept.Size() == 1;  // number 0 stands for nothing
+  if (nothingKept) return paragraphs;
   const Position first = document.ParagraphOf(from);
   document.ForEachRun(from, to, [&](Position at, std::u16string_view text, CharId format) {
     const Kept& kept = tables.kept[tables.characters[format].kept];
