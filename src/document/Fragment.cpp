@@ -40,9 +40,9 @@ void FragmentBuilder::Append(const LeafPointer& leaf) {
   }
 }
 
-char16_t* FragmentBuilder::Room() {
+std::span<char16_t> FragmentBuilder::Room() {
   FlushIfFull();
-  return text_ + size_;
+  return {text_ + size_, text_ + kFilled};
 }
 
 void FragmentBuilder::Commit(int count, CharId format) {

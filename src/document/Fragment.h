@@ -1,6 +1,7 @@
 // A piece of a document: what an edit removes or inserts, and how one is built.
 #pragma once
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -43,10 +44,10 @@ class FragmentBuilder {
   /// Appends a leaf as it is, shared rather than copied unless that left a small leaf behind.
   void Append(const LeafPointer& leaf);
 
-  /// For scanners: `kRoom` units that may be written at once, without CR or LF; `Commit` keeps the
-  /// first `count`.
-  static constexpr int kRoom = 64;
-  char16_t* Room();
+  /// For scanners: some room, of `kLeastRoom` units at least, to write text without CR or LF to;
+  /// `Commit` keeps the first `count`.
+  static constexpr int kLeastRoom = 32;
+  std::span<char16_t> Room();
   void Commit(int count, CharId format);
 
   Position Length() const { return leaves_.Length() + size_; }
@@ -54,10 +55,10 @@ class FragmentBuilder {
   Fragment Finish();
 
  private:
-  /// A leaf is full when it has no room left for a scanner. Longer texts fill it further, but for a
-  /// little room to type in.
-  static constexpr Position kFull = Leaf::kCapacity - kRoom;
-  static constexpr Position kFilled = Leaf::kCapacity - kRoom / 2;
+  /// Leaves keep a little room to type in; one is full when what it has beyond that is not enough
+  /// for a scanner.
+  static constexpr Position kFilled = Leaf::kCapacity - 32;
+  static constexpr Position kFull = kFilled - kLeastRoom;
 
   void FlushIfFull();
   void Flush();

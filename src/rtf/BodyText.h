@@ -1,6 +1,7 @@
 // The text of a note as it comes out of an RTF source.
 #pragma once
 #include <optional>
+#include <span>
 
 #include "document/Fragment.h"
 #include "rtf/Reader.h"
@@ -15,7 +16,7 @@ class BodyText {
   bool Holds() const { return holds_; }
   void Release();
 
-  char16_t* Room() { return builder_.Room(); }
+  std::span<char16_t> Room() { return builder_.Room(); }
   void Commit(int count, CharId format) { builder_.Commit(count, format); }
   void Append(std::u16string_view text, CharId format) { builder_.Append(text, format); }
 

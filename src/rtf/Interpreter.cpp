@@ -108,19 +108,22 @@ void Interpreter::Take(const Token& token) {
 /// Text goes the short way, from the source into the fragment, unless some of it is to be passed
 /// over or its characters take several bytes.
 void Interpreter::TakeText() {
-  if (swallow_ > 0 || State().page.MultiByte() || !tokens_.AtText()) return;
+  const int fallback = State().fallback;
+  if (swallow_ > 0 || State().page.MultiByte() || !tokens_.AtText(fallback)) return;
   opened_ = starred_ = false;
   BeforeText();
   const CodePage page = State().page;
+  const auto take = [&](std::span<char16_t> room, CharId format) {
+    const std::size_t count = tokens_.Decode(page, fallback, room);
+    body_.Commit(static_cast<int>(count), format);
+    return count == room.size();
+  };
   if (!pending_.empty()) {
-    body_.Commit(static_cast<int>(tokens_.Decode(page, body_.Room(), 1)), NextCharacter());
-    if (!tokens_.AtText()) return;
+    take(body_.Room().first(1), NextCharacter());
+    if (!tokens_.AtText(fallback)) return;
   }
   const CharId format = CharacterNumber();
-  std::size_t count = FragmentBuilder::kRoom;
-  while (count == FragmentBuilder::kRoom) {
-    count = tokens_.Decode(page, body_.Room(), FragmentBuilder::kRoom);
-    body_.Commit(static_cast<int>(count), format);
+  while (take(body_.Room(), format)) {
   }
 }
 
@@ -216,7 +219,7 @@ void Interpreter::EndBytes() {
 
 void Interpreter::Put(char16_t unit) {
   BeforeText();
-  *body_.Room() = unit;
+  body_.Room().front() = unit;
   body_.Commit(1, NextCharacter());
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <iterator>
 #include <limits>
+#include <utility>
 
 #include "rtf/PlainText.h"
 
@@ -43,6 +44,56 @@ int HexDigit(char c) { return kHexDigits[static_cast<unsigned char>(c)]; }
 
 constexpr std::ptrdiff_t kHexLength = 4;  // of \'xx
 
+/// What stands at `at` when it is a whole \'xx of a printable byte, else -1.
+int HexValue(const char* at, const char* end) {
+  if (end - at < kHexLength || at[0] != '\\' || at[1] != '\'') return -1;
+  const int high = HexDigit(at[2]);
+  const int low = HexDigit(at[3]);
+  return high >= 2 && low >= 0 ? high * 16 + low : -1;
+}
+
+/// Passes over the digits at `at`; returns their number, held within that of an int.
+std::int64_t Digits(const char*& at, const char* end) {
+  constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+  std::int64_t number = 0;
+  for (; at != end && IsDigit(*at); ++at) number = std::min(kMost, number * 10 + (*at - '0'));
+  return number;
+}
+
+bool IsNegative(const char* at, const char* end) {
+  return end - at > 1 && *at == '-' && IsDigit(at[1]);
+}
+
+/// A unit and the length of its source, 0 for none.
+struct Escaped {
+  char16_t unit = 0;
+  std::ptrdiff_t length = 0;
+};
+
+/// The \u at `at` when it stands for a printable unit and has one character behind it for readers
+/// that do not know it.
+Escaped UnicodeAt(const char* const at, const char* end) {
+  constexpr std::ptrdiff_t kLeast = 4;  // \u, a digit, a character
+  if (end - at < kLeast || at[0] != '\\' || at[1] != 'u') return {};
+  const char* behind = at + 2;
+  const bool negative = IsNegative(behind, end);
+  if (negative) ++behind;
+  if (!IsDigit(*behind)) return {};
+  const std::int64_t number = negative ? -Digits(behind, end) : Digits(behind, end);
+  if (number < -0x8000 || number > 0xFFFF || (number >= 0 && number < ' ')) return {};
+  if (behind != end && *behind == ' ') ++behind;
+  if (behind == end) return {};
+  const Class kind = ClassOf(*behind);
+  if (kind == Class::Text || kind == Class::High) {
+    ++behind;
+  } else if (HexValue(behind, end) >= 0) {
+    behind += kHexLength;
+  } else {
+    return {};
+  }
+  return {static_cast<char16_t>(number), behind - at};
+}
+
 }  // namespace
 
 bool EndsTable(const Token& token) {
@@ -66,14 +117,6 @@ bool Tokenizer::DocumentFollows() const {
   const std::string_view rest(at_, end_);
   const std::size_t markup = rest.find_first_of("\\{}");
   return markup != rest.npos && rest.substr(markup).starts_with("{\\rtf");
-}
-
-/// What the escape at hand stands for when it is a whole \'xx of a printable byte, else -1.
-inline int Tokenizer::HexValue() const {
-  if (end_ - at_ < kHexLength || at_[1] != '\'') return -1;
-  const int high = HexDigit(at_[2]);
-  const int low = HexDigit(at_[3]);
-  return high >= 2 && low >= 0 ? high * 16 + low : -1;
 }
 
 Token Tokenizer::Next() {
@@ -103,16 +146,24 @@ Token Tokenizer::Next() {
   return {};
 }
 
+/// Bytes of one class from `at_` on.
+template <class Holds>
+std::string_view Tokenizer::While(const char* end, Holds holds) {
+  const char* at = at_;  // no store in the loop
+  while (at != end && holds(*at)) ++at;
+  return {std::exchange(at_, at), at};
+}
+
 Token Tokenizer::Text() {
   const char* const limit = at_ + std::min(end_ - at_, kLongest);
-  while (at_ != limit && ClassOf(*at_) == Class::Text) ++at_;
-  return {.kind = Token::Kind::Text, .text = {start_, at_}};
+  return {.kind = Token::Kind::Text,
+          .text = While(limit, [](char c) { return ClassOf(c) == Class::Text; })};
 }
 
 Token Tokenizer::High() {
   const char* const limit = at_ + std::min(end_ - at_, kLongest);
-  while (at_ != limit && ClassOf(*at_) == Class::High) ++at_;
-  return {.kind = Token::Kind::High, .text = {start_, at_}};
+  return {.kind = Token::Kind::High,
+          .text = While(limit, [](char c) { return ClassOf(c) == Class::High; })};
 }
 
 Token Tokenizer::Escape() {
@@ -135,59 +186,57 @@ Token Tokenizer::Hex() {
           .byte = static_cast<unsigned char>(digits[0] * 16 + digits[1])};
 }
 
-bool Tokenizer::AtText() {
+bool Tokenizer::AtText(int fallback) {
   while (at_ != end_ && ClassOf(*at_) == Class::Nothing) ++at_;
   if (at_ == end_) return false;
   const Class kind = ClassOf(*at_);
-  return kind == Class::Text || kind == Class::High || (kind == Class::Escape && HexValue() >= 0);
+  return kind == Class::Text || kind == Class::High || HexValue(at_, end_) >= 0 ||
+         (fallback == 1 && UnicodeAt(at_, end_).length > 0);
 }
 
-std::size_t Tokenizer::Decode(const CodePage& page, char16_t* out, std::size_t room) {
-  const char16_t* const begin = out;
-  const char16_t* const limit = out + room;
-  while (out != limit && at_ != end_) {
-    if (page.KeepsAscii() && end_ - at_ >= kPlainStep && limit - out >= kPlainStep) {
-      const int plain = CopyPlain(at_, out);
-      at_ += plain;
+std::size_t Tokenizer::Decode(const CodePage& page, int fallback, std::span<char16_t> room) {
+  char16_t* out = room.data();
+  const char16_t* const limit = out + room.size();
+  const bool keepsAscii = page.KeepsAscii();
+  const char* at = at_;  // no store in the loop
+  while (out != limit && at != end_) {
+    if (keepsAscii && end_ - at >= kPlainStep && limit - out >= kPlainStep) {
+      const int plain = CopyPlain(at, out);
+      at += plain;
       out += plain;
       if (plain == kPlainStep) continue;
     }
-    const Class kind = ClassOf(*at_);
-    if (kind == Class::Text || kind == Class::High) {
-      *out++ = page[static_cast<unsigned char>(*at_++)];
-    } else if (kind == Class::Escape) {
-      const int byte = HexValue();
-      if (byte < 0) break;
+    if (const int byte = HexValue(at, end_); byte >= 0) {
       *out++ = page[static_cast<unsigned char>(byte)];
-      at_ += kHexLength;
+      at += kHexLength;
+      continue;
+    }
+    const Class kind = ClassOf(*at);
+    if (kind == Class::Text || kind == Class::High) {
+      *out++ = page[static_cast<unsigned char>(*at++)];
     } else if (kind == Class::Nothing) {
-      ++at_;
+      ++at;
     } else {
-      break;
+      const Escaped escaped = fallback == 1 ? UnicodeAt(at, end_) : Escaped();
+      if (escaped.length == 0) break;
+      *out++ = escaped.unit;
+      at += escaped.length;
     }
   }
-  return static_cast<std::size_t>(out - begin);
+  at_ = at;
+  return static_cast<std::size_t>(out - room.data());
 }
 
 Token Tokenizer::Word() {
-  const char* const name = at_;
-  while (at_ != end_ && IsAsciiLetter(*at_)) ++at_;
-  Token token{.kind = Token::Kind::Word, .text = {name, at_}};
-  Number(token);
-  if (at_ != end_ && *at_ == ' ') ++at_;
+  Token token{.kind = Token::Kind::Word, .text = While(end_, IsAsciiLetter)};
+  const bool negative = IsNegative(at_, end_);
+  const char* const digits = at_ + (negative ? 1 : 0);
+  const char* at = digits;
+  const std::int64_t number = Digits(at, end_);
+  token.hasNumber = at != digits;
+  token.number = static_cast<int>(negative ? -number : number);
+  at_ = at != end_ && *at == ' ' ? at + 1 : at;
   return token.text == "bin" ? Binary(token.number) : token;
-}
-
-void Tokenizer::Number(Token& word) {
-  const bool negative = end_ - at_ > 1 && *at_ == '-' && IsDigit(at_[1]);
-  if (negative) ++at_;
-  constexpr std::int64_t kMost = std::numeric_limits<int>::max();
-  std::int64_t number = 0;
-  for (; at_ != end_ && IsDigit(*at_); ++at_) {
-    number = std::min(kMost, number * 10 + (*at_ - '0'));
-    word.hasNumber = true;
-  }
-  word.number = static_cast<int>(negative ? -number : number);
 }
 
 Token Tokenizer::Binary(int length) {

@@ -2,6 +2,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "rtf/CodePage.h"
@@ -44,11 +45,12 @@ class Tokenizer {
   Token Next();
   static constexpr std::ptrdiff_t kLongest = 1024;
 
-  /// Whether text or a \'xx of a printable byte comes next.
-  bool AtText();
-  /// Decodes what `AtText` tells of by a single-byte page: at most `room` units, to which `out`
-  /// must have room. Stops before anything else.
-  std::size_t Decode(const CodePage& page, char16_t* out, std::size_t room);
+  /// Whether text, a \'xx of a printable byte or a \u with its `fallback` characters comes next; a
+  /// \u counts only where one character is its fallback, as mostly.
+  bool AtText(int fallback);
+  /// Decodes what `AtText` tells of, bytes by a single-byte page: until `room` is full. Stops
+  /// before anything else; returns the number of units.
+  std::size_t Decode(const CodePage& page, int fallback, std::span<char16_t> room);
   /// Whether the rest of the source is closing braces.
   bool OnlyClosesFollow() const { return at_ >= tail_; }
   /// Whether any brace or backslash is left.
@@ -98,8 +100,8 @@ class Tokenizer {
   Token Word();
   Token Hex();
   Token Binary(int length);
-  void Number(Token& word);
-  int HexValue() const;
+  template <class Holds>
+  std::string_view While(const char* end, Holds holds);
 
   const char* begin_;
   const char* at_;

@@ -81,7 +81,7 @@ TEST(FragmentBuilder, KeepsPairsInOneLeaf) {
     for (std::u16string_view pair : {u"\r\n", u"\U0001F33C"}) {
       FragmentBuilder builder;
       for (Position i = 0; i < before; ++i) {
-        *builder.Room() = u'x';
+        builder.Room().front() = u'x';
         builder.Commit(1, 0);
       }
       const ParaId mark = 3;

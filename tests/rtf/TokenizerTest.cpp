@@ -75,7 +75,7 @@ TEST(Tokenizer, DecodesPlainTextOfEveryLength) {
       Tokenizer tokens(source);
       char16_t out[64];
       const std::size_t expected = stop == '\0' ? length + 9 : length;
-      EXPECT_EQ(tokens.Decode(CodePage(), out, 64), expected) << int{stop} << " " << length;
+      EXPECT_EQ(tokens.Decode(CodePage(), 1, out), expected) << int{stop} << " " << length;
     }
   }
 }
