@@ -47,8 +47,4 @@ Leaf Leaf::Part(Position from, Position to) const {
   return part;
 }
 
-std::u16string_view Leaf::Units(Position from, Position to) const {
-  return text.View().substr(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from));
-}
-
 }  // namespace lumenote

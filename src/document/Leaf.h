@@ -18,7 +18,9 @@ struct Leaf {
   std::vector<ParaId> marks;
 
   Position Size() const { return text.Size(); }
-  std::u16string_view Units(Position from, Position to) const;
+  std::u16string_view Units(Position from, Position to) const {
+    return text.View().substr(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from));
+  }
   /// Count of the breaks in a part of the text.
   Position BreaksBetween(Position from, Position to) const;
   /// Where the break number `index` (from 0) begins.

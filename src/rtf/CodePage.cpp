@@ -48,9 +48,14 @@ std::u16string Decode1252(std::string_view bytes) {
 
 int ByteIn1252(char16_t unit) {
   if (unit < 0x80 || (unit >= 0xA0 && unit < 0x100)) return unit;
-  static const std::u16string_view middle(UpperHalf(kPageOfWindows), 0x20);
-  const std::size_t at = middle.find(unit);
-  return at == std::u16string_view::npos ? -1 : static_cast<int>(0x80 + at);
+  constexpr std::size_t kUnits = 0x2123;  // the last one is the trade mark sign
+  static const auto bytes = [] {
+    std::array<unsigned char, kUnits> middle{};
+    for (int byte = 0x80; byte < 0xA0; ++byte)
+      middle[UpperHalf(kPageOfWindows)[byte - 0x80]] = static_cast<unsigned char>(byte);
+    return middle;
+  }();
+  return unit < kUnits && bytes[unit] != 0 ? bytes[unit] : -1;
 }
 
 std::string Encode1252(std::u16string_view text) {

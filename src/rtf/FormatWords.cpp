@@ -114,15 +114,16 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 
 }  // namespace
 
-void WriteChange(WrittenFormat from, const WrittenFormat& to, const FormatTables& tables,
+void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
                  Output& out) {
+  static constexpr WrittenFormat kNothing;
   const std::string& kept = tables.words[to.words].source;
   const std::string_view words = kept;
   const std::size_t high = kept.empty() ? 0 : HighPart(kept);
-  const bool anew = from.words != to.words || high < words.size();
+  const bool anew = told.words != to.words || high < words.size();
+  const WrittenFormat& from = anew && told.words != 0 ? kNothing : told;
   if (anew) {
-    if (from.words != 0) out.Word("plain");
-    if (from.words != 0) from = {};
+    if (told.words != 0) out.Word("plain");
     out.Words(words.substr(0, high));
   }
   if (from.effects != to.effects) WriteEffects(from.effects, to.effects, out);

@@ -2,26 +2,102 @@
 #include "rtf/Output.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 
+#include "rtf/CodePage.h"
 #include "rtf/PlainText.h"
 
 namespace lumenote {
 namespace {
 
-/// Copies the plain beginning of `text`; returns its length.
-std::size_t PlainInto(std::u16string_view text, char* out) {
-  std::size_t done = 0;
-  while (done + kPlainStep <= text.size()) {
-    const int plain = CopyPlain(text.data() + done, out + done);
-    done += static_cast<std::size_t>(plain);
-    if (plain < kPlainStep) return done;
+constexpr std::size_t kHexLength = 4;  // of \'xx
+
+using Escape = std::array<char, kHexLength>;
+
+constexpr std::array<Escape, 256> kEscapes = [] {
+  constexpr char kDigits[] = "0123456789abcdef";
+  std::array<Escape, 256> escapes{};
+  for (unsigned byte = 0; byte < escapes.size(); ++byte)
+    escapes[byte] = {'\\', '\'', kDigits[byte >> 4], kDigits[byte & 15]};
+  return escapes;
+}();
+
+char* PutHex(int byte, char* out) {
+  std::memcpy(out, kEscapes[static_cast<std::size_t>(byte)].data(), kHexLength);
+  return out + kHexLength;
+}
+
+/// The byte of page 1252 for a character beyond ASCII, or -1 when it has none, or a symbol.
+int EscapedByte(char16_t unit) {
+  if (unit > 0xA0 && unit < 0x100) return unit == u'\u00AD' ? -1 : unit;
+  return unit < 0x80 || unit == u'\u00A0' ? -1 : ByteIn1252(unit);
+}
+
+int NoByte(char16_t) { return -1; }
+
+/// Writes the beginning of `text` that consists of plain characters and of such as `byteOf` gives a
+/// byte for; returns its length. Takes room for `kHexLength` bytes a unit.
+template <int byteOf(char16_t)>
+std::size_t PutText(std::u16string_view text, char*& out) {
+  const char16_t* at = text.data();
+  const char16_t* const end = at + text.size();
+  char* to = out;  // no store in the loop
+  while (at != end) {
+    if (end - at >= kPlainStep) {
+      const int plain = CopyPlain(at, to);
+      at += plain;
+      to += plain;
+      if (plain == kPlainStep) continue;
+    }
+    if (IsPlain(*at)) {
+      *to++ = static_cast<char>(*at++);
+      continue;
+    }
+    const int byte = byteOf(*at);
+    if (byte < 0) break;
+    to = PutHex(byte, to);
+    ++at;
   }
-  for (; done < text.size() && IsPlain(text[done]); ++done)
-    out[done] = static_cast<char>(text[done]);
-  return done;
+  out = to;
+  return static_cast<std::size_t>(at - text.data());
+}
+
+/// The byte that a reader turns into `unit` again, or -1.
+int ByteFor(char16_t unit, Encoding encoding) {
+  if (unit == 0) return -1;
+  if (unit <= u' ') return unit;
+  if (encoding == Encoding::Windows) return ByteIn1252(unit);
+  if (encoding == Encoding::Symbols) return unit > 0xF020 && unit < 0xF100 ? unit - 0xF000 : -1;
+  return unit < 0x80 ? unit : -1;
+}
+
+/// The symbol of a character that has one, else nothing.
+std::string_view SymbolFor(char16_t unit) {
+  switch (unit) {
+    case u'\\':
+      return "\\\\";
+    case u'{':
+      return "\\{";
+    case u'}':
+      return "\\}";
+    case u'\u00A0':
+      return "\\~";
+    case u'\u00AD':
+      return "\\-";
+    case u'\u2011':
+      return "\\_";
+    default:
+      return {};
+  }
+}
+
+/// Whether a character is more than itself.
+bool StopsText(char16_t unit) {
+  return unit == u'\t' || unit == u'\v' || unit == u'\r' || unit == u'\uFFFC';
 }
 
 }  // namespace
@@ -76,10 +152,8 @@ void Output::Raw(std::string_view source) {
 }
 
 void Output::Hex(int byte) {
-  constexpr char kDigits[] = "0123456789abcdef";
-  const char escape[] = {'\\', '\'', kDigits[byte >> 4], kDigits[byte & 15]};
-  std::copy_n(escape, sizeof escape, buffer_.data() + size_);
-  Grow(sizeof escape);
+  PutHex(byte, buffer_.data() + size_);
+  Grow(kHexLength);
   openWord_ = false;
 }
 
@@ -88,19 +162,59 @@ void Output::Unicode(char16_t unit) {
   Raw("?");
 }
 
-std::size_t Output::Plain(std::u16string_view text) {
-  if (text.empty() || !IsPlain(text.front())) return 0;
-  if (openWord_) Raw(" ");
+template <int byteOf(char16_t)>
+std::size_t Output::Some(std::u16string_view text) {
+  if (text.empty()) return 0;
+  if (openWord_ && IsPlain(text.front())) Raw(" ");
   std::size_t done = 0;
   std::size_t count = 0;
   std::size_t room = 0;
   do {
-    room = kPiece + kShort - size_;
-    count = PlainInto(text.substr(done, room), buffer_.data() + size_);
-    Grow(count);
+    room = (buffer_.size() - size_) / kHexLength;
+    char* out = buffer_.data() + size_;
+    count = PutText<byteOf>(text.substr(done, room), out);
+    Grow(static_cast<std::size_t>(out - buffer_.data()) - size_);
     done += count;
   } while (count == room);
+  if (done > 0) openWord_ = false;
   return done;
+}
+
+std::size_t Output::Plain(std::u16string_view text) { return Some<NoByte>(text); }
+
+std::size_t Output::Text(std::u16string_view text, Encoding encoding) {
+  std::size_t done = 0;
+  while (done < text.size()) {
+    const std::u16string_view rest = text.substr(done);
+    const std::size_t some = Some(rest, encoding);
+    done += some;
+    if (some > 0) continue;
+    if (StopsText(rest.front())) break;
+    Character(rest.front(), encoding);
+    ++done;
+  }
+  return done;
+}
+
+std::size_t Output::Some(std::u16string_view text, Encoding encoding) {
+  switch (encoding) {
+    case Encoding::Windows:
+      return Some<EscapedByte>(text);
+    case Encoding::Symbols:
+      return Some<NoByte>(text.substr(0, text.front() == u' ' ? 1 : 0));
+    default:
+      return Some<NoByte>(text);
+  }
+}
+
+void Output::Character(char16_t unit, Encoding encoding) {
+  if (const std::string_view symbol = SymbolFor(unit); !symbol.empty()) {
+    Raw(symbol);
+  } else if (const int byte = ByteFor(unit, encoding); byte >= 0) {
+    Hex(byte);
+  } else {
+    Unicode(unit);
+  }
 }
 
 }  // namespace lumenote

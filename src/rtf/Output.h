@@ -1,12 +1,16 @@
 // RTF source on its way out.
 #pragma once
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
 #include "rtf/Writer.h"
 
 namespace lumenote {
+
+/// How the characters of a font are written.
+enum class Encoding : std::uint8_t { Windows, Symbols, UnicodeOnly };
 
 /// Gathers the output and hands it on in large pieces, the last one by `Flush`. Knows whether a
 /// control word still waits for something that ends it.
@@ -21,18 +25,26 @@ class Output {
   void Words(std::string_view source);
   /// Braces, line ends and whatever else can follow a control word directly.
   void Raw(std::string_view source);
+  void Character(char16_t unit, Encoding encoding);
   /// \'xx
   void Hex(int byte);
   /// A unit for any reader: its number, and "?" where that is not understood.
   void Unicode(char16_t unit);
   /// Writes the beginning of `text` that consists of plain characters, and returns its length.
   std::size_t Plain(std::u16string_view text);
+  /// Writes the beginning of `text` that holds no tab, break or embedded object, and returns its
+  /// length.
+  std::size_t Text(std::u16string_view text, Encoding encoding);
   void Flush();
 
  private:
   static constexpr std::size_t kPiece = std::size_t{1} << 16;
   static constexpr std::size_t kShort = 256;  // there is always room for as many bytes
 
+  /// Writes the beginning of `text` that is plain or has a byte, and returns its length.
+  template <int byteOf(char16_t)>
+  std::size_t Some(std::u16string_view text);
+  std::size_t Some(std::u16string_view text, Encoding encoding);
   void Append(std::string_view source);
   void AppendLong(std::string_view source);
   void Grow(std::size_t count);

@@ -3,41 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "rtf/CodePage.h"
-
 namespace lumenote {
-namespace {
-
-/// The byte that a reader turns into `unit` again, or -1.
-int ByteFor(char16_t unit, Encoding encoding) {
-  if (unit == 0) return -1;
-  if (unit <= u' ') return unit;
-  if (encoding == Encoding::Windows) return ByteIn1252(unit);
-  if (encoding == Encoding::Symbols) return unit > 0xF020 && unit < 0xF100 ? unit - 0xF000 : -1;
-  return unit < 0x80 ? unit : -1;
-}
-
-/// The symbol of a character that has one, else nothing.
-std::string_view SymbolFor(char16_t unit) {
-  switch (unit) {
-    case u'\\':
-      return "\\\\";
-    case u'{':
-      return "\\{";
-    case u'}':
-      return "\\}";
-    case u'\u00A0':
-      return "\\~";
-    case u'\u00AD':
-      return "\\-";
-    case u'\u2011':
-      return "\\_";
-    default:
-      return {};
-  }
-}
-
-}  // namespace
 
 // --- paragraphs
 
@@ -47,8 +13,9 @@ void WrittenBody::BeginParagraph() {
 }
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
+  if (!atStart && told_.words && told_.paragraph == id) return;
   const ParaFormat& format = tables_.paragraphs[id];
-  const Told wanted{&Words(id), InRow() ? format.nesting : 0, format.bullet != 0};
+  const Told wanted{&Words(id), id, InRow() ? format.nesting : 0, format.bullet != 0};
   const bool changed = !told_.words || wanted.nesting != told_.nesting ||
                        wanted.bullet != told_.bullet || *wanted.words != *told_.words;
   told_ = wanted;
@@ -68,9 +35,9 @@ ParaFormat WrittenBody::InList(ParaId paragraph) const {
 }
 
 const std::string& WrittenBody::Words(ParaId paragraph) {
-  const auto [entry, added] = knownWords_.try_emplace(paragraph);
-  if (added) entry->second = ParagraphWords(InList(paragraph), tables_, formats_.HasStyles());
-  return entry->second;
+  std::optional<std::string>& known = knownWords_[paragraph];
+  if (!known) known = ParagraphWords(InList(paragraph), tables_, formats_.HasStyles());
+  return *known;
 }
 
 /// What readers without bullets show comes with each paragraph; the first one of a series says what
@@ -215,16 +182,11 @@ std::size_t WrittenBody::Instead(const Kept& kept, char16_t unit) {
 std::size_t WrittenBody::Step(std::u16string_view text) {
   if (!begun_) BeginParagraph();
   filled_ = true;
-  const std::size_t plain = Plain(text);
-  return plain > 0 ? plain : Special(text);
+  const std::size_t count = out_.Text(text, format_.encoding);
+  return count > 0 ? count : Special(text);
 }
 
-std::size_t WrittenBody::Plain(std::u16string_view text) {
-  if (format_.encoding != Encoding::Symbols) return out_.Plain(text);
-  return out_.Plain(text.substr(0, text.front() == u' ' ? 1 : 0));
-}
-
-/// Writes the first character of `text`, which is not plain; returns its length.
+/// Writes the first character of `text`, a tab, break or object; returns its length.
 std::size_t WrittenBody::Special(std::u16string_view text) {
   const char16_t unit = text.front();
   if (unit == u'\r') {
@@ -233,14 +195,10 @@ std::size_t WrittenBody::Special(std::u16string_view text) {
     EndParagraph();
     return 2;
   }
-  if (unit == u'\t' || unit == u'\v') {
-    out_.Word(unit == u'\t' ? "tab" : "line");
-  } else if (const std::string_view symbol = SymbolFor(unit); !symbol.empty()) {
-    out_.Raw(symbol);
-  } else if (const int byte = ByteFor(unit, format_.encoding); byte >= 0) {
-    out_.Hex(byte);
+  if (unit == u'\uFFFC') {
+    out_.Character(unit, format_.encoding);
   } else {
-    out_.Unicode(unit);
+    out_.Word(unit == u'\t' ? "tab" : "line");
   }
   return 1;
 }

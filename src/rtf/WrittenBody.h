@@ -1,8 +1,8 @@
 // The body of the source: paragraphs, runs, characters, and what is kept among them.
 #pragma once
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "document/Document.h"
@@ -27,7 +27,11 @@ class WrittenBody {
  public:
   WrittenBody(const FormatTables& tables, const WrittenFormats& formats,
               WrittenParagraphs paragraphs, Output& out)
-      : tables_(tables), formats_(formats), paragraphs_(std::move(paragraphs)), out_(out) {}
+      : tables_(tables),
+        formats_(formats),
+        paragraphs_(std::move(paragraphs)),
+        out_(out),
+        knownWords_(tables.paragraphs.Size()) {}
 
   /// A piece of one format.
   void Text(std::u16string_view text, CharId format);
@@ -38,6 +42,7 @@ class WrittenBody {
   /// What a reader knows of the paragraph at hand.
   struct Told {
     const std::string* words = nullptr;  // in `knownWords_`; null: nothing yet
+    ParaId paragraph = 0;
     int nesting = 0;
     bool bullet = false;
   };
@@ -67,7 +72,6 @@ class WrittenBody {
   bool EndsNothing(const Kept& kept, char16_t unit) const;
   std::size_t Instead(const Kept& kept, char16_t unit);
   std::size_t Step(std::u16string_view text);
-  std::size_t Plain(std::u16string_view text);
   std::size_t Special(std::u16string_view text);
   void EndParagraph();
 
@@ -81,7 +85,7 @@ class WrittenBody {
   bool begun_ = false;     // whether anything of the paragraph, or of its cell, is written
   bool filled_ = false;    // whether the paragraph has text
   Told told_;
-  std::unordered_map<ParaId, std::string> knownWords_;
+  std::vector<std::optional<std::string>> knownWords_;  // by ParaId
   WrittenFormat format_;
   std::vector<OpenField> fields_;
   std::vector<FieldId> chain_;

@@ -70,10 +70,6 @@ WrittenFormats::WrittenFormats(const FormatTables& tables, const KeptHead& head)
   if (colours_.empty()) colours_.push_back(kAutoColour);
 }
 
-void WrittenFormats::Use(CharId format) {
-  if (written_[format].font < 0) written_[format] = Written(tables_.characters[format]);
-}
-
 void WrittenFormats::UseBullets() {
   bulletFont_ = fonts_[FontIndex({.name = u"Symbol", .charset = 2})].number;
 }

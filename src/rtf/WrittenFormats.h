@@ -10,9 +10,6 @@
 
 namespace lumenote {
 
-/// How the characters of a font are written.
-enum class Encoding : std::uint8_t { Windows, Symbols, UnicodeOnly };
-
 /// A character format as the words of RTF can tell it: two formats that are written alike are
 /// equal here. The fields are the words' own numbers.
 struct WrittenFormat {
@@ -38,7 +35,9 @@ class WrittenFormats {
   WrittenFormats(const FormatTables& tables, const KeptHead& head);
 
   /// Takes in a format that the text uses.
-  void Use(CharId format);
+  void Use(CharId format) {
+    if (written_[format].font < 0) written_[format] = Written(tables_.characters[format]);
+  }
   /// Takes in the font of bullets.
   void UseBullets();
 
@@ -74,7 +73,7 @@ class WrittenFormats {
 
 /// Writes the words that lead from one character format to another. Behind \hich readers take sizes
 /// and effects for those of right-to-left text, so they are told before it.
-void WriteChange(WrittenFormat from, const WrittenFormat& to, const FormatTables& tables,
+void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
                  Output& out);
 /// The words of a paragraph format behind \pard, its bullet and its table excepted. `styled` tells
 /// of a source that has styles.
