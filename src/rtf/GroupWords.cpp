@@ -20,6 +20,7 @@ void Interpreter::Marker(int, const Token& word) {
   if (!marker_.empty() || placingMarker_) return;
   ++laid_;
   marker_ = tokens_.Source(from, tokens_.At());
+  beforeMarker_ = pending_.size();
   markerWord_ = word.text;
 }
 

@@ -242,7 +242,8 @@ void Interpreter::PlaceMarker() {
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
   const std::size_t uncounted = std::exchange(uncounted_, 0);
-  const std::string behind = std::exchange(pending_, {});
+  const std::string behind = pending_.substr(std::min(beforeMarker_, pending_.size()));
+  pending_.resize(pending_.size() - behind.size());
   placingMarker_ = true;
   Interpret();
   placingMarker_ = false;

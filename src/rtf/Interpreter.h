@@ -174,6 +174,7 @@ class Interpreter {
 
   // What is kept.
   std::string pending_;   // words and groups that go with the next character
+  KeptId lastKept_ = 0;   // of the last character that something is kept with
   std::size_t laid_ = 0;  // pieces of text, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
   std::string_view associatedWith_;  // the last marker
@@ -191,6 +192,7 @@ class Interpreter {
   bool placingMarker_ = false;
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
   std::string_view markerWord_;
+  std::size_t beforeMarker_ = 0;  // how much of `pending_` comes before it
 };
 
 }  // namespace lumenote

@@ -144,7 +144,8 @@ void Interpreter::Field(int, const Token&) {
 void Interpreter::FieldResult(int, const Token&) {
   const std::size_t from = std::exchange(State().fieldAt, GroupState::kNowhere);
   if (from == GroupState::kNowhere) return;
-  const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback);
+  const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
+                           KeptSource::Words::OfFields);
   if (opening.open != 1 || laid_ != State().laidBefore) return;
   head_.tables |= opening.needsHead;
   pending_.resize(std::min(pending_.size(), State().pendingBefore));
@@ -190,6 +191,9 @@ CharId Interpreter::CharacterWith(Kept kept) {
   kept.field = State().field;
   CharFormat format = State().character;
   format.kept = formats_.kept.Intern(kept);
+  kept.second = format.kept == lastKept_ && !kept.before.empty();
+  if (kept.second) format.kept = formats_.kept.Intern(kept);
+  lastKept_ = format.kept;
   return formats_.characters.Intern(format);
 }
 

@@ -17,9 +17,14 @@ void AppendHex(std::string_view bytes, std::string_view before, std::string& out
   }
 }
 
+/// Whether a token of a field's own group is a word that says nothing of the field.
+bool IsStray(const Token& token) {
+  return token.kind == Token::Kind::Word && token.text != "field" && !token.text.starts_with("fld");
+}
+
 }  // namespace
 
-KeptSource::KeptSource(std::string_view source, int fallback) {
+KeptSource::KeptSource(std::string_view source, int fallback, Words words) {
   Tokenizer tokens(source);
   std::size_t end = 0;
   std::size_t firstWordEnd = 0;
@@ -29,6 +34,10 @@ KeptSource::KeptSource(std::string_view source, int fallback) {
     const bool nothing = (token.kind == Token::Kind::Close && open == 0) ||
                          (token.kind == Token::Kind::Binary && token.text.empty());
     if (nothing) continue;
+    if (words == Words::OfFields && open == 0 && IsStray(token)) {
+      end = tokens.At();
+      continue;
+    }
     if (tokens.Start() != end) text += "\r\n";
     end = tokens.At();
     Append(token, tokens.Source(tokens.Start(), end));
@@ -38,8 +47,9 @@ KeptSource::KeptSource(std::string_view source, int fallback) {
     unicode |= word && token.text == "u";
   }
   if (delimited) text.pop_back();
-  if (unicode && fallback != kOwnFallback)
-    text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
+  if (!unicode || fallback == kOwnFallback) return;
+  text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
+  if (words == Words::OfFields) text += "\\uc" + std::to_string(kOwnFallback);
 }
 
 void KeptSource::Append(const Token& token, std::string_view source) {

@@ -14,8 +14,10 @@ struct KeptSource {
   std::size_t open = 0;    // groups that it leaves open
   bool needsHead = false;  // it names fonts or colours, or holds bytes of the document's page
 
+  /// Which words a piece keeps outside its groups.
+  enum class Words { All, OfFields };
   /// `fallback` is the number of characters behind a \u in force where the source stands (\uc).
-  KeptSource(std::string_view source, int fallback);
+  KeptSource(std::string_view source, int fallback, Words words = Words::All);
   /// The same with the missing closing braces.
   std::string Closed() const { return text + std::string(open, '}'); }
 

@@ -53,7 +53,7 @@ void Interpreter::BreakAs(Kept kept) {
 /// The end of a page, column or section ends a paragraph that has begun.
 void Interpreter::EndParagraph(int, const Token& word) {
   BeginBody();
-  if (!marker_.empty()) BeforeText();
+  if (!marker_.empty() && !HasBullet()) BeforeText();
   if (!body_.Started()) return KeepSource(SourceOf(word));
   BreakAs({.instead = SourceOf(word)});
 }

@@ -9,13 +9,15 @@ namespace lumenote {
 
 void WrittenBody::BeginParagraph() {
   begun_ = true;
-  if (index_ < paragraphs_.formats.size()) Paragraph(Governing(), true);
+  if (HasFormat()) Paragraph(Governing(), true);
 }
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
-  if (!atStart && told_.words && told_.paragraph == id) return;
   const ParaFormat& format = tables_.paragraphs[id];
-  const Told wanted{&Words(id), id, InRow() ? format.nesting : 0, format.bullet != 0};
+  const int nesting = InRow() ? format.nesting : 0;
+  const bool told = told_.words && told_.paragraph == id && told_.nesting == nesting;
+  if (told && !atStart) return;
+  const Told wanted{&Words(id), id, nesting, format.bullet != 0};
   const bool changed = !told_.words || wanted.nesting != told_.nesting ||
                        wanted.bullet != told_.bullet || *wanted.words != *told_.words;
   told_ = wanted;
@@ -73,7 +75,7 @@ ParaId WrittenBody::Governing() const {
 
 /// Whether readers number the paragraph at hand.
 bool WrittenBody::IsList() const {
-  if (index_ == paragraphs_.formats.size()) return false;
+  if (!HasFormat()) return false;
   const ParaFormat format = InList(Governing());
   const bool numbered = tables_.words[format.words].source.find("{\\*\\pn") != std::string::npos;
   return format.bullet == 0 && (format.list != 0 || numbered);
@@ -82,9 +84,11 @@ bool WrittenBody::IsList() const {
 // --- fields
 
 /// Leaves the fields that the next character is not in, and enters those that it is in. A list
-/// number whose paragraph is no list any more is ordinary text.
-void WrittenBody::Field(FieldId wanted) {
-  if (fields_.empty() && wanted == 0 && begun_) return;
+/// number whose paragraph is no list any more is ordinary text. Readers number a paragraph where
+/// its number stands: what comes `before` the first character of that comes before it. Returns what
+/// is still to be written of it.
+std::string_view WrittenBody::Field(FieldId wanted, std::string_view before) {
+  if (fields_.empty() && wanted == 0 && begun_) return before;
   chain_.clear();
   for (FieldId id = wanted; id != 0; id = tables_.fields[id].outer)
     if (!tables_.fields[id].numbers || IsList()) chain_.insert(chain_.begin(), id);
@@ -94,12 +98,15 @@ void WrittenBody::Field(FieldId wanted) {
   if (!begun_) BeginParagraph();
   for (; fields_.size() < chain_.size();) {
     const FieldId id = chain_[fields_.size()];
+    const bool numbers = tables_.fields[id].numbers;
+    if (numbers) out_.Words(std::exchange(before, {}));
     fields_.push_back({id, told_, format_});
     out_.Words(tables_.fields[id].opening);
-    if (!tables_.fields[id].numbers) continue;
+    if (!numbers) continue;
     out_.Word("plain");
     format_ = {};
   }
+  return before;
 }
 
 void WrittenBody::CloseField() {
@@ -108,7 +115,7 @@ void WrittenBody::CloseField() {
   out_.Raw(tables_.fields[field.id].closing);
   told_ = field.told;
   format_ = field.format;
-  if (begun_) Paragraph(Governing(), false);
+  if (begun_ && HasFormat()) Paragraph(Governing(), false);
 }
 
 // --- characters
@@ -132,10 +139,11 @@ void WrittenBody::Text(std::u16string_view text, CharId format) {
 /// What an edit has made of one character is one still: what stands before it comes once.
 void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again) {
   while (!text.empty()) {
-    Field(kept.field);
-    Format(format);
     const bool stands = Stands(kept, text.front());
-    if (stands || !again) out_.Words(kept.before);
+    const std::string_view before = stands || !again ? kept.before : std::string_view();
+    const std::string_view rest = Field(kept.field, before);
+    Format(format);
+    out_.Words(rest);
     if (EndsNothing(kept, text.front())) out_.Words(kept.instead);
     again = true;
     text.remove_prefix(stands ? Instead(kept, text.front()) : Step(text));
@@ -206,15 +214,16 @@ std::size_t WrittenBody::Special(std::u16string_view text) {
 void WrittenBody::Finish(const FinalMark* mark) {
   if (mark) {
     const Kept& kept = tables_.kept[tables_.characters[mark->character].kept];
-    Field(kept.field);
+    const std::string_view rest = Field(kept.field, kept.before);
     Format(mark->character);
-    out_.Words(kept.before);
+    out_.Words(rest);
     if (EndsNothing(kept, u'\r')) out_.Words(kept.instead);
     if (Stands(kept, u'\r')) {
       Instead(kept, u'\r');
     } else {
       Paragraph(mark->paragraph, false);
       out_.Raw("\\par ");
+      begun_ = false;
     }
   }
   if (!told_.words && !paragraphs_.formats.empty()) BeginParagraph();

@@ -60,10 +60,12 @@ class WrittenBody {
   ParaFormat InList(ParaId paragraph) const;
   const std::string& Words(ParaId paragraph);
   bool InRow() const { return index_ < paragraphs_.inRow.size() && paragraphs_.inRow[index_]; }
+  /// Whether there is a paragraph at hand: behind the last break there is none.
+  bool HasFormat() const { return index_ < paragraphs_.formats.size(); }
   ParaId Governing() const;
   bool IsList() const;
 
-  void Field(FieldId wanted);
+  std::string_view Field(FieldId wanted, std::string_view before);
   void CloseField();
 
   void Format(CharId format);

@@ -32,6 +32,10 @@ INSTANTIATE_TEST_SUITE_P(
             R"({\rtf1 a{\field{\*\fldinst PAGE}{\fldrslt}}b{\*\bkmkstart k}c{\footnote n\bin1 }}d})",
             "\\f0\\fs24 a{\\field{\\*\\fldinst PAGE}{\\fldrslt}}b{\\*\\bkmkstart k}c"
             "{\\footnote n\r\n7d}d\\par }\r\n"},
+        Case{
+            R"({\rtf1 a{\*\z}b{\*\z}c\uc2{\field\fs2\fldedit{\*\fldinst\u233 ??}{\fldrslt\fs24 d}}})",
+            "\\f0\\fs24 a{\\*\\z}b{\\*\\z}c{\\field\\uc2\\fldedit{\\*\\fldinst\\u233 ??}"
+            "{\\fldrslt\\uc1 d}}\\par }\r\n"},
         Case{R"({\rtf1 a\page b\par\page c\sect\sectd\cols2 d})",
              "\\f0\\fs24 a\\page\r\nb\\par\r\n\\page c\\sect\r\n\\sectd\\cols2 d\\par }\r\n"},
         Case{R"({\rtf1 a\par\page{\*\z}})", "\\f0\\fs24 a\\par \\page{\\*\\z}}\r\n"},
@@ -58,6 +62,8 @@ INSTANTIATE_TEST_SUITE_P(
             "\\intbl\\itap2\\f0\\fs24 a\\nestcell\\pard\\intbl\\itap2"
             "{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}{\\nonesttables\\par}\r\n"
             "\\pard\\intbl b\\cell\\row\r\n\\pard c\\par }\r\n"},
+        Case{R"({\rtf1\pard\intbl{\field{\fldrslt a\row\pard b}}})",
+             "\\intbl{\\field{\\fldrslt\\f0\\fs24 a\\cell\\row\r\n\\pard b\\par }}}\r\n"},
         Case{R"({\rtf1\pard\intbl a\cell b\cell\par\pard c})",
              "\\f0\\fs24 a\\tab b\\tab\\par\r\nc\\par }\r\n"}));
 
@@ -70,6 +76,10 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1\pard{\pntext 1.\tab}{\*\pn\pnlvlbody\pnstart1}a\par})",
              "{\\*\\pn\\pnlvlbody\\pnstart1}{\\pntext\\plain\\f0\\fs24 1.\\tab}\\f0\\fs24 a\\par "
              "}\r\n"},
+        Case{R"({\rtf1 a\par\page\ls1{\listtext 1.}{\*\z}b})",
+             "\\f0\\fs24 a\\par\r\n"
+             "\\pard\\ls1\\ilvl0\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql"
+             "\\page{\\listtext\\plain\\f0\\fs24 1.}{\\*\\z}b\\par }\r\n"},
         Case{R"({\rtf1\pard{\listtext 1.\tab}a\par})", "\\f0\\fs24 1.\\tab a\\par }\r\n"}));
 
 TEST(Keeping, KeepsTheHeadWithTheNumbersOfItsTables) {
