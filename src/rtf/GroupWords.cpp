@@ -17,8 +17,8 @@ void Interpreter::SkipAlternative(int, const Token&) {
 void Interpreter::Marker(int, const Token& word) {
   const std::size_t from = tokens_.At();
   tokens_.SkipGroup();
-  if (!marker_.empty() || placingMarker_) return;
   ++laid_;
+  if (!marker_.empty() || placingMarker_) return;
   marker_ = tokens_.Source(from, tokens_.At());
   beforeMarker_ = pending_.size();
   markerWord_ = word.text;

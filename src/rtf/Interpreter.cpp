@@ -62,6 +62,7 @@ Fragment Interpreter::Read() {
     EndField(groups_[group], groups_[group - 1]);
   BeginBody();
   if (!marker_.empty()) PlaceMarker();
+  while (State().field != 0) LeaveField();
   Fragment fragment = body_.Finish(target_, {CharacterNumber(), ParagraphNumber()});
   if (fragment.mark) fragment.mark->head = Head();
   return fragment;
@@ -109,7 +110,7 @@ void Interpreter::Take(const Token& token) {
 /// over or its characters take several bytes.
 void Interpreter::TakeText() {
   const int fallback = State().fallback;
-  if (swallow_ > 0 || State().page.MultiByte() || !tokens_.AtText(fallback)) return;
+  if (swallow_ > 0 || starred_ || State().page.MultiByte() || !tokens_.AtText(fallback)) return;
   opened_ = starred_ = false;
   BeforeText();
   const CodePage page = State().page;
@@ -230,7 +231,7 @@ void Interpreter::BeforeText() {
   if (body_.Holds()) body_.Release();
 }
 
-/// Reads the marker as text, in a group of its own that it cannot leave.
+/// Reads the marker as text, in a group of its own that it cannot leave; it ends no paragraph.
 void Interpreter::PlaceMarker() {
   const std::string_view marker = std::exchange(marker_, {});
   if (HasBullet()) return;

@@ -36,15 +36,14 @@ void Interpreter::Unicode(int, const Token& word) {
 
 void Interpreter::Break(int, const Token&) { BreakAs({}); }
 
-/// A list number ends with its paragraph or cell.
 void Interpreter::BeforeBreak() {
   BeginBody();
   if (!marker_.empty()) BeforeText();
-  if (formats_.fields[State().field].numbers) LeaveField();
   Lay();
 }
 
 void Interpreter::BreakAs(Kept kept) {
+  if (placingMarker_) return;
   BeforeBreak();
   const bool plain = pending_.empty() && kept == Kept();
   body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
@@ -52,6 +51,7 @@ void Interpreter::BreakAs(Kept kept) {
 
 /// The end of a page, column or section ends a paragraph that has begun.
 void Interpreter::EndParagraph(int, const Token& word) {
+  if (placingMarker_) return;
   BeginBody();
   if (!marker_.empty() && !HasBullet()) BeforeText();
   if (!body_.Started()) return KeepSource(SourceOf(word));
@@ -59,6 +59,7 @@ void Interpreter::EndParagraph(int, const Token& word) {
 }
 
 void Interpreter::Cell(int nested, const Token&) {
+  if (placingMarker_) return;
   BeforeBreak();
   body_.Cell(CharacterWith(
       {.instead = EndOfCell(nested), .paragraph = ParagraphNumber(), .kind = Kept::Kind::Cell}));
@@ -67,6 +68,7 @@ void Interpreter::Cell(int nested, const Token&) {
 /// The row's break stands for the end of its last cell too, whose format the paragraph has. A row
 /// that holds nothing is none.
 void Interpreter::Row(int nested, const Token&) {
+  if (placingMarker_) return;
   if (!marker_.empty()) BeforeText();
   if (!body_.Started()) return;
   BeforeBreak();

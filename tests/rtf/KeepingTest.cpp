@@ -63,7 +63,8 @@ INSTANTIATE_TEST_SUITE_P(
             "{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}{\\nonesttables\\par}\r\n"
             "\\pard\\intbl b\\cell\\row\r\n\\pard c\\par }\r\n"},
         Case{R"({\rtf1\pard\intbl{\field{\fldrslt a\row\pard b}}})",
-             "\\intbl{\\field{\\fldrslt\\f0\\fs24 a\\cell\\row\r\n\\pard b\\par }}}\r\n"},
+             "\\intbl{\\field{\\fldrslt\\f0\\fs24 a\\cell\\row\r\n\\pard b}}\\pard\\f0\\fs24\\par "
+             "}\r\n"},
         Case{R"({\rtf1\pard\intbl a\cell b\cell\par\pard c})",
              "\\f0\\fs24 a\\tab b\\tab\\par\r\nc\\par }\r\n"}));
 
