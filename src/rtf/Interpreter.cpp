@@ -61,8 +61,8 @@ Fragment Interpreter::Read() {
   for (std::size_t group = groups_.size() - 1; group > 0; --group)
     EndField(groups_[group], groups_[group - 1]);
   BeginBody();
-  if (!marker_.empty()) PlaceMarker();
   while (State().field != 0) LeaveField();
+  if (!marker_.empty()) PlaceMarker();
   Fragment fragment = body_.Finish(target_, {CharacterNumber(), ParagraphNumber()});
   if (fragment.mark) fragment.mark->head = Head();
   return fragment;
