@@ -231,14 +231,16 @@ void Interpreter::BeforeText() {
   if (body_.Holds()) body_.Release();
 }
 
-/// Reads the marker as text, in a group of its own that it cannot leave; it ends no paragraph.
+/// Reads the marker as text, in a group of its own that it cannot leave. What numbers its paragraph
+/// does not end it.
 void Interpreter::PlaceMarker() {
   const std::string_view marker = std::exchange(marker_, {});
   if (HasBullet()) return;
   const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
   groups_.push_back(groups_.back());
   State().fieldAt = GroupState::kNowhere;
-  if (IsNumbered())
+  numbering_ = IsNumbered();
+  if (numbering_)
     EnterField({.opening = "{\\" + std::string(markerWord_), .closing = "}", .numbers = true});
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
@@ -248,6 +250,7 @@ void Interpreter::PlaceMarker() {
   placingMarker_ = true;
   Interpret();
   placingMarker_ = false;
+  numbering_ = false;
   pending_ += behind;
   borderOf_ = WordScope::None;
   associatedWith_ = {};

@@ -154,6 +154,7 @@ class Interpreter {
   ParagraphState& EditParagraph();
   CharId CharacterNumber();
   ParaId ParagraphNumber();
+  ParaId AtNesting(ParaId paragraph, int nesting);
 
   Tokenizer tokens_;
   RtfTarget target_;
@@ -190,6 +191,7 @@ class Interpreter {
   std::string bytes_;        // of a multi-byte page, not yet decoded
   std::u16string decoded_;
   bool placingMarker_ = false;
+  bool numbering_ = false;   // the marker being placed is a list number
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
   std::string_view markerWord_;
   std::size_t beforeMarker_ = 0;  // how much of `pending_` comes before it

@@ -11,8 +11,8 @@ std::string EndOfCell(int nested) { return nested != 0 ? "\\nestcell" : "\\cell"
 
 /// The end of a nested row, behind its last cell. Readers want the table told anew before it.
 std::string NestedRow(const std::string& definition, int nesting) {
-  return "\\pard\\intbl\\itap" + std::to_string(std::max(nesting, 2)) + "{\\*\\nesttableprops" +
-         definition + "\\nestrow}{\\nonesttables\\par}";
+  return "\\pard\\intbl\\itap" + std::to_string(nesting) + "{\\*\\nesttableprops" + definition +
+         "\\nestrow}{\\nonesttables\\par}";
 }
 
 }  // namespace
@@ -43,7 +43,7 @@ void Interpreter::BeforeBreak() {
 }
 
 void Interpreter::BreakAs(Kept kept) {
-  if (placingMarker_) return;
+  if (numbering_) return;
   BeforeBreak();
   const bool plain = pending_.empty() && kept == Kept();
   body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
@@ -51,7 +51,7 @@ void Interpreter::BreakAs(Kept kept) {
 
 /// The end of a page, column or section ends a paragraph that has begun.
 void Interpreter::EndParagraph(int, const Token& word) {
-  if (placingMarker_) return;
+  if (numbering_) return;
   BeginBody();
   if (!marker_.empty() && !HasBullet()) BeforeText();
   if (!body_.Started()) return KeepSource(SourceOf(word));
@@ -59,16 +59,23 @@ void Interpreter::EndParagraph(int, const Token& word) {
 }
 
 void Interpreter::Cell(int nested, const Token&) {
-  if (placingMarker_) return;
+  if (numbering_) return;
   BeforeBreak();
   body_.Cell(CharacterWith(
       {.instead = EndOfCell(nested), .paragraph = ParagraphNumber(), .kind = Kept::Kind::Cell}));
 }
 
+/// The paragraph format in a table that is at least so deep.
+ParaId Interpreter::AtNesting(ParaId paragraph, int nesting) {
+  ParaFormat format = formats_.paragraphs[paragraph];
+  format.nesting = std::max(format.nesting, static_cast<std::uint8_t>(std::min(nesting, 0xFF)));
+  return formats_.paragraphs.Intern(format);
+}
+
 /// The row's break stands for the end of its last cell too, whose format the paragraph has. A row
 /// that holds nothing is none.
 void Interpreter::Row(int nested, const Token&) {
-  if (placingMarker_) return;
+  if (numbering_) return;
   if (!marker_.empty()) BeforeText();
   if (!body_.Started()) return;
   BeforeBreak();
@@ -81,6 +88,7 @@ void Interpreter::Row(int nested, const Token&) {
     pending_ = std::exchange(kept.before, {});
   }
   kept.kind = Kept::Kind::Row;
+  if (nested) paragraph = AtNesting(paragraph, std::max(State().paragraph.nesting, 2));
   kept.instead +=
       nested ? NestedRow(definition, formats_.paragraphs[paragraph].nesting) : definition + "\\row";
   body_.Row({CharacterWith(std::move(kept)), paragraph});

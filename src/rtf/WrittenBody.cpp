@@ -14,7 +14,7 @@ void WrittenBody::BeginParagraph() {
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
   const ParaFormat& format = tables_.paragraphs[id];
-  const int nesting = InRow() ? format.nesting : 0;
+  const int nesting = Nesting(id);
   const bool told = told_.words && told_.paragraph == id && told_.nesting == nesting;
   if (told && !atStart) return;
   const Told wanted{&Words(id), id, nesting, format.bullet != 0};
@@ -32,7 +32,7 @@ void WrittenBody::Paragraph(ParaId id, bool atStart) {
 /// The format, out of a list that the source does not define.
 ParaFormat WrittenBody::InList(ParaId paragraph) const {
   ParaFormat format = tables_.paragraphs[paragraph];
-  if (!paragraphs_.inLists) format.list = 0;
+  if (!whole_) format.list = 0;
   return format;
 }
 
@@ -60,17 +60,33 @@ void WrittenBody::Bullet(ParaId id, bool changed, bool atStart) {
 }
 
 void WrittenBody::EndParagraph() {
-  while (cell_ < paragraphs_.cells.size() && paragraphs_.cells[cell_].paragraph == index_) ++cell_;
+  while (Cell()) ++cell_;
   ++index_;
   begun_ = false;
   filled_ = false;
 }
 
+const WrittenParagraphs::Cell* WrittenBody::Cell() const {
+  const std::vector<WrittenParagraphs::Cell>& cells = paragraphs_.cells;
+  return cell_ < cells.size() && cells[cell_].paragraph == index_ ? &cells[cell_] : nullptr;
+}
+
+int WrittenBody::Row() const {
+  if (const WrittenParagraphs::Cell* cell = Cell()) return cell->row;
+  return HasFormat() ? paragraphs_.rows[index_] : WrittenParagraphs::kNoRow;
+}
+
+/// How deep in tables the paragraph at hand, of format `paragraph`, is told to be.
+int WrittenBody::Nesting(ParaId paragraph) const {
+  const int row = std::max(Row(), 0);
+  return row > 1 ? row : std::min<int>(tables_.paragraphs[paragraph].nesting, row);
+}
+
 /// The format of the cell at hand, or of the paragraph.
 ParaId WrittenBody::Governing() const {
-  const std::vector<WrittenParagraphs::Cell>& cells = paragraphs_.cells;
-  const bool inCell = InRow() && cell_ < cells.size() && cells[cell_].paragraph == index_;
-  return inCell ? cells[cell_].format : paragraphs_.formats[index_];
+  const WrittenParagraphs::Cell* cell = Cell();
+  return cell && cell->row != WrittenParagraphs::kNoRow ? cell->format
+                                                        : paragraphs_.formats[index_];
 }
 
 /// Whether readers number the paragraph at hand.
@@ -136,7 +152,8 @@ void WrittenBody::Text(std::u16string_view text, CharId format) {
   while (!text.empty()) text.remove_prefix(Step(text));
 }
 
-/// What an edit has made of one character is one still: what stands before it comes once.
+/// What an edit has made of one character is one still: what stands before it comes once. A cell
+/// that is part of no row is text that ends in a tab.
 void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again) {
   while (!text.empty()) {
     const bool stands = Stands(kept, text.front());
@@ -146,7 +163,9 @@ void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& 
     out_.Words(rest);
     if (EndsNothing(kept, text.front())) out_.Words(kept.instead);
     again = true;
+    const bool lostCell = !stands && kept.kind == Kept::Kind::Cell && text.front() == u'\t';
     text.remove_prefix(stands ? Instead(kept, text.front()) : Step(text));
+    if (lostCell) ++cell_;
   }
 }
 
@@ -156,9 +175,9 @@ bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
     case Kept::Kind::Embedded:
       return unit == u'\uFFFC';
     case Kept::Kind::Cell:
-      return unit == u'\t' && InRow();
+      return unit == u'\t' && Row() != WrittenParagraphs::kNoRow;
     case Kept::Kind::Row:
-      return unit == u'\r' && InRow();
+      return unit == u'\r' && Row() != WrittenParagraphs::kNoRow;
     default:
       return unit == u'\r' && filled_ && !kept.instead.empty();
   }

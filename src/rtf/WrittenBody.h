@@ -8,28 +8,19 @@
 #include "document/Document.h"
 #include "rtf/Output.h"
 #include "rtf/WrittenFormats.h"
+#include "rtf/WrittenParagraphs.h"
 
 namespace lumenote {
 
-/// The paragraphs of a text in order.
-struct WrittenParagraphs {
-  std::vector<ParaId> formats;
-  std::vector<bool> inRow{};  // whether each one is part of a whole table row
-  struct Cell {
-    std::size_t paragraph;  // that it ends in
-    ParaId format;
-  };
-  std::vector<Cell> cells{};  // in order
-  bool inLists = true;        // their lists are those of the source's head
-};
-
 class WrittenBody {
  public:
+  /// `whole` tells of a document, whose lists are those of the source's head.
   WrittenBody(const FormatTables& tables, const WrittenFormats& formats,
-              WrittenParagraphs paragraphs, Output& out)
+              WrittenParagraphs paragraphs, bool whole, Output& out)
       : tables_(tables),
         formats_(formats),
         paragraphs_(std::move(paragraphs)),
+        whole_(whole),
         out_(out),
         knownWords_(tables.paragraphs.Size()) {}
 
@@ -59,7 +50,11 @@ class WrittenBody {
   void Bullet(ParaId id, bool changed, bool atStart);
   ParaFormat InList(ParaId paragraph) const;
   const std::string& Words(ParaId paragraph);
-  bool InRow() const { return index_ < paragraphs_.inRow.size() && paragraphs_.inRow[index_]; }
+  /// The cell at hand; null where the rest of the paragraph holds none.
+  const WrittenParagraphs::Cell* Cell() const;
+  /// Nesting of the row that is being written.
+  int Row() const;
+  int Nesting(ParaId paragraph) const;
   /// Whether there is a paragraph at hand: behind the last break there is none.
   bool HasFormat() const { return index_ < paragraphs_.formats.size(); }
   ParaId Governing() const;
@@ -80,6 +75,7 @@ class WrittenBody {
   const FormatTables& tables_;
   const WrittenFormats& formats_;
   WrittenParagraphs paragraphs_;
+  bool whole_;
   Output& out_;
 
   std::size_t index_ = 0;  // of the paragraph at hand

@@ -62,6 +62,11 @@ INSTANTIATE_TEST_SUITE_P(
             "\\intbl\\itap2\\f0\\fs24 a\\nestcell\\pard\\intbl\\itap2"
             "{\\*\\nesttableprops\\trowd\\cellx9\\nestrow}{\\nonesttables\\par}\r\n"
             "\\pard\\intbl b\\cell\\row\r\n\\pard c\\par }\r\n"},
+        Case{
+            R"({\rtf1\pard\intbl\itap3 a\nestcell\pard b\nestcell\itap2{\*\nesttableprops\nestrow}\pard\intbl c\cell\row})",
+            "\\intbl\\itap2\\f0\\fs24 a\\nestcell b\\nestcell\\pard\\intbl\\itap2"
+            "{\\*\\nesttableprops\\nestrow}{\\nonesttables\\par}\r\n"
+            "\\pard\\intbl c\\cell\\row\r\n}\r\n"},
         Case{R"({\rtf1\pard\intbl{\field{\fldrslt a\row\pard b}}})",
              "\\intbl{\\field{\\fldrslt\\f0\\fs24 a\\cell\\row\r\n\\pard b}}\\pard\\f0\\fs24\\par "
              "}\r\n"},

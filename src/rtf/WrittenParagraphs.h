@@ -1,0 +1,34 @@
+// The paragraphs of a text, and the table rows that they form.
+#pragma once
+#include <cstddef>
+#include <vector>
+
+#include "document/Document.h"
+
+namespace lumenote {
+
+/// The paragraphs of a text in order.
+struct WrittenParagraphs {
+  /// A row that an edit or a damaged source has left without its end, or in the middle of another
+  /// one, is ordinary text.
+  static constexpr int kNoRow = -1;
+  struct Cell {
+    std::size_t paragraph;  // that it ends in
+    ParaId format;
+    bool endsRow;
+    int row = kNoRow;  // nesting of the whole row that it is part of
+  };
+
+  /// The paragraphs between `from` and `to`, and with `mark` the last one.
+  WrittenParagraphs(const Document& document, Position from, Position to, const FinalMark* mark);
+
+  std::vector<ParaId> formats;
+  std::vector<int> rows;    // nesting of the whole row that each is part of
+  std::vector<Cell> cells;  // in order
+
+ private:
+  void FindCells(const Document& document, Position from, Position to, const FinalMark* mark);
+  void FindRows(const FormatTables& tables);
+};
+
+}  // namespace lumenote
