@@ -48,8 +48,10 @@ KeptSource::KeptSource(std::string_view source, int fallback, Words words) {
   }
   if (delimited) text.pop_back();
   if (!unicode || fallback == kOwnFallback) return;
+  const bool ofField = words == Words::OfFields;
+  if (ofField && text[firstWordEnd] == ' ') text.erase(firstWordEnd, 1);
   text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
-  if (words == Words::OfFields) text += "\\uc" + std::to_string(kOwnFallback);
+  if (ofField) text += "\\uc" + std::to_string(kOwnFallback);
 }
 
 void KeptSource::Append(const Token& token, std::string_view source) {
