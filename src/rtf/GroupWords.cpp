@@ -34,11 +34,10 @@ void Interpreter::Numbering(int, const Token&) {
   ParagraphState& paragraph = EditParagraph();
   if (paragraph.bullet || paragraph.numbered) return;
   paragraph.bullet = bullet;
-  if (!bullet && target_ == RtfTarget::Document) {
-    paragraph.numbered = true;
+  paragraph.numbered = !bullet;
+  if (!bullet && target_ == RtfTarget::Document)
     paragraph.words =
         WordsNumber(formats_.words[paragraph.words].source + GroupSource(from), paragraph.words);
-  }
   Outer().paragraph = paragraph;
   Outer().paragraphKnown = false;
 }

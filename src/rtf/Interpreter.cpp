@@ -240,7 +240,7 @@ void Interpreter::PlaceMarker() {
   groups_.push_back(groups_.back());
   State().fieldAt = GroupState::kNowhere;
   numbering_ = IsNumbered();
-  if (numbering_)
+  if (numbering_ && target_ == RtfTarget::Document)
     EnterField({.opening = "{\\" + std::string(markerWord_), .closing = "}", .numbers = true});
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());

@@ -154,7 +154,7 @@ class Interpreter {
   ParagraphState& EditParagraph();
   CharId CharacterNumber();
   ParaId ParagraphNumber();
-  ParaId AtNesting(ParaId paragraph, int nesting);
+  ParaId WithNesting(ParaId paragraph, int nesting);
 
   Tokenizer tokens_;
   RtfTarget target_;

@@ -181,7 +181,7 @@ void Interpreter::EndField(const GroupState& group, const GroupState& around) {
 
 bool Interpreter::IsNumbered() const {
   const ParagraphState& paragraph = State().paragraph;
-  return target_ == RtfTarget::Document && (paragraph.list >= 0 || paragraph.numbered);
+  return paragraph.list >= 0 || paragraph.numbered;
 }
 
 // --- characters

@@ -65,15 +65,14 @@ void Interpreter::Cell(int nested, const Token&) {
       {.instead = EndOfCell(nested), .paragraph = ParagraphNumber(), .kind = Kept::Kind::Cell}));
 }
 
-/// The paragraph format in a table that is at least so deep.
-ParaId Interpreter::AtNesting(ParaId paragraph, int nesting) {
+ParaId Interpreter::WithNesting(ParaId paragraph, int nesting) {
   ParaFormat format = formats_.paragraphs[paragraph];
-  format.nesting = std::max(format.nesting, static_cast<std::uint8_t>(std::min(nesting, 0xFF)));
+  format.nesting = static_cast<std::uint8_t>(std::min(nesting, 0xFF));
   return formats_.paragraphs.Intern(format);
 }
 
-/// The row's break stands for the end of its last cell too, whose format the paragraph has. A row
-/// that holds nothing is none.
+/// The row's break stands for the end of its last cell too, whose format the paragraph has, as deep
+/// as the row is. A row that holds nothing is none.
 void Interpreter::Row(int nested, const Token&) {
   if (numbering_) return;
   if (!marker_.empty()) BeforeText();
@@ -88,9 +87,10 @@ void Interpreter::Row(int nested, const Token&) {
     pending_ = std::exchange(kept.before, {});
   }
   kept.kind = Kept::Kind::Row;
-  if (nested) paragraph = AtNesting(paragraph, std::max(State().paragraph.nesting, 2));
-  kept.instead +=
-      nested ? NestedRow(definition, formats_.paragraphs[paragraph].nesting) : definition + "\\row";
+  const int told = formats_.paragraphs[paragraph].nesting;
+  const int nesting = nested ? std::max({told, State().paragraph.nesting, 2}) : std::min(told, 1);
+  paragraph = WithNesting(paragraph, nesting);
+  kept.instead += nested ? NestedRow(definition, nesting) : definition + "\\row";
   body_.Row({CharacterWith(std::move(kept)), paragraph});
 }
 

@@ -72,7 +72,7 @@ const WrittenParagraphs::Cell* WrittenBody::Cell() const {
 }
 
 int WrittenBody::Row() const {
-  if (const WrittenParagraphs::Cell* cell = Cell()) return cell->row;
+  if (InCell()) return Cell()->row;
   return HasFormat() ? paragraphs_.rows[index_] : WrittenParagraphs::kNoRow;
 }
 
@@ -84,9 +84,7 @@ int WrittenBody::Nesting(ParaId paragraph) const {
 
 /// The format of the cell at hand, or of the paragraph.
 ParaId WrittenBody::Governing() const {
-  const WrittenParagraphs::Cell* cell = Cell();
-  return cell && cell->row != WrittenParagraphs::kNoRow ? cell->format
-                                                        : paragraphs_.formats[index_];
+  return InCell() ? Cell()->format : paragraphs_.formats[index_];
 }
 
 /// Whether readers number the paragraph at hand.
@@ -175,9 +173,9 @@ bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
     case Kept::Kind::Embedded:
       return unit == u'\uFFFC';
     case Kept::Kind::Cell:
-      return unit == u'\t' && Row() != WrittenParagraphs::kNoRow;
+      return unit == u'\t' && InCell();
     case Kept::Kind::Row:
-      return unit == u'\r' && Row() != WrittenParagraphs::kNoRow;
+      return unit == u'\r' && InCell();
     default:
       return unit == u'\r' && filled_ && !kept.instead.empty();
   }

@@ -52,6 +52,7 @@ class WrittenBody {
   const std::string& Words(ParaId paragraph);
   /// The cell at hand; null where the rest of the paragraph holds none.
   const WrittenParagraphs::Cell* Cell() const;
+  bool InCell() const { return Cell() && Cell()->row != WrittenParagraphs::kNoRow; }
   /// Nesting of the row that is being written.
   int Row() const;
   int Nesting(ParaId paragraph) const;

@@ -14,9 +14,10 @@ class OpenRows {
     return nesting;
   }
   /// The row of a paragraph that calls itself so deep: deeper than the innermost row is in that
-  /// one.
+  /// one. A row that does not call itself part of a table is one paragraph.
   int Paragraph(int nesting) {
     LeaveDeeperThan(nesting > 0 ? nesting : WrittenParagraphs::kNoRow);
+    if (Innermost() == 0) open_.pop_back();
     return Innermost();
   }
   /// The same of a cell, which may tell nothing of its depth.
