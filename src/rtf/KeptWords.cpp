@@ -107,6 +107,11 @@ void EraseWord(std::string_view name, std::string& words) {
   words.erase(at, std::min(end, words.size()) - at);
 }
 
+bool BeginsParagraph(const std::string& words) {
+  static constexpr Names kEnds[] = {"page", "column", "sect"};
+  return FirstOf(kEnds, words, 0) < words.size();
+}
+
 WordScope FamilyScope(std::string_view word) {
   if (BeginsLike(kPlaceBeginnings, word)) return WordScope::Place;
   if (BeginsLike(kBorders, word)) return WordScope::Border;

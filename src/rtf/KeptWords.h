@@ -34,6 +34,8 @@ std::string WithAssociated(std::string words, std::string_view marker, const Tok
 
 /// Takes the word called `name` out of `words`, with its number.
 void EraseWord(std::string_view name, std::string& words);
+/// Whether the words begin a page, column or section, and so a paragraph.
+bool BeginsParagraph(const std::string& words);
 /// Whether the word's number is that of a font, colour, style or list.
 bool NamesTableEntry(std::string_view word);
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "rtf/KeptWords.h"
+
 namespace lumenote {
 
 // --- paragraphs
@@ -10,6 +12,9 @@ namespace lumenote {
 void WrittenBody::BeginParagraph() {
   begun_ = true;
   if (HasFormat()) Paragraph(Governing(), true);
+  const std::vector<WrittenParagraphs::Lead>& leads = paragraphs_.leads;
+  for (; lead_ < leads.size() && leads[lead_].paragraph <= index_; ++lead_)
+    out_.Words(tables_.kept[leads[lead_].kept].before);
 }
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
@@ -155,8 +160,7 @@ void WrittenBody::Text(std::u16string_view text, CharId format) {
 void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again) {
   while (!text.empty()) {
     const bool stands = Stands(kept, text.front());
-    const std::string_view before = stands || !again ? kept.before : std::string_view();
-    const std::string_view rest = Field(kept.field, before);
+    const std::string_view rest = Field(kept.field, stands || !again ? Before(kept) : "");
     Format(format);
     out_.Words(rest);
     if (EndsNothing(kept, text.front())) out_.Words(kept.instead);
@@ -165,6 +169,11 @@ void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& 
     text.remove_prefix(stands ? Instead(kept, text.front()) : Step(text));
     if (lostCell) ++cell_;
   }
+}
+
+/// What stands right before the character.
+std::string_view WrittenBody::Before(const Kept& kept) const {
+  return BeginsParagraph(kept.before) ? std::string_view() : kept.before;
 }
 
 /// Whether the character is still what the source said.
@@ -231,7 +240,7 @@ std::size_t WrittenBody::Special(std::u16string_view text) {
 void WrittenBody::Finish(const FinalMark* mark) {
   if (mark) {
     const Kept& kept = tables_.kept[tables_.characters[mark->character].kept];
-    const std::string_view rest = Field(kept.field, kept.before);
+    const std::string_view rest = Field(kept.field, Before(kept));
     Format(mark->character);
     out_.Words(rest);
     if (EndsNothing(kept, u'\r')) out_.Words(kept.instead);

@@ -66,6 +66,7 @@ class WrittenBody {
 
   void Format(CharId format);
   void KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again);
+  std::string_view Before(const Kept& kept) const;
   bool Stands(const Kept& kept, char16_t unit) const;
   bool EndsNothing(const Kept& kept, char16_t unit) const;
   std::size_t Instead(const Kept& kept, char16_t unit);
@@ -81,6 +82,7 @@ class WrittenBody {
 
   std::size_t index_ = 0;  // of the paragraph at hand
   std::size_t cell_ = 0;   // the next one that ends
+  std::size_t lead_ = 0;   // the next one to be written
   bool begun_ = false;     // whether anything of the paragraph, or of its cell, is written
   bool filled_ = false;    // whether the paragraph has text
   Told told_;

@@ -1,6 +1,10 @@
 // Which cells and paragraphs are parts of whole rows.
 #include "rtf/WrittenParagraphs.h"
 
+#include <utility>
+
+#include "rtf/KeptWords.h"
+
 namespace lumenote {
 namespace {
 
@@ -45,31 +49,33 @@ WrittenParagraphs::WrittenParagraphs(const Document& document, Position from, Po
   const FormatTables& tables = document.Formats();
   const bool nothingKept = tables.kept.Size() == 1;  // number 0 stands for nothing
   if (nothingKept) return;
-  FindCells(document, from, to, mark);
+  FindKept(document, from, to, mark);
   FindRows(tables);
 }
 
-void WrittenParagraphs::FindCells(const Document& document, Position from, Position to,
-                                  const FinalMark* mark) {
+void WrittenParagraphs::FindKept(const Document& document, Position from, Position to,
+                                 const FinalMark* mark) {
   const FormatTables& tables = document.Formats();
-  const auto add = [&](const Kept& kept, std::size_t paragraph) {
-    const bool endsRow = kept.kind == Kept::Kind::Row;
-    cells.push_back({paragraph, endsRow ? formats[paragraph] : kept.paragraph, endsRow});
-  };
   const Position first = document.ParagraphOf(from);
-  document.ForEachRun(from, to, [&](Position at, std::u16string_view text, CharId format) {
-    const Kept& kept = tables.kept[tables.characters[format].kept];
-    const bool cell = kept.kind == Kept::Kind::Cell;
-    if (!cell && kept.kind != Kept::Kind::Row) return;
-    const char16_t end = cell ? u'\t' : u'\r';
+  KeptId last = 0;
+  const auto find = [&](Position at, std::u16string_view text, CharId format) {
+    const KeptId id = tables.characters[format].kept;
+    const bool again = std::exchange(last, id) == id;
+    const Kept& kept = tables.kept[id];
+    const auto paragraph = [&](std::size_t i) {
+      return static_cast<std::size_t>(document.ParagraphOf(at + static_cast<Position>(i)) - first);
+    };
+    if (!again && BeginsParagraph(kept.before)) leads.push_back({paragraph(0), id});
+    const bool endsRow = kept.kind == Kept::Kind::Row;
+    if (!endsRow && kept.kind != Kept::Kind::Cell) return;
+    const char16_t end = endsRow ? u'\r' : u'\t';
     for (std::size_t i = text.find(end); i != text.npos; i = text.find(end, i + 1)) {
-      const Position paragraph = document.ParagraphOf(at + static_cast<Position>(i)) - first;
-      add(kept, static_cast<std::size_t>(paragraph));
+      const std::size_t at = paragraph(i);
+      cells.push_back({at, endsRow ? formats[at] : kept.paragraph, endsRow});
     }
-  });
-  if (!mark) return;
-  const Kept& kept = tables.kept[tables.characters[mark->character].kept];
-  if (kept.kind == Kept::Kind::Row) add(kept, formats.size() - 1);
+  };
+  document.ForEachRun(from, to, find);
+  if (mark) find(document.Length(), u"\r", mark->character);
 }
 
 void WrittenParagraphs::FindRows(const FormatTables& tables) {

@@ -19,15 +19,23 @@ struct WrittenParagraphs {
     int row = kNoRow;  // nesting of the whole row that it is part of
   };
 
+  /// What is kept before a character of the paragraph but begins the paragraph, whatever an edit
+  /// has put before that character.
+  struct Lead {
+    std::size_t paragraph;
+    KeptId kept;
+  };
+
   /// The paragraphs between `from` and `to`, and with `mark` the last one.
   WrittenParagraphs(const Document& document, Position from, Position to, const FinalMark* mark);
 
   std::vector<ParaId> formats;
   std::vector<int> rows;    // nesting of the whole row that each is part of
   std::vector<Cell> cells;  // in order
+  std::vector<Lead> leads;  // likewise
 
  private:
-  void FindCells(const Document& document, Position from, Position to, const FinalMark* mark);
+  void FindKept(const Document& document, Position from, Position to, const FinalMark* mark);
   void FindRows(const FormatTables& tables);
 };
 

@@ -117,6 +117,12 @@ TEST(Keeping, WhatAnEditLeavesOfARowIsText) {
   EXPECT_EQ(Body(WriteRtf(document)), "\\f0\\fs24\\trowd\\cellx9 a\\tab bc\\par\r\nd\\par }\r\n");
 }
 
+TEST(Keeping, WhatIsTypedAtTheStartOfAPageIsOnThatPage) {
+  Document document = Read(R"({\rtf1\pard a\par\page b})");
+  document.Replace(3, 3, PlainFragment(u"x", document.CharFormatAt(0), 0));
+  EXPECT_EQ(Body(WriteRtf(document)), "\\f0\\fs24 a\\par\r\n\\page xb\\par }\r\n");
+}
+
 TEST(Keeping, APageThatLostItsTextEndsBeforeAParagraph) {
   Document document = Read(R"({\rtf1\pard a\page b})");
   document.Replace(0, 1, Fragment());
