@@ -139,6 +139,7 @@ bool Interpreter::Ended() const {
 
 void Interpreter::Open() {
   swallow_ = 0;
+  borderOf_ = WordScope::None;
   opened_ = true;
   if (groups_.size() < kDeepest) {
     groups_.push_back(groups_.back());
@@ -149,6 +150,7 @@ void Interpreter::Open() {
 
 void Interpreter::Close() {
   swallow_ = 0;
+  borderOf_ = WordScope::None;
   if (uncounted_ > 0) {
     --uncounted_;
   } else if (groups_.size() > outermost_) {
