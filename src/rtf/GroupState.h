@@ -46,7 +46,7 @@ struct GroupState {
   int openFields = 0;              // fields around each other
   std::size_t fieldAt = kNowhere;  // offset of the \field whose result is still to come
   std::size_t laidBefore = 0;      // what the reader had laid down when that field began
-  std::size_t pendingBefore = 0;   // and what it had kept for the next character
+  std::size_t keptBefore = 0;      // and what it had kept for the next character
 
   // Numbers of the formats in the document's tables, while they are known.
   bool characterKnown = false;

@@ -1,5 +1,6 @@
 // Words that say what their group is: tables, lists, things skipped and things kept.
 #include "rtf/Interpreter.h"
+#include "rtf/KeptSource.h"
 
 namespace lumenote {
 /// The group's text is text as any other.
@@ -20,7 +21,7 @@ void Interpreter::Marker(int, const Token& word) {
   ++laid_;
   if (!marker_.empty() || placingMarker_) return;
   marker_ = tokens_.Source(from, tokens_.At());
-  beforeMarker_ = pending_.size();
+  beforeMarker_ = keeper_.Mark();
   markerWord_ = word.text;
 }
 
@@ -36,8 +37,7 @@ void Interpreter::Numbering(int, const Token&) {
   paragraph.bullet = bullet;
   paragraph.numbered = !bullet;
   if (!bullet && target_ == RtfTarget::Document)
-    paragraph.words =
-        WordsNumber(formats_.words[paragraph.words].source + GroupSource(from), paragraph.words);
+    paragraph.words = keeper_.WithGroup(GroupSource(from), paragraph.words);
   Outer().paragraph = paragraph;
   Outer().paragraphKnown = false;
 }

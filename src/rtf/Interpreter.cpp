@@ -10,8 +10,6 @@
 namespace lumenote {
 namespace {
 
-constexpr std::size_t kLeastWords = 1 << 16;
-
 /// Whether a token is a byte behind a backslash, which may be the second half of a character.
 bool IsEscapedByte(const Token& token) {
   const unsigned char byte = token.byte;
@@ -51,7 +49,7 @@ Interpreter::Interpreter(std::string_view source, RtfTarget target, FormatTables
       formats_(formats),
       groups_(1),
       default_(base),
-      wordsLeft_(source.size() + kLeastWords) {
+      keeper_(formats, source.size()) {
   State().character = base;
   groups_.resize(groups_.size() + opened, groups_.front());
 }
@@ -119,7 +117,7 @@ void Interpreter::TakeText() {
     body_.Commit(static_cast<int>(count), format);
     return count == room.size();
   };
-  if (!pending_.empty()) {
+  if (keeper_.Pending()) {
     take(body_.Room().first(1), NextCharacter());
     if (!tokens_.AtText(fallback)) return;
   }
@@ -215,7 +213,7 @@ void Interpreter::EndBytes() {
   decoded_.clear();
   DecodeCodePage(State().page.Number(), bytes, decoded_);
   const std::u16string_view text = decoded_;
-  const std::size_t first = pending_.empty() ? 0 : CharacterLength(text);
+  const std::size_t first = keeper_.Pending() ? CharacterLength(text) : 0;
   if (first > 0) body_.Append(text.substr(0, first), NextCharacter());
   body_.Append(text.substr(first), CharacterNumber());
 }
@@ -247,15 +245,14 @@ void Interpreter::PlaceMarker() {
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
   const std::size_t uncounted = std::exchange(uncounted_, 0);
-  const std::string behind = pending_.substr(std::min(beforeMarker_, pending_.size()));
-  pending_.resize(pending_.size() - behind.size());
+  const std::string behind = keeper_.TakeSince(beforeMarker_);
   placingMarker_ = true;
   Interpret();
   placingMarker_ = false;
   numbering_ = false;
-  pending_ += behind;
+  keeper_.Keep(behind);
   borderOf_ = WordScope::None;
-  associatedWith_ = {};
+  keeper_.EndScripts();
   tokens_ = tokens;
   outermost_ = outermost;
   uncounted_ = uncounted;

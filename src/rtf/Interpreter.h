@@ -10,7 +10,7 @@
 #include "rtf/ColourTable.h"
 #include "rtf/FontTable.h"
 #include "rtf/GroupState.h"
-#include "rtf/KeptSource.h"
+#include "rtf/Keeper.h"
 #include "rtf/KeptWords.h"
 #include "rtf/ListTable.h"
 #include "rtf/Reader.h"
@@ -118,9 +118,6 @@ class Interpreter {
   bool IsNumbered() const;
 
   void KeepUnknown(const Token& word);
-  void AddWord(const Token& word, WordsId& words);
-  WordsId WordsNumber(std::string source, WordsId otherwise);
-  void KeepSource(const std::string& source);
   void KeepInHead(const std::string& source);
   std::string GroupSource(std::size_t from);
   void EnterField(KeptField field);
@@ -173,15 +170,11 @@ class Interpreter {
   int documentPage_ = kPageOfWindows;
   bool appliesStyles_ = true;
 
-  // What is kept.
-  std::string pending_;   // words and groups that go with the next character
-  KeptId lastKept_ = 0;   // of the last character that something is kept with
+  Keeper keeper_;
   std::size_t laid_ = 0;  // pieces of text, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
-  std::string_view associatedWith_;  // the last marker
-  std::size_t wordsLeft_;            // bytes of words that may still be kept
-  bool inHead_ = true;               // nothing of the body has come yet
-  bool begun_ = false;               // text has come
+  bool inHead_ = true;  // nothing of the body has come yet
+  bool begun_ = false;  // text has come
   KeptHead head_;
 
   int swallow_ = 0;          // characters still to pass over behind a \u
@@ -194,7 +187,7 @@ class Interpreter {
   bool numbering_ = false;   // the marker being placed is a list number
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
   std::string_view markerWord_;
-  std::size_t beforeMarker_ = 0;  // how much of `pending_` comes before it
+  std::size_t beforeMarker_ = 0;  // the mark of what is kept before it
 };
 
 }  // namespace lumenote

@@ -3,12 +3,12 @@
 #include <utility>
 
 #include "rtf/Interpreter.h"
+#include "rtf/KeptSource.h"
 
 namespace lumenote {
 namespace {
 
 constexpr std::u16string_view kObjectCharacter = u"\uFFFC";
-constexpr std::size_t kMostWords = 512;  // bytes of the kept words of one format
 constexpr int kDeepestField = 32;  // fields in each other; what is deeper in keeps its text alone
 constexpr std::string_view kOwnName = "Lumenote";
 
@@ -28,24 +28,6 @@ bool NamesBorder(std::string_view word) {
 
 // --- words
 
-/// A word says nothing twice, but the parts of a border come once for each of its sides.
-void Interpreter::AddWord(const Token& word, WordsId& words) {
-  std::string source = formats_.words[words].source;
-  if (!word.text.starts_with("br")) EraseWord(word.text, source);
-  head_.tables |= NamesTableEntry(word.text);
-  words = WordsNumber(source + SourceOf(word), words);
-}
-
-/// Bounds what hostile sources can make of their words.
-WordsId Interpreter::WordsNumber(std::string source, WordsId otherwise) {
-  const std::size_t size = source.size();
-  if (size > kMostWords || size > wordsLeft_) return otherwise;
-  const std::uint32_t known = formats_.words.Size();
-  const WordsId number = formats_.words.Intern({std::move(source)});
-  if (formats_.words.Size() != known) wordsLeft_ -= size;
-  return number;
-}
-
 void Interpreter::KeepWord(int value, const Token& word) {
   WordScope scope = static_cast<WordScope>(value);
   if (scope == WordScope::Border)
@@ -54,21 +36,19 @@ void Interpreter::KeepWord(int value, const Token& word) {
     borderOf_ = NamesBorder(word.text) ? scope : WordScope::None;
   if (scope == WordScope::None) return;
   if (target_ == RtfTarget::Selection && NamesTableEntry(word.text)) return;
-  if (scope == WordScope::Character) return AddWord(word, EditCharacter().words);
-  if (scope == WordScope::Paragraph) return AddWord(word, EditParagraph().words);
-  head_.tables |= NamesTableEntry(word.text);
-  KeepSource(SourceOf(word));
+  if (scope == WordScope::Character) {
+    EditCharacter().words = keeper_.With(word, State().character.words);
+  } else if (scope == WordScope::Paragraph) {
+    EditParagraph().words = keeper_.With(word, State().paragraph.words);
+  } else {
+    keeper_.NeedTables(NamesTableEntry(word.text));
+    keeper_.Keep(SourceOf(word));
+  }
 }
 
 void Interpreter::KeepAssociated(int, const Token& word) {
   if (target_ == RtfTarget::Selection) return;
-  head_.tables |= NamesTableEntry(word.text);
-  WordsId& words = EditCharacter().words;
-  const std::string& known = formats_.words[words].source;
-  const bool marker = IsMarker(word.text);
-  if (marker) associatedWith_ = word.text;
-  words = WordsNumber(
-      marker ? WithMarker(known, word.text) : WithAssociated(known, associatedWith_, word), words);
+  EditCharacter().words = keeper_.WithScript(word, State().character.words);
 }
 
 /// Words of unknown meaning are the document's as long as they stand at its head.
@@ -82,13 +62,11 @@ void Interpreter::KeepUnknown(const Token& word) {
 
 // --- groups
 
-void Interpreter::KeepSource(const std::string& source) { pending_ += source; }
-
 /// A table of the head that has been read, be it behind the first words of the body.
 void Interpreter::KeepInHead(const std::string& source) {
   ++laid_;
   if (inHead_)
-    KeepSource(source);
+    keeper_.Keep(source);
   else if (target_ == RtfTarget::Document)
     head_.source += source;
 }
@@ -96,7 +74,7 @@ void Interpreter::KeepInHead(const std::string& source) {
 /// The group from the word at `from` on, which opens it, to where the reader stands.
 std::string Interpreter::GroupSource(std::size_t from) {
   const KeptSource kept(tokens_.Source(from, tokens_.At()), State().fallback);
-  head_.tables |= kept.needsHead;
+  keeper_.NeedTables(kept.needsHead);
   return (wasStarred_ ? "{\\*" : "{") + kept.Closed() + "}";
 }
 
@@ -114,7 +92,7 @@ void Interpreter::KeepGroup(int, const Token&) {
 void Interpreter::KeepAside(int, const Token&) {
   const std::size_t from = tokens_.Start();
   tokens_.SkipGroup();
-  KeepSource(GroupSource(from));
+  keeper_.Keep(GroupSource(from));
 }
 
 /// The same for a table of the head; a word of the body behind its entries shows that its brace is
@@ -127,7 +105,7 @@ void Interpreter::KeepTable(int, const Token&) {
     if (token.kind == Token::Kind::Close) --depth;
     return depth > 0 || !EndsTable(token);
   });
-  KeepSource(GroupSource(from));
+  keeper_.Keep(GroupSource(from));
 }
 
 // --- fields
@@ -138,7 +116,7 @@ void Interpreter::Field(int, const Token&) {
   ++state.openFields;
   state.fieldAt = tokens_.Start();
   state.laidBefore = laid_;
-  state.pendingBefore = pending_.size();
+  state.keptBefore = keeper_.Mark();
 }
 
 void Interpreter::FieldResult(int, const Token&) {
@@ -147,8 +125,8 @@ void Interpreter::FieldResult(int, const Token&) {
   const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
                            KeptSource::Words::OfFields);
   if (opening.open != 1 || laid_ != State().laidBefore) return;
-  head_.tables |= opening.needsHead;
-  pending_.resize(std::min(pending_.size(), State().pendingBefore));
+  keeper_.NeedTables(opening.needsHead);
+  keeper_.TakeSince(State().keptBefore);
   EnterField({.opening = "{" + opening.text, .closing = "}}"});
 }
 
@@ -174,9 +152,9 @@ void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
   if (laid_ != group.laidBefore) return;
   const KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback);
-  head_.tables |= source.needsHead;
-  pending_.resize(std::min(pending_.size(), group.pendingBefore));
-  KeepSource("{" + source.Closed() + "}");
+  keeper_.NeedTables(source.needsHead);
+  keeper_.TakeSince(group.keptBefore);
+  keeper_.Keep("{" + source.Closed() + "}");
 }
 
 bool Interpreter::IsNumbered() const {
@@ -187,18 +165,14 @@ bool Interpreter::IsNumbered() const {
 // --- characters
 
 CharId Interpreter::CharacterWith(Kept kept) {
-  kept.before = std::exchange(pending_, {});
   kept.field = State().field;
   CharFormat format = State().character;
-  format.kept = formats_.kept.Intern(kept);
-  kept.second = format.kept == lastKept_ && !kept.before.empty();
-  if (kept.second) format.kept = formats_.kept.Intern(kept);
-  lastKept_ = format.kept;
+  format.kept = keeper_.Number(std::move(kept));
   return formats_.characters.Intern(format);
 }
 
 CharId Interpreter::NextCharacter() {
-  return pending_.empty() ? CharacterNumber() : CharacterWith({});
+  return keeper_.Pending() ? CharacterWith({}) : CharacterNumber();
 }
 
 // --- the head
@@ -210,18 +184,19 @@ void Interpreter::Generator(int, const Token&) {
   tokens_.SkipGroup();
   const bool own = tokens_.Source(from, tokens_.At()).starts_with(kOwnName);
   appliesStyles_ = !own;
-  head_.tables |= own;
+  keeper_.NeedTables(own);
 }
 
 /// What came before goes with the note; a selection leaves it behind.
 void Interpreter::BeginBody() {
   if (!inHead_) return;
   inHead_ = false;
-  std::string source = std::exchange(pending_, {});
+  std::string source = keeper_.Take();
   if (target_ == RtfTarget::Document) head_.source = std::move(source);
 }
 
 HeadId Interpreter::Head() {
+  head_.tables = keeper_.NeedsTables();
   if (head_.tables) {
     for (const auto& [number, font] : fonts_.All())
       head_.fonts.push_back({number, font.font, font.page});
@@ -232,7 +207,7 @@ HeadId Interpreter::Head() {
   } else {
     head_ = {.source = std::move(head_.source)};
   }
-  head_.tail = std::exchange(pending_, {});
+  head_.tail = keeper_.Take();
   return formats_.heads.Intern(head_);
 }
 

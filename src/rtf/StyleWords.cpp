@@ -14,7 +14,8 @@ void Interpreter::Styles(int, const Token&) {
 
 void Interpreter::ParagraphStyle(int, const Token& word) {
   BeginBody();
-  if (target_ == RtfTarget::Document) AddWord(word, EditParagraph().words);
+  if (target_ == RtfTarget::Document)
+    EditParagraph().words = keeper_.With(word, State().paragraph.words);
   const Style* style = ResolvedStyle(StyleSheet::Kind::Paragraph, word.number);
   State().style = style;
   if (!style) return;
@@ -23,7 +24,8 @@ void Interpreter::ParagraphStyle(int, const Token& word) {
 }
 
 void Interpreter::CharacterStyle(int, const Token& word) {
-  if (target_ == RtfTarget::Document) AddWord(word, EditCharacter().words);
+  if (target_ == RtfTarget::Document)
+    EditCharacter().words = keeper_.With(word, State().character.words);
   const Style* style = ResolvedStyle(StyleSheet::Kind::Character, word.number);
   if (style) ApplyCharacterStyle(*style);
 }

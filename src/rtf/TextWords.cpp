@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "rtf/Interpreter.h"
+#include "rtf/KeptSource.h"
 
 namespace lumenote {
 namespace {
@@ -38,14 +39,14 @@ void Interpreter::Break(int, const Token&) { BreakAs({}); }
 
 void Interpreter::BeforeBreak() {
   BeginBody();
-  if (!marker_.empty()) BeforeText();
+  if (!marker_.empty()) PlaceMarker();
   Lay();
 }
 
 void Interpreter::BreakAs(Kept kept) {
   if (numbering_) return;
   BeforeBreak();
-  const bool plain = pending_.empty() && kept == Kept();
+  const bool plain = !keeper_.Pending() && kept == Kept();
   body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
 }
 
@@ -53,8 +54,8 @@ void Interpreter::BreakAs(Kept kept) {
 void Interpreter::EndParagraph(int, const Token& word) {
   if (numbering_) return;
   BeginBody();
-  if (!marker_.empty() && !HasBullet()) BeforeText();
-  if (!body_.Started()) return KeepSource(SourceOf(word));
+  if (!marker_.empty()) PlaceMarker();
+  if (!body_.Started()) return keeper_.Keep(SourceOf(word));
   BreakAs({.instead = SourceOf(word)});
 }
 
@@ -75,16 +76,16 @@ ParaId Interpreter::WithNesting(ParaId paragraph, int nesting) {
 /// as the row is. A row that holds nothing is none.
 void Interpreter::Row(int nested, const Token&) {
   if (numbering_) return;
-  if (!marker_.empty()) BeforeText();
+  if (!marker_.empty()) PlaceMarker();
   if (!body_.Started()) return;
   BeforeBreak();
   Kept kept{.instead = EndOfCell(nested)};
   ParaId paragraph = ParagraphNumber();
-  const std::string definition = std::exchange(pending_, {});
+  const std::string definition = keeper_.Take();
   if (const auto cell = body_.LastCell()) {
     kept = formats_.kept[formats_.characters[*cell].kept];
     paragraph = std::exchange(kept.paragraph, 0);
-    pending_ = std::exchange(kept.before, {});
+    keeper_.Keep(std::exchange(kept.before, {}));
   }
   kept.kind = Kept::Kind::Row;
   const int told = formats_.paragraphs[paragraph].nesting;

@@ -1,0 +1,64 @@
+#include "rtf/Keeper.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "rtf/KeptSource.h"
+#include "rtf/KeptWords.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::size_t kMostWords = 512;  // bytes of the kept words of one format
+constexpr std::size_t kLeastWords = 1 << 16;
+
+}  // namespace
+
+Keeper::Keeper(FormatTables& formats, std::size_t sourceLength)
+    : formats_(formats), wordsLeft_(sourceLength + kLeastWords) {}
+
+/// A word says nothing twice, but the parts of a border come once for each of its sides.
+WordsId Keeper::With(const Token& word, WordsId words) {
+  std::string source = formats_.words[words].source;
+  if (!word.text.starts_with("br")) EraseWord(word.text, source);
+  NeedTables(NamesTableEntry(word.text));
+  return Number(source + SourceOf(word), words);
+}
+
+WordsId Keeper::WithGroup(const std::string& group, WordsId words) {
+  return Number(formats_.words[words].source + group, words);
+}
+
+WordsId Keeper::WithScript(const Token& word, WordsId words) {
+  NeedTables(NamesTableEntry(word.text));
+  const std::string& known = formats_.words[words].source;
+  if (!IsMarker(word.text)) return Number(WithAssociated(known, marker_, word), words);
+  marker_ = word.text;
+  return Number(WithMarker(known, marker_), words);
+}
+
+WordsId Keeper::Number(std::string source, WordsId otherwise) {
+  const std::size_t size = source.size();
+  if (size > kMostWords || size > wordsLeft_) return otherwise;
+  const std::uint32_t known = formats_.words.Size();
+  const WordsId number = formats_.words.Intern({std::move(source)});
+  if (formats_.words.Size() != known) wordsLeft_ -= size;
+  return number;
+}
+
+std::string Keeper::TakeSince(std::size_t mark) {
+  const std::size_t from = std::min(mark, pending_.size());
+  std::string taken = pending_.substr(from);
+  pending_.resize(from);
+  return taken;
+}
+
+KeptId Keeper::Number(Kept kept) {
+  kept.before = Take();
+  KeptId number = formats_.kept.Intern(kept);
+  kept.second = number == last_ && !kept.before.empty();
+  if (kept.second) number = formats_.kept.Intern(kept);
+  return last_ = number;
+}
+
+}  // namespace lumenote

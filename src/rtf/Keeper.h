@@ -1,0 +1,55 @@
+// What the editor shows nothing of, on its way from the source into the note.
+#pragma once
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "document/Formats.h"
+#include "rtf/Tokenizer.h"
+
+namespace lumenote {
+
+/// Gathers the words of formats and the source that goes with the next character. What hostile
+/// sources can make of words is bounded: those of one format are short, those of all together
+/// hardly longer than the source.
+class Keeper {
+ public:
+  Keeper(FormatTables& formats, std::size_t sourceLength);
+
+  // The words of a run or paragraph: each returns the number of `words` with some more, or of
+  // `words` themselves where there is no room.
+
+  WordsId With(const Token& word, WordsId words);
+  WordsId WithGroup(const std::string& group, WordsId words);
+  /// Words on how other scripts look belong to the marker before them.
+  WordsId WithScript(const Token& word, WordsId words);
+  void EndScripts() { marker_ = {}; }
+
+  // What goes with the next character.
+
+  bool Pending() const { return !pending_.empty(); }
+  /// Length of what has been kept so far, to go back to.
+  std::size_t Mark() const { return pending_.size(); }
+  void Keep(std::string_view source) { pending_ += source; }
+  /// Takes away what has been kept since `mark`.
+  std::string TakeSince(std::size_t mark);
+  std::string Take() { return TakeSince(0); }
+  /// Numbers what is kept with a character, what is pending included.
+  KeptId Number(Kept kept);
+
+  /// Whether anything kept names entries of the source's tables.
+  bool NeedsTables() const { return needsTables_; }
+  void NeedTables(bool needed) { needsTables_ |= needed; }
+
+ private:
+  WordsId Number(std::string source, WordsId otherwise);
+
+  FormatTables& formats_;
+  std::string pending_;
+  KeptId last_ = 0;          // of the last character that something is kept with
+  std::string_view marker_;  // the last one
+  std::size_t wordsLeft_;    // bytes of words that may still be kept
+  bool needsTables_ = false;
+};
+
+}  // namespace lumenote
