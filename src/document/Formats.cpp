@@ -24,7 +24,7 @@ std::uint64_t HashOf(const TabStops& stops) {
 }
 
 std::uint64_t HashOf(const Kept& kept) {
-  const std::uint32_t rest[] = {kept.field, kept.paragraph, kept.second};
+  const std::uint32_t rest[] = {kept.field, kept.paragraph, kept.serial};
   return HashOf(kept.before) * 31 + HashOf(kept.instead) + HashBytes(rest, sizeof rest);
 }
 

@@ -137,7 +137,7 @@ struct Kept {
   FieldId field = 0;      // the innermost field that the character is in, 0 none
   ParaId paragraph = 0;   // of Cell: its format; the last one of a row has the paragraph's
   Kind kind = Kind::Character;
-  bool second = false;  // tells it from the one before it that says the same
+  std::uint32_t serial = 0;  // tells characters apart that the same comes before
   bool operator==(const Kept&) const = default;
 };
 

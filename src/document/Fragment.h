@@ -57,7 +57,8 @@ class FragmentBuilder {
  private:
   /// Leaves keep a little room to type in; one is full when what it has beyond that is not enough
   /// for a scanner.
-  static constexpr Position kFilled = Leaf::kCapacity - 32;
+  static constexpr Position kTypingRoom = 32;
+  static constexpr Position kFilled = Leaf::kCapacity - kTypingRoom;
   static constexpr Position kFull = kFilled - kLeastRoom;
 
   void FlushIfFull();

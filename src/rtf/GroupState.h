@@ -45,6 +45,7 @@ struct GroupState {
   KeptId inField = 0;              // what is kept with a character in that field
   int openFields = 0;              // fields around each other
   std::size_t fieldAt = kNowhere;  // offset of the \field whose result is still to come
+  bool fieldShown = false;         // it has come
   std::size_t laidBefore = 0;      // what the reader had laid down when that field began
   std::size_t keptBefore = 0;      // and what it had kept for the next character
 

@@ -59,7 +59,9 @@ Fragment Interpreter::Read() {
   for (std::size_t group = groups_.size() - 1; group > 0; --group)
     EndField(groups_[group], groups_[group - 1]);
   BeginBody();
-  while (State().field != 0) LeaveField();
+  // The final mark stands behind the fields that only the end of the source closes.
+  State().field = State().inField = 0;
+  State().characterKnown = false;
   if (!marker_.empty()) PlaceMarker();
   Fragment fragment = body_.Finish(target_, {CharacterNumber(), ParagraphNumber()});
   if (fragment.mark) fragment.mark->head = Head();
@@ -107,19 +109,19 @@ void Interpreter::Take(const Token& token) {
 /// Text goes the short way, from the source into the fragment, unless some of it is to be passed
 /// over or its characters take several bytes.
 void Interpreter::TakeText() {
-  const int fallback = State().fallback;
-  if (swallow_ > 0 || starred_ || State().page.MultiByte() || !tokens_.AtText(fallback)) return;
-  opened_ = starred_ = false;
+  const bool unicode = State().fallback == 1;
+  if (swallow_ > 0 || starred_ || State().page.MultiByte() || !tokens_.AtText(unicode)) return;
+  opened_ = false;
   BeforeText();
   const CodePage page = State().page;
   const auto take = [&](std::span<char16_t> room, CharId format) {
-    const std::size_t count = tokens_.Decode(page, fallback, room);
+    const std::size_t count = tokens_.Decode(page, unicode, room);
     body_.Commit(static_cast<int>(count), format);
     return count == room.size();
   };
   if (keeper_.Pending()) {
     take(body_.Room().first(1), NextCharacter());
-    if (!tokens_.AtText(fallback)) return;
+    if (!tokens_.AtText(unicode)) return;
   }
   const CharId format = CharacterNumber();
   while (take(body_.Room(), format)) {

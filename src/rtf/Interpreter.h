@@ -121,7 +121,6 @@ class Interpreter {
   void KeepInHead(const std::string& source);
   std::string GroupSource(std::size_t from);
   void EnterField(KeptField field);
-  void LeaveField();
   void EndField(const GroupState& group, const GroupState& around);
   void BeginBody();
   /// Takes note that text or a break is laid down.
@@ -130,7 +129,7 @@ class Interpreter {
     begun_ = true;
     borderOf_ = WordScope::None;
   }
-  void BeforeBreak();
+  bool ReachBreak();
   void BreakAs(Kept kept);
   CharId CharacterWith(Kept kept);
   CharId NextCharacter();
@@ -151,7 +150,6 @@ class Interpreter {
   ParagraphState& EditParagraph();
   CharId CharacterNumber();
   ParaId ParagraphNumber();
-  ParaId WithNesting(ParaId paragraph, int nesting);
 
   Tokenizer tokens_;
   RtfTarget target_;
@@ -171,6 +169,7 @@ class Interpreter {
   bool appliesStyles_ = true;
 
   Keeper keeper_;
+  std::string row_;       // the definition of the row at hand, if it came ahead of the cells
   std::size_t laid_ = 0;  // pieces of text, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
   bool inHead_ = true;  // nothing of the body has come yet

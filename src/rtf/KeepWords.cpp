@@ -41,7 +41,7 @@ void Interpreter::KeepWord(int value, const Token& word) {
   } else if (scope == WordScope::Paragraph) {
     EditParagraph().words = keeper_.With(word, State().paragraph.words);
   } else {
-    keeper_.NeedTables(NamesTableEntry(word.text));
+    keeper_.NeedTablesIf(NamesTableEntry(word.text));
     keeper_.Keep(SourceOf(word));
   }
 }
@@ -74,7 +74,7 @@ void Interpreter::KeepInHead(const std::string& source) {
 /// The group from the word at `from` on, which opens it, to where the reader stands.
 std::string Interpreter::GroupSource(std::size_t from) {
   const KeptSource kept(tokens_.Source(from, tokens_.At()), State().fallback);
-  keeper_.NeedTables(kept.needsHead);
+  keeper_.NeedTablesIf(kept.needsHead);
   return (wasStarred_ ? "{\\*" : "{") + kept.Closed() + "}";
 }
 
@@ -115,18 +115,27 @@ void Interpreter::Field(int, const Token&) {
   if (state.openFields == kDeepestField) return;
   ++state.openFields;
   state.fieldAt = tokens_.Start();
+  state.fieldShown = false;
   state.laidBefore = laid_;
-  state.keptBefore = keeper_.Mark();
+  state.keptBefore = keeper_.Size();
 }
 
+/// A field has one result. A list number before it is not part of it.
 void Interpreter::FieldResult(int, const Token&) {
-  const std::size_t from = std::exchange(State().fieldAt, GroupState::kNowhere);
-  if (from == GroupState::kNowhere) return;
+  const std::size_t from = State().fieldAt;
+  if (from == GroupState::kNowhere || State().fieldShown || laid_ != State().laidBefore) return;
   const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
                            KeptSource::Words::OfFields);
-  if (opening.open != 1 || laid_ != State().laidBefore) return;
-  keeper_.NeedTables(opening.needsHead);
+  if (opening.open != 1) return;
+  keeper_.NeedTablesIf(opening.needsHead);
   keeper_.TakeSince(State().keptBefore);
+  if (!marker_.empty()) PlaceMarker();
+  for (auto group = groups_.rbegin(); group != groups_.rend() && group->fieldAt == from; ++group) {
+    group->fieldShown = true;
+    group->laidBefore = laid_;
+    group->keptBefore = keeper_.Size();
+  }
+  State().fieldAt = GroupState::kNowhere;
   EnterField({.opening = "{" + opening.text, .closing = "}}"});
 }
 
@@ -140,19 +149,13 @@ void Interpreter::EnterField(KeptField field) {
   state.characterKnown = false;
 }
 
-void Interpreter::LeaveField() {
-  GroupState& state = State();
-  state.field = formats_.fields[state.field].outer;
-  state.inField = state.field == 0 ? 0 : formats_.kept.Intern({.field = state.field});
-  state.characterKnown = false;
-}
-
 /// At the end of `group`: a field that shows nothing goes with the next character, whole.
 void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
   if (laid_ != group.laidBefore) return;
-  const KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback);
-  keeper_.NeedTables(source.needsHead);
+  const KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
+                          KeptSource::Words::OfFields);
+  keeper_.NeedTablesIf(source.needsHead);
   keeper_.TakeSince(group.keptBefore);
   keeper_.Keep("{" + source.Closed() + "}");
 }
@@ -165,9 +168,11 @@ bool Interpreter::IsNumbered() const {
 // --- characters
 
 CharId Interpreter::CharacterWith(Kept kept) {
+  kept.before = keeper_.Take();
   kept.field = State().field;
+  if (std::string row = RowDefinition(kept.before); !row.empty()) row_ = std::move(row);
   CharFormat format = State().character;
-  format.kept = keeper_.Number(std::move(kept));
+  format.kept = keeper_.KeptNumber(std::move(kept));
   return formats_.characters.Intern(format);
 }
 
@@ -184,13 +189,14 @@ void Interpreter::Generator(int, const Token&) {
   tokens_.SkipGroup();
   const bool own = tokens_.Source(from, tokens_.At()).starts_with(kOwnName);
   appliesStyles_ = !own;
-  keeper_.NeedTables(own);
+  keeper_.NeedTablesIf(own);
 }
 
 /// What came before goes with the note; a selection leaves it behind.
 void Interpreter::BeginBody() {
   if (!inHead_) return;
   inHead_ = false;
+  beforeMarker_ = 0;
   std::string source = keeper_.Take();
   if (target_ == RtfTarget::Document) head_.source = std::move(source);
 }

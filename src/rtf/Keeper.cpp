@@ -21,23 +21,23 @@ Keeper::Keeper(FormatTables& formats, std::size_t sourceLength)
 WordsId Keeper::With(const Token& word, WordsId words) {
   std::string source = formats_.words[words].source;
   if (!word.text.starts_with("br")) EraseWord(word.text, source);
-  NeedTables(NamesTableEntry(word.text));
-  return Number(source + SourceOf(word), words);
+  NeedTablesIf(NamesTableEntry(word.text));
+  return WordsNumber(source + SourceOf(word), words);
 }
 
 WordsId Keeper::WithGroup(const std::string& group, WordsId words) {
-  return Number(formats_.words[words].source + group, words);
+  return WordsNumber(formats_.words[words].source + group, words);
 }
 
 WordsId Keeper::WithScript(const Token& word, WordsId words) {
-  NeedTables(NamesTableEntry(word.text));
+  NeedTablesIf(NamesTableEntry(word.text));
   const std::string& known = formats_.words[words].source;
-  if (!IsMarker(word.text)) return Number(WithAssociated(known, marker_, word), words);
-  marker_ = word.text;
-  return Number(WithMarker(known, marker_), words);
+  if (!IsMarker(word.text)) return WordsNumber(WithAssociated(known, script_, word), words);
+  script_ = word.text;
+  return WordsNumber(WithMarker(known, script_), words);
 }
 
-WordsId Keeper::Number(std::string source, WordsId otherwise) {
+WordsId Keeper::WordsNumber(std::string source, WordsId otherwise) {
   const std::size_t size = source.size();
   if (size > kMostWords || size > wordsLeft_) return otherwise;
   const std::uint32_t known = formats_.words.Size();
@@ -46,19 +46,16 @@ WordsId Keeper::Number(std::string source, WordsId otherwise) {
   return number;
 }
 
-std::string Keeper::TakeSince(std::size_t mark) {
-  const std::size_t from = std::min(mark, pending_.size());
+std::string Keeper::TakeSince(std::size_t size) {
+  const std::size_t from = std::min(size, pending_.size());
   std::string taken = pending_.substr(from);
   pending_.resize(from);
   return taken;
 }
 
-KeptId Keeper::Number(Kept kept) {
-  kept.before = Take();
-  KeptId number = formats_.kept.Intern(kept);
-  kept.second = number == last_ && !kept.before.empty();
-  if (kept.second) number = formats_.kept.Intern(kept);
-  return last_ = number;
+KeptId Keeper::KeptNumber(Kept kept) {
+  if (!kept.before.empty()) kept.serial = formats_.kept.Size();
+  return formats_.kept.Intern(kept);
 }
 
 }  // namespace lumenote

@@ -23,31 +23,30 @@ class Keeper {
   WordsId WithGroup(const std::string& group, WordsId words);
   /// Words on how other scripts look belong to the marker before them.
   WordsId WithScript(const Token& word, WordsId words);
-  void EndScripts() { marker_ = {}; }
+  void EndScripts() { script_ = {}; }
 
   // What goes with the next character.
 
   bool Pending() const { return !pending_.empty(); }
   /// Length of what has been kept so far, to go back to.
-  std::size_t Mark() const { return pending_.size(); }
+  std::size_t Size() const { return pending_.size(); }
   void Keep(std::string_view source) { pending_ += source; }
-  /// Takes away what has been kept since `mark`.
-  std::string TakeSince(std::size_t mark);
+  /// Takes away what has been kept since the length was `size`.
+  std::string TakeSince(std::size_t size);
   std::string Take() { return TakeSince(0); }
-  /// Numbers what is kept with a character, what is pending included.
-  KeptId Number(Kept kept);
+  /// Numbers what is kept with a character.
+  KeptId KeptNumber(Kept kept);
 
   /// Whether anything kept names entries of the source's tables.
   bool NeedsTables() const { return needsTables_; }
-  void NeedTables(bool needed) { needsTables_ |= needed; }
+  void NeedTablesIf(bool needed) { needsTables_ |= needed; }
 
  private:
-  WordsId Number(std::string source, WordsId otherwise);
+  WordsId WordsNumber(std::string source, WordsId otherwise);
 
   FormatTables& formats_;
   std::string pending_;
-  KeptId last_ = 0;          // of the last character that something is kept with
-  std::string_view marker_;  // the last one
+  std::string_view script_;  // the last marker
   std::size_t wordsLeft_;    // bytes of words that may still be kept
   bool needsTables_ = false;
 };

@@ -17,8 +17,9 @@ void AppendHex(std::string_view bytes, std::string_view before, std::string& out
   }
 }
 
-/// Whether a token of a field's own group is a word that says nothing of the field.
+/// Whether a token of a field's own group says nothing of the field.
 bool IsStray(const Token& token) {
+  if (token.kind == Token::Kind::Binary) return true;
   return token.kind == Token::Kind::Word && token.text != "field" && !token.text.starts_with("fld");
 }
 

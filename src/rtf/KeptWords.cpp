@@ -71,6 +71,16 @@ std::size_t PartEnd(const std::string& words, std::size_t from) {
   return std::min(FirstOf(kDirections, words, from + 1), FirstOf(kScripts, words, from + 1));
 }
 
+/// Calls `visit` for the words outside groups.
+template <class Visit>
+void ForEachWord(std::string_view source, Visit visit) {
+  Tokenizer tokens(source);
+  for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
+    if (token.kind == Token::Kind::Open) tokens.SkipGroup();
+    if (token.kind == Token::Kind::Word) visit(token);
+  }
+}
+
 }  // namespace
 
 bool IsMarker(std::string_view word) { return Holds(kDirections, word) || Holds(kScripts, word); }
@@ -107,9 +117,20 @@ void EraseWord(std::string_view name, std::string& words) {
   words.erase(at, std::min(end, words.size()) - at);
 }
 
-bool BeginsParagraph(const std::string& words) {
-  static constexpr Names kEnds[] = {"page", "column", "sect"};
-  return FirstOf(kEnds, words, 0) < words.size();
+bool BeginsParagraph(std::string_view source) {
+  static constexpr Names kBeginnings[] = {"page", "column", "sect", "sectd", "trowd"};
+  bool begins = false;
+  ForEachWord(source, [&](const Token& word) { begins |= Holds(kBeginnings, word.text); });
+  return begins;
+}
+
+std::string RowDefinition(std::string_view source) {
+  std::string row;
+  ForEachWord(source, [&](const Token& word) {
+    if (word.text == "trowd") row.clear();
+    if (word.text == "trowd" || !row.empty()) row += SourceOf(word);
+  });
+  return row;
 }
 
 WordScope FamilyScope(std::string_view word) {

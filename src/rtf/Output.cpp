@@ -6,7 +6,6 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
-#include <iterator>
 
 #include "rtf/CodePage.h"
 #include "rtf/PlainText.h"
@@ -163,7 +162,7 @@ void Output::Unicode(char16_t unit) {
 }
 
 template <int byteOf(char16_t)>
-std::size_t Output::Some(std::u16string_view text) {
+std::size_t Output::PlainOrBytes(std::u16string_view text) {
   if (text.empty()) return 0;
   if (openWord_ && IsPlain(text.front())) Raw(" ");
   std::size_t done = 0;
@@ -180,13 +179,13 @@ std::size_t Output::Some(std::u16string_view text) {
   return done;
 }
 
-std::size_t Output::Plain(std::u16string_view text) { return Some<NoByte>(text); }
+std::size_t Output::Plain(std::u16string_view text) { return PlainOrBytes<NoByte>(text); }
 
 std::size_t Output::Text(std::u16string_view text, Encoding encoding) {
   std::size_t done = 0;
   while (done < text.size()) {
     const std::u16string_view rest = text.substr(done);
-    const std::size_t some = Some(rest, encoding);
+    const std::size_t some = PlainOrBytes(rest, encoding);
     done += some;
     if (some > 0) continue;
     if (StopsText(rest.front())) break;
@@ -196,14 +195,14 @@ std::size_t Output::Text(std::u16string_view text, Encoding encoding) {
   return done;
 }
 
-std::size_t Output::Some(std::u16string_view text, Encoding encoding) {
+std::size_t Output::PlainOrBytes(std::u16string_view text, Encoding encoding) {
   switch (encoding) {
     case Encoding::Windows:
-      return Some<EscapedByte>(text);
+      return PlainOrBytes<EscapedByte>(text);
     case Encoding::Symbols:
-      return Some<NoByte>(text.substr(0, text.front() == u' ' ? 1 : 0));
+      return PlainOrBytes<NoByte>(text.substr(0, text.front() == u' ' ? 1 : 0));
     default:
-      return Some<NoByte>(text);
+      return PlainOrBytes<NoByte>(text);
   }
 }
 

@@ -43,8 +43,8 @@ class Output {
 
   /// Writes the beginning of `text` that is plain or has a byte, and returns its length.
   template <int byteOf(char16_t)>
-  std::size_t Some(std::u16string_view text);
-  std::size_t Some(std::u16string_view text, Encoding encoding);
+  std::size_t PlainOrBytes(std::u16string_view text);
+  std::size_t PlainOrBytes(std::u16string_view text, Encoding encoding);
   void Append(std::string_view source);
   void AppendLong(std::string_view source);
   void Grow(std::size_t count);

@@ -37,62 +37,59 @@ void Interpreter::Unicode(int, const Token& word) {
 
 void Interpreter::Break(int, const Token&) { BreakAs({}); }
 
-void Interpreter::BeforeBreak() {
+/// What comes ahead of any break. Returns false where there can be none: a list number does not end
+/// its paragraph.
+bool Interpreter::ReachBreak() {
+  if (numbering_) return false;
   BeginBody();
   if (!marker_.empty()) PlaceMarker();
-  Lay();
+  return true;
 }
 
 void Interpreter::BreakAs(Kept kept) {
-  if (numbering_) return;
-  BeforeBreak();
+  if (!ReachBreak()) return;
+  Lay();
   const bool plain = !keeper_.Pending() && kept == Kept();
   body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
 }
 
 /// The end of a page, column or section ends a paragraph that has begun.
 void Interpreter::EndParagraph(int, const Token& word) {
-  if (numbering_) return;
-  BeginBody();
-  if (!marker_.empty()) PlaceMarker();
+  if (!ReachBreak()) return;
   if (!body_.Started()) return keeper_.Keep(SourceOf(word));
   BreakAs({.instead = SourceOf(word)});
 }
 
 void Interpreter::Cell(int nested, const Token&) {
-  if (numbering_) return;
-  BeforeBreak();
+  if (!ReachBreak()) return;
+  Lay();
   body_.Cell(CharacterWith(
       {.instead = EndOfCell(nested), .paragraph = ParagraphNumber(), .kind = Kept::Kind::Cell}));
 }
 
-ParaId Interpreter::WithNesting(ParaId paragraph, int nesting) {
-  ParaFormat format = formats_.paragraphs[paragraph];
-  format.nesting = static_cast<std::uint8_t>(std::min(nesting, 0xFF));
-  return formats_.paragraphs.Intern(format);
-}
-
 /// The row's break stands for the end of its last cell too, whose format the paragraph has, as deep
-/// as the row is. A row that holds nothing is none.
+/// as the row is. A row that holds nothing is none. A definition that came ahead of the first cell
+/// alone would be lost with the first character of that, so the break has it too.
 void Interpreter::Row(int nested, const Token&) {
-  if (numbering_) return;
-  if (!marker_.empty()) PlaceMarker();
-  if (!body_.Started()) return;
-  BeforeBreak();
+  if (!ReachBreak() || !body_.Started()) return;
+  Lay();
   Kept kept{.instead = EndOfCell(nested)};
   ParaId paragraph = ParagraphNumber();
-  const std::string definition = keeper_.Take();
+  std::string definition = keeper_.Take();
+  if (nested == 0 && RowDefinition(definition).empty()) definition.insert(0, row_);
   if (const auto cell = body_.LastCell()) {
     kept = formats_.kept[formats_.characters[*cell].kept];
     paragraph = std::exchange(kept.paragraph, 0);
     keeper_.Keep(std::exchange(kept.before, {}));
   }
   kept.kind = Kept::Kind::Row;
-  const int told = formats_.paragraphs[paragraph].nesting;
-  const int nesting = nested ? std::max({told, State().paragraph.nesting, 2}) : std::min(told, 1);
-  paragraph = WithNesting(paragraph, nesting);
-  kept.instead += nested ? NestedRow(definition, nesting) : definition + "\\row";
-  body_.Row({CharacterWith(std::move(kept)), paragraph});
+  ParaFormat format = formats_.paragraphs[paragraph];
+  const int told = format.nesting;
+  const int deep = std::clamp(std::max(told, State().paragraph.nesting), 2, 0xFF);
+  format.nesting = static_cast<std::uint8_t>(nested ? deep : std::min(told, 1));
+  kept.instead += nested ? NestedRow(definition, deep) : definition + "\\row";
+  body_.Row({CharacterWith(std::move(kept)), formats_.paragraphs.Intern(format)});
+  if (nested == 0) row_.clear();
 }
 
 }  // namespace lumenote

@@ -186,15 +186,15 @@ Token Tokenizer::Hex() {
           .byte = static_cast<unsigned char>(digits[0] * 16 + digits[1])};
 }
 
-bool Tokenizer::AtText(int fallback) {
+bool Tokenizer::AtText(bool unicode) {
   while (at_ != end_ && ClassOf(*at_) == Class::Nothing) ++at_;
   if (at_ == end_) return false;
   const Class kind = ClassOf(*at_);
   return kind == Class::Text || kind == Class::High || HexValue(at_, end_) >= 0 ||
-         (fallback == 1 && UnicodeAt(at_, end_).length > 0);
+         (unicode && UnicodeAt(at_, end_).length > 0);
 }
 
-std::size_t Tokenizer::Decode(const CodePage& page, int fallback, std::span<char16_t> room) {
+std::size_t Tokenizer::Decode(const CodePage& page, bool unicode, std::span<char16_t> room) {
   char16_t* out = room.data();
   const char16_t* const limit = out + room.size();
   const bool keepsAscii = page.KeepsAscii();
@@ -217,7 +217,7 @@ std::size_t Tokenizer::Decode(const CodePage& page, int fallback, std::span<char
     } else if (kind == Class::Nothing) {
       ++at;
     } else {
-      const Escaped escaped = fallback == 1 ? UnicodeAt(at, end_) : Escaped();
+      const Escaped escaped = unicode ? UnicodeAt(at, end_) : Escaped();
       if (escaped.length == 0) break;
       *out++ = escaped.unit;
       at += escaped.length;

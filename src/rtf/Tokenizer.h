@@ -45,12 +45,12 @@ class Tokenizer {
   Token Next();
   static constexpr std::ptrdiff_t kLongest = 1024;
 
-  /// Whether text, a \'xx of a printable byte or a \u with its `fallback` characters comes next; a
-  /// \u counts only where one character is its fallback, as mostly.
-  bool AtText(int fallback);
-  /// Decodes what `AtText` tells of, bytes by a single-byte page: until `room` is full. Stops
+  /// Whether text, a \'xx of a printable byte or, with `unicode`, a \u with one character behind it
+  /// for other readers comes next. `unicode` is right only where \uc is 1, as it mostly is.
+  bool AtText(bool unicode);
+  /// Decodes what `AtText` tells of, bytes by a single-byte page, until `room` is full. Stops
   /// before anything else; returns the number of units.
-  std::size_t Decode(const CodePage& page, int fallback, std::span<char16_t> room);
+  std::size_t Decode(const CodePage& page, bool unicode, std::span<char16_t> room);
   /// Whether the rest of the source is closing braces.
   bool OnlyClosesFollow() const { return at_ >= tail_; }
   /// Whether any brace or backslash is left.

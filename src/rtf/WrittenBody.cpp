@@ -35,7 +35,7 @@ void WrittenBody::Paragraph(ParaId id, bool atStart) {
 }
 
 /// The format, out of a list that the source does not define.
-ParaFormat WrittenBody::InList(ParaId paragraph) const {
+ParaFormat WrittenBody::WrittenOf(ParaId paragraph) const {
   ParaFormat format = tables_.paragraphs[paragraph];
   if (!whole_) format.list = 0;
   return format;
@@ -43,7 +43,7 @@ ParaFormat WrittenBody::InList(ParaId paragraph) const {
 
 const std::string& WrittenBody::Words(ParaId paragraph) {
   std::optional<std::string>& known = knownWords_[paragraph];
-  if (!known) known = ParagraphWords(InList(paragraph), tables_, formats_.HasStyles());
+  if (!known) known = ParagraphWords(WrittenOf(paragraph), tables_, formats_.HasStyles());
   return *known;
 }
 
@@ -51,7 +51,7 @@ const std::string& WrittenBody::Words(ParaId paragraph) {
 /// the bullet is, unless its list does.
 void WrittenBody::Bullet(ParaId id, bool changed, bool atStart) {
   const int font = formats_.BulletFont();
-  const bool ofList = InList(id).list != 0;
+  const bool ofList = WrittenOf(id).list != 0;
   if (atStart) {
     out_.Raw("{");
     out_.Word(ofList ? "listtext" : "pntext");
@@ -76,26 +76,26 @@ const WrittenParagraphs::Cell* WrittenBody::Cell() const {
   return cell_ < cells.size() && cells[cell_].paragraph == index_ ? &cells[cell_] : nullptr;
 }
 
-int WrittenBody::Row() const {
-  if (InCell()) return Cell()->row;
-  return HasFormat() ? paragraphs_.rows[index_] : WrittenParagraphs::kNoRow;
+int WrittenBody::RowDepth() const {
+  if (Cell()) return Cell()->rowDepth;
+  return HasFormat() ? paragraphs_.rowDepths[index_] : WrittenParagraphs::kNoRow;
 }
 
 /// How deep in tables the paragraph at hand, of format `paragraph`, is told to be.
 int WrittenBody::Nesting(ParaId paragraph) const {
-  const int row = std::max(Row(), 0);
+  const int row = std::max(RowDepth(), 0);
   return row > 1 ? row : std::min<int>(tables_.paragraphs[paragraph].nesting, row);
 }
 
 /// The format of the cell at hand, or of the paragraph.
 ParaId WrittenBody::Governing() const {
-  return InCell() ? Cell()->format : paragraphs_.formats[index_];
+  return Cell() ? Cell()->format : paragraphs_.formats[index_];
 }
 
 /// Whether readers number the paragraph at hand.
 bool WrittenBody::IsList() const {
   if (!HasFormat()) return false;
-  const ParaFormat format = InList(Governing());
+  const ParaFormat format = WrittenOf(Governing());
   const bool numbered = tables_.words[format.words].source.find("{\\*\\pn") != std::string::npos;
   return format.bullet == 0 && (format.list != 0 || numbered);
 }
@@ -115,7 +115,7 @@ std::string_view WrittenBody::Field(FieldId wanted, std::string_view before) {
   const auto common = static_cast<std::size_t>(differs - chain_.begin());
   while (fields_.size() > common) CloseField();
   if (!begun_) BeginParagraph();
-  for (; fields_.size() < chain_.size();) {
+  while (fields_.size() < chain_.size()) {
     const FieldId id = chain_[fields_.size()];
     const bool numbers = tables_.fields[id].numbers;
     if (numbers) out_.Words(std::exchange(before, {}));
@@ -160,10 +160,7 @@ void WrittenBody::Text(std::u16string_view text, CharId format) {
 void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again) {
   while (!text.empty()) {
     const bool stands = Stands(kept, text.front());
-    const std::string_view rest = Field(kept.field, stands || !again ? Before(kept) : "");
-    Format(format);
-    out_.Words(rest);
-    if (EndsNothing(kept, text.front())) out_.Words(kept.instead);
+    Ahead(kept, format, text.front(), again && !stands);
     again = true;
     const bool lostCell = !stands && kept.kind == Kept::Kind::Cell && text.front() == u'\t';
     text.remove_prefix(stands ? Instead(kept, text.front()) : Step(text));
@@ -171,9 +168,12 @@ void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& 
   }
 }
 
-/// What stands right before the character.
-std::string_view WrittenBody::Before(const Kept& kept) const {
-  return BeginsParagraph(kept.before) ? std::string_view() : kept.before;
+/// What comes ahead of a character.
+void WrittenBody::Ahead(const Kept& kept, CharId format, char16_t unit, bool again) {
+  const bool told = again || BeginsParagraph(kept.before);
+  out_.Words(Field(kept.field, told ? std::string_view() : kept.before));
+  if (EndsNothing(kept, unit)) out_.Words(kept.instead);
+  Format(format);
 }
 
 /// Whether the character is still what the source said.
@@ -182,9 +182,9 @@ bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
     case Kept::Kind::Embedded:
       return unit == u'\uFFFC';
     case Kept::Kind::Cell:
-      return unit == u'\t' && InCell();
+      return unit == u'\t' && Cell()->stands;
     case Kept::Kind::Row:
-      return unit == u'\r' && InCell();
+      return unit == u'\r' && Cell()->stands;
     default:
       return unit == u'\r' && filled_ && !kept.instead.empty();
   }
@@ -240,10 +240,7 @@ std::size_t WrittenBody::Special(std::u16string_view text) {
 void WrittenBody::Finish(const FinalMark* mark) {
   if (mark) {
     const Kept& kept = tables_.kept[tables_.characters[mark->character].kept];
-    const std::string_view rest = Field(kept.field, Before(kept));
-    Format(mark->character);
-    out_.Words(rest);
-    if (EndsNothing(kept, u'\r')) out_.Words(kept.instead);
+    Ahead(kept, mark->character, u'\r', lastKept_ == tables_.characters[mark->character].kept);
     if (Stands(kept, u'\r')) {
       Instead(kept, u'\r');
     } else {

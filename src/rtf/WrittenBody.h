@@ -48,13 +48,12 @@ class WrittenBody {
   /// Tells the paragraph format `id` where it is not told already.
   void Paragraph(ParaId id, bool atStart);
   void Bullet(ParaId id, bool changed, bool atStart);
-  ParaFormat InList(ParaId paragraph) const;
+  ParaFormat WrittenOf(ParaId paragraph) const;
   const std::string& Words(ParaId paragraph);
   /// The cell at hand; null where the rest of the paragraph holds none.
   const WrittenParagraphs::Cell* Cell() const;
-  bool InCell() const { return Cell() && Cell()->row != WrittenParagraphs::kNoRow; }
-  /// Nesting of the row that is being written.
-  int Row() const;
+  /// Nesting of the whole row that is being written.
+  int RowDepth() const;
   int Nesting(ParaId paragraph) const;
   /// Whether there is a paragraph at hand: behind the last break there is none.
   bool HasFormat() const { return index_ < paragraphs_.formats.size(); }
@@ -66,7 +65,7 @@ class WrittenBody {
 
   void Format(CharId format);
   void KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again);
-  std::string_view Before(const Kept& kept) const;
+  void Ahead(const Kept& kept, CharId format, char16_t unit, bool again);
   bool Stands(const Kept& kept, char16_t unit) const;
   bool EndsNothing(const Kept& kept, char16_t unit) const;
   std::size_t Instead(const Kept& kept, char16_t unit);

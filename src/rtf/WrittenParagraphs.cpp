@@ -1,6 +1,7 @@
 // Which cells and paragraphs are parts of whole rows.
 #include "rtf/WrittenParagraphs.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "rtf/KeptWords.h"
@@ -24,10 +25,10 @@ class OpenRows {
     if (Innermost() == 0) open_.pop_back();
     return Innermost();
   }
-  /// The same of a cell, which may tell nothing of its depth.
+  /// The same of a cell. One of a nested row is part of no other.
   int Cell(int nesting) {
-    if (nesting > 0) LeaveDeeperThan(nesting);
-    return Innermost();
+    LeaveDeeperThan(std::max(nesting, 1));
+    return nesting > 1 && Innermost() < 2 ? WrittenParagraphs::kNoRow : Innermost();
   }
 
  private:
@@ -45,7 +46,7 @@ WrittenParagraphs::WrittenParagraphs(const Document& document, Position from, Po
                                      const FinalMark* mark) {
   document.ForEachParagraph(from, to, [&](ParaId format) { formats.push_back(format); });
   if (mark) formats.resize(static_cast<std::size_t>(document.ParagraphCount()), mark->paragraph);
-  rows.resize(formats.size(), kNoRow);
+  rowDepths.resize(formats.size(), kNoRow);
   const FormatTables& tables = document.Formats();
   const bool nothingKept = tables.kept.Size() == 1;  // number 0 stands for nothing
   if (nothingKept) return;
@@ -70,8 +71,11 @@ void WrittenParagraphs::FindKept(const Document& document, Position from, Positi
     if (!endsRow && kept.kind != Kept::Kind::Cell) return;
     const char16_t end = endsRow ? u'\r' : u'\t';
     for (std::size_t i = text.find(end); i != text.npos; i = text.find(end, i + 1)) {
-      const std::size_t at = paragraph(i);
-      cells.push_back({at, endsRow ? formats[at] : kept.paragraph, endsRow});
+      const std::size_t index = paragraph(i);
+      const ParaId own = endsRow ? formats[index] : kept.paragraph;
+      const int told = tables.paragraphs[own].nesting;
+      const bool nested = kept.instead.starts_with("\\nestcell");
+      cells.push_back({index, own, nested ? std::max(told, 2) : std::min(told, 1), endsRow});
     }
   };
   document.ForEachRun(from, to, find);
@@ -79,14 +83,24 @@ void WrittenParagraphs::FindKept(const Document& document, Position from, Positi
 }
 
 void WrittenParagraphs::FindRows(const FormatTables& tables) {
-  const auto nesting = [&](ParaId format) { return int{tables.paragraphs[format].nesting}; };
   OpenRows open;
   auto cell = cells.rbegin();
   for (std::size_t i = formats.size(); i-- > 0;) {
     const auto here = [&] { return cell != cells.rend() && cell->paragraph == i; };
-    const int depth = nesting(formats[i]);
-    rows[i] = here() && cell->endsRow ? open.End(depth) : open.Paragraph(depth);
-    for (; here(); ++cell) cell->row = cell->endsRow ? rows[i] : open.Cell(nesting(cell->format));
+    const int told = tables.paragraphs[formats[i]].nesting;
+    rowDepths[i] = here() && cell->endsRow ? open.End(cell->nesting) : open.Paragraph(told);
+    ParaId format = formats[i];
+    int depth = rowDepths[i];
+    for (; here(); ++cell) {
+      const int own = cell->endsRow ? depth : open.Cell(cell->nesting);
+      cell->stands = own != kNoRow;
+      if (cell->stands) {
+        format = cell->format;
+        depth = own;
+      }
+      cell->format = format;
+      cell->rowDepth = depth;
+    }
   }
 }
 

@@ -15,8 +15,12 @@ struct WrittenParagraphs {
   struct Cell {
     std::size_t paragraph;  // that it ends in
     ParaId format;
+    int nesting;  // that it tells of itself
     bool endsRow;
-    int row = kNoRow;  // nesting of the whole row that it is part of
+    /// Whether it is part of a whole row; else its text is part of what follows, whose format and
+    /// depth it has here.
+    bool stands = true;
+    int rowDepth = kNoRow;  // nesting of that row
   };
 
   /// What is kept before a character of the paragraph but begins the paragraph, whatever an edit
@@ -30,9 +34,9 @@ struct WrittenParagraphs {
   WrittenParagraphs(const Document& document, Position from, Position to, const FinalMark* mark);
 
   std::vector<ParaId> formats;
-  std::vector<int> rows;    // nesting of the whole row that each is part of
-  std::vector<Cell> cells;  // in order
-  std::vector<Lead> leads;  // likewise
+  std::vector<int> rowDepths;  // nesting of the whole row that each is part of
+  std::vector<Cell> cells;     // in order
+  std::vector<Lead> leads;     // likewise
 
  private:
   void FindKept(const Document& document, Position from, Position to, const FinalMark* mark);

@@ -36,6 +36,11 @@ INSTANTIATE_TEST_SUITE_P(
             R"({\rtf1 a{\*\z}b{\*\z}c\uc2{\field\fs2\fldedit{\*\fldinst\u233 ??}{\fldrslt\fs24 d}}})",
             "\\f0\\fs24 a{\\*\\z}b{\\*\\z}c{\\field\\uc2\\fldedit{\\*\\fldinst\\u233 ??}"
             "{\\fldrslt\\uc1 d}}\\par }\r\n"},
+        Case{
+            R"({\rtf1 a\sect\sectd\cols2{\field\bin1 x{\*\fldinst X}{\fldrslt b}{\fldrslt c}}\par\ls1{\listtext 1.}{\field{\*\fldinst Y}{\fldrslt d}}})",
+            "\\f0\\fs24 a\\sect\r\n\\sectd\\cols2{\\field{\\*\\fldinst X}{\\fldrslt b}}c\\par\r\n"
+            "\\pard\\ls1\\ilvl0\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql"
+            "{\\listtext\\plain\\f0\\fs24 1.}{\\field{\\*\\fldinst Y}{\\fldrslt d}}\\par }\r\n"},
         Case{R"({\rtf1 a\page b\par\page c\sect\sectd\cols2 d})",
              "\\f0\\fs24 a\\page\r\nb\\par\r\n\\page c\\sect\r\n\\sectd\\cols2 d\\par }\r\n"},
         Case{R"({\rtf1 a\par\page{\*\z}})", "\\f0\\fs24 a\\par \\page{\\*\\z}}\r\n"},
@@ -47,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
              "\\f0 a"
              "\\plain\\rtlch\\af1\\ltrch\\hich\\af2\\dbch\\f0\\fs24 b\\par }\r\n"},
         Case{R"({\rtf1{\*\x\uc0\u233 \'e9}\pard\uc0{\*\y \u233 }a})",
-             "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql\\f0\\fs24{\\*\\y\\uc0 \\u233}a\\par "
+             "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql{\\*\\y\\uc0 \\u233}\\f0\\fs24 a\\par "
              "}\r\n"}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -55,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Case{
             R"({\rtf1\trowd\cellx9\cellx19\pard\intbl a\par b\cell\qc c\cell\trowd\cellx9\row\pard d})",
-            "\\intbl\\f0\\fs24\\trowd\\cellx9\\cellx19 a\\par\r\nb\\cell"
+            "\\intbl\\trowd\\cellx9\\cellx19\\f0\\fs24 a\\par\r\nb\\cell"
             "\\pard\\intbl\\qc c\\cell\\trowd\\cellx9\\row\r\n\\pard d\\par }\r\n"},
         Case{
             R"({\rtf1\pard\intbl\itap2 a\nestcell{\nonesttables\par}{\*\nesttableprops\trowd\cellx9\nestrow}\pard\intbl b\cell\row\pard c})",
@@ -67,6 +72,9 @@ INSTANTIATE_TEST_SUITE_P(
             "\\intbl\\itap2\\f0\\fs24 a\\nestcell b\\nestcell\\pard\\intbl\\itap2"
             "{\\*\\nesttableprops\\nestrow}{\\nonesttables\\par}\r\n"
             "\\pard\\intbl c\\cell\\row\r\n}\r\n"},
+        Case{R"({\rtf1\pard\intbl\page\trowd\cellx9\cell\row\page\trowd\cellx9\cell\row\pard a})",
+             "\\intbl\\page\\trowd\\cellx9\\f0\\fs24\\cell\\trowd\\cellx9\\row\r\n"
+             "\\page\\trowd\\cellx9\\cell\\trowd\\cellx9\\row\r\n\\pard a\\par }\r\n"},
         Case{R"({\rtf1\pard\intbl{\field{\fldrslt a\row\pard b}}})",
              "\\intbl{\\field{\\fldrslt\\f0\\fs24 a\\cell\\row\r\n\\pard b}}\\pard\\f0\\fs24\\par "
              "}\r\n"},
@@ -114,7 +122,7 @@ TEST(Keeping, WhatAnEditLeavesOfARowIsText) {
   Document document = Read(R"({\rtf1\trowd\cellx9\pard\intbl a\cell b\cell\row\pard c\par d})");
   ASSERT_EQ(TextOf(document), "a\tb\nc\nd");
   document.Replace(3, 5, Fragment());
-  EXPECT_EQ(Body(WriteRtf(document)), "\\f0\\fs24\\trowd\\cellx9 a\\tab bc\\par\r\nd\\par }\r\n");
+  EXPECT_EQ(Body(WriteRtf(document)), "\\trowd\\cellx9\\f0\\fs24 a\\tab bc\\par\r\nd\\par }\r\n");
 }
 
 TEST(Keeping, WhatIsTypedAtTheStartOfAPageIsOnThatPage) {
@@ -126,7 +134,25 @@ TEST(Keeping, WhatIsTypedAtTheStartOfAPageIsOnThatPage) {
 TEST(Keeping, APageThatLostItsTextEndsBeforeAParagraph) {
   Document document = Read(R"({\rtf1\pard a\page b})");
   document.Replace(0, 1, Fragment());
-  EXPECT_EQ(TextOf(Read(WriteRtf(document))), TextOf(document));
+  const std::string written = WriteRtf(document);
+  EXPECT_EQ(TextOf(Read(written)), TextOf(document));
+  EXPECT_EQ(WriteRtf(Read(written)), written);
+}
+
+TEST(Keeping, ARowThatLostItsFirstCharacterKeepsItsDefinition) {
+  Document document = Read(R"({\rtf1\trowd\cellx9\pard\intbl a\cell b\cell\row\pard c})");
+  document.Replace(0, 1, Fragment());
+  EXPECT_EQ(Body(WriteRtf(document)),
+            "\\intbl\\f0\\fs24\\cell b\\cell\\trowd\\cellx9\\row\r\n\\pard c\\par }\r\n");
+}
+
+TEST(Keeping, WhatIsKeptTwiceTakesNoLongerThanItsLength) {
+  const std::string_view kUnits[] = {"{\\*\\x\\page}", "{\\fldrslt}", "\\trowd\\cell\\row"};
+  for (const std::string_view unit : kUnits) {
+    std::string source = "{\\rtf1{\\field";
+    for (int i = 0; i < 100'000; ++i) source += unit;
+    EXPECT_LT(WriteRtf(Read(source)).size(), 4 * source.size());
+  }
 }
 
 }  // namespace
