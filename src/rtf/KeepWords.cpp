@@ -125,7 +125,7 @@ void Interpreter::FieldResult(int, const Token&) {
   const std::size_t from = State().fieldAt;
   if (from == GroupState::kNowhere || State().fieldShown || laid_ != State().laidBefore) return;
   const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
-                           KeptSource::Words::OfFields);
+                           KeptSource::Own::OfField);
   if (opening.open != 1) return;
   keeper_.NeedTablesIf(opening.needsHead);
   keeper_.TakeSince(State().keptBefore);
@@ -154,7 +154,7 @@ void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
   if (laid_ != group.laidBefore) return;
   const KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
-                          KeptSource::Words::OfFields);
+                          KeptSource::Own::NoData);
   keeper_.NeedTablesIf(source.needsHead);
   keeper_.TakeSince(group.keptBefore);
   keeper_.Keep("{" + source.Closed() + "}");

@@ -17,15 +17,17 @@ void AppendHex(std::string_view bytes, std::string_view before, std::string& out
   }
 }
 
-/// Whether a token of a field's own group says nothing of the field.
-bool IsStray(const Token& token) {
+/// Whether a token outside the groups of a piece is left out of it.
+bool IsStray(const Token& token, KeptSource::Own own) {
+  if (own == KeptSource::Own::All) return false;
   if (token.kind == Token::Kind::Binary) return true;
-  return token.kind == Token::Kind::Word && token.text != "field" && !token.text.starts_with("fld");
+  return own == KeptSource::Own::OfField && token.kind == Token::Kind::Word &&
+         token.text != "field" && !token.text.starts_with("fld");
 }
 
 }  // namespace
 
-KeptSource::KeptSource(std::string_view source, int fallback, Words words) {
+KeptSource::KeptSource(std::string_view source, int fallback, Own own) {
   Tokenizer tokens(source);
   std::size_t end = 0;
   std::size_t firstWordEnd = 0;
@@ -35,7 +37,7 @@ KeptSource::KeptSource(std::string_view source, int fallback, Words words) {
     const bool nothing = (token.kind == Token::Kind::Close && open == 0) ||
                          (token.kind == Token::Kind::Binary && token.text.empty());
     if (nothing) continue;
-    if (words == Words::OfFields && open == 0 && IsStray(token)) {
+    if (open == 0 && IsStray(token, own)) {
       end = tokens.At();
       continue;
     }
@@ -49,7 +51,7 @@ KeptSource::KeptSource(std::string_view source, int fallback, Words words) {
   }
   if (delimited) text.pop_back();
   if (!unicode || fallback == kOwnFallback) return;
-  const bool ofField = words == Words::OfFields;
+  const bool ofField = own == Own::OfField;
   if (ofField && text[firstWordEnd] == ' ') text.erase(firstWordEnd, 1);
   text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
   if (ofField) text += "\\uc" + std::to_string(kOwnFallback);

@@ -14,10 +14,10 @@ struct KeptSource {
   std::size_t open = 0;    // groups that it leaves open
   bool needsHead = false;  // it names fonts or colours, or holds bytes of the document's page
 
-  /// Which words a piece keeps outside its groups.
-  enum class Words { All, OfFields };
+  /// What a piece keeps outside its groups: all, all but data, or only what tells of a field.
+  enum class Own { All, NoData, OfField };
   /// `fallback` is the number of characters behind a \u in force where the source stands (\uc).
-  KeptSource(std::string_view source, int fallback, Words words = Words::All);
+  KeptSource(std::string_view source, int fallback, Own own = Own::All);
   /// The same with the missing closing braces.
   std::string Closed() const { return text + std::string(open, '}'); }
 

@@ -22,6 +22,9 @@ constexpr Names kTableWords[] = {"af",    "brdrcf",    "cb",        "cbpat",    
                                  "s",     "trcbpat",   "trcfpat",   "ts",        "ulc",
                                  "adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
 
+constexpr Names kRow = "trowd";
+constexpr Names kParagraphBeginnings[] = {"page", "column", "sect", "sectd"};
+
 template <std::size_t Size>
 bool Holds(const Names (&names)[Size], Names word) {
   return std::find(std::begin(names), std::end(names), word) != std::end(names);
@@ -118,17 +121,19 @@ void EraseWord(std::string_view name, std::string& words) {
 }
 
 bool BeginsParagraph(std::string_view source) {
-  static constexpr Names kBeginnings[] = {"page", "column", "sect", "sectd", "trowd"};
   bool begins = false;
-  ForEachWord(source, [&](const Token& word) { begins |= Holds(kBeginnings, word.text); });
+  ForEachWord(source, [&](const Token& word) {
+    begins |= word.text == kRow || Holds(kParagraphBeginnings, word.text);
+  });
   return begins;
 }
 
 std::string RowDefinition(std::string_view source) {
   std::string row;
   ForEachWord(source, [&](const Token& word) {
-    if (word.text == "trowd") row.clear();
-    if (word.text == "trowd" || !row.empty()) row += SourceOf(word);
+    if (word.text == kRow) row.clear();
+    const bool ofRow = !row.empty() && !Holds(kParagraphBeginnings, word.text);
+    if (word.text == kRow || ofRow) row += SourceOf(word);
   });
   return row;
 }

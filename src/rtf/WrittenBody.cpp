@@ -171,9 +171,15 @@ void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& 
 /// What comes ahead of a character.
 void WrittenBody::Ahead(const Kept& kept, CharId format, char16_t unit, bool again) {
   const bool told = again || BeginsParagraph(kept.before);
-  out_.Words(Field(kept.field, told ? std::string_view() : kept.before));
-  if (EndsNothing(kept, unit)) out_.Words(kept.instead);
-  Format(format);
+  const std::string_view rest = Field(kept.field, told ? std::string_view() : kept.before);
+  if (EndsNothing(kept, unit)) {
+    out_.Words(rest);
+    out_.Words(kept.instead);
+    Format(format);
+  } else {
+    Format(format);
+    out_.Words(rest);
+  }
 }
 
 /// Whether the character is still what the source said.
@@ -193,7 +199,7 @@ bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
 /// Whether the end of a page, column or section has lost the text before it: readers then make no
 /// paragraph of it.
 bool WrittenBody::EndsNothing(const Kept& kept, char16_t unit) const {
-  return kept.kind == Kept::Kind::Character && unit == u'\r' && !filled_;
+  return kept.kind == Kept::Kind::Character && !kept.instead.empty() && unit == u'\r' && !filled_;
 }
 
 std::size_t WrittenBody::Instead(const Kept& kept, char16_t unit) {

@@ -41,7 +41,8 @@ class Player : UserBench {
  private:
   struct Step {
     Model before;
-    bool merges = false;  // perhaps, with its neighbours
+    bool merges = false;   // perhaps, with its neighbours
+    Selection selected{};  // before it
   };
 
   void Act() {
@@ -49,6 +50,7 @@ class Player : UserBench {
         &Player::Select, &Player::Put,  &Player::Type, &Player::Break, &Player::Bold,
         &Player::Erase,  &Player::Move, &Player::Find, &Player::Undo,  &Player::Redo,
         &Player::Group,  &Player::Line, &Player::Open};
+    selected_ = surface.Selected();
     (this->*bytes_.PickValueInArray(kActs))();
   }
   Position Place() { return bytes_.ConsumeIntegralInRange<Position>(0, now_.Length() + 1); }
@@ -154,8 +156,9 @@ class Player : UserBench {
     for (bool more = true; more;) {
       const bool merges = history_.back().merges;
       now_ = std::move(history_.back().before);
+      const bool reached = now_ == held && history_.back().selected == surface.Selected();
       history_.pop_back();
-      more = now_ != held && merges && !history_.empty() && history_.back().merges;
+      more = !reached && merges && !history_.empty() && history_.back().merges;
     }
   }
   void Redo() {
@@ -169,7 +172,7 @@ class Player : UserBench {
     if (next != now_) Remember(next, merges);
   }
   void Remember(Model next, bool merges = false) {
-    history_.push_back({std::exchange(now_, std::move(next)), merges});
+    history_.push_back({std::exchange(now_, std::move(next)), merges, selected_});
     redo_.clear();
   }
   /// Text put in is bold like the first letter it replaces, else as the surface says.
@@ -208,6 +211,7 @@ class Player : UserBench {
   Model now_;
   std::vector<Step> history_;
   std::vector<Model> redo_;
+  Selection selected_;  // before the act at hand
 };
 
 }  // namespace

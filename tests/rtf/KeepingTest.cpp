@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(
              "\\f0 a"
              "\\plain\\rtlch\\af1\\ltrch\\hich\\af2\\dbch\\f0\\fs24 b\\par }\r\n"},
         Case{R"({\rtf1{\*\x\uc0\u233 \'e9}\pard\uc0{\*\y \u233 }a})",
-             "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql{\\*\\y\\uc0 \\u233}\\f0\\fs24 a\\par "
+             "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql\\f0\\fs24{\\*\\y\\uc0 \\u233}a\\par "
              "}\r\n"}));
 
 INSTANTIATE_TEST_SUITE_P(
