@@ -23,7 +23,7 @@ constexpr Names kTableWords[] = {"af",    "brdrcf",    "cb",        "cbpat",    
                                  "adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
 
 constexpr Names kRow = "trowd";
-constexpr Names kParagraphBeginnings[] = {"page", "column", "sect", "sectd"};
+constexpr Names kParagraphBeginnings[] = {"page", "column", "sect"};
 
 template <std::size_t Size>
 bool Holds(const Names (&names)[Size], Names word) {
@@ -84,6 +84,13 @@ void ForEachWord(std::string_view source, Visit visit) {
   }
 }
 
+template <std::size_t Size>
+bool HoldsOne(const Names (&names)[Size], std::string_view source) {
+  bool holds = false;
+  ForEachWord(source, [&](const Token& word) { holds |= Holds(names, word.text); });
+  return holds;
+}
+
 }  // namespace
 
 bool IsMarker(std::string_view word) { return Holds(kDirections, word) || Holds(kScripts, word); }
@@ -120,12 +127,11 @@ void EraseWord(std::string_view name, std::string& words) {
   words.erase(at, std::min(end, words.size()) - at);
 }
 
-bool BeginsParagraph(std::string_view source) {
-  bool begins = false;
-  ForEachWord(source, [&](const Token& word) {
-    begins |= word.text == kRow || Holds(kParagraphBeginnings, word.text);
-  });
-  return begins;
+bool BeginsParagraph(std::string_view source) { return HoldsOne(kParagraphBeginnings, source); }
+
+bool DefinesPlace(std::string_view source) {
+  static constexpr Names kPlaces[] = {"sectd", kRow};
+  return HoldsOne(kPlaces, source);
 }
 
 std::string RowDefinition(std::string_view source) {

@@ -34,8 +34,10 @@ std::string WithAssociated(std::string words, std::string_view marker, const Tok
 
 /// Takes the word called `name` out of `words`, with its number.
 void EraseWord(std::string_view name, std::string& words);
-/// Whether kept source begins a page, column, section or table row, and so a paragraph.
+/// Whether kept source begins a page, column or section, and so a paragraph.
 bool BeginsParagraph(std::string_view source);
+/// Whether kept source defines a section or table row.
+bool DefinesPlace(std::string_view source);
 /// The words of the last table row that kept source defines; empty when it defines none.
 std::string RowDefinition(std::string_view source);
 /// Whether the word's number is that of a font, colour, style or list.

@@ -103,9 +103,9 @@ bool WrittenBody::IsList() const {
 // --- fields
 
 /// Leaves the fields that the next character is not in, and enters those that it is in. A list
-/// number whose paragraph is no list any more is ordinary text. Readers number a paragraph where
-/// its number stands: what comes `before` the first character of that comes before it. Returns what
-/// is still to be written of it.
+/// number whose paragraph is no list any more is ordinary text. Of what comes `before` that
+/// character, definitions and what comes before a list number do not belong in the field: that is
+/// where readers number the paragraph. Returns what is still to be written of it.
 std::string_view WrittenBody::Field(FieldId wanted, std::string_view before) {
   if (fields_.empty() && wanted == 0 && begun_) return before;
   chain_.clear();
@@ -118,7 +118,7 @@ std::string_view WrittenBody::Field(FieldId wanted, std::string_view before) {
   while (fields_.size() < chain_.size()) {
     const FieldId id = chain_[fields_.size()];
     const bool numbers = tables_.fields[id].numbers;
-    if (numbers) out_.Words(std::exchange(before, {}));
+    if (numbers || DefinesPlace(before)) out_.Words(std::exchange(before, {}));
     fields_.push_back({id, told_, format_});
     out_.Words(tables_.fields[id].opening);
     if (!numbers) continue;

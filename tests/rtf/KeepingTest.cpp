@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Case{
             R"({\rtf1\trowd\cellx9\cellx19\pard\intbl a\par b\cell\qc c\cell\trowd\cellx9\row\pard d})",
-            "\\intbl\\trowd\\cellx9\\cellx19\\f0\\fs24 a\\par\r\nb\\cell"
+            "\\intbl\\f0\\fs24\\trowd\\cellx9\\cellx19 a\\par\r\nb\\cell"
             "\\pard\\intbl\\qc c\\cell\\trowd\\cellx9\\row\r\n\\pard d\\par }\r\n"},
         Case{
             R"({\rtf1\pard\intbl\itap2 a\nestcell{\nonesttables\par}{\*\nesttableprops\trowd\cellx9\nestrow}\pard\intbl b\cell\row\pard c})",
@@ -122,7 +122,7 @@ TEST(Keeping, WhatAnEditLeavesOfARowIsText) {
   Document document = Read(R"({\rtf1\trowd\cellx9\pard\intbl a\cell b\cell\row\pard c\par d})");
   ASSERT_EQ(TextOf(document), "a\tb\nc\nd");
   document.Replace(3, 5, Fragment());
-  EXPECT_EQ(Body(WriteRtf(document)), "\\trowd\\cellx9\\f0\\fs24 a\\tab bc\\par\r\nd\\par }\r\n");
+  EXPECT_EQ(Body(WriteRtf(document)), "\\f0\\fs24\\trowd\\cellx9 a\\tab bc\\par\r\nd\\par }\r\n");
 }
 
 TEST(Keeping, WhatIsTypedAtTheStartOfAPageIsOnThatPage) {
