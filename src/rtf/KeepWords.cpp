@@ -120,10 +120,13 @@ void Interpreter::Field(int, const Token&) {
   state.keptBefore = keeper_.Size();
 }
 
-/// A field has one result. A list number before it is not part of it.
+/// A field has one result, a group that says so with its first word. A list number before it is not
+/// part of it.
 void Interpreter::FieldResult(int, const Token&) {
   const std::size_t from = State().fieldAt;
   if (from == GroupState::kNowhere || State().fieldShown || laid_ != State().laidBefore) return;
+  const std::string_view ahead = tokens_.Source(from, tokens_.Start());
+  if (!wasStarred_ && ahead[ahead.find_last_not_of("\r\n")] != '{') return;
   const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
                            KeptSource::Own::OfField);
   if (opening.open != 1) return;

@@ -25,9 +25,9 @@ INSTANTIATE_TEST_SUITE_P(
     Places, Keeping,
     testing::Values(
         Case{
-            R"({\rtf1 a{\field{\*\fldinst HYPERLINK "x"}{\fldrslt b\b c{\field{\*\fldinst P}{\fldrslt 7}}}}d})",
+            R"({\rtf1 a{\field{\*\fldinst HYPERLINK "x"}{\fldrslt b\b c{\field{\*\fldinst P}{\*\fldrslt 7}}}}d})",
             "\\f0\\fs24 a{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt b\\b c"
-            "{\\field{\\*\\fldinst P}{\\fldrslt 7}}}}d\\par }\r\n"},
+            "{\\field{\\*\\fldinst P}{\\*\\fldrslt 7}}}}d\\par }\r\n"},
         Case{
             R"({\rtf1 a{\field{\*\fldinst PAGE}{\fldrslt}}b{\*\bkmkstart k}c{\footnote n\bin1 }}d})",
             "\\f0\\fs24 a{\\field{\\*\\fldinst PAGE}{\\fldrslt}}b{\\*\\bkmkstart k}c"
