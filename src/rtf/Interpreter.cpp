@@ -81,7 +81,7 @@ void Interpreter::Interpret() {
 void Interpreter::Take(const Token& token) {
   using Kind = Token::Kind;
   wasStarred_ = std::exchange(starred_, false);
-  const bool first = std::exchange(opened_, false);
+  wasOpened_ = std::exchange(opened_, false);
   if (State().page.MultiByte() && IsEscapedByte(token)) return Byte(token.byte);
   const bool ofBytes =
       token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
@@ -92,7 +92,7 @@ void Interpreter::Take(const Token& token) {
     case Kind::Word:
       return Word(token);
     case Kind::Symbol:
-      starred_ = first && token.byte == '*';
+      starred_ = wasOpened_ && token.byte == '*';
       return Symbol(static_cast<char>(token.byte));
     case Kind::Open:
       return Open();

@@ -178,6 +178,7 @@ class Interpreter {
 
   int swallow_ = 0;          // characters still to pass over behind a \u
   bool opened_ = false;      // the last token was {
+  bool wasOpened_ = false;   // so was the token before the present one
   bool starred_ = false;     // the last token was \*, just behind {
   bool wasStarred_ = false;  // so was the token before the present one
   std::string bytes_;        // of a multi-byte page, not yet decoded
@@ -186,7 +187,7 @@ class Interpreter {
   bool numbering_ = false;   // the marker being placed is a list number
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
   std::string_view markerWord_;
-  std::size_t beforeMarker_ = 0;  // the mark of what is kept before it
+  std::size_t beforeMarker_ = 0;  // size of what is kept before it
 };
 
 }  // namespace lumenote

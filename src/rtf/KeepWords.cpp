@@ -125,8 +125,7 @@ void Interpreter::Field(int, const Token&) {
 void Interpreter::FieldResult(int, const Token&) {
   const std::size_t from = State().fieldAt;
   if (from == GroupState::kNowhere || State().fieldShown || laid_ != State().laidBefore) return;
-  const std::string_view ahead = tokens_.Source(from, tokens_.Start());
-  if (!wasStarred_ && ahead[ahead.find_last_not_of("\r\n")] != '{') return;
+  if (!wasOpened_ && !wasStarred_) return;
   const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
                            KeptSource::Own::OfField);
   if (opening.open != 1) return;
