@@ -18,13 +18,11 @@ void WrittenBody::BeginParagraph() {
 }
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
-  const ParaFormat& format = tables_.paragraphs[id];
-  const int nesting = Nesting(id);
-  const bool told = told_.words && told_.paragraph == id && told_.nesting == nesting;
-  if (told && !atStart) return;
-  const Told wanted{&Words(id), id, nesting, format.bullet != 0};
-  const bool changed = !told_.words || wanted.nesting != told_.nesting ||
-                       wanted.bullet != told_.bullet || *wanted.words != *told_.words;
+  const Told wanted{&Words(id), Nesting(id), tables_.paragraphs[id].bullet != 0};
+  const bool sameWords =
+      wanted.words == told_.words || (told_.words && *wanted.words == *told_.words);
+  const bool changed =
+      !sameWords || wanted.nesting != told_.nesting || wanted.bullet != told_.bullet;
   told_ = wanted;
   if (changed) out_.Word("pard");
   if (wanted.bullet) Bullet(id, changed, atStart);
@@ -104,8 +102,8 @@ bool WrittenBody::IsList() const {
 
 /// Leaves the fields that the next character is not in, and enters those that it is in. A list
 /// number whose paragraph is no list any more is ordinary text. Of what comes `before` that
-/// character, definitions and what comes before a list number do not belong in the field: that is
-/// where readers number the paragraph. Returns what is still to be written of it.
+/// character, definitions stay outside the field, and so does all that comes before a list number:
+/// readers number the paragraph where its number stands. Returns what is still to be written of it.
 std::string_view WrittenBody::Field(FieldId wanted, std::string_view before) {
   if (fields_.empty() && wanted == 0 && begun_) return before;
   chain_.clear();
@@ -188,9 +186,9 @@ bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
     case Kept::Kind::Embedded:
       return unit == u'\uFFFC';
     case Kept::Kind::Cell:
-      return unit == u'\t' && Cell()->stands;
+      return unit == u'\t' && InRow();
     case Kept::Kind::Row:
-      return unit == u'\r' && Cell()->stands;
+      return unit == u'\r' && InRow();
     default:
       return unit == u'\r' && filled_ && !kept.instead.empty();
   }
@@ -245,8 +243,9 @@ std::size_t WrittenBody::Special(std::u16string_view text) {
 
 void WrittenBody::Finish(const FinalMark* mark) {
   if (mark) {
-    const Kept& kept = tables_.kept[tables_.characters[mark->character].kept];
-    Ahead(kept, mark->character, u'\r', lastKept_ == tables_.characters[mark->character].kept);
+    const KeptId id = tables_.characters[mark->character].kept;
+    const Kept& kept = tables_.kept[id];
+    Ahead(kept, mark->character, u'\r', lastKept_ == id);
     if (Stands(kept, u'\r')) {
       Instead(kept, u'\r');
     } else {

@@ -33,7 +33,6 @@ class WrittenBody {
   /// What a reader knows of the paragraph at hand.
   struct Told {
     const std::string* words = nullptr;  // in `knownWords_`; null: nothing yet
-    ParaId paragraph = 0;
     int nesting = 0;
     bool bullet = false;
   };
@@ -52,6 +51,8 @@ class WrittenBody {
   const std::string& Words(ParaId paragraph);
   /// The cell at hand; null where the rest of the paragraph holds none.
   const WrittenParagraphs::Cell* Cell() const;
+  /// Whether the cell at hand is part of a whole row.
+  bool InRow() const { return Cell() && Cell()->stands; }
   /// Nesting of the whole row that is being written.
   int RowDepth() const;
   int Nesting(ParaId paragraph) const;

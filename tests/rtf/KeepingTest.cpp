@@ -146,7 +146,7 @@ TEST(Keeping, ARowThatLostItsFirstCharacterKeepsItsDefinition) {
             "\\intbl\\f0\\fs24\\cell b\\cell\\trowd\\cellx9\\row\r\n\\pard c\\par }\r\n");
 }
 
-TEST(Keeping, WhatIsKeptTwiceTakesNoLongerThanItsLength) {
+TEST(Keeping, WhatIsKeptStaysInProportionToItsSource) {
   const std::string_view kUnits[] = {"{\\*\\x\\page}", "{\\fldrslt}", "\\trowd\\cell\\row"};
   for (const std::string_view unit : kUnits) {
     std::string source = "{\\rtf1{\\field";
