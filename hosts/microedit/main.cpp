@@ -13,13 +13,13 @@
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
+#include "base/Windows1252.h"
 #include "control/CoBxRtf.h"
 #include "control/Component.h"
 #include "editor/DocumentStorage.h"
 #include "pilot/RunPilot.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
-#include "rtf/CodePage.h"
 #include "rtf/Reader.h"
 
 using namespace lumenote;

@@ -4,12 +4,12 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
+#include "base/Windows1252.h"
 #include "control/Session.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"
-#include "rtf/CodePage.h"
 
 namespace lumenote {
 

@@ -5,8 +5,8 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "base/Windows1252.h"
 #include "platform/Files.h"
-#include "rtf/CodePage.h"
 
 namespace lumenote {
 

@@ -1,10 +1,10 @@
 // The files of the sandbox, as scripts lay them out and look at them.
+#include "base/Windows1252.h"
 #include "pilot/Arguments.h"
 #include "pilot/ScriptError.h"
 #include "pilot/Stage.h"
 #include "pilot/Verbs.h"
 #include "platform/Files.h"
-#include "rtf/CodePage.h"
 
 namespace lumenote::verbs {
 

@@ -1,4 +1,4 @@
-// Decoding by table, and code page 1252 backwards.
+// Decoding by table.
 #include "rtf/CodePage.h"
 
 #include <array>
@@ -38,44 +38,6 @@ void DecodeCodePage(int page, std::string_view bytes, std::u16string& out) {
   const CodePage decode(page);
   out.reserve(out.size() + bytes.size());
   for (const char byte : bytes) out.push_back(decode[static_cast<unsigned char>(byte)]);
-}
-
-std::u16string Decode1252(std::string_view bytes) {
-  std::u16string text;
-  DecodeCodePage(kPageOfWindows, bytes, text);
-  return text;
-}
-
-int ByteIn1252(char16_t unit) {
-  if (unit < 0x80 || (unit >= 0xA0 && unit < 0x100)) return unit;
-  constexpr std::size_t kUnits = 0x2123;  // the last one is the trade mark sign
-  static const auto bytes = [] {
-    std::array<unsigned char, kUnits> middle{};
-    for (int byte = 0x80; byte < 0xA0; ++byte)
-      middle[UpperHalf(kPageOfWindows)[byte - 0x80]] = static_cast<unsigned char>(byte);
-    return middle;
-  }();
-  return unit < kUnits && bytes[unit] != 0 ? bytes[unit] : -1;
-}
-
-std::string Encode1252(std::u16string_view text) {
-  std::string bytes;
-  bytes.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const int byte = ByteIn1252(text[i]);
-    bytes.push_back(byte < 0 ? '?' : static_cast<char>(byte));
-    const bool pair =
-        IsHighSurrogate(text[i]) && i + 1 < text.size() && IsLowSurrogate(text[i + 1]);
-    if (pair) ++i;
-  }
-  return bytes;
-}
-
-bool Fits1252(std::u16string_view text) {
-  for (const char16_t unit : text) {
-    if (ByteIn1252(unit) < 0) return false;
-  }
-  return true;
 }
 
 int CodePageOfCharset(int charset) {

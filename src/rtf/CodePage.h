@@ -1,4 +1,4 @@
-// Code pages: bytes to UTF-16 and, for 1252, back.
+// Code pages: bytes to UTF-16.
 #pragma once
 #include <string>
 #include <string_view>
@@ -8,15 +8,6 @@ namespace lumenote {
 inline constexpr int kPageOfWindows = 1252;
 inline constexpr int kPageOfSymbols = 42;  // a symbol font's own: bytes go to U+F000 and up
 inline constexpr int kPageUtf8 = 65001;
-
-/// Code page 1252, all 256 bytes: the five undefined ones map to the control of the same number.
-std::u16string Decode1252(std::string_view bytes);
-/// A character outside the code page becomes "?", a surrogate pair one "?".
-std::string Encode1252(std::u16string_view text);
-/// Whether every character of the text has a byte in code page 1252.
-bool Fits1252(std::u16string_view text);
-/// The byte of one unit in code page 1252, or -1 when it has none.
-int ByteIn1252(char16_t unit);
 
 /// Decodes a run of bytes in a Windows, OEM or Mac code page by its number (as in \ansicpg);
 /// an unknown page reads as 1252. No character of a multi-byte page may be cut. Appends to `out`.

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "rtf/CodePage.h"
+#include "base/Windows1252.h"
 #include "rtf/PlainText.h"
 
 namespace lumenote {
@@ -30,35 +30,48 @@ char* PutHex(int byte, char* out) {
   return out + kHexLength;
 }
 
-/// The byte of page 1252 for a character beyond ASCII, or -1 when it has none, or a symbol.
-int EscapedByte(char16_t unit) {
-  if (unit > 0xA0 && unit < 0x100) return unit == u'\u00AD' ? -1 : unit;
-  return unit < 0x80 || unit == u'\u00A0' ? -1 : ByteIn1252(unit);
-}
+/// How a byte of page 1252 is written: as itself or escaped. Those that have a symbol of their own
+/// or mean more than themselves have no form here.
+struct Form {
+  Escape text{};
+  std::uint8_t length = 0;  // 0 for no form
+};
 
-int NoByte(char16_t) { return -1; }
+constexpr std::array<Form, 256> kForms = [] {
+  std::array<Form, 256> forms{};
+  for (unsigned byte = 0; byte < forms.size(); ++byte) {
+    if (IsPlain(static_cast<char16_t>(byte))) {
+      forms[byte] = {{static_cast<char>(byte)}, 1};
+    } else if (byte >= 0x80 && byte != 0xA0 && byte != 0xAD) {
+      forms[byte] = {kEscapes[byte], kHexLength};
+    }
+  }
+  return forms;
+}();
 
-/// Writes the beginning of `text` that consists of plain characters and of such as `byteOf` gives a
-/// byte for; returns its length. Takes room for `kHexLength` bytes a unit.
-template <int byteOf(char16_t)>
+/// The byte under whose form a unit is written, for all of page 1252 and for ASCII alone; 0 for
+/// none.
+unsigned WindowsForm(char16_t unit) { return ByteOf1252(unit); }
+unsigned AsciiForm(char16_t unit) { return unit < 0x80 ? unit : 0; }
+
+/// Writes the beginning of `text` that consists of characters that have a form; returns its length.
+/// Takes room for `kHexLength` bytes a unit.
+template <unsigned formOf(char16_t)>
 std::size_t PutText(std::u16string_view text, char*& out) {
   const char16_t* at = text.data();
   const char16_t* const end = at + text.size();
   char* to = out;  // no store in the loop
   while (at != end) {
-    if (end - at >= kPlainStep) {
+    if (end - at > kPlainStep) {
       const int plain = CopyPlain(at, to);
       at += plain;
       to += plain;
-      if (plain == kPlainStep) continue;
     }
-    if (IsPlain(*at)) {
-      *to++ = static_cast<char>(*at++);
-      continue;
-    }
-    const int byte = byteOf(*at);
-    if (byte < 0) break;
-    to = PutHex(byte, to);
+    // Plain or escaped, the one as often as the other: a table knows without guessing.
+    const Form& form = kForms[formOf(*at)];
+    std::memcpy(to, form.text.data(), kHexLength);
+    if (form.length == 0) break;
+    to += form.length;
     ++at;
   }
   out = to;
@@ -161,7 +174,7 @@ void Output::Unicode(char16_t unit) {
   Raw("?");
 }
 
-template <int byteOf(char16_t)>
+template <unsigned formOf(char16_t)>
 std::size_t Output::PlainOrBytes(std::u16string_view text) {
   if (text.empty()) return 0;
   if (openWord_ && IsPlain(text.front())) Raw(" ");
@@ -171,7 +184,7 @@ std::size_t Output::PlainOrBytes(std::u16string_view text) {
   do {
     room = (buffer_.size() - size_) / kHexLength;
     char* out = buffer_.data() + size_;
-    count = PutText<byteOf>(text.substr(done, room), out);
+    count = PutText<formOf>(text.substr(done, room), out);
     Grow(static_cast<std::size_t>(out - buffer_.data()) - size_);
     done += count;
   } while (count == room);
@@ -179,7 +192,7 @@ std::size_t Output::PlainOrBytes(std::u16string_view text) {
   return done;
 }
 
-std::size_t Output::Plain(std::u16string_view text) { return PlainOrBytes<NoByte>(text); }
+std::size_t Output::Plain(std::u16string_view text) { return PlainOrBytes<AsciiForm>(text); }
 
 std::size_t Output::Text(std::u16string_view text, Encoding encoding) {
   std::size_t done = 0;
@@ -198,11 +211,11 @@ std::size_t Output::Text(std::u16string_view text, Encoding encoding) {
 std::size_t Output::PlainOrBytes(std::u16string_view text, Encoding encoding) {
   switch (encoding) {
     case Encoding::Windows:
-      return PlainOrBytes<EscapedByte>(text);
+      return PlainOrBytes<WindowsForm>(text);
     case Encoding::Symbols:
-      return PlainOrBytes<NoByte>(text.substr(0, text.front() == u' ' ? 1 : 0));
+      return PlainOrBytes<AsciiForm>(text.substr(0, text.front() == u' ' ? 1 : 0));
     default:
-      return PlainOrBytes<NoByte>(text);
+      return PlainOrBytes<AsciiForm>(text);
   }
 }
 

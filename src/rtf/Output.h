@@ -41,8 +41,9 @@ class Output {
   static constexpr std::size_t kPiece = std::size_t{1} << 16;
   static constexpr std::size_t kShort = 256;  // there is always room for as many bytes
 
-  /// Writes the beginning of `text` that is plain or has a byte, and returns its length.
-  template <int byteOf(char16_t)>
+  /// Writes the beginning of `text` that consists of characters that `formOf` gives a form for, and
+  /// returns its length.
+  template <unsigned formOf(char16_t)>
   std::size_t PlainOrBytes(std::u16string_view text);
   std::size_t PlainOrBytes(std::u16string_view text, Encoding encoding);
   void Append(std::string_view source);

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "base/Strings.h"
+#include "base/Windows1252.h"
 #include "rtf/CodePage.h"
 
 namespace lumenote {

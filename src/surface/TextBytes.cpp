@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/Strings.h"
-#include "rtf/CodePage.h"
+#include "base/Windows1252.h"
 
 namespace lumenote {
 

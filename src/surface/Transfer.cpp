@@ -1,7 +1,7 @@
 #include "surface/Transfer.h"
 
 #include "base/RuntimeError.h"
-#include "rtf/CodePage.h"
+#include "base/Windows1252.h"
 #include "rtf/Reader.h"
 #include "rtf/Writer.h"
 #include "surface/TextBytes.h"

@@ -3,11 +3,11 @@
 #include <string>
 
 #include "base/Numbers.h"
+#include "base/Windows1252.h"
 #include "editor/EditorWindow.h"
 #include "forms/Platform.h"
 #include "platform/Clipboard.h"
 #include "platform/Fonts.h"
-#include "rtf/CodePage.h"
 #include "symbols/SymbolGrid.h"
 
 namespace lumenote {

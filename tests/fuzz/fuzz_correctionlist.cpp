@@ -6,8 +6,8 @@
 #include <string>
 
 #include "base/RuntimeError.h"
+#include "base/Windows1252.h"
 #include "ocr/CorrectionList.h"
-#include "rtf/CodePage.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "Command.h"
 #include "NoteFile.h"
 #include "base/CommandLine.h"
-#include "rtf/CodePage.h"
+#include "base/Windows1252.h"
 
 namespace lumenote::tool {
 namespace {

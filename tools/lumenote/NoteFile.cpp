@@ -12,7 +12,7 @@
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "rtf/CodePage.h"
+#include "base/Windows1252.h"
 #include "rtf/Reader.h"
 #include "rtf/Writer.h"
 #include "surface/TextBytes.h"
