@@ -37,8 +37,7 @@ std::u16string Document::Text(Position from, Position to) const {
   text.reserve(static_cast<std::size_t>(range.Length()));
   leaves_.ForEachLeaf(range.start, range.end,
                       [&](const Leaf& leaf, Position, Position first, Position last) {
-                        text.append(leaf.text.View(), static_cast<std::size_t>(first),
-                                    static_cast<std::size_t>(last - first));
+                        leaf.Text(first, last).AppendTo(text);
                       });
   return text;
 }

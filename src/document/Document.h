@@ -46,7 +46,7 @@ class Document {
   FinalMark Mark() const { return mark_; }
   const LeafList& Leaves() const { return leaves_; }
 
-  /// Calls `visit(Position start, std::u16string_view text, CharId format)` for each piece of one
+  /// Calls `visit(Position start, TextView text, CharId format)` for each piece of one
   /// format between `from` and `to`, in order; a piece never crosses a leaf.
   template <class Visit>
   void ForEachRun(Position from, Position to, Visit visit) const {

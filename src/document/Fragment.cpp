@@ -7,21 +7,21 @@
 
 namespace lumenote {
 
-const ParaId* FragmentBuilder::Append(std::u16string_view text, CharId format,
-                                      const ParaId* marks) {
-  while (!text.empty()) {
+const ParaId* FragmentBuilder::Append(TextView text, CharId format, const ParaId* marks) {
+  while (!text.Empty()) {
     FlushIfFull();
-    std::size_t count = std::min(text.size(), static_cast<std::size_t>(kFilled - size_));
-    if (count < text.size() && text[count - 1] == u'\r') ++count;
-    const std::u16string_view piece = text.substr(0, count);
-    std::copy(piece.begin(), piece.end(), text_ + size_);
+    std::size_t count = std::min(text.Size(), static_cast<std::size_t>(kFilled - size_));
+    if (count < text.Size() && text[count - 1] == u'\r') ++count;
+    const TextView piece = text.Part(0, count);
+    if (!wide_ && !piece.CopyTo(bytes_ + size_)) Widen();
+    if (wide_) piece.CopyTo(units_ + size_);
     Commit(static_cast<int>(count), format);
     if (marks != nullptr) {
       const Position breaks = CountBreaks(piece);
       marks_.insert(marks_.end(), marks, marks + breaks);
       marks += breaks;
     }
-    text.remove_prefix(count);
+    text.RemovePrefix(count);
   }
   return marks;
 }
@@ -32,17 +32,23 @@ void FragmentBuilder::Append(const LeafPointer& leaf) {
     leaves_.Add(leaf);
     return;
   }
-  std::u16string_view text = leaf->text.View();
+  TextView text = leaf->text.View();
   const ParaId* marks = leaf->marks.data();
   for (Run run : leaf->runs) {
-    marks = Append(text.substr(0, run.length), run.format, marks);
-    text.remove_prefix(run.length);
+    marks = Append(text.Part(0, run.length), run.format, marks);
+    text.RemovePrefix(run.length);
   }
 }
 
-std::span<char16_t> FragmentBuilder::Room() {
+std::span<char> FragmentBuilder::ByteRoom() {
   FlushIfFull();
-  return {text_ + size_, text_ + kFilled};
+  return {bytes_ + size_, bytes_ + (wide_ ? size_ : kFilled)};
+}
+
+std::span<char16_t> FragmentBuilder::UnitRoom() {
+  FlushIfFull();
+  if (!wide_) Widen();
+  return {units_ + size_, units_ + kFilled};
 }
 
 void FragmentBuilder::Commit(int count, CharId format) {
@@ -55,15 +61,25 @@ Fragment FragmentBuilder::Finish() {
   return {std::exchange(leaves_, {}), std::nullopt};
 }
 
+TextView FragmentBuilder::Gathered() const {
+  const auto size = static_cast<std::size_t>(size_);
+  if (wide_) return std::u16string_view(units_, size);
+  return TextView(std::string_view(bytes_, size));
+}
+
+void FragmentBuilder::Widen() {
+  Gathered().CopyTo(units_);
+  wide_ = true;
+}
+
 void FragmentBuilder::FlushIfFull() {
   if (size_ < kFull) return;
-  const char16_t last = text_[size_ - 1];
+  const char16_t last = Gathered().Back();
   if (!IsHighSurrogate(last)) return Flush();
   const CharId format = runs_.FormatAt(size_ - 1);
   runs_ = runs_.Part(0, --size_);
   Flush();
-  text_[0] = last;
-  Commit(1, format);
+  Append(std::u16string_view(&last, 1), format);
 }
 
 void FragmentBuilder::Flush() {
@@ -74,9 +90,10 @@ void FragmentBuilder::Flush() {
 }
 
 void FragmentBuilder::AddLeaf(Runs runs, std::vector<ParaId> marks) {
-  const std::u16string_view text(text_, static_cast<std::size_t>(size_));
-  leaves_.Add(std::make_shared<Leaf>(Leaf{LeafText(text), std::move(runs), std::move(marks)}));
+  leaves_.Add(
+      std::make_shared<Leaf>(Leaf{LeafText(Gathered()), std::move(runs), std::move(marks)}));
   size_ = 0;
+  wide_ = false;
 }
 
 Fragment PlainFragment(std::u16string_view text, CharId format, ParaId paragraph) {

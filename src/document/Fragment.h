@@ -35,19 +35,21 @@ struct Fragment {
 class FragmentBuilder {
  public:
   /// Appends text that holds no CR or LF.
-  void Append(std::u16string_view text, CharId format) { Append(text, format, nullptr); }
+  void Append(TextView text, CharId format) { Append(text, format, nullptr); }
   /// Appends a paragraph break that ends a paragraph of format `paragraph`.
   void AppendBreak(CharId format, ParaId paragraph) { Append(u"\r\n", format, &paragraph); }
   /// Appends text of one format; each CR LF in it takes its paragraph's format from `marks`.
   /// Returns the first of these that was not needed.
-  const ParaId* Append(std::u16string_view text, CharId format, const ParaId* marks);
+  const ParaId* Append(TextView text, CharId format, const ParaId* marks);
   /// Appends a leaf as it is, shared rather than copied unless that left a small leaf behind.
   void Append(const LeafPointer& leaf);
 
-  /// For scanners: some room, of `kLeastRoom` units at least, to write text without CR or LF to;
-  /// `Commit` keeps the first `count`.
+  /// For scanners: some room, for `kLeastRoom` units at least, to write text without CR or LF to;
+  /// `Commit` keeps the first `count`. Text gathers as bytes of code page 1252 until there are
+  /// units that have none: there is no room for bytes then.
   static constexpr int kLeastRoom = 32;
-  std::span<char16_t> Room();
+  std::span<char> ByteRoom();
+  std::span<char16_t> UnitRoom();
   void Commit(int count, CharId format);
 
   Position Length() const { return leaves_.Length() + size_; }
@@ -61,6 +63,8 @@ class FragmentBuilder {
   static constexpr Position kFilled = Leaf::kCapacity - kTypingRoom;
   static constexpr Position kFull = kFilled - kLeastRoom;
 
+  TextView Gathered() const;
+  void Widen();
   void FlushIfFull();
   void Flush();
   void AddLeaf(Runs runs, std::vector<ParaId> marks);
@@ -69,7 +73,9 @@ class FragmentBuilder {
   Runs runs_;
   std::vector<ParaId> marks_;
   Position size_ = 0;
-  char16_t text_[Leaf::kCapacity];
+  bool wide_ = false;
+  char bytes_[Leaf::kCapacity];
+  char16_t units_[Leaf::kCapacity];
 };
 
 /// Plain text as a fragment: lone CR and LF become breaks, every character and paragraph takes the

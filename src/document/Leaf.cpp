@@ -1,31 +1,42 @@
 #include "document/Leaf.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <string_view>
+#include <type_traits>
 
 namespace lumenote {
+namespace {
 
-Position CountBreaks(std::u16string_view text) {
-  // Counts narrow enough to be added many at once, over pieces that cannot overflow them.
-  constexpr std::size_t kPiece = 0x8000;
+/// Counts are as narrow as the text, to be added many at once, over pieces that cannot overflow
+/// them.
+template <class Unit>
+Position CountBreaks(std::basic_string_view<Unit> text) {
+  constexpr std::size_t kPiece = sizeof(Unit) == 1 ? 0x80 : 0x8000;
   Position count = 0;
-  for (; !text.empty(); text = text.substr(std::min(kPiece, text.size()))) {
-    std::uint16_t breaks = 0;
-    for (char16_t c : text.substr(0, kPiece)) breaks += c == u'\r';
+  for (; !text.empty(); text.remove_prefix(std::min(kPiece, text.size()))) {
+    std::make_unsigned_t<Unit> breaks = 0;
+    for (const Unit c : text.substr(0, kPiece)) breaks += c == '\r';
     count += breaks;
   }
   return count;
 }
 
+}  // namespace
+
+Position CountBreaks(TextView text) {
+  return text.Visit([](auto own) { return CountBreaks(own); });
+}
+
 Position Leaf::BreaksBetween(Position from, Position to) const {
-  return marks.empty() ? 0 : CountBreaks(Units(from, to));
+  return marks.empty() ? 0 : CountBreaks(Text(from, to));
 }
 
 Position Leaf::BreakAt(Position index) const {
-  const std::u16string_view units = text.View();
-  std::size_t at = units.find(u'\r');
-  for (; index > 0; --index) at = units.find(u'\r', at + 2);
-  return static_cast<Position>(at);
+  return text.View().Visit([index](auto own) {
+    std::size_t at = own.find('\r');
+    for (Position i = 0; i < index; ++i) at = own.find('\r', at + 2);
+    return static_cast<Position>(at);
+  });
 }
 
 void Leaf::Replace(Position at, Position removed, const Leaf& piece) {
@@ -39,7 +50,7 @@ void Leaf::Replace(Position at, Position removed, const Leaf& piece) {
 }
 
 Leaf Leaf::Part(Position from, Position to) const {
-  Leaf part{LeafText(Units(from, to)), runs.Part(from, to), {}};
+  Leaf part{LeafText(Text(from, to)), runs.Part(from, to), {}};
   if (const Position breaks = BreaksBetween(from, to); breaks > 0) {
     const auto first = marks.begin() + BreaksBetween(0, from);
     part.marks.assign(first, first + breaks);

@@ -18,8 +18,8 @@ struct Leaf {
   std::vector<ParaId> marks;
 
   Position Size() const { return text.Size(); }
-  std::u16string_view Units(Position from, Position to) const {
-    return text.View().substr(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from));
+  TextView Text(Position from, Position to) const {
+    return text.View().Part(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from));
   }
   /// Count of the breaks in a part of the text.
   Position BreaksBetween(Position from, Position to) const;
@@ -34,6 +34,6 @@ struct Leaf {
 using LeafPointer = std::shared_ptr<Leaf>;
 
 /// Count of the breaks in `text`, which cuts none.
-Position CountBreaks(std::u16string_view text);
+Position CountBreaks(TextView text);
 
 }  // namespace lumenote

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 #include <optional>
-#include <string_view>
 
 #include "document/Leaf.h"
 #include "document/Row.h"
@@ -79,7 +78,7 @@ class LeafList {
   /// `from` and `to`: its start in the list and the part of it that lies in between.
   template <class Visit>
   void ForEachLeaf(Position from, Position to, Visit visit) const;
-  /// Calls `visit(Position start, std::u16string_view text, CharId format)` for each piece of one
+  /// Calls `visit(Position start, TextView text, CharId format)` for each piece of one
   /// format between `from` and `to`; a piece never crosses a leaf.
   template <class Visit>
   void ForEachRun(Position from, Position to, Visit visit) const;
@@ -134,7 +133,7 @@ void LeafList::ForEachRun(Position from, Position to, Visit visit) const {
       at += static_cast<Position>(run.length);
       const Position end = std::min(at, last);
       if (begin >= end) continue;
-      visit(start + begin, leaf.Units(begin, end), CharId{run.format});
+      visit(start + begin, leaf.Text(begin, end), CharId{run.format});
     }
   });
 }

@@ -6,8 +6,6 @@
 namespace lumenote {
 namespace {
 
-using Units = std::char_traits<char16_t>;
-
 /// Small texts take a power of two, so that they grow in few steps; from half a leaf on a text has
 /// the room of a whole one.
 Position RoomFor(Position size) {
@@ -16,29 +14,67 @@ Position RoomFor(Position size) {
   return std::min(static_cast<Position>(room), LeafText::kCapacity);
 }
 
-}  // namespace
-
-LeafText::LeafText(std::u16string_view text) { Replace(0, 0, text); }
-
-void LeafText::Replace(Position at, Position removed, std::u16string_view inserted) {
-  const auto added = static_cast<Position>(inserted.size());
-  const Position size = size_ - removed + added;
-  if (size > capacity_ || units_.use_count() > 1) {
-    Reopen(at, removed, added);
-  } else {
-    Units::move(units_.get() + at + added, units_.get() + at + removed, size_ - at - removed);
-  }
-  Units::copy(units_.get() + at, inserted.data(), inserted.size());
-  size_ = size;
+/// Storage for so many bytes or units.
+template <class Unit>
+std::shared_ptr<char16_t[]> Storage(Position room) {
+  const std::size_t bytes = static_cast<std::size_t>(room) * sizeof(Unit);
+  return std::make_shared_for_overwrite<char16_t[]>(bytes / sizeof(char16_t));
 }
 
+}  // namespace
+
+LeafText::LeafText(TextView text) { Replace(0, 0, text); }
+
+TextView LeafText::View() const {
+  const auto size = static_cast<std::size_t>(size_);
+  if (wide_) return std::u16string_view(Data<char16_t>(), size);
+  return TextView(std::string_view(Data<char>(), size));
+}
+
+void LeafText::Replace(Position at, Position removed, TextView inserted) {
+  if (!wide_) {
+    char bytes[kCapacity];
+    if (inserted.CopyTo(bytes)) return Splice<char>(at, removed, {bytes, inserted.Size()});
+    Widen();
+  }
+  char16_t units[kCapacity];
+  inserted.CopyTo(units);
+  Splice<char16_t>(at, removed, {units, inserted.Size()});
+}
+
+template <class Unit>
+void LeafText::Splice(Position at, Position removed, std::basic_string_view<Unit> inserted) {
+  const auto added = static_cast<Position>(inserted.size());
+  const Position size = size_ - removed + added;
+  if (size > capacity_ || storage_.use_count() > 1) {
+    Reopen<Unit>(at, removed, added);
+  } else {
+    Unit* const hole = Data<Unit>() + at;
+    std::char_traits<Unit>::move(hole + added, hole + removed, size_ - at - removed);
+  }
+  std::copy(inserted.begin(), inserted.end(), Data<Unit>() + at);
+  size_ = static_cast<std::int16_t>(size);
+}
+
+template <class Unit>
 void LeafText::Reopen(Position at, Position removed, Position inserted) {
+  const Unit* const old = Data<Unit>();
   const Position room = RoomFor(size_ - removed + inserted);
-  auto units = std::make_shared_for_overwrite<char16_t[]>(static_cast<std::size_t>(room));
-  Units::copy(units.get(), units_.get(), at);
-  Units::copy(units.get() + at + inserted, units_.get() + at + removed, size_ - at - removed);
-  units_ = std::move(units);
-  capacity_ = room;
+  auto storage = Storage<Unit>(room);
+  auto* const units = reinterpret_cast<Unit*>(storage.get());
+  std::copy_n(old, at, units);
+  std::copy_n(old + at + removed, size_ - at - removed, units + at + inserted);
+  storage_ = std::move(storage);
+  capacity_ = static_cast<std::int16_t>(room);
+}
+
+void LeafText::Widen() {
+  const TextView bytes = View();
+  auto storage = size_ == 0 ? nullptr : Storage<char16_t>(size_);
+  bytes.CopyTo(storage.get());
+  storage_ = std::move(storage);
+  capacity_ = size_;
+  wide_ = true;
 }
 
 }  // namespace lumenote

@@ -1,7 +1,8 @@
 #include "document/MatchScanner.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <array>
+#include <type_traits>
 
 #include "base/Characters.h"
 #include "base/Strings.h"
@@ -14,10 +15,11 @@ namespace {
 template <class Hit>
 std::size_t FirstHit(std::size_t at, std::size_t end, Hit hit) {
   constexpr std::size_t kBlock = 32;
+  std::array<decltype(hit(at)), kBlock> hits;
   for (; at + kBlock <= end; at += kBlock) {
-    std::uint16_t found = 0;
-    for (std::size_t i = 0; i < kBlock; ++i) found |= hit(at + i);
-    if (found != 0) break;
+    decltype(hit(at)) any = 0;
+    for (std::size_t i = 0; i < kBlock; ++i) any |= hits[i] = hit(at + i);
+    if (any != 0) return at + static_cast<std::size_t>(std::ranges::find(hits, 1) - hits.begin());
   }
   while (at < end && hit(at) == 0) ++at;
   return at;
@@ -32,18 +34,21 @@ MatchScanner::MatchScanner(const LeafList& leaves, std::u16string_view needle,
       leaf_(leaves.CursorAt(from)) {
   if (!CanMatch()) needle_.clear();
   if (needle_.empty() || leaf_.AtEnd()) return;
-  first_ = CasesOf(needle_.front());
-  second_ = CasesOf(needle_[needle_.size() > 1]);
+  bytesOpening_ = OpeningIn<char>();
+  unitsOpening_ = OpeningIn<char16_t>();
   at_ = static_cast<std::size_t>(from - leaf_.Start());
-  if (leaf_.Start() > 0) previous_ = leaves.CursorAt(leaf_.Start() - 1)->text.View().back();
+  if (leaf_.Start() > 0) previous_ = leaves.CursorAt(leaf_.Start() - 1)->text.View().Back();
 }
 
 Position MatchScanner::Next(Position to) {
   if (needle_.empty()) return -1;
   const auto length = static_cast<Position>(needle_.size());
   for (; !leaf_.AtEnd(); NextLeaf()) {
-    const std::u16string_view text = leaf_->text.View();
-    for (; (at_ = NextCandidate(text, at_)) < text.size(); ++at_) {
+    const TextView text = leaf_->text.View();
+    const auto next = [&] {
+      return text.Visit([this](auto own) { return NextCandidate(own, at_); });
+    };
+    for (; (at_ = next()) < text.Size(); ++at_) {
       const Position start = leaf_.Start() + static_cast<Position>(at_);
       if (length > to - start) return -1;
       if (!MatchesAt(at_)) continue;
@@ -63,59 +68,66 @@ bool MatchScanner::CanMatch() const {
 
 char16_t MatchScanner::Fold(char16_t c) const { return options_.matchCase ? c : ToLower(c); }
 
-MatchScanner::Cases MatchScanner::CasesOf(char16_t c) const {
-  return {c, options_.matchCase ? c : ToUpper(c)};
+template <class Unit>
+MatchScanner::Opening<Unit> MatchScanner::OpeningIn() const {
+  const auto cases = [this](char16_t c) -> Cases<Unit> {
+    const char16_t capital = options_.matchCase ? c : ToUpper(c);
+    if constexpr (sizeof(Unit) == 1) {
+      return {static_cast<char>(ByteOf1252(c)), static_cast<char>(ByteOf1252(capital))};
+    } else {
+      return {c, capital};
+    }
+  };
+  return {cases(needle_.front()), cases(needle_[needle_.size() > 1])};
 }
 
-std::size_t MatchScanner::NextCandidate(std::u16string_view text, std::size_t at) const {
-  const auto is = [](Cases cases, char16_t c) {
-    return static_cast<std::uint16_t>((c == cases.small) | (c == cases.capital));
-  };
-  const char16_t* units = text.data();
-  const Cases first = first_;
-  const Cases second = second_;
-  if (needle_.size() == 1 || at >= text.size()) {
-    return FirstHit(at, text.size(), [=](std::size_t i) { return is(first, units[i]); });
-  }
+template <class Unit>
+std::size_t MatchScanner::NextCandidate(std::basic_string_view<Unit> text, std::size_t at,
+                                        Opening<Unit> opening) const {
+  using Hits = std::make_unsigned_t<Unit>;  // as wide as the text, for vectors of them
+  const Unit* units = text.data();
+  const auto begins = [=](std::size_t i) { return Hits{opening.first.Has(units[i])}; };
+  if (needle_.size() == 1 || at >= text.size()) return FirstHit(at, text.size(), begins);
   // Of the leaf's last unit the next one lies elsewhere.
   const std::size_t last = text.size() - 1;
   at = FirstHit(at, last, [=](std::size_t i) {
-    return static_cast<std::uint16_t>(is(first, units[i]) & is(second, units[i + 1]));
+    return static_cast<Hits>(begins(i) & Hits{opening.second.Has(units[i + 1])});
   });
-  return at == last && !is(first, units[last]) ? text.size() : at;
+  return at == last && begins(last) == 0 ? text.size() : at;
 }
 
 bool MatchScanner::MatchesAt(std::size_t at) const {
-  std::u16string_view text = leaf_->text.View();
+  TextView text = leaf_->text.View();
   const char16_t before = at == 0 ? previous_ : text[at - 1];
   std::u16string_view rest = needle_;
-  text.remove_prefix(at);
+  text.RemovePrefix(at);
   for (LeafCursor leaf = leaf_;;) {
-    const std::size_t count = std::min(text.size(), rest.size());
-    if (!Same(text.substr(0, count), rest.substr(0, count))) return false;
-    text.remove_prefix(count);
+    const std::size_t count = std::min(text.Size(), rest.size());
+    if (!Same(text.Part(0, count), rest.substr(0, count))) return false;
+    text.RemovePrefix(count);
     rest.remove_prefix(count);
     if (rest.empty() && !options_.wholeWord) return true;
-    if (text.empty()) {
+    if (text.Empty()) {
       leaf.Next();
       if (!leaf.AtEnd()) text = leaf->text.View();
     }
     if (rest.empty()) {
-      return !IsWordCharacter(before) && (text.empty() || !IsWordCharacter(text.front()));
+      return !IsWordCharacter(before) && (text.Empty() || !IsWordCharacter(text.Front()));
     }
-    if (text.empty()) return false;
+    if (text.Empty()) return false;
   }
 }
 
-bool MatchScanner::Same(std::u16string_view text, std::u16string_view part) const {
-  return std::equal(text.begin(), text.end(), part.begin(),
-                    [this](char16_t a, char16_t b) { return Fold(a) == b; });
+bool MatchScanner::Same(TextView text, std::u16string_view part) const {
+  for (std::size_t i = 0; i < part.size(); ++i)
+    if (Fold(text[i]) != part[i]) return false;
+  return true;
 }
 
 void MatchScanner::NextLeaf() {
-  const std::u16string_view text = leaf_->text.View();
-  previous_ = text.back();
-  at_ -= std::min(at_, text.size());
+  const TextView text = leaf_->text.View();
+  previous_ = text.Back();
+  at_ -= std::min(at_, text.Size());
   leaf_.Next();
 }
 

@@ -20,25 +20,43 @@ class MatchScanner {
   Position Next(Position to);
 
  private:
-  /// Both forms of a unit; the same twice when case matters.
+  /// Both forms of a character, the same twice when case matters. A form that has no byte is 0
+  /// among bytes, which no text holds.
+  template <class Unit>
   struct Cases {
-    char16_t small = 0;
-    char16_t capital = 0;
+    Unit small = 0;
+    Unit capital = 0;
+    bool Has(Unit c) const { return (c == small) | (c == capital); }
+  };
+  /// How the needle begins.
+  template <class Unit>
+  struct Opening {
+    Cases<Unit> first;
+    Cases<Unit> second;  // if it has one
   };
 
   bool CanMatch() const;
   char16_t Fold(char16_t c) const;
-  Cases CasesOf(char16_t folded) const;
+  template <class Unit>
+  Opening<Unit> OpeningIn() const;
   /// Where the needle may begin in `text`, at `at` or behind it; the text's end when nowhere.
-  std::size_t NextCandidate(std::u16string_view text, std::size_t at) const;
+  template <class Unit>
+  std::size_t NextCandidate(std::basic_string_view<Unit> text, std::size_t at,
+                            Opening<Unit> opening) const;
+  std::size_t NextCandidate(std::string_view bytes, std::size_t at) const {
+    return NextCandidate(bytes, at, bytesOpening_);
+  }
+  std::size_t NextCandidate(std::u16string_view units, std::size_t at) const {
+    return NextCandidate(units, at, unitsOpening_);
+  }
   bool MatchesAt(std::size_t at) const;
-  bool Same(std::u16string_view text, std::u16string_view part) const;
+  bool Same(TextView text, std::u16string_view part) const;
   void NextLeaf();
 
   SearchOptions options_;
   std::u16string needle_;  // folded, unless case matters
-  Cases first_;            // of its first unit
-  Cases second_;           // of its second unit, if it has one
+  Opening<char> bytesOpening_;
+  Opening<char16_t> unitsOpening_;
   LeafCursor leaf_;
   std::size_t at_ = 0;     // in the leaf
   char16_t previous_ = 0;  // the unit before the leaf

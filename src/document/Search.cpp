@@ -21,7 +21,7 @@ class LeafReader {
         builder.Append(leaf_.Pointer());
         NextLeaf();
       } else {
-        const std::u16string_view text = Piece(to);
+        const TextView text = Piece(to);
         mark_ = builder.Append(text, run_->format, mark_);
         Advance(text);
       }
@@ -29,7 +29,7 @@ class LeafReader {
   }
   void SkipTo(Position to) {
     while (!leaf_.AtEnd() && Here() < to) {
-      const std::u16string_view text = Piece(to);
+      const TextView text = Piece(to);
       mark_ += CountBreaks(text);
       Advance(text);
     }
@@ -40,13 +40,11 @@ class LeafReader {
  private:
   Position Here() const { return leaf_.Start() + at_; }
   /// What is left of the present run, up to `to`.
-  std::u16string_view Piece(Position to) const {
-    const Position end = std::min(runEnd_, to - leaf_.Start());
-    return leaf_->text.View().substr(static_cast<std::size_t>(at_),
-                                     static_cast<std::size_t>(end - at_));
+  TextView Piece(Position to) const {
+    return leaf_->Text(at_, std::min(runEnd_, to - leaf_.Start()));
   }
-  void Advance(std::u16string_view piece) {
-    at_ += static_cast<Position>(piece.size());
+  void Advance(TextView piece) {
+    at_ += static_cast<Position>(piece.Size());
     if (at_ < runEnd_) return;
     if (at_ == leaf_->Size()) return NextLeaf();
     runEnd_ += static_cast<Position>((++run_)->length);

@@ -16,7 +16,9 @@ class BodyText {
   bool Holds() const { return holds_; }
   void Release();
 
-  std::span<char16_t> Room() { return builder_.Room(); }
+  /// Room for text, as `FragmentBuilder` has it.
+  std::span<char> ByteRoom() { return builder_.ByteRoom(); }
+  std::span<char16_t> UnitRoom() { return builder_.UnitRoom(); }
   void Commit(int count, CharId format) { builder_.Commit(count, format); }
   void Append(std::u16string_view text, CharId format) { builder_.Append(text, format); }
 

@@ -109,23 +109,36 @@ void Interpreter::Take(const Token& token) {
 /// Text goes the short way, from the source into the fragment, unless some of it is to be passed
 /// over or its characters take several bytes.
 void Interpreter::TakeText() {
-  const bool unicode = State().fallback == 1;
-  if (swallow_ > 0 || starred_ || State().page.MultiByte() || !tokens_.AtText(unicode)) return;
+  if (swallow_ > 0 || starred_ || State().page.MultiByte() || !AtText()) return;
   opened_ = false;
   BeforeText();
-  const CodePage page = State().page;
-  const auto take = [&](std::span<char16_t> room, CharId format) {
-    const std::size_t count = tokens_.Decode(page, unicode, room);
-    body_.Commit(static_cast<int>(count), format);
-    return count == room.size();
-  };
   if (keeper_.Pending()) {
-    take(body_.Room().first(1), NextCharacter());
-    if (!tokens_.AtText(unicode)) return;
+    TakeSome(1, NextCharacter());
+    if (!AtText()) return;
   }
   const CharId format = CharacterNumber();
-  while (take(body_.Room(), format)) {
+  while (TakeSome(Leaf::kCapacity, format)) {
   }
+}
+
+/// Takes text into the leaf at hand, as bytes as long as that goes; at most `most` units. Returns
+/// whether it stopped for want of room.
+bool Interpreter::TakeSome(std::size_t most, CharId format) {
+  const CodePage page = State().page;
+  const bool unicode = HasOneFallback();
+  const auto take = [&](auto room, auto decode) {
+    room = room.first(std::min(most, room.size()));
+    const std::size_t count = decode(room);
+    if (count > 0) body_.Commit(static_cast<int>(count), format);
+    return count == room.size();
+  };
+  if (page.Number() == kPageOfWindows) {
+    if (const auto room = body_.ByteRoom(); !room.empty()) {
+      if (take(room, [&](auto part) { return tokens_.DecodeToBytes(unicode, part); })) return true;
+      if (!AtText()) return false;
+    }
+  }
+  return take(body_.UnitRoom(), [&](auto part) { return tokens_.Decode(page, unicode, part); });
 }
 
 /// Whether the "}" just read is the last that matters. Braces that only close at the end leave the
@@ -222,8 +235,7 @@ void Interpreter::EndBytes() {
 
 void Interpreter::Put(char16_t unit) {
   BeforeText();
-  body_.Room().front() = unit;
-  body_.Commit(1, NextCharacter());
+  body_.Append(std::u16string_view(&unit, 1), NextCharacter());
 }
 
 void Interpreter::BeforeText() {

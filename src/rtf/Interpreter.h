@@ -101,7 +101,11 @@ class Interpreter {
 
   void Interpret();
   void Take(const Token& token);
+  /// Whether a \u has one character behind it for other readers.
+  bool HasOneFallback() const { return State().fallback == 1; }
+  bool AtText() { return tokens_.AtText(HasOneFallback()); }
   void TakeText();
+  bool TakeSome(std::size_t most, CharId format);
   bool Ended() const;
   void Open();
   void Close();

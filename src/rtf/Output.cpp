@@ -6,8 +6,8 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
-#include "base/Windows1252.h"
 #include "rtf/PlainText.h"
 
 namespace lumenote {
@@ -49,17 +49,25 @@ constexpr std::array<Form, 256> kForms = [] {
   return forms;
 }();
 
-/// The byte under whose form a unit is written, for all of page 1252 and for ASCII alone; 0 for
-/// none.
-unsigned WindowsForm(char16_t unit) { return ByteOf1252(unit); }
-unsigned AsciiForm(char16_t unit) { return unit < 0x80 ? unit : 0; }
+/// The forms for all of page 1252, and for ASCII alone.
+struct WindowsForms {
+  static const Form& Of(char16_t unit) { return kForms[ByteOf1252(unit)]; }
+  static const Form& Of(char byte) { return kForms[static_cast<unsigned char>(byte)]; }
+};
+struct AsciiForms {
+  template <class Unit>
+  static const Form& Of(Unit c) {
+    const std::make_unsigned_t<Unit> number = c;
+    return kForms[number < 0x80 ? number : 0];
+  }
+};
 
 /// Writes the beginning of `text` that consists of characters that have a form; returns its length.
 /// Takes room for `kHexLength` bytes a unit.
-template <unsigned formOf(char16_t)>
-std::size_t PutText(std::u16string_view text, char*& out) {
-  const char16_t* at = text.data();
-  const char16_t* const end = at + text.size();
+template <class Forms, class Unit>
+std::size_t PutForms(std::basic_string_view<Unit> text, char*& out) {
+  const Unit* at = text.data();
+  const Unit* const end = at + text.size();
   char* to = out;  // no store in the loop
   while (at != end) {
     if (end - at > kPlainStep) {
@@ -68,7 +76,7 @@ std::size_t PutText(std::u16string_view text, char*& out) {
       to += plain;
     }
     // Plain or escaped, the one as often as the other: a table knows without guessing.
-    const Form& form = kForms[formOf(*at)];
+    const Form& form = Forms::Of(*at);
     std::memcpy(to, form.text.data(), kHexLength);
     if (form.length == 0) break;
     to += form.length;
@@ -174,17 +182,17 @@ void Output::Unicode(char16_t unit) {
   Raw("?");
 }
 
-template <unsigned formOf(char16_t)>
-std::size_t Output::PlainOrBytes(std::u16string_view text) {
+template <class Forms, class Unit>
+std::size_t Output::WriteForms(std::basic_string_view<Unit> text) {
   if (text.empty()) return 0;
-  if (openWord_ && IsPlain(text.front())) Raw(" ");
+  if (openWord_ && IsPlain(TextView(text).Front())) Raw(" ");
   std::size_t done = 0;
   std::size_t count = 0;
   std::size_t room = 0;
   do {
     room = (buffer_.size() - size_) / kHexLength;
     char* out = buffer_.data() + size_;
-    count = PutText<formOf>(text.substr(done, room), out);
+    count = PutForms<Forms>(text.substr(done, room), out);
     Grow(static_cast<std::size_t>(out - buffer_.data()) - size_);
     done += count;
   } while (count == room);
@@ -192,30 +200,39 @@ std::size_t Output::PlainOrBytes(std::u16string_view text) {
   return done;
 }
 
-std::size_t Output::Plain(std::u16string_view text) { return PlainOrBytes<AsciiForm>(text); }
+std::size_t Output::Plain(TextView text) {
+  return text.Visit([this](auto own) { return WriteForms<AsciiForms>(own); });
+}
 
-std::size_t Output::Text(std::u16string_view text, Encoding encoding) {
+std::size_t Output::Text(TextView text, Encoding encoding) {
+  return text.Visit([=, this](auto own) { return Write(own, encoding); });
+}
+
+template <class Unit>
+std::size_t Output::Write(std::basic_string_view<Unit> text, Encoding encoding) {
   std::size_t done = 0;
   while (done < text.size()) {
-    const std::u16string_view rest = text.substr(done);
-    const std::size_t some = PlainOrBytes(rest, encoding);
+    const auto rest = text.substr(done);
+    const std::size_t some = WriteForms(rest, encoding);
     done += some;
     if (some > 0) continue;
-    if (StopsText(rest.front())) break;
-    Character(rest.front(), encoding);
+    const char16_t unit = TextView(rest).Front();
+    if (StopsText(unit)) break;
+    Character(unit, encoding);
     ++done;
   }
   return done;
 }
 
-std::size_t Output::PlainOrBytes(std::u16string_view text, Encoding encoding) {
+template <class Unit>
+std::size_t Output::WriteForms(std::basic_string_view<Unit> text, Encoding encoding) {
   switch (encoding) {
     case Encoding::Windows:
-      return PlainOrBytes<WindowsForm>(text);
+      return WriteForms<WindowsForms>(text);
     case Encoding::Symbols:
-      return PlainOrBytes<AsciiForm>(text.substr(0, text.front() == u' ' ? 1 : 0));
+      return WriteForms<AsciiForms>(text.substr(0, text.front() == ' ' ? 1 : 0));
     default:
-      return PlainOrBytes<AsciiForm>(text);
+      return WriteForms<AsciiForms>(text);
   }
 }
 

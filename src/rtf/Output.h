@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "document/TextView.h"
 #include "rtf/Writer.h"
 
 namespace lumenote {
@@ -31,21 +32,24 @@ class Output {
   /// A unit for any reader: its number, and "?" where that is not understood.
   void Unicode(char16_t unit);
   /// Writes the beginning of `text` that consists of plain characters, and returns its length.
-  std::size_t Plain(std::u16string_view text);
+  std::size_t Plain(TextView text);
   /// Writes the beginning of `text` that holds no tab, break or embedded object, and returns its
   /// length.
-  std::size_t Text(std::u16string_view text, Encoding encoding);
+  std::size_t Text(TextView text, Encoding encoding);
   void Flush();
 
  private:
   static constexpr std::size_t kPiece = std::size_t{1} << 16;
   static constexpr std::size_t kShort = 256;  // there is always room for as many bytes
 
-  /// Writes the beginning of `text` that consists of characters that `formOf` gives a form for, and
-  /// returns its length.
-  template <unsigned formOf(char16_t)>
-  std::size_t PlainOrBytes(std::u16string_view text);
-  std::size_t PlainOrBytes(std::u16string_view text, Encoding encoding);
+  template <class Unit>
+  std::size_t Write(std::basic_string_view<Unit> text, Encoding encoding);
+  template <class Unit>
+  std::size_t WriteForms(std::basic_string_view<Unit> text, Encoding encoding);
+  /// Writes the beginning of `text` that consists of characters that have a form, and returns its
+  /// length.
+  template <class Forms, class Unit>
+  std::size_t WriteForms(std::basic_string_view<Unit> text);
   void Append(std::string_view source);
   void AppendLong(std::string_view source);
   void Grow(std::size_t count);

@@ -44,6 +44,12 @@ inline int CopyPlain(const char* from, char16_t* to) {
   return lanes::PlainBytes(bytes);
 }
 
+inline int CopyPlain(const char* from, char* to) {
+  const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(from));
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(to), bytes);
+  return lanes::PlainBytes(bytes);
+}
+
 inline int CopyPlain(const char16_t* from, char* to) {
   const auto* in = reinterpret_cast<const __m128i*>(from);
   // Saturates: a unit from 0x100 on becomes 0xFF, one from 0x8000 on 0, and neither is plain.
@@ -107,6 +113,11 @@ inline int CopyPlain(const char* from, char16_t* to) {
   std::memcpy(to, units, sizeof units);
   return lanes::PlainBytes(lanes::Load<std::uint64_t>(from));
 }
+inline int CopyPlain(const char* from, char* to) {
+  std::memcpy(to, from, kPlainStep);
+  return lanes::PlainBytes(lanes::Load<std::uint64_t>(from));
+}
+
 inline int CopyPlain(const char16_t* from, char* to) {
   const std::uint32_t bytes[] = {lanes::FourBytes(lanes::Load<std::uint64_t>(from)),
                                  lanes::FourBytes(lanes::Load<std::uint64_t>(from + 4))};

@@ -7,6 +7,7 @@
 #include <limits>
 #include <utility>
 
+#include "base/Windows1252.h"
 #include "rtf/PlainText.h"
 
 namespace lumenote {
@@ -64,7 +65,7 @@ bool IsNegative(const char* at, const char* end) {
   return end - at > 1 && *at == '-' && IsDigit(at[1]);
 }
 
-/// A unit and the length of its source, 0 for none.
+/// A unit and the length of its source, both 0 for none.
 struct Escaped {
   char16_t unit = 0;
   std::ptrdiff_t length = 0;
@@ -194,10 +195,11 @@ bool Tokenizer::AtText(bool unicode) {
          (unicode && UnicodeAt(at_, end_).length > 0);
 }
 
-std::size_t Tokenizer::Decode(const CodePage& page, bool unicode, std::span<char16_t> room) {
-  char16_t* out = room.data();
-  const char16_t* const limit = out + room.size();
-  const bool keepsAscii = page.KeepsAscii();
+template <class Unit, class Decoder>
+std::size_t Tokenizer::DecodeWith(Decoder decoder, bool unicode, std::span<Unit> room) {
+  Unit* out = room.data();
+  const Unit* const limit = out + room.size();
+  const bool keepsAscii = decoder.KeepsAscii();
   const char* at = at_;  // no store in the loop
   while (out != limit && at != end_) {
     if (keepsAscii && end_ - at >= kPlainStep && limit - out >= kPlainStep) {
@@ -207,24 +209,44 @@ std::size_t Tokenizer::Decode(const CodePage& page, bool unicode, std::span<char
       if (plain == kPlainStep) continue;
     }
     if (const int byte = HexValue(at, end_); byte >= 0) {
-      *out++ = page[static_cast<unsigned char>(byte)];
+      *out++ = decoder.OfByte(static_cast<unsigned char>(byte));
       at += kHexLength;
       continue;
     }
     const Class kind = ClassOf(*at);
     if (kind == Class::Text || kind == Class::High) {
-      *out++ = page[static_cast<unsigned char>(*at++)];
+      *out++ = decoder.OfByte(static_cast<unsigned char>(*at++));
     } else if (kind == Class::Nothing) {
       ++at;
     } else {
       const Escaped escaped = unicode ? UnicodeAt(at, end_) : Escaped();
-      if (escaped.length == 0) break;
-      *out++ = escaped.unit;
+      const Unit unit = decoder.OfUnit(escaped.unit);
+      if (unit == 0) break;
+      *out++ = unit;
       at += escaped.length;
     }
   }
   at_ = at;
   return static_cast<std::size_t>(out - room.data());
+}
+
+std::size_t Tokenizer::Decode(const CodePage& page, bool unicode, std::span<char16_t> room) {
+  struct Decoder {
+    const CodePage& page;
+    bool KeepsAscii() const { return page.KeepsAscii(); }
+    char16_t OfByte(unsigned char byte) const { return page[byte]; }
+    char16_t OfUnit(char16_t unit) const { return unit; }
+  };
+  return DecodeWith(Decoder{page}, unicode, room);
+}
+
+std::size_t Tokenizer::DecodeToBytes(bool unicode, std::span<char> room) {
+  struct Decoder {
+    bool KeepsAscii() const { return true; }
+    char OfByte(unsigned char byte) const { return static_cast<char>(byte); }
+    char OfUnit(char16_t unit) const { return static_cast<char>(ByteOf1252(unit)); }
+  };
+  return DecodeWith(Decoder{}, unicode, room);
 }
 
 Token Tokenizer::Word() {

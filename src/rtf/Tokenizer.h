@@ -51,6 +51,8 @@ class Tokenizer {
   /// Decodes what `AtText` tells of, bytes by a single-byte page, until `room` is full. Stops
   /// before anything else; returns the number of units.
   std::size_t Decode(const CodePage& page, bool unicode, std::span<char16_t> room);
+  /// The same from page 1252 to bytes of it; stops before a \u that has none, too.
+  std::size_t DecodeToBytes(bool unicode, std::span<char> room);
   /// Whether the rest of the source is closing braces.
   bool OnlyClosesFollow() const { return at_ >= tail_; }
   /// Whether any brace or backslash is left.
@@ -100,6 +102,8 @@ class Tokenizer {
   Token Word();
   Token Hex();
   Token Binary(int length);
+  template <class Unit, class Decoder>
+  std::size_t DecodeWith(Decoder decoder, bool unicode, std::span<Unit> room);
   template <class Holds>
   std::string_view While(const char* end, Holds holds);
 

@@ -16,8 +16,7 @@ WrittenFormats FormatsOf(const Document& document, Position from, Position to,
                          const std::vector<ParaId>& paragraphs, const FinalMark* mark) {
   const FormatTables& tables = document.Formats();
   WrittenFormats formats(tables, tables.heads[document.Mark().head]);
-  document.ForEachRun(from, to,
-                      [&](Position, std::u16string_view, CharId format) { formats.Use(format); });
+  document.ForEachRun(from, to, [&](Position, TextView, CharId format) { formats.Use(format); });
   if (mark) formats.Use(mark->character);
   const auto hasBullet = [&](ParaId format) { return tables.paragraphs[format].bullet != 0; };
   if (std::any_of(paragraphs.begin(), paragraphs.end(), hasBullet)) formats.UseBullets();
@@ -44,9 +43,8 @@ void WriteText(const Document& document, Position from, Position to, const Final
   Output out(sink);
   WriteHead(formats, document.Formats().heads[document.Mark().head], mark != nullptr, out);
   WrittenBody body(document.Formats(), formats, std::move(paragraphs), mark != nullptr, out);
-  document.ForEachRun(from, to, [&](Position, std::u16string_view text, CharId format) {
-    body.Text(text, format);
-  });
+  document.ForEachRun(from, to,
+                      [&](Position, TextView text, CharId format) { body.Text(text, format); });
   body.Finish(mark);
   if (mark) out.Words(document.Formats().heads[mark->head].tail);
   out.Raw("}\r\n");

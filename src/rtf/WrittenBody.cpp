@@ -144,24 +144,25 @@ void WrittenBody::Format(CharId format) {
   format_ = wanted;
 }
 
-void WrittenBody::Text(std::u16string_view text, CharId format) {
+void WrittenBody::Text(TextView text, CharId format) {
   const KeptId kept = tables_.characters[format].kept;
   const bool again = std::exchange(lastKept_, kept) == kept;
   if (kept != 0 || !fields_.empty()) return KeptText(text, format, tables_.kept[kept], again);
   if (!begun_) BeginParagraph();
   Format(format);
-  while (!text.empty()) text.remove_prefix(Step(text));
+  while (!text.Empty()) text.RemovePrefix(Step(text));
 }
 
 /// What an edit has made of one character is one still: what stands before it comes once. A cell
 /// that is part of no row is text that ends in a tab.
-void WrittenBody::KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again) {
-  while (!text.empty()) {
-    const bool stands = Stands(kept, text.front());
-    Ahead(kept, format, text.front(), again && !stands);
+void WrittenBody::KeptText(TextView text, CharId format, const Kept& kept, bool again) {
+  while (!text.Empty()) {
+    const char16_t unit = text.Front();
+    const bool stands = Stands(kept, unit);
+    Ahead(kept, format, unit, again && !stands);
     again = true;
-    const bool lostCell = !stands && kept.kind == Kept::Kind::Cell && text.front() == u'\t';
-    text.remove_prefix(stands ? Instead(kept, text.front()) : Step(text));
+    const bool lostCell = !stands && kept.kind == Kept::Kind::Cell && unit == u'\t';
+    text.RemovePrefix(stands ? Instead(kept, unit) : Step(text));
     if (lostCell) ++cell_;
   }
 }
@@ -217,16 +218,15 @@ std::size_t WrittenBody::Instead(const Kept& kept, char16_t unit) {
 }
 
 /// Writes some of the text and returns how much.
-std::size_t WrittenBody::Step(std::u16string_view text) {
+std::size_t WrittenBody::Step(TextView text) {
   if (!begun_) BeginParagraph();
   filled_ = true;
   const std::size_t count = out_.Text(text, format_.encoding);
-  return count > 0 ? count : Special(text);
+  return count > 0 ? count : Special(text.Front());
 }
 
-/// Writes the first character of `text`, a tab, break or object; returns its length.
-std::size_t WrittenBody::Special(std::u16string_view text) {
-  const char16_t unit = text.front();
+/// Writes a tab, break or object, told by its first unit; returns its length.
+std::size_t WrittenBody::Special(char16_t unit) {
   if (unit == u'\r') {
     Paragraph(paragraphs_.formats[index_], false);
     out_.Raw("\\par\r\n");

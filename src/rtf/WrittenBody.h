@@ -25,7 +25,7 @@ class WrittenBody {
         knownWords_(tables.paragraphs.Size()) {}
 
   /// A piece of one format.
-  void Text(std::u16string_view text, CharId format);
+  void Text(TextView text, CharId format);
   /// Ends a document by its final mark, a selection without one.
   void Finish(const FinalMark* mark);
 
@@ -65,13 +65,13 @@ class WrittenBody {
   void CloseField();
 
   void Format(CharId format);
-  void KeptText(std::u16string_view text, CharId format, const Kept& kept, bool again);
+  void KeptText(TextView text, CharId format, const Kept& kept, bool again);
   void Ahead(const Kept& kept, CharId format, char16_t unit, bool again);
   bool Stands(const Kept& kept, char16_t unit) const;
   bool EndsNothing(const Kept& kept, char16_t unit) const;
   std::size_t Instead(const Kept& kept, char16_t unit);
-  std::size_t Step(std::u16string_view text);
-  std::size_t Special(std::u16string_view text);
+  std::size_t Step(TextView text);
+  std::size_t Special(char16_t unit);
   void EndParagraph();
 
   const FormatTables& tables_;

@@ -41,7 +41,7 @@ void WriteFontName(const FontFace& face, Output& out) {
   const int page = CodePageOfCharset(face.charset);
   const bool inWindowsPage = page == 0 || page == kPageOfWindows || page == kPageOfSymbols;
   for (const char16_t& unit : face.name) {
-    if (unit != u';' && out.Plain({&unit, 1}) == 1) continue;
+    if (unit != u';' && out.Plain(std::u16string_view(&unit, 1)) == 1) continue;
     const int byte = unit < 0x80 || inWindowsPage ? ByteIn1252(unit) : -1;
     if (byte >= 0) {
       out.Hex(byte);

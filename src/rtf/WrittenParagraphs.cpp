@@ -59,7 +59,7 @@ void WrittenParagraphs::FindKept(const Document& document, Position from, Positi
   const FormatTables& tables = document.Formats();
   const Position first = document.ParagraphOf(from);
   KeptId last = 0;
-  const auto find = [&](Position at, std::u16string_view text, CharId format) {
+  const auto find = [&](Position at, TextView text, CharId format) {
     const KeptId id = tables.characters[format].kept;
     const bool again = std::exchange(last, id) == id;
     const Kept& kept = tables.kept[id];
@@ -69,8 +69,8 @@ void WrittenParagraphs::FindKept(const Document& document, Position from, Positi
     if (!again && BeginsParagraph(kept.before)) leads.push_back({paragraph(0), id});
     const bool endsRow = kept.kind == Kept::Kind::Row;
     if (!endsRow && kept.kind != Kept::Kind::Cell) return;
-    const char16_t end = endsRow ? u'\r' : u'\t';
-    for (std::size_t i = text.find(end); i != text.npos; i = text.find(end, i + 1)) {
+    const char end = endsRow ? '\r' : '\t';
+    for (std::size_t i = text.Find(end, 0); i < text.Size(); i = text.Find(end, i + 1)) {
       const std::size_t index = paragraph(i);
       const ParaId own = endsRow ? formats[index] : kept.paragraph;
       const int told = tables.paragraphs[own].nesting;

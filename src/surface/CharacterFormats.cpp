@@ -38,14 +38,13 @@ auto CharacterFormats::Common(Get get) const -> std::optional<decltype(get(CharF
   bool mixed = false;
   std::optional<CharId> last;
   const Selection selection = core_.Selected();
-  core_.Content().ForEachRun(selection.start, selection.end,
-                             [&](Position, std::u16string_view, CharId id) {
-                               if (mixed || id == last) return;
-                               last = id;
-                               const auto found = get(core_.CharacterFormat(id));
-                               mixed = value && *value != found;
-                               value = found;
-                             });
+  core_.Content().ForEachRun(selection.start, selection.end, [&](Position, TextView, CharId id) {
+    if (mixed || id == last) return;
+    last = id;
+    const auto found = get(core_.CharacterFormat(id));
+    mixed = value && *value != found;
+    value = found;
+  });
   if (mixed) return std::nullopt;
   return value;
 }

@@ -48,9 +48,9 @@ bool TextEditing::IsSelected(std::u16string_view text) const {
   const CharId format = TypedFormat();
   const ParaId paragraph = document.ParaFormatAt(old.start);
   bool same = true;
-  document.ForEachRun(old.start, old.end, [&](Position at, std::u16string_view piece, CharId id) {
+  document.ForEachRun(old.start, old.end, [&](Position at, TextView piece, CharId id) {
     const auto offset = static_cast<std::size_t>(at - old.start);
-    same = same && id == format && piece == text.substr(offset, piece.size());
+    same = same && id == format && piece.String() == text.substr(offset, piece.Size());
   });
   document.ForEachParagraph(old.start, old.end, [&](ParaId id) { same = same && id == paragraph; });
   return same;

@@ -44,7 +44,7 @@ FontId DefaultFontOf(std::string_view rtf, FormatTables& formats, const CharForm
   probe += "\\plain x}";
   const Fragment letter = ReadRtf(probe, formats, RtfTarget::Selection, base);
   FontId font = base.font;
-  letter.leaves.ForEachRun(0, letter.Length(), [&](Position, std::u16string_view, CharId id) {
+  letter.leaves.ForEachRun(0, letter.Length(), [&](Position, TextView, CharId id) {
     font = formats.characters[id].font;
   });
   return font;

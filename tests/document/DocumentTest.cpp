@@ -54,8 +54,9 @@ TEST(Document, MapsEachFormatOnceAndSharesTheText) {
   ASSERT_TRUE(mapped);
   EXPECT_EQ(asked, 2);
   EXPECT_EQ(mapped->mark, (FinalMark{2, 0}));
-  EXPECT_EQ(mapped->leaves.CursorAt(0)->text.View().data(),
-            document.Leaves().CursorAt(0)->text.View().data());
+  const auto first = [](const LeafList& leaves) { return leaves.CursorAt(0)->text.View(); };
+  const auto where = [](auto text) { return static_cast<const void*>(text.data()); };
+  EXPECT_EQ(first(mapped->leaves).Visit(where), first(document.Leaves()).Visit(where));
   document.Replace(0, document.Length(), *mapped);
   EXPECT_FALSE(document.MapFormats(0, document.Length(), toTwo, {}, true));
 }
@@ -76,12 +77,29 @@ TEST(Document, RefusesToOutgrowAPosition) {
   EXPECT_THROW(document.Replace(0, 0, PlainFragment(u"x", 0, 0)), RuntimeError);
 }
 
+TEST(LeafText, HoldsBytesUntilOneIsMissing) {
+  const auto unitSize = [](const LeafText& text) {
+    return text.View().Visit([](auto own) { return sizeof(own[0]); });
+  };
+  LeafText text(u"l\u2019été");
+  EXPECT_EQ(unitSize(text), 1u);
+  const LeafText shared = text;
+  text.Replace(1, 1, u"\u2192");
+  EXPECT_EQ(text.View().String(), u"l\u2192été");
+  EXPECT_EQ(shared.View().String(), u"l\u2019été");
+  text.Replace(1, 1, shared.View().Part(0, 2));
+  EXPECT_EQ(text.View().String(), u"ll\u2019été");
+  EXPECT_EQ(unitSize(text), 2u);
+  EXPECT_EQ(unitSize(LeafText(text.View())), 1u);
+  EXPECT_EQ(unitSize(LeafText(std::u16string_view(u"a\0b", 3))), 2u);
+}
+
 TEST(FragmentBuilder, KeepsPairsInOneLeaf) {
   for (Position before : {1982, 1983, 1984, 1985, 2014, 2015, 2016}) {
     for (std::u16string_view pair : {u"\r\n", u"\U0001F33C"}) {
       FragmentBuilder builder;
       for (Position i = 0; i < before; ++i) {
-        builder.Room().front() = u'x';
+        builder.UnitRoom().front() = u'x';
         builder.Commit(1, 0);
       }
       const ParaId mark = 3;

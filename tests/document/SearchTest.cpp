@@ -42,12 +42,19 @@ TEST(FindText, FindsByTheRules) {
       {u"a\nb", u"a\r", kPlain, 0, 99, -1},
       {u"\U0001F33C", u"\xDF3C", kPlain, 0, 99, -1},
       {u"x\U0001F33C", u"\U0001F33C", kPlain, 0, 99, 1},
+      {u"de Ÿ", u"ÿ", kPlain, 0, 99, 3},
+      {u"de µ", u"\u03BC", kPlain, 0, 99, -1},
+      {u"de Ω", u"ω", kPlain, 0, 99, 3},
+      {u"de O", u"Ω", kPlain, 0, 99, -1},
   };
-  for (const Case& c : cases) {
-    Document document;
-    document.Replace(0, 0, PlainFragment(c.text, 0, 0));
-    EXPECT_EQ(FindText(document, c.needle, c.from, c.to, c.options), c.found)
-        << &c - cases << ": " << testing::PrintToString(c.needle);
+  // The arrow makes the leaf hold units instead of bytes.
+  for (std::u16string_view tail : {u"", u" \u2192"}) {
+    for (const Case& c : cases) {
+      Document document;
+      document.Replace(0, 0, PlainFragment(std::u16string(c.text) += tail, 0, 0));
+      EXPECT_EQ(FindText(document, c.needle, c.from, c.to, c.options), c.found)
+          << &c - cases << ": " << testing::PrintToString(c.needle);
+    }
   }
 }
 

@@ -20,9 +20,9 @@ struct Cell {
 std::vector<Cell> Cells(const Document& document, Position from, Position to) {
   std::vector<Cell> cells;
   cells.reserve(static_cast<std::size_t>(to - from));
-  const auto append = [&](Position, std::u16string_view text, CharId format) {
+  const auto append = [&](Position, TextView text, CharId format) {
     const float half = static_cast<float>(document.Formats().characters[format].size) * 5;
-    for (const char16_t c : text) cells.push_back({c, IsLowSurrogate(c) ? 0 : half});
+    for (const char16_t c : text.String()) cells.push_back({c, IsLowSurrogate(c) ? 0 : half});
   };
   document.ForEachRun(from, to, append);
   return cells;

@@ -34,7 +34,7 @@ class SpanText {
       : document_(document), styles_(styles) {
     text_.reserve(span.to - span.from);
     document.ForEachRun(span.from, span.to,
-                        [&](Position, std::u16string_view run, CharId id) { Append(run, id); });
+                        [&](Position, TextView run, CharId id) { Append(run.String(), id); });
   }
 
   void Insert(const Preedit& preedit, int at);

@@ -193,20 +193,19 @@ QString AccessibleView::attributes(int offset, int* start, int* end) const {
   QString told;
   *start = *end = offset;
   const Document& document = Surface().Content();
-  document.ForEachRun(
-      paragraph.start, paragraph.end, [&](Position at, std::u16string_view run, CharId id) {
-        const auto behind = at + static_cast<Position>(run.size());
-        if (offset < at || offset >= behind) return;
-        const CharFormat& format = document.Formats().characters[id];
-        const QString family = ToQString(document.Formats().fonts[format.font].name);
-        told = QStringLiteral("font-family:\"%1\";font-size:%2pt;font-weight:%3;font-style:%4;")
-                   .arg(family)
-                   .arg(format.size / 2.0)
-                   .arg(QLatin1String(format.effects & kBold ? "bold" : "normal"))
-                   .arg(QLatin1String(format.effects & kItalic ? "italic" : "normal"));
-        *start = at;
-        *end = behind;
-      });
+  document.ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView run, CharId id) {
+    const auto behind = at + static_cast<Position>(run.Size());
+    if (offset < at || offset >= behind) return;
+    const CharFormat& format = document.Formats().characters[id];
+    const QString family = ToQString(document.Formats().fonts[format.font].name);
+    told = QStringLiteral("font-family:\"%1\";font-size:%2pt;font-weight:%3;font-style:%4;")
+               .arg(family)
+               .arg(format.size / 2.0)
+               .arg(QLatin1String(format.effects & kBold ? "bold" : "normal"))
+               .arg(QLatin1String(format.effects & kItalic ? "italic" : "normal"));
+    *start = at;
+    *end = behind;
+  });
   return told;
 }
 
