@@ -100,15 +100,23 @@ bool WrittenBody::IsList() const {
 
 // --- fields
 
-/// Leaves the fields that the next character is not in, and enters those that it is in. A list
-/// number whose paragraph is no list any more is ordinary text. Of what comes `before` that
-/// character, definitions stay outside the field, and so does all that comes before a list number:
-/// readers number the paragraph where its number stands. Returns what is still to be written of it.
-std::string_view WrittenBody::Field(FieldId wanted, std::string_view before) {
+/// Whether `number`, the number of a list paragraph, is still that for the next character: an edit
+/// may have made a break of it, put text before it, or taken the paragraph out of the list. It is
+/// ordinary text then.
+bool WrittenBody::IsNumber(FieldId number, char16_t unit) const {
+  const bool open = std::ranges::find(fields_, number, &OpenField::id) != fields_.end();
+  return unit != u'\r' && (open || !begun_) && IsList();
+}
+
+/// Leaves the fields that the next character is not in, and enters those that it is in. Of what
+/// comes `before` that character, definitions stay outside the field, and so does all that comes
+/// before a list number: readers number the paragraph where its number stands. Returns what is
+/// still to be written of it.
+std::string_view WrittenBody::Field(FieldId wanted, char16_t unit, std::string_view before) {
   if (fields_.empty() && wanted == 0 && begun_) return before;
   chain_.clear();
   for (FieldId id = wanted; id != 0; id = tables_.fields[id].outer)
-    if (!tables_.fields[id].numbers || IsList()) chain_.insert(chain_.begin(), id);
+    if (!tables_.fields[id].numbers || IsNumber(id, unit)) chain_.insert(chain_.begin(), id);
   const auto differs = std::ranges::mismatch(fields_, chain_, {}, &OpenField::id).in2;
   const auto common = static_cast<std::size_t>(differs - chain_.begin());
   while (fields_.size() > common) CloseField();
@@ -170,7 +178,7 @@ void WrittenBody::KeptText(TextView text, CharId format, const Kept& kept, bool 
 /// What comes ahead of a character.
 void WrittenBody::Ahead(const Kept& kept, CharId format, char16_t unit, bool again) {
   const bool told = again || BeginsParagraph(kept.before);
-  const std::string_view rest = Field(kept.field, told ? std::string_view() : kept.before);
+  const std::string_view rest = Field(kept.field, unit, told ? std::string_view() : kept.before);
   if (EndsNothing(kept, unit)) {
     out_.Words(rest);
     out_.Words(kept.instead);

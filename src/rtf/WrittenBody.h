@@ -61,7 +61,8 @@ class WrittenBody {
   ParaId Governing() const;
   bool IsList() const;
 
-  std::string_view Field(FieldId wanted, std::string_view before);
+  bool IsNumber(FieldId number, char16_t unit) const;
+  std::string_view Field(FieldId wanted, char16_t unit, std::string_view before);
   void CloseField();
 
   void Format(CharId format);

@@ -125,6 +125,19 @@ TEST(Keeping, WhatAnEditLeavesOfARowIsText) {
   EXPECT_EQ(Body(WriteRtf(document)), "\\f0\\fs24\\trowd\\cellx9 a\\tab bc\\par\r\nd\\par }\r\n");
 }
 
+TEST(Keeping, WhatAnEditLeavesOfANumberIsText) {
+  const struct {
+    Position at;
+    const char16_t* put;
+  } cases[] = {{0, u"x"}, {0, u"\n"}, {1, u"\n"}, {2, u"\nx"}, {3, u"\n"}};
+  for (const auto& c : cases) {
+    Document document = Read(R"({\rtf1\pard\ls1{\listtext 1.\tab}a\par{\listtext 2.\tab}b})");
+    const CharId number = document.CharFormatAt(1);
+    document.Replace(c.at, c.at, PlainFragment(c.put, number, document.ParaFormatAt(0)));
+    EXPECT_EQ(TextOf(Read(WriteRtf(document))), TextOf(document)) << &c - cases;
+  }
+}
+
 TEST(Keeping, WhatIsTypedAtTheStartOfAPageIsOnThatPage) {
   Document document = Read(R"({\rtf1\pard a\par\page b})");
   document.Replace(3, 3, PlainFragment(u"x", document.CharFormatAt(0), 0));
