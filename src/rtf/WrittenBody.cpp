@@ -167,7 +167,7 @@ void WrittenBody::KeptText(TextView text, CharId format, const Kept& kept, bool 
   while (!text.Empty()) {
     const char16_t unit = text.Front();
     const bool stands = Stands(kept, unit);
-    Ahead(kept, format, unit, again && !stands);
+    Ahead(kept, format, unit, again);
     again = true;
     const bool lostCell = !stands && kept.kind == Kept::Kind::Cell && unit == u'\t';
     text.RemovePrefix(stands ? Instead(kept, unit) : Step(text));

@@ -22,7 +22,8 @@ class WrittenBody {
         paragraphs_(std::move(paragraphs)),
         whole_(whole),
         out_(out),
-        knownWords_(tables.paragraphs.Size()) {}
+        knownWords_(tables.paragraphs.Size()),
+        lastKept_(paragraphs_.left) {}
 
   /// A piece of one format.
   void Text(TextView text, CharId format);
@@ -91,7 +92,7 @@ class WrittenBody {
   WrittenFormat format_;
   std::vector<OpenField> fields_;
   std::vector<FieldId> chain_;
-  KeptId lastKept_ = 0;
+  KeptId lastKept_;
 };
 
 }  // namespace lumenote

@@ -58,7 +58,8 @@ void WrittenParagraphs::FindKept(const Document& document, Position from, Positi
                                  const FinalMark* mark) {
   const FormatTables& tables = document.Formats();
   const Position first = document.ParagraphOf(from);
-  KeptId last = 0;
+  if (!mark) left = tables.characters[document.CharFormatAt(from)].kept;
+  KeptId last = left;
   const auto find = [&](Position at, TextView text, CharId format) {
     const KeptId id = tables.characters[format].kept;
     const bool again = std::exchange(last, id) == id;

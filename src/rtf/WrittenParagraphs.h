@@ -37,6 +37,7 @@ struct WrittenParagraphs {
   std::vector<int> rowDepths;  // nesting of the whole row that each is part of
   std::vector<Cell> cells;     // in order
   std::vector<Lead> leads;     // likewise
+  KeptId left = 0;  // of a selection's first character: what is before it is no part of that
 
  private:
   void FindKept(const Document& document, Position from, Position to, const FinalMark* mark);

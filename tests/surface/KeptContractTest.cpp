@@ -1,0 +1,55 @@
+// What the source says beyond the text, when that is edited.
+#include "surface/SurfaceContract.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::u16string_view kNote =
+    u"{\\rtf1 a\\sect\\sectd\\cols2 bc\\par\\page{\\*\\bkmkstart k}d{\\*\\bkmkend k}{\\pict 01}}";
+
+TEST_F(SurfaceContract, WhatStandsBeforeDeletedTextStays) {
+  const struct {
+    Selection deleted;
+    std::u16string_view put, left;
+  } cases[] = {
+      {{3, 4}, u"", u"\\sectd\\cols2 c\\par"},
+      {{3, 5}, u"", u"\\sectd\\cols2\\par"},
+      {{3, 7}, u"", u"\\sectd\\cols2\\page{\\*\\bkmkstart k}d"},
+      {{3, 5}, u"xy", u"\\sectd\\cols2 xy\\par"},
+      {{7, 8}, u"", u"\\page{\\*\\bkmkstart k}{\\*\\bkmkend k}{\\pict 01}\\par }"},
+      {{7, 9}, u"", u"\\page{\\*\\bkmkstart k}\\par }"},
+      {{4, 5}, u"", u"b\\par"},
+  };
+  for (const auto& c : cases) {
+    s.TextRTF(kNote);
+    const std::u16string before = s.TextRTF();
+    surface.UserSelect(c.deleted.start, c.deleted.end);
+    s.SelText(c.put);
+    EXPECT_NE(s.TextRTF().find(c.left), std::u16string::npos)
+        << &c - cases << ": " << testing::PrintToString(s.TextRTF());
+    s.Undo();
+    EXPECT_EQ(s.TextRTF(), before) << &c - cases;
+  }
+}
+
+TEST_F(SurfaceContract, WhatStandsBeforeTextIsNotTakenAlong) {
+  s.TextRTF(kNote);
+  const std::u16string before = s.TextRTF();
+  surface.UserSelect(3, 4);
+  EXPECT_EQ(s.SelRTF().find(u"cols2"), std::u16string::npos);
+  s.Cut();
+  s.Paste();
+  EXPECT_EQ(s.Text(), u"a\r\nbc\r\nd\uFFFC");
+  EXPECT_NE(s.TextRTF().find(u"\\sectd\\cols2 c"), std::u16string::npos);
+  s.TextRTF(kNote);
+  surface.UserSelect(3, 4);
+  surface.UserDrop(1, true);
+  s.Undo();
+  EXPECT_EQ(s.TextRTF(), before);
+  surface.UserSelect(3, 4);
+  surface.UserDrop(1, false);
+  EXPECT_NE(s.TextRTF().find(u"ab\\sect\r\n\\sectd\\cols2 c"), std::u16string::npos);
+}
+
+}  // namespace
+}  // namespace lumenote
