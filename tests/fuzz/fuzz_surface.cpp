@@ -36,6 +36,8 @@ class Player : UserBench {
     }
     LineTable fresh(surface.Content(), breaker);
     Check(surface.LineFromChar(surface.Caret()) == fresh.LineOf(surface.Caret()));
+    surface.TextRTF(surface.TextRTF());
+    Check(surface.Text() == now_.text);
   }
 
  private:
@@ -139,13 +141,23 @@ class Player : UserBench {
     history_.push_back({before});
   }
   void Line() { surface.LineFromChar(Place()); }
-  void Open() { Load(Text()); }
+  void Open() { bytes_.ConsumeBool() ? Load(Text()) : LoadRtf(); }
   void Load(const std::u16string& text) {
     surface.Text(text);
     history_.clear();
     redo_.clear();
     now_ = {};
     now_.Add(WithCrLf(text), 0, 0);
+  }
+  /// A note with more in its source than its text shows.
+  void LoadRtf() {
+    static constexpr std::u16string_view kBodies[] = {
+        uR"(a\sect\sectd\cols2 bc\par\page{\*\bkmkstart k}d{\*\bkmkend k}{\pict 01})",
+        uR"(a\par\trowd\cellx9\intbl b\par c\cell{\field{\fldrslt d}}\cell\row\pard e)",
+        uR"({\listtext 1.\tab}\ls1 a\page\par{\field{\fldrslt\b b{\field{\fldrslt c}}}})"};
+    Load({});
+    surface.TextRTF(u"{\\rtf1 " + std::u16string(bytes_.PickValueInArray(kBodies)) + u"}");
+    now_ = Held();
   }
   /// One step of the surface's may be several here, where runs of typing or deletion are one.
   void Undo() {
