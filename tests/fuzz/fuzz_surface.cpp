@@ -19,11 +19,12 @@ void Check(bool holds) {
   if (!holds) std::abort();
 }
 
-/// Reads acts out of bytes and carries them out. In the model the number of a character's format
+/// Reads acts out of bytes and carries them out. The models of the history have the numbers of
+/// formats as the surface holds them; in what an act is expected to make, a character's number only
 /// says whether it is bold.
 class Player : UserBench {
  public:
-  explicit Player(FuzzedDataProvider& bytes) : bytes_(bytes) {}
+  explicit Player(FuzzedDataProvider& bytes) : bytes_(bytes), now_(Held()) {}
 
   void Play() {
     constexpr Position kMostText = 4000;
@@ -79,18 +80,20 @@ class Player : UserBench {
   }
   void Type() {
     const std::u16string text = ReplaceEvery(ReplaceEvery(Text(), u"\r", u""), u"\n", u"");
-    const Model next = text.empty() ? now_ : Replaced(surface.Selected(), text);
+    const Model next = text.empty() ? Seen(now_) : Replaced(surface.Selected(), text);
     surface.UserType(text);
     Expect(next, true);
   }
   void Break() {
-    Remember({Replaced(surface.Selected(), u"\r\n")}, true);
+    const Model next = Replaced(surface.Selected(), u"\r\n");
     surface.UserType(u"\r\n");
+    Check(Seen(Held()) == next);
+    Remember(Held(), true);
   }
   void Bold() {
     const Selection range = surface.Selected();
     const bool on = bytes_.ConsumeBool();
-    Model next = now_;
+    Model next = Seen(now_);
     std::fill_n(next.characters.begin() + range.start, range.Length(), on);
     if (range.Length() > 0 && range.end == now_.Length()) next.mark.character = on;
     surface.SelBold(on);
@@ -115,12 +118,14 @@ class Player : UserBench {
     const bool inside = target > range.start && target < range.end;
     const bool edge = target == range.start || target == range.end;
     if (range.Length() == 0 || inside || (edge && !copy)) return;
+    const Model seen = Seen(now_);
     Model moved;
-    moved.Add(now_, range.start, range.end);
-    Model next = now_.Replaced(target, target, moved);
+    moved.Add(seen, range.start, range.end);
+    Model next = seen.Replaced(target, target, moved);
     const Position shift = target <= range.start ? range.Length() : 0;
     if (!copy) next = next.Replaced(range.start + shift, range.end + shift, {});
-    Remember(std::move(next));
+    Check(Seen(Held()) == next);
+    Remember(Held());
   }
   void Find() {
     const std::u16string text = Text();
@@ -146,8 +151,8 @@ class Player : UserBench {
     surface.Text(text);
     history_.clear();
     redo_.clear();
-    now_ = {};
-    now_.Add(WithCrLf(text), 0, 0);
+    now_ = Held();
+    Check(now_.text == WithCrLf(text));
   }
   /// A note with more in its source than its text shows.
   void LoadRtf() {
@@ -180,8 +185,11 @@ class Player : UserBench {
     redo_.pop_back();
   }
 
+  /// What changes nothing, not even what is not seen, is no step.
   void Expect(const Model& next, bool merges = false) {
-    if (next != now_) Remember(next, merges);
+    Model held = Held();
+    Check(Seen(held) == next);
+    if (held != now_) Remember(std::move(held), merges);
   }
   void Remember(Model next, bool merges = false) {
     history_.push_back({std::exchange(now_, std::move(next)), merges, selected_});
@@ -189,10 +197,11 @@ class Player : UserBench {
   }
   /// Text put in is bold like the first letter it replaces, else as the surface says.
   Model Replaced(Selection range, std::u16string_view text) const {
-    const bool bold = range.Length() > 0 ? now_.characters[range.start] : *surface.SelBold();
+    const Model seen = Seen(now_);
+    const bool bold = range.Length() > 0 ? seen.characters[range.start] : *surface.SelBold();
     Model piece;
     piece.Add(text, bold, 0);
-    return now_.Replaced(range.start, range.end, piece);
+    return seen.Replaced(range.start, range.end, piece);
   }
   bool InsidePair(Position at) const {
     if (at <= 0 || at >= now_.Length()) return false;
@@ -206,13 +215,11 @@ class Player : UserBench {
         matchCase ? now_.text.find(text, start) : Lower(now_.text).find(Lower(text), start);
     return at == text.npos ? -1 : static_cast<Position>(at);
   }
-  /// What the surface holds, as the model has it.
-  Model Held() const {
-    const Document& document = surface.Content();
-    const auto bold = [&](CharId id) {
-      return CharId((document.Formats().characters[id].effects & kBold) != 0);
+  Model Held() const { return ModelOf(surface.Content().Leaves(), surface.Content().Mark()); }
+  Model Seen(Model model) const {
+    const auto bold = [this](CharId id) {
+      return CharId((surface.Content().Formats().characters[id].effects & kBold) != 0);
     };
-    Model model = ModelOf(document.Leaves(), document.Mark());
     std::ranges::transform(model.characters, model.characters.begin(), bold);
     std::ranges::fill(model.paragraphs, 0);
     model.mark = {bold(model.mark.character), 0};
