@@ -34,8 +34,7 @@ MatchScanner::MatchScanner(const LeafList& leaves, std::u16string_view needle,
       leaf_(leaves.CursorAt(from)) {
   if (!CanMatch()) needle_.clear();
   if (needle_.empty() || leaf_.AtEnd()) return;
-  bytesOpening_ = OpeningIn<char>();
-  unitsOpening_ = OpeningIn<char16_t>();
+  openings_ = {OpeningIn<char>(), OpeningIn<char16_t>()};
   at_ = static_cast<std::size_t>(from - leaf_.Start());
   if (leaf_.Start() > 0) previous_ = leaves.CursorAt(leaf_.Start() - 1)->text.View().Back();
 }
@@ -82,8 +81,8 @@ MatchScanner::Opening<Unit> MatchScanner::OpeningIn() const {
 }
 
 template <class Unit>
-std::size_t MatchScanner::NextCandidate(std::basic_string_view<Unit> text, std::size_t at,
-                                        Opening<Unit> opening) const {
+std::size_t MatchScanner::NextCandidate(std::basic_string_view<Unit> text, std::size_t at) const {
+  const auto opening = std::get<Opening<Unit>>(openings_);
   using Hits = std::make_unsigned_t<Unit>;  // as wide as the text, for vectors of them
   const Unit* units = text.data();
   const auto begins = [=](std::size_t i) { return Hits{opening.first.Has(units[i])}; };

@@ -2,6 +2,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "document/LeafList.h"
 #include "document/Search.h"
@@ -41,22 +42,14 @@ class MatchScanner {
   Opening<Unit> OpeningIn() const;
   /// Where the needle may begin in `text`, at `at` or behind it; the text's end when nowhere.
   template <class Unit>
-  std::size_t NextCandidate(std::basic_string_view<Unit> text, std::size_t at,
-                            Opening<Unit> opening) const;
-  std::size_t NextCandidate(std::string_view bytes, std::size_t at) const {
-    return NextCandidate(bytes, at, bytesOpening_);
-  }
-  std::size_t NextCandidate(std::u16string_view units, std::size_t at) const {
-    return NextCandidate(units, at, unitsOpening_);
-  }
+  std::size_t NextCandidate(std::basic_string_view<Unit> text, std::size_t at) const;
   bool MatchesAt(std::size_t at) const;
   bool Same(TextView text, std::u16string_view part) const;
   void NextLeaf();
 
   SearchOptions options_;
   std::u16string needle_;  // folded, unless case matters
-  Opening<char> bytesOpening_;
-  Opening<char16_t> unitsOpening_;
+  std::tuple<Opening<char>, Opening<char16_t>> openings_;
   LeafCursor leaf_;
   std::size_t at_ = 0;     // in the leaf
   char16_t previous_ = 0;  // the unit before the leaf

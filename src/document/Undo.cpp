@@ -31,7 +31,7 @@ EditExtent UndoHistory::Apply(Position from, Position to, Fragment inserted) {
 void UndoHistory::End(Selection after) {
   if (depth_ == 0 || --depth_ > 0 || !started_) return;
   undo_.Last().after = after;
-  open_ = !closing_ && (kind_ == UndoKind::Typing || kind_ == UndoKind::Delete);
+  open_ = kind_ == UndoKind::Delete || (kind_ == UndoKind::Typing && !closing_);
 }
 
 void UndoHistory::Clear() {

@@ -22,7 +22,7 @@ using EditVisitor = std::function<void(Position at, Position removed, Position i
 
 /// Applies edits to a document, which outlives it, and remembers them. Steps merge only when both
 /// are typing or both deletion, their edits touch, and the last one is still open; `Close`, another
-/// kind, undo, redo and a paragraph break put in close it. A new edit forgets what could be redone.
+/// kind, undo, redo and a paragraph break typed close it. A new edit forgets what could be redone.
 class UndoHistory {
  public:
   explicit UndoHistory(Document& document) : document_(document) {}

@@ -23,7 +23,9 @@ constexpr Names kTableWords[] = {"af",    "brdrcf",    "cb",        "cbpat",    
                                  "adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
 
 constexpr Names kRow = "trowd";
-constexpr Names kParagraphBeginnings[] = {"page", "column", "sect"};
+constexpr Names kPageGroups[] = {"{\\header", "{\\footer"};
+constexpr Names kBreaks[] = {"page", "column", "sect"};
+constexpr Names kSections[] = {"sectd"};
 
 template <std::size_t Size>
 bool Holds(const Names (&names)[Size], Names word) {
@@ -73,6 +75,9 @@ std::size_t FirstOf(const Names (&names)[Size], const std::string& words, std::s
 std::size_t PartEnd(const std::string& words, std::size_t from) {
   return std::min(FirstOf(kDirections, words, from + 1), FirstOf(kScripts, words, from + 1));
 }
+
+/// Whether a word begins a page, column or section.
+bool Begins(Names word) { return Holds(kBreaks, word) || Holds(kSections, word); }
 
 /// Calls `visit` for the words outside groups.
 template <class Visit>
@@ -127,7 +132,33 @@ void EraseWord(std::string_view name, std::string& words) {
   words.erase(at, std::min(end, words.size()) - at);
 }
 
-bool BeginsParagraph(std::string_view source) { return HoldsOne(kParagraphBeginnings, source); }
+bool BeginsParagraph(std::string_view source) { return HoldsOne(kBreaks, source); }
+
+bool BeginsPlace(std::string_view source) {
+  return HoldsOne(kBreaks, source) || HoldsOne(kSections, source);
+}
+
+std::string BeginningIn(std::string_view source, std::string_view there) {
+  const bool breaks = !HoldsOne(kBreaks, there);
+  const bool format = !HoldsOne(kSections, there);
+  std::string beginning;
+  bool ofRow = false;
+  Tokenizer tokens(source);
+  for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
+    if (token.kind == Token::Kind::Open) {
+      const std::size_t from = tokens.Start();
+      tokens.SkipGroup();
+      tokens.Next();
+      const std::string_view group = tokens.Source(from, tokens.At());
+      if (format && BeginsLike(kPageGroups, group)) beginning += group;
+    } else if (token.kind == Token::Kind::Word) {
+      const bool isBreak = Holds(kBreaks, token.text);
+      ofRow = token.text == kRow || (ofRow && !Begins(token.text));
+      if (!ofRow && (isBreak ? breaks : format)) beginning += SourceOf(token);
+    }
+  }
+  return beginning;
+}
 
 bool DefinesPlace(std::string_view source) {
   static constexpr Names kPlaces[] = {"sectd", kRow};
@@ -138,7 +169,7 @@ std::string RowDefinition(std::string_view source) {
   std::string row;
   ForEachWord(source, [&](const Token& word) {
     if (word.text == kRow) row.clear();
-    const bool ofRow = !row.empty() && !Holds(kParagraphBeginnings, word.text);
+    const bool ofRow = !row.empty() && !Begins(word.text);
     if (word.text == kRow || ofRow) row += SourceOf(word);
   });
   return row;

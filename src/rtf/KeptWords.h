@@ -36,6 +36,11 @@ std::string WithAssociated(std::string words, std::string_view marker, const Tok
 void EraseWord(std::string_view name, std::string& words);
 /// Whether kept source begins a page, column or section, and so a paragraph.
 bool BeginsParagraph(std::string_view source);
+/// The same, or whether it tells the format of a section.
+bool BeginsPlace(std::string_view source);
+/// The part of kept source that does so: all words but those of table rows, headers and footers;
+/// no break when `there`, where it is to go, has one, and no format when that tells one.
+std::string BeginningIn(std::string_view source, std::string_view there);
 /// Whether kept source defines a section or table row.
 bool DefinesPlace(std::string_view source);
 /// The words of the last table row that kept source defines; empty when it defines none.

@@ -63,13 +63,14 @@ struct AsciiForms {
 };
 
 /// Writes the beginning of `text` that consists of characters that have a form; returns its length.
-/// Takes room for `kHexLength` bytes a unit.
+/// Takes room for `kHexLength` bytes a unit, and writes to it beyond what counts.
 template <class Forms, class Unit>
 std::size_t PutForms(std::basic_string_view<Unit> text, char*& out) {
   const Unit* at = text.data();
   const Unit* const end = at + text.size();
   char* to = out;  // no store in the loop
   while (at != end) {
+    // One more than a step, since what comes behind it is looked at too.
     if (end - at > kPlainStep) {
       const int plain = CopyPlain(at, to);
       at += plain;
@@ -205,15 +206,15 @@ std::size_t Output::Plain(TextView text) {
 }
 
 std::size_t Output::Text(TextView text, Encoding encoding) {
-  return text.Visit([=, this](auto own) { return Write(own, encoding); });
+  return text.Visit([=, this](auto own) { return TextAs(own, encoding); });
 }
 
 template <class Unit>
-std::size_t Output::Write(std::basic_string_view<Unit> text, Encoding encoding) {
+std::size_t Output::TextAs(std::basic_string_view<Unit> text, Encoding encoding) {
   std::size_t done = 0;
   while (done < text.size()) {
     const auto rest = text.substr(done);
-    const std::size_t some = WriteForms(rest, encoding);
+    const std::size_t some = WriteEncoded(rest, encoding);
     done += some;
     if (some > 0) continue;
     const char16_t unit = TextView(rest).Front();
@@ -225,7 +226,7 @@ std::size_t Output::Write(std::basic_string_view<Unit> text, Encoding encoding) 
 }
 
 template <class Unit>
-std::size_t Output::WriteForms(std::basic_string_view<Unit> text, Encoding encoding) {
+std::size_t Output::WriteEncoded(std::basic_string_view<Unit> text, Encoding encoding) {
   switch (encoding) {
     case Encoding::Windows:
       return WriteForms<WindowsForms>(text);

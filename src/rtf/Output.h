@@ -43,9 +43,10 @@ class Output {
   static constexpr std::size_t kShort = 256;  // there is always room for as many bytes
 
   template <class Unit>
-  std::size_t Write(std::basic_string_view<Unit> text, Encoding encoding);
+  std::size_t TextAs(std::basic_string_view<Unit> text, Encoding encoding);
+  /// `WriteForms` with the forms that the encoding has.
   template <class Unit>
-  std::size_t WriteForms(std::basic_string_view<Unit> text, Encoding encoding);
+  std::size_t WriteEncoded(std::basic_string_view<Unit> text, Encoding encoding);
   /// Writes the beginning of `text` that consists of characters that have a form, and returns its
   /// length.
   template <class Forms, class Unit>

@@ -23,7 +23,7 @@ class WrittenBody {
         whole_(whole),
         out_(out),
         knownWords_(tables.paragraphs.Size()),
-        lastKept_(paragraphs_.left) {}
+        lastKept_(paragraphs_.outside) {}
 
   /// A piece of one format.
   void Text(TextView text, CharId format);

@@ -58,8 +58,9 @@ void WrittenParagraphs::FindKept(const Document& document, Position from, Positi
                                  const FinalMark* mark) {
   const FormatTables& tables = document.Formats();
   const Position first = document.ParagraphOf(from);
-  if (!mark) left = tables.characters[document.CharFormatAt(from)].kept;
-  KeptId last = left;
+  const KeptId opening = tables.characters[document.CharFormatAt(from)].kept;
+  if (!mark && BeginsPlace(tables.kept[opening].before)) outside = opening;
+  KeptId last = outside;
   const auto find = [&](Position at, TextView text, CharId format) {
     const KeptId id = tables.characters[format].kept;
     const bool again = std::exchange(last, id) == id;

@@ -37,7 +37,9 @@ struct WrittenParagraphs {
   std::vector<int> rowDepths;  // nesting of the whole row that each is part of
   std::vector<Cell> cells;     // in order
   std::vector<Lead> leads;     // likewise
-  KeptId left = 0;  // of a selection's first character: what is before it is no part of that
+  /// The kept number of a selection's first character when a page or section begins before that:
+  /// the beginning is not part of the selection.
+  KeptId outside = 0;
 
  private:
   void FindKept(const Document& document, Position from, Position to, const FinalMark* mark);

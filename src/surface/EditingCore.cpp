@@ -80,8 +80,11 @@ KeptId EditingCore::TypedInside(Position position) const {
   const auto keptAt = [&](Position at) { return CharacterFormat(document_.CharFormatAt(at)).kept; };
   const auto& table = document_.Formats().kept;
   const KeptId before = keptAt(position - 1);
-  const bool onlyField = table[before] == Kept{.field = table[before].field};
-  return onlyField && table[before].field == table[keptAt(position)].field ? before : 0;
+  const KeptId behind = keptAt(position);
+  const Kept inField{.field = table[before].field};
+  if (table[behind].field != inField.field) return 0;
+  if (table[before] == inField) return before;
+  return table[behind] == inField ? behind : 0;
 }
 
 CharFormat EditingCore::InsertionFormat() const {

@@ -1,9 +1,10 @@
 #include "surface/TextEditing.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/Strings.h"
-#include "document/KeptBefore.h"
+#include "rtf/Beginnings.h"
 
 namespace lumenote {
 
@@ -51,7 +52,7 @@ bool TextEditing::IsSelected(std::u16string_view text) const {
   bool same = true;
   document.ForEachRun(old.start, old.end, [&](Position at, TextView piece, CharId id) {
     const auto offset = static_cast<std::size_t>(at - old.start);
-    const CharId own = offset == 0 ? WithoutKeptBefore(core_.Formats(), id) : id;
+    const CharId own = offset == 0 ? WithoutBeginning(id, core_.Formats()) : id;
     same = same && own == format && piece.String() == text.substr(offset, piece.Size());
   });
   document.ForEachParagraph(old.start, old.end, [&](ParaId id) { same = same && id == paragraph; });
@@ -85,20 +86,17 @@ void TextEditing::Exchange(Position from, Position to, const Fragment& fragment)
                             (fragment.Length() > 0 && to > document.ParagraphStart(last));
     if (firstStays) Reformat(last, document.ParaFormatAt(from));
   }
-  const KeptId staying = from < to ? KeptBefore(document, from) : 0;
-  core_.Replace(from, to, fragment);
-  if (staying != 0) KeepBefore(from, staying);
-}
-
-// What the source says before the first character deleted is not part of what is deleted.
-void TextEditing::KeepBefore(Position at, KeptId kept) {
-  const Document& document = core_.Content();
-  if (core_.CharacterFormat(document.CharFormatAt(at)).kept == kept) return;
-  const auto map = [&](CharId format) { return WithKeptBefore(core_.Formats(), format, kept); };
-  const bool final = at == document.Length();
-  const Position behind = document.After(at + 1);
-  if (const auto mapped = document.MapFormats(at, behind, map, {}, final))
-    core_.Replace(at, behind, *mapped);
+  const KeptId beginning = from < to ? BeginningAt(document, from) : 0;
+  if (beginning == 0) return core_.Replace(from, to, fragment);
+  // It is not part of what is deleted: it goes before what comes in its place.
+  FormatTables& tables = core_.Formats();
+  if (fragment.Length() > 0)
+    return core_.Replace(from, to, WithBeginning(fragment, tables, beginning));
+  core_.Replace(from, to, {});
+  const Position behind = document.After(from + 1);
+  Fragment next = document.Copy(from, behind);
+  if (next.Length() == 0) next.mark = document.Mark();
+  core_.Replace(from, behind, WithBeginning(std::move(next), tables, beginning));
 }
 
 void TextEditing::Reformat(Position paragraph, ParaId format) {
@@ -141,7 +139,7 @@ void TextEditing::MoveSelection(Position target, bool copy) {
   const bool inside =
       copy ? target > old.start && target < old.end : target >= old.start && target <= old.end;
   if (!core_.HasSelection() || inside) return;
-  const Fragment moved = Taken(old);
+  const Fragment moved = WithoutBeginning(document.Copy(old.start, old.end), core_.Formats());
   core_.Edit(UndoKind::DragDrop, [&] {
     core_.Replace(target, target, moved);
     const Position shift = target <= old.start ? old.Length() : 0;
@@ -149,17 +147,6 @@ void TextEditing::MoveSelection(Position target, bool copy) {
     const Position at = copy || shift > 0 ? target : target - old.Length();
     core_.Place(at, at + old.Length());
   });
-}
-
-// A copy of the text, without what the source says before its first character.
-Fragment TextEditing::Taken(Selection range) const {
-  const auto map = [this](CharId format) { return WithoutKeptBefore(core_.Formats(), format); };
-  const Document& document = core_.Content();
-  Fragment taken = document.Copy(range.start, range.end);
-  const Position behind = document.After(range.start + 1);
-  if (auto bare = document.MapFormats(range.start, behind, map, {}, false))
-    taken.leaves.Replace(0, bare->Length(), std::move(bare->leaves));
-  return taken;
 }
 
 void TextEditing::Drop(const Fragment& fragment, Position target) {

@@ -33,8 +33,6 @@ class TextEditing {
 
  private:
   void Exchange(Position from, Position to, const Fragment& fragment);
-  void KeepBefore(Position at, KeptId kept);
-  Fragment Taken(Selection range) const;
   void Reformat(Position paragraph, ParaId format);
   bool IsSelected(std::u16string_view text) const;
   CharId TypedFormat() const;

@@ -146,7 +146,10 @@ class Player : UserBench {
     history_.push_back({before});
   }
   void Line() { surface.LineFromChar(Place()); }
-  void Open() { bytes_.ConsumeBool() ? Load(Text()) : LoadRtf(); }
+  void Open() {
+    if (bytes_.ConsumeBool()) return Load(Text());
+    LoadRtf();
+  }
   void Load(const std::u16string& text) {
     surface.Text(text);
     history_.clear();
