@@ -35,7 +35,7 @@ TEST_F(SurfaceContract, BeginningsStayWhenTheTextBehindThemGoes) {
 
 TEST_F(SurfaceContract, BeginningsThatStayDoNotCutRunsOfUndo) {
   const std::pair<Selection, std::function<void()>> cases[] = {
-      {{7, 7}, [this] { Press(u"Delete Delete Delete"); }},
+      {{3, 3}, [this] { Press(u"Delete Delete Delete"); }},
       {{8, 8}, [this] { Press(u"BackSpace BackSpace"); }},
       {{7, 8},
        [this] {
@@ -53,6 +53,13 @@ TEST_F(SurfaceContract, BeginningsThatStayDoNotCutRunsOfUndo) {
     EXPECT_EQ(s.TextRTF(), before);
     EXPECT_FALSE(s.CanUndo());
   }
+}
+
+TEST_F(SurfaceContract, TextTypedInALinkJoinsItWhateverItBegins) {
+  s.TextRTF(u"{\\rtf1 a\\par\\page{\\field{\\*\\fldinst H}{\\fldrslt bc}}}");
+  surface.UserSelect(4, 4);
+  surface.UserType(u"xy");
+  EXPECT_NE(s.TextRTF().find(u"\\fldrslt bxyc}}"), std::u16string::npos);
 }
 
 TEST_F(SurfaceContract, BeginningsAreNotTakenAlong) {
