@@ -86,9 +86,15 @@ void TextEditing::Exchange(Position from, Position to, const Fragment& fragment)
                             (fragment.Length() > 0 && to > document.ParagraphStart(last));
     if (firstStays) Reformat(last, document.ParaFormatAt(from));
   }
+  Substitute(from, to, fragment);
+}
+
+// What begins a page or section before the text is no part of it: it goes before what comes in its
+// place.
+void TextEditing::Substitute(Position from, Position to, const Fragment& fragment) {
+  const Document& document = core_.Content();
   const KeptId beginning = from < to ? BeginningAt(document, from) : 0;
   if (beginning == 0) return core_.Replace(from, to, fragment);
-  // It is not part of what is deleted: it goes before what comes in its place.
   FormatTables& tables = core_.Formats();
   if (fragment.Length() > 0)
     return core_.Replace(from, to, WithBeginning(fragment, tables, beginning));

@@ -33,6 +33,7 @@ class TextEditing {
 
  private:
   void Exchange(Position from, Position to, const Fragment& fragment);
+  void Substitute(Position from, Position to, const Fragment& fragment);
   void Reformat(Position paragraph, ParaId format);
   bool IsSelected(std::u16string_view text) const;
   CharId TypedFormat() const;
