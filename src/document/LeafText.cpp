@@ -25,12 +25,6 @@ std::shared_ptr<char16_t[]> Storage(Position room) {
 
 LeafText::LeafText(TextView text) { Replace(0, 0, text); }
 
-TextView LeafText::View() const {
-  const auto size = static_cast<std::size_t>(size_);
-  if (wide_) return std::u16string_view(Data<char16_t>(), size);
-  return TextView(std::string_view(Data<char>(), size));
-}
-
 void LeafText::Replace(Position at, Position removed, TextView inserted) {
   if (!wide_) {
     char bytes[kCapacity];

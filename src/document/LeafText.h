@@ -19,7 +19,11 @@ class LeafText {
   explicit LeafText(TextView text);
 
   Position Size() const { return size_; }
-  TextView View() const;
+  TextView View() const {
+    const auto size = static_cast<std::size_t>(size_);
+    if (wide_) return std::u16string_view(Data<char16_t>(), size);
+    return TextView(std::string_view(Data<char>(), size));
+  }
   /// Puts `inserted` in the place of `removed` units at `at`; the result must fit.
   void Replace(Position at, Position removed, TextView inserted);
 
