@@ -1,7 +1,6 @@
 #include "document/TextView.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace lumenote {
 namespace {

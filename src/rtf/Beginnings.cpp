@@ -1,6 +1,5 @@
 #include "rtf/Beginnings.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -60,9 +59,9 @@ Fragment WithBeginning(Fragment fragment, FormatTables& tables, KeptId beginning
     if (fragment.mark) fragment.mark->character = map(fragment.mark->character);
     return fragment;
   }
-  const char16_t first = fragment.leaves.CursorAt(0)->text.View().Front();
-  const Position length = first == u'\r' || IsHighSurrogate(first) ? 2 : 1;
-  return Mapped(std::move(fragment), std::min(length, fragment.Length()), map);
+  const std::u16string start = fragment.leaves.CursorAt(0)->text.View().Part(0, 2).String();
+  const Position length = start.front() == u'\r' || IsPairAt(start, 0) ? 2 : 1;
+  return Mapped(std::move(fragment), length, map);
 }
 
 Fragment WithoutBeginning(Fragment fragment, FormatTables& tables) {

@@ -25,7 +25,7 @@ constexpr Names kTableWords[] = {"af",    "brdrcf",    "cb",        "cbpat",    
 constexpr Names kRow = "trowd";
 constexpr Names kPageGroups[] = {"{\\header", "{\\footer"};
 constexpr Names kBreaks[] = {"page", "column", "sect"};
-constexpr Names kSections[] = {"sectd"};
+constexpr Names kSection = "sectd";
 
 template <std::size_t Size>
 bool Holds(const Names (&names)[Size], Names word) {
@@ -76,8 +76,10 @@ std::size_t PartEnd(const std::string& words, std::size_t from) {
   return std::min(FirstOf(kDirections, words, from + 1), FirstOf(kScripts, words, from + 1));
 }
 
-/// Whether a word begins a page, column or section.
-bool Begins(Names word) { return Holds(kBreaks, word) || Holds(kSections, word); }
+/// Whether a word ends a page, column or section, so that another begins.
+bool IsBreak(Names word) { return Holds(kBreaks, word); }
+/// Whether a word begins a page, column or section, or the format of a section.
+bool Begins(Names word) { return IsBreak(word) || word == kSection; }
 
 /// Calls `visit` for the words outside groups.
 template <class Visit>
@@ -89,10 +91,10 @@ void ForEachWord(std::string_view source, Visit visit) {
   }
 }
 
-template <std::size_t Size>
-bool HoldsOne(const Names (&names)[Size], std::string_view source) {
+template <class Test>
+bool HoldsWord(std::string_view source, Test test) {
   bool holds = false;
-  ForEachWord(source, [&](const Token& word) { holds |= Holds(names, word.text); });
+  ForEachWord(source, [&](const Token& word) { holds |= test(word.text); });
   return holds;
 }
 
@@ -132,15 +134,13 @@ void EraseWord(std::string_view name, std::string& words) {
   words.erase(at, std::min(end, words.size()) - at);
 }
 
-bool BeginsParagraph(std::string_view source) { return HoldsOne(kBreaks, source); }
+bool BeginsParagraph(std::string_view source) { return HoldsWord(source, IsBreak); }
 
-bool BeginsPlace(std::string_view source) {
-  return HoldsOne(kBreaks, source) || HoldsOne(kSections, source);
-}
+bool BeginsPlace(std::string_view source) { return HoldsWord(source, Begins); }
 
 std::string BeginningIn(std::string_view source, std::string_view there) {
-  const bool breaks = !HoldsOne(kBreaks, there);
-  const bool format = !HoldsOne(kSections, there);
+  const bool breaks = !HoldsWord(there, IsBreak);
+  const bool format = !HoldsWord(there, [](Names word) { return word == kSection; });
   std::string beginning;
   bool ofRow = false;
   Tokenizer tokens(source);
@@ -152,17 +152,15 @@ std::string BeginningIn(std::string_view source, std::string_view there) {
       const std::string_view group = tokens.Source(from, tokens.At());
       if (format && BeginsLike(kPageGroups, group)) beginning += group;
     } else if (token.kind == Token::Kind::Word) {
-      const bool isBreak = Holds(kBreaks, token.text);
       ofRow = token.text == kRow || (ofRow && !Begins(token.text));
-      if (!ofRow && (isBreak ? breaks : format)) beginning += SourceOf(token);
+      if (!ofRow && (IsBreak(token.text) ? breaks : format)) beginning += SourceOf(token);
     }
   }
   return beginning;
 }
 
 bool DefinesPlace(std::string_view source) {
-  static constexpr Names kPlaces[] = {"sectd", kRow};
-  return HoldsOne(kPlaces, source);
+  return HoldsWord(source, [](Names word) { return word == kSection || word == kRow; });
 }
 
 std::string RowDefinition(std::string_view source) {
