@@ -15,6 +15,8 @@ class Registry;
 class Settings;
 class StandIns;
 
+enum class LinkKind { Hard, Symbolic };
+
 /// A machine of its own: drive C: in a folder, settings and a machine-wide registry in files, a
 /// private clipboard. Nothing outside is read or written. Outlives the run.
 class Sandbox {
@@ -44,6 +46,8 @@ class Sandbox {
   /// Removes a file, or a folder with all it holds, read-only or not.
   virtual void Remove(std::u16string_view path) = 0;
   virtual void ReadOnly(std::u16string_view path, bool on) = 0;
+  /// Makes a second name of the file at `path`.
+  virtual void Link(std::u16string_view name, std::u16string_view path, LinkKind kind) = 0;
   /// Moves the file's modification time.
   virtual void Age(std::u16string_view path, std::int64_t seconds) = 0;
 };

@@ -7,10 +7,11 @@
 namespace lumenote {
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Verb>, 45> kVerbs{{
+constexpr std::array<std::pair<std::string_view, Verb>, 48> kVerbs{{
     {"activate", verbs::Activate},
     {"answer", verbs::QueueAnswers},
     {"boxes", verbs::Boxes},
+    {"bytes", verbs::Bytes},
     {"cat", verbs::Cat},
     {"click", verbs::Click},
     {"clip", verbs::Clip},
@@ -28,10 +29,12 @@ constexpr std::array<std::pair<std::string_view, Verb>, 45> kVerbs{{
     {"font-answer", verbs::FontAnswer},
     {"forms", verbs::Forms},
     {"get", verbs::Get},
+    {"hex", verbs::Hex},
     {"host", verbs::Host},
     {"keep", verbs::Keep},
     {"key", verbs::Key},
     {"killed", verbs::Killed},
+    {"link", verbs::Link},
     {"ls", verbs::Ls},
     {"mouse", verbs::Mouse},
     {"open", verbs::Open},

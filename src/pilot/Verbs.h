@@ -64,7 +64,10 @@ Answer PrinterFonts(Stage& stage, Arguments& arguments);
 
 // FileVerbs.cpp
 Answer File(Stage& stage, Arguments& arguments);
+Answer Bytes(Stage& stage, Arguments& arguments);
 Answer Cat(Stage& stage, Arguments& arguments);
+Answer Hex(Stage& stage, Arguments& arguments);
+Answer Link(Stage& stage, Arguments& arguments);
 Answer Ls(Stage& stage, Arguments& arguments);
 Answer Rm(Stage& stage, Arguments& arguments);
 Answer ReadOnly(Stage& stage, Arguments& arguments);

@@ -52,6 +52,7 @@ class Language(unittest.TestCase):
                      "expect mot", "expect-like (", "expect-kept rien", "readonly C:\\x oui",
                      "mouse Co_Rtf.Bx_RTF up 3 0 0", "key Co_Rtf.Bx_RTF Rien",
                      "select Co_Rtf.Bx_RTF -1 0", 'file C:\\x "\u0416"', "screen-fonts Arial",
+                     "bytes C:\\x 0", "bytes C:\\x 0g", "link C:\\x C:\\y soft",
                      "printer-fonts -1", "printer-fonts", "clip 5",
                      "resize Co_Rtf -1 0", "resize Co_Rtf 1e300 0", "mouse Co_Rtf.Bx_RTF up 1 x 0"]:
             self.not_understood(line)
@@ -158,6 +159,24 @@ cat Z:\etc\passwd
             r'"l' + "'" + r'été €\r\n"', '""', "null", "null",
             '{"error":75,"description":"Erreur d\'accès au chemin/fichier"}', '"x"', '["Z y.txt"]',
             missing, nowhere, missing, missing, "null", "null"])
+
+    def test_bytes(self):
+        for put, content, digits in [
+            ("00fF80", r'"\u0000ÿ€"', "00ff80"), ("EFBBBFe299800d", r'"♀\r"', "efbbbfe299800d"),
+            ("e29980", '"â™€"', "e29980"), ("efbbbf2aff", '"*\ufffd"', "efbbbf2aff"),
+            ("41", '"A"', "41"), ("1e5a", r'"\u001eZ"', "1e5a"), ('""', '""', ""),
+        ]:
+            self.assertEqual(run(f"bytes C:\\a\\b.txt {put}\ncat C:\\a\\b.txt\nhex C:\\a\\b.txt\n"
+                                 "hex C:\\b.txt\n")[0], [content, f'"{digits}"', "null"], put)
+
+    def test_second_names(self):
+        script = "file C:\\a.txt x\nlink C:\\b.txt C:\\a.txt {}\nrm C:\\a.txt\ncat C:\\b.txt\nls C:\\\n"
+        for kind, content in [("hard", '"x"'), ("symbolic", "null")]:
+            out = run(script.format(kind))[0]
+            self.assertEqual((out[0], '"b.txt"' in out[1]), (content, True), kind)
+        out = run("file C:\\a.txt x\nlink C:\\b.txt C:\\rien.txt hard\nlink C:\\a.txt C:\\a.txt symbolic\n"
+                  "link C:\\x\\b.txt C:\\a.txt symbolic\n")[0]
+        self.assertEqual([re.search(r"\d+", line)[0] for line in out], ["53", "75", "76"])
 
     def test_a_root_is_kept(self):
         with tempfile.TemporaryDirectory() as folder:

@@ -99,6 +99,18 @@ void PosixSandbox::ReadOnly(std::u16string_view path, bool on) {
   Check(error, native);
 }
 
+void PosixSandbox::Link(std::u16string_view name, std::u16string_view path, LinkKind kind) {
+  const std::string file = drives_.ToNative(path);
+  const std::string link = drives_.ToNative(name);
+  RequireFile(file);
+  std::error_code error;
+  if (kind == LinkKind::Hard)
+    fs::create_hard_link(file, link, error);
+  else
+    fs::create_symlink(fs::absolute(file), link, error);
+  Check(error, link);
+}
+
 void PosixSandbox::Age(std::u16string_view path, std::int64_t seconds) {
   const std::string native = drives_.ToNative(path);
   RequireFile(native);

@@ -42,6 +42,7 @@ class PosixSandbox final : public Sandbox {
   std::vector<std::u16string> List(std::u16string_view folder) const override;
   void Remove(std::u16string_view path) override;
   void ReadOnly(std::u16string_view path, bool on) override;
+  void Link(std::u16string_view name, std::u16string_view path, LinkKind kind) override;
   void Age(std::u16string_view path, std::int64_t seconds) override;
 
  private:
