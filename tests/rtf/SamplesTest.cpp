@@ -12,8 +12,7 @@
 namespace lumenote {
 namespace {
 
-const std::filesystem::path kSamples =
-    std::filesystem::path(__FILE__).parent_path().parent_path() / "data";
+const std::filesystem::path kSamples = LUMENOTE_SAMPLES;
 
 std::string Bytes(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
