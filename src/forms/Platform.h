@@ -12,6 +12,7 @@ class Processes;
 class ProgramFolders;
 class Registry;
 class Settings;
+class StateFolder;
 
 /// Outlives every control made with it.
 class Platform {
@@ -21,6 +22,8 @@ class Platform {
   virtual Settings& UserSettings() = 0;
   virtual Files& FileSystem() = 0;
   virtual Folders& SpecialFolders() = 0;
+  /// What has to outlive a program that dies.
+  virtual StateFolder& State() = 0;
   virtual Clipboard& SystemClipboard() = 0;
   virtual const Fonts& SystemFonts() = 0;
   /// Other programs: where they are registered and installed, and running them.

@@ -16,6 +16,7 @@ class PilotPlatform final : public Platform {
   Settings& UserSettings() override { return sandbox_.UserSettings(); }
   Files& FileSystem() override { return sandbox_.FileSystem(); }
   Folders& SpecialFolders() override { return sandbox_.SpecialFolders(); }
+  StateFolder& State() override { return sandbox_.State(); }
   Clipboard& SystemClipboard() override { return sandbox_.SystemClipboard(); }
   const Fonts& SystemFonts() override { return fonts_; }
   const Registry& MachineRegistry() override { return sandbox_.MachineRegistry(); }

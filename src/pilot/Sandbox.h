@@ -14,6 +14,7 @@ class ProgramFolders;
 class Registry;
 class Settings;
 class StandIns;
+class StateFolder;
 
 enum class LinkKind { Hard, Symbolic };
 
@@ -26,6 +27,7 @@ class Sandbox {
   virtual Settings& UserSettings() = 0;
   virtual Files& FileSystem() = 0;
   virtual Folders& SpecialFolders() = 0;
+  virtual StateFolder& State() = 0;
   virtual Clipboard& SystemClipboard() = 0;
 
   virtual const Registry& MachineRegistry() const = 0;

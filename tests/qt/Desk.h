@@ -36,6 +36,7 @@ class TestPlatform final : public Platform {
   Files& FileSystem() override { return files; }
   Clipboard& SystemClipboard() override { return clipboard; }
   Settings& UserSettings() override { throw std::logic_error("no settings"); }
+  StateFolder& State() override { throw std::logic_error("no state"); }
   Folders& SpecialFolders() override { throw std::logic_error("no folders"); }
 
   const Fonts& SystemFonts() override { throw std::logic_error("no fonts"); }

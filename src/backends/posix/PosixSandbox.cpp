@@ -51,6 +51,7 @@ PosixSandbox::PosixSandbox(std::unique_ptr<TemporaryFolder> own) : PosixSandbox(
 
 PosixSandbox::PosixSandbox(const std::string& root)
     : drives_(MakeDrive(root)),
+      state_(root + "/state", drives_),
       files_(drives_),
       folders_(u"C:\\Documents", u"C:\\Temp\\"),
       settings_(root + "/settings.ini"),

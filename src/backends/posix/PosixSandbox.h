@@ -8,6 +8,7 @@
 #include "backends/posix/PosixFiles.h"
 #include "backends/posix/PosixFolders.h"
 #include "backends/posix/PosixProgramFolders.h"
+#include "backends/posix/PosixStateFolder.h"
 #include "backends/posix/TemporaryFolder.h"
 #include "pilot/MemoryClipboard.h"
 #include "pilot/Sandbox.h"
@@ -15,8 +16,8 @@
 
 namespace lumenote {
 
-/// Drive C: is the folder c below the root, beside settings.ini and registry.ini. The folders
-/// C:\Temp, C:\Documents, C:\Program Files and C:\Lumenote are there from the start.
+/// Drive C: is the folder c below the root, beside settings.ini, registry.ini and the state folder.
+/// The folders C:\Temp, C:\Documents, C:\Program Files and C:\Lumenote are there from the start.
 class PosixSandbox final : public Sandbox {
  public:
   /// A fresh one in the system's temporary folder, removed at the end. Raises PathAccess when there
@@ -29,6 +30,7 @@ class PosixSandbox final : public Sandbox {
   Settings& UserSettings() override { return settings_; }
   Files& FileSystem() override { return files_; }
   Folders& SpecialFolders() override { return folders_; }
+  StateFolder& State() override { return state_; }
   Clipboard& SystemClipboard() override { return clipboard_; }
 
   const Registry& MachineRegistry() const override { return registry_; }
@@ -50,6 +52,7 @@ class PosixSandbox final : public Sandbox {
 
   std::unique_ptr<TemporaryFolder> own_;  // the root of a fresh one, else null
   DrivePaths drives_;
+  PosixStateFolder state_;
   PosixFiles files_;
   FixedFolders folders_;
   IniSettings settings_;

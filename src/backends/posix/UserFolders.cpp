@@ -76,6 +76,8 @@ std::string DataFolder() { return VariableOrHomeBased("XDG_DATA_HOME", "/.local/
 
 std::string ConfigFolder() { return VariableOrHomeBased("XDG_CONFIG_HOME", "/.config"); }
 
+std::string StateFolderOfUser() { return VariableOrHomeBased("XDG_STATE_HOME", "/.local/state"); }
+
 std::string DocumentsFolder() {
   std::string lines;
   IgnoringErrors([&] { lines = ReadWholeFile(ConfigFolder() + "/user-dirs.dirs"); });

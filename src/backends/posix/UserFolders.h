@@ -10,6 +10,8 @@ std::string HomeFolder();
 std::string DataFolder();
 /// $XDG_CONFIG_HOME, else .config in the home folder.
 std::string ConfigFolder();
+/// $XDG_STATE_HOME, else .local/state in the home folder.
+std::string StateFolderOfUser();
 /// The personal documents: as user-dirs.dirs in the configuration folder says, else Documents in
 /// the home folder, else the home folder; the first of them that there is.
 std::string DocumentsFolder();

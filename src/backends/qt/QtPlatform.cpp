@@ -12,6 +12,7 @@
 #include "backends/posix/PosixFolders.h"
 #include "backends/posix/PosixProcesses.h"
 #include "backends/posix/PosixProgramFolders.h"
+#include "backends/posix/PosixStateFolder.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
 #include "backends/qt/QtFonts.h"
@@ -73,6 +74,7 @@ struct QtPlatform::Parts {
   QtBackend windows;
   QtClipboard clipboard;
   QtFonts fonts;
+  PosixStateFolder state{PosixStateFolder::OfUser(), drives};
   PosixFiles files{drives};
   IniSettings settings;
   PosixFolders folders{drives};
@@ -97,6 +99,8 @@ Settings& QtPlatform::UserSettings() { return parts_->settings; }
 Files& QtPlatform::FileSystem() { return parts_->files; }
 
 Folders& QtPlatform::SpecialFolders() { return parts_->folders; }
+
+StateFolder& QtPlatform::State() { return parts_->state; }
 
 Clipboard& QtPlatform::SystemClipboard() { return parts_->clipboard; }
 

@@ -21,6 +21,7 @@ class QtPlatform final : public Platform {
   Settings& UserSettings() override;
   Files& FileSystem() override;
   Folders& SpecialFolders() override;
+  StateFolder& State() override;
   Clipboard& SystemClipboard() override;
   const Fonts& SystemFonts() override;
   const Registry& MachineRegistry() override;

@@ -1,0 +1,138 @@
+// Copies that outlive a program, told by locks from those of living ones.
+#include <csignal>
+#include <set>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "Sandbox.h"
+#include "backends/posix/PosixStateFolder.h"
+#include "base/Strings.h"
+
+namespace lumenote {
+namespace {
+
+class StateFolderTest : public SandboxTest {
+ protected:
+  PosixStateFolder Start() const { return PosixStateFolder(Native("state"), drives_); }
+
+  /// "origin=content" of each copy handed over, in any order sorted by the set.
+  std::set<std::string> Left(bool rescued = true) const {
+    std::set<std::string> left;
+    Start().HandOverLeft([&](const LeftCopy& copy) {
+      left.insert(ToUtf8(copy.origin) + "=" + copy.bytes);
+      return rescued;
+    });
+    return left;
+  }
+
+  /// A process that writes a copy and dies in the middle of the next one.
+  void Die(const std::string& origin, const std::string& bytes) const {
+    const pid_t child = fork();
+    if (child == 0) {
+      PosixStateFolder state = Start();
+      const auto copy = state.MakeStateCopy();
+      Write(*copy, origin, bytes);
+      copy->BeginFor(origin);
+      copy->Append("half");
+      const auto unfinished = state.MakeCopy();
+      unfinished->Begin(u"never.txt");
+      raise(SIGKILL);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+  }
+
+  static void Write(StateCopy& copy, const std::string& origin, const std::string& bytes) {
+    copy.BeginFor(origin);
+    copy.Append(bytes.substr(0, 2));
+    copy.Append(bytes.substr(2));
+    copy.Commit();
+  }
+};
+
+TEST_F(StateFolderTest, WhatADeadProgramLeftIsHandedOverOnce) {
+  EXPECT_EQ(Left(), std::set<std::string>{});
+  EXPECT_FALSE(std::filesystem::exists(Native("state")));
+  Die("C:\\a.rtf", "{\\rtf1}");
+  Die(Native("b.txt"), "text");
+  const std::set<std::string> both{"C:\\a.rtf={\\rtf1}", "C:\\b.txt=text"};
+  EXPECT_EQ(Left(false), both);
+  EXPECT_EQ(Left(), both);
+  EXPECT_EQ(Left(), std::set<std::string>{});
+  EXPECT_EQ(CountOfEntries("state"), 0U);
+}
+
+TEST_F(StateFolderTest, ALivingOwnerKeepsItsCopies) {
+  PosixStateFolder state = Start();
+  const auto copy = state.MakeStateCopy();
+  Write(*copy, "a.txt", "one");
+  EXPECT_EQ(Left(), std::set<std::string>{});
+  copy->Begin(u"a.txt");
+  copy->Append("two");
+  EXPECT_EQ(Get(copy->Path().substr(Native("").size())), "one");
+  EXPECT_EQ(ModeOf("state"), 0700U);
+  EXPECT_EQ(ModeOf(copy->Path().substr(Native("").size())), 0600U);
+  const auto own = std::filesystem::path(copy->Path()).parent_path();
+  copy->Remove();
+  EXPECT_EQ(CountOfEntries("state/" + own.filename().string()), 1U);  // the mark
+  EXPECT_THROW(copy->Append("x"), RuntimeError);
+  EXPECT_THROW(copy->Commit(), RuntimeError);
+  std::filesystem::remove_all(Native("state"));
+  Write(*copy, "a.txt", "again");
+  EXPECT_EQ(Get(copy->Path().substr(Native("").size())), "again");
+}
+
+TEST_F(StateFolderTest, OneTakerAtATime) {
+  Die("a.txt", "text");
+  std::set<std::string> second;
+  Start().HandOverLeft([&](const LeftCopy&) {
+    second = Left();
+    return false;
+  });
+  EXPECT_EQ(second, std::set<std::string>{});
+  EXPECT_EQ(Left(), std::set<std::string>{"a.txt=text"});
+}
+
+TEST_F(StateFolderTest, WhatIsLeftOnPurposeGoesToTheNextStart) {
+  {
+    PosixStateFolder state = Start();
+    const auto backup = state.MakeStateCopy();
+    Write(*backup, "a.txt", "text");
+    backup->Leave();
+  }
+  EXPECT_EQ(Left(), std::set<std::string>{"a.txt=text"});
+}
+
+TEST_F(StateFolderTest, ForeignFoldersStay) {
+  for (const char* name : {"state/owner-ABCDEF", "state/rescue"}) {
+    std::filesystem::create_directories(Native(name));
+    Put(std::string(name) + "/1.note", "theirs");
+  }
+  EXPECT_EQ(Left(), std::set<std::string>{});
+  EXPECT_EQ(Get("state/owner-ABCDEF/1.note"), "theirs");
+}
+
+TEST_F(StateFolderTest, KeptForGood) {
+  PosixStateFolder state = Start();
+  EXPECT_EQ(state.KeepForGood(u"Secours_a.txt", "one"), u"C:\\state\\rescue\\Secours_a.txt");
+  EXPECT_EQ(ErrorOf([&] { state.KeepForGood(u"Secours_a.txt", "two"); }), 70);
+  EXPECT_EQ(Get("state/rescue/Secours_a.txt"), "one");
+  PosixStateFolder outside(Native("state"), DrivePaths(Native("c")));
+  EXPECT_EQ(outside.KeepForGood(u"b", ""), FromUtf8(Native("state/rescue/b")));
+}
+
+TEST_F(StateFolderTest, WithoutAFolderNothingIsKept) {
+  Put("file", "");
+  for (const std::string& path : {std::string(), Native("file/state")}) {
+    PosixStateFolder state(path, drives_);
+    EXPECT_EQ(ErrorOf([&] { state.MakeCopy()->Begin(u"a"); }), 75) << path;
+    EXPECT_EQ(ErrorOf([&] { state.KeepForGood(u"a", ""); }), 75) << path;
+    state.HandOverLeft([](const LeftCopy&) { return ADD_FAILURE(), true; });
+  }
+  const ScopedVariable chosen("XDG_STATE_HOME", "/chosen/");
+  EXPECT_EQ(PosixStateFolder::OfUser(), "/chosen/lumenote");
+}
+
+}  // namespace
+}  // namespace lumenote
