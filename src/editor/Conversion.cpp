@@ -52,7 +52,7 @@ void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
   session.format = format;
   session.dirty = false;
   editor.ShowFormat(label);
-  if (path != old) IgnoringErrors([&] { files.Delete(old, true); });
+  if (!files.SameFile(old, path)) IgnoringErrors([&] { files.Delete(old, true); });
   session.documentPath = path;
   editor.ShowStatus(1, EspDvtDer(path));
 }

@@ -30,11 +30,12 @@ void PutNote(Session& session, std::u16string value) {
 }
 
 /// Of the twins x.txt and x.rtf only the one just saved stays.
-void DeleteTwin(Files& files, std::u16string_view shownPath, std::u16string_view format) {
+void DeleteTwin(Files& files, std::u16string_view shownPath, std::u16string_view format,
+                std::u16string_view note) {
   const std::u16string text = ChmExts(shownPath, u"txt");
   const std::u16string rtf = ChmExts(text, u"rtf");
   if (!files.Exists(text) || !files.Exists(rtf)) return;
-  IgnoringErrors([&] { files.Delete(format == u"txt" ? rtf : text, false); });
+  SupprimerAutreFichier(files, format == u"txt" ? rtf : text, note);
 }
 
 }  // namespace
@@ -71,6 +72,11 @@ std::u16string ContenuNote(EditorWindow& editor) {
   return editor.Values().format == u"txt" ? editor.Document().Text() : editor.Document().TextRTF();
 }
 
+void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16string_view note) {
+  if (files.SameFile(path, note)) return;
+  IgnoringErrors([&] { files.Delete(path, false); });
+}
+
 bool LoadFilAndIni(EditorWindow& editor) {
   Session& session = editor.Values();
   editor.ShowStatus(1, EspDvtDer(session.documentPath));
@@ -99,7 +105,8 @@ Sauvegarde SauveFich(EditorWindow& editor, bool ask) {
     return Sauvegarde::Impossible;
   }
   editor.ShowStatus(2, u"");
-  DeleteTwin(editor.Services().FileSystem(), TrimBlanks(editor.Status(1)), session.format);
+  DeleteTwin(editor.Services().FileSystem(), TrimBlanks(editor.Status(1)), session.format,
+             session.documentPath);
   session.dirty = false;
   return Sauvegarde::Faite;
 }

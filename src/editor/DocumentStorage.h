@@ -29,6 +29,9 @@ bool EstNoteRtf(std::u16string_view note);
 /// The content of the document in the form that the host gets: plain for "txt", else RTF.
 std::u16string ContenuNote(EditorWindow& editor);
 
+/// Deletes the file at `path` unless it is read-only, or the note's own file under another name.
+void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16string_view note);
+
 /// Loads the document path into the surface and sets status, format and label. A failure is told to
 /// the user and returned as false.
 bool LoadFilAndIni(EditorWindow& editor);

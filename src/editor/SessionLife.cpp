@@ -41,9 +41,9 @@ void DeleteStaleTwin(EditorWindow& editor) {
   const std::u16string text = ChmExts(session.documentPath, u"txt");
   const std::u16string rtf = ChmExts(session.documentPath, u"rtf");
   if (session.format == u"txt" && files.Exists(text))
-    IgnoringErrors([&] { files.Delete(rtf, false); });
+    SupprimerAutreFichier(files, rtf, session.documentPath);
   else if (files.Exists(rtf))
-    IgnoringErrors([&] { files.Delete(text, false); });
+    SupprimerAutreFichier(files, text, session.documentPath);
 }
 
 Fermeture CloseFile(EditorWindow& editor) {

@@ -22,6 +22,8 @@ class Files {
   virtual bool IsReadOnly(std::u16string_view path) const = 0;
   virtual FileTime ModificationTime(std::u16string_view path) const = 0;
   virtual std::string ReadAll(std::u16string_view path) const = 0;
+  /// Whether both paths lead to one file, links of either kind followed; never fails.
+  virtual bool SameFile(std::u16string_view one, std::u16string_view other) const = 0;
 
   /// Replaces the file's content at once or not at all: writes beside it, flushes, renames. Keeps
   /// the mode of the file it replaces; refuses a read-only file (PathAccess).

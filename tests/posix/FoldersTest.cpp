@@ -30,29 +30,59 @@ TEST_F(FoldersTest, TempIsPrivateAndGoes) {
   EXPECT_FALSE(std::filesystem::exists(native));
 }
 
+/// Gives a folder and all it holds a time of some days ago.
+void Age(const std::filesystem::path& folder) {
+  const auto then = std::filesystem::file_time_type::clock::now() - std::chrono::hours(170);
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+    if (!entry.is_symlink()) std::filesystem::last_write_time(entry, then);
+  }
+  std::filesystem::last_write_time(folder, then);
+}
+
 TEST_F(FoldersTest, WhatWasKeptGoesAWeekAfterItsLastChange) {
   const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
-  using std::filesystem::file_time_type;
-  const auto age = [](const std::string& path) {
-    std::filesystem::last_write_time(path, file_time_type::clock::now() - std::chrono::hours(170));
-  };
   std::string kept;
   {
     TemporaryFolder folder;
     folder.Keep();
     kept = folder.Path();
-    std::ofstream(kept + "/Sava.rtf") << "x";
-    age(kept);
     const TemporaryFolder owned;
-    age(owned.Path());
+    Age(owned.Path());
     const TemporaryFolder other;
     EXPECT_TRUE(std::filesystem::exists(owned.Path()));
   }
+  std::filesystem::create_directories(kept + "/in/depth");
+  std::ofstream(kept + "/in/depth/Sava.rtf") << "x";
+  Age(kept);
+  std::ofstream(kept + "/in/depth/Sava.rtf") << "in use";
   { const TemporaryFolder another; }
-  EXPECT_TRUE(std::filesystem::exists(kept + "/Sava.rtf"));
-  age(kept + "/Sava.rtf");
+  EXPECT_TRUE(std::filesystem::exists(kept + "/in/depth/Sava.rtf"));
+  Age(kept);
   const TemporaryFolder next;
   EXPECT_FALSE(std::filesystem::exists(kept));
+}
+
+TEST_F(FoldersTest, WhatIsNotMarkedAsOursStays) {
+  const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
+  const auto mark = [this](const std::string& folder) {
+    return Native(folder + "/" + TemporaryFolder::kMarkName);
+  };
+  TemporaryFolder ours;
+  ours.Keep();
+  for (const char* name : {"lumenote-herbes", "lumenote-autres", "lumenote-copied"}) {
+    std::filesystem::create_directory(Native(name));
+    Put(std::string(name) + "/note.rtf", "{\\rtf1}");
+  }
+  Put(std::string("lumenote-autres/") + TemporaryFolder::kMarkName, "Temporary");
+  std::filesystem::create_symlink(ours.Path() + "/" + TemporaryFolder::kMarkName,
+                                  mark("lumenote-copied"));
+  for (const char* name : {"lumenote-herbes", "lumenote-autres", "lumenote-copied"})
+    Age(Native(name));
+  std::filesystem::create_directory_symlink("lumenote-herbes", Native("lumenote-linked"));
+  { const TemporaryFolder next; }
+  for (const char* name : {"lumenote-herbes", "lumenote-autres", "lumenote-copied"})
+    EXPECT_EQ(Get(std::string(name) + "/note.rtf"), "{\\rtf1}");
+  std::filesystem::remove_all(ours.Path());
 }
 
 TEST_F(FoldersTest, AnUnusableTempVariableIsPassedOver) {

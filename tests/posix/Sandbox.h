@@ -1,5 +1,6 @@
 // What the tests of this folder share: a sandbox on the disk, and variables of the environment.
 #pragma once
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -35,9 +36,12 @@ class SandboxTest : public testing::Test {
     return stat(Native(name).c_str(), &info) == 0 ? info.st_mode & 07777 : 0;
   }
 
+  /// Without the mark of the temporary folder.
   std::size_t CountOfEntries(const std::string& name = "") const {
-    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(Native(name)),
-                                                  std::filesystem::directory_iterator()));
+    const std::filesystem::directory_iterator entries(Native(name));
+    return static_cast<std::size_t>(std::count_if(begin(entries), end(entries), [](auto& entry) {
+      return entry.path().filename() != TemporaryFolder::kMarkName;
+    }));
   }
 
   TemporaryFolder folder_;

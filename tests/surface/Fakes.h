@@ -23,6 +23,9 @@ class MemoryFiles final : public Files {
     if (found == files.end()) throw RuntimeError(ErrorNumber::FileNotFound);
     return found->second;
   }
+  bool SameFile(std::u16string_view one, std::u16string_view other) const override {
+    return one == other;
+  }
   void Write(std::u16string_view path, std::string_view bytes) override {
     if (broken) throw RuntimeError(ErrorNumber::PathAccess);
     files[std::u16string(path)] = bytes;

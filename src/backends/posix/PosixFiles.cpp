@@ -63,6 +63,16 @@ std::string PosixFiles::ReadAll(std::u16string_view path) const {
   return ReadWholeFile(drives_.ToNative(path));
 }
 
+bool PosixFiles::SameFile(std::u16string_view one, std::u16string_view other) const {
+  bool same = false;
+  IgnoringErrors([&] {
+    const struct stat first = InfoOf(drives_.ToNative(one));
+    const struct stat second = InfoOf(drives_.ToNative(other));
+    same = first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+  });
+  return same;
+}
+
 void PosixFiles::Write(std::u16string_view path, std::string_view bytes) {
   ReplaceFile(drives_.ToNative(path), bytes, kNewFileMode);
 }

@@ -15,6 +15,7 @@ class PosixFiles : public Files {
   bool IsReadOnly(std::u16string_view path) const override;
   FileTime ModificationTime(std::u16string_view path) const override;
   std::string ReadAll(std::u16string_view path) const override;
+  bool SameFile(std::u16string_view one, std::u16string_view other) const override;
 
   /// Writes through a symbolic link: the link stays, the file behind it is replaced.
   void Write(std::u16string_view path, std::string_view bytes) override;

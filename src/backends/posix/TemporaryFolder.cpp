@@ -2,10 +2,11 @@
 #include "backends/posix/TemporaryFolder.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
+#include <limits>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -19,34 +20,56 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kPrefix = "lumenote-";
 constexpr std::string_view kPlaces = "XXXXXX";
-constexpr std::chrono::hours kLeftAlone(7 * 24);
+constexpr std::string_view kMark =
+    "Temporary folder of Lumenote, removed a week after its last use\n";
+constexpr time_t kLeftAlone = 7 * 24 * 3600;  // seconds
 
 int OpenFolder(const std::string& path) {
   return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
 }
 
-bool IsOwnFolder(const Descriptor& folder) {
+bool IsOwn(const Descriptor& file) {
   struct stat info = {};
-  return fstat(folder.Number(), &info) == 0 && info.st_uid == geteuid();
+  return fstat(file.Number(), &info) == 0 && info.st_uid == geteuid();
 }
 
-/// Of the folder and what lies directly in it.
-fs::file_time_type LastChange(const fs::path& folder) {
+/// What tells our folders from one that the user gave such a name.
+bool PutMark(const std::string& folder) {
+  const Descriptor mark(open((folder + "/" + TemporaryFolder::kMarkName).c_str(),
+                             O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                             S_IRUSR | S_IWUSR));
+  return mark.IsOpen() && WriteAll(mark, kMark) == 0;
+}
+
+bool HasMark(const Descriptor& folder) {
+  const Descriptor mark(openat(folder.Number(), TemporaryFolder::kMarkName,
+                               O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+  std::string bytes(kMark.size() + 1, '\0');
+  return mark.IsOpen() && IsOwn(mark) &&
+         read(mark.Number(), bytes.data(), bytes.size()) == static_cast<ssize_t>(kMark.size()) &&
+         bytes.starts_with(kMark);
+}
+
+time_t LastWrite(const fs::path& path) {
+  struct stat info = {};
+  return lstat(path.c_str(), &info) == 0 ? info.st_mtim.tv_sec : std::numeric_limits<time_t>::max();
+}
+
+/// Of the folder and what lies in it at any depth; what cannot be looked into has just changed.
+time_t LastChange(const fs::path& folder) {
   std::error_code error;
-  fs::file_time_type last = fs::last_write_time(folder, error);
-  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+  time_t last = LastWrite(folder);
+  for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
-    std::error_code vanished;
-    const fs::file_time_type time = entry->last_write_time(vanished);
-    if (!vanished) last = std::max(last, time);
+    last = std::max(last, LastWrite(entry->path()));
   }
-  return last;
+  return error ? std::numeric_limits<time_t>::max() : last;
 }
 
 void RemoveIfAbandoned(const fs::path& path) {
   const Descriptor folder(OpenFolder(path.string()));
-  if (!folder.IsOpen() || !IsOwnFolder(folder)) return;
-  if (LastChange(path) + kLeftAlone > fs::file_time_type::clock::now()) return;
+  if (!folder.IsOpen() || !IsOwn(folder) || !HasMark(folder)) return;
+  if (LastChange(path) > time(nullptr) - kLeftAlone) return;
   std::error_code ignored;
   if (flock(folder.Number(), LOCK_EX | LOCK_NB) == 0) fs::remove_all(path, ignored);
 }
@@ -64,7 +87,11 @@ void RemoveAbandonedIn(const std::string& parent) {
 std::string MakeIn(const std::string& parent) {
   RemoveAbandonedIn(parent);
   std::string folder = parent + "/" + std::string(kPrefix) + std::string(kPlaces);
-  return mkdtemp(folder.data()) ? folder : std::string();
+  if (!mkdtemp(folder.data())) return {};
+  if (PutMark(folder)) return folder;
+  std::error_code ignored;
+  fs::remove_all(folder, ignored);
+  return {};
 }
 
 }  // namespace
@@ -79,7 +106,7 @@ TemporaryFolder::TemporaryFolder() {
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
-  if (!path_.empty() && !keep_) fs::remove_all(path_, ignored);
+  if (!keep_ && HasMark(Descriptor(OpenFolder(path_)))) fs::remove_all(path_, ignored);
 }
 
 }  // namespace lumenote

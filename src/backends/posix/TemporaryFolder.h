@@ -9,9 +9,12 @@ namespace lumenote {
 
 /// A new folder in $TMPDIR, else /tmp, that only this user may enter; removed with all it holds at
 /// the end, unless it is kept. Kept folders, and those of a process that crashed, are removed when
-/// another one is made a week after the last change in them.
+/// another one is made a week after the last change at any depth in them. A mark inside tells them
+/// from other folders: without it none is removed.
 class TemporaryFolder {
  public:
+  static constexpr const char* kMarkName = ".lumenote-temporary";
+
   TemporaryFolder();
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
