@@ -4,6 +4,7 @@
 
 #include "document/Formats.h"
 #include "rtf/CodePage.h"
+#include "rtf/Keeper.h"
 
 namespace lumenote {
 
@@ -47,7 +48,7 @@ struct GroupState {
   std::size_t fieldAt = kNowhere;  // offset of the \field whose result is still to come
   bool fieldShown = false;         // it has come
   std::size_t laidBefore = 0;      // what the reader had laid down when that field began
-  std::size_t keptBefore = 0;      // and what it had kept for the next character
+  Keeper::Place keptBefore = 0;    // and where it stood in what is kept
 
   // Numbers of the formats in the document's tables, while they are known.
   bool characterKnown = false;

@@ -21,7 +21,7 @@ void Interpreter::Marker(int, const Token& word) {
   ++laid_;
   if (!marker_.empty() || placingMarker_) return;
   marker_ = tokens_.Source(from, tokens_.At());
-  beforeMarker_ = keeper_.Size();
+  markerPlace_ = keeper_.Here();
   markerWord_ = word.text;
 }
 

@@ -259,12 +259,12 @@ void Interpreter::PlaceMarker() {
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
   const std::size_t uncounted = std::exchange(uncounted_, 0);
-  const std::string behind = keeper_.TakeSince(beforeMarker_);
+  const std::string behind = keeper_.TakeSince(markerPlace_);
   placingMarker_ = true;
   Interpret();
   placingMarker_ = false;
   numbering_ = false;
-  keeper_.Keep(behind);
+  keeper_.Keep(behind + keeper_.TakeSince(markerPlace_));
   borderOf_ = WordScope::None;
   keeper_.EndScripts();
   tokens_ = tokens;

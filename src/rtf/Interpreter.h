@@ -191,7 +191,7 @@ class Interpreter {
   bool numbering_ = false;   // the marker being placed is a list number
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
   std::string_view markerWord_;
-  std::size_t beforeMarker_ = 0;  // size of what is kept before it
+  Keeper::Place markerPlace_ = 0;  // in what is kept
 };
 
 }  // namespace lumenote

@@ -111,13 +111,14 @@ void Interpreter::KeepTable(int, const Token&) {
 // --- fields
 
 void Interpreter::Field(int, const Token&) {
+  BeginBody();
   GroupState& state = State();
   if (state.openFields == kDeepestField) return;
   ++state.openFields;
   state.fieldAt = tokens_.Start();
   state.fieldShown = false;
   state.laidBefore = laid_;
-  state.keptBefore = keeper_.Size();
+  state.keptBefore = keeper_.Here();
 }
 
 /// A field has one result, a group that says so with its first word. A list number before it is not
@@ -127,7 +128,7 @@ void Interpreter::FieldResult(int, const Token&) {
   if (from == GroupState::kNowhere || State().fieldShown || laid_ != State().laidBefore) return;
   if (!wasOpened_ && !wasStarred_) return;
   const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
-                           KeptSource::Own::OfField);
+                           KeptSource::Piece::FieldOpening);
   if (opening.open != 1) return;
   keeper_.NeedTablesIf(opening.needsHead);
   keeper_.TakeSince(State().keptBefore);
@@ -135,7 +136,7 @@ void Interpreter::FieldResult(int, const Token&) {
   for (auto group = groups_.rbegin(); group != groups_.rend() && group->fieldAt == from; ++group) {
     group->fieldShown = true;
     group->laidBefore = laid_;
-    group->keptBefore = keeper_.Size();
+    group->keptBefore = keeper_.Here();
   }
   State().fieldAt = GroupState::kNowhere;
   EnterField({.opening = "{" + opening.text, .closing = "}}"});
@@ -156,7 +157,7 @@ void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
   if (laid_ != group.laidBefore) return;
   const KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
-                          KeptSource::Own::NoData);
+                          KeptSource::Piece::Field);
   keeper_.NeedTablesIf(source.needsHead);
   keeper_.TakeSince(group.keptBefore);
   keeper_.Keep("{" + source.Closed() + "}");
@@ -198,7 +199,6 @@ void Interpreter::Generator(int, const Token&) {
 void Interpreter::BeginBody() {
   if (!inHead_) return;
   inHead_ = false;
-  beforeMarker_ = 0;
   std::string source = keeper_.Take();
   if (target_ == RtfTarget::Document) head_.source = std::move(source);
 }

@@ -46,11 +46,16 @@ WordsId Keeper::WordsNumber(std::string source, WordsId otherwise) {
   return number;
 }
 
-std::string Keeper::TakeSince(std::size_t size) {
-  const std::size_t from = std::min(size, pending_.size());
-  std::string taken = pending_.substr(from);
+std::string Keeper::TakeSince(Place place) {
+  const std::size_t from = std::clamp(place, taken_, Here()) - taken_;
+  std::string since = pending_.substr(from);
   pending_.resize(from);
-  return taken;
+  return since;
+}
+
+std::string Keeper::Take() {
+  taken_ = Here();
+  return std::exchange(pending_, {});
 }
 
 KeptId Keeper::KeptNumber(Kept kept) {

@@ -28,12 +28,13 @@ class Keeper {
   // What goes with the next character.
 
   bool Pending() const { return !pending_.empty(); }
-  /// Length of what has been kept so far, to go back to.
-  std::size_t Size() const { return pending_.size(); }
+  /// A place in all that is ever kept; it stays good when what came before it is taken.
+  using Place = std::size_t;
+  Place Here() const { return taken_ + pending_.size(); }
   void Keep(std::string_view source) { pending_ += source; }
-  /// Takes away what has been kept since the length was `size`.
-  std::string TakeSince(std::size_t size);
-  std::string Take() { return TakeSince(0); }
+  /// Takes away what has been kept behind `place`.
+  std::string TakeSince(Place place);
+  std::string Take();
   /// Numbers what is kept with a character.
   KeptId KeptNumber(Kept kept);
 
@@ -46,6 +47,7 @@ class Keeper {
 
   FormatTables& formats_;
   std::string pending_;
+  Place taken_ = 0;          // where `pending_` begins
   std::string_view script_;  // the last marker
   std::size_t wordsLeft_;    // bytes of words that may still be kept
   bool needsTables_ = false;

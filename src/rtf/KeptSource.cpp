@@ -1,6 +1,7 @@
 #include "rtf/KeptSource.h"
 
 #include "rtf/KeptWords.h"
+#include "rtf/Keywords.h"
 
 namespace lumenote {
 namespace {
@@ -17,44 +18,75 @@ void AppendHex(std::string_view bytes, std::string_view before, std::string& out
   }
 }
 
-/// Whether a token outside the groups of a piece is left out of it.
-bool IsStray(const Token& token, KeptSource::Own own) {
-  if (own == KeptSource::Own::All) return false;
-  if (token.kind == Token::Kind::Binary) return true;
-  return own == KeptSource::Own::OfField && token.kind == Token::Kind::Word &&
-         token.text != "field" && !token.text.starts_with("fld");
+bool IsControl(unsigned char byte) { return byte < 0x20 || byte == 0x7F; }
+
+/// A backslash and a control character. Most mean nothing, but end what stands before them.
+std::string_view ControlSymbol(unsigned char byte) {
+  if (byte == '\r' || byte == '\n') return "\\\r\n";
+  return byte == '\t' ? "\\'09" : "{}";
+}
+
+/// Follows a piece to where the reader passes text over.
+class HiddenGroup {
+ public:
+  explicit HiddenGroup(bool fromStart) : depth_(fromStart ? 0 : kNone) {}
+
+  bool Inside() const { return depth_ != kNone; }
+  /// `open` groups are open behind the token.
+  void Pass(const Token& token, std::size_t open) {
+    if (Inside() && open < depth_) depth_ = kNone;
+    const bool hides = token.kind == Token::Kind::Word && HidesText(token.text, starred_);
+    if (!Inside() && hides) depth_ = open;
+    starred_ = opened_ && token.kind == Token::Kind::Symbol && token.byte == '*';
+    opened_ = token.kind == Token::Kind::Open;
+  }
+
+ private:
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+  std::size_t depth_;
+  bool opened_ = false;
+  bool starred_ = false;
+};
+
+bool TellsOfField(const Token& word) {
+  return word.text == "field" || word.text.starts_with("fld");
 }
 
 }  // namespace
 
-KeptSource::KeptSource(std::string_view source, int fallback, Own own) {
+KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
   Tokenizer tokens(source);
+  HiddenGroup hidden(piece == Piece::Hidden);
   std::size_t end = 0;
   std::size_t firstWordEnd = 0;
   bool unicode = false;
   bool delimited = false;
   for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
-    const bool nothing = (token.kind == Token::Kind::Close && open == 0) ||
-                         (token.kind == Token::Kind::Binary && token.text.empty());
+    const bool word = token.kind == Token::Kind::Word;
+    const bool data = token.kind == Token::Kind::Binary;
+    const bool nothing =
+        (token.kind == Token::Kind::Close && open == 0) || (data && token.text.empty());
     if (nothing) continue;
-    if (open == 0 && IsStray(token, own)) {
+    const bool ofFormat = piece == Piece::FieldOpening && open == 0 && word && !TellsOfField(token);
+    if (ofFormat || (data && !hidden.Inside())) {
       end = tokens.At();
       continue;
     }
-    if (tokens.Start() != end) text += "\r\n";
+    if (tokens.Start() != end && !text.ends_with('\n')) text += "\r\n";
     end = tokens.At();
     Append(token, tokens.Source(tokens.Start(), end));
-    const bool word = token.kind == Token::Kind::Word;
+    hidden.Pass(token, open);
     delimited = word && text.ends_with(' ');
     if (word && firstWordEnd == 0) firstWordEnd = text.size() - (delimited ? 1 : 0);
     unicode |= word && token.text == "u";
   }
   if (delimited) text.pop_back();
   if (!unicode || fallback == kOwnFallback) return;
-  const bool ofField = own == Own::OfField;
-  if (ofField && text[firstWordEnd] == ' ') text.erase(firstWordEnd, 1);
+  const bool opening = piece == Piece::FieldOpening;
+  if (opening && text[firstWordEnd] == ' ') text.erase(firstWordEnd, 1);
   text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
-  if (ofField) text += "\\uc" + std::to_string(kOwnFallback);
+  if (opening) text += "\\uc" + std::to_string(kOwnFallback);
 }
 
 void KeptSource::Append(const Token& token, std::string_view source) {
@@ -63,7 +95,9 @@ void KeptSource::Append(const Token& token, std::string_view source) {
   if (token.kind == Kind::Close) --open;
   needsHead |= token.kind == Kind::High || token.kind == Kind::Byte ||
                (token.kind == Kind::Word && NamesTableEntry(token.text));
-  if (token.kind == Kind::High) return AppendHex(token.text, "\\'", text);
+  const bool bare = token.kind == Kind::High || (token.kind == Kind::Byte && source.size() == 1);
+  if (bare) return AppendHex(source, "\\'", text);
+  if (token.kind == Kind::Symbol && IsControl(token.byte)) source = ControlSymbol(token.byte);
   if (token.kind != Kind::Binary) return void(text += source);
   if (!text.ends_with('\n')) text += "\r\n";
   AppendHex(token.text, "", text);

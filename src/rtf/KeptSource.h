@@ -7,17 +7,19 @@
 
 namespace lumenote {
 
-/// A piece of source: binary data as hexadecimal digits, which mean the same, bytes from 0x80 on
-/// as \'xx, what means nothing as a line end, and without closing braces that open nowhere in it.
+/// A piece of source: binary data as hexadecimal digits, which mean the same where they are not
+/// shown as text, bytes that are no printable ASCII as \'xx, what means nothing as a line end, and
+/// without closing braces that open nowhere in it.
 struct KeptSource {
   std::string text;        // no blank stands behind a word at its end
   std::size_t open = 0;    // groups that it leaves open
   bool needsHead = false;  // it names fonts or colours, or holds bytes of the document's page
 
-  /// What a piece keeps outside its groups: all, all but data, or only what tells of a field.
-  enum class Own { All, NoData, OfField };
+  /// A group whose text is not that of the body, a whole field, or of a field's own group only the
+  /// words that tell of it.
+  enum class Piece { Hidden, Field, FieldOpening };
   /// `fallback` is the number of characters behind a \u in force where the source stands (\uc).
-  KeptSource(std::string_view source, int fallback, Own own = Own::All);
+  KeptSource(std::string_view source, int fallback, Piece piece = Piece::Hidden);
   /// The same with the missing closing braces.
   std::string Closed() const { return text + std::string(open, '}'); }
 

@@ -1,6 +1,7 @@
 // One constant table: control word, handler, the handler's value.
 #include "rtf/Keywords.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <iterator>
@@ -366,6 +367,14 @@ const Keyword* FindKeyword(std::string_view name) {
     if (keyword.name == name) return &keyword;
   }
   return nullptr;
+}
+
+bool HidesText(std::string_view word, bool starred) {
+  static constexpr decltype(Keyword::handler) kShowing[] = {&I::EnterGroup, &I::Field,
+                                                            &I::FieldResult, &I::SkipAlternative};
+  const Keyword* keyword = FindKeyword(word);
+  if (!keyword || !keyword->opensGroup) return starred;
+  return std::ranges::find(kShowing, keyword->handler) == std::end(kShowing);
 }
 
 }  // namespace lumenote

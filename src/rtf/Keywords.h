@@ -17,4 +17,8 @@ struct Keyword {
 /// Null for a word that means nothing here.
 const Keyword* FindKeyword(std::string_view name);
 
+/// Whether a word, perhaps behind \*, makes the rest of its group something else than text of the
+/// body.
+bool HidesText(std::string_view word, bool starred);
+
 }  // namespace lumenote

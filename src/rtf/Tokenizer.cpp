@@ -19,6 +19,7 @@ constexpr std::array<Class, 256> kClasses = [] {
   std::array<Class, 256> classes{};
   for (int c = 0; c < 0x20; ++c) classes[c] = Class::Control;
   for (int c = 0x80; c < 0x100; ++c) classes[c] = Class::High;
+  classes[0x7F] = Class::Control;
   classes[0] = classes['\r'] = classes['\n'] = Class::Nothing;
   classes['{'] = Class::Open;
   classes['}'] = Class::Close;

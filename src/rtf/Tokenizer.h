@@ -18,7 +18,7 @@ struct Token {
     Word,    // \name or \name123
     Symbol,  // a backslash and one other character
     Byte,    // \'xx, or a control character other than CR, LF and NUL
-    Text,    // bytes from 0x20 to 0x7F that mean themselves
+    Text,    // bytes from 0x20 to 0x7E that mean themselves
     High,    // bytes from 0x80
     Binary,  // \binN with its bytes
   };

@@ -109,6 +109,39 @@ TEST(Keeping, KeepsTheHeadWithTheNumbersOfItsTables) {
   EXPECT_EQ(WriteRtf(Read(written)), written);
 }
 
+TEST(Keeping, FieldsThatBeginANoteKeepItsText) {
+  const std::string_view heads[] = {"",
+                                    R"({\fonttbl{\f0 Arial;}})",
+                                    R"({\fonttbl{\f0 Arial;}}{\info{\title T}})",
+                                    R"({\stylesheet{\s1 T;}}\paperw9\foo1)",
+                                    R"({\*\bkmkstart h}{\*\bkmkend h}\sectd\cols2)",
+                                    R"({\header h}{\info x}\ls1{\listtext\tab}{\*\y})",
+                                    R"({\listtext{\*\listtable{\list\listid1}}}{\*\x})"};
+  const std::string_view inField[] = {R"(\trowd)",
+                                      R"(\trowd{\*\bkmkstart _T1}{\*\bkmkend _T1})",
+                                      R"(\sectd\cols2{\*\bkmkstart _T1})",
+                                      R"(\pard\s1{\*\x{\z}})",
+                                      R"(\page{\*\x}\plain)",
+                                      R"({\field{\*\fldinst X}{\fldrslt\trowd{\*\q}}})",
+                                      R"({\field{\*\fldinst X})",
+                                      R"({\stylesheet{\s1 U;}}{\info y}\foo)",
+                                      R"(\bin3 {b}{\bin5 12345}{\*\x\bin1 {}{\b\bin2 xy})",
+                                      "{\\*\\x\x01\x7F\\\x02\\\t\\\n}\\\x7F"};
+  for (const std::string_view head : heads) {
+    for (const std::string_view words : inField) {
+      for (const bool asResult : {false, true}) {
+        std::string rtf = "{\\rtf1";
+        rtf.append(head).append("{\\field{\\*\\fldinst TOC}");
+        rtf.append(asResult ? "{\\fldrslt" : "").append(words).append(asResult ? "}}" : "}");
+        rtf += "a\\par}";
+        const Document document = Read(rtf);
+        EXPECT_TRUE(TextOf(document).ends_with('a')) << rtf;
+        EXPECT_EQ(LossOf(document), "") << rtf;
+      }
+    }
+  }
+}
+
 TEST(Keeping, ASelectionLeavesTheHeadAndItsNumbersBehind) {
   const Document document =
       Read(R"({\rtf1{\info{\title t}}\pard\s1\ls2\keep{\listtext 1.\tab}a\par})");

@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "base/Strings.h"
+#include "rtf/Writer.h"
 
 namespace lumenote {
 namespace {
@@ -91,6 +92,21 @@ Document Read(std::string_view rtf, RtfTarget target, CharFormat base) {
 
 std::string TextOf(const Document& document) {
   return ToUtf8(ReplaceEvery(document.Text(0, document.Length()), u"\r\n", u"\n"));
+}
+
+std::string LossOf(const Document& document) {
+  const std::string written = WriteRtf(document);
+  const Document again = Read(written);
+  if (again.Text(0, again.Length()) != document.Text(0, document.Length()))
+    return "text: " + TextOf(again);
+  if (WriteRtf(again) != written) return "bytes: " + WriteRtf(again);
+  for (std::size_t i = 0; i < written.size(); ++i) {
+    const char c = written[i];
+    const bool ofLineEnd =
+        (c == '\r' && written[i + 1] == '\n') || (c == '\n' && written[i - 1] == '\r');
+    if (!ofLineEnd && (c < ' ' || c > '~')) return "ASCII: " + written;
+  }
+  return {};
 }
 
 std::string Shown(const Document& document) {

@@ -19,19 +19,11 @@ std::string Bytes(const std::filesystem::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// Reads the source and checks that what it is written as stays so.
-Document ReadStably(std::string_view rtf) {
-  Document document = Read(rtf);
-  const std::string written = WriteRtf(document);
-  const Document again = Read(written);
-  EXPECT_EQ(WriteRtf(again), written);
-  EXPECT_EQ(again.Text(0, again.Length()), document.Text(0, document.Length()));
-  return document;
-}
-
 class Samples : public testing::TestWithParam<Case> {};
 TEST_P(Samples, ReadAs) {
-  EXPECT_EQ(TextOf(ReadStably(Bytes(kSamples / GetParam().rtf))), GetParam().expected);
+  const Document document = Read(Bytes(kSamples / GetParam().rtf));
+  EXPECT_EQ(TextOf(document), GetParam().expected);
+  EXPECT_EQ(LossOf(document), "");
 }
 INSTANTIATE_TEST_SUITE_P(
     Files, Samples,
@@ -59,7 +51,7 @@ TEST(Samples, DamagedAtRandomStayReadable) {
       for (int bytes = times % 8; bytes > 0; --bytes) {
         damaged[random() % damaged.size()] = "\\{}\0a9' \xE9"[random() % 9];
       }
-      ReadStably(damaged);
+      ASSERT_EQ(LossOf(Read(damaged)), "") << damaged;
     }
   }
 }
