@@ -1,10 +1,15 @@
 // Files: what is kept, refused, and left alone when something fails.
 #include <csignal>
 #include <fcntl.h>
+#include <map>
 #include <sys/resource.h>
+#include <sys/xattr.h>
+#include <thread>
 #include <unistd.h>
+#include <vector>
 
 #include "Sandbox.h"
+#include "backends/posix/BesideFile.h"
 #include "backends/posix/PosixFiles.h"
 
 namespace lumenote {
@@ -42,6 +47,33 @@ TEST_F(FilesTest, WritingKeepsModeAndOwner) {
   EXPECT_EQ(info.st_mode & 07777, 0751U);
   EXPECT_EQ(info.st_uid, isRoot ? 1234 : geteuid());
   EXPECT_EQ(info.st_gid, isRoot ? 4321 : getegid());
+}
+
+TEST_F(FilesTest, WritingKeepsAccessListAndAttributes) {
+  // A version, then tag, rights and id of each entry: the owner, user 1234, group, mask, others.
+  constexpr unsigned char kList[] = {2,  0, 0, 0,                          //
+                                     1,  0, 6, 0, 0xFF, 0xFF, 0xFF, 0xFF,  //
+                                     2,  0, 6, 0, 0xD2, 4,    0,    0,     //
+                                     4,  0, 4, 0, 0xFF, 0xFF, 0xFF, 0xFF,  //
+                                     16, 0, 6, 0, 0xFF, 0xFF, 0xFF, 0xFF,  //
+                                     32, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF};
+  const std::map<std::string, std::string> attributes{
+      {"user.source", "herbier"},
+      {"user.empty", ""},
+      {"system.posix_acl_access", {std::begin(kList), std::end(kList)}}};
+  Put("a.txt", "old");
+  for (const auto& [name, value] : attributes)
+    if (setxattr(Native("a.txt").c_str(), name.c_str(), value.data(), value.size(), 0) != 0)
+      GTEST_SKIP() << "no " << name << " here";
+  const mode_t mode = ModeOf("a.txt");
+  files_.Write(u"C:\\a.txt", "new");
+  EXPECT_EQ(Get("a.txt"), "new");
+  EXPECT_EQ(ModeOf("a.txt"), mode);
+  for (const auto& [name, value] : attributes) {
+    char bytes[100];
+    const ssize_t size = getxattr(Native("a.txt").c_str(), name.c_str(), bytes, sizeof bytes);
+    EXPECT_EQ(std::string(bytes, size < 0 ? 0 : static_cast<std::size_t>(size)), value) << name;
+  }
 }
 
 TEST_F(FilesTest, AReadOnlyFileIsRefusedWhoeverRuns) {
@@ -88,13 +120,36 @@ TEST_F(FilesTest, WritingThroughALinkKeepsTheLink) {
   EXPECT_EQ(Get("sub/real.txt"), "new");
 }
 
-TEST_F(FilesTest, AFileLeftByACrashIsPassedOver) {
-  for (int i = 0; i < 1000; ++i) {
-    Put(".lumenote-" + std::to_string(getpid()) + "-" + std::to_string(i), "leftover");
-  }
+/// What a save that dies leaves beside its target.
+std::string LeftBeside(const std::string& target) {
+  std::string name;
+  { const Descriptor file = CreateBeside(target, 0600, name); }
+  std::ofstream(name) << "leftover";
+  return name;
+}
+
+TEST_F(FilesTest, ASaveRemovesWhatDeadSavesOfItsNoteLeft) {
+  std::string living;
+  const Descriptor lock = CreateBeside(Native("a.txt"), 0600, living);
+  const std::string dead = LeftBeside(Native("a.txt"));
+  const std::string other = LeftBeside(Native("b.txt"));
+  fs::create_symlink("a.txt", dead.substr(0, dead.size() - 1) + "2");
   files_.Write(u"C:\\a.txt", "new");
   EXPECT_EQ(Get("a.txt"), "new");
-  EXPECT_EQ(CountOfEntries(), 1001U);
+  EXPECT_TRUE(fs::exists(living) && fs::exists(other) && !fs::exists(dead));
+  EXPECT_EQ(CountOfEntries(), 4U);
+}
+
+TEST_F(FilesTest, SavesOfOneNoteAtATimeLeaveOneOfThemWhole) {
+  std::vector<std::thread> threads;
+  for (char c = 'a'; c < 'i'; ++c)
+    threads.emplace_back([this, c] {
+      for (int i = 0; i < 20; ++i) files_.Write(u"C:\\a.txt", std::string(5000, c));
+    });
+  for (std::thread& thread : threads) thread.join();
+  const std::string last = Get("a.txt");
+  EXPECT_EQ(last, std::string(5000, last[0]));
+  EXPECT_EQ(CountOfEntries(), 1U);
 }
 
 TEST_F(FilesTest, FailuresHaveTheirNumbers) {

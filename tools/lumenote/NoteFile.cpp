@@ -7,8 +7,8 @@
 #include <system_error>
 
 #include "Command.h"
-#include "backends/posix/AtomicFile.h"
 #include "backends/posix/Descriptor.h"
+#include "backends/posix/ReplaceFile.h"
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"

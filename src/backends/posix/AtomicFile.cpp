@@ -1,15 +1,14 @@
 // Writing beside the target, flushing, renaming.
 #include "backends/posix/AtomicFile.h"
 
-#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
-#include <system_error>
 #include <unistd.h>
 #include <utility>
 
+#include "backends/posix/BesideFile.h"
 #include "backends/posix/Errors.h"
 
 namespace lumenote {
@@ -18,22 +17,6 @@ namespace {
 std::string FolderOf(const std::string& path) {
   const std::string folder = std::filesystem::path(path).parent_path().string();
   return folder.empty() ? "." : folder;
-}
-
-/// Another name at every call; one that a crashed process left behind is passed over.
-std::string NameBeside(const std::string& target) {
-  static std::atomic<unsigned> count = 0;
-  return FolderOf(target) + "/.lumenote-" + std::to_string(getpid()) + "-" +
-         std::to_string(count++);
-}
-
-int CreateBeside(const std::string& target, mode_t mode, std::string& name) {
-  int number = -1;
-  do {
-    name = NameBeside(target);
-    number = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode);
-  } while (number < 0 && errno == EEXIST);
-  return number;
 }
 
 /// Makes a rename last. It has happened already, so a failure is nothing to report.
@@ -46,21 +29,11 @@ void FlushFolder(const std::string& folder) {
 
 AtomicFile::AtomicFile(std::string target, mode_t mode)
     : target_(std::move(target)), file_(CreateBeside(target_, mode, name_)) {
-  if (!file_.IsOpen()) throw AccessError(errno, name_);
+  if (Refused() && !IsRefusal(errno)) throw AccessError(errno, target_);
 }
 
 AtomicFile::~AtomicFile() {
   if (!name_.empty()) unlink(name_.c_str());
-}
-
-void AtomicFile::TakeAttributes(const struct stat& old) {
-  constexpr mode_t kPermissions = 07777;
-  mode_t mode = old.st_mode & kPermissions;
-  if (fchown(file_.Number(), old.st_uid, old.st_gid) != 0 &&
-      fchown(file_.Number(), static_cast<uid_t>(-1), old.st_gid) != 0) {
-    mode = (mode & ~S_IRWXG) | (mode & S_IRWXO) << 3;  // another group gets no more than others
-  }
-  fchmod(file_.Number(), mode);
 }
 
 void AtomicFile::TakeModificationTime(const struct stat& old) {
@@ -76,10 +49,18 @@ void AtomicFile::Flush() {
   if (fsync(file_.Number()) != 0) throw AccessError(errno, target_);
 }
 
-void AtomicFile::Commit() {
+bool AtomicFile::TryCommit() {
   Flush();
-  if (rename(name_.c_str(), target_.c_str()) != 0) throw AccessError(errno, target_);
-  Committed();
+  if (rename(name_.c_str(), target_.c_str()) == 0) {
+    Committed();
+    return true;
+  }
+  if (!IsRefusal(errno)) throw AccessError(errno, target_);
+  return false;
+}
+
+void AtomicFile::Commit() {
+  if (!TryCommit()) throw RuntimeError(ErrorNumber::PathAccess);
 }
 
 void AtomicFile::CommitAsNew() {
@@ -93,34 +74,6 @@ void AtomicFile::CommitAsNew() {
 void AtomicFile::Committed() {
   name_.clear();
   FlushFolder(FolderOf(target_));
-}
-
-std::string FollowLinks(const std::string& path) {
-  constexpr int kLongestChain = 40;
-  std::filesystem::path place = path;
-  std::error_code error;
-  for (int i = 0; i < kLongestChain && std::filesystem::is_symlink(place, error); ++i) {
-    place = place.parent_path() / std::filesystem::read_symlink(place, error);
-  }
-  return place.string();
-}
-
-bool MayReplace(const std::string& path) {
-  struct stat info = {};
-  if (stat(path.c_str(), &info) != 0) return errno == ENOENT || errno == ENOTDIR;
-  return S_ISREG(info.st_mode) && (info.st_mode & S_IWUSR) != 0 &&
-         faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
-}
-
-void ReplaceFile(const std::string& path, std::string_view bytes, mode_t newMode) {
-  const std::string target = FollowLinks(path);
-  if (!MayReplace(target)) throw RuntimeError(ErrorNumber::PathAccess);
-  struct stat old = {};
-  const bool exists = stat(target.c_str(), &old) == 0;
-  AtomicFile file(target, exists ? S_IRUSR | S_IWUSR : newMode);
-  if (exists) file.TakeAttributes(old);
-  file.Write(bytes);
-  file.Commit();
 }
 
 int RenameWithoutReplacing(const std::string& from, const std::string& to) {

@@ -47,6 +47,13 @@ std::string ReadWholeFile(const std::string& path) {
   return bytes;
 }
 
+bool LeadsTo(const std::string& path, const Descriptor& file) {
+  struct stat here = {};
+  struct stat there = {};
+  return fstat(file.Number(), &here) == 0 && lstat(path.c_str(), &there) == 0 &&
+         here.st_dev == there.st_dev && here.st_ino == there.st_ino;
+}
+
 int WriteAll(const Descriptor& file, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t count = write(file.Number(), bytes.data(), bytes.size());

@@ -2,6 +2,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace lumenote {
 
@@ -9,6 +10,7 @@ namespace lumenote {
 class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
   ~Descriptor();
@@ -23,6 +25,8 @@ class Descriptor {
 /// Everything from the regular file at the native path; `path` may end in a symbolic link. Raises
 /// what `AccessError` says, PathAccess for what is no regular file.
 std::string ReadWholeFile(const std::string& path);
+/// Whether the native path itself, no link followed, is a name of the open file.
+bool LeadsTo(const std::string& path, const Descriptor& file);
 /// Returns 0, or the errno value of what went wrong.
 int WriteAll(const Descriptor& file, std::string_view bytes);
 

@@ -25,17 +25,16 @@ ErrorNumber NumberOf(int error, const std::string& path, ErrorNumber refusal) {
     case EDQUOT:
     case EFBIG:
       return ErrorNumber::DiskFull;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EBUSY:
-      return refusal;
     default:
-      return ErrorNumber::PathAccess;
+      return IsRefusal(error) ? refusal : ErrorNumber::PathAccess;
   }
 }
 
 }  // namespace
+
+bool IsRefusal(int error) {
+  return error == EACCES || error == EPERM || error == EROFS || error == EBUSY;
+}
 
 RuntimeError AccessError(int error, const std::string& path) {
   return RuntimeError(NumberOf(error, path, ErrorNumber::PathAccess));

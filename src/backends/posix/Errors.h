@@ -12,4 +12,7 @@ RuntimeError AccessError(int error, const std::string& path);
 /// The same for removing or renaming: a refusal is PermissionDenied, not PathAccess.
 RuntimeError RemovalError(int error, const std::string& path);
 
+/// Whether the system refuses an act for what it is, so that another way may go through.
+bool IsRefusal(int error);
+
 }  // namespace lumenote

@@ -7,9 +7,9 @@
 #include <system_error>
 #include <utility>
 
-#include "backends/posix/AtomicFile.h"
 #include "backends/posix/Descriptor.h"
 #include "backends/posix/FileLock.h"
+#include "backends/posix/ReplaceFile.h"
 #include "backends/posix/UserFolders.h"
 #include "base/RuntimeError.h"
 

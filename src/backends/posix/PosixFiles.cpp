@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <fcntl.h>
 #include <limits>
 #include <string>
 #include <sys/stat.h>
@@ -11,6 +12,7 @@
 #include "backends/posix/AtomicFile.h"
 #include "backends/posix/Descriptor.h"
 #include "backends/posix/Errors.h"
+#include "backends/posix/ReplaceFile.h"
 
 namespace lumenote {
 namespace {
@@ -38,7 +40,7 @@ FileTime InNanoseconds(const struct timespec& time) {
 void MoveAcrossFileSystems(const std::string& from, const std::string& to) {
   const struct stat info = InfoOf(from);
   AtomicFile file(to, S_IRUSR | S_IWUSR);
-  file.TakeAttributes(info);
+  file.TakeAttributes(Descriptor(open(from.c_str(), O_RDONLY | O_CLOEXEC)));
   file.Write(ReadWholeFile(from));
   file.TakeModificationTime(info);
   file.CommitAsNew();
