@@ -25,8 +25,10 @@ class Files {
   /// Whether both paths lead to one file, links of either kind followed; never fails.
   virtual bool SameFile(std::u16string_view one, std::u16string_view other) const = 0;
 
-  /// Replaces the file's content at once or not at all: writes beside it, flushes, renames. Keeps
-  /// the mode of the file it replaces; refuses a read-only file (PathAccess).
+  /// Replaces the file's content at once or not at all: writes beside it, flushes, renames. Where
+  /// that would lose what the file has beside its content (owner, mode, access list, attributes,
+  /// other names), or its folder is closed, the file itself is written, with a backup until that is
+  /// done. Refuses a read-only file (PathAccess).
   virtual void Write(std::u16string_view path, std::string_view bytes) = 0;
   /// A read-only file is deleted only with `force` (else PermissionDenied).
   virtual void Delete(std::u16string_view path, bool force) = 0;

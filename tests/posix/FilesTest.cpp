@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <map>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <thread>
 #include <unistd.h>
@@ -11,6 +12,7 @@
 #include "Sandbox.h"
 #include "backends/posix/BesideFile.h"
 #include "backends/posix/PosixFiles.h"
+#include "backends/posix/PosixStateFolder.h"
 
 namespace lumenote {
 namespace {
@@ -19,7 +21,35 @@ namespace fs = std::filesystem;
 
 class FilesTest : public SandboxTest {
  protected:
-  PosixFiles files_{drives_};
+  /// What dead saves have left, as the next start of the component finds it.
+  std::map<std::u16string, std::string> Left() {
+    std::map<std::u16string, std::string> left;
+    PosixStateFolder(Native("state"), drives_).HandOverLeft([&](const LeftCopy& copy) {
+      left.emplace(copy.origin, copy.bytes);
+      return false;
+    });
+    return left;
+  }
+
+  PosixStateFolder state_{Native("state"), drives_};
+  PosixFiles files_{drives_, &state_};
+};
+
+/// Lets no file of this process grow beyond some bytes: the disk is full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const struct rlimit tight = {bytes, before_.rlim_max};
+    signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &tight);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+ private:
+  struct rlimit before_;
 };
 
 TEST_F(FilesTest, WritesAndReadsBytes) {
@@ -88,17 +118,78 @@ TEST_F(FilesTest, AReadOnlyFileIsRefusedWhoeverRuns) {
 }
 
 TEST_F(FilesTest, AFullDiskLeavesTheOldFile) {
-  Put("a.txt", "old");
-  struct rlimit limit;
-  getrlimit(RLIMIT_FSIZE, &limit);
-  const struct rlimit tight = {10, limit.rlim_max};
-  signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &tight);
-  const int error = ErrorOf([&] { files_.Write(u"C:\\a.txt", std::string(1000, 'x')); });
-  setrlimit(RLIMIT_FSIZE, &limit);
-  EXPECT_EQ(error, 61);
-  EXPECT_EQ(Get("a.txt"), "old");
-  EXPECT_EQ(CountOfEntries(), 1U);
+  for (const bool linked : {false, true}) {
+    Put("a.txt", "old");
+    if (linked) fs::create_hard_link(Native("a.txt"), Native("b.txt"));
+    const std::size_t before = CountOfEntries();
+    const auto save = [&] {
+      const FullDisk disk(10);
+      files_.Write(u"C:\\a.txt", std::string(1000, 'x'));
+    };
+    EXPECT_EQ(ErrorOf(save), 61);
+    EXPECT_EQ(Get("a.txt"), "old");
+    EXPECT_TRUE(Left().empty());
+    EXPECT_EQ(CountOfEntries(), before + (linked ? 1 : 0));  // the state folder
+  }
+}
+
+TEST_F(FilesTest, WhatARenameWouldLoseIsWrittenInPlace) {
+  const auto inode = [this](const std::string& name) {
+    struct stat info = {};
+    return stat(Native(name).c_str(), &info) == 0 ? info.st_ino : 0;
+  };
+  Put("a.txt", "the old content", 0640);
+  fs::create_hard_link(Native("a.txt"), Native("b.txt"));
+  const ino_t before = inode("a.txt");
+  for (const std::string content : {"new", "", "a content that is longer than the old one"}) {
+    files_.Write(u"C:\\b.txt", content);
+    EXPECT_EQ(Get("a.txt"), content);
+    EXPECT_TRUE(inode("a.txt") == before && inode("b.txt") == before);
+  }
+  EXPECT_TRUE(Left().empty());
+  EXPECT_EQ(ErrorOf([&] { PosixFiles(drives_).Write(u"C:\\a.txt", "x"); }), 75);
+}
+
+/// What an unprivileged user does, in a child that has his number.
+template <class Act>
+int AsUser(uid_t user, Act act) {
+  const pid_t child = fork();
+  if (child == 0) _exit(setgid(user) == 0 && setuid(user) == 0 ? ErrorOf(act) : 255);
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 255;
+}
+
+TEST_F(FilesTest, AnothersFileAndAClosedFolderAreWrittenInPlace) {
+  if (geteuid() != 0) GTEST_SKIP() << "needs another user";
+  constexpr uid_t kUser = 1234;
+  chmod(Native("").c_str(), 0711);
+  const struct {
+    std::string folder;
+    uid_t owner;
+    mode_t folderMode;
+    uid_t fileOwner;
+    mode_t mode;
+  } kCases[] = {{"closed", 0, 0755, kUser, 0600},
+                {"anothers", kUser, 0755, 4321, 0666},
+                {"sticky", 0, 01777, 4321, 0666}};
+  fs::create_directory(Native("state"));
+  ASSERT_EQ(chown(Native("state").c_str(), kUser, kUser), 0);
+  for (const auto& c : kCases) {
+    const std::string note = Native(c.folder) + "/a.txt";
+    fs::create_directory(Native(c.folder));
+    Put(c.folder + "/a.txt", "old", c.mode);
+    ASSERT_EQ(chown(note.c_str(), c.fileOwner, c.fileOwner), 0);
+    ASSERT_EQ(chown(Native(c.folder).c_str(), c.owner, c.owner), 0);
+    chmod(Native(c.folder).c_str(), c.folderMode);
+    const std::u16string path = drives_.ToDrivePath(note);
+    EXPECT_EQ(AsUser(kUser, [&] { files_.Write(path, "new"); }), 0) << c.folder;
+    EXPECT_EQ(Get(c.folder + "/a.txt"), "new") << c.folder;
+    struct stat info = {};
+    ASSERT_EQ(stat(note.c_str(), &info), 0);
+    EXPECT_EQ(info.st_uid, c.fileOwner) << c.folder;
+    EXPECT_EQ(info.st_mode & 0777, c.mode) << c.folder;
+  }
 }
 
 TEST_F(FilesTest, WritingThroughALinkKeepsTheLink) {

@@ -8,6 +8,7 @@
 
 #include "Command.h"
 #include "backends/posix/Descriptor.h"
+#include "backends/posix/PosixStateFolder.h"
 #include "backends/posix/ReplaceFile.h"
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
@@ -79,7 +80,8 @@ void WriteBytes(const std::string& name, std::string_view bytes) {
   constexpr mode_t kNewFileMode = 0666;
   if (name == kStream) return WriteStandardOutput(bytes);
   try {
-    ReplaceFile(Absolute(name), bytes, kNewFileMode);
+    PosixStateFolder backups(PosixStateFolder::OfUser(), DrivePaths("/"));
+    SaveFile(Absolute(name), bytes, kNewFileMode, &backups);
   } catch (const RuntimeError& error) {
     throw Failure(name + " : écriture impossible : " + error.what());
   }

@@ -19,12 +19,6 @@ std::string FolderOf(const std::string& path) {
   return folder.empty() ? "." : folder;
 }
 
-/// Makes a rename last. It has happened already, so a failure is nothing to report.
-void FlushFolder(const std::string& folder) {
-  const Descriptor file(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (file.IsOpen()) fsync(file.Number());
-}
-
 }  // namespace
 
 AtomicFile::AtomicFile(std::string target, mode_t mode)
@@ -73,7 +67,7 @@ void AtomicFile::CommitAsNew() {
 
 void AtomicFile::Committed() {
   name_.clear();
-  FlushFolder(FolderOf(target_));
+  SyncToDisk(FolderOf(target_));  // the rename has happened: a failure is nothing to report
 }
 
 int RenameWithoutReplacing(const std::string& from, const std::string& to) {

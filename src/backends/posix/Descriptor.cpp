@@ -54,6 +54,12 @@ bool LeadsTo(const std::string& path, const Descriptor& file) {
          here.st_dev == there.st_dev && here.st_ino == there.st_ino;
 }
 
+int SyncToDisk(const std::string& path) {
+  const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+  const bool done = file.IsOpen() && fsync(file.Number()) == 0;
+  return done || errno == EINVAL ? 0 : errno;  // not every file system has that for folders
+}
+
 int WriteAll(const Descriptor& file, std::string_view bytes) {
   while (!bytes.empty()) {
     const ssize_t count = write(file.Number(), bytes.data(), bytes.size());

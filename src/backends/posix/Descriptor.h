@@ -27,7 +27,9 @@ class Descriptor {
 std::string ReadWholeFile(const std::string& path);
 /// Whether the native path itself, no link followed, is a name of the open file.
 bool LeadsTo(const std::string& path, const Descriptor& file);
-/// Returns 0, or the errno value of what went wrong.
+/// Brings a file's content, or the entries of a folder, to the disk. Returns 0, or the errno value
+/// of what went wrong; so does `WriteAll`.
+int SyncToDisk(const std::string& path);
 int WriteAll(const Descriptor& file, std::string_view bytes);
 
 }  // namespace lumenote

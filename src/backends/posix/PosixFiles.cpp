@@ -76,7 +76,7 @@ bool PosixFiles::SameFile(std::u16string_view one, std::u16string_view other) co
 }
 
 void PosixFiles::Write(std::u16string_view path, std::string_view bytes) {
-  ReplaceFile(drives_.ToNative(path), bytes, kNewFileMode);
+  SaveFile(drives_.ToNative(path), bytes, kNewFileMode, backups_);
 }
 
 void PosixFiles::Delete(std::u16string_view path, bool force) {

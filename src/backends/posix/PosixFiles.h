@@ -7,9 +7,14 @@
 
 namespace lumenote {
 
+class PosixStateFolder;
+
 class PosixFiles : public Files {
  public:
-  explicit PosixFiles(DrivePaths drives) : drives_(std::move(drives)) {}
+  /// `backups` outlives it; without one a file that cannot be replaced in one rename is not
+  /// written.
+  explicit PosixFiles(DrivePaths drives, PosixStateFolder* backups = nullptr)
+      : drives_(std::move(drives)), backups_(backups) {}
 
   bool Exists(std::u16string_view path) const override;
   bool IsReadOnly(std::u16string_view path) const override;
@@ -17,7 +22,8 @@ class PosixFiles : public Files {
   std::string ReadAll(std::u16string_view path) const override;
   bool SameFile(std::u16string_view one, std::u16string_view other) const override;
 
-  /// Writes through a symbolic link: the link stays, the file behind it is replaced.
+  /// Writes through a symbolic link: the link stays, the file behind it is replaced. May be called
+  /// on any thread.
   void Write(std::u16string_view path, std::string_view bytes) override;
   /// Removes a symbolic link itself.
   void Delete(std::u16string_view path, bool force) override;
@@ -27,6 +33,7 @@ class PosixFiles : public Files {
 
  private:
   DrivePaths drives_;
+  PosixStateFolder* backups_;
 };
 
 }  // namespace lumenote

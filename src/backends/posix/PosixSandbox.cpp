@@ -52,7 +52,7 @@ PosixSandbox::PosixSandbox(std::unique_ptr<TemporaryFolder> own) : PosixSandbox(
 PosixSandbox::PosixSandbox(const std::string& root)
     : drives_(MakeDrive(root)),
       state_(root + "/state", drives_),
-      files_(drives_),
+      files_(drives_, &state_),
       folders_(u"C:\\Documents", u"C:\\Temp\\"),
       settings_(root + "/settings.ini"),
       registry_({root + "/registry.ini"}),

@@ -31,7 +31,8 @@ std::string PosixStateFolder::OfUser() {
   return folder.empty() ? folder : folder + "/lumenote";
 }
 
-const std::string& PosixStateFolder::Own() {
+std::string PosixStateFolder::Own() {
+  const std::lock_guard lock(access_);
   if (!own_ || !own_->Stands()) {
     MakePrivate(path_);
     own_ = std::make_unique<OwnerFolder>(path_);

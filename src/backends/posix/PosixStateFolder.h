@@ -1,6 +1,8 @@
 // The state folder of a user, or of a sandbox.
 #pragma once
+#include <atomic>
 #include <memory>
+#include <mutex>
 #include <string>
 
 #include "backends/posix/DrivePaths.h"
@@ -30,12 +32,13 @@ class PosixStateFolder final : public StateFolder {
 
  private:
   /// The sub-folder of this object, made when there is none.
-  const std::string& Own();
+  std::string Own();
 
   std::string path_;
   DrivePaths drives_;
+  std::mutex access_;  // notes may be saved on any thread
   std::unique_ptr<OwnerFolder> own_;
-  unsigned copies_ = 0;
+  std::atomic<unsigned> copies_ = 0;
 };
 
 }  // namespace lumenote

@@ -10,9 +10,12 @@
 
 #include "backends/posix/AtomicFile.h"
 #include "backends/posix/Errors.h"
+#include "backends/posix/InPlace.h"
 
 namespace lumenote {
 namespace {
+
+enum class Keep { WhatCanBe, All };
 
 std::string TargetOf(const std::string& path) {
   std::string target = FollowLinks(path);
@@ -20,12 +23,21 @@ std::string TargetOf(const std::string& path) {
   return target;
 }
 
-void Replace(const std::string& target, std::string_view bytes) {
+/// What another name of the file shows must change with it.
+bool HasOtherNames(const Descriptor& file) {
+  struct stat info = {};
+  return fstat(file.Number(), &info) != 0 || info.st_nlink > 1;
+}
+
+/// False when that would lose something, or the folder refuses it; then nothing has changed.
+bool Replaced(const std::string& target, std::string_view bytes, Keep keep) {
   const Descriptor old(open(target.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+  if (keep == Keep::All && HasOtherNames(old)) return false;
   AtomicFile file(target, S_IRUSR | S_IWUSR);
-  file.TakeAttributes(old);
+  if (file.Refused()) return false;
+  if (!file.TakeAttributes(old) && keep == Keep::All) return false;
   file.Write(bytes);
-  file.Commit();
+  return file.TryCommit();
 }
 
 void Create(const std::string& target, std::string_view bytes, mode_t mode) {
@@ -61,7 +73,16 @@ bool MayReplace(const std::string& path) {
 void ReplaceFile(const std::string& path, std::string_view bytes, mode_t newMode) {
   const std::string target = TargetOf(path);
   if (!Stands(target)) return Create(target, bytes, newMode);
-  Replace(target, bytes);
+  if (!Replaced(target, bytes, Keep::WhatCanBe)) throw RuntimeError(ErrorNumber::PathAccess);
+}
+
+void SaveFile(const std::string& path, std::string_view bytes, mode_t newMode,
+              PosixStateFolder* backups) {
+  const std::string target = TargetOf(path);
+  if (!Stands(target)) return Create(target, bytes, newMode);
+  if (Replaced(target, bytes, Keep::All)) return;
+  if (!backups) throw RuntimeError(ErrorNumber::PathAccess);
+  WriteInPlace(target, bytes, *backups);
 }
 
 }  // namespace lumenote

@@ -94,11 +94,11 @@ void StateCopy::Commit() {
 }
 
 void StateCopy::CommitToDisk() {
-  if (file_ && fsync(file_->Number()) != 0) Check(errno);
+  for (const char* kind : {kUnfinished, kOrigin}) Check(SyncToDisk(base_ + kind));
   Commit();
-  const Descriptor folder(
-      open(std::filesystem::path(base_).parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (folder.IsOpen()) fsync(folder.Number());
+  const std::filesystem::path folder = std::filesystem::path(base_).parent_path();
+  Check(SyncToDisk(folder.string()));
+  Check(SyncToDisk(folder.parent_path().string()));
 }
 
 void StateCopy::Check(int error) {

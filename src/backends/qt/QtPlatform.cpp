@@ -75,7 +75,7 @@ struct QtPlatform::Parts {
   QtClipboard clipboard;
   QtFonts fonts;
   PosixStateFolder state{PosixStateFolder::OfUser(), drives};
-  PosixFiles files{drives};
+  PosixFiles files{drives, &state};
   IniSettings settings;
   PosixFolders folders{drives};
   IniRegistry registry;
