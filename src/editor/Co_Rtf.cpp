@@ -19,9 +19,10 @@
 
 namespace lumenote {
 
-Co_Rtf::Co_Rtf(WindowList& windows, Session& session)
+Co_Rtf::Co_Rtf(WindowList& windows, Session& session, const TempFolder& temp)
     : Form(windows, "Co_Rtf", {5000, 3250, 5650, 4350}, u"MicroEditeur"),
       session_(session),
+      temp_(temp),
       paragraph_([this] { return std::make_unique<Co_Paragraph>(Windows(), *this); }),
       find_([this] { return std::make_unique<Co_Trouver>(Windows(), *this); }),
       symbols_([this] { return std::make_unique<Co_Symbols>(Windows(), *this); }),
@@ -230,6 +231,7 @@ void Co_Rtf::LocatePrograms() {
   IgnoringErrors([this] {
     programs_ = ChercherApplis({.files = Machine().FileSystem(),
                                 .folders = Machine().SpecialFolders(),
+                                .temp = CheminTemp(temp_),
                                 .programs = Machine().InstalledPrograms(),
                                 .registry = Machine().MachineRegistry()});
   });

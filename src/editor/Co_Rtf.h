@@ -25,8 +25,8 @@ struct Session;
 
 class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
  public:
-  /// `session` and `windows` outlive the window.
-  Co_Rtf(WindowList& windows, Session& session);
+  /// All outlive the window.
+  Co_Rtf(WindowList& windows, Session& session, const TempFolder& temp);
 
   Frame Fr_Notes{*this, "Fr_Notes", {80, 84, 5376, 3560}};
   Label Lb_Format{Fr_Notes, "Lb_Format", {3573, 0, 1700, 195}};
@@ -43,6 +43,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   RichTextSurface& Document() override { return Bx_RTF.Surface(); }
   Session& Values() override { return session_; }
   Platform& Services() override { return Machine(); }
+  const TempFolder& Temp() override { return temp_; }
   void SuspendreDessus() override;
   void RetablirDessus() override;
   MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
@@ -103,6 +104,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   void mnuPopQuitter_Click();
 
   Session& session_;
+  const TempFolder& temp_;
   bool firstActivation_ = true;
   Instance<Co_Paragraph> paragraph_;
   Instance<Co_Trouver> find_;

@@ -40,16 +40,15 @@ void DeleteTwin(Files& files, std::u16string_view shownPath, std::u16string_view
 
 }  // namespace
 
-std::u16string CheminTemp(const Folders& folders) {
-  std::u16string path = folders.Temp();
+std::u16string CheminTemp(const TempFolder& temp) {
+  std::u16string path = temp.Path();
   if (path.ends_with(u'\\')) path.pop_back();
   return path;
 }
 
-std::u16string NomFichTemp(const Folders& folders, std::u16string_view prefix,
+std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
                            std::u16string_view extension) {
-  return CheminTemp(folders) + u"\\TmpFl" + std::u16string(prefix) + u"." +
-         std::u16string(extension);
+  return CheminTemp(temp) + u"\\TmpFl" + std::u16string(prefix) + u"." + std::u16string(extension);
 }
 
 void EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note) {

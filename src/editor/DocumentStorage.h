@@ -8,12 +8,12 @@
 namespace lumenote {
 
 class Files;
-class Folders;
+class TempFolder;
 
 /// The temporary folder without its trailing backslash.
-std::u16string CheminTemp(const Folders& folders);
+std::u16string CheminTemp(const TempFolder& temp);
 /// Temporary folder, "\TmpFl", prefix, ".", extension.
-std::u16string NomFichTemp(const Folders& folders, std::u16string_view prefix,
+std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
                            std::u16string_view extension);
 /// Writes the note as it stands, in code page 1252, without a line end of its own.
 void EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);

@@ -12,6 +12,7 @@
 namespace lumenote {
 
 class Platform;
+class TempFolder;
 struct Session;
 
 class EditorWindow {
@@ -21,6 +22,8 @@ class EditorWindow {
   virtual RichTextSurface& Document() = 0;
   virtual Session& Values() = 0;
   virtual Platform& Services() = 0;
+  /// The control's own temporary folder.
+  virtual const TempFolder& Temp() = 0;
 
   /// Drops the always-on-top state before a box, a dialog or a program comes up.
   virtual void SuspendreDessus() = 0;

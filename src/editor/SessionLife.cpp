@@ -27,10 +27,10 @@ void PrepareFile(EditorWindow& editor) {
 void PrepareString(EditorWindow& editor) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
-  const Folders& folders = editor.Services().SpecialFolders();
-  const std::u16string leftOver = NomFichTemp(folders, u"Str", u"rtf");
+  const std::u16string leftOver = NomFichTemp(editor.Temp(), u"Str", u"rtf");
   if (files.Exists(leftOver)) IgnoringErrors([&] { files.Delete(leftOver, false); });
-  session.documentPath = NomFichTemp(folders, u"Str", EstNoteRtf(session.note) ? u"rtf" : u"txt");
+  session.documentPath =
+      NomFichTemp(editor.Temp(), u"Str", EstNoteRtf(session.note) ? u"rtf" : u"txt");
   IgnoringErrors([&] { EcritNoteTemp(files, session.documentPath, session.note); });
 }
 

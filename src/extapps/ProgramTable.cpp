@@ -71,7 +71,7 @@ std::u16string Find(const ProgramSources& sources, const ProgramTable& table, co
 void FindFolders(const ProgramSources& sources, ProgramTable& table) {
   table.dossierDocuments = sources.folders.Documents();
   table.dossierProgrammes = sources.programs.Programs();
-  table.dossierTemp = sources.folders.Temp();
+  table.dossierTemp = sources.temp;
   if (table.dossierTemp.ends_with(u'\\')) table.dossierTemp.pop_back();
   table.tmpFile = table.dossierTemp + u"\\TmpFile.tmp";
   table.tmpFileCD = table.dossierTemp + u"\\TmpFileCD.Txt";

@@ -40,6 +40,7 @@ struct ProgramTable {
 struct ProgramSources {
   const Files& files;
   const Folders& folders;
+  std::u16string temp;  // the control's temporary folder
   const ProgramFolders& programs;
   const Registry& registry;
 };

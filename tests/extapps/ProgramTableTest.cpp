@@ -19,7 +19,7 @@ class ProgramTableTest : public testing::Test {
     sandbox.Programs().Put(path);
   }
   ProgramTable Find() {
-    return ChercherApplis({sandbox.FileSystem(), sandbox.SpecialFolders(),
+    return ChercherApplis({sandbox.FileSystem(), sandbox.SpecialFolders(), u"C:\\Temp\\",
                            sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
   }
 

@@ -56,8 +56,8 @@ class RoundTripTest : public testing::Test, public RoundTripDesk {
     control.pCouleurFen(u"0");
     control.pStrOrchm(path);
     control.ShowMicroEdit();
-    programs = ChercherApplis(
-        {disk, sandbox.SpecialFolders(), sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
+    programs = ChercherApplis({disk, sandbox.SpecialFolders(), u"C:\\Temp\\",
+                               sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
     exchange.emplace(Editor(), *this, programs, sandbox.Programs());
   }
   Co_Rtf& Editor() { return control.Parts().editor.Get(); }

@@ -1,6 +1,7 @@
 // The special folders.
 #include <chrono>
 #include <fstream>
+#include <optional>
 
 #include "Sandbox.h"
 #include "backends/posix/PosixFolders.h"
@@ -15,19 +16,33 @@ class FoldersTest : public SandboxTest {
   ScopedVariable config_{"XDG_CONFIG_HOME", nullptr};
 };
 
-TEST_F(FoldersTest, TempIsPrivateAndGoes) {
+TEST_F(FoldersTest, TempIsPrivateAndGoesWithItsOwner) {
   const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
-  std::string native;
-  {
-    const PosixFolders folders(drives_);
-    const PosixFolders others(drives_);
-    EXPECT_NE(folders.Temp(), others.Temp());
-    EXPECT_TRUE(folders.Temp().starts_with(u"C:\\lumenote-") && folders.Temp().ends_with(u'\\'));
-    native = drives_.ToNative(folders.Temp());
-    EXPECT_EQ(ModeOf(native.substr(Native("").size())), 0700U);
-    std::filesystem::create_directories(native + "sub");
-  }
+  PosixFolders folders(drives_);
+  const std::unique_ptr<TempFolder> other = folders.MakeTemp();
+  std::unique_ptr<TempFolder> temp = folders.MakeTemp();
+  EXPECT_NE(temp->Path(), other->Path());
+  EXPECT_TRUE(temp->Path().starts_with(u"C:\\lumenote-") && temp->Path().ends_with(u'\\'));
+  const std::string native = drives_.ToNative(temp->Path());
+  EXPECT_EQ(ModeOf(native.substr(Native("").size())), 0700U);
+  std::filesystem::create_directories(native + "sub");
+  temp.reset();
   EXPECT_FALSE(std::filesystem::exists(native));
+}
+
+TEST_F(FoldersTest, AProgramThatWorksInATemporaryFolderKeepsIt) {
+  const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
+  for (const bool outlivesAll : {false, true}) {
+    bool inUse = true;
+    std::optional<PosixFolders> folders(std::in_place, drives_, [&] { return inUse; });
+    std::unique_ptr<TempFolder> temp = folders->MakeTemp();
+    const std::string native = drives_.ToNative(temp->Path());
+    temp.reset();
+    EXPECT_TRUE(std::filesystem::exists(native));
+    inUse = outlivesAll;
+    folders.reset();
+    EXPECT_EQ(std::filesystem::exists(native), outlivesAll);
+  }
 }
 
 /// Gives a folder and all it holds a time of some days ago.
@@ -111,7 +126,7 @@ TEST_F(FoldersTest, DocumentsAreWhatTheConfigurationSays) {
       {"XDG_DOCUMENTS_DIR=\"\\", u"C:\\Documents"},
       {"XDG_DOCUMENTS_DIR=", u"C:\\Documents"},
   };
-  const PosixFolders folders(drives_);
+  PosixFolders folders(drives_);
   for (const auto& c : kCases) {
     Put(".config/user-dirs.dirs", c.line);
     EXPECT_EQ(folders.Documents(), c.folder) << c.line;

@@ -22,7 +22,7 @@ ProgramTable LookUp(const DrivePaths& drives, const Files& files) {
   const FixedFolders noFolders(u"", u"");
   const PosixProgramFolders programs(drives);
   const IniRegistry registry;
-  return ChercherApplis({files, noFolders, programs, registry});
+  return ChercherApplis({files, noFolders, u"", programs, registry});
 }
 
 }  // namespace

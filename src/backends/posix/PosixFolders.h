@@ -1,7 +1,10 @@
 // The special folders of the user, and folders that a program chooses itself.
 #pragma once
+#include <functional>
+#include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "backends/posix/DrivePaths.h"
 #include "backends/posix/TemporaryFolder.h"
@@ -9,21 +12,29 @@
 
 namespace lumenote {
 
-/// The temporary folder belongs to this object alone: two never meet in one file, and it is removed
-/// with what is left in it at the end, unless it is kept.
+/// Temporary folders are made when they are first asked for, and again while there could be none.
+/// One that programs still work in when its control goes stays as long as this object, and for good
+/// if they outlive that too.
 class PosixFolders : public Folders {
  public:
-  explicit PosixFolders(DrivePaths drives) : drives_(std::move(drives)) {}
+  /// `inUse` says whether programs still work with files that they were given.
+  explicit PosixFolders(
+      DrivePaths drives, std::function<bool()> inUse = [] { return false; })
+      : drives_(std::move(drives)), inUse_(std::move(inUse)) {}
+  PosixFolders(const PosixFolders&) = delete;
+  PosixFolders& operator=(const PosixFolders&) = delete;
+  ~PosixFolders() override;
 
   std::u16string Documents() const override;
-  std::u16string Temp() const override;
-
-  /// Leaves the temporary folder behind at the end, for a program that still works in it.
-  void KeepTemp() { temp_.Keep(); }
+  std::unique_ptr<TempFolder> MakeTemp() override;
 
  private:
+  class Temp;
+  void TakeBack(std::unique_ptr<TemporaryFolder> folder);
+
   DrivePaths drives_;
-  TemporaryFolder temp_;
+  std::function<bool()> inUse_;
+  std::vector<std::unique_ptr<TemporaryFolder>> left_;  // of controls that are gone
 };
 
 /// Folders that do not depend on who runs, for sandboxes.
@@ -34,9 +45,18 @@ class FixedFolders : public Folders {
       : documents_(std::move(documents)), temp_(std::move(temp)) {}
 
   std::u16string Documents() const override { return documents_; }
-  std::u16string Temp() const override { return temp_; }
+  std::unique_ptr<TempFolder> MakeTemp() override { return std::make_unique<Temp>(temp_); }
 
  private:
+  class Temp final : public TempFolder {
+   public:
+    explicit Temp(std::u16string path) : path_(std::move(path)) {}
+    std::u16string Path() const override { return path_; }
+
+   private:
+    std::u16string path_;
+  };
+
   std::u16string documents_;
   std::u16string temp_;
 };

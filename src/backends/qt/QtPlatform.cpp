@@ -77,15 +77,11 @@ struct QtPlatform::Parts {
   PosixStateFolder state{PosixStateFolder::OfUser(), drives};
   PosixFiles files{drives, &state};
   IniSettings settings;
-  PosixFolders folders{drives};
   IniRegistry registry;
   PosixProgramFolders programFolders{drives};
   X11Windows programWindows;
   CollectedProcesses programs{drives, programWindows};
-
-  ~Parts() {
-    if (programs.HoldsFiles()) folders.KeepTemp();
-  }
+  PosixFolders folders{drives, [this] { return programs.HoldsFiles(); }};
 };
 
 QtPlatform::QtPlatform() : parts_(std::make_unique<Parts>()) {}
