@@ -181,12 +181,15 @@ void Co_Rtf::Form_Resize() {
            Height(), session_.menuBarShown);
 }
 
-void Co_Rtf::Form_QueryUnload() {
-  if (session_.deleted || !session_.loaded) return;
+bool Co_Rtf::Form_QueryUnload() {
+  if (session_.deleted || !session_.loaded) return true;
   SuspendreDessus();
-  if (TerminerEdition(*this) == Fermeture::Complete)
+  const Fermeture decision = TerminerEdition(*this);
+  if (decision == Fermeture::Annulee) return false;
+  if (decision == Fermeture::Complete)
     EcrireGeometrie(Machine().UserSettings(), session_.settingsKey, Place());
   Maj_StrOrChm(*this);
+  return true;
 }
 
 void Co_Rtf::Form_Unload() {
@@ -284,7 +287,10 @@ std::optional<FontChoice> Co_Rtf::ChooseFont(const FontChoice& shown) {
 }
 
 void Co_Rtf::ActFenFormat() {
-  if (Co_Paragraph* shown = paragraph_.Loaded(); shown && shown->Visible()) return shown->Unload();
+  if (Co_Paragraph* shown = paragraph_.Loaded(); shown && shown->Visible()) {
+    shown->Unload();
+    return;
+  }
   IgnoringErrors([this] {
     Co_Paragraph& dialog = paragraph_.Get();
     dialog.SetPosFenPara();

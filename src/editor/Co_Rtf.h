@@ -65,7 +65,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   void Form_Load() override;
   void Form_Activate() override;
   void Form_Resize() override;
-  void Form_QueryUnload() override;
+  bool Form_QueryUnload() override;
   void Form_Unload() override;
   bool Form_KeyDown(const KeyStroke& key) override;
 

@@ -20,10 +20,6 @@ constexpr std::string_view kEmptyRtf =
     "\\viewkind4\\uc1\\pard\\fs20\r\n"
     "\\par }\r\n";
 
-FileType TypeOf(std::u16string_view format) {
-  return format == u"txt" ? FileType::Text : FileType::Rtf;
-}
-
 /// What the host is to find in the note after a save: nothing new once it has written another one.
 void PutNote(Session& session, std::u16string value) {
   if (!session.noteReplaced) session.note = std::move(value);
@@ -65,6 +61,10 @@ std::u16string FormatDe(std::u16string_view path) {
   return Lower(path.substr(path.size() - std::min<std::size_t>(path.size(), 3)));
 }
 
+FileType TypeDe(std::u16string_view format) {
+  return format == u"txt" ? FileType::Text : FileType::Rtf;
+}
+
 bool EstNoteRtf(std::u16string_view note) { return Lower(note.substr(0, 5)) == u"{\\rtf"; }
 
 std::u16string ContenuNote(EditorWindow& editor) {
@@ -80,7 +80,7 @@ bool LoadFilAndIni(EditorWindow& editor) {
   Session& session = editor.Values();
   editor.ShowStatus(1, EspDvtDer(session.documentPath));
   session.format = FormatDe(session.documentPath);
-  const FileType type = TypeOf(session.format);
+  const FileType type = TypeDe(session.format);
   editor.ShowFormat(type == FileType::Text ? u"Format Text (txt)" : u"Format RichText (rtf)");
   const bool loaded =
       IgnoringErrors([&] { editor.Document().LoadFile(session.documentPath, type); });
@@ -99,7 +99,7 @@ Sauvegarde SauveFich(EditorWindow& editor, bool ask) {
                              .icon = MessageBox::Icon::Question}) != MessageBox::Answer::Yes)
     return Sauvegarde::Refusee;
   if (!IgnoringErrors(
-          [&] { editor.Document().SaveFile(session.documentPath, TypeOf(session.format)); })) {
+          [&] { editor.Document().SaveFile(session.documentPath, TypeDe(session.format)); })) {
     editor.ShowStatus(2, u"Enregistrement impossible");
     return Sauvegarde::Impossible;
   }
@@ -140,17 +140,6 @@ bool SupprimerDocument(EditorWindow& editor) {
   session.deleted = true;
   PutNote(session, {});
   return true;
-}
-
-void CopieDeSecours(EditorWindow& editor) {
-  const Session& session = editor.Values();
-  const Files& files = editor.Services().FileSystem();
-  const std::u16string folder = editor.Services().SpecialFolders().Documents() + u"\\Secours";
-  const std::u16string name = u"_" + FileName(session.documentPath);
-  std::u16string path = folder + name;
-  for (std::int64_t copy = 2; files.Exists(path); ++copy)
-    path = folder + u"_" + NumberText(copy) + name;
-  IgnoringErrors([&] { editor.Document().SaveFile(path, TypeOf(session.format)); });
 }
 
 }  // namespace lumenote

@@ -23,6 +23,8 @@ void CreFVideRtf(Files& files, std::u16string_view path);
 std::u16string EspDvtDer(std::u16string_view path);
 /// The lower-cased last three characters of a path.
 std::u16string FormatDe(std::u16string_view path);
+/// How a document of that format is written and read.
+FileType TypeDe(std::u16string_view format);
 /// Whether a note is RTF source: it begins with "{\rtf" in any letter case.
 bool EstNoteRtf(std::u16string_view note);
 
@@ -46,8 +48,5 @@ void Maj_StrOrChm(EditorWindow& editor);
 void EnregistrerNote(EditorWindow& editor);
 /// Asks, deletes the document and empties the note; whether the window is to be closed.
 bool SupprimerDocument(EditorWindow& editor);
-/// Keeps the content in the personal documents folder, as "Secours_" and the file name, beside any
-/// earlier copy of that name.
-void CopieDeSecours(EditorWindow& editor);
 
 }  // namespace lumenote

@@ -3,6 +3,7 @@
 #include "base/RuntimeError.h"
 #include "control/Session.h"
 #include "editor/DocumentStorage.h"
+#include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -50,21 +51,28 @@ Fermeture CloseFile(EditorWindow& editor) {
   Session& session = editor.Values();
   const Sauvegarde outcome = SauveFich(editor, true);
   if (!session.noteReplaced) session.note = session.documentPath;
-  if (outcome == Sauvegarde::Impossible)
-    CopieDeSecours(editor);
-  else
+  if (outcome != Sauvegarde::Impossible)
     DeleteStaleTwin(editor);
+  else if (!GarderNote(editor, Cause::EnregistrementImpossible))
+    return Fermeture::Annulee;
   return Fermeture::Complete;
+}
+
+/// The host has another note now, so that this one can only go to a rescue copy.
+bool KeepUnreturned(EditorWindow& editor) {
+  const Session& session = editor.Values();
+  return !session.noteReplaced || GarderNote(editor, Cause::EnregistrementImpossible);
 }
 
 Fermeture CloseString(EditorWindow& editor) {
   Session& session = editor.Values();
   if (!session.dirty) return Fermeture::Complete;
-  if (session.noteReplaced) CopieDeSecours(editor);
-  if (editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
-                      .buttons = MessageBox::Buttons::YesNo,
-                      .icon = MessageBox::Icon::Question}) != MessageBox::Answer::Yes)
-    return Fermeture::SansGeometrie;
+  const bool accepted = editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
+                                        .buttons = MessageBox::Buttons::YesNo,
+                                        .icon = MessageBox::Icon::Question}) ==
+                        MessageBox::Answer::Yes;
+  if (!KeepUnreturned(editor)) return Fermeture::Annulee;
+  if (!accepted) return Fermeture::SansGeometrie;
   if (!session.noteReplaced) session.note = ContenuNote(editor);
   return Fermeture::Complete;
 }
@@ -90,11 +98,11 @@ void PreparerDocument(EditorWindow& editor) {
 Fermeture TerminerEdition(EditorWindow& editor) {
   const Session& session = editor.Values();
   if (session.readOnly && session.dirty) {
-    if (!session.fileMode && session.noteReplaced) CopieDeSecours(editor);
     editor.AskOver({.text = u"Attribut 'Lecture Seule'\r\nAbandon des modifications",
                     .title = u"Attention",
                     .icon = MessageBox::Icon::Exclamation});
-    return Fermeture::SansGeometrie;
+    const bool kept = session.fileMode || KeepUnreturned(editor);
+    return kept ? Fermeture::SansGeometrie : Fermeture::Annulee;
   }
   return session.fileMode ? CloseFile(editor) : CloseString(editor);
 }

@@ -12,9 +12,10 @@ void CommencerSession(Session& session);
 /// mode: writes the note to its temporary file, which becomes the document path.
 void PreparerDocument(EditorWindow& editor);
 
-enum class Fermeture { Complete, SansGeometrie };
+enum class Fermeture { Complete, SansGeometrie, Annulee };
 /// The closing decision: refuses the changes of a read-only note, asks whether to save, deletes the
-/// twin of the note's file. Says whether the geometry is to be stored.
+/// twin of the note's file. Says whether the geometry is to be stored, or that the window must stay,
+/// since the note could be kept nowhere else.
 Fermeture TerminerEdition(EditorWindow& editor);
 /// Takes a note that the host wrote while the editor was open for the next opening.
 void CloreSession(Session& session);

@@ -163,13 +163,15 @@ void Form::UserActivate() {
   Raise([this] { Form_Activate(); });
 }
 
-void Form::Unload() {
-  if (!loaded_ || unloading_) return;
+bool Form::Unload() {
+  if (!loaded_ || unloading_) return !loaded_;
   const Scope scope(*this);
   unloading_ = true;
-  Raise([this] { Form_QueryUnload(); });
-  Raise([this] { Form_Unload(); });
+  bool mayGo = true;
+  Raise([&] { mayGo = Form_QueryUnload(); });
+  if (mayGo) Raise([this] { Form_Unload(); });
   unloading_ = false;
+  if (!mayGo) return false;
   loaded_ = false;
   visible_ = false;
   unloaded_ = true;
@@ -178,6 +180,7 @@ void Form::Unload() {
   Form* next = windows_.Deactivate(*this);
   windows_.Leave(*this);
   if (next) next->UserActivate();
+  return true;
 }
 
 // --- events

@@ -64,9 +64,9 @@ class Form : public Element, public Container {
   void ShowModal();
   bool IsModal() const { return modal_; }
   Form* OwnerWindow() const { return ownerWindow_; }
-  /// Raises QueryUnload and Unload at once, then leaves the list of windows. A form that is not
-  /// loaded, or is unloading already, is left alone.
-  void Unload();
+  /// Raises QueryUnload and, unless that refuses, Unload at once, then leaves the list of windows. A
+  /// form that is not loaded, or is unloading already, is left alone. False when the window stays.
+  bool Unload();
 
   /// What Return and Escape click, where the control with the keyboard has no use for them; null
   /// for none. A button that is disabled or hidden is not clicked.
@@ -120,7 +120,8 @@ class Form : public Element, public Container {
   virtual void Form_MouseMove(const MouseEvent&) {}
   /// A shortcut of the window; whether the key is one.
   virtual bool Form_KeyDown(const KeyStroke&) { return false; }
-  virtual void Form_QueryUnload() {}
+  /// Whether the window may go.
+  virtual bool Form_QueryUnload() { return true; }
   virtual void Form_Unload() {}
 
  private:

@@ -30,6 +30,9 @@ class Files {
   /// other names), or its folder is closed, the file itself is written, with a backup until that is
   /// done. Refuses a read-only file (PathAccess).
   virtual void Write(std::u16string_view path, std::string_view bytes) = 0;
+  /// Makes a new file that only this user may read, whole or not at all. PermissionDenied where
+  /// something of that name stands.
+  virtual void WriteNew(std::u16string_view path, std::string_view bytes) = 0;
   /// A read-only file is deleted only with `force` (else PermissionDenied).
   virtual void Delete(std::u16string_view path, bool force) = 0;
   /// Copies content and mode; an existing target is overwritten unless read-only

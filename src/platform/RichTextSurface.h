@@ -114,6 +114,8 @@ class RichTextSurface {
   /// raises InvalidArgument (5); a failure leaves the content as it is.
   virtual void LoadFile(std::u16string_view path, FileType type) = 0;
   virtual void SaveFile(std::u16string_view path, FileType type) = 0;
+  /// What `SaveFile` would write.
+  virtual std::string FileBytes(FileType type) const = 0;
 
   /// Searches from `start` to the end of the document, selects the match and returns its position;
   /// -1, with the selection left alone, when there is none or `text` is empty. A negative start

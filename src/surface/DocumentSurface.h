@@ -68,6 +68,7 @@ class DocumentSurface final : public RichTextSurface {
 
   void LoadFile(std::u16string_view path, FileType type) override { transfer_.Load(path, type); }
   void SaveFile(std::u16string_view path, FileType type) override { transfer_.Save(path, type); }
+  std::string FileBytes(FileType type) const override { return transfer_.Bytes(type); }
 
   Position Find(std::u16string_view text, Position start, int options) override;
   void Span(std::u16string_view set, bool forward, bool negate) override;

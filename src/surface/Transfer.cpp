@@ -110,10 +110,14 @@ void Transfer::Load(std::u16string_view path, FileType type) {
   LoadRtf(bytes);
 }
 
-void Transfer::Save(std::u16string_view path, FileType type) {
+std::string Transfer::Bytes(FileType type) const {
   const Document& document = core_.Content();
-  files_.Write(path, type == FileType::Rtf ? WriteRtf(document)
-                                           : Encode1252(document.Text(0, document.Length())));
+  return type == FileType::Rtf ? WriteRtf(document)
+                               : Encode1252(document.Text(0, document.Length()));
+}
+
+void Transfer::Save(std::u16string_view path, FileType type) {
+  files_.Write(path, Bytes(type));
   core_.CloseStep();
 }
 

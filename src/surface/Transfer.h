@@ -25,6 +25,8 @@ class Transfer {
 
   void Load(std::u16string_view path, FileType type);
   void Save(std::u16string_view path, FileType type);
+  /// What `Save` writes.
+  std::string Bytes(FileType type) const;
 
   bool CanPaste() const { return clipboard_.HasContent(); }
   void Copy();

@@ -79,6 +79,12 @@ void PosixFiles::Write(std::u16string_view path, std::string_view bytes) {
   SaveFile(drives_.ToNative(path), bytes, kNewFileMode, backups_);
 }
 
+void PosixFiles::WriteNew(std::u16string_view path, std::string_view bytes) {
+  AtomicFile file(drives_.ToNative(path), S_IRUSR | S_IWUSR);
+  file.Write(bytes);
+  file.CommitAsNew();
+}
+
 void PosixFiles::Delete(std::u16string_view path, bool force) {
   const std::string native = drives_.ToNative(path);
   const bool readOnly = IsReadOnlyMode(InfoOf(native));

@@ -25,6 +25,7 @@ class PosixFiles : public Files {
   /// Writes through a symbolic link: the link stays, the file behind it is replaced. May be called
   /// on any thread.
   void Write(std::u16string_view path, std::string_view bytes) override;
+  void WriteNew(std::u16string_view path, std::string_view bytes) override;
   /// Removes a symbolic link itself.
   void Delete(std::u16string_view path, bool force) override;
   void Copy(std::u16string_view from, std::u16string_view to) override;

@@ -1,0 +1,106 @@
+#include "editor/Secours.h"
+
+#include "base/Characters.h"
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "base/Strings.h"
+#include "control/Session.h"
+#include "editor/DocumentStorage.h"
+#include "forms/Platform.h"
+#include "platform/Files.h"
+#include "platform/Folders.h"
+#include "platform/Paths.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr std::int64_t kMostCopies = 100'000;  // of one name
+
+std::u16string_view FirstLine(Cause cause) {
+  switch (cause) {
+    case Cause::EnregistrementImpossible:
+      return u"Enregistrement impossible";
+    case Cause::FichierModifie:
+      return u"Fichier modifié par un autre programme";
+    case Cause::NoteRetrouvee:
+      return u"Note retrouvée après un arrêt";
+    case Cause::FichierTemporaire:
+      return u"Erreur fichier temporaire";
+  }
+  return {};
+}
+
+/// The last component by either separator, short enough to take a prefix on any file system.
+std::u16string NameToKeep(std::u16string_view path) {
+  constexpr std::size_t kLongest = 220;  // bytes of UTF-8
+  std::u16string name(path.substr(path.find_last_of(u"\\/") + 1));
+  const std::size_t extension = std::min(name.size(), name.rfind(u'.'));
+  std::u16string base = name.substr(0, extension);
+  name.erase(0, extension);
+  while (!base.empty() && ToUtf8(base + name).size() > kLongest) {
+    if (base.size() > 1 && IsPairAt(base, base.size() - 2)) base.pop_back();
+    base.pop_back();
+  }
+  return base + name;
+}
+
+std::u16string Numbered(std::int64_t copy, std::u16string_view name) {
+  const std::u16string number = copy > 1 ? NumberText(copy) + u"_" : std::u16string();
+  return u"Secours_" + number + std::u16string(name);
+}
+
+/// Tries name after name until `write` takes one. What stands already is never replaced, not even
+/// when another program puts it there at the same moment.
+template <class Write>
+std::optional<std::u16string> FirstFree(std::u16string_view name, Write write) {
+  for (std::int64_t copy = 1; copy <= kMostCopies; ++copy) {
+    try {
+      return write(Numbered(copy, name));
+    } catch (const RuntimeError& error) {
+      if (error.Number() != static_cast<int>(ErrorNumber::PermissionDenied)) break;
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
+                                            std::string_view bytes) {
+  const std::u16string kept = NameToKeep(name);
+  return FirstFree(kept, [&](const std::u16string& free) {
+    Files& files = machine.FileSystem();
+    std::u16string path = machine.SpecialFolders().Documents() + u"\\" + free;
+    if (files.Exists(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
+    files.WriteNew(path, bytes);
+    return path;
+  });
+}
+
+void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths) {
+  std::u16string text = std::u16string(FirstLine(cause)) + u"\r\nCopie de secours :";
+  for (const std::u16string& path : paths) text += u"\r\n" + path;
+  editor.AskOver({.text = text, .icon = MessageBox::Icon::Critical});
+}
+
+bool GarderSecours(EditorWindow& editor, Cause cause, std::u16string_view name,
+                   std::string_view bytes) {
+  const auto path = EcrireSecours(editor.Services(), name, bytes);
+  if (path) AnnoncerSecours(editor, cause, {*path});
+  return path.has_value();
+}
+
+bool GarderNote(EditorWindow& editor, Cause cause) {
+  const Session& session = editor.Values();
+  return GarderSecours(editor, cause, session.documentPath,
+                       editor.Document().FileBytes(TypeDe(session.format)));
+}
+
+bool GarderFichier(EditorWindow& editor, Cause cause, std::u16string_view path) {
+  std::string bytes;
+  return IgnoringErrors([&] { bytes = editor.Services().FileSystem().ReadAll(path); }) &&
+         GarderSecours(editor, cause, path, bytes);
+}
+
+}  // namespace lumenote

@@ -1,0 +1,38 @@
+// Rescue copies: what could not go where it belongs is kept in the personal documents, and told.
+#pragma once
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "editor/EditorWindow.h"
+
+namespace lumenote {
+
+class Platform;
+
+/// Why a copy is made; the box that names it begins with the cause.
+enum class Cause {
+  EnregistrementImpossible,
+  FichierModifie,
+  NoteRetrouvee,
+  FichierTemporaire,
+};
+
+/// Writes a new file "Secours_" and the last component of `name`, numbered where an earlier one has
+/// that name, into the personal documents, else into the component's state folder. Its path; empty
+/// when it could be written in neither.
+std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
+                                            std::string_view bytes);
+/// Tells of copies that were made for one cause, in one box.
+void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths);
+
+/// Writes a copy and tells of it. False, with nothing told, when it could not be written.
+bool GarderSecours(EditorWindow& editor, Cause cause, std::u16string_view name,
+                   std::string_view bytes);
+/// The same for the note as it stands in the window, under the name of its file.
+bool GarderNote(EditorWindow& editor, Cause cause);
+/// The same for a file as it is on the disk; false when it cannot be read, too.
+bool GarderFichier(EditorWindow& editor, Cause cause, std::u16string_view path);
+
+}  // namespace lumenote
