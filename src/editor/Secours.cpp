@@ -1,5 +1,8 @@
 #include "editor/Secours.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
@@ -9,7 +12,7 @@
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
-#include "platform/Paths.h"
+#include "platform/StateFolder.h"
 
 namespace lumenote {
 
@@ -69,13 +72,16 @@ std::optional<std::u16string> FirstFree(std::u16string_view name, Write write) {
 std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
                                             std::string_view bytes) {
   const std::u16string kept = NameToKeep(name);
-  return FirstFree(kept, [&](const std::u16string& free) {
+  auto path = FirstFree(kept, [&](const std::u16string& free) {
     Files& files = machine.FileSystem();
-    std::u16string path = machine.SpecialFolders().Documents() + u"\\" + free;
-    if (files.Exists(path)) throw RuntimeError(ErrorNumber::PermissionDenied);
-    files.WriteNew(path, bytes);
-    return path;
+    std::u16string wanted = machine.SpecialFolders().Documents() + u"\\" + free;
+    if (files.Exists(wanted)) throw RuntimeError(ErrorNumber::PermissionDenied);
+    files.WriteNew(wanted, bytes);
+    return wanted;
   });
+  if (path) return path;
+  return FirstFree(
+      kept, [&](const std::u16string& free) { return machine.State().KeepForGood(free, bytes); });
 }
 
 void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths) {

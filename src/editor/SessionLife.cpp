@@ -67,10 +67,10 @@ bool KeepUnreturned(EditorWindow& editor) {
 Fermeture CloseString(EditorWindow& editor) {
   Session& session = editor.Values();
   if (!session.dirty) return Fermeture::Complete;
-  const bool accepted = editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
-                                        .buttons = MessageBox::Buttons::YesNo,
-                                        .icon = MessageBox::Icon::Question}) ==
-                        MessageBox::Answer::Yes;
+  const bool accepted =
+      editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
+                      .buttons = MessageBox::Buttons::YesNo,
+                      .icon = MessageBox::Icon::Question}) == MessageBox::Answer::Yes;
   if (!KeepUnreturned(editor)) return Fermeture::Annulee;
   if (!accepted) return Fermeture::SansGeometrie;
   if (!session.noteReplaced) session.note = ContenuNote(editor);

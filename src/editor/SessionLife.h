@@ -14,8 +14,8 @@ void PreparerDocument(EditorWindow& editor);
 
 enum class Fermeture { Complete, SansGeometrie, Annulee };
 /// The closing decision: refuses the changes of a read-only note, asks whether to save, deletes the
-/// twin of the note's file. Says whether the geometry is to be stored, or that the window must stay,
-/// since the note could be kept nowhere else.
+/// twin of the note's file. Says whether the geometry is to be stored, or that the window must
+/// stay, since the note could be kept nowhere else.
 Fermeture TerminerEdition(EditorWindow& editor);
 /// Takes a note that the host wrote while the editor was open for the next opening.
 void CloreSession(Session& session);

@@ -1,0 +1,168 @@
+// A host with one control, a disk that can fail, and a user at its boxes.
+#pragma once
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "backends/headless/HeadlessBackend.h"
+#include "backends/posix/PosixSandbox.h"
+#include "base/RuntimeError.h"
+#include "control/CoBxRtf.h"
+#include "control/Component.h"
+#include "control/Session.h"
+#include "pilot/PilotPlatform.h"
+#include "pilot/ReportedFonts.h"
+
+namespace lumenote {
+
+using Texts = std::vector<std::u16string>;
+
+/// Answers each box as `answer` says, which may act as a host or a program would meanwhile.
+class AnsweringBackend : public Backend {
+ public:
+  std::unique_ptr<FormPeer> Realise(Form& form) override { return headless_.Realise(form); }
+  std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
+                                               Files& files) override {
+    return headless_.MakeSurface(box, clipboard, files);
+  }
+  MessageBox::Answer Show(const MessageBox& box, Form*) override {
+    shown.push_back(box.text);
+    return answer(box);
+  }
+  std::optional<FontChoice> ChooseFont(const FontChoice&, Form*) override { return {}; }
+  void RunUntil(const std::function<bool()>& done) override {
+    while (!done()) headless_.Advance(RoundTrip::kInterval);
+  }
+  void Arm(Timer& timer) override { headless_.Arm(timer); }
+  void Disarm(Timer& timer) override { headless_.Disarm(timer); }
+  /// Lets so many ticks of a round trip pass.
+  void Tick(int count) { headless_.Advance(count * RoundTrip::kInterval); }
+
+  Texts shown;
+  std::function<MessageBox::Answer(const MessageBox&)> answer = DefaultAnswer;
+
+ private:
+  HeadlessBackend headless_;
+};
+
+/// The disk below, but for what a test lets happen before an operation on a path.
+class DisturbedFiles : public Files {
+ public:
+  explicit DisturbedFiles(Files& inner) : inner_(inner) {}
+
+  bool Exists(std::u16string_view path) const override { return inner_.Exists(path); }
+  bool IsReadOnly(std::u16string_view path) const override { return inner_.IsReadOnly(path); }
+  FileTime ModificationTime(std::u16string_view path) const override {
+    return inner_.ModificationTime(path);
+  }
+  std::string ReadAll(std::u16string_view path) const override {
+    before("read", path);
+    return inner_.ReadAll(path);
+  }
+  bool SameFile(std::u16string_view one, std::u16string_view other) const override {
+    return inner_.SameFile(one, other);
+  }
+  void Write(std::u16string_view path, std::string_view bytes) override {
+    before("write", path);
+    inner_.Write(path, bytes);
+  }
+  void WriteNew(std::u16string_view path, std::string_view bytes) override {
+    before("write", path);
+    inner_.WriteNew(path, bytes);
+  }
+  void Delete(std::u16string_view path, bool force) override {
+    before("delete", path);
+    inner_.Delete(path, force);
+  }
+  void Copy(std::u16string_view from, std::u16string_view to) override {
+    before("write", to);
+    inner_.Copy(from, to);
+  }
+  void Move(std::u16string_view from, std::u16string_view to) override {
+    before("write", to);
+    inner_.Move(from, to);
+  }
+
+  /// May raise, or change something on the disk.
+  std::function<void(std::string_view operation, std::u16string_view path)> before =
+      [](std::string_view, std::u16string_view) {};
+
+ private:
+  Files& inner_;
+};
+
+/// A sandbox with that disk.
+class DisturbedPlatform final : public Platform {
+ public:
+  DisturbedPlatform(Sandbox& sandbox, Backend& windows, const Fonts& fonts)
+      : inner_(sandbox, windows, fonts), files(sandbox.FileSystem()) {}
+
+  Backend& Windows() override { return inner_.Windows(); }
+  Settings& UserSettings() override { return inner_.UserSettings(); }
+  Files& FileSystem() override { return files; }
+  Folders& SpecialFolders() override { return inner_.SpecialFolders(); }
+  StateFolder& State() override { return inner_.State(); }
+  Clipboard& SystemClipboard() override { return inner_.SystemClipboard(); }
+  const Fonts& SystemFonts() override { return inner_.SystemFonts(); }
+  const Registry& MachineRegistry() override { return inner_.MachineRegistry(); }
+  const ProgramFolders& InstalledPrograms() override { return inner_.InstalledPrograms(); }
+  Processes& Programs() override { return inner_.Programs(); }
+
+ private:
+  PilotPlatform inner_;
+
+ public:
+  DisturbedFiles files;
+};
+
+class HostTest : public testing::Test {
+ protected:
+  void Open(std::u16string_view note) {
+    control.pCouleurFen(u"0");
+    control.pStrOrchm(note);
+    control.ShowMicroEdit();
+  }
+  /// Opens a file with that content.
+  void OpenFile(std::u16string_view path, std::string_view content) {
+    sandbox.MakeParents(path);
+    disk.Write(path, content);
+    Open(path);
+  }
+  Co_Rtf& Editor() { return control.Parts().editor.Get(); }
+  bool IsOpen() { return control.Parts().editor.Loaded() != nullptr; }
+  Session& Values() { return Editor().Values(); }
+  void Type(std::u16string_view text) { Editor().Document().SelText(text); }
+  std::u16string Shown() { return Editor().Document().Text(); }
+  void Answer(MessageBox::Answer yesOrNo) {
+    backend.answer = [=](const MessageBox& box) {
+      return box.buttons == MessageBox::Buttons::Ok ? MessageBox::Answer::Ok : yesOrNo;
+    };
+  }
+  /// From now on such operations on such paths fail as on a full disk.
+  void Fail(std::string_view operation, std::u16string_view part) {
+    platform.files.before = [=](std::string_view asked, std::u16string_view path) {
+      if (asked == operation && path.find(part) != path.npos)
+        throw RuntimeError(ErrorNumber::DiskFull);
+    };
+  }
+  /// Takes away both places of rescue copies.
+  void LeaveNoPlace() {
+    sandbox.Remove(u"C:\\Documents");
+    std::filesystem::remove_all(folder.Path() + "/state");
+    std::ofstream(folder.Path() + "/state") << "no folder";
+  }
+  Texts Boxes() { return std::exchange(backend.shown, {}); }
+
+  TemporaryFolder folder;
+  PosixSandbox sandbox{folder.Path()};
+  Files& disk = sandbox.FileSystem();
+  AnsweringBackend backend;
+  ReportedFonts fonts;
+  DisturbedPlatform platform{sandbox, backend, fonts};
+  CoBxRtf control{platform};
+};
+
+}  // namespace lumenote

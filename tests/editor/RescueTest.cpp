@@ -1,0 +1,88 @@
+// What becomes of a note that cannot go where it belongs.
+#include "editor/Host.h"
+#include "editor/Secours.h"
+
+namespace lumenote {
+namespace {
+
+const std::u16string kQuestion = u"Voulez-vous enregistrer les modifs en cours";
+
+class RescueTest : public HostTest {};
+
+TEST_F(RescueTest, WithoutAnyPlaceTheWindowStays) {
+  const struct {
+    bool fileMode, readOnly;
+  } cases[] = {{true, false}, {false, false}, {false, true}};
+  LeaveNoPlace();
+  for (const auto& c : cases) {
+    control.pAttribut(c.readOnly ? u"readonly" : u"");
+    if (c.fileMode)
+      OpenFile(u"C:\\n\\a.txt", "avant");
+    else
+      Open(u"avant");
+    Type(u"pas ");
+    Fail("write", u"\\a.txt");
+    const std::u16string next = c.fileMode ? u"C:\\n\\a.txt" : u"autre";
+    if (!c.fileMode) control.pStrOrchm(next);
+    EXPECT_EQ(control.pStrOrchm(), next);
+    ASSERT_TRUE(IsOpen());
+    EXPECT_FALSE(Values().closed);
+    EXPECT_EQ(Shown(), u"pas avant");
+    EXPECT_TRUE(Values().dirty);
+    Editor().Pop.mnuPopQuitter.UserClick();
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(Boxes().size(), 2U);  // asked, or told of the read-only state, each time anew
+    sandbox.MakeParents(u"C:\\Documents\\x");
+    Editor().Pop.mnuPopQuitter.UserClick();
+    EXPECT_FALSE(IsOpen());
+    const std::u16string copy = c.fileMode ? u"Secours_a.txt" : u"Secours_TmpFlStr.txt";
+    EXPECT_EQ(Boxes().back(),
+              u"Enregistrement impossible\r\nCopie de secours :\r\nC:\\Documents\\" + copy);
+    EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\" + copy), "pas avant");
+    sandbox.Remove(u"C:\\Documents");
+    platform.files.before = [](std::string_view, std::u16string_view) {};
+  }
+}
+
+TEST_F(RescueTest, AWaitingHostGoesOnWaiting) {
+  LeaveNoPlace();
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Type(u"pas ");
+  Fail("write", u"\\a.txt");
+  int attempts = 0;
+  Timer& clock = Editor().Timer1;
+  clock.Tick = [&] {
+    if (++attempts == 2) platform.files.before = [](std::string_view, std::u16string_view) {};
+    Editor().Pop.mnuPopQuitter.UserClick();
+  };
+  clock.Enabled(true);
+  control.ShowMicroEdit(1);
+  EXPECT_EQ(attempts, 2);
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "pas avant");
+}
+
+TEST_F(RescueTest, CopiesTakeNamesThatNobodyHas) {
+  const std::u16string longest = std::u16string(120, u'é') + u".txt";
+  sandbox.MakeParents(u"C:\\Documents\\Secours_2_a.txt\\x");  // a folder
+  const struct {
+    std::u16string name, copy;
+  } cases[] = {{u"a.txt", u"Secours_a.txt"},
+               {u"C:\\n\\a.txt", u"Secours_3_a.txt"},
+               {u"C:\\n/a.txt", u"Secours_4_a.txt"},
+               {longest, u"Secours_" + std::u16string(108, u'é') + u".txt"},
+               {longest, u"Secours_2_" + std::u16string(108, u'é') + u".txt"},
+               {u"", u"Secours_"}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(EcrireSecours(platform, c.name, "x"), u"C:\\Documents\\" + c.copy);
+    EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\" + c.copy), "x");
+  }
+  // Another program takes the name between the look and the writing.
+  platform.files.before = [&](std::string_view, std::u16string_view path) {
+    if (path.ends_with(u"Secours_b.txt")) disk.Write(path, "theirs");
+  };
+  EXPECT_EQ(EcrireSecours(platform, u"b.txt", "ours"), u"C:\\Documents\\Secours_2_b.txt");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_b.txt"), "theirs");
+}
+
+}  // namespace
+}  // namespace lumenote
