@@ -64,7 +64,7 @@ class Form : public Element, public Container {
   void ShowModal();
   bool IsModal() const { return modal_; }
   Form* OwnerWindow() const { return ownerWindow_; }
-  /// Raises QueryUnload and, unless that refuses, Unload at once, then leaves the list of windows. A
+  /// Raises QueryUnload, which may refuse, and Unload at once, then leaves the list of windows. A
   /// form that is not loaded, or is unloading already, is left alone. False when the window stays.
   bool Unload();
 
