@@ -129,13 +129,13 @@ def check_round_trip(sandbox, panel, boxes, forms, dirty, shown, note):
 
 def check_kill(sandbox):
     note = sandbox.note()
-    torn = note not in (OLD, NEW)
+    torn = note not in (OLD, NEW, RESULT)
     require(not torn or OLD in sandbox.backups(), f"torn: {note!r}")
     backup = bool(sandbox.backups())
     done, lines = sandbox.run(SAVE)
     require(done.returncode == 0 and sandbox.note() == "nouveau " + note, "not usable again")
     require(not backup or OLD in sandbox.rescued(), "no rescue copy of the backup")
-    return "backup is a rescue copy" if backup else "new" if note == NEW else "old"
+    return "backup is a rescue copy" if backup else "old" if note == OLD else "new"
 
 
 Act = collections.namedtuple("Act", "script check linked kill", defaults=(False, False))
@@ -147,6 +147,8 @@ ACTS = {
     "round_trip": Act(ROUND_TRIP, check_round_trip),
     "kill": Act(SAVE, check_kill, kill=True),
     "kill_in_place": Act(SAVE, check_kill, linked=True, kill=True),
+    "kill_closing": Act(CLOSE, check_kill, kill=True),
+    "kill_round_trip": Act(ROUND_TRIP, check_kill, kill=True),
 }
 
 

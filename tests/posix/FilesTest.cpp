@@ -104,6 +104,11 @@ TEST_F(FilesTest, WritingKeepsAccessListAndAttributes) {
     const ssize_t size = getxattr(Native("a.txt").c_str(), name.c_str(), bytes, sizeof bytes);
     EXPECT_EQ(std::string(bytes, size < 0 ? 0 : static_cast<std::size_t>(size)), value) << name;
   }
+  // A list that the folder gives new files is not the old file's.
+  Put("b.txt", "old");
+  ASSERT_EQ(setxattr(Native("").c_str(), "system.posix_acl_default", kList, sizeof kList, 0), 0);
+  files_.Write(u"C:\\b.txt", "new");
+  EXPECT_EQ(listxattr(Native("b.txt").c_str(), nullptr, 0), 0);
 }
 
 TEST_F(FilesTest, AReadOnlyFileIsRefusedWhoeverRuns) {
@@ -232,15 +237,21 @@ TEST_F(FilesTest, ASaveRemovesWhatDeadSavesOfItsNoteLeft) {
 }
 
 TEST_F(FilesTest, SavesOfOneNoteAtATimeLeaveOneOfThemWhole) {
-  std::vector<std::thread> threads;
-  for (char c = 'a'; c < 'i'; ++c)
-    threads.emplace_back([this, c] {
-      for (int i = 0; i < 20; ++i) files_.Write(u"C:\\a.txt", std::string(5000, c));
-    });
-  for (std::thread& thread : threads) thread.join();
-  const std::string last = Get("a.txt");
-  EXPECT_EQ(last, std::string(5000, last[0]));
-  EXPECT_EQ(CountOfEntries(), 1U);
+  for (const bool inPlace : {false, true}) {
+    if (inPlace) fs::create_hard_link(Native("a.txt"), Native("b.txt"));
+    std::vector<std::thread> threads;
+    for (char c = 'a'; c < 'e'; ++c)
+      threads.emplace_back([this, c] {
+        for (std::size_t i = 1; i < 6; ++i)
+          IgnoringErrors([&] { files_.Write(u"C:\\a.txt", std::string(i * 5000, c)); });
+      });
+    for (std::thread& thread : threads) thread.join();
+    const std::string last = Get("a.txt");
+    EXPECT_EQ(last, std::string(last.size(), last[0]));
+    EXPECT_EQ(last.size() % 5000, 0U);
+    EXPECT_EQ(CountOfEntries(), inPlace ? 3U : 1U);  // the other name, the state folder
+  }
+  EXPECT_TRUE(Left().empty());
 }
 
 TEST_F(FilesTest, FailuresHaveTheirNumbers) {

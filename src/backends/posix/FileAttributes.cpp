@@ -62,10 +62,20 @@ bool CopyExtended(int from, int to) {
   return same;
 }
 
-bool SameOwnerAndMode(const struct stat& old, int file) {
+bool HasOwner(int file, const struct stat& old) {
   struct stat info = {};
-  return fstat(file, &info) == 0 && info.st_uid == old.st_uid && info.st_gid == old.st_gid &&
-         (info.st_mode & kPermissions) == (old.st_mode & kPermissions);
+  return fstat(file, &info) == 0 && info.st_uid == old.st_uid && info.st_gid == old.st_gid;
+}
+
+bool HasMode(int file, mode_t mode) {
+  struct stat info = {};
+  return fstat(file, &info) == 0 && (info.st_mode & kPermissions) == mode;
+}
+
+/// Returns whether the file has the group at least.
+bool TakeOwner(int file, const struct stat& old) {
+  return HasOwner(file, old) || fchown(file, old.st_uid, old.st_gid) == 0 ||
+         fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0;
 }
 
 }  // namespace
@@ -73,13 +83,12 @@ bool SameOwnerAndMode(const struct stat& old, int file) {
 bool CopyAttributes(const Descriptor& from, const Descriptor& to) {
   struct stat old = {};
   if (fstat(from.Number(), &old) != 0) return false;
-  mode_t mode = old.st_mode & kPermissions;
-  if (fchown(to.Number(), old.st_uid, old.st_gid) != 0 &&
-      fchown(to.Number(), static_cast<uid_t>(-1), old.st_gid) != 0)
-    mode = (mode & ~S_IRWXG) | (mode & S_IRWXO) << 3;
-  const bool same = CopyExtended(from.Number(), to.Number());
-  fchmod(to.Number(), mode);
-  return same && SameOwnerAndMode(old, to.Number());
+  const int file = to.Number();
+  const mode_t wanted = old.st_mode & kPermissions;
+  const bool inGroup = TakeOwner(file, old);
+  const bool same = CopyExtended(from.Number(), file);
+  fchmod(file, inGroup ? wanted : (wanted & ~S_IRWXG) | (wanted & S_IRWXO) << 3);
+  return same && HasOwner(file, old) && HasMode(file, wanted);
 }
 
 }  // namespace lumenote
