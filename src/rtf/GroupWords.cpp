@@ -22,6 +22,7 @@ void Interpreter::Marker(int, const Token& word) {
   if (!marker_.empty() || placingMarker_) return;
   marker_ = tokens_.Source(from, tokens_.At());
   markerPlace_ = keeper_.Here();
+  markerFallback_ = State().fallback;
   markerWord_ = word.text;
 }
 

@@ -164,12 +164,12 @@ void Interpreter::Open() {
 void Interpreter::Close() {
   swallow_ = 0;
   borderOf_ = WordScope::None;
-  if (uncounted_ > 0) {
-    --uncounted_;
-  } else if (groups_.size() > outermost_) {
-    EndField(State(), Outer());
+  if (uncounted_ > 0) return void(--uncounted_);
+  EndField(State(), Outer());
+  if (groups_.size() > outermost_)
     groups_.pop_back();
-  }
+  else
+    State().fieldAt = GroupState::kNowhere;
 }
 
 /// A word counts as one of the characters behind a \u, but only one that stands for a character is
@@ -253,6 +253,7 @@ void Interpreter::PlaceMarker() {
   const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
   groups_.push_back(groups_.back());
   State().fieldAt = GroupState::kNowhere;
+  State().fallback = markerFallback_;
   numbering_ = IsNumbered();
   if (numbering_ && target_ == RtfTarget::Document)
     EnterField({.opening = "{\\" + std::string(markerWord_), .closing = "}", .numbers = true});

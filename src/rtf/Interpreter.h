@@ -192,6 +192,7 @@ class Interpreter {
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
   std::string_view markerWord_;
   Keeper::Place markerPlace_ = 0;  // in what is kept
+  int markerFallback_ = 1;         // \uc where it stands
 };
 
 }  // namespace lumenote

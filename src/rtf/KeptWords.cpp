@@ -127,6 +127,13 @@ std::string WithAssociated(std::string words, std::string_view marker, const Tok
   return words.replace(from, end - from, part + SourceOf(word));
 }
 
+/// Of groups, only those of numberings stand among words.
+std::string WithoutNumbering(std::string_view words) {
+  std::string others;
+  ForEachWord(words, [&](const Token& word) { others += SourceOf(word); });
+  return others;
+}
+
 void EraseWord(std::string_view name, std::string& words) {
   const std::size_t at = Find(name, words);
   if (at == words.npos) return;

@@ -32,6 +32,8 @@ std::string WithMarker(std::string words, std::string_view marker);
 /// Adds a word to the part of that marker.
 std::string WithAssociated(std::string words, std::string_view marker, const Token& word);
 
+/// `words` without what numbers the paragraph.
+std::string WithoutNumbering(std::string_view words);
 /// Takes the word called `name` out of `words`, with its number.
 void EraseWord(std::string_view name, std::string& words);
 /// Whether kept source begins a page, column or section, and so a paragraph.

@@ -38,11 +38,12 @@ void Interpreter::Unicode(int, const Token& word) {
 void Interpreter::Break(int, const Token&) { BreakAs({}); }
 
 /// What comes ahead of any break. Returns false where there can be none: a list number does not end
-/// its paragraph.
+/// its paragraph. Even one that comes to nothing would be a break elsewhere, so it counts as laid.
 bool Interpreter::ReachBreak() {
   if (numbering_) return false;
   BeginBody();
   if (!marker_.empty()) PlaceMarker();
+  ++laid_;
   return true;
 }
 

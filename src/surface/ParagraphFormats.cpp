@@ -1,6 +1,7 @@
 #include "surface/ParagraphFormats.h"
 
 #include "base/RuntimeError.h"
+#include "rtf/KeptWords.h"
 
 namespace lumenote {
 
@@ -59,9 +60,12 @@ std::optional<bool> ParagraphFormats::Bullet() const {
 }
 
 void ParagraphFormats::Bullet(UndoKind kind, bool on) {
-  Apply(kind, [=](ParaFormat& format) {
-    if (format.bullet != on) format.list = 0;
+  Apply(kind, [this, on](ParaFormat& format) {
+    if ((format.bullet != 0) == on) return;
     format.bullet = on;
+    format.list = 0;
+    auto& words = core_.Formats().words;
+    format.words = words.Intern({WithoutNumbering(words[format.words].source)});
   });
 }
 

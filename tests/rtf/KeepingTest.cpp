@@ -142,6 +142,19 @@ TEST(Keeping, FieldsThatBeginANoteKeepItsText) {
   }
 }
 
+TEST(Keeping, AFieldMeansTheSameWhereverAnEditPutsIt) {
+  const std::string_view sources[] = {
+      R"({\rtf1{\field{\sect{\*\fldinst X}}{\fldrslt abc}}})",
+      R"({\rtf1{\field{\row\page{\*\fldinst X}}{\fldrslt abc}}})",
+      R"({\rtf1 a\field{\*\fldinst X}}\*\fldinst Y}{\fldrslt b}c})"};
+  for (const std::string_view source : sources) {
+    Document document = Read(source);
+    EXPECT_EQ(LossOf(document), "") << source;
+    document.Replace(1, 1, PlainFragment(u"x", 0, 0));
+    EXPECT_EQ(TextOf(Read(WriteRtf(document))), "axbc") << source;
+  }
+}
+
 TEST(Keeping, ASelectionLeavesTheHeadAndItsNumbersBehind) {
   const Document document =
       Read(R"({\rtf1{\info{\title t}}\pard\s1\ls2\keep{\listtext 1.\tab}a\par})");

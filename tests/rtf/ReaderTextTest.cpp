@@ -35,6 +35,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1\ansicpg936 \'b1\'b1a\u20140\'be\'a9})", "北a京\uFFFD"},
         Case{R"({\rtf1\ansicpg949\uc2\u44032\'b0\'a1\'c7\'d1})", "가한"},
         Case{R"({\rtf1\ansicpg950{\listtext 1.\tab}\'a4\'a4\par\'a4})", "1.\t中\n\uFFFD"},
+        Case{R"({\rtf1{\listtext\u46?\tab}{\field\uc2{\fldrslt a}}})", ".\ta"},
         Case{R"({\rtf1\ansicpg932{\pntext \'82\'50}\'82\'51})", "１２"}));
 
 INSTANTIATE_TEST_SUITE_P(

@@ -99,7 +99,8 @@ std::string LossOf(const Document& document) {
   const Document again = Read(written);
   if (again.Text(0, again.Length()) != document.Text(0, document.Length()))
     return "text: " + TextOf(again);
-  if (WriteRtf(again) != written) return "bytes: " + WriteRtf(again);
+  const std::string rewritten = WriteRtf(again);
+  if (rewritten != written) return "bytes: " + written + "became: " + rewritten;
   for (std::size_t i = 0; i < written.size(); ++i) {
     const char c = written[i];
     const bool ofLineEnd =

@@ -39,7 +39,11 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"pages.rtf", "é При čř αβ ış \uF06C Ж"}, Case{"nul_bytes.rtf", " Zoe gras"},
         Case{"truncated.rtf", "Le début est là, la fin"},
         Case{"stray_braces.rtf", "Un deux trois\nquatre"},
-        Case{"wild_numbers.rtf", "grand\uFFFD texte"}));
+        Case{"wild_numbers.rtf", "grand\uFFFD texte"},
+        Case{"fields.rtf", "Voir un lien, p.\n1.\tbacX fin"},
+        Case{"tables.rtf", "ab\tc\td\ne\nf\ng\nh\ni\nk\nl\nm"},
+        Case{"characters.rtf",
+             "ソ π€😀ł\u007F\u0001\u0001\u007Fé\v\u00A0\u00AD\u2011\t\t.\nfin\nz"}));
 
 TEST(Samples, DamagedAtRandomStayReadable) {
   std::mt19937 random(7);

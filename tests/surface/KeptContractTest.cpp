@@ -55,6 +55,14 @@ TEST_F(SurfaceContract, BeginningsThatStayDoNotCutRunsOfUndo) {
   }
 }
 
+TEST_F(SurfaceContract, ABulletTakesThePlaceOfANumber) {
+  s.TextRTF(u"{\\rtf1\\pard{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody}\\keepn a}");
+  s.SelBullet(true);
+  EXPECT_EQ(s.TextRTF().find(u"pnlvlbody"), std::u16string::npos);
+  EXPECT_NE(s.TextRTF().find(u"pnlvlblt"), std::u16string::npos);
+  EXPECT_NE(s.TextRTF().find(u"\\keepn"), std::u16string::npos);
+}
+
 TEST_F(SurfaceContract, TextTypedInALinkJoinsItWhateverItBegins) {
   s.TextRTF(u"{\\rtf1 a\\par\\page{\\field{\\*\\fldinst H}{\\fldrslt bc}}}");
   surface.UserSelect(4, 4);
