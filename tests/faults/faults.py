@@ -134,8 +134,8 @@ def check_kill(sandbox):
     backup = bool(sandbox.backups())
     done, lines = sandbox.run(SAVE)
     require(done.returncode == 0 and sandbox.note() == "nouveau " + note, "not usable again")
-    require(not backup or OLD in sandbox.rescued(), "no rescue copy of the backup")
-    return "backup is a rescue copy" if backup else "old" if note == OLD else "new"
+    require(not backup or note == OLD or OLD in sandbox.rescued(), "no rescue copy of the backup")
+    return "torn, rescue copy" if torn else "old" if note == OLD else "new"
 
 
 Act = collections.namedtuple("Act", "script check linked kill", defaults=(False, False))

@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace lumenote {
 namespace {
@@ -23,10 +24,6 @@ constexpr std::string_view kPlaces = "XXXXXX";
 constexpr std::string_view kMark =
     "Temporary folder of Lumenote, removed a week after its last use\n";
 constexpr time_t kLeftAlone = 7 * 24 * 3600;  // seconds
-
-int OpenFolder(const std::string& path) {
-  return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-}
 
 bool IsOwn(const Descriptor& file) {
   struct stat info = {};
@@ -41,13 +38,18 @@ bool PutMark(const std::string& folder) {
   return mark.IsOpen() && WriteAll(mark, kMark) == 0;
 }
 
-bool HasMark(const Descriptor& folder) {
-  const Descriptor mark(openat(folder.Number(), TemporaryFolder::kMarkName,
-                               O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+/// Not open where there is none, or one that is not ours.
+Descriptor MarkIn(const std::string& path) {
+  const Descriptor folder(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+  if (!folder.IsOpen() || !IsOwn(folder)) return Descriptor();
+  Descriptor mark(openat(folder.Number(), TemporaryFolder::kMarkName,
+                         O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   std::string bytes(kMark.size() + 1, '\0');
-  return mark.IsOpen() && IsOwn(mark) &&
-         read(mark.Number(), bytes.data(), bytes.size()) == static_cast<ssize_t>(kMark.size()) &&
-         bytes.starts_with(kMark);
+  const bool ours =
+      mark.IsOpen() && IsOwn(mark) &&
+      read(mark.Number(), bytes.data(), bytes.size()) == static_cast<ssize_t>(kMark.size()) &&
+      bytes.starts_with(kMark);
+  return ours ? std::move(mark) : Descriptor();
 }
 
 time_t LastWrite(const fs::path& path) {
@@ -67,11 +69,10 @@ time_t LastChange(const fs::path& folder) {
 }
 
 void RemoveIfAbandoned(const fs::path& path) {
-  const Descriptor folder(OpenFolder(path.string()));
-  if (!folder.IsOpen() || !IsOwn(folder) || !HasMark(folder)) return;
-  if (LastChange(path) > time(nullptr) - kLeftAlone) return;
+  const Descriptor mark = MarkIn(path.string());
+  if (!mark.IsOpen() || LastChange(path) > time(nullptr) - kLeftAlone) return;
   std::error_code ignored;
-  if (flock(folder.Number(), LOCK_EX | LOCK_NB) == 0) fs::remove_all(path, ignored);
+  if (flock(mark.Number(), LOCK_EX | LOCK_NB) == 0) fs::remove_all(path, ignored);
 }
 
 void RemoveAbandonedIn(const std::string& parent) {
@@ -100,13 +101,13 @@ TemporaryFolder::TemporaryFolder() {
   const char* chosen = std::getenv("TMPDIR");
   if (chosen && chosen[0] == '/') path_ = MakeIn(chosen);
   if (path_.empty()) path_ = MakeIn("/tmp");
-  lock_.emplace(OpenFolder(path_));
+  lock_.emplace(MarkIn(path_));
   if (lock_->IsOpen()) flock(lock_->Number(), LOCK_SH | LOCK_NB);
 }
 
 TemporaryFolder::~TemporaryFolder() {
   std::error_code ignored;
-  if (!keep_ && HasMark(Descriptor(OpenFolder(path_)))) fs::remove_all(path_, ignored);
+  if (!keep_ && MarkIn(path_).IsOpen()) fs::remove_all(path_, ignored);
 }
 
 }  // namespace lumenote
