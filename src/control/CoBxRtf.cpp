@@ -5,6 +5,7 @@
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "control/Component.h"
+#include "editor/Secours.h"
 #include "editor/SessionLife.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
@@ -23,7 +24,10 @@ bool IsReadOnlyAccess(std::u16string_view access) {
 
 CoBxRtf::CoBxRtf(Platform& platform) : parts_(std::make_unique<Component>(platform)) {}
 
-CoBxRtf::~CoBxRtf() = default;
+CoBxRtf::~CoBxRtf() {
+  if (Co_Rtf* editor = parts_->editor.Loaded()) editor->Unload();
+  GarderRetours(parts_->windows.Machine(), parts_->session.workLeft);
+}
 
 void CoBxRtf::pNomAppli(std::u16string_view name) { parts_->session.applicationName = name; }
 

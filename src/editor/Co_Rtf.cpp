@@ -170,10 +170,13 @@ void Co_Rtf::Form_Activate() {
   LocatePrograms();
   PreparerDocument(*this);
   session_.loaded = LoadFilAndIni(*this);
-  if (session_.loaded)
-    Bx_RTF.SetFocus();
-  else
+  session_.changes = 0;
+  if (!session_.loaded) {
     Unload();
+    return;
+  }
+  Bx_RTF.SetFocus();
+  exchange_.CollectLeft();
 }
 
 void Co_Rtf::Form_Resize() {
@@ -199,6 +202,7 @@ void Co_Rtf::Form_Unload() {
   if (Co_Trouver* dialog = find_.Loaded()) dialog->Unload();
   if (Co_Symbols* dialog = symbols_.Loaded()) dialog->Unload();
   if (Co_Apprendre* dialog = learn_.Loaded()) dialog->Unload();
+  exchange_.Leave();
   CloreSession(session_);
 }
 
@@ -243,6 +247,13 @@ void Co_Rtf::LocatePrograms() {
 void Co_Rtf::Watch(bool on) {
   TimerWpd.Interval(RoundTrip::kInterval);
   TimerWpd.Enabled(on);
+}
+
+bool Co_Rtf::WriteNote() {
+  std::vector<std::u16string> kept;
+  const bool written = EcrireDocument(*this, kept);
+  AnnoncerSecours(*this, Cause::FichierModifie, kept);
+  return written;
 }
 
 void Co_Rtf::Describe(MemberTable& members) {
@@ -343,7 +354,10 @@ void Co_Rtf::Align(int alignment) {
 
 // --- document and context menu
 
-void Co_Rtf::Bx_RTF_Change() { session_.dirty = true; }
+void Co_Rtf::Bx_RTF_Change() {
+  session_.dirty = true;
+  ++session_.changes;
+}
 
 void Co_Rtf::Bx_RTF_MouseUp(const MouseEvent& event) {
   if (event.button != MouseButton::Right) return;

@@ -4,6 +4,7 @@
 #include "editor/DocumentStorage.h"
 #include "editor/EditorWindow.h"
 #include "editor/MenuBar.h"
+#include "editor/Secours.h"
 #include "extapps/ProgramTable.h"
 #include "extapps/RoundTrip.h"
 #include "find/Co_Trouver.h"
@@ -80,7 +81,12 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
 
   // RoundTripDesk
   void Watch(bool on) override;
+  bool WriteNote() override;
   void Reload() override { LoadFilAndIni(*this); }
+  bool KeepNote() override { return GarderNote(*this, Cause::FichierModifie); }
+  bool KeepFile(Cause cause, std::u16string_view path) override {
+    return GarderFichier(*this, cause, path);
+  }
 
   void LocatePrograms();
   void Bx_RTF_Change();

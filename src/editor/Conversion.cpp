@@ -1,11 +1,14 @@
 #include "editor/Conversion.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "base/RuntimeError.h"
 #include "control/Session.h"
 #include "editor/ContextMenu.h"
 #include "editor/DocumentStorage.h"
+#include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -52,9 +55,12 @@ void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
   session.format = format;
   session.dirty = false;
   editor.ShowFormat(label);
-  if (!files.SameFile(old, path)) IgnoringErrors([&] { files.Delete(old, true); });
+  std::vector<std::u16string> kept;
+  if (!files.SameFile(old, path)) SupprimerFichier(editor, kept);
   session.documentPath = path;
+  NoterFichier(editor);
   editor.ShowStatus(1, EspDvtDer(path));
+  AnnoncerSecours(editor, Cause::FichierModifie, kept);
 }
 
 }  // namespace

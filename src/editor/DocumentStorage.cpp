@@ -1,11 +1,16 @@
 #include "editor/DocumentStorage.h"
 
+#include <algorithm>
+#include <functional>
+#include <optional>
+
 #include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "base/Windows1252.h"
 #include "control/Session.h"
+#include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
@@ -25,13 +30,25 @@ void PutNote(Session& session, std::u16string value) {
   if (!session.noteReplaced) session.note = std::move(value);
 }
 
-/// Of the twins x.txt and x.rtf only the one just saved stays.
-void DeleteTwin(Files& files, std::u16string_view shownPath, std::u16string_view format,
-                std::u16string_view note) {
-  const std::u16string text = ChmExts(shownPath, u"txt");
-  const std::u16string rtf = ChmExts(text, u"rtf");
-  if (!files.Exists(text) || !files.Exists(rtf)) return;
-  SupprimerAutreFichier(files, format == u"txt" ? rtf : text, note);
+FileState StateOf(std::u16string_view path, std::string_view bytes) {
+  return {std::u16string(path), bytes.size(), std::hash<std::string_view>{}(bytes)};
+}
+
+/// What another program has made of the document's file since this editor read or wrote it, kept as
+/// a rescue copy: its path, empty when there is no such thing. Raises PathAccess when there is no
+/// place for it, and what reading the file raises.
+std::optional<std::u16string> KeepOtherState(EditorWindow& editor) {
+  Session& session = editor.Values();
+  const std::u16string& path = session.documentPath;
+  const Files& files = editor.Services().FileSystem();
+  if (!files.Exists(path)) return std::nullopt;
+  const std::string bytes = files.ReadAll(path);
+  FileState state = StateOf(path, bytes);
+  if (state == session.onDisk) return std::nullopt;
+  auto copy = EcrireSecours(editor.Services(), path, bytes);
+  if (!copy) throw RuntimeError(ErrorNumber::PathAccess);
+  session.onDisk = std::move(state);
+  return copy;
 }
 
 }  // namespace
@@ -76,15 +93,27 @@ void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16strin
   IgnoringErrors([&] { files.Delete(path, false); });
 }
 
+void NoterFichier(EditorWindow& editor) {
+  Session& session = editor.Values();
+  session.onDisk = {};
+  IgnoringErrors([&] {
+    session.onDisk =
+        StateOf(session.documentPath, editor.Services().FileSystem().ReadAll(session.documentPath));
+  });
+}
+
 bool LoadFilAndIni(EditorWindow& editor) {
   Session& session = editor.Values();
   editor.ShowStatus(1, EspDvtDer(session.documentPath));
   session.format = FormatDe(session.documentPath);
   const FileType type = TypeDe(session.format);
   editor.ShowFormat(type == FileType::Text ? u"Format Text (txt)" : u"Format RichText (rtf)");
+  const FileState before = session.onDisk;
+  NoterFichier(editor);
   const bool loaded =
       IgnoringErrors([&] { editor.Document().LoadFile(session.documentPath, type); });
-  session.dirty = false;
+  session.dirty = session.loaded && !loaded;
+  if (!loaded) session.onDisk = before;
   if (!loaded)
     editor.AskOver({.text = u"Impossible de Charger le fichier\r\n" + session.documentPath,
                     .icon = MessageBox::Icon::Critical});
@@ -98,16 +127,45 @@ Sauvegarde SauveFich(EditorWindow& editor, bool ask) {
                              .buttons = MessageBox::Buttons::YesNo,
                              .icon = MessageBox::Icon::Question}) != MessageBox::Answer::Yes)
     return Sauvegarde::Refusee;
-  if (!IgnoringErrors(
-          [&] { editor.Document().SaveFile(session.documentPath, TypeDe(session.format)); })) {
-    editor.ShowStatus(2, u"Enregistrement impossible");
-    return Sauvegarde::Impossible;
+  std::vector<std::u16string> kept;
+  const bool written = EcrireDocument(editor, kept);
+  if (written) {
+    SupprimerJumeaux(editor);
+    session.dirty = false;
   }
-  editor.ShowStatus(2, u"");
-  DeleteTwin(editor.Services().FileSystem(), TrimBlanks(editor.Status(1)), session.format,
-             session.documentPath);
-  session.dirty = false;
-  return Sauvegarde::Faite;
+  AnnoncerSecours(editor, Cause::FichierModifie, kept);
+  return written ? Sauvegarde::Faite : Sauvegarde::Impossible;
+}
+
+bool EcrireDocument(EditorWindow& editor, std::vector<std::u16string>& kept) {
+  Session& session = editor.Values();
+  const Files& files = editor.Services().FileSystem();
+  const auto turn = session.fileMode ? files.TakeTurn(session.documentPath) : nullptr;
+  const bool written = IgnoringErrors([&] {
+    if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
+    const std::string bytes =
+        editor.Document().SaveFile(session.documentPath, TypeDe(session.format));
+    session.onDisk = StateOf(session.documentPath, bytes);
+  });
+  editor.ShowStatus(2, written ? u"" : u"Enregistrement impossible");
+  return written;
+}
+
+void SupprimerFichier(EditorWindow& editor, std::vector<std::u16string>& kept) {
+  IgnoringErrors([&] {
+    if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
+    editor.Services().FileSystem().Delete(editor.Values().documentPath, true);
+  });
+}
+
+void SupprimerJumeaux(EditorWindow& editor) {
+  const Session& session = editor.Values();
+  Files& files = editor.Services().FileSystem();
+  const auto texts = EnTouteCasse(files, ChmExts(session.documentPath, u"txt"));
+  const auto rtfs = EnTouteCasse(files, ChmExts(session.documentPath, u"rtf"));
+  if (texts.empty() || rtfs.empty()) return;
+  for (const std::u16string& twin : session.format == u"txt" ? rtfs : texts)
+    SupprimerAutreFichier(files, twin, session.documentPath);
 }
 
 void Maj_StrOrChm(EditorWindow& editor) {
@@ -124,19 +182,25 @@ void EnregistrerNote(EditorWindow& editor) {
 
 bool SupprimerDocument(EditorWindow& editor) {
   Session& session = editor.Values();
+  const std::u16string named = session.documentPath;
   editor.SuspendreDessus();
-  const std::u16string& named = session.noteReplaced ? session.documentPath : session.note;
   const bool confirmed =
       editor.Ask(
           {.text = u"Voulez-vous vraiment supprimer le document\r\nen cours d'édition:\r\n" + named,
            .title = u"Attention",
            .buttons = MessageBox::Buttons::YesNo,
            .icon = MessageBox::Icon::Question}) == MessageBox::Answer::Yes;
-  if (!confirmed) {
+  // Another event may have closed the editor or moved the note while the question stood.
+  if (!confirmed || session.closed || session.documentPath != named) {
     editor.RetablirDessus();
     return false;
   }
-  IgnoringErrors([&] { editor.Services().FileSystem().Delete(session.documentPath, true); });
+  Files& files = editor.Services().FileSystem();
+  IgnoringErrors([&] { files.Delete(named, true); });
+  if (files.Exists(named)) {
+    editor.RetablirDessus();
+    throw RuntimeError(ErrorNumber::PermissionDenied);
+  }
   session.deleted = true;
   PutNote(session, {});
   return true;

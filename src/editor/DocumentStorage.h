@@ -2,6 +2,7 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "editor/EditorWindow.h"
 
@@ -35,8 +36,22 @@ std::u16string ContenuNote(EditorWindow& editor);
 void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16string_view note);
 
 /// Loads the document path into the surface and sets status, format and label. A failure is told to
-/// the user and returned as false.
+/// the user and returned as false; a document that was in the surface before is dirty then.
 bool LoadFilAndIni(EditorWindow& editor);
+
+/// Remembers the file at the document path as it is now, so that a save can tell what another
+/// program makes of it.
+void NoterFichier(EditorWindow& editor);
+/// Writes the document to its path. Where another program has changed the file, that state is first
+/// kept as a rescue copy, whose path is added to `kept` for the user to be told of when all is
+/// done. A failure, of the copy too, leaves the old file whole and stands in the second status
+/// panel.
+bool EcrireDocument(EditorWindow& editor, std::vector<std::u16string>& kept);
+/// Deletes the file at the document path, read-only or not, after the same care; it stays where its
+/// state could not be kept.
+void SupprimerFichier(EditorWindow& editor, std::vector<std::u16string>& kept);
+/// A note kept as x.txt leaves no x.rtf beside it, nor the reverse, in whatever letter case.
+void SupprimerJumeaux(EditorWindow& editor);
 
 enum class Sauvegarde { Inutile, Refusee, Faite, Impossible };
 /// Saves a dirty document, after a question when `ask`, and deletes its stale twin. A failure
@@ -46,7 +61,9 @@ Sauvegarde SauveFich(EditorWindow& editor, bool ask);
 void Maj_StrOrChm(EditorWindow& editor);
 /// Saves without asking and updates the note.
 void EnregistrerNote(EditorWindow& editor);
-/// Asks, deletes the document and empties the note; whether the window is to be closed.
+/// Asks, deletes the file that the question named and empties the note; whether the window is to be
+/// closed. Nothing is deleted when the editor has closed meanwhile or edits another file by then.
+/// Raises PermissionDenied when the file stays.
 bool SupprimerDocument(EditorWindow& editor);
 
 }  // namespace lumenote

@@ -15,6 +15,14 @@ class Platform;
 class TempFolder;
 struct Session;
 
+/// Why a rescue copy is made; the box that names it begins with the cause.
+enum class Cause {
+  EnregistrementImpossible,
+  FichierModifie,
+  NoteRetrouvee,
+  FichierTemporaire,
+};
+
 class EditorWindow {
  public:
   virtual ~EditorWindow() = default;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "base/Characters.h"
 #include "base/Numbers.h"
@@ -9,6 +10,8 @@
 #include "base/Strings.h"
 #include "control/Session.h"
 #include "editor/DocumentStorage.h"
+#include "extapps/WorkCopies.h"
+#include "forms/Backend.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
@@ -67,6 +70,12 @@ std::optional<std::u16string> FirstFree(std::u16string_view name, Write write) {
   return std::nullopt;
 }
 
+MessageBox BoxFor(Cause cause, const std::vector<std::u16string>& paths) {
+  std::u16string text = std::u16string(FirstLine(cause)) + u"\r\nCopie de secours :";
+  for (const std::u16string& path : paths) text += u"\r\n" + path;
+  return {.text = text, .icon = MessageBox::Icon::Critical};
+}
+
 }  // namespace
 
 std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
@@ -85,9 +94,7 @@ std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_vi
 }
 
 void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths) {
-  std::u16string text = std::u16string(FirstLine(cause)) + u"\r\nCopie de secours :";
-  for (const std::u16string& path : paths) text += u"\r\n" + path;
-  editor.AskOver({.text = text, .icon = MessageBox::Icon::Critical});
+  if (!paths.empty()) editor.AskOver(BoxFor(cause, paths));
 }
 
 bool GarderSecours(EditorWindow& editor, Cause cause, std::u16string_view name,
@@ -107,6 +114,20 @@ bool GarderFichier(EditorWindow& editor, Cause cause, std::u16string_view path) 
   std::string bytes;
   return IgnoringErrors([&] { bytes = editor.Services().FileSystem().ReadAll(path); }) &&
          GarderSecours(editor, cause, path, bytes);
+}
+
+void GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
+  Files& files = machine.FileSystem();
+  std::vector<std::u16string> paths;
+  for (const WorkSent& sent : left) {
+    const std::u16string result = Reprendre(files, sent);
+    if (result.empty()) continue;
+    IgnoringErrors([&] {
+      if (auto copy = EcrireSecours(machine, result, files.ReadAll(result)))
+        paths.push_back(std::move(*copy));
+    });
+  }
+  if (!paths.empty()) machine.Windows().Show(BoxFor(Cause::FichierModifie, paths), nullptr);
 }
 
 }  // namespace lumenote

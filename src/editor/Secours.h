@@ -5,26 +5,19 @@
 #include <string_view>
 #include <vector>
 
+#include "control/Session.h"
 #include "editor/EditorWindow.h"
 
 namespace lumenote {
 
 class Platform;
 
-/// Why a copy is made; the box that names it begins with the cause.
-enum class Cause {
-  EnregistrementImpossible,
-  FichierModifie,
-  NoteRetrouvee,
-  FichierTemporaire,
-};
-
 /// Writes a new file "Secours_" and the last component of `name`, numbered where an earlier one has
 /// that name, into the personal documents, else into the component's state folder. Its path; empty
 /// when it could be written in neither.
 std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
                                             std::string_view bytes);
-/// Tells of copies that were made for one cause, in one box.
+/// Tells of copies that were made for one cause, in one box; of none, nothing.
 void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths);
 
 /// Writes a copy and tells of it. False, with nothing told, when it could not be written.
@@ -34,5 +27,8 @@ bool GarderSecours(EditorWindow& editor, Cause cause, std::u16string_view name,
 bool GarderNote(EditorWindow& editor, Cause cause);
 /// The same for a file as it is on the disk; false when it cannot be read, too.
 bool GarderFichier(EditorWindow& editor, Cause cause, std::u16string_view path);
+
+/// The same for what programs have saved for editors that have closed, when their control goes.
+void GarderRetours(Platform& machine, const std::vector<WorkSent>& left);
 
 }  // namespace lumenote

@@ -35,45 +35,35 @@ void PrepareString(EditorWindow& editor) {
   IgnoringErrors([&] { EcritNoteTemp(files, session.documentPath, session.note); });
 }
 
-/// A note kept as x.txt never leaves a stale x.rtf beside it, nor the reverse.
-void DeleteStaleTwin(EditorWindow& editor) {
-  const Session& session = editor.Values();
-  Files& files = editor.Services().FileSystem();
-  const std::u16string text = ChmExts(session.documentPath, u"txt");
-  const std::u16string rtf = ChmExts(session.documentPath, u"rtf");
-  if (session.format == u"txt" && files.Exists(text))
-    SupprimerAutreFichier(files, rtf, session.documentPath);
-  else if (files.Exists(rtf))
-    SupprimerAutreFichier(files, text, session.documentPath);
-}
-
 Fermeture CloseFile(EditorWindow& editor) {
   Session& session = editor.Values();
   const Sauvegarde outcome = SauveFich(editor, true);
   if (!session.noteReplaced) session.note = session.documentPath;
   if (outcome != Sauvegarde::Impossible)
-    DeleteStaleTwin(editor);
+    SupprimerJumeaux(editor);
   else if (!GarderNote(editor, Cause::EnregistrementImpossible))
     return Fermeture::Annulee;
   return Fermeture::Complete;
 }
 
-/// The host has another note now, so that this one can only go to a rescue copy.
+/// The host has another note now, so that this one can only go to a rescue copy; what was edited
+/// counts though a conversion or a reload has cleared the dirty flag since.
 bool KeepUnreturned(EditorWindow& editor) {
   const Session& session = editor.Values();
-  return !session.noteReplaced || GarderNote(editor, Cause::EnregistrementImpossible);
+  const bool lost = session.noteReplaced && session.changes > 0;
+  return !lost || GarderNote(editor, Cause::EnregistrementImpossible);
 }
 
 Fermeture CloseString(EditorWindow& editor) {
   Session& session = editor.Values();
-  if (!session.dirty) return Fermeture::Complete;
+  const bool asked = session.dirty;
   const bool accepted =
-      editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
-                      .buttons = MessageBox::Buttons::YesNo,
-                      .icon = MessageBox::Icon::Question}) == MessageBox::Answer::Yes;
+      !asked || editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
+                                .buttons = MessageBox::Buttons::YesNo,
+                                .icon = MessageBox::Icon::Question}) == MessageBox::Answer::Yes;
   if (!KeepUnreturned(editor)) return Fermeture::Annulee;
   if (!accepted) return Fermeture::SansGeometrie;
-  if (!session.noteReplaced) session.note = ContenuNote(editor);
+  if (asked && !session.noteReplaced) session.note = ContenuNote(editor);
   return Fermeture::Complete;
 }
 
@@ -86,6 +76,8 @@ void CommencerSession(Session& session) {
   session.dirty = false;
   session.onTop = false;
   session.menuBarShown = false;
+  session.changes = 0;
+  session.onDisk = {};
 }
 
 void PreparerDocument(EditorWindow& editor) {
@@ -109,9 +101,13 @@ Fermeture TerminerEdition(EditorWindow& editor) {
 
 void CloreSession(Session& session) {
   session.closed = true;
-  if (!session.noteReplaced) return;
-  session.noteReplaced = false;
-  PrendreNote(session, session.note);
+  if (session.noteReplaced) {
+    session.noteReplaced = false;
+    PrendreNote(session, session.note);
+  } else if (session.deleted) {
+    PrendreNote(session, {});
+    session.deleted = true;
+  }
 }
 
 void PrendreNote(Session& session, std::u16string_view noteOrPath) {

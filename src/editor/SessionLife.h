@@ -17,7 +17,8 @@ enum class Fermeture { Complete, SansGeometrie, Annulee };
 /// twin of the note's file. Says whether the geometry is to be stored, or that the window must
 /// stay, since the note could be kept nowhere else.
 Fermeture TerminerEdition(EditorWindow& editor);
-/// Takes a note that the host wrote while the editor was open for the next opening.
+/// Takes a note that the host wrote while the editor was open for the next opening; after a
+/// deletion an empty one, so that the file is not created again.
 void CloreSession(Session& session);
 /// The host's note or path, and the mode that it means.
 void PrendreNote(Session& session, std::u16string_view noteOrPath);

@@ -2,7 +2,10 @@
 #include "extapps/RoundTrip.h"
 
 #include <array>
+#include <utility>
+#include <vector>
 
+#include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "control/Session.h"
@@ -33,7 +36,7 @@ constexpr std::array kToTerminate{Program::Qjot, Program::WinWord, Program::Atla
 
 const Editor& EditorOf(std::int32_t type) { return kEditors[static_cast<std::size_t>(type) - 1]; }
 
-constexpr int kPatience = 5000 / RoundTrip::kInterval;  // ticks for programs to end
+constexpr int kPatience = 250;  // ticks in which programs may end
 
 // The states that do something; those between them let time pass.
 enum State : std::int16_t {
@@ -54,7 +57,12 @@ enum State : std::int16_t {
 Files& RoundTrip::Disk() { return editor_.Services().FileSystem(); }
 
 const std::u16string& RoundTrip::ProgramPath() const {
-  return programs_.Path(EditorOf(type_).program);
+  return programs_.Path(EditorOf(running_).program);
+}
+
+std::u16string RoundTrip::ProgramCopies() const {
+  if (running_ == kQjot) return ParentFolder(ProgramPath());
+  return running_ == kAtlantis ? programs_.dossierDocuments : std::u16string();
 }
 
 // --- commands
@@ -66,7 +74,7 @@ void RoundTrip::Appeler(std::int32_t type) {
                              std::u16string(EditorOf(type).abandoned),
                      .title = u"Attention",
                      .icon = MessageBox::Icon::Exclamation});
-  } else if (!Disk().Exists(ProgramPath())) {
+  } else if (!Disk().Exists(programs_.Path(EditorOf(type).program))) {
     editor_.AskOver(
         {.text = std::u16string(EditorOf(type).missing), .icon = MessageBox::Icon::Critical});
   } else {
@@ -76,19 +84,21 @@ void RoundTrip::Appeler(std::int32_t type) {
 
 void RoundTrip::EditerAvec(std::int32_t type) {
   type_ = type;
-  if (!Disk().Exists(ProgramPath())) {
+  if (!Disk().Exists(programs_.Path(EditorOf(type).program))) {
     editor_.AskOver({.text = std::u16string(EditorOf(type).notStarted) + u"\r\nEdition impossible",
                      .icon = MessageBox::Icon::Information});
     return;
   }
   desk_.Watch(true);
+  running_ = type;
   state_ = 0;
+  waiting_ = false;
 }
 
 // --- the watch
 
 void RoundTrip::TimerWpd_Timer() {
-  state_ = ToInt16(std::int64_t{state_} + 1);
+  if (!waiting_) state_ = ToInt16(std::int64_t{state_} + 1);
   switch (state_) {
     case kTerminate:
       return TerminateInstances();
@@ -97,8 +107,7 @@ void RoundTrip::TimerWpd_Timer() {
     case kWrite:
       return WriteNote();
     case kTakeTime:
-      IgnoringErrors([&] { workTime_ = TimeOfWorkFile(); });
-      return;
+      return TakeTime();
     case kStart:
       return StartProgram();
     case kPoll:
@@ -145,54 +154,62 @@ std::optional<SystemError> RoundTrip::Lingering() {
 /// not be there yet, lest it write that.
 void RoundTrip::AwaitInstances() {
   const auto error = Lingering();
-  if (error && patience_-- > 0) {
-    state_ = kTerminate;
-    return;
-  }
-  PrepareWorkFile();
+  waiting_ = error && --patience_ > 0;
+  if (waiting_) return;
+  if (KeepEarlierResults())
+    PrepareWorkFile();
+  else
+    GiveUp();
   if (error) Report(*error);
 }
 
 void RoundTrip::PrepareWorkFile() {
-  const std::u16string name = FileName(editor_.Values().documentPath);
-  workFile_ = FoldBackslashes(programs_.dossierTemp + u"\\Sav" + name);
-  PurgeSavNotes(Disk(), programs_.dossierTemp, name);
-  PurgeSavNotes(Disk(), programs_.dossierDocuments, name);
+  const std::u16string& document = editor_.Values().documentPath;
+  workFile_ = FoldBackslashes(programs_.dossierTemp + u"\\Sav" + FileName(document));
+  PurgeSavNotes(Disk(), programs_.dossierTemp, document);
+  PurgeSavNotes(Disk(), programs_.dossierDocuments, document);
   for (const Program program : {Program::Qjot, Program::Atlantis}) {
     const std::u16string folder = ParentFolder(programs_.Path(program));
-    if (!folder.empty()) PurgeSavNotes(Disk(), folder, name);
+    if (!folder.empty()) PurgeSavNotes(Disk(), folder, document);
   }
+  old_ = TracesDe(Disk(), workFile_, ProgramCopies());
 }
 
 void RoundTrip::WriteNote() {
   const Session& session = editor_.Values();
-  noteOnDisk_ = false;
+  workWritten_ = noteOnDisk_ = broughtBack_ = false;
   if (session.format != u"txt" && session.format != u"rtf") return;
   const FileType type = session.format == u"txt" ? FileType::Text : FileType::Rtf;
-  RichTextSurface& document = editor_.Document();
-  IgnoringErrors([&] { document.SaveFile(workFile_, type); });
-  noteOnDisk_ = IgnoringErrors([&] { document.SaveFile(session.documentPath, type); });
+  changesWritten_ = session.changes;
+  workWritten_ = IgnoringErrors([&] { editor_.Document().SaveFile(workFile_, type); });
+  noteOnDisk_ = desk_.WriteNote();
 }
 
-std::u16string RoundTrip::TimeOfWorkFile() {
-  return NumberText(Disk().ModificationTime(workFile_));
+void RoundTrip::TakeTime() {
+  workTime_.clear();
+  IgnoringErrors([&] { workTime_ = NumberText(Disk().ModificationTime(workFile_)); });
 }
 
 std::u16string RoundTrip::CommandLine() const {
   std::u16string line = Quoted(ProgramPath()) + u" " + Quoted(workFile_);
-  if (type_ == kWord) line += u" /l" + Quoted(editor_.Values().templatePath);
+  if (running_ == kWord) line += u" /l" + Quoted(editor_.Values().templatePath);
   return FoldBackslashes(line);
 }
 
 void RoundTrip::StartProgram() {
   process_ = 0;
-  if (!Disk().Exists(workFile_)) {
-    ReportWorkFile();
-    state_ = kFinish;
-    return;
-  }
+  if (!workWritten_ || !Disk().Exists(workFile_)) return GiveUp();
   editor_.SuspendreDessus();
+  sent_ = WorkSent{.path = workFile_, .folder = ProgramCopies(), .old = old_};
+  IgnoringErrors([&] { sent_->time = Disk().ModificationTime(workFile_); });
+  sent_->old.push_back({workFile_, sent_->time});
   process_ = processes_.Start(CommandLine());
+  sent_->process = process_;
+}
+
+void RoundTrip::GiveUp() {
+  ReportWorkFile();
+  state_ = kFinish;
 }
 
 void RoundTrip::ReportWorkFile() {
@@ -202,31 +219,76 @@ void RoundTrip::ReportWorkFile() {
 // --- the way back
 
 void RoundTrip::BringBack() {
-  Session& session = editor_.Values();
-  Files& files = Disk();
-  if (type_ == kQjot) RapatriFch(files, ParentFolder(ProgramPath()), workFile_);
-  if (type_ == kAtlantis) RapatriFch(files, programs_.dossierDocuments, workFile_);
+  if (!sent_) return;
+  const WorkSent sent = *std::exchange(sent_, std::nullopt);
+  const std::u16string result = Reprendre(Disk(), sent);
   IgnoringErrors([&] {
-    if (TimeOfWorkFile() == workTime_) files.Delete(workFile_, false);
+    if (Disk().ModificationTime(sent.path) == sent.time) Disk().Delete(sent.path, false);
   });
-  const std::u16string result = TrouverRetour(files, workFile_);
   if (result.empty()) return;
-  if (!EstEntier(files, result)) return ReportWorkFile();
   workFile_ = result;
-  const std::u16string extension = result.substr(result.size() - 3);
-  const std::u16string target =
-      extension == u"sav" ? session.documentPath : ChmExts(session.documentPath, extension);
-  IgnoringErrors([&] {
-    Remplacer(files, result, target);
-    session.documentPath = target;
-    noteOnDisk_ = true;
+  if (BringOnto(result)) return;
+  if (desk_.KeepFile(Cause::FichierTemporaire, result)) return;
+  ReportWorkFile();
+  editor_.Values().workLeft.push_back(sent);
+}
+
+std::u16string RoundTrip::TargetOf(std::u16string_view result) {
+  const std::u16string& document = editor_.Values().documentPath;
+  const std::u16string extension = Lower(result.substr(result.size() - 3));
+  if (extension == u"sav" || extension == editor_.Values().format) return document;
+  const std::u16string target = ChmExts(document, extension);
+  const auto existing = EnTouteCasse(Disk(), target);
+  return existing.empty() ? target : existing.front();
+}
+
+bool RoundTrip::BringOnto(const std::u16string& result) {
+  const std::u16string target = TargetOf(result);
+  const bool text = Lower(target).ends_with(u"txt");
+  const bool mayBeEmpty = editor_.Document().TextLength() == 0;
+  if (!EstEntier(Disk(), result, text, mayBeEmpty)) return false;
+  return IgnoringErrors([&] {
+    Remplacer(Disk(), result, target);
+    editor_.Values().documentPath = target;
+    noteOnDisk_ = broughtBack_ = true;
   });
 }
 
 void RoundTrip::Finish() {
   desk_.Watch(false);
-  if (noteOnDisk_) desk_.Reload();
+  if (noteOnDisk_ && KeepTyped() && !editor_.Values().closed) desk_.Reload();
   editor_.RetablirDessus();
+}
+
+/// What was typed behind the program's back does not survive the reload.
+bool RoundTrip::KeepTyped() {
+  const Session& session = editor_.Values();
+  const bool typed = session.changes != changesWritten_ && (session.dirty || broughtBack_);
+  return !typed || desk_.KeepNote();
+}
+
+// --- what comes too late
+
+void RoundTrip::Leave() {
+  if (sent_) editor_.Values().workLeft.push_back(*std::exchange(sent_, std::nullopt));
+}
+
+bool RoundTrip::KeepResult(const WorkSent& sent) {
+  const std::u16string result = Reprendre(Disk(), sent);
+  return result.empty() || desk_.KeepFile(Cause::FichierModifie, result);
+}
+
+bool RoundTrip::KeepEarlierResults() {
+  Leave();
+  std::vector<WorkSent>& left = editor_.Values().workLeft;
+  std::erase_if(left, [this](const WorkSent& sent) { return KeepResult(sent); });
+  return left.empty();
+}
+
+void RoundTrip::CollectLeft() {
+  std::erase_if(editor_.Values().workLeft, [this](const WorkSent& sent) {
+    return !processes_.IsRunning(sent.process) && KeepResult(sent);
+  });
 }
 
 }  // namespace lumenote

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "control/Session.h"
 #include "editor/EditorWindow.h"
 #include "extapps/ProgramTable.h"
 #include "platform/Processes.h"
@@ -19,15 +20,22 @@ class RoundTripDesk {
   virtual ~RoundTripDesk() = default;
   /// Switches the timer of the watch, which calls `TimerWpd_Timer` every 20 ms.
   virtual void Watch(bool on) = 0;
+  /// Writes the note to the document path, as a save does; whether it is there now.
+  virtual bool WriteNote() = 0;
   /// Loads the document path into the surface again; tells the user of a failure.
   virtual void Reload() = 0;
+  /// Rescue copies, of which the user is told: of the note as it stands in the surface, since its
+  /// file has been changed; of a file. False when none could be made.
+  virtual bool KeepNote() = 0;
+  virtual bool KeepFile(Cause cause, std::u16string_view path) = 0;
 };
 
 /// One exchange at a time, carried forward by the ticks of a timer; nothing here waits. At every
 /// moment the note is on the disk, in the surface, or in both: it is written before the program
 /// starts, only what the program saved whole replaces it, and at once or not at all, and the
-/// surface is loaded again only from a file that holds the note. Failing file operations are passed
-/// over.
+/// surface is loaded again only from a file that holds the note. What the program saved and what
+/// was typed meanwhile end in the note or in a rescue copy. Other failing file operations are
+/// passed over.
 class RoundTrip {
  public:
   static constexpr int kInterval = 20;  // milliseconds between two ticks
@@ -53,6 +61,11 @@ class RoundTrip {
   /// `Processes::Start` raises; the next tick goes on behind it.
   void TimerWpd_Timer();
 
+  /// The editor closes: the session remembers what a program still works on.
+  void Leave();
+  /// What programs that have ended saved for editors that had closed becomes a rescue copy.
+  void CollectLeft();
+
   std::int32_t TypeEditeur() const { return type_; }  // 1 Qjot, 2 Atlantis, 3 Word; 0 none yet
   std::int16_t EtatWpd() const { return state_; }
   const std::u16string& FichierTravail() const { return workFile_; }
@@ -75,29 +88,47 @@ class RoundTrip {
   std::optional<SystemError> Lingering();
   void AwaitInstances();
   void PrepareWorkFile();
+  /// False when something that a program saved could be kept nowhere, and must not be purged.
+  bool KeepEarlierResults();
+  bool KeepResult(const WorkSent& sent);
   void WriteNote();
+  void TakeTime();
   void StartProgram();
+  /// Tells that the work file is missing; the next tick ends the watch.
+  void GiveUp();
   void ReportWorkFile();
   void BringBack();
+  /// The file that a result replaces.
+  std::u16string TargetOf(std::u16string_view result);
+  bool BringOnto(const std::u16string& result);
   void Finish();
+  bool KeepTyped();
 
   Files& Disk();
   const std::u16string& ProgramPath() const;
+  /// Where the program leaves copies of its own; empty for none.
+  std::u16string ProgramCopies() const;
   std::u16string CommandLine() const;
-  std::u16string TimeOfWorkFile();
 
   EditorWindow& editor_;
   RoundTripDesk& desk_;
   const ProgramTable& programs_;
   Processes& processes_;
 
-  std::int32_t type_ = 0;
+  std::int32_t type_ = 0;     // as last chosen
+  std::int32_t running_ = 0;  // of this exchange
   std::int16_t state_ = 0;
+  bool waiting_ = false;  // for programs to end; the state stays
   int patience_ = 0;
   std::u16string workFile_;
   std::u16string workTime_;
+  bool workWritten_ = false;
+  WorkTraces old_;                // what the purge could not take away
+  std::optional<WorkSent> sent_;  // from the start of the program to the way back
   ProcessId process_ = 0;
-  bool noteOnDisk_ = false;  // the document path holds the note of this exchange
+  bool noteOnDisk_ = false;           // the document path holds the note of this exchange
+  bool broughtBack_ = false;          // and it is what the program saved
+  std::uint64_t changesWritten_ = 0;  // how far the note had changed when it was written
 };
 
 }  // namespace lumenote

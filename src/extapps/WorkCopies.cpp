@@ -1,55 +1,114 @@
 #include "extapps/WorkCopies.h"
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "rtf/Reader.h"
+#include "rtf/Tokenizer.h"
 
 namespace lumenote {
 
-void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view documentName) {
+namespace {
+
+constexpr std::u16string_view kForms[] = {u"rtf", u"txt", u"sav"};  // of a result, best first
+
+std::u16string CommonName(std::u16string_view folder, std::u16string_view extension) {
+  return FoldBackslashes(std::u16string(folder) + u"\\SavNotes." + std::u16string(extension));
+}
+
+FileTime TimeOf(const Files& files, std::u16string_view path) {
+  FileTime time = 0;
+  IgnoringErrors([&] { time = files.ModificationTime(path); });
+  return time;
+}
+
+/// The files at that path in whatever letter case of the extension, without those that have been
+/// as they are since `old` was taken; the latest one first.
+std::vector<std::u16string> Fresh(const Files& files, std::u16string_view path,
+                                  const WorkTraces& old) {
+  std::vector<std::u16string> found = EnTouteCasse(files, path);
+  std::erase_if(found, [&](const std::u16string& one) {
+    return std::find(old.begin(), old.end(), WorkTrace{one, TimeOf(files, one)}) != old.end();
+  });
+  std::stable_sort(found.begin(), found.end(), [&](const auto& a, const auto& b) {
+    return TimeOf(files, a) > TimeOf(files, b);
+  });
+  return found;
+}
+
+}  // namespace
+
+void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view document) {
   for (const std::u16string& name :
-       {u"Sav" + std::u16string(documentName), std::u16string(u"SavNotes.xxx")}) {
+       {u"Sav" + FileName(document), std::u16string(u"SavNotes.xxx")}) {
     const std::u16string path = FoldBackslashes(std::u16string(folder) + u"\\" + name);
-    for (const std::u16string_view extension : {u"txt", u"rtf", u"Rtf", u"doc"}) {
-      const std::u16string copy = ChmExts(path, extension);
-      if (files.Exists(copy)) IgnoringErrors([&] { files.Delete(copy, false); });
-    }
+    for (const std::u16string_view extension : {u"txt", u"rtf", u"doc"})
+      for (const std::u16string& copy : EnTouteCasse(files, ChmExts(path, extension)))
+        if (!files.SameFile(copy, document)) IgnoringErrors([&] { files.Delete(copy, false); });
   }
 }
 
-void RapatriFch(Files& files, std::u16string_view folder, std::u16string_view base) {
-  for (const std::u16string_view extension : {u"Rtf", u"rtf", u"txt"}) {
-    const std::u16string saved =
-        FoldBackslashes(std::u16string(folder) + u"\\SavNotes." + std::u16string(extension));
-    if (!files.Exists(saved)) continue;
-    const std::u16string copy = FoldBackslashes(ChmExts(base, Lower(extension)));
-    IgnoringErrors([&] { files.Delete(copy, true); });
-    IgnoringErrors([&] { files.Copy(saved, copy); });
+std::u16string RapatriFch(Files& files, std::u16string_view folder, std::u16string_view base,
+                          const WorkTraces& old) {
+  std::u16string left;
+  for (const std::u16string_view extension : {u"rtf", u"txt"}) {
+    const auto saved = Fresh(files, CommonName(folder, extension), old);
+    if (saved.empty()) continue;
+    const std::u16string copy = FoldBackslashes(ChmExts(base, extension));
+    IgnoringErrors([&] {
+      if (files.IsReadOnly(copy)) files.Delete(copy, true);
+    });
+    const bool brought = IgnoringErrors([&] { files.Copy(saved.front(), copy); });
+    if (!brought && left.empty()) left = saved.front();
   }
+  return left;
 }
 
-std::u16string TrouverRetour(const Files& files, std::u16string_view workFile) {
-  for (const std::u16string_view extension : {u"rtf", u"txt", u"sav"}) {
-    std::u16string path = ChmExts(workFile, extension);
-    if (files.Exists(path)) return path;
+std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
+                             const WorkTraces& old) {
+  for (const std::u16string_view form : kForms) {
+    const auto found = Fresh(files, ChmExts(workFile, form), old);
+    if (!found.empty()) return found.front();
   }
   return {};
 }
 
-bool EstEntier(const Files& files, std::u16string_view path) {
-  bool whole = false;
-  IgnoringErrors([&] {
-    const std::string bytes = files.ReadAll(path);
-    constexpr std::string_view kBehindTheEnd("\r\n \t\0", 5);
-    const std::size_t last = bytes.find_last_not_of(kBehindTheEnd);
-    whole = !path.ends_with(u".rtf") ||
-            (LooksLikeRtf(bytes) && last != std::string::npos && bytes[last] == '}');
-  });
-  return whole;
+WorkTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder) {
+  WorkTraces traces;
+  const auto note = [&](std::u16string_view path) {
+    for (const std::u16string& one : EnTouteCasse(files, path))
+      traces.push_back({one, TimeOf(files, one)});
+  };
+  for (const std::u16string_view form : kForms) {
+    note(ChmExts(workFile, form));
+    if (!folder.empty()) note(CommonName(folder, form));
+  }
+  return traces;
+}
+
+std::u16string Reprendre(Files& files, const WorkSent& sent) {
+  std::u16string left;
+  if (!sent.folder.empty()) left = RapatriFch(files, sent.folder, sent.path, sent.old);
+  return left.empty() ? TrouverRetour(files, sent.path, sent.old) : left;
+}
+
+bool EstEntier(const Files& files, std::u16string_view path, bool text, bool mayBeEmpty) {
+  std::string bytes;
+  if (!IgnoringErrors([&] { bytes = files.ReadAll(path); })) return false;
+  if (text) return mayBeEmpty || !bytes.empty();
+  if (!LooksLikeRtf(bytes)) return false;
+  Tokenizer tokens(bytes);
+  std::size_t depth = 0;
+  for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
+    if (token.kind == Token::Kind::Open) ++depth;
+    if (token.kind == Token::Kind::Close && --depth == 0) return true;
+  }
+  return false;
 }
 
 void Remplacer(Files& files, std::u16string_view from, std::u16string_view to) {

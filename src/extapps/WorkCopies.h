@@ -3,23 +3,34 @@
 #include <string>
 #include <string_view>
 
+#include "control/Session.h"
+
 namespace lumenote {
 
 class Files;
 
-/// Deletes the copies of the note called `documentName`, and those under the common name, that an
-/// earlier exchange left in `folder`, whatever their form. Failures are ignored.
-void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view documentName);
+/// Deletes the copies of the note at `document`, and those under the common name, that an earlier
+/// exchange left in `folder`, whatever their form; never the note itself. Failures are ignored.
+void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view document);
 /// Copies what a program has saved in `folder` under the common name beside the work file `base`,
-/// with its extension in small letters, over whatever stands there. Failures are ignored. No other
-/// form is taken: the purge leaves those alone, so that one could be an earlier exchange's.
-void RapatriFch(Files& files, std::u16string_view folder, std::u16string_view base);
-/// The work copy in one of the forms that programs save, in this order: rtf, txt, sav. Empty when
-/// there is none.
-std::u16string TrouverRetour(const Files& files, std::u16string_view workFile);
-/// Whether the file at `path` can be what a program meant to save: RTF behind its extension goes
-/// from the first brace to the last one. False for one that cannot be read.
-bool EstEntier(const Files& files, std::u16string_view path);
+/// with its extension in small letters, over whatever stands there, but for those that `old` tells
+/// of. No other form is taken: the purge leaves those alone, so that one could be an earlier
+/// exchange's. The first one that could not be copied; empty when there is none.
+std::u16string RapatriFch(Files& files, std::u16string_view folder, std::u16string_view base,
+                          const WorkTraces& old = {});
+/// The work copy in one of the forms that programs save, in this order: rtf, txt, sav; the latest
+/// one of a form. Empty when there is none but those that `old` tells of.
+std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
+                             const WorkTraces& old = {});
+/// Everything that the two above would find now.
+WorkTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder);
+/// What the program has saved of a work file that was sent out, those copies included that it keeps
+/// in a folder of its own. Empty when there is nothing.
+std::u16string Reprendre(Files& files, const WorkSent& sent);
+
+/// Whether the file at `path` can be what a program meant to save: RTF is closed as often as it is
+/// opened, a text has bytes, unless `mayBeEmpty`. False for one that cannot be read.
+bool EstEntier(const Files& files, std::u16string_view path, bool text, bool mayBeEmpty);
 /// Puts `from` in the place of `to` at once or not at all. A read-only `to` is an error.
 void Remplacer(Files& files, std::u16string_view from, std::u16string_view to);
 

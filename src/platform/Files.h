@@ -1,6 +1,7 @@
 // Files of the real system, addressed by drive-letter paths.
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,11 @@ class Files {
   virtual std::string ReadAll(std::u16string_view path) const = 0;
   /// Whether both paths lead to one file, links of either kind followed; never fails.
   virtual bool SameFile(std::u16string_view one, std::u16string_view other) const = 0;
+
+  /// A turn at the files of the folder, lest two programs save one note at the same moment: it
+  /// lasts as long as the object. Waits a few seconds for another's turn, then goes on without.
+  /// Never fails.
+  virtual std::shared_ptr<void> TakeTurn(std::u16string_view path) const = 0;
 
   /// Replaces the file's content at once or not at all: writes beside it, flushes, renames. Where
   /// that would lose what the file has beside its content (owner, mode, access list, attributes,

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "base/Characters.h"
 #include "base/Strings.h"
+#include "platform/Files.h"
 
 namespace lumenote {
 
@@ -38,6 +40,21 @@ std::u16string FoldBackslashes(std::u16string_view path) {
 std::u16string ChmExts(std::u16string_view path, std::u16string_view extension) {
   if (path.size() < 3) return {};
   return std::u16string(path.substr(0, path.size() - 3)).append(extension);
+}
+
+std::vector<std::u16string> EnTouteCasse(const Files& files, std::u16string_view path) {
+  std::vector<std::u16string> spellings{std::u16string(path)};
+  for (std::size_t place = path.size() - std::min<std::size_t>(path.size(), 3); place < path.size();
+       ++place) {
+    for (std::size_t known = spellings.size(); known-- > 0;) {
+      std::u16string other = spellings[known];
+      const char16_t c = other[place];
+      other[place] = ToUpper(c) == c ? ToLower(c) : ToUpper(c);
+      if (other[place] != c) spellings.push_back(std::move(other));
+    }
+  }
+  std::erase_if(spellings, [&](const std::u16string& one) { return !files.Exists(one); });
+  return spellings;
 }
 
 }  // namespace lumenote

@@ -2,8 +2,11 @@
 #pragma once
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lumenote {
+
+class Files;
 
 /// Longer than 7 characters and ":\" as second and third: what counts as a path, not a note.
 bool IsDrivePath(std::u16string_view text);
@@ -19,5 +22,8 @@ std::u16string FoldBackslashes(std::u16string_view path);
 
 /// The path with its last three characters replaced by `extension`; empty when it is shorter.
 std::u16string ChmExts(std::u16string_view path, std::u16string_view extension);
+/// The files that there are under `path` with its last three characters in whatever letter case,
+/// the exact name first. One file may be told more than once where the case of names means nothing.
+std::vector<std::u16string> EnTouteCasse(const Files& files, std::u16string_view path);
 
 }  // namespace lumenote

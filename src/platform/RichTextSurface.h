@@ -113,7 +113,8 @@ class RichTextSurface {
   /// Replaces everything and clears the undo history. A file that is no RTF behind `FileType::Rtf`
   /// raises InvalidArgument (5); a failure leaves the content as it is.
   virtual void LoadFile(std::u16string_view path, FileType type) = 0;
-  virtual void SaveFile(std::u16string_view path, FileType type) = 0;
+  /// Returns what it has written.
+  virtual std::string SaveFile(std::u16string_view path, FileType type) = 0;
   /// What `SaveFile` would write.
   virtual std::string FileBytes(FileType type) const = 0;
 

@@ -67,7 +67,9 @@ class DocumentSurface final : public RichTextSurface {
   void RightMargin(float twips) override;
 
   void LoadFile(std::u16string_view path, FileType type) override { transfer_.Load(path, type); }
-  void SaveFile(std::u16string_view path, FileType type) override { transfer_.Save(path, type); }
+  std::string SaveFile(std::u16string_view path, FileType type) override {
+    return transfer_.Save(path, type);
+  }
   std::string FileBytes(FileType type) const override { return transfer_.Bytes(type); }
 
   Position Find(std::u16string_view text, Position start, int options) override;

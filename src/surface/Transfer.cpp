@@ -116,9 +116,11 @@ std::string Transfer::Bytes(FileType type) const {
                                : Encode1252(document.Text(0, document.Length()));
 }
 
-void Transfer::Save(std::u16string_view path, FileType type) {
-  files_.Write(path, Bytes(type));
+std::string Transfer::Save(std::u16string_view path, FileType type) {
+  std::string bytes = Bytes(type);
+  files_.Write(path, bytes);
   core_.CloseStep();
+  return bytes;
 }
 
 void Transfer::Copy() {

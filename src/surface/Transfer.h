@@ -24,7 +24,7 @@ class Transfer {
   void SelectedRtf(std::u16string_view rtf);
 
   void Load(std::u16string_view path, FileType type);
-  void Save(std::u16string_view path, FileType type);
+  std::string Save(std::u16string_view path, FileType type);
   /// What `Save` writes.
   std::string Bytes(FileType type) const;
 

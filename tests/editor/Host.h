@@ -65,6 +65,9 @@ class DisturbedFiles : public Files {
   bool SameFile(std::u16string_view one, std::u16string_view other) const override {
     return inner_.SameFile(one, other);
   }
+  std::shared_ptr<void> TakeTurn(std::u16string_view path) const override {
+    return inner_.TakeTurn(path);
+  }
   void Write(std::u16string_view path, std::string_view bytes) override {
     before("write", path);
     inner_.Write(path, bytes);

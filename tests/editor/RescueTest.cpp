@@ -84,5 +84,83 @@ TEST_F(RescueTest, CopiesTakeNamesThatNobodyHas) {
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_b.txt"), "theirs");
 }
 
+TEST_F(RescueTest, AChangedFileThatCannotBeKeptIsNotReplaced) {
+  LeaveNoPlace();
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Type(u"pas ");
+  disk.Write(u"C:\\n\\a.txt", "leur");
+  Editor().Pop.mnuPopEnregistrer.UserClick();
+  EXPECT_EQ(Editor().Status(2), u"Enregistrement impossible");
+  EXPECT_TRUE(Values().dirty);
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "leur");
+  Editor().Pop.mnuPopTextRichText.UserClick();
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "leur");
+  EXPECT_EQ(Shown().substr(0, 9), u"pas avant");
+}
+
+TEST_F(RescueTest, OnlyTheFileThatWasNamedIsDeleted) {
+  const struct {
+    std::function<void()> meanwhile;  // while the question stands
+    bool deleted;
+  } cases[] = {{[&] { control.pStrOrchm(u"C:\\n\\b.txt"); }, true},
+               {[&] { control.pStrOrchm(); }, false},
+               {[&] { Editor().Pop.mnuPopTextRichText.UserClick(); }, false},
+               {[&] { Fail("delete", u"a.txt"); }, false}};
+  for (const auto& c : cases) {
+    OpenFile(u"C:\\n\\b.txt", "autre");
+    OpenFile(u"C:\\n\\a.txt", "un");
+    control.pStrOrchm();
+    Open(u"C:\\n\\a.txt");
+    bool asked = false;
+    backend.answer = [&](const MessageBox& box) {
+      if (box.title == u"Attention" && !std::exchange(asked, true)) c.meanwhile();
+      return DefaultAnswer(box);
+    };
+    Editor().Pop.mnuPopSupprDoc.UserClick();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(disk.ReadAll(u"C:\\n\\b.txt"), "autre");
+    EXPECT_EQ(disk.Exists(u"C:\\n\\a.txt") || disk.Exists(u"C:\\n\\a.rtf"), !c.deleted);
+    backend.answer = DefaultAnswer;
+    platform.files.before = [](std::string_view, std::u16string_view) {};
+    control.pStrOrchm();
+    sandbox.Remove(u"C:\\n");
+  }
+}
+
+TEST_F(RescueTest, AReloadThatFailsLeavesTheNoteDirty) {
+  sandbox.MakeParents(u"C:\\Program Files\\qjot\\qjot.exe");
+  sandbox.Programs().Put(u"C:\\Program Files\\qjot\\qjot.exe");
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Editor().Pop.mnuPopQjot.UserClick();
+  backend.Tick(30);
+  disk.Write(u"C:\\Program Files\\qjot\\SavNotes.txt", "retour");
+  sandbox.Programs().Finish();
+  while (Editor().Timer1.Enabled() && !disk.ReadAll(u"C:\\n\\a.txt").starts_with("retour"))
+    backend.Tick(1);
+  Fail("read", u"\\a.txt");
+  backend.Tick(2);
+  EXPECT_EQ(Boxes(), Texts{u"Impossible de Charger le fichier\r\nC:\\n\\a.txt"});
+  EXPECT_TRUE(Values().dirty);
+  EXPECT_EQ(Shown(), u"avant");
+  platform.files.before = [](std::string_view, std::u16string_view) {};
+  control.pStrOrchm();
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "retour");
+}
+
+TEST_F(RescueTest, AControlThatGoesKeepsItsNote) {
+  auto second = std::make_unique<CoBxRtf>(platform);
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  second->pCouleurFen(u"0");
+  second->pStrOrchm(u"C:\\n\\a.txt");
+  second->ShowMicroEdit();
+  second->Parts().editor.Get().Document().SelText(u"deux ");
+  Type(u"un ");
+  Editor().Pop.mnuPopEnregistrer.UserClick();
+  second.reset();
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "deux avant");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "un avant");
+}
+
 }  // namespace
 }  // namespace lumenote

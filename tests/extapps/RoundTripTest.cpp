@@ -1,4 +1,5 @@
 // The exchange with an external editor, tick by tick, on a machine of stand-in programs.
+#include <fstream>
 #include <gtest/gtest.h>
 #include <optional>
 
@@ -8,6 +9,7 @@
 #include "control/CoBxRtf.h"
 #include "control/Component.h"
 #include "editor/DocumentStorage.h"
+#include "editor/Secours.h"
 #include "extapps/OcrLaunch.h"
 #include "extapps/RoundTrip.h"
 #include "pilot/PilotBackend.h"
@@ -41,6 +43,16 @@ class RoundTripTest : public testing::Test, public RoundTripDesk {
   void Reload() override {
     ++reloads;
     LoadFilAndIni(Editor());
+  }
+  bool WriteNote() override {
+    Texts kept;
+    const bool written = EcrireDocument(Editor(), kept);
+    AnnoncerSecours(Editor(), Cause::FichierModifie, kept);
+    return written;
+  }
+  bool KeepNote() override { return GarderNote(Editor(), Cause::FichierModifie); }
+  bool KeepFile(Cause cause, std::u16string_view path) override {
+    return GarderFichier(Editor(), cause, path);
   }
 
   void SetUp() override {
@@ -81,7 +93,8 @@ class RoundTripTest : public testing::Test, public RoundTripDesk {
     return texts;
   }
 
-  PosixSandbox sandbox;
+  TemporaryFolder folder;
+  PosixSandbox sandbox{folder.Path()};
   Files& disk = sandbox.FileSystem();
   HeadlessBackend inner;
   PilotBackend backend{inner};
@@ -119,14 +132,115 @@ TEST_F(RoundTripTest, WhatTheProgramSavedComesBack) {
   }
 }
 
-TEST_F(RoundTripTest, BeginningAgainEndsTheProgramThatRuns) {
+TEST_F(RoundTripTest, NamesAreComparedWithoutTheCaseOfTheirExtension) {
+  const struct {
+    void (RoundTrip::*begin)();
+    std::u16string note, saved, path;
+  } cases[] = {
+      {&RoundTrip::mnuPopMSWord_Click, u"NOTE.RTF", u"C:\\Temp\\SavNOTE.RTF", u"NOTE.RTF"},
+      {&RoundTrip::mnuPopMSWord_Click, u"NOTE.RTF", u"C:\\Temp\\SavNOTE.rtf", u"NOTE.RTF"},
+      {&RoundTrip::mnuPopMSWord_Click, u"N.TXT", u"C:\\Temp\\SavN.SAV", u"N.TXT"},
+      {&RoundTrip::mnuPopMSWord_Click, u"N.TXT", u"C:\\Temp\\SavN.Rtf", u"N.Rtf"},
+      {&RoundTrip::mnuPopQjot_Click, u"N.TXT", u"C:\\Program Files\\qjot\\SavNotes.TXT", u"N.TXT"},
+      {&RoundTrip::mnuPopAtlantis_Click, u"o.rtf", u"C:\\Documents\\SavNotes.Rtf", u"o.rtf"},
+  };
+  for (const auto& c : cases) {
+    const bool plain = c.note.ends_with(u"TXT");
+    Open(u"C:\\n\\" + c.note, plain ? "avant" : "{\\rtf1 avant}");
+    if (c.path == u"N.Rtf") disk.Write(u"C:\\n\\N.Rtf", "{\\rtf1 ancien}");
+    (*exchange.*c.begin)();
+    FinishAfter([&] {
+      disk.Write(c.saved, plain && c.path == c.note ? "retour" : "{\\rtf1 retour}");
+      sandbox.Age(c.saved, 10);
+    });
+    EXPECT_EQ(Editor().Document().Text().substr(0, 6), u"retour");
+    EXPECT_EQ(Values().documentPath, u"C:\\n\\" + c.path);
+    Editor().Unload();
+    sandbox.Remove(u"C:\\n");
+  }
+  EXPECT_EQ(BoxTexts(), Texts());
+}
+
+TEST_F(RoundTripTest, WhatLayThereBeforeIsNoResult) {
+  disk.Write(u"C:\\Documents\\SavNotes.rtf", "{\\rtf1 ancien}");
+  sandbox.ReadOnly(u"C:\\Documents\\SavNotes.rtf", true);  // the purge leaves it
+  disk.Write(u"C:\\Temp\\Sava.sav", "ancien");
+  for (const auto begin : {&RoundTrip::mnuPopAtlantis_Click, &RoundTrip::mnuPopMSWord_Click}) {
+    Open(u"C:\\n\\a.txt");
+    (*exchange.*begin)();
+    FinishAfter();
+    EXPECT_EQ(Editor().Document().Text(), u"avant");
+    EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
+    Editor().Unload();
+  }
+}
+
+TEST_F(RoundTripTest, ThePurgeSparesTheNoteItself) {
+  Open(u"C:\\Documents\\SavNotes.txt");
+  sandbox.ReadOnly(u"C:\\Documents\\SavNotes.txt", true);
+  exchange->mnuPopAtlantis_Click();
+  Tick(2);
+  EXPECT_TRUE(disk.Exists(u"C:\\Documents\\SavNotes.txt"));
+  sandbox.ReadOnly(u"C:\\Documents\\SavNotes.txt", false);
+  exchange->mnuPopAtlantis_Click();
+  Tick(2);
+  EXPECT_TRUE(disk.Exists(u"C:\\Documents\\SavNotes.txt"));
+}
+
+TEST_F(RoundTripTest, WhatWasTypedMeanwhileIsKeptBeforeTheReload) {
+  const std::u16string kTold =
+      u"Fichier modifié par un autre programme\r\nCopie de secours "
+      u":\r\nC:\\Documents\\Secours_a.txt";
+  const struct {
+    bool saved;     // by the user, before the program ends
+    bool returned;  // something came back
+    bool kept;
+  } cases[] = {{false, false, true}, {false, true, true}, {true, true, true}, {true, false, false}};
+  for (const auto& c : cases) {
+    Open(u"C:\\n\\a.txt");
+    Editor().Document().SelText(u"d'");
+    exchange->mnuPopMSWord_Click();
+    FinishAfter([&] {
+      Editor().Document().SelText(u"abord ");
+      if (c.saved) EnregistrerNote(Editor());
+      if (c.returned) disk.Write(u"C:\\Temp\\Sava.sav", "retour");
+    });
+    EXPECT_EQ(Editor().Document().Text(), c.returned ? u"retour"
+                                          : c.saved  ? u"d'abord avant"
+                                                     : u"d'avant");
+    EXPECT_EQ(BoxTexts(), c.kept ? Texts{kTold} : Texts());
+    EXPECT_EQ(disk.Exists(u"C:\\Documents\\Secours_a.txt"), c.kept);
+    if (c.kept) {
+      EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "d'abord avant");
+      sandbox.Remove(u"C:\\Documents\\Secours_a.txt");
+    }
+    Editor().Unload();
+  }
+}
+
+TEST_F(RoundTripTest, AResultForANoteThatIsEditedAnewIsKept) {
   Open(u"C:\\n\\a.txt");
   exchange->mnuPopMSWord_Click();
   Tick(20);
+  disk.Write(u"C:\\Temp\\Sava.txt", "enregistré avant la fin");
   exchange->mnuPopMSWord_Click();
   Tick(20);
   EXPECT_EQ(sandbox.Programs().TakeStarted().size(), 2U);
   EXPECT_EQ(sandbox.Programs().TakeKilled(), Texts{kWordPath});
+  EXPECT_EQ(BoxTexts(), Texts{u"Fichier modifié par un autre programme\r\nCopie de secours :\r\n"
+                              u"C:\\Documents\\Secours_Sava.txt"});
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.txt"), "enregistré avant la fin");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.txt"), "avant");
+}
+
+TEST_F(RoundTripTest, ARefusedCommandLeavesTheExchangeAlone) {
+  Open(u"C:\\n\\a.txt");
+  exchange->mnuPopQjot_Click();
+  disk.Delete(kWordPath, true);
+  exchange->mnuPopMSWord_Click();
+  EXPECT_EQ(exchange->TypeEditeur(), 3);
+  FinishAfter([&] { disk.Write(u"C:\\Program Files\\qjot\\SavNotes.txt", "retour"); });
+  EXPECT_EQ(Editor().Document().Text(), u"retour");
 }
 
 TEST_F(RoundTripTest, AProgramThatGoesOnIsWaitedForThenReported) {
@@ -134,27 +248,69 @@ TEST_F(RoundTripTest, AProgramThatGoesOnIsWaitedForThenReported) {
   Open(u"C:\\n\\a.txt");
   exchange.emplace(Editor(), *this, programs, stubborn);
   exchange->mnuPopQjot_Click();
-  Tick(250);
+  for (int tick = 1; tick <= 250; ++tick) {
+    Tick(1);
+    EXPECT_EQ(exchange->EtatWpd(), tick == 1 ? 1 : 2);
+  }
   EXPECT_EQ(BoxTexts(), Texts());
   EXPECT_EQ(exchange->FichierTravail(), u"");
+  Tick(1);
+  EXPECT_EQ(exchange->EtatWpd(), 2);
+  Tick(1);
+  EXPECT_EQ(exchange->EtatWpd(), 3);
   Tick(290);
   EXPECT_EQ(BoxTexts(), Texts{u"Destruction Windows Erreur : Error #110 too late"});
   EXPECT_EQ(stubborn.started, 1);
   EXPECT_EQ(exchange->EtatWpd(), 26);
 }
 
-TEST_F(RoundTripTest, AResultThatWasCutOffDoesNotReplaceTheNote) {
-  Open(u"C:\\n\\a.rtf", "{\\rtf1 avant}");
-  for (const std::string_view cut : {"", "{\\rtf1 apr", "texte}"}) {
+TEST_F(RoundTripTest, AResultThatWasCutOffIsKeptBesideTheNote) {
+  const struct {
+    std::u16string note, saved;
+    std::string_view cut;
+  } cases[] = {{u"a.rtf", u"Sava.rtf", ""},
+               {u"A.RTF", u"SavA.RTF", "{\\rtf1 apr"},
+               {u"a.rtf", u"Sava.rtf", "{\\rtf1 {\\b apr}"},
+               {u"a.rtf", u"Sava.sav", "texte}"},
+               {u"a.txt", u"Sava.rtf", "{\\rtf1 a{\\b b}"},
+               {u"a.txt", u"Sava.txt", ""}};
+  for (const auto& c : cases) {
+    const bool plain = c.note.ends_with(u"txt");
+    Open(u"C:\\n\\" + c.note, plain ? "avant" : "{\\rtf1 avant}");
     exchange->mnuPopMSWord_Click();
     FinishAfter([&] {
-      disk.Write(u"C:\\Temp\\Sava.rtf", cut);
-      sandbox.Age(u"C:\\Temp\\Sava.rtf", 10);
+      disk.Write(u"C:\\Temp\\" + c.saved, c.cut);
+      sandbox.Age(u"C:\\Temp\\" + c.saved, 10);
     });
-    EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire"});
+    const std::u16string copy = u"C:\\Documents\\Secours_" + c.saved;
+    EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire\r\nCopie de secours :\r\n" + copy});
     EXPECT_EQ(Editor().Document().Text(), u"avant");
-    EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.rtf"), cut);
+    EXPECT_EQ(Values().documentPath, u"C:\\n\\" + c.note);
+    for (const std::u16string& place : {u"C:\\Temp\\" + c.saved, copy})
+      EXPECT_EQ(disk.ReadAll(place), c.cut);
+    Editor().Unload();
+    for (const std::u16string& place : {u"C:\\Temp\\" + c.saved, copy}) sandbox.Remove(place);
   }
+}
+
+TEST_F(RoundTripTest, AResultWithoutAPlaceIsNotPurged) {
+  Open(u"C:\\n\\a.rtf", "{\\rtf1 avant}");
+  sandbox.Remove(u"C:\\Documents");
+  std::ofstream(folder.Path() + "/state") << "no folder";
+  exchange->mnuPopMSWord_Click();
+  FinishAfter([&] {
+    disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 apr");
+    sandbox.Age(u"C:\\Temp\\Sava.rtf", 10);
+  });
+  exchange->mnuPopMSWord_Click();
+  Tick(3);
+  EXPECT_FALSE(watching);
+  EXPECT_EQ(BoxTexts(), (Texts{u"Erreur fichier temporaire", u"Erreur fichier temporaire"}));
+  EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.rtf"), "{\\rtf1 apr");
+  sandbox.MakeParents(u"C:\\Documents\\x");
+  exchange->mnuPopMSWord_Click();
+  Tick(3);
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.rtf"), "{\\rtf1 apr");
 }
 
 TEST_F(RoundTripTest, RefusalsNameTheProgram) {
@@ -210,6 +366,9 @@ TEST_F(RoundTripTest, ATargetThatCannotBeReplacedKeepsBothFiles) {
   FinishAfter([&] { disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 retour}"); });
   EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.rtf"), "{\\rtf1 autre}");
   EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.rtf"), "{\\rtf1 retour}");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.rtf"), "{\\rtf1 retour}");
+  EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire\r\nCopie de secours :\r\n"
+                              u"C:\\Documents\\Secours_Sava.rtf"});
   EXPECT_EQ(Values().documentPath, u"C:\\n\\a.txt");
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <limits>
 #include <string>
 #include <sys/stat.h>
@@ -12,6 +13,7 @@
 #include "backends/posix/AtomicFile.h"
 #include "backends/posix/Descriptor.h"
 #include "backends/posix/Errors.h"
+#include "backends/posix/FileLock.h"
 #include "backends/posix/ReplaceFile.h"
 
 namespace lumenote {
@@ -73,6 +75,17 @@ bool PosixFiles::SameFile(std::u16string_view one, std::u16string_view other) co
     same = first.st_dev == second.st_dev && first.st_ino == second.st_ino;
   });
   return same;
+}
+
+std::shared_ptr<void> PosixFiles::TakeTurn(std::u16string_view path) const {
+  std::shared_ptr<Descriptor> folder;
+  IgnoringErrors([&] {
+    const std::filesystem::path note = FollowLinks(drives_.ToNative(path));
+    const int number = open(note.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    folder = std::make_shared<Descriptor>(number);
+    if (folder->IsOpen()) AwaitLock(*folder);
+  });
+  return folder;
 }
 
 void PosixFiles::Write(std::u16string_view path, std::string_view bytes) {
