@@ -35,6 +35,13 @@ cat C:\n\a.txt
 """
 SAVE = BEGIN + "click Co_Rtf.mnuPopEnregistrer" + END
 CLOSE = BEGIN + "close Co_Rtf" + END
+CONVERT = BEGIN + "click Co_Rtf.mnuPopTextRichText" + END
+STRING = r"""
+host pCouleurFen 0
+host pStrOrchm "ancien"
+cat C:\begin
+show
+""" + END.replace(r"cat C:\n\a.txt", "host pStrOrchm")
 ROUND_TRIP = BEGIN + rf"""
 click Co_Rtf.mnuPopQjot
 tick 600
@@ -53,6 +60,7 @@ class Sandbox:
     def __init__(self, root, linked):
         self.root = pathlib.Path(root).resolve()
         for name, text in (("c/n/a.txt", OLD), ("c/begin", ""), ("c/end", ""),
+                           ("c/Temp/TmpFlStr.txt", "une autre note"),
                            ("c/Program Files/qjot/qjot.exe", "stand-in program\r\n")):
             path = self.root / name
             path.parent.mkdir(parents=True, exist_ok=True)
@@ -102,7 +110,7 @@ def check_save(sandbox, panel, boxes, forms, dirty, shown, note):
     require(note in (OLD, NEW) or OLD in sandbox.backups(), f"torn: {note!r}")
     require(note == NEW or dirty, "taken for saved")
     require(not dirty or panel == FAILED, "not told")
-    require(sandbox.note() == NEW, "not saved when the fault was gone")
+    require(set(sandbox.texts("c/n/*")) == {NEW}, "not saved when the fault was gone")
     return "new" if note == NEW else "old, told"
 
 
@@ -127,6 +135,21 @@ def check_round_trip(sandbox, panel, boxes, forms, dirty, shown, note):
     return "result is the note" if note == RESULT else "result stays where it is"
 
 
+def check_conversion(sandbox, panel, boxes, forms, dirty, shown, note):
+    converted = sandbox.texts("c/n/a.rtf")
+    require(shown == NEW, "lost in the window")
+    require(note in (OLD, None), "the note has changed")
+    require(converted or note == OLD, "lost")
+    require(not converted or NEW in converted[0], "torn")
+    sandbox.names = ["a.rtf"] if converted else ["a.txt"]
+    return "converted" if converted else "nothing has changed"
+
+
+def check_string(sandbox, panel, boxes, forms, dirty, shown, note):
+    require(note == OLD, f"the host reads {note!r}")
+    return "opened" if forms else "refused"
+
+
 def check_kill(sandbox):
     note = sandbox.note()
     torn = note not in (OLD, NEW, RESULT)
@@ -144,6 +167,8 @@ ACTS = {
     "save_in_place": Act(SAVE, check_save, linked=True),
     "closing": Act(CLOSE, check_closing),
     "closing_in_place": Act(CLOSE, check_closing, linked=True),
+    "conversion": Act(CONVERT, check_conversion),
+    "string_note": Act(STRING, check_string),
     "round_trip": Act(ROUND_TRIP, check_round_trip),
     "kill": Act(SAVE, check_kill, kill=True),
     "kill_in_place": Act(SAVE, check_kill, linked=True, kill=True),
