@@ -290,9 +290,9 @@ void Co_Rtf::mnuFmtActRègle_Click() { Bx_Règle.Visible(!Bx_Règle.Visible()); 
 
 // --- dialogs
 
-std::optional<FontChoice> Co_Rtf::ChooseFont(const FontChoice& shown) {
+std::optional<FontChoice> Co_Rtf::ChooseFont(const FontChoice& shown, Form* dialog) {
   SuspendreDessus();
-  auto chosen = Machine().Windows().ChooseFont(shown, this);
+  auto chosen = Machine().Windows().ChooseFont(shown, dialog ? dialog : this);
   RetablirDessus();
   return chosen;
 }

@@ -48,7 +48,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   void SuspendreDessus() override;
   void RetablirDessus() override;
   MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
-  std::optional<FontChoice> ChooseFont(const FontChoice& shown) override;
+  std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* dialog) override;
   Rect WindowPlace() const override { return Place(); }
   float DocumentWidth() const override { return Bx_RTF.Width(); }
   void FocusDocument() override { Bx_RTF.SetFocus(); }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "forms/FontChoice.h"
+#include "forms/Form.h"
 #include "forms/Geometry.h"
 #include "forms/MessageBox.h"
 #include "platform/RichTextSurface.h"
@@ -38,16 +39,17 @@ class EditorWindow {
   /// Its counterpart: sets flag and check mark, the state itself only when the flag still stands.
   virtual void RetablirDessus() = 0;
   virtual MessageBox::Answer Ask(const MessageBox& box) = 0;
-  /// A message box between `SuspendreDessus` and `RetablirDessus`.
-  MessageBox::Answer AskOver(const MessageBox& box) {
+  /// A message box between `SuspendreDessus` and `RetablirDessus`, of the dialog that asks, or of
+  /// the editor.
+  MessageBox::Answer AskOver(const MessageBox& box, Form* dialog = nullptr) {
     SuspendreDessus();
-    const MessageBox::Answer answer = Ask(box);
+    const MessageBox::Answer answer = dialog ? dialog->Ask(box) : Ask(box);
     RetablirDessus();
     return answer;
   }
 
-  /// The desktop's font dialog between the same two; empty when cancelled.
-  virtual std::optional<FontChoice> ChooseFont(const FontChoice& shown) = 0;
+  /// The desktop's font dialog between the same two, of the same window; empty when cancelled.
+  virtual std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* dialog) = 0;
 
   /// The window's place on the screen, in twips.
   virtual Rect WindowPlace() const = 0;

@@ -193,14 +193,15 @@ void Co_Paragraph::cboSetStyleReg_Click() {
 void Co_Paragraph::CboSaveStyleReg_Click() {
   const std::u16string name = CboSaveStyleReg.Text();
   if (name == StyleNames[0]) {
-    editor_.AskOver({.text = u"Style Standard non enregistrable"});
+    editor_.AskOver({.text = u"Style Standard non enregistrable"}, this);
     return;
   }
   const bool confirmed =
       editor_.AskOver({.text = u"Modification du style\r\n" + name + u"\r\nConfirmez-vous ?",
                        .title = u"Attention",
                        .buttons = MessageBox::Buttons::YesNo,
-                       .icon = MessageBox::Icon::Question}) == MessageBox::Answer::Yes;
+                       .icon = MessageBox::Icon::Question},
+                      this) == MessageBox::Answer::Yes;
   if (!confirmed) {
     CboSaveStyleReg.Text(u"");
     return;
@@ -243,7 +244,7 @@ void Co_Paragraph::Bx_RightMargin_Change() {
 }
 
 void Co_Paragraph::Bx_Font_MouseUp() {
-  FmtPolice(editor_);
+  FmtPolice(editor_, this);
   RefreshParaFonte();
 }
 

@@ -5,15 +5,16 @@
 
 namespace lumenote {
 
-void FmtPolice(EditorWindow& editor) {
+void FmtPolice(EditorWindow& editor, Form* dialog) {
   RichTextSurface& surface = editor.Document();
-  const auto chosen = editor.ChooseFont({.name = surface.SelFontName(),
-                                         .size = surface.SelFontSize(),
-                                         .bold = surface.SelBold(),
-                                         .italic = surface.SelItalic(),
-                                         .underline = surface.SelUnderline(),
-                                         .strike = surface.SelStrikeThru(),
-                                         .colour = surface.SelColor()});
+  const FontChoice shown{.name = surface.SelFontName(),
+                         .size = surface.SelFontSize(),
+                         .bold = surface.SelBold(),
+                         .italic = surface.SelItalic(),
+                         .underline = surface.SelUnderline(),
+                         .strike = surface.SelStrikeThru(),
+                         .colour = surface.SelColor()};
+  const auto chosen = editor.ChooseFont(shown, dialog);
   if (!chosen) return;
   const EditGroup group(surface);
   if (chosen->name) surface.SelFontName(*chosen->name);

@@ -54,11 +54,13 @@ void ComboBox::Settle(const std::u16string& before) {
 void ComboBox::UserPick(int index) {
   if (index < 0 || index >= static_cast<int>(list_.size()))
     throw RuntimeError(ErrorNumber::NoSuchElement);
+  marked_.reset();
   Choose(index);
   if (Click) Owner().Raise(Click);
 }
 
 void ComboBox::UserDrop() {
+  marked_.reset();
   if (DropDown) Owner().Raise(DropDown);
 }
 
@@ -70,10 +72,10 @@ void ComboBox::UserType(std::u16string_view text) {
 }
 
 bool ComboBox::UserKey(const KeyStroke& key) {
-  const int step = key.name == KeyName::Down ? 1 : key.name == KeyName::Up ? -1 : 0;
-  if (step != 0) {
-    const int next = index_ + step;
-    if (next >= 0 && next < static_cast<int>(list_.size())) UserPick(next);
+  if (marked_) return KeyInList(key);
+  if (key.name == KeyName::Down || key.name == KeyName::Up) {
+    UserDrop();
+    marked_ = index_;
     return true;
   }
   if (style_ == ComboStyle::ListOnly) return false;
@@ -81,6 +83,20 @@ bool ComboBox::UserKey(const KeyStroke& key) {
   const bool used = line_.Key(key, Owner().Machine().SystemClipboard());
   Settle(before);
   return used;
+}
+
+bool ComboBox::KeyInList(const KeyStroke& key) {
+  const int step = key.name == KeyName::Down ? 1 : key.name == KeyName::Up ? -1 : 0;
+  const int last = static_cast<int>(list_.size()) - 1;
+  if (step != 0) {
+    marked_ = std::min(std::max(*marked_ + step, 0), last);
+    return true;
+  }
+  const int chosen = *marked_;
+  if (key.name != KeyName::Return && key.name != KeyName::Escape) return false;
+  marked_.reset();
+  if (key.name == KeyName::Return && chosen >= 0 && chosen <= last) UserPick(chosen);
+  return true;
 }
 
 void ComboBox::UserEdited(std::u16string_view text, Selection selected) {

@@ -1,6 +1,7 @@
 // A drop-down list with the chosen entry, or a typed text, in its box.
 #pragma once
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,7 +14,8 @@ enum class ComboStyle { Editable, ListOnly };
 
 /// `ListIndex` is -1 while the text is no entry's choice. A real change of the index raises Click,
 /// whoever made it; assigning the text chooses nothing and is silent,
-/// but in a list that cannot be edited it chooses the entry.
+/// but in a list that cannot be edited it chooses the entry. Of the keys Up and Down drop the list
+/// down, and in it mark an entry, which Return chooses and Escape does not.
 class ComboBox : public Control {
  public:
   ComboBox(Container& container, std::string name, Rect place,
@@ -47,12 +49,14 @@ class ComboBox : public Control {
 
  private:
   void Choose(int index);
+  bool KeyInList(const KeyStroke& key);
   void Settle(const std::u16string& before);
 
   ComboStyle style_;
   std::vector<std::u16string> list_;
   LineText line_;
   int index_ = -1;
+  std::optional<int> marked_;  // in the list that a key has dropped down
 };
 
 }  // namespace lumenote

@@ -5,12 +5,15 @@ import pathlib
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
 
 NEEDED = ("Xvfb", "openbox", "xdotool", "xprop", "ps")
-PATIENCE = 120  # seconds; only a test that fails waits so long
+SKIPPED = 77
+CLIENT_MESSAGE = 33  # of the X protocol
+PATIENCE = int(os.environ.get("PATIENCE", "120"))  # seconds; only what fails waits so long
 
 
 def until(condition, patience=PATIENCE):
@@ -29,6 +32,33 @@ def descendants(process):
         for child in map(int, task.read_text().split()):
             found += [child, *descendants(child)]
     return found
+
+
+class Host:
+    """A program that answers each line on its standard input by one; see notes_host.cpp."""
+
+    def __init__(self, desktop, *command):
+        self.desktop = desktop
+        self.path = desktop.home / f"output-{len(desktop.started)}"
+        self.process = desktop.start(*command, output=self.path.name, stdin=subprocess.PIPE)
+
+    def lines(self):
+        return self.path.read_text(encoding="utf-8").splitlines()
+
+    def tell(self, line):
+        self.process.stdin.write(line.encode() + b"\n")
+        self.process.stdin.flush()
+
+    def ask(self, line):
+        before = len(self.lines())
+        self.tell(line)
+        self.desktop.wait(lambda: len(self.lines()) > before, f"the answer to {line!r}")
+        return self.lines()[-1]
+
+    def waits_for(self, line, wanted):
+        """Asks again until the answer is `wanted`, a text or a condition on one."""
+        fits = wanted if callable(wanted) else lambda answer: answer == wanted
+        self.desktop.wait(lambda: fits(self.ask(line)), f"{line!r} as wanted")
 
 
 class Desktop(unittest.TestCase):
@@ -57,17 +87,17 @@ class Desktop(unittest.TestCase):
 
     def start_server(self):
         reading, writing = os.pipe()
-        self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten",
-                   "tcp", pass_fds=[writing])
+        self.start("Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-noreset",
+                   "-nolisten", "tcp", pass_fds=[writing])
         os.close(writing)
         with open(reading, encoding="ascii") as number:
             return ":" + number.readline().strip()
 
-    def start(self, *command, **options):
-        with open(self.home / "log", "ab") as log:
-            self.started.append(subprocess.Popen(command, env=self.env, stdin=subprocess.DEVNULL,
-                                                 stdout=log, stderr=log, start_new_session=True,
-                                                 **options))
+    def start(self, *command, output="log", **options):
+        options = {"stdin": subprocess.DEVNULL, **options}
+        with open(self.home / "log", "ab") as log, open(self.home / output, "ab") as out:
+            self.started.append(subprocess.Popen(command, env=self.env, stdout=out, stderr=log,
+                                                 start_new_session=True, **options))
         return self.started[-1]
 
     def end_all(self):
@@ -85,11 +115,14 @@ class Desktop(unittest.TestCase):
             time.sleep(0.02)
         for program in self.started:
             program.wait()
+            if program.stdin:
+                program.stdin.close()
 
     def wait(self, condition, what="it"):
         value = until(condition)
         if value is None:
-            self.fail(f"{what} never came; windows {self.titles()}\n{self.log()}")
+            ended = [(program.args[0], program.poll()) for program in self.started]
+            self.fail(f"{what} never came; windows {self.titles()}, ends {ended}\n{self.log()}")
         return value
 
     def log(self):
@@ -115,9 +148,49 @@ class Desktop(unittest.TestCase):
         """The number of a window whose title holds `part`; None without one."""
         return next((number for number, title in self.windows().items() if part in title), None)
 
+    def title_of(self, window):
+        return self.windows().get(window)
+
+    def active(self):
+        """The title of the window that has the keyboard."""
+        return self.title_of(hex(int(self.run_x("xdotool", "getactivewindow") or 0)))
+
+    def mouse(self, window, *actions):
+        """Runs xdotool's mouse actions; a pair of numbers moves to a point in the window."""
+        command = ["xdotool"]
+        for action in actions:
+            if isinstance(action, tuple):
+                command += ["mousemove", "--window", window, *map(str, action)]
+            else:
+                command += action.split()
+        self.run_x(*command)
+
+    def popup(self, program="notes_host"):
+        """Whether a menu or a list is open over the program's windows."""
+        shown = self.run_x("xdotool", "search", "--onlyvisible", "--class", program).split()
+        return bool({hex(int(number)) for number in shown} - self.windows().keys())
+
+    def ask_to_close(self, window):
+        """Sends a window what its close box sends, whether it shows one or not."""
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.env["DISPLAY"].encode()))
+        atom = lambda name: x11.XInternAtom(display, name, 0)
+        event = (ctypes.c_long * 24)(CLIENT_MESSAGE, 0, 0, 0, int(window, 16),
+                                     atom(b"WM_PROTOCOLS"), 32, atom(b"WM_DELETE_WINDOW"))
+        x11.XSendEvent(display, ctypes.c_ulong(int(window, 16)), 0, 0, event)
+        x11.XCloseDisplay(display)
+
     def keys(self, window, *keys):
         """Presses keys in a window that is brought to the front."""
         self.run_x("xdotool", "windowactivate", "--sync", window, "key", "--delay", "40", *keys)
 
     def type(self, window, text):
         self.run_x("xdotool", "windowactivate", "--sync", window, "type", "--delay", "20", text)
+
+
+def main():
+    """Runs the tests of the program; status 77 when the desktop cannot be had."""
+    result = unittest.main(exit=False).result
+    nothing_ran = result.skipped and len(result.skipped) >= max(result.testsRun, 1)
+    sys.exit(not result.wasSuccessful() or (SKIPPED if nothing_ran else 0))

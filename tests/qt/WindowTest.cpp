@@ -2,6 +2,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QMenu>
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -124,6 +125,20 @@ TEST_F(WindowTest, OnlyChangesBetweenWindowsActivate) {
   EXPECT_EQ(other.activations, 1);
 }
 
+// The desktop still thinks of the window before as the active one, and says nothing.
+TEST_F(WindowTest, AClickActivatesWhateverTheDesktopSays) {
+  TestForm other(windows, "Other");
+  other.Show();
+  acts.Activate(other);
+  form->Activate();
+  ASSERT_EQ(windows.Active(), form.get());
+  QWindow* native = platform.windows.Widgets().Find<FormWindow>(other)->windowHandle();
+  QMouseEvent press(QEvent::MouseButtonPress, {200, 200}, native->mapToGlobal(QPointF(200, 200)),
+                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(native, &press);
+  EXPECT_EQ(windows.Active(), &other);
+}
+
 TEST_F(WindowTest, AModalWindowLocksTheOthersUntilItHasUnloaded) {
   TestForm modal(windows, "Modal");
   bool locked = false;
@@ -169,22 +184,36 @@ TEST_F(WindowTest, TimersTickWhileWaiting) {
 
 struct BoxCase {
   MessageBox::Buttons buttons;
-  Qt::Key key;
+  std::vector<Qt::Key> keys;
   MessageBox::Answer answer;
 };
 
-TEST_F(WindowTest, BoxesAnswerToKeys) {
+TEST_F(WindowTest, BoxesAnswerToKeysAndAQuestionHasNoEscape) {
   using Answer = MessageBox::Answer;
-  const BoxCase cases[] = {{MessageBox::Buttons::Ok, Qt::Key_Escape, Answer::Ok},
-                           {MessageBox::Buttons::YesNo, Qt::Key_Return, Answer::Yes},
-                           {MessageBox::Buttons::YesNo, Qt::Key_Escape, Answer::No}};
+  const BoxCase cases[] = {
+      {MessageBox::Buttons::Ok, {Qt::Key_Escape}, Answer::Ok},
+      {MessageBox::Buttons::YesNo, {Qt::Key_Return}, Answer::Yes},
+      {MessageBox::Buttons::YesNo, {Qt::Key_Escape, Qt::Key_Return}, Answer::Yes}};
   for (const BoxCase& c : cases) {
     QTimer::singleShot(0, [&] {
-      QKeyEvent press(QEvent::KeyPress, c.key, Qt::NoModifier);
-      QApplication::sendEvent(QApplication::activeModalWidget(), &press);
+      const QPointer<QWidget> box = QApplication::activeModalWidget();
+      for (const Qt::Key key : c.keys) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        ASSERT_TRUE(box && box->isVisible());
+        QApplication::sendEvent(box, &press);
+      }
     });
     EXPECT_EQ(form->Ask({.text = u"Oui ?", .buttons = c.buttons}), c.answer);
   }
+}
+
+TEST_F(WindowTest, AHugeFormHasAWindowOfBoundedSize) {
+  TestForm huge(windows, "Huge");
+  huge.Load();
+  huge.Width(1e9F);
+  huge.Height(1e9F);
+  EXPECT_EQ(platform.windows.Widgets().Find<FormWindow>(huge)->size(), QSize(16384, 16384));
+  EXPECT_EQ(huge.Width(), 1e9F);
 }
 
 }  // namespace

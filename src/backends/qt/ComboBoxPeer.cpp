@@ -1,24 +1,69 @@
 #include "backends/qt/ComboBoxPeer.h"
 
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
+#include "backends/qt/Keys.h"
 #include "backends/qt/LineEdits.h"
 #include "backends/qt/QtText.h"
 
 namespace lumenote {
+
+namespace {
+
+/// The keys that the toolkit would step through a closed list with.
+bool IsStep(const QKeyEvent& key, bool editable) {
+  switch (key.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      return !(key.modifiers() & Qt::ControlModifier);
+    case Qt::Key_Home:
+    case Qt::Key_End:
+      return !editable;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
 
 ComboBoxWidget::ComboBoxWidget(ComboBox& combo, QWidget* parent)
     : QComboBox(parent), combo_(&combo) {
   setEditable(combo.Style() == ComboStyle::Editable);
   setInsertPolicy(QComboBox::NoInsert);
   setDuplicatesEnabled(true);
-  if (isEditable()) setCompleter(nullptr);
+  if (isEditable()) KeepTextApart();
+}
+
+// The toolkit takes a text that is finished, be it that of an entry, for a choice.
+void ComboBoxWidget::KeepTextApart() {
+  setCompleter(nullptr);
+  disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
 }
 
 void ComboBoxWidget::showPopup() {
   if (combo_) combo_->UserDrop();
-  if (combo_) QComboBox::showPopup();
+  if (!combo_) return;
+  if (currentIndex() < 0) view()->setCurrentIndex({});  // not where it stood the last time
+  QComboBox::showPopup();
 }
+
+void ComboBoxWidget::keyPressEvent(QKeyEvent* event) {
+  const QString text = isEditable() ? QString() : TypedText(*event);
+  const bool search = !text.isEmpty() && event->key() != Qt::Key_Space;
+  if (!search && !IsStep(*event, isEditable())) return QComboBox::keyPressEvent(event);
+  const QPointer<ComboBoxWidget> self = this;
+  showPopup();
+  if (self && search) view()->keyboardSearch(text);
+}
+
+void ComboBoxWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 ComboBoxPeer::ComboBoxPeer(ComboBox& combo, QWidget& parent, LayouterSource&)
     : ComboBoxPeer(combo, new ComboBoxWidget(combo, &parent)) {}

@@ -7,7 +7,8 @@
 
 namespace lumenote {
 
-/// Tells before its list drops down.
+/// Tells before its list drops down. `activated` comes for a choice from the open list alone: keys
+/// open the list first, and neither the wheel, nor leaving the box, nor Return chooses.
 class ComboBoxWidget : public QComboBox {
  public:
   ComboBoxWidget(ComboBox& combo, QWidget* parent);
@@ -15,7 +16,13 @@ class ComboBoxWidget : public QComboBox {
   void Detach() { combo_ = nullptr; }
   void showPopup() override;
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
  private:
+  void KeepTextApart();
+
   ComboBox* combo_;
 };
 

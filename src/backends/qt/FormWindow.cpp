@@ -67,6 +67,7 @@ void FormWindow::ShowVisible(QWidget* owner) {
   if (!form_->Visible()) return hide();
   ChooseKind();
   winId();
+  windowHandle()->installEventFilter(this);
   windowHandle()->setTransientParent(owner ? owner->windowHandle() : nullptr);
   ShowGeometry();
   show();
@@ -107,6 +108,9 @@ bool FormWindow::event(QEvent* event) {
 }
 
 bool FormWindow::eventFilter(QObject* object, QEvent* event) {
+  const bool pressed =
+      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
+  if (form_ && pressed && object == windowHandle()) listener_.Used(*form_);
   if (form_ && object == content_ && event->type() == QEvent::MouseMove) {
     const QPointF at = static_cast<const QMouseEvent*>(event)->position();
     form_->UserMouseMove({MouseButton::None, {ToTwips(at.x()), ToTwips(at.y())}});
@@ -119,10 +123,11 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   event->setAccepted(form_ && key && form_->UserKey(*key));
 }
 
-// The form decides; its window goes when it has unloaded.
+// The form decides; when it has unloaded its window is closed, which the end of the program and
+// of the session wait for.
 void FormWindow::closeEvent(QCloseEvent* event) {
-  event->ignore();
   if (form_) form_->UserClose();
+  event->setAccepted(!form_);
 }
 
 void FormWindow::resizeEvent(QResizeEvent*) {

@@ -9,11 +9,13 @@
 
 namespace lumenote {
 
-/// Told which window the desktop has made the active one.
+/// Told which window the desktop has made the active one, and which the user works in.
 class ActivationListener {
  public:
   virtual ~ActivationListener() = default;
   virtual void NativelyActive(Form& form) = 0;
+  /// A button or key is about to go down in the window.
+  virtual void Used(Form& form) = 0;
 };
 
 /// Does nothing any more after `Detach`, since the form may be gone while the widget's own events

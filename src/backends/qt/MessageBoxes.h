@@ -6,8 +6,9 @@
 
 namespace lumenote {
 
-/// Blocks until the user has answered; Escape and the close box say No, or OK where that is all
-/// there is to say. `over` may be null.
+/// Blocks until the user has answered. Escape and the close box say OK where that is all there is
+/// to say; they do not answer a question. The box belongs to `over`, which may be null and has the
+/// keyboard again afterwards.
 MessageBox::Answer ShowMessageBox(const MessageBox& box, QWidget* over);
 
 }  // namespace lumenote

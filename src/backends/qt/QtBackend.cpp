@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <utility>
 
 #include "backends/qt/FontDialog.h"
 #include "backends/qt/MessageBoxes.h"
@@ -27,12 +28,19 @@ std::unique_ptr<RichTextSurface> QtBackend::MakeSurface(RichTextBox& box, Clipbo
   return std::make_unique<DocumentSurface>(clipboard, files, layout->breaker);
 }
 
+// A modal window would lock whatever stands over another one.
+QWidget* QtBackend::Asking(const Form* over) const {
+  if (!over) return nullptr;
+  const Form* modal = over->Windows().TopModal();
+  return widgets_.Find<QWidget>(modal ? *modal : *over);
+}
+
 MessageBox::Answer QtBackend::Show(const MessageBox& box, Form* over) {
-  return ShowMessageBox(box, over ? widgets_.Find<QWidget>(*over) : nullptr);
+  return ShowMessageBox(box, Asking(over));
 }
 
 std::optional<FontChoice> QtBackend::ChooseFont(const FontChoice& shown, Form* over) {
-  return ShowFontDialog(shown, over ? widgets_.Find<QWidget>(*over) : nullptr);
+  return ShowFontDialog(shown, Asking(over));
 }
 
 bool QtBackend::IsTopmost(const Form& form) {
@@ -47,21 +55,47 @@ void QtBackend::RunUntil(const std::function<bool()>& done) {
 
 // --- activation
 
+QtBackend::QtBackend() {
+  awaiting_.setSingleShot(true);
+  awaiting_.setInterval(kActivationTime);
+  QObject::connect(&awaiting_, &QTimer::timeout, [this] { EndAwaiting(); });
+}
+
 // What the desktop still has to say about windows that were activated before is no news: it would
 // make them active again for a moment.
 void QtBackend::Activating(Form& form) {
   awaited_ = &form;
-  awaiting_.setRemainingTime(kActivationTime);
+  passedOver_ = nullptr;
+  awaiting_.start();
 }
 
 void QtBackend::NativelyActive(Form& form) {
-  if (awaited_ && awaited_ != &form && !awaiting_.hasExpired()) return;
+  if (awaited_ && awaited_ != &form) {
+    passedOver_ = &form;
+    return;
+  }
+  awaited_ = passedOver_ = nullptr;
+  form.UserActivate();
+}
+
+// It was news after all: the desktop has settled on another window than the awaited one.
+void QtBackend::EndAwaiting() {
   awaited_ = nullptr;
+  Form* form = std::exchange(passedOver_, nullptr);
+  const auto* window = form ? widgets_.Find<QWidget>(*form) : nullptr;
+  if (window && window->isActiveWindow()) form->UserActivate();
+}
+
+// Whoever uses a window has it in front of him, whatever the desktop still has to say.
+void QtBackend::Used(Form& form) {
+  if (form.Windows().Active() == &form) return;
+  Activating(form);
   form.UserActivate();
 }
 
 void QtBackend::Gone(Form& form) {
   if (awaited_ == &form) awaited_ = nullptr;
+  if (passedOver_ == &form) passedOver_ = nullptr;
 }
 
 }  // namespace lumenote

@@ -1,6 +1,6 @@
 // The forms on Qt widgets.
 #pragma once
-#include <QDeadlineTimer>
+#include <QTimer>
 #include <memory>
 #include <unordered_map>
 
@@ -15,6 +15,8 @@ namespace lumenote {
 /// Needs a QApplication, and outlives the windows.
 class QtBackend final : public Backend, private PeerServices {
  public:
+  QtBackend();
+
   std::unique_ptr<FormPeer> Realise(Form& form) override;
   std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
                                                Files& files) override;
@@ -27,7 +29,7 @@ class QtBackend final : public Backend, private PeerServices {
 
   /// The window, widget or action that shows an element.
   WidgetRegistry& Widgets() override { return widgets_; }
-  void Activating(Form& form) override;
+  void Used(Form& form) override;
 
  private:
   struct SurfaceLayout {
@@ -36,15 +38,20 @@ class QtBackend final : public Backend, private PeerServices {
   };
 
   TextLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
+  /// The window that a box asked for by `over` belongs to; null for none.
+  QWidget* Asking(const Form* over) const;
   void NativelyActive(Form& form) override;
+  void Activating(Form& form) override;
+  void EndAwaiting();
   void Gone(Form& form) override;
 
   WidgetRegistry widgets_;
   QtTimers timers_;
   // A box that is made where an earlier one was takes its place here.
   std::unordered_map<const Control*, std::unique_ptr<SurfaceLayout>> layouts_;
-  const Form* awaited_ = nullptr;  // told to become active, not so yet
-  QDeadlineTimer awaiting_{0};
+  Form* awaited_ = nullptr;     // told to become active, not so yet
+  Form* passedOver_ = nullptr;  // the latest that has become active meanwhile
+  QTimer awaiting_;
 };
 
 }  // namespace lumenote

@@ -56,8 +56,15 @@ class Hand {
   QPointF at_;
 };
 
+/// A list that is open over the window has the keyboard.
+QWidget& WithKeyboard(QWidget& widget) {
+  QWidget* popup = QApplication::activePopupWidget();
+  if (!popup) return widget;
+  return popup->focusWidget() ? *popup->focusWidget() : *popup;
+}
+
 void PressKey(QWidget& widget, const KeyStroke& key) {
-  const QPointer<QWidget> target = &widget;
+  const QPointer<QWidget> target = &WithKeyboard(widget);
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
     QKeyEvent event = EventOf(key, type);
     if (target) QApplication::sendEvent(target, &event);
@@ -148,7 +155,7 @@ void QtUserActs::Drag(RichTextBox& box, Position start, Position length, Positio
   view.Settle();
   const std::optional<QRectF> caret = view.Pane().CaretAt(to);
   if (!caret) return;
-  const SelectionMime content(view);
+  const SelectionMime content(view, SelectionMime::Of::Now);
   const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
   const QPointF at(caret->left(), caret->center().y());
   QDragEnterEvent enter(at.toPoint(), actions, &content, Qt::LeftButton, Qt::NoModifier);
@@ -184,10 +191,11 @@ void QtUserActs::Resize(Form& form, float width, float height) {
 }
 
 void QtUserActs::Activate(Form& form) {
-  FormWindow& window = Shown<FormWindow>(widgets_, form);
-  backend_.Activating(form);
-  window.activateWindow();
-  QApplication::setActiveWindow(&window);
+  const QPointer<FormWindow> window = &Shown<FormWindow>(widgets_, form);
+  backend_.Used(form);
+  if (!window || !window->isVisible()) return;
+  window->activateWindow();
+  QApplication::setActiveWindow(window);
 }
 
 void QtUserActs::Close(Form& form) { Shown<FormWindow>(widgets_, form).close(); }

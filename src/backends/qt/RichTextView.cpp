@@ -80,6 +80,7 @@ void RichTextView::ReleaseMouse(MouseButton button, QPointF at) {
 // --- what the surface tells
 
 void RichTextView::DocumentChanged(const DocumentChange& change) {
+  ++edits_;
   pane_.Cache().Changed(change);
   pane_.Scroll().Changed(change);
   damage_.DocumentChanged();
@@ -140,7 +141,7 @@ void RichTextView::OfferSelection() {
   QClipboard* clipboard = QApplication::clipboard();
   if (offered_ || !hasFocus() || !clipboard->supportsSelection()) return;
   if (Surface().Selected().Length() == 0) return;
-  auto* selection = new SelectionMime(*this);
+  auto* selection = new SelectionMime(*this, SelectionMime::Of::Then);
   offered_ = selection;
   clipboard->setMimeData(selection, QClipboard::Selection);
 }

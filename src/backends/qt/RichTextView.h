@@ -44,6 +44,9 @@ class RichTextView : public QAbstractScrollArea, private SurfaceView {
   TextPane& Pane() { return pane_; }
   bool IsLocked() const { return doors_.locked && doors_.locked(); }
 
+  /// How many times the document has changed under this view.
+  int Edits() const { return edits_; }
+
   /// Runs an act of the user; the view may be detached when it returns.
   void Act(const std::function<void()>& act);
   /// Types, unless the box is locked.
@@ -113,6 +116,7 @@ class RichTextView : public QAbstractScrollArea, private SurfaceView {
   QBasicTimer blinking_;
   std::optional<Position> dropCaret_;
   QPointer<const QMimeData> offered_;  // what the desktop's selection is as long as it is ours
+  int edits_ = 0;
   bool attached_ = true;
   bool caretLit_ = false;
   bool revealing_ = false;   // the caret is to be brought into view

@@ -16,7 +16,7 @@ bool ViewDrop::Accepts(const QDropEvent& event) const {
 
 bool ViewDrop::IsOwn(const QDropEvent& event) const {
   const auto* selection = dynamic_cast<const SelectionMime*>(event.mimeData());
-  return selection && selection->View() == &view_;
+  return selection && selection->Source() == &view_;
 }
 
 void ViewDrop::Move(QDropEvent& event) {
@@ -49,7 +49,9 @@ void ViewDrop::Drop(QDropEvent& event) {
     view_.Act([&] { view_.Surface().UserDrop(target, copy); });
   } else {
     const ClipboardContent content = ReadMime(*event.mimeData());
+    const int edits = view_.Edits();
     view_.Act([&] { view_.Surface().UserDropContent(content, target); });
+    event.setAccepted(view_.Edits() != edits);
   }
 }
 

@@ -2,14 +2,12 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDrag>
 #include <QScrollBar>
 #include <algorithm>
 
 #include "backends/qt/MimeContent.h"
 #include "backends/qt/MouseButtons.h"
 #include "backends/qt/RichTextView.h"
-#include "backends/qt/SelectionMime.h"
 #include "surface/Words.h"
 
 namespace lumenote {
@@ -89,7 +87,10 @@ void ViewMouse::DoubleClick(const QMouseEvent& event) {
 void ViewMouse::Move(const QMouseEvent& event) {
   last_ = event.position();
   if (!(event.buttons() & Qt::LeftButton)) return ShowShape(last_);
-  if (state_ == State::MayDrag && IsFar(pressed_, last_.toPoint())) return Drag();
+  if (state_ == State::MayDrag && IsFar(pressed_, last_.toPoint())) {
+    state_ = State::Idle;
+    return drag_.Run();
+  }
   if (state_ != State::Selecting) return;
   const bool outside = last_.y() < 0 || last_.y() > view_.Pane().Size().height();
   if (outside && !scrolling_.isActive()) scrolling_.start(kScrollInterval, &view_);
@@ -117,22 +118,6 @@ void ViewMouse::Release(const QMouseEvent& event) {
 
 void ViewMouse::ShowShape(QPointF at) {
   view_.viewport()->setCursor(InSelection(at) ? Qt::ArrowCursor : Qt::IBeamCursor);
-}
-
-// The text goes away here only when another program has moved it; within the view the drop itself
-// moves it.
-void ViewMouse::Drag() {
-  state_ = State::Idle;
-  const QPointer<RichTextView> view = &view_;
-  auto* drag = new QDrag(&view_);
-  drag->setMimeData(new SelectionMime(view_));
-  const Qt::DropActions actions =
-      view_.IsLocked() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
-  const Qt::DropAction done = drag->exec(actions, Qt::MoveAction);
-  if (!view || !view->IsAttached()) return;
-  const bool elsewhere = drag->target() != view->viewport() && drag->target() != view;
-  if (done == Qt::MoveAction && elsewhere && !view->IsLocked())
-    view->Act([&] { view->Surface().Clear(); });
 }
 
 // What is selected elsewhere on the desktop is pasted at the mouse.

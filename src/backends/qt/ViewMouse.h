@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPoint>
 
+#include "backends/qt/ViewDrag.h"
 #include "base/Position.h"
 
 namespace lumenote {
@@ -15,7 +16,7 @@ class RichTextView;
 /// extends the selection by the same unit, and scrolls when the mouse leaves the view.
 class ViewMouse {
  public:
-  explicit ViewMouse(RichTextView& view) : view_(view) {}
+  explicit ViewMouse(RichTextView& view) : view_(view), drag_(view) {}
 
   void Press(const QMouseEvent& event);
   void Move(const QMouseEvent& event);
@@ -32,7 +33,6 @@ class ViewMouse {
   void PasteSelection(const QMouseEvent& event);
   void Begin(Unit unit, Position position, bool extend);
   void ExtendTo(Position position);
-  void Drag();
   void ShowShape(QPointF at);
   Selection Around(Position position) const;
   Position PositionAt(QPointF point) const;
@@ -46,6 +46,7 @@ class ViewMouse {
   QPointF last_;
   QElapsedTimer sinceDoubleClick_;
   QBasicTimer scrolling_;
+  ViewDrag drag_;
 };
 
 }  // namespace lumenote

@@ -9,11 +9,12 @@ namespace lumenote {
 
 namespace {
 constexpr int kSettlingTime = 1000;  // milliseconds
-}
+constexpr QSize kMostPixels{16384, 16384};
+}  // namespace
 
 QSize WindowGeometry::ClientSize(const Rect& place) {
   const QSize outer(RoundToPixel(place.width), RoundToPixel(place.height));
-  return (outer - kDecorations).expandedTo({0, 0});
+  return (outer - kDecorations).expandedTo({0, 0}).boundedTo(kMostPixels);
 }
 
 QPoint WindowGeometry::Corner(const Rect& place) {

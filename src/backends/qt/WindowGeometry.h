@@ -15,6 +15,7 @@ namespace lumenote {
 /// leaves its twips as they were.
 class WindowGeometry {
  public:
+  /// Bounded to what a desktop can show; the form's own size is not.
   static QSize ClientSize(const Rect& place);
   static QPoint Corner(const Rect& place);
 

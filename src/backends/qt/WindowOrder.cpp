@@ -1,5 +1,6 @@
 #include "backends/qt/WindowOrder.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "backends/qt/X11Server.h"
@@ -8,11 +9,20 @@ namespace lumenote {
 
 namespace {
 
+bool Says(const X11Server& server, xcb_window_t window, const char* property, const char* value) {
+  const xcb_atom_t wanted = server.AtomOf(value);
+  const std::vector<std::uint32_t> values = server.ListOf(window, property);
+  return wanted != XCB_ATOM_NONE && std::ranges::find(values, wanted) != values.end();
+}
+
+/// Window managers unmap what is minimised or on another desktop, or say that it is hidden.
+bool IsInSight(const X11Server& server, xcb_window_t window) {
+  return server.IsViewable(window) &&
+         !Says(server, window, "_NET_WM_STATE", "_NET_WM_STATE_HIDDEN");
+}
+
 bool IsPanel(const X11Server& server, xcb_window_t window) {
-  const xcb_atom_t panel = server.AtomOf("_NET_WM_WINDOW_TYPE_DOCK");
-  for (const std::uint32_t type : server.ListOf(window, "_NET_WM_WINDOW_TYPE"))
-    if (type == panel) return true;
-  return false;
+  return Says(server, window, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DOCK");
 }
 
 }  // namespace
@@ -24,7 +34,7 @@ std::optional<bool> IsTopmostOnDesktop(const QWidget& window) {
       server.ListOf(server.Root(), "_NET_CLIENT_LIST_STACKING");
   for (auto above = upwards.rbegin(); above != upwards.rend(); ++above) {
     if (*above == window.winId()) return true;
-    if (!IsPanel(server, *above)) return false;
+    if (IsInSight(server, *above) && !IsPanel(server, *above)) return false;
   }
   return {};
 }

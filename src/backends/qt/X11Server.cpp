@@ -58,6 +58,12 @@ std::string X11Server::TextOf(xcb_window_t window, std::string_view property) co
   return {first, static_cast<std::size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
+bool X11Server::IsViewable(xcb_window_t window) const {
+  const ReplyOwner<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+      connection_, xcb_get_window_attributes(connection_, window), nullptr));
+  return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
 void X11Server::SendDelete(xcb_window_t window) const {
   xcb_client_message_event_t event = {};
   event.response_type = XCB_CLIENT_MESSAGE;

@@ -22,6 +22,8 @@ class X11Server {
   std::vector<std::uint32_t> ListOf(xcb_window_t window, std::string_view property) const;
   /// A property that is a text, as it is coded; empty when it is not set.
   std::string TextOf(xcb_window_t window, std::string_view property) const;
+  /// Whether it and all that it stands in are mapped.
+  bool IsViewable(xcb_window_t window) const;
   /// Sends a window the protocol message that its close box sends.
   void SendDelete(xcb_window_t window) const;
 
