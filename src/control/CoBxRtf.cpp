@@ -36,7 +36,7 @@ void CoBxRtf::pChmAppli(std::u16string_view path) {
   session.listCorrPath = FoldBackslashes(ParentFolder(path) + u"\\ListCorr.txt");
   IgnoringErrors([&] {
     Files& files = parts_->windows.Machine().FileSystem();
-    if (!files.Exists(session.listCorrPath)) files.Write(session.listCorrPath, "");
+    if (!files.Exists(session.listCorrPath)) files.AppendLines(session.listCorrPath, "");
   });
 }
 

@@ -43,12 +43,8 @@ std::optional<Correction> CorrectionReader::Next() {
 
 void AppendCorrection(Files& files, std::u16string_view path, std::u16string_view wrong,
                       std::u16string_view right) {
-  std::string bytes = files.Exists(path) ? files.ReadAll(path) : std::string();
-  bytes += Encode1252(wrong);
-  bytes += kSeparator;
-  bytes += Encode1252(right);
-  bytes += "\r\n";
-  files.Write(path, bytes);
+  if (!Fits1252(wrong) || !Fits1252(right)) throw RuntimeError(ErrorNumber::InvalidArgument);
+  files.AppendLines(path, Encode1252(wrong).append(kSeparator) + Encode1252(right) + "\r\n");
 }
 
 }  // namespace lumenote

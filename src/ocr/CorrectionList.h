@@ -33,9 +33,10 @@ class CorrectionReader {
   std::int64_t line_ = 0;  // of the pair read last, counted from 1
 };
 
-/// Adds one line at the end of the list, making the file when it is missing; what code page 1252
-/// lacks becomes "?". The pair is written as it stands, be it one that cannot be read back. Raises
-/// what the file system does.
+/// Adds one line at the end of the list, making the file when it is missing; pairs that several
+/// programs store at the same time all stay. The pair is written as it stands, be it one that
+/// cannot be read back. One that code page 1252 lacks a character of raises InvalidArgument and is
+/// not stored. Raises what the file system does.
 void AppendCorrection(Files& files, std::u16string_view path, std::u16string_view wrong,
                       std::u16string_view right);
 

@@ -39,6 +39,10 @@ class Files {
   /// Makes a new file that only this user may read, whole or not at all. PermissionDenied where
   /// something of that name stands.
   virtual void WriteNew(std::u16string_view path, std::string_view bytes) = 0;
+  /// Adds whole lines behind what the file holds, in one write and all of them or none, so that
+  /// several programs can add to it at the same time; a last line without its end gets it first. A
+  /// missing file is made. Refuses a read-only file (PathAccess).
+  virtual void AppendLines(std::u16string_view path, std::string_view lines) = 0;
   /// A read-only file is deleted only with `force` (else PermissionDenied).
   virtual void Delete(std::u16string_view path, bool force) = 0;
   /// Copies content and mode; an existing target is overwritten unless read-only

@@ -76,6 +76,10 @@ class DisturbedFiles : public Files {
     before("write", path);
     inner_.WriteNew(path, bytes);
   }
+  void AppendLines(std::u16string_view path, std::string_view lines) override {
+    before("write", path);
+    inner_.AppendLines(path, lines);
+  }
   void Delete(std::u16string_view path, bool force) override {
     before("delete", path);
     inner_.Delete(path, force);

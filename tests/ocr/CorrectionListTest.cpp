@@ -63,9 +63,14 @@ TEST(CorrectionReader, RefusesBadLinesByNumber) {
 TEST(AppendCorrection, AddsALineAsItStands) {
   MemoryFiles files;
   AppendCorrection(files, kPath, u"teh", u"the");
-  AppendCorrection(files, kPath, u"c¿ur ", u"cœur\u2603");
+  AppendCorrection(files, kPath, u"c¿ur ", u"cœur");
   AppendCorrection(files, kPath, u"two\r\nlines", u"");
-  EXPECT_EQ(files.ReadAll(kPath), "teh=:=the\r\nc\xBFur =:=c\x9Cur?\r\ntwo\r\nlines=:=\r\n");
+  const std::u16string_view outside[] = {u"\u2603", u"\u0085", u"\U0001F600", u"\xD800"};
+  for (const std::u16string_view text : outside) {
+    EXPECT_EQ(ErrorOf([&] { AppendCorrection(files, kPath, text, u"a"); }), 5);
+    EXPECT_EQ(ErrorOf([&] { AppendCorrection(files, kPath, u"a", text); }), 5);
+  }
+  EXPECT_EQ(files.ReadAll(kPath), "teh=:=the\r\nc\xBFur =:=c\x9Cur\r\ntwo\r\nlines=:=\r\n");
 }
 
 }  // namespace

@@ -131,7 +131,12 @@ TEST_F(FilesTest, AFullDiskLeavesTheOldFile) {
       const FullDisk disk(10);
       files_.Write(u"C:\\a.txt", std::string(1000, 'x'));
     };
+    const auto add = [&] {
+      const FullDisk disk(10);
+      files_.AppendLines(u"C:\\a.txt", std::string(1000, 'x'));
+    };
     EXPECT_EQ(ErrorOf(save), 61);
+    EXPECT_EQ(ErrorOf(add), 61);
     EXPECT_EQ(Get("a.txt"), "old");
     EXPECT_TRUE(Left().empty());
     EXPECT_EQ(CountOfEntries(), before + (linked ? 1 : 0));  // the state folder
@@ -195,6 +200,32 @@ TEST_F(FilesTest, AnothersFileAndAClosedFolderAreWrittenInPlace) {
     EXPECT_EQ(info.st_uid, c.fileOwner) << c.folder;
     EXPECT_EQ(info.st_mode & 0777, c.mode) << c.folder;
   }
+}
+
+TEST_F(FilesTest, AddsLinesBehindTheLastOne) {
+  const struct {
+    std::string old, lines, whole;
+  } kCases[] = {
+      {"(none)", "", ""},
+      {"(none)", "b\r\n", "b\r\n"},
+      {"", "b\r\n", "b\r\n"},
+      {"a\r\n", "b\r\n", "a\r\nb\r\n"},
+      {"a\n", "b\r\n", "a\nb\r\n"},
+      {"a", "b\r\n", "a\r\nb\r\n"},
+      {"a\r", "b\r\n", "a\r\nb\r\n"},
+      {"a", "", "a"},
+  };
+  fs::create_symlink("list.txt", Native("link.txt"));
+  for (const auto& c : kCases) {
+    fs::remove(Native("list.txt"));
+    if (c.old != "(none)") Put("list.txt", c.old, 0640);
+    files_.AppendLines(u"C:\\link.txt", c.lines);
+    EXPECT_EQ(Get("list.txt"), c.whole);
+    EXPECT_EQ(ModeOf("list.txt") == 0640, c.old != "(none)");
+  }
+  Put("list.txt", "a", 0444);
+  EXPECT_EQ(ErrorOf([&] { files_.AppendLines(u"C:\\list.txt", "b"); }), 75);
+  EXPECT_EQ(Get("list.txt"), "a");
 }
 
 TEST_F(FilesTest, WritingThroughALinkKeepsTheLink) {
@@ -281,6 +312,8 @@ TEST_F(FilesTest, FailuresHaveTheirNumbers) {
     EXPECT_EQ(ErrorOf([&] { files_.IsReadOnly(c.path); }), c.look);
     EXPECT_EQ(ErrorOf([&] { files_.Delete(c.path, true); }), c.look);
     EXPECT_EQ(ErrorOf([&] { files_.Write(c.path, "x"); }), c.write);
+    if (!c.path.ends_with(u'\\'))
+      EXPECT_EQ(ErrorOf([&] { files_.AppendLines(c.path, "x"); }), c.write);
   }
   EXPECT_TRUE(fs::is_directory(Native("folder")));
 }

@@ -32,6 +32,10 @@ class MemoryFiles final : public Files {
     files[std::u16string(path)] = bytes;
   }
   void WriteNew(std::u16string_view path, std::string_view bytes) override { Write(path, bytes); }
+  void AppendLines(std::u16string_view path, std::string_view lines) override {
+    if (broken) throw RuntimeError(ErrorNumber::PathAccess);
+    files[std::u16string(path)] += lines;
+  }
   void Delete(std::u16string_view path, bool) override { files.erase(std::u16string(path)); }
   void Copy(std::u16string_view from, std::u16string_view to) override { Write(to, ReadAll(from)); }
   void Move(std::u16string_view from, std::u16string_view to) override {

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "backends/posix/AppendFile.h"
 #include "backends/posix/AtomicFile.h"
 #include "backends/posix/Descriptor.h"
 #include "backends/posix/Errors.h"
@@ -96,6 +97,10 @@ void PosixFiles::WriteNew(std::u16string_view path, std::string_view bytes) {
   AtomicFile file(drives_.ToNative(path), S_IRUSR | S_IWUSR);
   file.Write(bytes);
   file.CommitAsNew();
+}
+
+void PosixFiles::AppendLines(std::u16string_view path, std::string_view lines) {
+  AppendLinesTo(drives_.ToNative(path), lines, kNewFileMode);
 }
 
 void PosixFiles::Delete(std::u16string_view path, bool force) {

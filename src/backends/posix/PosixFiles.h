@@ -28,6 +28,7 @@ class PosixFiles : public Files {
   /// on any thread.
   void Write(std::u16string_view path, std::string_view bytes) override;
   void WriteNew(std::u16string_view path, std::string_view bytes) override;
+  void AppendLines(std::u16string_view path, std::string_view lines) override;
   /// Removes a symbolic link itself.
   void Delete(std::u16string_view path, bool force) override;
   void Copy(std::u16string_view from, std::u16string_view to) override;

@@ -1,0 +1,13 @@
+// Adding lines to a file that other programs add to as well.
+#pragma once
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+
+namespace lumenote {
+
+/// See `Files::AppendLines`. The path is native, links are followed; a new file gets `newMode` less
+/// the process's mask.
+void AppendLinesTo(const std::string& path, std::string_view lines, mode_t newMode);
+
+}  // namespace lumenote
