@@ -10,7 +10,7 @@ namespace lumenote {
 void OuvrirOcr(EditorWindow& editor, Processes& processes, std::u16string_view path) {
   if (!editor.Services().FileSystem().Exists(path)) return;
   editor.SuspendreDessus();
-  processes.Start(Quoted(path));
+  processes.Start(QuotedProgram(path));
 }
 
 }  // namespace lumenote

@@ -191,9 +191,9 @@ void RoundTrip::TakeTime() {
 }
 
 std::u16string RoundTrip::CommandLine() const {
-  std::u16string line = Quoted(ProgramPath()) + u" " + Quoted(workFile_);
+  std::u16string line = QuotedProgram(ProgramPath()) + u" " + Quoted(workFile_);
   if (running_ == kWord) line += u" /l" + Quoted(editor_.Values().templatePath);
-  return FoldBackslashes(line);
+  return line;
 }
 
 void RoundTrip::StartProgram() {

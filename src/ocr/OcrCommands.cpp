@@ -8,7 +8,6 @@
 #include "ocr/Cleanup.h"
 #include "platform/Clipboard.h"
 #include "platform/Files.h"
-#include "platform/Paths.h"
 #include "platform/Processes.h"
 #include "platform/ProgramCommand.h"
 
@@ -44,9 +43,8 @@ void EditerListCorr(EditorWindow& editor, Processes& processes, std::u16string_v
                     .icon = MessageBox::Icon::Critical});
     return;
   }
-  const std::u16string command = FoldBackslashes(Quoted(program) + u" " + Quoted(list));
   editor.SuspendreDessus();
-  processes.Start(command);
+  processes.Start(QuotedProgram(program) + u" " + Quoted(list));
 }
 
 }  // namespace lumenote

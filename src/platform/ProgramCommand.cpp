@@ -4,6 +4,9 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "base/Strings.h"
+#include "platform/Paths.h"
+
 namespace lumenote {
 namespace {
 
@@ -13,14 +16,27 @@ void SkipBlanks(std::u16string_view& line) {
   line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
 }
 
+/// What stands before the quote that closes a program's word, a doubled one being literal.
+std::u16string TakeQuotedProgram(std::u16string_view& line) {
+  std::u16string word;
+  while (!line.empty()) {
+    const std::size_t end = std::min(line.find(u'"'), line.size());
+    const bool literal = line.substr(end).starts_with(u"\"\"");
+    word += line.substr(0, end + (literal ? 1 : 0));
+    line.remove_prefix(std::min(end + (literal ? 2 : 1), line.size()));
+    if (!literal) break;
+  }
+  return word;
+}
+
 /// The program's own word: no backslash has a meaning in it.
 std::u16string TakeProgram(std::u16string_view& line) {
-  const bool quoted = line.starts_with(u'"');
-  if (quoted) line.remove_prefix(1);
-  const std::size_t end = quoted ? line.find(u'"') : line.find_first_of(kBlanks);
-  const std::u16string word(line.substr(0, end));
-  line.remove_prefix(std::min(end, line.size()));
-  if (quoted && !line.empty()) line.remove_prefix(1);
+  if (line.starts_with(u'"')) {
+    line.remove_prefix(1);
+    return TakeQuotedProgram(line);
+  }
+  const std::u16string word(line.substr(0, line.find_first_of(kBlanks)));
+  line.remove_prefix(word.size());
   return word;
 }
 
@@ -63,6 +79,21 @@ std::vector<std::u16string> SplitCommandLine(std::u16string_view line) {
   return words;
 }
 
-std::u16string Quoted(std::u16string_view text) { return u'"' + std::u16string(text) + u'"'; }
+std::u16string QuotedProgram(std::u16string_view path) {
+  return u'"' + ReplaceEvery(FoldBackslashes(path), u"\"", u"\"\"") + u'"';
+}
+
+std::u16string Quoted(std::u16string_view path) {
+  const std::u16string text = FoldBackslashes(path);
+  if (text.find(u'"') == text.npos) return u'"' + text + u'"';
+  std::u16string word = u"\"";
+  std::size_t backslashes = 0;
+  for (const char16_t unit : text) {
+    if (unit == u'"') word.append(backslashes + 1, u'\\');
+    backslashes = unit == u'\\' ? backslashes + 1 : 0;
+    word += unit;
+  }
+  return word.append(backslashes, u'\\') + u'"';
+}
 
 }  // namespace lumenote

@@ -10,6 +10,7 @@
 #include "backends/posix/IniRegistry.h"
 #include "backends/posix/PosixProcesses.h"
 #include "backends/posix/PosixProgramFolders.h"
+#include "base/Strings.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
 #include "posix/Sandbox.h"
@@ -49,6 +50,18 @@ class ProcessesTest : public SandboxTest {
 
   PosixProcesses processes{drives_};
 };
+
+TEST_F(ProcessesTest, AnyFileNameIsOneArgument) {
+  for (const std::string name :
+       {"a b", "a\"b", "\"", "\" \"", "\"\"a", "'$x", "a\tb\nc", " ", "é α"}) {
+    std::filesystem::create_directory(Native(name));
+    Script(name + "/p.exe", "printf '%s|' \"$@\" > \"${0%/*}/out\"\n");
+    const std::u16string folder = u"C:\\" + FromUtf8(name) + u"\\";
+    EXPECT_TRUE(EndsSoon(processes.Start(QuotedProgram(folder + u"p.exe") + u" " +
+                                         Quoted(folder + FromUtf8(name) + u".rtf") + u" x")));
+    EXPECT_EQ(Get(name + "/out"), Native(name + "/" + name + ".rtf") + "|x|");
+  }
+}
 
 TEST_F(ProcessesTest, ArgumentsBecomeNativeAndTheTemplateSwitchGoes) {
   Script("p q.exe", "printf '%s|' \"$@\" > \"${0%/*}/out\"\n");
@@ -180,8 +193,17 @@ TEST(ProgramCommandTest, SplitsByTheRulesOfDriveLetterPrograms) {
       {u"p a\\\\\"b c\" \\\"d\\\\e", {u"p", u"a\\b c", u"\"d\\\\e"}},
       {u"p \"open", {u"p", u"open"}},
       {u"\"open", {u"open"}},
+      {u"\"C:\\a\"\" b\\\"\"\" x", {u"C:\\a\" b\\\"", u"x"}},
   };
   for (const auto& c : cases) EXPECT_EQ(SplitCommandLine(c.line), c.words);
+  const std::u16string paths[] = {u"C:\\a b.rtf", u"C:\\a\"b", u"C:\\\"\"", u"a\\\" \\b\"\\", u""};
+  for (const auto& program : paths)
+    for (const auto& file : paths)
+      EXPECT_EQ(
+          SplitCommandLine(QuotedProgram(program) + u" " + Quoted(file) + u" /l" + Quoted(file)),
+          (std::vector{program, file, u"/l" + file}));
+  EXPECT_EQ(QuotedProgram(u"C:\\\\a b\\"), u"\"C:\\a b\\\"");
+  EXPECT_EQ(Quoted(u"C:\\\\a b\\"), u"\"C:\\a b\\\"");
   EXPECT_EQ(ChmExts(u"C:\\a.rtf", u"txt"), u"C:\\a.txt");
   EXPECT_EQ(ChmExts(u"ab", u"txt"), u"");
 }

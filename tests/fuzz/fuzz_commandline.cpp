@@ -1,14 +1,30 @@
-// Any command line is read or refused with its own error.
+// Any command line is read or refused with its own error; any two paths are two words of one.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <string_view>
 #include <vector>
 
 #include "base/CommandLine.h"
+#include "base/Strings.h"
+#include "platform/Paths.h"
+#include "platform/ProgramCommand.h"
+
+namespace {
+
+using namespace lumenote;
+
+/// A path without a quote is never escaped, though a backslash at its end would need it.
+void CheckWords(const std::u16string& program, const std::u16string& file) {
+  if (!file.empty() && file.back() == u'\\' && file.find(u'"') == file.npos) return;
+  const auto words = SplitCommandLine(QuotedProgram(program) + u" " + Quoted(file));
+  if (words != std::vector{FoldBackslashes(program), FoldBackslashes(file)}) std::abort();
+}
+
+}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using namespace lumenote;
   constexpr OptionRule kRules[] = {{"--title", true}, {"--readonly"}, {"-o", true}};
   std::string_view rest(reinterpret_cast<const char*>(data), size);
   std::vector<std::string_view> arguments;
@@ -17,6 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     arguments.push_back(rest.substr(0, end));
     rest.remove_prefix(std::min(end + 1, rest.size()));
   }
+  if (arguments.size() > 1) CheckWords(FromUtf8(arguments[0]), FromUtf8(arguments[1]));
   try {
     const CommandLine line(arguments, kRules);
     (void)line.Value("--title");

@@ -312,8 +312,9 @@ TEST_F(FilesTest, FailuresHaveTheirNumbers) {
     EXPECT_EQ(ErrorOf([&] { files_.IsReadOnly(c.path); }), c.look);
     EXPECT_EQ(ErrorOf([&] { files_.Delete(c.path, true); }), c.look);
     EXPECT_EQ(ErrorOf([&] { files_.Write(c.path, "x"); }), c.write);
-    if (!c.path.ends_with(u'\\'))
+    if (!c.path.ends_with(u'\\')) {
       EXPECT_EQ(ErrorOf([&] { files_.AppendLines(c.path, "x"); }), c.write);
+    }
   }
   EXPECT_TRUE(fs::is_directory(Native("folder")));
 }
