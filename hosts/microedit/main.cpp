@@ -13,7 +13,7 @@
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "base/Windows1252.h"
+#include "base/TextForm.h"
 #include "control/CoBxRtf.h"
 #include "control/Component.h"
 #include "editor/DocumentStorage.h"
@@ -76,7 +76,9 @@ void HandOver(CoBxRtf& control, const Files& files, const std::u16string& path, 
     return;
   }
   control.pAttribut(u"readonly");
-  control.pStrOrchm(Decode1252(files.ReadAll(path)));
+  const std::string bytes = files.ReadAll(path);
+  const bool text = FormatDe(path) == u"txt";
+  control.pStrOrchm(DecodeText(bytes, text ? FormOfText(bytes) : TextForm::Windows1252));
 }
 
 void Describe(CoBxRtf& control, const CommandLine& line) {

@@ -168,8 +168,7 @@ void Co_Rtf::Form_Activate() {
   Left(place.left);
   Pop.mnuPopEnregistrer.Visible(session_.fileMode);
   LocatePrograms();
-  PreparerDocument(*this);
-  session_.loaded = LoadFilAndIni(*this);
+  session_.loaded = OuvrirDocument(*this);
   session_.changes = 0;
   if (!session_.loaded) {
     Unload();

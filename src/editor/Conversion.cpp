@@ -16,29 +16,20 @@
 namespace lumenote {
 namespace {
 
-/// Puts back what stood at a path before, if the conversion fails.
-class FileKeeper {
- public:
-  FileKeeper(Files& files, std::u16string path) : files_(files), path_(std::move(path)) {
-    if (files_.Exists(path_)) bytes_ = files_.ReadAll(path_);
-  }
-  FileKeeper(const FileKeeper&) = delete;
-  FileKeeper& operator=(const FileKeeper&) = delete;
-
-  void PutBack() {
-    IgnoringErrors([&] {
-      if (bytes_)
-        files_.Write(path_, *bytes_);
-      else
-        files_.Delete(path_, true);
-    });
-  }
-
- private:
-  Files& files_;
-  std::u16string path_;
-  std::optional<std::string> bytes_;
-};
+/// Writes the document to `path` and loads it from there. Where the load fails, what stood there
+/// before is put back.
+bool Exchange(EditorWindow& editor, std::u16string_view path, FileType type) {
+  Files& files = editor.Services().FileSystem();
+  std::optional<std::string> before;
+  const bool written = IgnoringErrors([&] {
+    if (files.Exists(path)) before = files.ReadAll(path);
+    editor.Document().SaveFile(path, type);
+  });
+  if (!written) return false;
+  if (IgnoringErrors([&] { editor.Document().LoadFile(path, type); })) return true;
+  IgnoringErrors([&] { before ? files.Write(path, *before) : files.Delete(path, true); });
+  return false;
+}
 
 void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
              std::u16string_view label) {
@@ -46,12 +37,7 @@ void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
   Files& files = editor.Services().FileSystem();
   const std::u16string old = session.documentPath;
   const std::u16string path = ChmExts(old, format);
-  FileKeeper before(files, path);
-  const bool converted = IgnoringErrors([&] {
-    editor.Document().SaveFile(path, type);
-    editor.Document().LoadFile(path, type);
-  });
-  if (!converted) return before.PutBack();
+  if (!Exchange(editor, path, type)) return;
   session.format = format;
   session.dirty = false;
   editor.ShowFormat(label);

@@ -8,13 +8,13 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "base/Windows1252.h"
 #include "control/Session.h"
 #include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"
+#include "surface/TextBytes.h"
 
 namespace lumenote {
 
@@ -64,8 +64,10 @@ std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
   return CheminTemp(temp) + u"\\TmpFl" + std::u16string(prefix) + u"." + std::u16string(extension);
 }
 
-void EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note) {
-  files.Write(path, Encode1252(note));
+TextForm EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note) {
+  const TextForm form = EstNoteRtf(note) ? TextForm::Windows1252 : FormFor(note);
+  files.Write(path, EstNoteRtf(note) ? BytesOfSource(note) : EncodeText(note, form));
+  return form;
 }
 
 void CreFVideRtf(Files& files, std::u16string_view path) { files.Write(path, kEmptyRtf); }
@@ -85,7 +87,10 @@ FileType TypeDe(std::u16string_view format) {
 bool EstNoteRtf(std::u16string_view note) { return Lower(note.substr(0, 5)) == u"{\\rtf"; }
 
 std::u16string ContenuNote(EditorWindow& editor) {
-  return editor.Values().format == u"txt" ? editor.Document().Text() : editor.Document().TextRTF();
+  const Session& session = editor.Values();
+  if (session.format != u"txt") return editor.Document().TextRTF();
+  std::u16string text = editor.Document().Text();
+  return WithCrLf(session.note) == text ? session.note : text;
 }
 
 void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16string_view note) {
@@ -102,7 +107,12 @@ void NoterFichier(EditorWindow& editor) {
   });
 }
 
-bool LoadFilAndIni(EditorWindow& editor) {
+void DireEchecChargement(EditorWindow& editor) {
+  editor.AskOver({.text = u"Impossible de Charger le fichier\r\n" + editor.Values().documentPath,
+                  .icon = MessageBox::Icon::Critical});
+}
+
+bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form) {
   Session& session = editor.Values();
   editor.ShowStatus(1, EspDvtDer(session.documentPath));
   session.format = FormatDe(session.documentPath);
@@ -111,12 +121,10 @@ bool LoadFilAndIni(EditorWindow& editor) {
   const FileState before = session.onDisk;
   NoterFichier(editor);
   const bool loaded =
-      IgnoringErrors([&] { editor.Document().LoadFile(session.documentPath, type); });
+      IgnoringErrors([&] { editor.Document().LoadFile(session.documentPath, type, form); });
   session.dirty = session.loaded && !loaded;
   if (!loaded) session.onDisk = before;
-  if (!loaded)
-    editor.AskOver({.text = u"Impossible de Charger le fichier\r\n" + session.documentPath,
-                    .icon = MessageBox::Icon::Critical});
+  if (!loaded) DireEchecChargement(editor);
   return loaded;
 }
 

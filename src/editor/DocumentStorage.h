@@ -1,9 +1,11 @@
 // The note's file: creating, naming, loading, saving and deleting it.
 #pragma once
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/TextForm.h"
 #include "editor/EditorWindow.h"
 
 namespace lumenote {
@@ -16,8 +18,10 @@ std::u16string CheminTemp(const TempFolder& temp);
 /// Temporary folder, "\TmpFl", prefix, ".", extension.
 std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
                            std::u16string_view extension);
-/// Writes the note as it stands, in code page 1252, without a line end of its own.
-void EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
+/// Writes the note as it stands, without a line end of its own, and returns the form: code page
+/// 1252 or what `FormFor` finds; RTF source has escapes for the characters that are not in that
+/// page.
+TextForm EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
 /// Writes the empty RTF document.
 void CreFVideRtf(Files& files, std::u16string_view path);
 /// The path between three blanks on each side, as the status bar shows it.
@@ -29,15 +33,19 @@ FileType TypeDe(std::u16string_view format);
 /// Whether a note is RTF source: it begins with "{\rtf" in any letter case.
 bool EstNoteRtf(std::u16string_view note);
 
-/// The content of the document in the form that the host gets: plain for "txt", else RTF.
+/// The content of the document in the form that the host gets: plain for "txt", else RTF. A plain
+/// note that differs in its line ends alone is given back as it came.
 std::u16string ContenuNote(EditorWindow& editor);
 
 /// Deletes the file at `path` unless it is read-only, or the note's own file under another name.
 void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16string_view note);
 
 /// Loads the document path into the surface and sets status, format and label. A failure is told to
-/// the user and returned as false; a document that was in the surface before is dirty then.
-bool LoadFilAndIni(EditorWindow& editor);
+/// the user and returned as false; a document that was in the surface before is dirty then. `form`
+/// is that of a plain text whose form is known.
+bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form = std::nullopt);
+/// Tells the user that the document path could not be loaded.
+void DireEchecChargement(EditorWindow& editor);
 
 /// Remembers the file at the document path as it is now, so that a save can tell what another
 /// program makes of it.

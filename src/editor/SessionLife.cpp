@@ -25,14 +25,14 @@ void PrepareFile(EditorWindow& editor) {
   IgnoringErrors([&] { session.readOnly = files.IsReadOnly(session.documentPath); });
 }
 
-void PrepareString(EditorWindow& editor) {
+TextForm PrepareString(EditorWindow& editor) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
   const std::u16string leftOver = NomFichTemp(editor.Temp(), u"Str", u"rtf");
   if (files.Exists(leftOver)) IgnoringErrors([&] { files.Delete(leftOver, false); });
   session.documentPath =
       NomFichTemp(editor.Temp(), u"Str", EstNoteRtf(session.note) ? u"rtf" : u"txt");
-  IgnoringErrors([&] { EcritNoteTemp(files, session.documentPath, session.note); });
+  return EcritNoteTemp(files, session.documentPath, session.note);
 }
 
 Fermeture CloseFile(EditorWindow& editor) {
@@ -80,11 +80,17 @@ void CommencerSession(Session& session) {
   session.onDisk = {};
 }
 
-void PreparerDocument(EditorWindow& editor) {
-  if (editor.Values().fileMode)
-    PrepareFile(editor);
-  else
-    PrepareString(editor);
+std::optional<TextForm> PreparerDocument(EditorWindow& editor) {
+  if (!editor.Values().fileMode) return PrepareString(editor);
+  PrepareFile(editor);
+  return {};
+}
+
+bool OuvrirDocument(EditorWindow& editor) {
+  std::optional<TextForm> form;
+  if (IgnoringErrors([&] { form = PreparerDocument(editor); })) return LoadFilAndIni(editor, form);
+  DireEchecChargement(editor);
+  return false;
 }
 
 Fermeture TerminerEdition(EditorWindow& editor) {

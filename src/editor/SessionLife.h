@@ -1,7 +1,9 @@
 // The life of an editing session: preparing the note's file, deciding what closing does.
 #pragma once
+#include <optional>
 #include <string_view>
 
+#include "base/TextForm.h"
 #include "editor/EditorWindow.h"
 
 namespace lumenote {
@@ -9,8 +11,11 @@ namespace lumenote {
 /// Forgets what the editor before left in the session's values.
 void CommencerSession(Session& session);
 /// File mode: creates a missing "txt" or "rtf" file and reads the read-only attribute. String
-/// mode: writes the note to its temporary file, which becomes the document path.
-void PreparerDocument(EditorWindow& editor);
+/// mode: writes the note to its temporary file, which becomes the document path, and returns its
+/// form; raises what the file system does, since another note may be left over there.
+std::optional<TextForm> PreparerDocument(EditorWindow& editor);
+/// Prepares and loads the document. A failure is told to the user and returned as false.
+bool OuvrirDocument(EditorWindow& editor);
 
 enum class Fermeture { Complete, SansGeometrie, Annulee };
 /// The closing decision: refuses the changes of a read-only note, asks whether to save, deletes the

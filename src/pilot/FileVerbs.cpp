@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Strings.h"
+#include "base/TextForm.h"
 #include "base/Windows1252.h"
 #include "pilot/Arguments.h"
 #include "pilot/ScriptError.h"
@@ -24,8 +25,8 @@ std::optional<std::string> ContentOf(const Files& files, std::u16string_view pat
 }
 
 std::u16string Decoded(std::string_view bytes) {
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  return bytes.starts_with(kMark) ? FromUtf8(bytes.substr(kMark.size())) : Decode1252(bytes);
+  const bool marked = FormOfText(bytes) == TextForm::MarkedUtf8;
+  return DecodeText(bytes, marked ? TextForm::MarkedUtf8 : TextForm::Windows1252);
 }
 
 std::string BytesOfHex(std::string_view hex) {

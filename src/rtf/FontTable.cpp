@@ -29,6 +29,8 @@ class Entry {
 
   void Word(const Token& word);
   void Bytes(std::string_view bytes);
+  /// What follows is no other form of a \u before it.
+  void EndFallback() { fallback_ = 0; }
   /// Gives the bytes of the name so far their characters.
   void EndBytes();
 
@@ -103,6 +105,8 @@ void FontTable::Read(Tokenizer& tokens, InternTable<FontFace>& faces, int docume
       start(token.number);
     } else if (token.kind == Token::Kind::Word) {
       entry.Word(token);
+    } else if (token.kind == Token::Kind::Open) {
+      entry.EndFallback();
     } else if (token.kind == Token::Kind::Byte) {
       entry.Bytes({&byte, 1});
     } else if (token.kind == Token::Kind::Text || token.kind == Token::Kind::High) {

@@ -66,7 +66,9 @@ class DocumentSurface final : public RichTextSurface {
   float RightMargin() const override { return rightMargin_; }
   void RightMargin(float twips) override;
 
-  void LoadFile(std::u16string_view path, FileType type) override { transfer_.Load(path, type); }
+  void LoadFile(std::u16string_view path, FileType type, std::optional<TextForm> form) override {
+    transfer_.Load(path, type, form);
+  }
   std::string SaveFile(std::u16string_view path, FileType type) override {
     return transfer_.Save(path, type);
   }

@@ -1,34 +1,35 @@
 #include "surface/TextBytes.h"
 
 #include <algorithm>
+#include <cstdint>
 
-#include "base/Strings.h"
 #include "base/Windows1252.h"
 
 namespace lumenote {
 
 namespace {
 
-/// `low`: index of the low byte in each pair. A last byte without a partner is dropped.
-std::u16string DecodeUtf16(std::string_view bytes, std::size_t low) {
-  std::u16string text;
-  text.reserve(bytes.size() / 2);
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    const auto least = static_cast<unsigned char>(bytes[i + low]);
-    const auto most = static_cast<unsigned char>(bytes[i + 1 - low]);
-    text += static_cast<char16_t>(most << 8 | least);
+/// RTF source as bytes; `byteOf` gives the one of a unit, or -1. The braces behind an escape shut
+/// out that what follows is taken for its fallback, however many characters (\uc) those are.
+template <class ByteOf>
+std::string SourceBytes(std::u16string_view source, ByteOf byteOf) {
+  std::string bytes;
+  bytes.reserve(source.size());
+  bool escaping = false;
+  for (const char16_t unit : source) {
+    const int byte = byteOf(unit);
+    if (byte >= 0) {
+      bytes += static_cast<char>(byte);
+    } else {
+      if (!escaping) bytes += '\\';
+      bytes += "u" + std::to_string(static_cast<std::int16_t>(unit)) + "{}";
+    }
+    escaping = unit == u'\\' && !escaping;
   }
-  return text;
+  return bytes;
 }
 
 }  // namespace
-
-std::u16string DecodePlainText(std::string_view bytes) {
-  if (bytes.starts_with("\xEF\xBB\xBF")) return FromUtf8(bytes.substr(3));
-  if (bytes.starts_with("\xFF\xFE")) return DecodeUtf16(bytes.substr(2), 0);
-  if (bytes.starts_with("\xFE\xFF")) return DecodeUtf16(bytes.substr(2), 1);
-  return Decode1252(bytes);
-}
 
 std::u16string UnitsOfBytes(std::string_view bytes) {
   std::u16string units(bytes.size(), u'\0');
@@ -38,11 +39,9 @@ std::u16string UnitsOfBytes(std::string_view bytes) {
 }
 
 std::string BytesOfUnits(std::u16string_view units) {
-  std::string bytes(units.size(), '\0');
-  std::ranges::transform(units, bytes.begin(), [](const char16_t& unit) {
-    return unit <= 0xFF ? static_cast<char>(unit) : Encode1252({&unit, 1}).front();
-  });
-  return bytes;
+  return SourceBytes(units, [](char16_t unit) { return unit <= 0xFF ? unit : ByteIn1252(unit); });
 }
+
+std::string BytesOfSource(std::u16string_view source) { return SourceBytes(source, ByteIn1252); }
 
 }  // namespace lumenote

@@ -1,7 +1,9 @@
 #include "surface/Transfer.h"
 
+#include <utility>
+
 #include "base/RuntimeError.h"
-#include "base/Windows1252.h"
+#include "base/Strings.h"
 #include "rtf/Reader.h"
 #include "rtf/Writer.h"
 #include "surface/TextBytes.h"
@@ -101,19 +103,37 @@ void Transfer::SelectedRtf(std::u16string_view rtf) {
     text_.DeleteSelection(UndoKind::Unknown);
 }
 
-void Transfer::Load(std::u16string_view path, FileType type) {
+void Transfer::Load(std::u16string_view path, FileType type, std::optional<TextForm> form) {
   core_.RequireQuiet();
-  const std::string bytes = files_.ReadAll(path);
-  if (type == FileType::Text) return Text(DecodePlainText(bytes));
+  std::string bytes = files_.ReadAll(path);
+  if (type == FileType::Text) return LoadText(std::move(bytes), form);
   if (!LooksLikeRtf(bytes))
     throw RuntimeError(ErrorNumber::InvalidArgument, u"Le fichier n'est pas au format RTF");
   LoadRtf(bytes);
+  form_ = TextForm::Windows1252;
+  original_.clear();
+}
+
+// The file itself is kept only where it could not be told from its text: the breaks of the document
+// are all alike, and damaged bytes have no characters. Each lone CR or LF has made the text longer.
+void Transfer::LoadText(std::string bytes, std::optional<TextForm> form) {
+  form_ = form.value_or(FormOfText(bytes));
+  const std::u16string text = DecodeText(bytes, form_);
+  Text(text);
+  const bool same = static_cast<std::size_t>(core_.Content().Length()) == text.size() &&
+                    (form_ == TextForm::Windows1252 || EncodeTextFile(text, form_) == bytes);
+  original_ = same || form ? std::string() : std::move(bytes);
+}
+
+std::string Transfer::PlainBytes() const {
+  const Document& document = core_.Content();
+  const std::u16string text = document.Text(0, document.Length());
+  if (!original_.empty() && WithCrLf(DecodeText(original_, form_)) == text) return original_;
+  return EncodeTextFile(text, form_);
 }
 
 std::string Transfer::Bytes(FileType type) const {
-  const Document& document = core_.Content();
-  return type == FileType::Rtf ? WriteRtf(document)
-                               : Encode1252(document.Text(0, document.Length()));
+  return type == FileType::Rtf ? WriteRtf(core_.Content()) : PlainBytes();
 }
 
 std::string Transfer::Save(std::u16string_view path, FileType type) {

@@ -1,5 +1,6 @@
 // Content that comes and goes as a whole or through the clipboard: texts, RTF, files.
 #pragma once
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,7 +24,7 @@ class Transfer {
   std::u16string SelectedRtf() const;
   void SelectedRtf(std::u16string_view rtf);
 
-  void Load(std::u16string_view path, FileType type);
+  void Load(std::u16string_view path, FileType type, std::optional<TextForm> form);
   std::string Save(std::u16string_view path, FileType type);
   /// What `Save` writes.
   std::string Bytes(FileType type) const;
@@ -39,6 +40,8 @@ class Transfer {
 
  private:
   void LoadRtf(std::string_view bytes);
+  void LoadText(std::string bytes, std::optional<TextForm> form);
+  std::string PlainBytes() const;
   Fragment FragmentOf(const ClipboardContent& content);
 
   EditingCore& core_;
@@ -47,6 +50,9 @@ class Transfer {
   Files& files_;
   CharFormat defaultFormat_;
   std::u16string baseFontName_;
+  TextForm form_ = TextForm::Windows1252;  // of the file loaded last
+  /// That file, where writing its text anew would give other bytes; else empty.
+  std::string original_;
 };
 
 }  // namespace lumenote

@@ -1,10 +1,7 @@
 // lumenote convert: a note as RTF or plain text, either way.
-#include <iostream>
-
 #include "Command.h"
 #include "NoteFile.h"
 #include "base/CommandLine.h"
-#include "base/Windows1252.h"
 
 namespace lumenote::tool {
 namespace {
@@ -37,8 +34,6 @@ int Convert(Arguments arguments) {
   const Note note(source, ReadBytes(source));
   const Format format = asked.value_or(OtherThan(note.Source()));
   WriteBytes(line.Operands()[1], note.Bytes(format));
-  if (format == Format::Text && !Fits1252(note.Text()))
-    std::cerr << "lumenote : des caractères hors de la page de code 1252 sont devenus \"?\"\n";
   return 0;
 }
 

@@ -13,7 +13,6 @@
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "base/Windows1252.h"
 #include "rtf/Reader.h"
 #include "rtf/Writer.h"
 #include "surface/TextBytes.h"
@@ -57,14 +56,15 @@ std::optional<Format> FormatOfName(std::string_view name) {
 }
 
 Note::Note(const std::string& name, std::string_view bytes) : source_(FormatOf(name, bytes)) {
+  if (source_ == Format::Text) form_ = FormOfText(bytes);
   if (source_ == Format::Rtf)
     surface_.TextRTF(UnitsOfBytes(bytes));
   else
-    surface_.Text(DecodePlainText(bytes));
+    surface_.Text(DecodeText(bytes, form_));
 }
 
 std::string Note::Bytes(Format format) const {
-  return format == Format::Rtf ? WriteRtf(surface_.Content()) : Encode1252(Text());
+  return format == Format::Rtf ? WriteRtf(surface_.Content()) : EncodeTextFile(Text(), form_);
 }
 
 std::string ReadBytes(const std::string& name) {

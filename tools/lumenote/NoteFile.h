@@ -6,6 +6,7 @@
 
 #include "backends/headless/FixedBreaker.h"
 #include "backends/posix/PosixFiles.h"
+#include "base/TextForm.h"
 #include "pilot/MemoryClipboard.h"
 #include "surface/DocumentSurface.h"
 
@@ -27,7 +28,8 @@ class Note {
   Format Source() const { return source_; }
   std::u16string Text() const { return surface_.Text(); }
   RichTextSurface& Surface() { return surface_; }
-  /// The note as a file: RTF, or text in code page 1252 with CR LF.
+  /// The note as a file: RTF, or text with CR LF in the form of UTF-8 that it was read in, else in
+  /// code page 1252, as UTF-8 with a mark where that does not go.
   std::string Bytes(Format format) const;
 
  private:
@@ -36,6 +38,7 @@ class Note {
   FixedBreaker breaker_{0};
   DocumentSurface surface_{clipboard_, files_, breaker_};
   Format source_;
+  TextForm form_ = TextForm::Windows1252;
 };
 
 /// Absolute, so that the folder above it can be looked at when it is missing.

@@ -1,0 +1,71 @@
+// Any bytes as a text file: unedited they are saved as they were, edited the text reads as it was
+// written. Any text as a note in a string, plain or in RTF source, comes back.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "backends/headless/FixedBreaker.h"
+#include "base/Strings.h"
+#include "base/TextForm.h"
+#include "surface/DocumentSurface.h"
+#include "surface/Fakes.h"
+#include "surface/TextBytes.h"
+
+namespace {
+
+using namespace lumenote;
+
+constexpr std::u16string_view kPath = u"C:\\a.txt";
+
+void Check(bool holds) {
+  if (!holds) std::abort();
+}
+
+struct Desk {
+  MemoryClipboard clipboard;
+  MemoryFiles files;
+  FixedBreaker breaker{0};
+  DocumentSurface surface{clipboard, files, breaker};
+};
+
+void CheckFile(std::string_view bytes) {
+  Desk desk;
+  desk.files.Write(kPath, bytes);
+  desk.surface.LoadFile(kPath, FileType::Text, {});
+  desk.surface.SaveFile(kPath, FileType::Text);
+  Check(desk.files.ReadAll(kPath) == bytes);
+  desk.surface.SelStart(static_cast<Position>(bytes.size() / 2));
+  desk.surface.SelText(bytes.size() % 2 == 0 ? u"x" : u"\u03B1");
+  const std::u16string text = desk.surface.Text();
+  desk.surface.SaveFile(kPath, FileType::Text);
+  desk.surface.LoadFile(kPath, FileType::Text, {});
+  Check(desk.surface.Text() == text);
+}
+
+void CheckNote(const std::u16string& note) {
+  const TextForm form = FormFor(note);
+  Check(DecodeText(EncodeText(note, form), form) == note);
+  const std::string file = EncodeTextFile(note, TextForm::Utf8);
+  Check(DecodeText(file, FormOfText(file)) == note);
+}
+
+/// In RTF source each character beyond page 1252 is itself.
+void CheckSource(const std::u16string& note) {
+  std::u16string text;
+  for (const char16_t unit : note) text += static_cast<char16_t>(unit | 0x4000);
+  Desk desk;
+  desk.surface.TextRTF(UnitsOfBytes(BytesOfSource(u"{\\rtf1 " + text + u"}")));
+  Check(desk.surface.Text() == text);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const std::u16string units = DecodeText(bytes, TextForm::LittleUtf16);
+  CheckFile(bytes);
+  CheckNote(units);
+  CheckSource(units);
+  return 0;
+}
