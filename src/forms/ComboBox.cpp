@@ -75,7 +75,8 @@ bool ComboBox::UserKey(const KeyStroke& key) {
   if (marked_) return KeyInList(key);
   if (key.name == KeyName::Down || key.name == KeyName::Up) {
     UserDrop();
-    marked_ = index_;
+    const auto entry = std::find(list_.begin(), list_.end(), Text());
+    marked_ = entry == list_.end() ? -1 : static_cast<int>(entry - list_.begin());
     return true;
   }
   if (style_ == ComboStyle::ListOnly) return false;

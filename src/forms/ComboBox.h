@@ -15,7 +15,7 @@ enum class ComboStyle { Editable, ListOnly };
 /// `ListIndex` is -1 while the text is no entry's choice. A real change of the index raises Click,
 /// whoever made it; assigning the text chooses nothing and is silent,
 /// but in a list that cannot be edited it chooses the entry. Of the keys Up and Down drop the list
-/// down, and in it mark an entry, which Return chooses and Escape does not.
+/// down, where the text's entry is marked, and move the mark; Return chooses, Escape does not.
 class ComboBox : public Control {
  public:
   ComboBox(Container& container, std::string name, Rect place,

@@ -82,8 +82,7 @@ class Desktop(unittest.TestCase):
                         XDG_RUNTIME_DIR=str(self.home), LUMENOTE_DRIVE_C=str(self.home / "c"),
                         NO_AT_BRIDGE="1")
         self.env["DISPLAY"] = self.start_server()
-        self.start("openbox")
-        self.wait(lambda: "0x" in self.run_x("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        self.start_window_manager()
 
     def start_server(self):
         reading, writing = os.pipe()
@@ -92,6 +91,16 @@ class Desktop(unittest.TestCase):
         os.close(writing)
         with open(reading, encoding="ascii") as number:
             return ":" + number.readline().strip()
+
+    def start_window_manager(self):
+        """It announces itself before it listens: only what it answers says that it is there."""
+        self.start("openbox")
+        for desktop in ("1", "0"):
+            self.wait(lambda: self.switch_to(desktop), "the window manager")
+
+    def switch_to(self, desktop):
+        self.run_x("xdotool", "set_desktop", desktop)
+        return self.run_x("xdotool", "get_desktop").strip() == desktop
 
     def start(self, *command, output="log", **options):
         options = {"stdin": subprocess.DEVNULL, **options}

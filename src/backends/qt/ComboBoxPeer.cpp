@@ -50,8 +50,8 @@ void ComboBoxWidget::KeepTextApart() {
 void ComboBoxWidget::showPopup() {
   if (combo_) combo_->UserDrop();
   if (!combo_) return;
-  if (currentIndex() < 0) view()->setCurrentIndex({});  // not where it stood the last time
   QComboBox::showPopup();
+  view()->setCurrentIndex(model()->index(findText(currentText(), Qt::MatchExactly), modelColumn()));
 }
 
 void ComboBoxWidget::keyPressEvent(QKeyEvent* event) {
