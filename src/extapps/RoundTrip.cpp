@@ -97,7 +97,18 @@ void RoundTrip::EditerAvec(std::int32_t type) {
 
 // --- the watch
 
+// A tick that comes while an earlier one still shows a box is passed over.
 void RoundTrip::TimerWpd_Timer() {
+  if (busy_) return;
+  struct Busy {
+    explicit Busy(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Busy() { flag_ = false; }
+    bool& flag_;
+  } const busy(busy_);
+  Step();
+}
+
+void RoundTrip::Step() {
   if (!waiting_) state_ = ToInt16(std::int64_t{state_} + 1);
   switch (state_) {
     case kTerminate:
@@ -156,7 +167,9 @@ void RoundTrip::AwaitInstances() {
   const auto error = Lingering();
   waiting_ = error && --patience_ > 0;
   if (waiting_) return;
-  if (KeepEarlierResults())
+  const bool kept = KeepEarlierResults();
+  if (editor_.Values().closed) return;
+  if (kept)
     PrepareWorkFile();
   else
     GiveUp();
@@ -200,9 +213,10 @@ void RoundTrip::StartProgram() {
   process_ = 0;
   if (!workWritten_ || !Disk().Exists(workFile_)) return GiveUp();
   editor_.SuspendreDessus();
-  sent_ = WorkSent{.path = workFile_, .folder = ProgramCopies(), .old = old_};
-  IgnoringErrors([&] { sent_->time = Disk().ModificationTime(workFile_); });
-  sent_->old.push_back({workFile_, sent_->time});
+  const WorkTrace out = TraceDe(Disk(), workFile_);
+  sent_ = WorkSent{
+      .path = workFile_, .time = out.time, .folder = ProgramCopies(), .old = old_, .process = 0};
+  sent_->old.push_back(out);
   process_ = processes_.Start(CommandLine());
   sent_->process = process_;
 }
@@ -227,10 +241,16 @@ void RoundTrip::BringBack() {
   });
   if (result.empty()) return;
   workFile_ = result;
-  if (BringOnto(result)) return;
+  if (BringOnto(result)) return RememberOthers(sent);
   if (desk_.KeepFile(Cause::FichierTemporaire, result)) return;
   ReportWorkFile();
   editor_.Values().workLeft.push_back(sent);
+}
+
+/// A program may have saved the note in several forms, of which one came back.
+void RoundTrip::RememberOthers(WorkSent sent) {
+  sent.folder.clear();
+  if (!Reprendre(Disk(), sent).empty()) editor_.Values().workLeft.push_back(std::move(sent));
 }
 
 std::u16string RoundTrip::TargetOf(std::u16string_view result) {
@@ -273,22 +293,32 @@ void RoundTrip::Leave() {
   if (sent_) editor_.Values().workLeft.push_back(*std::exchange(sent_, std::nullopt));
 }
 
-bool RoundTrip::KeepResult(const WorkSent& sent) {
-  const std::u16string result = Reprendre(Disk(), sent);
-  return result.empty() || desk_.KeepFile(Cause::FichierModifie, result);
+bool RoundTrip::KeepResults(WorkSent sent) {
+  for (std::u16string result; !(result = Reprendre(Disk(), sent)).empty();) {
+    if (!desk_.KeepFile(Cause::FichierModifie, result)) return false;
+    sent.folder.clear();
+    sent.old.push_back(TraceDe(Disk(), result));
+  }
+  return true;
+}
+
+// What is told in a box may end in the host's hands, so that the list is not touched meanwhile.
+template <class Ready>
+bool RoundTrip::KeepLeft(Ready ready) {
+  std::vector<WorkSent> left = std::exchange(editor_.Values().workLeft, {});
+  std::erase_if(left, [&](const WorkSent& sent) { return ready(sent) && KeepResults(sent); });
+  std::vector<WorkSent>& still = editor_.Values().workLeft;
+  still.insert(still.end(), left.begin(), left.end());
+  return still.empty();
 }
 
 bool RoundTrip::KeepEarlierResults() {
   Leave();
-  std::vector<WorkSent>& left = editor_.Values().workLeft;
-  std::erase_if(left, [this](const WorkSent& sent) { return KeepResult(sent); });
-  return left.empty();
+  return KeepLeft([](const WorkSent&) { return true; });
 }
 
 void RoundTrip::CollectLeft() {
-  std::erase_if(editor_.Values().workLeft, [this](const WorkSent& sent) {
-    return !processes_.IsRunning(sent.process) && KeepResult(sent);
-  });
+  KeepLeft([this](const WorkSent& sent) { return !processes_.IsRunning(sent.process); });
 }
 
 }  // namespace lumenote

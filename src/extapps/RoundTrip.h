@@ -80,6 +80,7 @@ class RoundTrip {
   void Appeler(std::int32_t type);
   void EditerAvec(std::int32_t type);
 
+  void Step();
   void TerminateInstances();
   /// Asks what runs of that program to end; a failure is told to the user.
   void TuerParNom(Program program);
@@ -90,7 +91,10 @@ class RoundTrip {
   void PrepareWorkFile();
   /// False when something that a program saved could be kept nowhere, and must not be purged.
   bool KeepEarlierResults();
-  bool KeepResult(const WorkSent& sent);
+  bool KeepResults(WorkSent sent);
+  /// The same for what earlier exchanges have left, where `ready` says so.
+  template <class Ready>
+  bool KeepLeft(Ready ready);
   void WriteNote();
   void TakeTime();
   void StartProgram();
@@ -101,6 +105,7 @@ class RoundTrip {
   /// The file that a result replaces.
   std::u16string TargetOf(std::u16string_view result);
   bool BringOnto(const std::u16string& result);
+  void RememberOthers(WorkSent sent);
   void Finish();
   bool KeepTyped();
 
@@ -118,6 +123,7 @@ class RoundTrip {
   std::int32_t type_ = 0;     // as last chosen
   std::int32_t running_ = 0;  // of this exchange
   std::int16_t state_ = 0;
+  bool busy_ = false;     // a tick has not returned yet
   bool waiting_ = false;  // for programs to end; the state stays
   int patience_ = 0;
   std::u16string workFile_;

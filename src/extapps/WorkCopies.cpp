@@ -21,22 +21,16 @@ std::u16string CommonName(std::u16string_view folder, std::u16string_view extens
   return FoldBackslashes(std::u16string(folder) + u"\\SavNotes." + std::u16string(extension));
 }
 
-FileTime TimeOf(const Files& files, std::u16string_view path) {
-  FileTime time = 0;
-  IgnoringErrors([&] { time = files.ModificationTime(path); });
-  return time;
-}
-
 /// The files at that path in whatever letter case of the extension, without those that have been
 /// as they are since `old` was taken; the latest one first.
 std::vector<std::u16string> Fresh(const Files& files, std::u16string_view path,
                                   const WorkTraces& old) {
   std::vector<std::u16string> found = EnTouteCasse(files, path);
   std::erase_if(found, [&](const std::u16string& one) {
-    return std::find(old.begin(), old.end(), WorkTrace{one, TimeOf(files, one)}) != old.end();
+    return std::find(old.begin(), old.end(), TraceDe(files, one)) != old.end();
   });
   std::stable_sort(found.begin(), found.end(), [&](const auto& a, const auto& b) {
-    return TimeOf(files, a) > TimeOf(files, b);
+    return TraceDe(files, a).time > TraceDe(files, b).time;
   });
   return found;
 }
@@ -78,11 +72,17 @@ std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
   return {};
 }
 
+WorkTrace TraceDe(const Files& files, std::u16string_view path) {
+  WorkTrace trace{std::u16string(path)};
+  IgnoringErrors([&] { trace.time = files.ModificationTime(path); });
+  return trace;
+}
+
 WorkTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder) {
   WorkTraces traces;
   const auto note = [&](std::u16string_view path) {
     for (const std::u16string& one : EnTouteCasse(files, path))
-      traces.push_back({one, TimeOf(files, one)});
+      traces.push_back(TraceDe(files, one));
   };
   for (const std::u16string_view form : kForms) {
     note(ChmExts(workFile, form));

@@ -161,6 +161,17 @@ class HostTest : public testing::Test {
     std::filesystem::remove_all(folder.Path() + "/state");
     std::ofstream(folder.Path() + "/state") << "no folder";
   }
+  /// Whether a file of the user's holds that text; temporary ones do not count.
+  bool OnDisk(const std::string& text) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {
+      if (!entry.is_regular_file() || entry.path().string().find("/Temp/") != std::string::npos)
+        continue;
+      std::ifstream file(entry.path());
+      const std::string bytes(std::istreambuf_iterator<char>(file), {});
+      if (bytes.find(text) != bytes.npos) return true;
+    }
+    return false;
+  }
   Texts Boxes() { return std::exchange(backend.shown, {}); }
 
   TemporaryFolder folder;

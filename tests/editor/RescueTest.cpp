@@ -162,5 +162,56 @@ TEST_F(RescueTest, AControlThatGoesKeepsItsNote) {
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "un avant");
 }
 
+/// Whatever the host does while a box stands, what was typed is in its hands, on the disk or still
+/// in the window.
+TEST_F(RescueTest, NoActOfTheHostInABoxLosesText) {
+  const std::u16string kProgram = u"C:\\Program Files\\qjot\\qjot.exe";
+  sandbox.MakeParents(kProgram);
+  sandbox.Programs().Put(kProgram);
+  const std::function<void()> hosts[] = {
+      [] {},
+      [&] { control.pStrOrchm(u"autre"); },
+      [&] { control.pStrOrchm(u"C:\\n\\b.txt"); },
+      [&] { control.pStrOrchm(); },
+      [&] { backend.Tick(40); },
+  };
+  const std::function<void()> users[] = {
+      [&] { Editor().Unload(); },
+      [&] { Editor().Pop.mnuPopQuitter.UserClick(); },
+      [&] { disk.Write(u"C:\\n\\a.txt", "leur"), Editor().Pop.mnuPopEnregistrer.UserClick(); },
+      [&] { disk.Write(u"C:\\n\\a.txt", "leur"), Editor().Pop.mnuPopTextRichText.UserClick(); },
+      [&] { Fail("write", u"\\a."), Editor().Unload(); },
+      [&] {
+        disk.Write(u"C:\\n\\a.txt", "leur"), Editor().Pop.mnuPopQjot.UserClick(), backend.Tick(40);
+      },
+  };
+  for (const bool fileMode : {true, false})
+    for (std::size_t user = 0; user < std::size(users); ++user)
+      for (std::size_t host = 0; host < std::size(hosts); ++host) {
+        if (fileMode)
+          OpenFile(u"C:\\n\\a.txt", "avant");
+        else
+          Open(u"avant");
+        Type(u"SAISI ");
+        bool acted = false;
+        backend.answer = [&](const MessageBox& box) {
+          if (!std::exchange(acted, true)) hosts[host]();
+          return DefaultAnswer(box);
+        };
+        users[user]();
+        backend.answer = DefaultAnswer;
+        platform.files.before = [](std::string_view, std::u16string_view) {};
+        sandbox.Programs().Finish();
+        const std::u16string note = control.pStrOrchm();
+        EXPECT_TRUE(note.find(u"SAISI") != note.npos || OnDisk("SAISI"))
+            << fileMode << " user " << user << " host " << host;
+        control.pStrOrchm(u"");
+        for (const char16_t* used : {u"C:\\n", u"C:\\Temp", u"C:\\Documents"}) {
+          IgnoringErrors([&] { sandbox.Remove(used); });
+          sandbox.MakeParents(std::u16string(used) + u"\\x");
+        }
+      }
+}
+
 }  // namespace
 }  // namespace lumenote

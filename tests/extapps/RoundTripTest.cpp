@@ -233,6 +233,23 @@ TEST_F(RoundTripTest, AResultForANoteThatIsEditedAnewIsKept) {
   EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.txt"), "avant");
 }
 
+TEST_F(RoundTripTest, FormsThatDidNotComeBackAreKeptBeforeThePurge) {
+  Open(u"C:\\n\\a.txt");
+  exchange->mnuPopMSWord_Click();
+  FinishAfter([&] {
+    disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 retour}");
+    disk.Write(u"C:\\Temp\\Sava.txt", "en clair");
+    disk.Write(u"C:\\Temp\\Sava.sav", "autrement");
+  });
+  EXPECT_EQ(Editor().Document().Text(), u"retour");
+  EXPECT_EQ(BoxTexts(), Texts());
+  exchange->mnuPopMSWord_Click();
+  Tick(2);
+  EXPECT_EQ(BoxTexts().size(), 2U);
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.txt"), "en clair");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.sav"), "autrement");
+}
+
 TEST_F(RoundTripTest, ARefusedCommandLeavesTheExchangeAlone) {
   Open(u"C:\\n\\a.txt");
   exchange->mnuPopQjot_Click();
