@@ -167,7 +167,7 @@ bool Form::Unload() {
   if (!loaded_ || unloading_) return !loaded_;
   const Scope scope(*this);
   unloading_ = true;
-  bool mayGo = true;
+  bool mayGo = false;  // an error on the way to the decision decides nothing
   Raise([&] { mayGo = Form_QueryUnload(); });
   if (mayGo) Raise([this] { Form_Unload(); });
   unloading_ = false;

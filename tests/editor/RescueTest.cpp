@@ -162,6 +162,19 @@ TEST_F(RescueTest, AControlThatGoesKeepsItsNote) {
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "un avant");
 }
 
+TEST_F(RescueTest, AnErrorInTheClosingDecisionKeepsTheWindow) {
+  Open(u"avant");
+  Type(u"pas ");
+  backend.answer = [](const MessageBox& box) -> MessageBox::Answer {
+    if (box.text == kQuestion) throw RuntimeError(ErrorNumber::PathAccess);
+    return DefaultAnswer(box);
+  };
+  EXPECT_EQ(control.pStrOrchm(), u"avant");
+  ASSERT_TRUE(IsOpen());
+  backend.answer = DefaultAnswer;
+  EXPECT_EQ(control.pStrOrchm(), u"pas avant");
+}
+
 /// Whatever the host does while a box stands, what was typed is in its hands, on the disk or still
 /// in the window.
 TEST_F(RescueTest, NoActOfTheHostInABoxLosesText) {
