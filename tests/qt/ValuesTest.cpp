@@ -71,6 +71,12 @@ TEST(KeysTest, OnlyTextIsTyped) {
   EXPECT_EQ(typed(Qt::ControlModifier, "\x03"), QString());
 }
 
+TEST(MimeTest, OnlyTheNulAtTheEndOfATextIsNone) {
+  QMimeData data;
+  data.setText(QString::fromUtf16(u"a\0b\0\0", 5));
+  EXPECT_EQ(ReadMime(data).text, std::u16string(u"a\0b", 3));
+}
+
 TEST(MimeTest, AnyLineEndComesInAsCrLfAndGoesOutAsLf) {
   QMimeData data;
   data.setText(QStringLiteral("a\nb\r\nc\rd"));

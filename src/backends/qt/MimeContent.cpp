@@ -32,7 +32,8 @@ std::optional<std::u16string> TextOf(const QMimeData& data) {
     text = QTextDocumentFragment::fromHtml(data.html()).toPlainText();
   else
     return std::nullopt;
-  if (const qsizetype end = text.indexOf(QChar(u'\0')); end >= 0) text.truncate(end);
+  // Some programs send the NUL that ends their text; any other one is part of it.
+  while (text.endsWith(QChar(u'\0'))) text.chop(1);
   return WithCrLf(FromQString(text));
 }
 
