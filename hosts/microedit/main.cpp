@@ -113,7 +113,7 @@ int Edit(const CommandLine& line) {
   if (const auto png = line.Value("--capture"))
     return Capture(control, platform, *png) ? 0 : Fail(*png + " : écriture impossible", 1);
   control.ShowMicroEdit(1);
-  return control.Parts().session.loaded ? 0 : 1;
+  return control.Parts().session->loaded ? 0 : 1;
 }
 
 /// A script conducts the editor on real widgets, in a sandbox.

@@ -16,6 +16,8 @@ const char16_t* DescriptionOf(ErrorNumber number) {
       return u"Dépassement de capacité";
     case ErrorNumber::TypeMismatch:
       return u"Incompatibilité de type";
+    case ErrorNumber::Internal:
+      return u"Erreur interne";
     case ErrorNumber::FileNotFound:
       return u"Fichier introuvable";
     case ErrorNumber::DiskFull:

@@ -10,6 +10,7 @@ enum class ErrorNumber : int {
   InvalidArgument = 5,
   Overflow = 6,
   TypeMismatch = 13,
+  Internal = 51,
   FileNotFound = 53,
   DiskFull = 61,
   PermissionDenied = 70,
@@ -30,10 +31,18 @@ class RuntimeError : public std::runtime_error {
 
   int Number() const { return static_cast<int>(number_); }
   const std::u16string& Description() const { return description_; }
+  /// Which member of the control the error is about ("pCouleurFen"); empty before it has reached
+  /// the control's edge.
+  const std::u16string& Member() const { return member_; }
+  /// The first name given stays.
+  void Member(std::u16string_view name) {
+    if (member_.empty()) member_ = name;
+  }
 
  private:
   ErrorNumber number_;
   std::u16string description_;
+  std::u16string member_;
 };
 
 /// Runs one statement whose run-time error is ignored; the caller goes on with its next one.

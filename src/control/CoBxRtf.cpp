@@ -1,5 +1,8 @@
 #include "control/CoBxRtf.h"
 
+#include <exception>
+#include <utility>
+
 #include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
@@ -20,67 +23,142 @@ bool IsReadOnlyAccess(std::u16string_view access) {
   return lower == u"readonly" || lower == u"lectureseule";
 }
 
-}  // namespace
-
-CoBxRtf::CoBxRtf(Platform& platform) : parts_(std::make_unique<Component>(platform)) {}
-
-CoBxRtf::~CoBxRtf() {
-  if (Co_Rtf* editor = parts_->editor.Loaded()) editor->Unload();
-  GarderRetours(parts_->windows.Machine(), parts_->session.workLeft);
+/// Runs the body of one member; what it raises is a run-time error that names the member.
+template <class Body>
+auto Named(std::u16string_view member, Body body) {
+  try {
+    return body();
+  } catch (RuntimeError& error) {
+    error.Member(member);
+    throw;
+  } catch (const std::exception&) {
+    RuntimeError error(ErrorNumber::Internal);
+    error.Member(member);
+    throw error;
+  }
 }
 
-void CoBxRtf::pNomAppli(std::u16string_view name) { parts_->session.applicationName = name; }
-
-void CoBxRtf::pChmAppli(std::u16string_view path) {
-  Session& session = parts_->session;
-  session.listCorrPath = FoldBackslashes(ParentFolder(path) + u"\\ListCorr.txt");
-  IgnoringErrors([&] {
-    Files& files = parts_->windows.Machine().FileSystem();
-    if (!files.Exists(session.listCorrPath)) files.AppendLines(session.listCorrPath, "");
+/// The same on the control's thread only. The parts outlive the call even when an event of the host
+/// destroys the control meanwhile.
+template <class Body>
+auto Guarded(std::shared_ptr<Component> parts, std::u16string_view member, Body body) {
+  return Named(member, [&] {
+    if (parts->thread != std::this_thread::get_id())
+      throw RuntimeError(ErrorNumber::InvalidArgument,
+                         u"Appel depuis un autre fil d'exécution que celui du contrôle");
+    return body(*parts);
   });
 }
 
-void CoBxRtf::pTitreFenêtre(std::u16string_view title) { parts_->session.windowTitle = title; }
+void Store(const std::shared_ptr<Component>& parts, std::u16string_view member,
+           std::u16string Session::*value, std::u16string_view text) {
+  Guarded(parts, member, [&](Component& its) { (*its.session).*value = text; });
+}
 
-void CoBxRtf::pTitreCadre(std::u16string_view title) { parts_->session.frameTitle = title; }
+std::int32_t ColourOf(const std::u16string& text) {
+  try {
+    return ParseInt32(text);
+  } catch (RuntimeError& error) {
+    error.Member(u"pCouleurFen");
+    throw;
+  }
+}
 
-void CoBxRtf::pCouleurFen(std::u16string_view number) { parts_->session.colourText = number; }
+/// Shows the editor and returns the session that it works on.
+std::shared_ptr<Session> Open(Component& parts) {
+  const std::shared_ptr<Session> session = parts.session;
+  const bool open = parts.editor.Loaded() != nullptr;
+  Co_Rtf& editor = parts.editor.Get();
+  const Form::InUse use(editor);
+  editor.Fr_Notes.Caption(session->frameTitle);
+  if (!open) session->readOnly = IsReadOnlyAccess(session->access);
+  if (TrimBlanks(session->windowTitle).empty()) session->windowTitle.clear();
+  editor.Caption(session->windowTitle);
+  editor.Load();
+  editor.BackColor(session->colour);
+  session->closed = false;
+  editor.Show();
+  return session;
+}
 
-void CoBxRtf::pSScléReg(std::u16string_view section) { parts_->session.settingsKey = section; }
+}  // namespace
 
-void CoBxRtf::pAttribut(std::u16string_view access) { parts_->session.access = access; }
+CoBxRtf::CoBxRtf(Platform& platform)
+    : parts_(Named(u"CoBxRtf", [&] { return std::make_shared<Component>(platform); })) {}
 
-void CoBxRtf::pModelWord(std::u16string_view path) { parts_->session.templatePath = path; }
+CoBxRtf::~CoBxRtf() {
+  const auto close = [&] {
+    if (Co_Rtf* editor = parts_->editor.Loaded()) editor->Unload();
+    GarderRetours(parts_->windows.Machine(), parts_->session->workLeft);
+  };
+  IgnoringErrors([&] { Named(u"~CoBxRtf", close); });
+  parts_->editor.KeepAlive(parts_);
+}
+
+void CoBxRtf::pNomAppli(std::u16string_view name) {
+  Store(parts_, u"pNomAppli", &Session::applicationName, name);
+}
+
+void CoBxRtf::pChmAppli(std::u16string_view path) {
+  Guarded(parts_, u"pChmAppli", [&](Component& parts) {
+    const std::u16string& list = parts.session->listCorrPath =
+        FoldBackslashes(ParentFolder(path) + u"\\ListCorr.txt");
+    IgnoringErrors([&] {
+      Files& files = parts.windows.Machine().FileSystem();
+      if (!files.Exists(list)) files.AppendLines(list, "");
+    });
+  });
+}
+
+void CoBxRtf::pTitreFenêtre(std::u16string_view title) {
+  Store(parts_, u"pTitreFenêtre", &Session::windowTitle, title);
+}
+
+void CoBxRtf::pTitreCadre(std::u16string_view title) {
+  Store(parts_, u"pTitreCadre", &Session::frameTitle, title);
+}
+
+void CoBxRtf::pCouleurFen(std::u16string_view number) {
+  Store(parts_, u"pCouleurFen", &Session::colourText, number);
+}
+
+void CoBxRtf::pSScléReg(std::u16string_view section) {
+  Store(parts_, u"pSScléReg", &Session::settingsKey, section);
+}
+
+void CoBxRtf::pAttribut(std::u16string_view access) {
+  Store(parts_, u"pAttribut", &Session::access, access);
+}
+
+void CoBxRtf::pModelWord(std::u16string_view path) {
+  Store(parts_, u"pModelWord", &Session::templatePath, path);
+}
 
 void CoBxRtf::pStrOrchm(std::u16string_view noteOrPath) {
-  Session& session = parts_->session;
-  if (!parts_->editor.Loaded()) {
-    PrendreNote(session, noteOrPath);
-    return;
-  }
-  session.note = noteOrPath;
-  session.noteReplaced = true;
+  Guarded(parts_, u"pStrOrchm", [&](Component& parts) {
+    Session& session = *parts.session;
+    if (!parts.editor.Loaded()) return PrendreNote(session, noteOrPath);
+    session.note = noteOrPath;
+    session.noteReplaced = true;
+  });
 }
 
 std::u16string CoBxRtf::pStrOrchm() {
-  if (Co_Rtf* editor = parts_->editor.Loaded()) editor->Unload();
-  return parts_->session.note;
+  return Guarded(parts_, u"pStrOrchm", [](Component& parts) {
+    if (Co_Rtf* editor = parts.editor.Loaded()) editor->Unload();
+    return parts.session->note;
+  });
 }
 
 void CoBxRtf::ShowMicroEdit(std::int32_t mode) {
-  Session& session = parts_->session;
-  session.colour = ParseInt32(session.colourText);
-  const bool open = parts_->editor.Loaded() != nullptr;
-  Co_Rtf& editor = parts_->editor.Get();
-  editor.Fr_Notes.Caption(session.frameTitle);
-  if (!open) session.readOnly = IsReadOnlyAccess(session.access);
-  if (TrimBlanks(session.windowTitle).empty()) session.windowTitle.clear();
-  editor.Caption(session.windowTitle);
-  editor.Load();
-  editor.BackColor(session.colour);
-  session.closed = false;
-  editor.Show();
-  if (mode == 1) parts_->windows.Machine().Windows().RunUntil([&] { return session.closed; });
+  Guarded(parts_, u"ShowMicroEdit", [&](Component& parts) {
+    parts.session->colour = ColourOf(parts.session->colourText);
+    const bool wait = mode == 1;
+    const Co_Rtf* editor = parts.editor.Loaded();
+    if (wait && editor && editor->IsUnloading()) throw RuntimeError(ErrorNumber::InvalidArgument);
+    const std::shared_ptr<Session> session = Open(parts);
+    if (wait) parts.windows.Machine().Windows().RunUntil([&] { return session->closed; });
+  });
 }
 
 }  // namespace lumenote

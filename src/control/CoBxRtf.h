@@ -12,12 +12,20 @@ struct Component;
 
 /// Hosts speak drive-letter paths on every system; `ToDrivePath` of the platform makes one of a
 /// native path. Set the descriptive properties, then `pStrOrchm`, call `ShowMicroEdit(1)`, read
-/// `pStrOrchm`. Use it on the user-interface thread only. Errors are `RuntimeError`.
+/// `pStrOrchm`.
+///
+/// Errors are `RuntimeError` and nothing else; `Member()` names the member that they are about.
+/// Every member belongs to the thread that made the control: on another one it raises
+/// InvalidArgument (5) at once and does nothing. An exception that is no `RuntimeError` becomes
+/// Internal (51).
+///
+/// Events of the host run while the editor waits or asks, and may use every member, this control's
+/// destructor included; the members say what then happens.
 class CoBxRtf {
  public:
-  /// `platform` outlives the control.
+  /// `platform` outlives the control and the calls of its members that have not returned.
   explicit CoBxRtf(Platform& platform);
-  /// Closes the editor as the user would if it is still open.
+  /// Closes the editor as the user would if it is still open. On the control's thread only.
   ~CoBxRtf();
   CoBxRtf(const CoBxRtf&) = delete;
   CoBxRtf& operator=(const CoBxRtf&) = delete;
@@ -37,22 +45,27 @@ class CoBxRtf {
   /// Template handed to an external word processor.
   void pModelWord(std::u16string_view path);
 
-  /// The note itself, or the path of its file (a drive-letter path longer than 7 characters).
+  /// The note itself, or the path of its file (a drive-letter path longer than 7 characters). One
+  /// written while the editor is open waits for the next opening and is what reading gives.
   void pStrOrchm(std::u16string_view noteOrPath);
   /// Closes the editor if it is open, which may ask the user whether to save, and returns the note
-  /// or path; empty after the user has deleted the document.
+  /// or path; empty after the user has deleted the document. While the editor asks its closing
+  /// question already, returns what is stored so far.
   std::u16string pStrOrchm();
 
-  /// Opens the editor. With 1 it returns when the editor has closed, the host's events flowing
-  /// meanwhile; otherwise at once. Raises TypeMismatch (13) or Overflow (6) for a colour text that
-  /// is no 32-bit number.
+  /// Opens the editor; one that is open gets the titles and the colour, and comes to the front.
+  /// With 1 it returns when that editor has closed, the host's events flowing meanwhile; otherwise
+  /// at once. Raises, for the member pCouleurFen, TypeMismatch (13) or Overflow (6) for a colour
+  /// text that is no 32-bit number. With 1, inside the closing question of the editor, raises
+  /// InvalidArgument (5): that wait could not end. What a platform without windows raises comes out
+  /// here, too.
   void ShowMicroEdit(std::int32_t mode = 0);
 
   /// The parts behind the control, for tests and scripts.
   Component& Parts() { return *parts_; }
 
  private:
-  std::unique_ptr<Component> parts_;
+  std::shared_ptr<Component> parts_;
 };
 
 }  // namespace lumenote

@@ -1,6 +1,7 @@
 // What stands behind one control: its session, its windows.
 #pragma once
 #include <memory>
+#include <thread>
 
 #include "control/Session.h"
 #include "editor/Co_Rtf.h"
@@ -12,10 +13,15 @@ namespace lumenote {
 
 class Platform;
 
+/// Outlives the control while an event of its editor has not returned yet.
 struct Component {
   explicit Component(Platform& platform);
 
-  Session session;
+  /// Where the control was made, and where it has to be used.
+  const std::thread::id thread = std::this_thread::get_id();
+  /// Of the open editor, else of the next one. An editor that has closed keeps its own, so that
+  /// what still returns there reaches neither the host's note nor the next editor.
+  std::shared_ptr<Session> session = std::make_shared<Session>();
   std::unique_ptr<TempFolder> temp;
   WindowList windows;
   Instance<Co_Rtf> editor;

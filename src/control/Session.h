@@ -32,8 +32,8 @@ struct FileState {
   bool operator==(const FileState&) const = default;
 };
 
-/// One set per control. The host's values stay as written; the derived ones say how the open editor
-/// works and belong to it until it has closed.
+/// One set per control and opening. The host's values stay as written; the derived ones say how the
+/// open editor works.
 struct Session {
   // Written by the host.
   std::u16string applicationName;

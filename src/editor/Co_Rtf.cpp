@@ -19,14 +19,16 @@
 
 namespace lumenote {
 
-Co_Rtf::Co_Rtf(WindowList& windows, Session& session, const TempFolder& temp)
+Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp)
     : Form(windows, "Co_Rtf", {5000, 3250, 5650, 4350}, u"MicroEditeur"),
-      session_(session),
+      current_(session),
+      own_(session),
+      session_(*own_),
       temp_(temp),
-      paragraph_([this] { return std::make_unique<Co_Paragraph>(Windows(), *this); }),
-      find_([this] { return std::make_unique<Co_Trouver>(Windows(), *this); }),
-      symbols_([this] { return std::make_unique<Co_Symbols>(Windows(), *this); }),
-      learn_([this] { return std::make_unique<Co_Apprendre>(Windows(), *this); }),
+      paragraph_([this] { return std::make_unique<Co_Paragraph>(Windows(), *this); }, this),
+      find_([this] { return std::make_unique<Co_Trouver>(Windows(), *this); }, this),
+      symbols_([this] { return std::make_unique<Co_Symbols>(Windows(), *this); }, this),
+      learn_([this] { return std::make_unique<Co_Apprendre>(Windows(), *this); }, this),
       exchange_(*this, *this, programs_, Machine().Programs()) {
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 210, 5262, 45});
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 45});
@@ -203,6 +205,7 @@ void Co_Rtf::Form_Unload() {
   if (Co_Apprendre* dialog = learn_.Loaded()) dialog->Unload();
   exchange_.Leave();
   CloreSession(session_);
+  current_ = std::make_shared<Session>(session_);
 }
 
 bool Co_Rtf::Form_KeyDown(const KeyStroke& key) {

@@ -26,8 +26,9 @@ struct Session;
 
 class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
  public:
-  /// All outlive the window.
-  Co_Rtf(WindowList& windows, Session& session, const TempFolder& temp);
+  /// Works on the session that stands there, and leaves a copy of it for the next editor when it
+  /// has unloaded. All outlive the window.
+  Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp);
 
   Frame Fr_Notes{*this, "Fr_Notes", {80, 84, 5376, 3560}};
   Label Lb_Format{Fr_Notes, "Lb_Format", {3573, 0, 1700, 195}};
@@ -109,6 +110,8 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   void mnuPopSupprDoc_Click();
   void mnuPopQuitter_Click();
 
+  std::shared_ptr<Session>& current_;
+  const std::shared_ptr<Session> own_;
   Session& session_;
   const TempFolder& temp_;
   bool firstActivation_ = true;

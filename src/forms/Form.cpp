@@ -11,22 +11,6 @@
 
 namespace lumenote {
 
-/// While one stands, the form is in use by an event and is not destroyed.
-class Form::Scope {
- public:
-  explicit Scope(Form& form) : form_(form) { ++form_.depth_; }
-  ~Scope() {
-    if (--form_.depth_ > 0 || !form_.unloaded_ || !form_.Released) return;
-    const auto released = std::move(form_.Released);
-    released();
-  }
-  Scope(const Scope&) = delete;
-  Scope& operator=(const Scope&) = delete;
-
- private:
-  Form& form_;
-};
-
 Form::Form(WindowList& windows, std::string name, Rect place, std::u16string caption)
     : Element(*this, std::move(name)),
       windows_(windows),
@@ -34,6 +18,20 @@ Form::Form(WindowList& windows, std::string name, Rect place, std::u16string cap
       place_(place) {}
 
 Form::~Form() { windows_.Leave(*this); }
+
+void Form::Enter() {
+  for (Form* form = this; form; form = form->holder_) ++form->depth_;
+}
+
+// The last act on this form; a holder goes after what it holds.
+void Form::Leave() {
+  Form* const holder = holder_;
+  if (--depth_ == 0 && unloaded_ && Released) {
+    const auto released = std::move(Released);
+    released();
+  }
+  if (holder) holder->Leave();
+}
 
 void Form::Caption(std::u16string_view text) {
   if (text == caption_) return;
@@ -121,7 +119,7 @@ void Form::RearmTimers() {
 }
 
 void Form::Show(Form* owner) {
-  const Scope scope(*this);
+  const InUse use(*this);
   Load();
   ownerWindow_ = owner;
   if (!visible_) {
@@ -151,7 +149,7 @@ void Form::FocusFirst() {
 }
 
 void Form::ShowModal() {
-  const Scope scope(*this);
+  const InUse use(*this);
   modal_ = true;
   Show();
   Machine().Windows().RunUntil([this] { return !visible_; });
@@ -165,7 +163,7 @@ void Form::UserActivate() {
 
 bool Form::Unload() {
   if (!loaded_ || unloading_) return !loaded_;
-  const Scope scope(*this);
+  const InUse use(*this);
   unloading_ = true;
   bool mayGo = false;  // an error on the way to the decision decides nothing
   Raise([&] { mayGo = Form_QueryUnload(); });
@@ -186,7 +184,7 @@ bool Form::Unload() {
 // --- events
 
 void Form::Raise(const std::function<void()>& event) {
-  const Scope scope(*this);
+  const InUse use(*this);
   try {
     event();
   } catch (const RuntimeError& error) {
@@ -197,7 +195,7 @@ void Form::Raise(const std::function<void()>& event) {
 MessageBox::Answer Form::Ask(const MessageBox& box) { return Machine().Windows().Show(box, this); }
 
 void Form::PopUp(Menu& menu, Control& control, Point at) {
-  const Scope scope(*this);
+  const InUse use(*this);
   menu.UserOpen();
   if (!peer_) return;
   for (Control* inner = &control; inner; inner = dynamic_cast<Control*>(&inner->Parent())) {

@@ -18,7 +18,8 @@ class Timer;
 
 /// A window class derives from it and has its controls as members. Made unloaded; `Load` realises
 /// it, `Unload` takes it down and asks its keeper to destroy it, which waits until the form's own
-/// events have returned. State lives here; the peer only mirrors it.
+/// events and those of the windows it holds have returned. State lives here; the peer only mirrors
+/// it.
 class Form : public Element, public Container {
  public:
   /// Places in twips of the screen, outer size with nominal decorations of 8 by 27 pixels (15 twips
@@ -55,6 +56,10 @@ class Form : public Element, public Container {
   /// Raises Load once; the window exists, hidden.
   void Load();
   bool IsLoaded() const { return loaded_; }
+  /// Its closing has begun and a question of it may still stand.
+  bool IsUnloading() const { return unloading_; }
+  /// Taken down; it is still there because an event of it has not returned yet.
+  bool IsUnloaded() const { return unloaded_; }
   /// Loads when needed, shows and activates. An owned window stays above `owner`.
   void Show(Form* owner = nullptr);
   /// Brings a visible window that is not the active one to the front; one that a modal window locks
@@ -108,6 +113,20 @@ class Form : public Element, public Container {
 
   /// Called when the form may be destroyed; set by the keeper.
   std::function<void()> Released;
+  /// The form that has this one as a part and stays as long as this one is in use; null for none.
+  void Holder(Form* form) { holder_ = form; }
+
+  /// While one stands, the form is in use and is not destroyed, nor are its holders.
+  class InUse {
+   public:
+    explicit InUse(Form& form) : form_(form) { form_.Enter(); }
+    ~InUse() { form_.Leave(); }
+    InUse(const InUse&) = delete;
+    InUse& operator=(const InUse&) = delete;
+
+   private:
+    Form& form_;
+  };
 
   FormPeer* Peer() const { return peer_.get(); }
   void Describe(MemberTable& members) override;
@@ -128,8 +147,9 @@ class Form : public Element, public Container {
   friend class Element;
   friend class Menu;
   friend class Timer;
-  class Scope;  // an event on this form's stack
 
+  void Enter();
+  void Leave();
   void Place(Rect place);
   void RearmTimers();
   /// Gives the keyboard to the first control that takes it, unless one has it already.
@@ -144,6 +164,7 @@ class Form : public Element, public Container {
   Rect place_;
   std::int32_t backColor_ = -1;
   Form* ownerWindow_ = nullptr;
+  Form* holder_ = nullptr;
   Control* activeControl_ = nullptr;
   Button* defaultButton_ = nullptr;
   Button* cancelButton_ = nullptr;

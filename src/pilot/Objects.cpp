@@ -87,7 +87,7 @@ Element& FindElement(const WindowList& windows, std::string_view path) {
 
 Value ReadMember(Stage& stage, std::string_view path) {
   const auto [object, name] = SplitMember(path);
-  if (object == kSession) return ReadSession(stage.control.Parts().session, name);
+  if (object == kSession) return ReadSession(*stage.control.Parts().session, name);
   if (object == kStyle) return ReadStyle(name);
   const MemberName wanted = ParseMember(name);
   MemberTable members;

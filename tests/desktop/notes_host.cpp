@@ -78,7 +78,7 @@ class Host {
     if (verb == "write") control.pStrOrchm(FromUtf8(rest));
     if (verb == "read") return OnOneLine(control.pStrOrchm());
     Co_Rtf* editor = control.Parts().editor.Loaded();
-    if (verb == "ontop") return control.Parts().session.onTop ? "yes" : "no";
+    if (verb == "ontop") return control.Parts().session->onTop ? "yes" : "no";
     return editor ? Answer(verb, editor->Document()) : "ok";
   }
 

@@ -73,7 +73,7 @@ class RoundTripTest : public testing::Test, public RoundTripDesk {
     exchange.emplace(Editor(), *this, programs, sandbox.Programs());
   }
   Co_Rtf& Editor() { return control.Parts().editor.Get(); }
-  Session& Values() { return control.Parts().session; }
+  Session& Values() { return *control.Parts().session; }
   /// As long as the timer runs, at most `count` times.
   void Tick(int count) {
     for (int i = 0; i < count && watching; ++i) exchange->TimerWpd_Timer();

@@ -241,7 +241,7 @@ TEST_F(PilotTest, DifferencesOfAWindowFailTheScript) {
 
 TEST(HeadlessBackendTest, AWaitThatCannotEndIsRefused) {
   HeadlessBackend backend;
-  EXPECT_THROW(backend.RunUntil([] { return false; }), std::logic_error);
+  EXPECT_THROW(backend.RunUntil([] { return false; }), RuntimeError);
   EXPECT_NO_THROW(backend.RunUntil([] { return true; }));
   MessageBox question;
   question.buttons = MessageBox::Buttons::YesNo;

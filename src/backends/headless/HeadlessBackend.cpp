@@ -1,8 +1,7 @@
 // Peers that show nothing.
 #include "backends/headless/HeadlessBackend.h"
 
-#include <stdexcept>
-
+#include "base/RuntimeError.h"
 #include "forms/Form.h"
 #include "forms/RichTextBox.h"
 #include "surface/DocumentSurface.h"
@@ -65,7 +64,9 @@ MessageBox::Answer HeadlessBackend::Show(const MessageBox& box, Form*) {
 }
 
 void HeadlessBackend::RunUntil(const std::function<bool()>& done) {
-  if (!done()) throw std::logic_error("a wait without a window system never ends");
+  if (!done())
+    throw RuntimeError(ErrorNumber::InvalidArgument,
+                       u"Sans système de fenêtres, cette attente ne finirait jamais");
 }
 
 }  // namespace lumenote

@@ -18,9 +18,10 @@ class HeadlessBackend final : public Backend {
   std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
                                                Files& files) override;
   MessageBox::Answer Show(const MessageBox& box, Form* over) override;
-  /// No event can come while the caller waits: raises std::logic_error unless `done` holds already.
   /// Cancelled at once.
   std::optional<FontChoice> ChooseFont(const FontChoice&, Form*) override { return {}; }
+  /// No event can come while the caller waits: raises InvalidArgument (5) unless `done` holds
+  /// already.
   void RunUntil(const std::function<bool()>& done) override;
   void Arm(Timer& timer) override { clock_.Arm(timer); }
   void Disarm(Timer& timer) override { clock_.Disarm(timer); }

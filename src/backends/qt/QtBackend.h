@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 #include "backends/qt/QtBreaker.h"
 #include "backends/qt/QtFormPeer.h"

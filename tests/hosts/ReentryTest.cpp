@@ -1,0 +1,191 @@
+// Hosts whose own events use the control while its editor waits or asks.
+#include <gtest/gtest.h>
+
+#include "Machine.h"
+#include "base/ErrorOf.h"
+
+namespace lumenote {
+namespace {
+
+class ReentryTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    machine.sandbox.MakeParents(kOld);
+    Disk().Write(kOld, "ancienne");
+    Disk().Write(kNew, "nouvelle");
+    control->pCouleurFen(u"0");
+    control->pNomAppli(u"Flore");
+  }
+  Files& Disk() { return machine.sandbox.FileSystem(); }
+  Co_Rtf& Editor() { return *control->Parts().editor.Loaded(); }
+  void Open(std::u16string_view note) {
+    control->pStrOrchm(note);
+    control->ShowMicroEdit();
+  }
+  void Edit(std::u16string_view typed) {
+    Editor().Document().SelStart(0);
+    Editor().Document().SelText(typed);
+  }
+  void OnEvent(std::function<void()> event) { machine.backend.events.push_back(std::move(event)); }
+
+  static constexpr std::u16string_view kOld = u"C:\\n\\ancienne.txt";
+  static constexpr std::u16string_view kNew = u"C:\\n\\nouvelle.txt";
+
+  Machine machine;
+  std::unique_ptr<CoBxRtf> control = std::make_unique<CoBxRtf>(machine.platform);
+};
+
+/// What keeps the old editor on the stack.
+struct Act {
+  const char* name;
+  void (*begin)(Co_Rtf& editor);
+};
+
+const Act kActs[] = {
+    {"the symbol picker", [](Co_Rtf& editor) { editor.Bar.mnuEdtSymboles.UserClick(); }},
+    {"the learning dialog",
+     [](Co_Rtf& editor) {
+       editor.Document().SelLength(3);
+       editor.Pop.mnuPopOcrApprendre.UserClick();
+     }},
+    {"the font dialog", [](Co_Rtf& editor) { editor.Bar.mnuFmtPolice.UserClick(); }},
+    {"a refusal", [](Co_Rtf& editor) { editor.Pop.mnuPopOcrApprendre.UserClick(); }},
+    {"the question before a deletion",
+     [](Co_Rtf& editor) { editor.Pop.mnuPopSupprDoc.UserClick(); }},
+    {"a box of the find dialog",
+     [](Co_Rtf& editor) {
+       editor.Bar.mnuEdtTrouver.UserClick();
+       auto& dialog = dynamic_cast<Co_Trouver&>(*editor.Windows().Active());
+       dialog.cboFind.Text(u"absent");
+       dialog.cmdFind.UserClick();
+     }},
+    {"the question before a style is stored",
+     [](Co_Rtf& editor) {
+       editor.Bar.mnuFmtParagraph.UserClick();
+       auto& dialog = dynamic_cast<Co_Paragraph&>(*editor.Windows().Active());
+       dialog.CboSaveStyleReg.UserPick(1);
+     }},
+    {"a box from a tick",
+     [](Co_Rtf& editor) {
+       editor.Timer1.Tick = [&editor] { editor.AskOver({.text = u"tic"}); };
+       editor.Timer1.Interval(5);
+       dynamic_cast<EventfulBackend&>(editor.Machine().Windows()).Advance(5);
+     }},
+};
+
+// The host reads the note back, writes another one and shows it while the old editor is in the
+// middle of something.
+TEST_F(ReentryTest, TheNextNoteOpensWhileAnActOfTheOldEditorGoesOn) {
+  for (const bool wait : {false, true})
+    for (const Act& act : kActs) {
+      SCOPED_TRACE(act.name);
+      SetUp();
+      Open(kOld);
+      OnEvent([&] {
+        EXPECT_EQ(control->pStrOrchm(), kOld);
+        control->pStrOrchm(kNew);
+        OnEvent([&] { Edit(u"bien "); });
+        OnEvent([&] { Editor().UserClose(); });
+        control->ShowMicroEdit(wait ? 1 : 0);
+        if (!wait) Editor().SuspendreDessus();
+      });
+      act.begin(Editor());
+      if (!wait) {
+        const Session& session = *control->Parts().session;
+        EXPECT_FALSE(session.onTop);
+        EXPECT_FALSE(session.closed);
+        EXPECT_EQ(session.note, kNew);
+        EXPECT_EQ(Editor().Document().Text(), u"nouvelle");
+        EXPECT_FALSE(session.dirty);
+        machine.backend.RunUntil([&] { return machine.backend.events.empty(); });
+      }
+      EXPECT_EQ(control->pStrOrchm(), kNew);
+      EXPECT_EQ(Disk().ReadAll(kNew), "bien nouvelle");
+      EXPECT_TRUE(control->Parts().windows.Loaded().empty());
+      for (const std::u16string& box : machine.backend.boxes)
+        EXPECT_FALSE(box.starts_with(u"Erreur d'exécution"));
+    }
+}
+
+TEST_F(ReentryTest, TheControlGoesWhileAnActOfItsEditorGoesOn) {
+  for (const Act& act : kActs) {
+    SCOPED_TRACE(act.name);
+    if (!control) control = std::make_unique<CoBxRtf>(machine.platform);
+    SetUp();
+    Open(kOld);
+    Edit(u"bien ");
+    OnEvent([&] { control.reset(); });
+    act.begin(Editor());
+    EXPECT_EQ(control, nullptr);
+    EXPECT_TRUE(!Disk().Exists(kOld) || Disk().ReadAll(kOld) == "bien ancienne");
+  }
+}
+
+TEST_F(ReentryTest, AWaitEndsWithItsOwnEditor) {
+  std::u16string trace;
+  OnEvent([&] {
+    trace += u"lu " + control->pStrOrchm();
+    control->pStrOrchm(u"deux");
+    OnEvent([&] { Edit(u"vingt-"); });
+    OnEvent([&] { Editor().UserClose(); });
+    control->ShowMicroEdit(1);
+    trace += u", lu " + control->pStrOrchm();
+    control->pStrOrchm(u"trois");
+    control->ShowMicroEdit();
+  });
+  control->pStrOrchm(u"un");
+  control->ShowMicroEdit(1);
+  EXPECT_EQ(trace, u"lu un, lu vingt-deux");
+  EXPECT_EQ(Editor().Document().Text(), u"trois");
+}
+
+TEST_F(ReentryTest, AWaitInsideAWaitForTheSameEditorEndsFirst) {
+  OnEvent([&] {
+    OnEvent([&] { Editor().UserClose(); });
+    control->pTitreFenêtre(u"encore");
+    control->ShowMicroEdit(1);
+    EXPECT_EQ(control->pStrOrchm(), u"un");
+  });
+  control->pStrOrchm(u"un");
+  control->ShowMicroEdit(1);
+  EXPECT_EQ(control->Parts().session->windowTitle, u"encore");
+}
+
+TEST_F(ReentryTest, InsideTheClosingQuestionNothingCanBeWaitedFor) {
+  Open(u"note");
+  Edit(u"ma ");
+  OnEvent([&] {
+    EXPECT_EQ(control->pStrOrchm(), u"note");
+    EXPECT_EQ(ErrorOf([&] { control->ShowMicroEdit(1); }), 5);
+    control->ShowMicroEdit();
+    control->pStrOrchm(u"suivante");
+  });
+  EXPECT_EQ(control->pStrOrchm(), u"suivante");
+}
+
+TEST_F(ReentryTest, TheControlGoesInsideItsOwnWaitAndItsOwnClosingQuestion) {
+  OnEvent([&] { control.reset(); });
+  control->pStrOrchm(kOld);
+  control->ShowMicroEdit(1);
+  EXPECT_EQ(control, nullptr);
+
+  control = std::make_unique<CoBxRtf>(machine.platform);
+  SetUp();
+  Open(kOld);
+  Edit(u"bien ");
+  OnEvent([&] { control.reset(); });
+  Editor().UserClose();
+  EXPECT_EQ(Disk().ReadAll(kOld), "bien ancienne");
+}
+
+TEST_F(ReentryTest, ANoteWrittenWhileTheLoadingFailsIsTheNextOne) {
+  OnEvent([&] { control->pStrOrchm(kNew); });
+  Open(u"C:\\n\\absente.odt");
+  EXPECT_EQ(machine.backend.boxes.size(), 1U);
+  EXPECT_EQ(control->pStrOrchm(), kNew);
+  control->ShowMicroEdit();
+  EXPECT_EQ(Editor().Document().Text(), u"nouvelle");
+}
+
+}  // namespace
+}  // namespace lumenote
