@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <algorithm>
 #include <utility>
 
 #include "backends/qt/FontDialog.h"
@@ -18,7 +19,15 @@ constexpr int kActivationTime = 500;  // milliseconds
 }
 
 std::unique_ptr<FormPeer> QtBackend::Realise(Form& form) {
-  return std::make_unique<QtFormPeer>(form, static_cast<PeerServices&>(*this));
+  auto peer = std::make_unique<QtFormPeer>(form, static_cast<PeerServices&>(*this));
+  forms_.push_back(&form);
+  return peer;
+}
+
+void QtBackend::CloseForms() {
+  const std::vector<Form*> open = forms_;
+  for (auto form = open.rbegin(); form != open.rend(); ++form)
+    if (std::find(forms_.begin(), forms_.end(), *form) != forms_.end()) (*form)->Unload();
 }
 
 std::unique_ptr<RichTextSurface> QtBackend::MakeSurface(RichTextBox& box, Clipboard& clipboard,
@@ -94,6 +103,7 @@ void QtBackend::Used(Form& form) {
 }
 
 void QtBackend::Gone(Form& form) {
+  std::erase(forms_, &form);
   if (awaited_ == &form) awaited_ = nullptr;
   if (passedOver_ == &form) passedOver_ = nullptr;
 }

@@ -32,6 +32,9 @@ class QtBackend final : public Backend, private PeerServices {
   WidgetRegistry& Widgets() override { return widgets_; }
   void Used(Form& form) override;
 
+  /// Closes the windows that are still there as the user would, the latest first.
+  void CloseForms();
+
  private:
   struct SurfaceLayout {
     TextLayouter layouter;
@@ -50,6 +53,7 @@ class QtBackend final : public Backend, private PeerServices {
   QtTimers timers_;
   // A box that is made where an earlier one was takes its place here.
   std::unordered_map<const Control*, std::unique_ptr<SurfaceLayout>> layouts_;
+  std::vector<Form*> forms_;    // with a window, in the order of realising
   Form* awaited_ = nullptr;     // told to become active, not so yet
   Form* passedOver_ = nullptr;  // the latest that has become active meanwhile
   QTimer awaiting_;

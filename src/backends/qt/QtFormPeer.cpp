@@ -1,5 +1,6 @@
 #include "backends/qt/QtFormPeer.h"
 
+#include <QDialog>
 #include <QGuiApplication>
 #include <QWindow>
 
@@ -26,8 +27,14 @@ QtFormPeer::~QtFormPeer() {
   services_.Widgets().Remove(form_);
   services_.Gone(form_);
   controls_.clear();
+  EndDialogs();
   window_->hide();
   window_->deleteLater();
+}
+
+// A box over a window that goes would lock the next one.
+void QtFormPeer::EndDialogs() {
+  for (QDialog* dialog : window_->findChildren<QDialog*>()) dialog->hide();
 }
 
 void QtFormPeer::AddControls(const Container& container, QWidget& parent) {

@@ -36,6 +36,7 @@ class QtFormPeer final : public FormPeer {
   std::vector<std::string> Differences() const override;
 
  private:
+  void EndDialogs();
   void AddControls(const Container& container, QWidget& parent);
   void Add(Control& control, QWidget& parent);
   void UpdateForm(Property property);

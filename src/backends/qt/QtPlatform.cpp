@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLibraryInfo>
+#include <QThread>
 #include <QTimer>
 #include <QTranslator>
 
@@ -13,6 +14,7 @@
 #include "backends/posix/PosixProcesses.h"
 #include "backends/posix/PosixProgramFolders.h"
 #include "backends/posix/PosixStateFolder.h"
+#include "backends/qt/ApplicationEnd.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
 #include "backends/qt/QtFonts.h"
@@ -24,11 +26,28 @@ namespace lumenote {
 
 namespace {
 
+/// Raises InvalidArgument where windows cannot be used.
+void CheckApplication() {
+  const auto* application = qobject_cast<QApplication*>(QCoreApplication::instance());
+  if (!application)
+    throw RuntimeError(ErrorNumber::InvalidArgument, u"L'éditeur a besoin d'un objet QApplication");
+  if (application->thread() != QThread::currentThread())
+    throw RuntimeError(ErrorNumber::InvalidArgument,
+                       u"Appel depuis un autre fil d'exécution que celui de QApplication");
+}
+
 /// The program's application object, made when the host has none.
 class OwnApplication {
  public:
   OwnApplication() {
-    if (QCoreApplication::instance()) return;
+    if (QCoreApplication::instance())
+      CheckApplication();
+    else
+      Make();
+  }
+
+ private:
+  void Make() {
     application_ = std::make_unique<QApplication>(count_, names_);
     // The toolkit's own dialogs speak French as the editor does.
     if (french_.load(QStringLiteral("qtbase_fr"),
@@ -36,7 +55,6 @@ class OwnApplication {
       QCoreApplication::installTranslator(&french_);
   }
 
- private:
   char name_[9] = "Lumenote";
   char* names_[2] = {name_, nullptr};
   int count_ = 1;
@@ -68,12 +86,9 @@ class CollectedProcesses final : public PosixProcesses {
 
 }  // namespace
 
+/// What can be made before the application object.
 struct QtPlatform::Parts {
-  OwnApplication application;
   DrivePaths drives = DrivePaths::OfUser();
-  QtBackend windows;
-  QtClipboard clipboard;
-  QtFonts fonts;
   PosixStateFolder state{PosixStateFolder::OfUser(), drives};
   PosixFiles files{drives, &state};
   IniSettings settings;
@@ -84,11 +99,27 @@ struct QtPlatform::Parts {
   PosixFolders folders{drives, [this] { return programs.HoldsFiles(); }};
 };
 
+struct QtPlatform::Desktop {
+  OwnApplication application;
+  QtBackend windows;
+  QtClipboard clipboard;
+  QtFonts fonts;
+  ApplicationEnd end{[this] { windows.CloseForms(); }};
+};
+
 QtPlatform::QtPlatform() : parts_(std::make_unique<Parts>()) {}
 
 QtPlatform::~QtPlatform() = default;
 
-Backend& QtPlatform::Windows() { return parts_->windows; }
+QtPlatform::Desktop& QtPlatform::OnDesktop() {
+  if (desktop_)
+    CheckApplication();
+  else
+    desktop_ = std::make_unique<Desktop>();
+  return *desktop_;
+}
+
+Backend& QtPlatform::Windows() { return OnDesktop().windows; }
 
 Settings& QtPlatform::UserSettings() { return parts_->settings; }
 
@@ -98,22 +129,25 @@ Folders& QtPlatform::SpecialFolders() { return parts_->folders; }
 
 StateFolder& QtPlatform::State() { return parts_->state; }
 
-Clipboard& QtPlatform::SystemClipboard() { return parts_->clipboard; }
+Clipboard& QtPlatform::SystemClipboard() { return OnDesktop().clipboard; }
 
-const Fonts& QtPlatform::SystemFonts() { return parts_->fonts; }
+const Fonts& QtPlatform::SystemFonts() { return OnDesktop().fonts; }
 
 const Registry& QtPlatform::MachineRegistry() { return parts_->registry; }
 
 const ProgramFolders& QtPlatform::InstalledPrograms() { return parts_->programFolders; }
 
-Processes& QtPlatform::Programs() { return parts_->programs; }
+Processes& QtPlatform::Programs() {
+  OnDesktop();
+  return parts_->programs;
+}
 
 std::u16string QtPlatform::ToDrivePath(std::string_view native) const {
   return parts_->drives.ToDrivePath(native);
 }
 
 bool QtPlatform::SaveShot(const Form& form, const std::string& path) {
-  return SaveWindowShot(parts_->windows.Widgets(), form, QString::fromStdString(path));
+  return SaveWindowShot(OnDesktop().windows.Widgets(), form, QString::fromStdString(path));
 }
 
 }  // namespace lumenote

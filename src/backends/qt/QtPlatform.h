@@ -10,8 +10,11 @@ namespace lumenote {
 
 class Form;
 
-/// `QtPlatform platform; CoBxRtf control(platform);` is all a host needs. Works in a program that
-/// has a QApplication, which must outlive it, and makes one of its own where there is none.
+/// `QtPlatform platform; CoBxRtf control(platform);` is all a host needs. The windows, the
+/// clipboard, the fonts and the programs use the host's QApplication, which may be made after the
+/// platform and go before it: then the editors close as the user would close them. Where there is
+/// none at the first use the platform makes one. They raise InvalidArgument (5) where the
+/// application object is of another kind, or gone, and on another thread than the QApplication's.
 class QtPlatform final : public Platform {
  public:
   QtPlatform();
@@ -38,7 +41,11 @@ class QtPlatform final : public Platform {
 
  private:
   struct Parts;
+  struct Desktop;
+  Desktop& OnDesktop();
+
   std::unique_ptr<Parts> parts_;
+  std::unique_ptr<Desktop> desktop_;  // made at the first use
 };
 
 }  // namespace lumenote

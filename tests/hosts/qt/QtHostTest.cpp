@@ -1,0 +1,176 @@
+// Hosts on the desktop: the application object comes late, goes early or is none, another thread
+// calls, and the host's own events use the control while native windows wait.
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <optional>
+#include <thread>
+
+#include "backends/qt/QtPlatform.h"
+#include "base/ErrorOf.h"
+#include "control/CoBxRtf.h"
+#include "control/Component.h"
+
+namespace lumenote {
+namespace {
+
+struct Application {
+  char name[5] = "host";
+  char* names[2] = {name, nullptr};
+  int count = 1;
+  QApplication object{count, names};
+};
+
+std::unique_ptr<CoBxRtf> MakeControl(QtPlatform& platform) {
+  auto control = std::make_unique<CoBxRtf>(platform);
+  control->pCouleurFen(u"0");
+  control->pStrOrchm(u"note");
+  return control;
+}
+
+Co_Rtf& EditorOf(CoBxRtf& control) { return *control.Parts().editor.Loaded(); }
+
+void Edit(CoBxRtf& control, std::u16string_view typed) {
+  EditorOf(control).Document().SelStart(0);
+  EditorOf(control).Document().SelText(typed);
+}
+
+void Soon(std::function<void()> event) { QTimer::singleShot(0, qApp, std::move(event)); }
+
+/// Answers the message box that comes up next.
+void AnswerBox(std::function<void()> before = [] {}) {
+  auto* timer = new QTimer(qApp);
+  QObject::connect(timer, &QTimer::timeout, [timer, before = std::move(before)] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box) return;
+    timer->deleteLater();
+    timer->stop();
+    const QPointer<QMessageBox> shown = box;
+    before();
+    if (shown) shown->buttons().constFirst()->click();
+  });
+  timer->start(5);
+}
+
+TEST(QtHostTest, ThePlatformMayComeBeforeTheApplicationAndOutliveIt) {
+  QtPlatform platform;
+  EXPECT_EQ(platform.ToDrivePath("/n/a.rtf"), u"Z:\\n\\a.rtf");
+  const auto control = MakeControl(platform);
+  {
+    const Application application;
+    control->ShowMicroEdit();
+    Edit(*control, u"ma ");
+    AnswerBox();
+  }
+  EXPECT_EQ(control->pStrOrchm(), u"ma note");
+  EXPECT_EQ(ErrorOf([&] { control->ShowMicroEdit(); }), 5);
+  EXPECT_EQ(control->pStrOrchm(), u"ma note");
+}
+
+TEST(QtHostTest, WithoutAnApplicationThePlatformMakesOne) {
+  QtPlatform platform;
+  const auto control = MakeControl(platform);
+  control->ShowMicroEdit();
+  EXPECT_NE(qApp, nullptr);
+  Soon([&] { EditorOf(*control).UserClose(); });
+  control->ShowMicroEdit(1);
+}
+
+TEST(QtHostTest, AnApplicationWithoutWindowsIsRefused) {
+  char name[] = "host";
+  char* names[] = {name, nullptr};
+  int count = 1;
+  const QCoreApplication application(count, names);
+  QtPlatform platform;
+  const auto control = MakeControl(platform);
+  try {
+    control->ShowMicroEdit(1);
+    FAIL();
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Number(), 5);
+    EXPECT_EQ(error.Member(), u"ShowMicroEdit");
+    EXPECT_EQ(error.Description(), u"L'éditeur a besoin d'un objet QApplication");
+  }
+  EXPECT_EQ(control->pStrOrchm(), u"note");
+}
+
+TEST(QtHostTest, AnotherThreadThanTheApplicationsIsRefused) {
+  const Application application;
+  QtPlatform platform;
+  int elsewhere = 0;
+  std::thread([&] {
+    elsewhere = ErrorOf([&] { MakeControl(platform)->ShowMicroEdit(1); });
+  }).join();
+  EXPECT_EQ(elsewhere, 5);
+  const auto control = MakeControl(platform);
+  control->ShowMicroEdit();
+  std::thread([&] { elsewhere = ErrorOf([&] { control->pStrOrchm(); }); }).join();
+  EXPECT_EQ(elsewhere, 5);
+  EXPECT_EQ(control->pStrOrchm(), u"note");
+}
+
+/// The host reads the note, shows another one and waits until that has been edited and closed.
+void EditNext(CoBxRtf& control) {
+  EXPECT_EQ(control.pStrOrchm(), u"note");
+  control.pStrOrchm(u"suite");
+  Soon([&] {
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    Edit(control, u"la ");
+    AnswerBox();
+    EditorOf(control).UserClose();
+  });
+  control.ShowMicroEdit(1);
+}
+
+TEST(QtHostTest, TheNextNoteOpensWhileAModalWindowOrABoxOfTheOldOneIsUp) {
+  const Application application;
+  QtPlatform platform;
+  for (const bool picker : {true, false}) {
+    const auto control = MakeControl(platform);
+    control->ShowMicroEdit();
+    Soon([&] { EditNext(*control); });
+    if (picker)
+      EditorOf(*control).Bar.mnuEdtSymboles.UserClick();
+    else
+      EditorOf(*control).Pop.mnuPopOcrApprendre.UserClick();
+    EXPECT_EQ(control->pStrOrchm(), u"la suite");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  }
+}
+
+TEST(QtHostTest, TheControlGoesWhileItWaitsOrAsks) {
+  const Application application;
+  QtPlatform platform;
+  auto control = MakeControl(platform);
+  Soon([&] { control.reset(); });
+  control->ShowMicroEdit(1);
+
+  control = MakeControl(platform);
+  control->ShowMicroEdit();
+  Soon([&] { control.reset(); });
+  EditorOf(*control).Bar.mnuEdtSymboles.UserClick();
+
+  control = MakeControl(platform);
+  control->ShowMicroEdit();
+  Edit(*control, u"ma ");
+  AnswerBox([&] { control.reset(); });
+  EditorOf(*control).UserClose();
+  EXPECT_TRUE(QApplication::topLevelWidgets().empty() || !QApplication::activeModalWidget());
+}
+
+}  // namespace
+}  // namespace lumenote
+
+int main(int argc, char** argv) {
+  const QTemporaryDir home;
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "TMPDIR"})
+    qputenv(name, home.path().toUtf8());
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
