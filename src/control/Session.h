@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "control/DirtyFlag.h"
+
 namespace lumenote {
 
 /// A file as it was when somebody looked: its modification time.
@@ -61,7 +63,7 @@ struct Session {
   // Of the open editor, or of the last one.
   bool loaded = false;    // the document came in; nothing is given back or saved before
   std::u16string format;  // lower-cased last three characters of the document path
-  bool dirty = false;
+  DirtyFlag dirty;
   bool onTop = false;
   bool menuBarShown = false;
   std::uint64_t changes = 0;  // of the content since it came in

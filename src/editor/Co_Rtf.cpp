@@ -44,7 +44,10 @@ Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const Tem
   WireSelectionMenu();
   WireZones();
   DisableEntriesWithoutCommand();
+  session_.dirty.Assigned = [this](bool dirty) { dirty ? recovery_.Edited() : recovery_.Drop(); };
 }
+
+Co_Rtf::~Co_Rtf() { session_.dirty.Assigned = nullptr; }
 
 void Co_Rtf::WirePopup() {
   Pop.mnuPop.Click = [this] { mnuPop_Click(); };
@@ -199,6 +202,7 @@ bool Co_Rtf::Form_QueryUnload() {
 void Co_Rtf::Form_Unload() {
   Timer1.Enabled(false);
   TimerWpd.Enabled(false);
+  recovery_.Drop();
   if (Co_Paragraph* dialog = paragraph_.Loaded()) dialog->Unload();
   if (Co_Trouver* dialog = find_.Loaded()) dialog->Unload();
   if (Co_Symbols* dialog = symbols_.Loaded()) dialog->Unload();

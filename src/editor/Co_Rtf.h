@@ -4,6 +4,7 @@
 #include "editor/DocumentStorage.h"
 #include "editor/EditorWindow.h"
 #include "editor/MenuBar.h"
+#include "editor/Recovery.h"
 #include "editor/Secours.h"
 #include "extapps/ProgramTable.h"
 #include "extapps/RoundTrip.h"
@@ -29,6 +30,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   /// Works on the session that stands there, and leaves a copy of it for the next editor when it
   /// has unloaded. All outlive the window.
   Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp);
+  ~Co_Rtf() override;
 
   Frame Fr_Notes{*this, "Fr_Notes", {80, 84, 5376, 3560}};
   Label Lb_Format{Fr_Notes, "Lb_Format", {3573, 0, 1700, 195}};
@@ -38,6 +40,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   StatusBar Bar_Etat{*this, "Bar_Etat", 2};
   Timer Timer1{*this, "Timer1"};
   Timer TimerWpd{*this, "TimerWpd"};
+  Timer TimerSecours{*this, "TimerSecours"};
   ContextMenu Pop{*this};
   MenuBar Bar{*this};
 
@@ -57,6 +60,9 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   void ShowStatus(int panel, std::u16string_view text) override { Bar_Etat.Panel(panel, text); }
   std::u16string Status(int panel) const override { return Bar_Etat.Panel(panel); }
   void ShowFormat(std::u16string_view text) override { Lb_Format.Caption(text); }
+
+  /// Brings the recovery copy of an edited note up to date, for a program that has to end.
+  void KeepUnsaved() { recovery_.WriteNow(); }
 
   /// Mode 1 shows the menu bar, 2 hides it, 3 toggles it; then the layout follows.
   void AfficheBarreMenu(int mode);
@@ -121,6 +127,7 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   Instance<Co_Apprendre> learn_;
   ProgramTable programs_;
   RoundTrip exchange_;
+  Recovery recovery_{*this, TimerSecours};
 };
 
 }  // namespace lumenote

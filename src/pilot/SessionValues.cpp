@@ -30,17 +30,17 @@ constexpr std::array<SessionText, 11> kTexts{{
 
 struct SessionFlag {
   std::string_view name;
-  bool Session::*value;
+  bool (*value)(const Session& session);
 };
 
 constexpr std::array<SessionFlag, 7> kFlags{{
-    {"FileMode", &Session::fileMode},
-    {"ReadOnly", &Session::readOnly},
-    {"Deleted", &Session::deleted},
-    {"Closed", &Session::closed},
-    {"Dirty", &Session::dirty},
-    {"OnTop", &Session::onTop},
-    {"MenuBarShown", &Session::menuBarShown},
+    {"FileMode", [](const Session& session) -> bool { return session.fileMode; }},
+    {"ReadOnly", [](const Session& session) -> bool { return session.readOnly; }},
+    {"Deleted", [](const Session& session) -> bool { return session.deleted; }},
+    {"Closed", [](const Session& session) -> bool { return session.closed; }},
+    {"Dirty", [](const Session& session) -> bool { return session.dirty; }},
+    {"OnTop", [](const Session& session) -> bool { return session.onTop; }},
+    {"MenuBarShown", [](const Session& session) -> bool { return session.menuBarShown; }},
 }};
 
 }  // namespace
@@ -49,7 +49,7 @@ Value ReadSession(const Session& session, std::string_view name) {
   for (const SessionText& text : kTexts)
     if (text.name == name) return session.*text.value;
   for (const SessionFlag& flag : kFlags)
-    if (flag.name == name) return session.*flag.value;
+    if (flag.name == name) return flag.value(session);
   throw ScriptError("unknown session value " + std::string(name));
 }
 

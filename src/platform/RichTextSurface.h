@@ -2,6 +2,7 @@
 #pragma once
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +39,15 @@ struct ParagraphRecord {
 
 /// What the text mode switches on: rich text, multi-level undo, multi-code-page text.
 inline constexpr int kTextModeRichMultilevel = 42;
+
+/// The content of a surface as it was when this was made, on its way out bit by bit; edits
+/// meanwhile do not show in it. Used on the surface's thread; the surface may go first.
+class ContentWriting {
+ public:
+  virtual ~ContentWriting() = default;
+  /// Goes on for a small part of a millisecond; false when that was the end.
+  virtual bool Step() = 0;
+};
 
 /// Text, formats, selection, undo and clipboard of one box. Accessors come in pairs: without an
 /// argument they read, with one they write. A character or paragraph attribute of the selection
@@ -122,6 +132,9 @@ class RichTextSurface {
   virtual std::string SaveFile(std::u16string_view path, FileType type) = 0;
   /// What `SaveFile` would write.
   virtual std::string FileBytes(FileType type) const = 0;
+  /// The same, handed to `sink` bit by bit.
+  using ContentSink = std::function<void(std::string_view)>;
+  virtual std::unique_ptr<ContentWriting> WriteContent(FileType type, ContentSink sink) const = 0;
 
   /// Searches from `start` to the end of the document, selects the match and returns its position;
   /// -1, with the selection left alone, when there is none or `text` is empty. A negative start

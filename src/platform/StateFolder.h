@@ -7,8 +7,9 @@
 
 namespace lumenote {
 
-/// A copy of one note. It goes with this object; a program that dies leaves it behind for the next
-/// start. Failures are run-time errors, and the copy that stood before still stands.
+/// A copy of one note. It goes with this object, unless it is left on purpose or the program dies:
+/// then the next start finds it. Failures are run-time errors, and the copy that stood before still
+/// stands.
 class NoteCopy {
  public:
   virtual ~NoteCopy() = default;
@@ -21,6 +22,8 @@ class NoteCopy {
   virtual void Commit() = 0;
   /// Takes away the copy and one that was started.
   virtual void Remove() = 0;
+  /// The copy outlives this object.
+  virtual void Leave() = 0;
 };
 
 /// What a dead program has left: the origin that it told, the content.

@@ -53,8 +53,9 @@ void WriteFontName(const FontFace& face, Output& out) {
 
 }  // namespace
 
-WrittenFormats::WrittenFormats(const FormatTables& tables, const KeptHead& head)
-    : tables_(tables), written_(tables.characters.Size()), head_(head) {
+WrittenFormats::WrittenFormats(const FormatTables& tables, HeadId id)
+    : tables_(tables), written_(tables.characters.Size()), head_(id) {
+  const KeptHead& head = Head();
   for (const KeptHead::Font& font : head.fonts) {
     const std::uint32_t known = faces_.Size();
     faces_.Intern(tables.fonts[font.font]);
@@ -79,7 +80,7 @@ std::uint32_t WrittenFormats::FontIndex(const FontFace& face) {
   const std::uint32_t index = faces_.Intern(face);
   if (index == fonts_.size()) {
     const int page = CodePageOfCharset(face.charset);
-    fonts_.push_back({nextFont_++, EncodingOf(page == 0 ? head_.page : page)});
+    fonts_.push_back({nextFont_++, EncodingOf(page == 0 ? Head().page : page)});
   }
   return index;
 }
@@ -127,7 +128,7 @@ void WrittenFormats::WriteFontTable(Output& out) const {
     WriteFontName(face, out);
     out.Raw(";}");
   }
-  const std::string& kept = head_.fontTable;
+  const std::string& kept = Head().fontTable;
   if (!kept.empty() && kept[0] != '{' && kept[0] != '\\') out.Raw(" ");
   out.Words(kept);
   out.Raw("}\r\n");

@@ -32,7 +32,8 @@ struct WrittenFormat {
 /// that they have in the head of the note's source; others follow, as they first occur.
 class WrittenFormats {
  public:
-  WrittenFormats(const FormatTables& tables, const KeptHead& head);
+  /// The tables may grow while this lives; only formats that they hold now can be taken in.
+  WrittenFormats(const FormatTables& tables, HeadId head);
 
   /// Takes in a format that the text uses.
   void Use(CharId format) {
@@ -44,20 +45,21 @@ class WrittenFormats {
   /// A format that was taken in.
   const WrittenFormat& operator[](CharId format) const { return written_[format]; }
   int BulletFont() const { return bulletFont_; }
-  bool HasStyles() const { return head_.tables; }
+  bool HasStyles() const { return Head().tables; }
 
   void WriteFontTable(Output& out) const;
   /// Nothing when no colour is used.
   void WriteColourTable(Output& out) const;
 
  private:
+  const KeptHead& Head() const { return tables_.heads[head_]; }
   WrittenFormat Written(const CharFormat& format);
   std::uint32_t FontIndex(const FontFace& face);
   int ColourNumber(Colour colour);
 
   const FormatTables& tables_;
   std::vector<WrittenFormat> written_;  // by CharId; font -1 where not used
-  const KeptHead& head_;
+  HeadId head_;
   struct Font {
     int number;
     Encoding encoding;

@@ -30,9 +30,6 @@ struct WrittenParagraphs {
     KeptId kept;
   };
 
-  /// The paragraphs between `from` and `to`, and with `mark` the last one.
-  WrittenParagraphs(const Document& document, Position from, Position to, const FinalMark* mark);
-
   std::vector<ParaId> formats;
   std::vector<int> rowDepths;  // nesting of the whole row that each is part of
   std::vector<Cell> cells;     // in order
@@ -40,10 +37,56 @@ struct WrittenParagraphs {
   /// The kept number of a selection's first character when a page or section begins before that:
   /// the beginning is not part of the selection.
   KeptId outside = 0;
+};
+
+/// Going backwards through a text: the rows whose ends have been passed and whose beginnings have
+/// not, by their nesting, the innermost last.
+class OpenRows {
+ public:
+  int End(int nesting);
+  /// The row of a paragraph that calls itself so deep: deeper than the innermost row is in that
+  /// one. A row that does not call itself part of a table is one paragraph.
+  int Paragraph(int nesting);
+  /// The same of a cell. One of a nested row is part of no other.
+  int Cell(int nesting);
 
  private:
-  void FindKept(const Document& document, Position from, Position to, const FinalMark* mark);
-  void FindRows(const FormatTables& tables);
+  void LeaveDeeperThan(int nesting);
+  int Innermost() const { return open_.empty() ? WrittenParagraphs::kNoRow : open_.back(); }
+
+  std::vector<int> open_;
+};
+
+/// Finds the paragraphs of a text bit by bit: first all pieces of it are taken, then all rows
+/// found.
+class ParagraphScan {
+ public:
+  /// Of the text from `from` on, or with `mark` of the whole document.
+  ParagraphScan(const Document& document, Position from, const FinalMark* mark);
+
+  /// The next piece; `found` has the formats of the paragraphs that touch it then.
+  void Take(Position from, Position to);
+  /// Behind the last piece.
+  void TakeEnd();
+  /// Goes on through at most so many paragraphs, backwards; whether there are more.
+  bool FindRows(std::size_t paragraphs);
+
+  WrittenParagraphs found;
+
+ private:
+  bool IsAnythingKept() const { return document_.Formats().kept.Size() > 1; }
+  void AddParagraph(ParaId format);
+  void FindKept(Position at, TextView text, CharId format);
+  void FindRow(std::size_t paragraph);
+
+  const Document& document_;
+  const FinalMark* mark_;
+  Position first_;  // the first paragraph's number in the document
+  KeptId last_;
+  // Of the way backwards: what is still to be passed.
+  OpenRows open_;
+  std::size_t rows_ = 0;
+  std::size_t cells_ = 0;
 };
 
 }  // namespace lumenote

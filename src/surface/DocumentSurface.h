@@ -3,6 +3,7 @@
 #include "platform/RichTextSurface.h"
 #include "surface/CaretMotion.h"
 #include "surface/CharacterFormats.h"
+#include "surface/ContentWritings.h"
 #include "surface/EditingCore.h"
 #include "surface/ParagraphFormats.h"
 #include "surface/SurfaceView.h"
@@ -73,6 +74,10 @@ class DocumentSurface final : public RichTextSurface {
     return transfer_.Save(path, type);
   }
   std::string FileBytes(FileType type) const override { return transfer_.Bytes(type); }
+
+  std::unique_ptr<ContentWriting> WriteContent(FileType type, ContentSink sink) const override {
+    return MakeContentWriting(Content(), type, std::move(sink));
+  }
 
   Position Find(std::u16string_view text, Position start, int options) override;
   void Span(std::u16string_view set, bool forward, bool negate) override;

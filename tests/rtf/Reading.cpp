@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "base/Strings.h"
+#include "rtf/RtfWriting.h"
 #include "rtf/Writer.h"
 
 namespace lumenote {
@@ -82,6 +83,14 @@ std::string Shown(const ParaFormat& format, const FormatTables& tables) {
   return words.Text();
 }
 
+std::string WrittenBitByBit(const Document& document) {
+  std::string written;
+  const ByteSink sink = [&](std::string_view piece) { written += piece; };
+  RtfWriting writing(document, {0, document.Length()}, document.Mark(), sink);
+  while (writing.Step(3)) continue;
+  return written;
+}
+
 }  // namespace
 
 Document Read(std::string_view rtf, RtfTarget target, CharFormat base) {
@@ -101,6 +110,7 @@ std::string LossOf(const Document& document) {
     return "text: " + TextOf(again);
   const std::string rewritten = WriteRtf(again);
   if (rewritten != written) return "bytes: " + written + "became: " + rewritten;
+  if (WrittenBitByBit(document) != written) return "bit by bit: " + WrittenBitByBit(document);
   for (std::size_t i = 0; i < written.size(); ++i) {
     const char c = written[i];
     const bool ofLineEnd =

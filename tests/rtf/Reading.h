@@ -15,8 +15,8 @@ Document Read(std::string_view rtf, RtfTarget target = RtfTarget::Document,
 /// The text in UTF-8, "\n" for a break.
 std::string TextOf(const Document& document);
 
-/// What writing the document and reading it again does not keep; empty when text and bytes stay and
-/// the bytes are printable ASCII in lines.
+/// What writing the document and reading it again does not keep; empty when text and bytes stay,
+/// in steps too, and the bytes are printable ASCII in lines.
 std::string LossOf(const Document& document);
 
 /// What differs from the standard format, in pointed brackets before each run; "|" for a break,

@@ -29,8 +29,7 @@ class StateCopy final : public NoteCopy {
   void Commit() override;
   void CommitToDisk();
   void Remove() override;
-  /// The copy stays when this object goes, for the next start.
-  void Leave() { leave_ = true; }
+  void Leave() override { leave_ = true; }
   /// Native path of the content.
   std::string Path() const { return base_ + ".note"; }
 

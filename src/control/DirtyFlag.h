@@ -1,0 +1,26 @@
+// Whether a note holds what is stored nowhere else.
+#pragma once
+#include <functional>
+
+namespace lumenote {
+
+/// Reads and is assigned like a bool; who keeps a copy of the unsaved note hears of each
+/// assignment.
+class DirtyFlag {
+ public:
+  DirtyFlag() = default;
+  DirtyFlag(const DirtyFlag& other) : dirty_(other.dirty_) {}
+  operator bool() const { return dirty_; }
+  DirtyFlag& operator=(bool dirty) {
+    dirty_ = dirty;
+    if (Assigned) Assigned(dirty);
+    return *this;
+  }
+
+  std::function<void(bool dirty)> Assigned;
+
+ private:
+  bool dirty_ = false;
+};
+
+}  // namespace lumenote

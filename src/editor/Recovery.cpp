@@ -1,0 +1,89 @@
+#include "editor/Recovery.h"
+
+#include <chrono>
+
+#include "base/RuntimeError.h"
+#include "control/Session.h"
+#include "forms/Platform.h"
+#include "forms/Timer.h"
+#include "platform/Paths.h"
+
+namespace lumenote {
+
+namespace {
+
+// An edit waits for the copy that is being written, for the delay and for its own copy: with two
+// seconds for a copy, which is plenty, that is within the ten seconds.
+constexpr int kDelay = 5000;  // milliseconds from an edit to its copy
+constexpr int kPause = 10;    // between two slices
+constexpr std::chrono::milliseconds kSlice(2);
+
+}  // namespace
+
+Recovery::Recovery(EditorWindow& editor, Timer& clock) : editor_(editor), clock_(clock) {
+  clock_.Tick = [this] { Tick(); };
+}
+
+Recovery::~Recovery() {
+  if (copy_) copy_->Leave();
+}
+
+void Recovery::Edited() {
+  due_ = true;
+  if (!clock_.Enabled()) Schedule();
+}
+
+void Recovery::Drop() {
+  due_ = false;
+  writing_.reset();
+  copy_.reset();
+  Schedule();
+}
+
+void Recovery::Schedule() {
+  clock_.Interval(writing_ ? kPause : kDelay);
+  clock_.Enabled(writing_ || due_);
+}
+
+void Recovery::Tick() {
+  const bool written = IgnoringErrors([this] { writing_ ? WriteSlice() : Begin(); });
+  if (!written) {
+    writing_.reset();
+    due_ = true;
+  }
+  Schedule();
+}
+
+void Recovery::Begin() {
+  const Session& session = editor_.Values();
+  if (!copy_) copy_ = editor_.Services().State().MakeCopy();
+  copy_->Begin(session.fileMode ? session.documentPath : FileName(session.documentPath));
+  writing_ = editor_.Document().WriteContent(
+      session.format == u"txt" ? FileType::Text : FileType::Rtf,
+      [copy = copy_.get()](std::string_view bytes) { copy->Append(bytes); });
+  due_ = false;
+}
+
+void Recovery::WriteSlice() {
+  using Clock = std::chrono::steady_clock;
+  const Clock::time_point end = Clock::now() + kSlice;
+  while (Clock::now() < end) {
+    if (!writing_->Step()) return Commit();
+  }
+}
+
+void Recovery::Commit() {
+  copy_->Commit();
+  writing_.reset();
+}
+
+void Recovery::WriteNow() {
+  if (!editor_.Values().dirty) return;
+  IgnoringErrors([this] {
+    Begin();
+    while (writing_->Step()) continue;
+    Commit();
+  });
+}
+
+}  // namespace lumenote

@@ -1,0 +1,74 @@
+#include "surface/ContentWritings.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Strings.h"
+#include "base/Windows1252.h"
+#include "rtf/RtfWriting.h"
+
+namespace lumenote {
+namespace {
+
+constexpr Position kUnits = 1 << 14;  // of text, a step
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
+class RtfContent final : public ContentWriting {
+ public:
+  RtfContent(const Document& document, ByteSink sink)
+      : document_(document),
+        sink_(std::move(sink)),
+        writing_(document_, {0, document_.Length()}, document_.Mark(), sink_) {}
+
+  bool Step() override { return writing_.Step(kUnits); }
+
+ private:
+  Document document_;
+  ByteSink sink_;
+  RtfWriting writing_;
+};
+
+/// Goes through the text twice: first it looks whether page 1252 has all characters.
+class TextContent final : public ContentWriting {
+ public:
+  TextContent(const Document& document, ByteSink sink)
+      : document_(document), sink_(std::move(sink)) {}
+
+  bool Step() override {
+    const std::u16string text = Piece();
+    if (looking_)
+      fits_ = fits_ && Fits1252(text);
+    else
+      sink_(fits_ ? Encode1252(text) : ToUtf8(text));
+    if (at_ < document_.Length()) return true;
+    return std::exchange(looking_, false) && Begin();
+  }
+
+ private:
+  std::u16string Piece() {
+    const Position from = at_;
+    at_ = document_.After(from + std::min(kUnits, document_.Length() - from));
+    return document_.Text(from, at_);
+  }
+  bool Begin() {
+    at_ = 0;
+    if (!fits_) sink_(kMark);
+    return true;
+  }
+
+  Document document_;
+  ByteSink sink_;
+  Position at_ = 0;
+  bool looking_ = true;
+  bool fits_ = true;
+};
+
+}  // namespace
+
+std::unique_ptr<ContentWriting> MakeContentWriting(const Document& document, FileType type,
+                                                   RichTextSurface::ContentSink sink) {
+  if (type == FileType::Text) return std::make_unique<TextContent>(document, std::move(sink));
+  return std::make_unique<RtfContent>(document, std::move(sink));
+}
+
+}  // namespace lumenote
