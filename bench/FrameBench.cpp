@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "Notes.h"
@@ -87,6 +89,30 @@ class Desk {
     return longest;
   }
 
+  /// A copy of the note is written to a file in slices, as the recovery copy is, with a key after
+  /// each: the longest slice, beginning and end included, and the longest time of a key.
+  std::pair<double, double> KeysWhileCopying(Position at) {
+    constexpr double kSlice = 2;  // milliseconds
+    PutCaret(at);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::tmpfile(), &std::fclose);
+    std::setvbuf(file.get(), nullptr, _IONBF, 0);
+    const auto sink = [&](std::string_view bytes) {
+      std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    };
+    std::pair<double, double> longest;
+    std::unique_ptr<ContentWriting> writing;
+    for (bool more = true; more;) {
+      const std::clock_t start = std::clock();
+      if (!writing) writing = surface.WriteContent(FileType::Rtf, sink);
+      while (more && Milliseconds(start) < kSlice) more = writing->Step();
+      if (!more) writing.reset();
+      longest.first = std::max(longest.first, Milliseconds(start));
+      const double key = ToFrame([&] { Press(Qt::Key_A, QStringLiteral("a")); });
+      longest.second = std::max(longest.second, key);
+    }
+    return longest;
+  }
+
   MemoryClipboard clipboard;
   MemoryFiles files;
   TextLayouter layouter;
@@ -106,8 +132,9 @@ void Measure(NoteShape shape, int bytes, const std::string& name) {
   const double end = desk.Typing(desk.surface.Content().Length());
   const double up = desk.CaretKey(Qt::Key_Up);
   const double page = desk.CaretKey(Qt::Key_PageUp);
-  std::printf("%-12s %11.2f %15.3f %11.3f %8.3f %10.2f %8.2f\n", name.c_str(), first, top, middle,
-              end, up, page);
+  const auto [slice, key] = desk.KeysWhileCopying(length / 2);
+  std::printf("%-12s %11.2f %15.3f %11.3f %8.3f %10.2f %8.2f %8.2f %8.2f\n", name.c_str(), first,
+              top, middle, end, up, page, slice, key);
 }
 
 /// On a window that is shown, up to the frame that shows the page as it is then.
@@ -132,9 +159,11 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   std::vector<double> cleanUps;
   for (int i = 0; i < 9; ++i) cleanUps.push_back(CleanUp());
-  std::printf("milliseconds of processor time: medians, of the caret keys the longest\n");
+  std::printf(
+      "milliseconds of processor time: medians, of the caret keys, and of a copy's slices\nand the "
+      "keys between them, the longest\n");
   std::printf("clean-up of a page, 500 pairs, in a window: %.1f\n\n", Median(cleanUps));
-  std::printf("%-12s %11s %15s %11s %8s %10s %8s\n", "note", "first frame", "key at the top",
-              "the middle", "the end", "up key", "page up");
+  std::printf("%-12s %11s %15s %11s %8s %10s %8s %8s %8s\n", "note", "first frame",
+              "key at the top", "the middle", "the end", "up key", "page up", "a slice", "its key");
   ForEachNote(Measure);
 }
