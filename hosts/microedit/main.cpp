@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "SuddenEnds.h"
 #include "backends/posix/PosixSandbox.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtPlatform.h"
@@ -112,6 +113,7 @@ int Edit(const CommandLine& line) {
   HandOver(control, platform.FileSystem(), path, line.Has("--readonly"));
   if (const auto png = line.Value("--capture"))
     return Capture(control, platform, *png) ? 0 : Fail(*png + " : écriture impossible", 1);
+  const SuddenEnds ends([&control] { control.KeepUnsaved(); });
   control.ShowMicroEdit(1);
   return control.Parts().session->loaded ? 0 : 1;
 }

@@ -161,4 +161,8 @@ void CoBxRtf::ShowMicroEdit(std::int32_t mode) {
   });
 }
 
+void CoBxRtf::KeepUnsaved() {
+  if (Co_Rtf* editor = parts_->editor.Loaded()) editor->KeepUnsaved();
+}
+
 }  // namespace lumenote

@@ -61,6 +61,11 @@ class CoBxRtf {
   /// here, too.
   void ShowMicroEdit(std::int32_t mode = 0);
 
+  /// Brings the recovery copy of an edited note up to date at once, for a program that has to end
+  /// now: by a signal, the session's end, a lost display. Nothing is asked and the editor stays as
+  /// it is; the next start makes a rescue copy of the note.
+  void KeepUnsaved();
+
   /// The parts behind the control, for tests and scripts.
   Component& Parts() { return *parts_; }
 

@@ -4,6 +4,7 @@
 #include "editor/Conversion.h"
 #include "editor/EditCommands.h"
 #include "editor/Layout.h"
+#include "editor/Secours.h"
 #include "editor/SessionLife.h"
 #include "editor/WindowPlace.h"
 #include "extapps/OcrLaunch.h"
@@ -175,6 +176,7 @@ void Co_Rtf::Form_Activate() {
   LocatePrograms();
   session_.loaded = OuvrirDocument(*this);
   session_.changes = 0;
+  RetrouverNotes(*this);
   if (!session_.loaded) {
     Unload();
     return;

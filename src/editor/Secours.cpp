@@ -15,6 +15,7 @@
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
+#include "platform/Paths.h"
 #include "platform/StateFolder.h"
 
 namespace lumenote {
@@ -76,6 +77,13 @@ MessageBox BoxFor(Cause cause, const std::vector<std::u16string>& paths) {
   return {.text = text, .icon = MessageBox::Icon::Critical};
 }
 
+/// Whether the note was saved before its program died.
+bool IsStored(const Files& files, const LeftCopy& copy) {
+  std::string bytes;
+  return IsDrivePath(copy.origin) && IgnoringErrors([&] { bytes = files.ReadAll(copy.origin); }) &&
+         bytes == copy.bytes;
+}
+
 }  // namespace
 
 std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
@@ -128,6 +136,18 @@ void GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
     });
   }
   if (!paths.empty()) machine.Windows().Show(BoxFor(Cause::FichierModifie, paths), nullptr);
+}
+
+void RetrouverNotes(EditorWindow& editor) {
+  Platform& machine = editor.Services();
+  std::vector<std::u16string> paths;
+  machine.State().HandOverLeft([&](const LeftCopy& left) {
+    if (IsStored(machine.FileSystem(), left)) return true;
+    const auto path = EcrireSecours(machine, left.origin, left.bytes);
+    if (path) paths.push_back(*path);
+    return path.has_value();
+  });
+  AnnoncerSecours(editor, Cause::NoteRetrouvee, paths);
 }
 
 }  // namespace lumenote

@@ -31,4 +31,8 @@ bool GarderFichier(EditorWindow& editor, Cause cause, std::u16string_view path);
 /// The same for what programs have saved for editors that have closed, when their control goes.
 void GarderRetours(Platform& machine, const std::vector<WorkSent>& left);
 
+/// Makes rescue copies of the notes that dead programs left, and tells of them in one box. One that
+/// its file holds already is none; one that can be written nowhere stays for the next start.
+void RetrouverNotes(EditorWindow& editor);
+
 }  // namespace lumenote

@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -88,6 +89,72 @@ class Recovery(unittest.TestCase):
         program.do("click Co_Rtf.mnuPopQuitter", "forms")
         self.assertFalse((self.root / "state").exists())
         program.end()
+
+
+    def documents(self):
+        return {path.name: path.read_bytes() for path in (self.root / "c/Documents").iterdir()}
+
+    def found(self, prepare=lambda: None):
+        """The boxes that the next start shows."""
+        program = self.start()
+        program.do("forms")
+        prepare()
+        program.open("autre")
+        boxes = program.do("boxes")
+        program.end()
+        return [box["text"].split("\r\n") for box in boxes]
+
+    def test_the_next_start_makes_rescue_copies_and_tells_once(self):
+        (self.root / "c/n").mkdir(parents=True)
+        string = self.edit("\u00e9t\u00e9 ", "un")
+        rtf = self.edit("C:\\n\\a.rtf", "deux")
+        self.edit("C:\\n\\b.txt", "trois").kill()
+        (self.root / "c/n/b.txt").write_bytes(b"trois")  # saved, but not told any more
+        for program in (string, rtf):
+            program.kill()
+        [(cause, title, *paths)] = self.found()
+        self.assertEqual((cause, title), ("Note retrouv\u00e9e apr\u00e8s un arr\u00eat",
+                                          "Copie de secours :"))
+        self.assertEqual(sorted(paths), ["C:\\Documents\\Secours_TmpFlStr.txt",
+                                         "C:\\Documents\\Secours_a.rtf"])
+        copies = self.documents()
+        self.assertEqual(copies["Secours_TmpFlStr.txt"], "un\u00e9t\u00e9 ".encode("cp1252"))
+        self.assertIn(b"deux", copies["Secours_a.rtf"])
+        self.assertEqual(self.found(), [])
+        self.assertEqual((self.documents(), self.copies()), (copies, []))
+
+    def test_two_starts_at_once_share_what_was_left(self):
+        (self.root / "c/n").mkdir(parents=True)
+        names = [f"C:\\n\\{letter}.txt" for letter in "abcdefgh"]
+        dead = [self.edit(name) for name in names]
+        living = self.edit("C:\\n\\z.txt", "z")
+        for program in dead:
+            program.kill()
+        starts = [self.start() for _ in range(4)]
+        for program in starts:
+            program.process.stdin.write('host pCouleurFen "0"\nhost pStrOrchm "x"\nshow\nboxes\n')
+            program.process.stdin.flush()
+        boxes = [box for program in starts for box in json.loads(program.process.stdout.readline())]
+        told = [path for box in boxes for path in box["text"].split("\r\n")[2:]]
+        self.assertEqual(sorted(told), [f"C:\\Documents\\Secours_{name[-5:]}" for name in names])
+        self.assertEqual(len(self.documents()), len(names))
+        self.assertEqual(self.copies(), [b"z"])
+        living.kill()
+
+    def test_what_cannot_be_rescued_stays_for_another_start(self):
+        self.edit("abc").kill()
+        places = [self.root / place for place in ("c/Documents", "state/rescue")]
+
+        def obstruct():
+            for place in places:
+                shutil.rmtree(place, ignore_errors=True)
+                place.write_text("in the way")
+
+        self.assertEqual(self.found(obstruct), [])
+        self.assertEqual(self.copies(), [b"xabc"])
+        for place in places:
+            place.unlink()
+        self.assertEqual(len(self.found()), 1)
 
 
 if __name__ == "__main__":

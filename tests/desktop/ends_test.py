@@ -1,0 +1,92 @@
+#!/usr/bin/env python3
+"""Ends of the program that nobody asks the user about: the text is there at the next start.
+
+usage: ends_test.py MICROEDIT    status 77 when the desktop cannot be had
+"""
+import os
+import signal
+import sys
+import time
+
+from rig import Desktop, main
+
+MICROEDIT = os.path.abspath(sys.argv.pop(1))
+COPY_AGE = 11  # seconds
+
+
+class Ends(Desktop):
+    def setUp(self):
+        super().setUp()
+        (self.home / "Documents").mkdir()
+        self.note = self.home / "note.txt"
+        self.note.write_text("avant")
+
+    def open(self):
+        program = self.start(MICROEDIT, "--title", "Note", str(self.note))
+        return program, self.wait(lambda: self.window("Note"), "the editor")
+
+    def rescued(self):
+        return [path.read_text() for path in sorted((self.home / "Documents").iterdir())]
+
+    def starts_again(self):
+        """The box is there once, and the note's file is as it was."""
+        program, _ = self.open()
+        box = self.wait(lambda: self.window("microedit"), "the box")
+        self.assertEqual(self.rescued(), ["xavant"])
+        self.assertEqual(self.note.read_text(), "avant")
+        self.keys(box, "Return")
+        self.wait(lambda: not self.window("microedit"), "the end of the box")
+        program.kill()
+        program.wait()
+        self.open()
+        time.sleep(1)
+        self.assertIsNone(self.window("microedit"))
+        self.assertEqual(self.rescued(), ["xavant"])
+
+    def edit(self):
+        program, editor = self.open()
+        self.type(editor, "x")
+        self.keys(editor, "ctrl+f")  # comes behind the text
+        self.wait(lambda: self.window("Trouver"), "the find dialog")
+        return program
+
+    def check_signal(self, number):
+        program = self.edit()
+        program.send_signal(number)
+        self.assertEqual(program.wait(60), -number)
+        self.starts_again()
+
+    def test_a_polite_end(self):
+        self.check_signal(signal.SIGTERM)
+
+    def test_a_hang_up(self):
+        self.check_signal(signal.SIGHUP)
+
+    def test_a_signal_while_a_box_is_open(self):
+        program, editor = self.open()
+        self.type(editor, "x")
+        self.keys(editor, "alt+F4")
+        self.wait(lambda: self.window("microedit"), "the question")
+        program.terminate()
+        self.assertEqual(program.wait(60), -signal.SIGTERM)
+        self.starts_again()
+
+    def test_a_crash(self):
+        program = self.edit()
+        time.sleep(COPY_AGE)
+        program.kill()
+        program.wait()
+        self.starts_again()
+
+    def test_a_lost_display(self):
+        program = self.edit()
+        self.started[0].kill()
+        program.wait(60)
+        self.env["DISPLAY"] = self.start_server()
+        self.start("openbox")
+        self.wait(lambda: "0x" in self.run_x("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        self.starts_again()
+
+
+if __name__ == "__main__":
+    main()
