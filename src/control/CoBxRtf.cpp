@@ -88,7 +88,11 @@ CoBxRtf::CoBxRtf(Platform& platform)
 
 CoBxRtf::~CoBxRtf() {
   const auto close = [&] {
-    if (Co_Rtf* editor = parts_->editor.Loaded()) editor->Unload();
+    Co_Rtf* editor = parts_->editor.Loaded();
+    if (editor && !editor->Unload() && !editor->IsUnloading()) {
+      editor->Values().closed = true;
+      editor->Discard();
+    }
     GarderRetours(parts_->windows.Machine(), parts_->session->workLeft);
   };
   IgnoringErrors([&] { Named(u"~CoBxRtf", close); });

@@ -169,7 +169,16 @@ bool Form::Unload() {
   Raise([&] { mayGo = Form_QueryUnload(); });
   if (mayGo) Raise([this] { Form_Unload(); });
   unloading_ = false;
-  if (!mayGo) return false;
+  if (mayGo) TakeDown();
+  return mayGo;
+}
+
+void Form::Discard() {
+  const InUse use(*this);
+  TakeDown();
+}
+
+void Form::TakeDown() {
   loaded_ = false;
   visible_ = false;
   unloaded_ = true;
@@ -178,7 +187,6 @@ bool Form::Unload() {
   Form* next = windows_.Deactivate(*this);
   windows_.Leave(*this);
   if (next) next->UserActivate();
-  return true;
 }
 
 // --- events

@@ -72,6 +72,9 @@ class Form : public Element, public Container {
   /// Raises QueryUnload, which may refuse, and Unload at once, then leaves the list of windows. A
   /// form that is not loaded, or is unloading already, is left alone. False when the window stays.
   bool Unload();
+  /// Takes the window down without its events, for a keeper that goes whatever the window says. Not
+  /// while the form is unloading.
+  void Discard();
 
   /// What Return and Escape click, where the control with the keyboard has no use for them; null
   /// for none. A button that is disabled or hidden is not clicked.
@@ -151,6 +154,7 @@ class Form : public Element, public Container {
   void Enter();
   void Leave();
   void Place(Rect place);
+  void TakeDown();
   void RearmTimers();
   /// Gives the keyboard to the first control that takes it, unless one has it already.
   void FocusFirst();

@@ -175,6 +175,22 @@ TEST_F(RescueTest, AnErrorInTheClosingDecisionKeepsTheWindow) {
   EXPECT_EQ(control.pStrOrchm(), u"pas avant");
 }
 
+TEST_F(RescueTest, AControlThatGoesTakesItsWindowAlong) {
+  auto control = std::make_unique<CoBxRtf>(platform);
+  LeaveNoPlace();
+  sandbox.MakeParents(u"C:\\n\\a.txt");
+  control->pCouleurFen(u"0");
+  control->pStrOrchm(u"C:\\n\\a.txt");
+  control->ShowMicroEdit();
+  Co_Rtf& editor = control->Parts().editor.Get();
+  editor.Bar.mnuEdtTrouver.UserClick();
+  editor.Document().SelText(u"perdu");
+  Fail("write", u"\\a.txt");
+  control.reset();
+  EXPECT_EQ(Boxes(), Texts{kQuestion});
+  backend.Tick(5);
+}
+
 /// Whatever the host does while a box stands, what was typed is in its hands, on the disk or still
 /// in the window.
 TEST_F(RescueTest, NoActOfTheHostInABoxLosesText) {
