@@ -90,6 +90,7 @@ CoBxRtf::~CoBxRtf() {
   const auto close = [&] {
     Co_Rtf* editor = parts_->editor.Loaded();
     if (editor && !editor->Unload() && !editor->IsUnloading()) {
+      editor->KeepUnsaved();
       editor->Values().closed = true;
       editor->Discard();
     }
