@@ -17,10 +17,10 @@ class Boxes(Desktop):
     def open(self, note):
         self.host = Host(self, NOTES_HOST, note)
         self.host.ask("show 1")
-        self.note = self.wait(lambda: self.window("Note 1"), "the editor")
+        self.note = self.front("Note 1")
 
     def box(self, title="notes_host"):
-        return self.wait(lambda: self.window(title), "the box")
+        return self.front(title)
 
     def test_a_question_has_no_escape(self):
         (self.home / "c").mkdir()
@@ -41,7 +41,7 @@ class Boxes(Desktop):
     def test_a_box_belongs_to_the_dialog_that_asks(self):
         self.open("un\r\ndeux")
         self.mouse(self.note, FORMAT_ZONE, "click 1")
-        dialog = self.wait(lambda: self.window("Format Paragraphe"), "the dialog")
+        dialog = self.front("Format Paragraphe")
         self.host.waits_for("selected 1", "un")
         for entry, title in (("Home", "notes_host"), ("End", "Attention")):
             with self.subTest(title):

@@ -20,9 +20,9 @@ class Combos(Desktop):
         super().setUp()
         self.host = Host(self, NOTES_HOST, r"{\rtf1{\fonttbl{\f0 Arial;}}\f0\fs24 un\par deux\par}")
         self.host.ask("show 1")
-        self.note = self.wait(lambda: self.window("Note 1"), "the editor")
+        self.note = self.front("Note 1")
         self.mouse(self.note, FORMAT_ZONE, "click 1")
-        self.dialog = self.wait(lambda: self.window("Format Paragraphe"), "the dialog")
+        self.dialog = self.front("Format Paragraphe")
         self.host.waits_for("selected 1", "un")
 
     def click(self, *points):
@@ -41,8 +41,9 @@ class Combos(Desktop):
         left = self.format_after(LEFT, lambda source: "\\qc" not in source)
         self.click(APPLY, SAVE, APPLY, LEFT_INDENT, SAVE)
         self.keys(self.dialog, "Return", "Tab", "Tab")
-        for combo in (APPLY, SAVE):
+        for combo, name in ((APPLY, "cboSetStyleReg"), (SAVE, "CboSaveStyleReg")):
             self.click(combo)
+            self.host.waits_for("focus 1", name)
             self.run_x("xdotool", "key", "ctrl+a")
             self.type(self.dialog, "Para 2")
             self.keys(self.dialog, "Return", "Tab")
@@ -59,6 +60,7 @@ class Combos(Desktop):
         self.run_x("xdotool", "windowactivate", "--sync", self.dialog)
         if keys:
             self.click(APPLY)
+            self.host.waits_for("focus 1", "cboSetStyleReg")  # a key may overtake a click
             self.run_x("xdotool", "key", *keys)
         else:
             self.click(APPLY_ARROW)

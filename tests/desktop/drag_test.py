@@ -19,7 +19,7 @@ class Drag(Desktop):
         super().setUp()
         self.host = Host(self, NOTES_HOST, TEXT, "autre")
         self.host.ask("show 1")
-        self.note = self.wait(lambda: self.window("Note 1"), "the editor")
+        self.note = self.front("Note 1")
         self.keys(self.note, "ctrl+Home", "shift+Right", "shift+Right")
         self.host.waits_for("selected 1", "un")
 
@@ -86,7 +86,7 @@ class Drag(Desktop):
 
     def test_a_move_to_another_note(self):
         self.host.ask("show 2")
-        other = self.wait(lambda: self.window("Note 2"), "the other editor")
+        other = self.front("Note 2")
         self.run_x("xdotool", "windowmove", "--sync", other, "800", "500")
         self.keys(self.note, "shift")
         self.drag_to(other, 38, self.shows_the_drag)

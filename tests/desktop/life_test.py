@@ -19,7 +19,8 @@ class Life(Desktop):
         self.host = Host(self, NOTES_HOST, *notes)
         for number in range(1, len(notes) + 1):
             self.host.ask(f"show {number}")
-        self.note = self.wait(lambda: self.window("Note 1"), "the editor")
+        self.front(f"Note {len(notes)}")
+        self.note = self.window("Note 1")
 
     def test_quitting_closes_every_editor(self):
         self.show("un", "deux")
@@ -39,7 +40,7 @@ class Life(Desktop):
         self.type(self.note, "x")
         self.host.waits_for("text 1", "xun")
         self.host.tell("read 1")
-        box = self.wait(lambda: self.window("notes_host"), "the question")
+        box = self.front("notes_host")
         self.host.ask("quit")
         self.keys(box, "Return")
         self.assertEqual(self.host.process.wait(timeout=60), 0)
@@ -52,7 +53,7 @@ class Life(Desktop):
         self.host.waits_for("text 2", "xdeux")
         self.host.tell("quit")
         for left in (1, 0):
-            box = self.wait(lambda: self.window("notes_host"), "the question")
+            box = self.front("notes_host")
             self.keys(box, "Return")
             self.wait(lambda: sum("Note" in title for title in self.titles()) <= left, "the closing")
         self.assertEqual(self.host.process.wait(timeout=60), 0)
@@ -64,15 +65,15 @@ class Life(Desktop):
         for number, text in ((1, "xun"), (2, "xdeux")):
             self.host.waits_for(f"text {number}", text)
             self.host.tell(f"read {number}")
-            self.keys(self.wait(lambda: self.window("notes_host"), "the question"), "Return")
+            self.keys(self.front("notes_host"), "Return")
             self.wait(lambda: self.host.lines()[-1] == text, "the note")
 
     def test_windows_that_change_quickly_are_all_activated(self):
         self.show("un deux\r\ntrois quatre")
         self.mouse(self.note, FORMAT_ZONE, "click 1")
-        dialog = self.wait(lambda: self.window("Format Paragraphe"), "the paragraph dialog")
+        dialog = self.front("Format Paragraphe")
         self.keys(self.note, "ctrl+f")
-        self.wait(lambda: self.window("Trouver"), "the find dialog")
+        self.front("Trouver")
         for _ in range(5):
             self.mouse(self.note, END_OF_FIRST_LINE, "click 1")
             self.host.waits_for("selected 1", "")

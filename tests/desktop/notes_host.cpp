@@ -78,8 +78,13 @@ class Host {
     if (verb == "write") control.pStrOrchm(FromUtf8(rest));
     if (verb == "read") return OnOneLine(control.pStrOrchm());
     Co_Rtf* editor = control.Parts().editor.Loaded();
+    if (verb == "focus") return Focus(control.Parts().windows.Active());
     if (verb == "ontop") return control.Parts().session->onTop ? "yes" : "no";
     return editor ? Answer(verb, editor->Document()) : "ok";
+  }
+
+  static std::string Focus(const Form* active) {
+    return active && active->ActiveControl() ? active->ActiveControl()->Name() : "nobody";
   }
 
   static std::string Answer(const std::string& verb, const RichTextSurface& surface) {

@@ -16,7 +16,7 @@ class Order(Desktop):
         super().setUp()
         self.host = Host(self, NOTES_HOST, "un")
         self.host.ask("show 1")
-        self.note = self.wait(lambda: self.window("Note 1"), "the editor")
+        self.note = self.front("Note 1")
 
     def context_menu(self):
         self.mouse(self.note, (150, 150), "click 3")

@@ -164,6 +164,11 @@ class Desktop(unittest.TestCase):
         """The title of the window that has the keyboard."""
         return self.title_of(hex(int(self.run_x("xdotool", "getactivewindow") or 0)))
 
+    def front(self, part):
+        """The number of the window with `part` in its title, once it has the keyboard."""
+        self.wait(lambda: part in (self.active() or ""), f"{part!r} in front")
+        return self.window(part)
+
     def mouse(self, window, *actions):
         """Runs xdotool's mouse actions; a pair of numbers moves to a point in the window."""
         command = ["xdotool"]
