@@ -96,6 +96,10 @@ std::int16_t ToInt16(double value) { return RoundedTo<std::int16_t>(value); }
 
 std::int32_t ToInt32(double value) { return RoundedTo<std::int32_t>(value); }
 
+std::int32_t Sum32(std::int32_t one, std::int32_t other) {
+  return ToInt32(static_cast<double>(one) + other);
+}
+
 double ParseDecimal(std::string_view numeral) {
   const std::size_t first = numeral.starts_with('-') ? 1 : 0;
   // Names of infinity and of no number are none of ours.

@@ -12,6 +12,8 @@ std::int16_t ToInt16(std::int64_t value);
 std::int16_t ToInt16(double value);
 /// Checked conversion to 32 signed bits, halves rounded to even; raises Overflow.
 std::int32_t ToInt32(double value);
+/// The sum in 32 signed bits; raises Overflow.
+std::int32_t Sum32(std::int32_t one, std::int32_t other);
 
 /// The double nearest to `numeral` (ASCII: a minus, digits, a point, an exponent after e); zero
 /// when it is too small to be told from zero. Raises TypeMismatch or Overflow.

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/Numbers.h"
+#include "base/RuntimeError.h"
 #include "control/Session.h"
 #include "editor/EditorWindow.h"
 #include "format/FontCommand.h"
@@ -26,8 +27,13 @@ constexpr int kAlignments[] = {0, 2, 1};
 constexpr int kSpacings[] = {20, 25, 30, 40};
 constexpr std::u16string_view kSpacingTexts[] = {u"1,00", u"1,25", u"1,50", u"2,00"};
 
-/// +1 for the upper arrow, -1 for the lower one, 0 at rest.
-int ArrowOf(const UpDown& spinner) { return spinner.Value() - kAtRest; }
+/// +1 for the upper arrow, -1 for the lower one, 0 at rest. The spinner rests again, whatever
+/// becomes of the step.
+int TakeArrow(UpDown& spinner) {
+  const int arrow = spinner.Value() - kAtRest;
+  spinner.Value(kAtRest);
+  return arrow;
+}
 
 class Flag {
  public:
@@ -145,7 +151,7 @@ void Co_Paragraph::RefreshParaIndent() {
   style.LeftIndent = Surface().SelIndent().value_or(style.LeftIndent);
   style.RightIndent = Surface().SelRightIndent().value_or(style.RightIndent);
   style.HangingIndent = Surface().SelHangingIndent().value_or(style.HangingIndent);
-  style.LeftFront = ToInt32(double{style.LeftIndent + double(style.HangingIndent)});
+  IgnoringErrors([&] { style.LeftFront = Sum32(style.LeftIndent, style.HangingIndent); });
   Bx_IndentGauche.Text(MillimetresText(style.LeftIndent));
   Bx_IndentDroite.Text(MillimetresText(style.RightIndent));
   Bx_HangingIndent.Text(MillimetresText(style.HangingIndent));
@@ -161,7 +167,7 @@ void Co_Paragraph::RefreshParaEspace() {
 
 void Co_Paragraph::RefreshParaMrgDte() {
   const Flag refreshing(refreshing_);
-  StyleRightMargin = ToInt32(double{Surface().RightMargin()});
+  IgnoringErrors([&] { StyleRightMargin = ToInt32(double{Surface().RightMargin()}); });
   Bx_RightMargin.Text(WholeMillimetresText(StyleRightMargin));
 }
 
@@ -251,20 +257,19 @@ void Co_Paragraph::Bx_Font_MouseUp() {
 // --- spinners
 
 void Co_Paragraph::UD_LeftIndent_Change() {
-  const int arrow = ArrowOf(UD_LeftIndent);
+  const int arrow = TakeArrow(UD_LeftIndent);
   if (arrow == 0) return;
   const int indent =
       CorrValIndent(Surface().SelIndent().value_or(CurrentStyle.LeftIndent), kIndentStep);
   if (arrow > 0)
-    Surface().SelIndent(indent + kIndentStep);
+    Surface().SelIndent(Sum32(indent, kIndentStep));
   else
     Surface().SelIndent(indent < kIndentStep ? 0 : indent - kIndentStep);
-  UD_LeftIndent.Value(kAtRest);
   RefreshParaIndent();
 }
 
 void Co_Paragraph::UD_RightIndent_Change() {
-  const int arrow = ArrowOf(UD_RightIndent);
+  const int arrow = TakeArrow(UD_RightIndent);
   if (arrow == 0) return;
   const int indent =
       CorrValIndent(Surface().SelRightIndent().value_or(CurrentStyle.RightIndent), kIndentStep);
@@ -272,43 +277,38 @@ void Co_Paragraph::UD_RightIndent_Change() {
   if (arrow > 0)
     Surface().SelRightIndent(indent < kIndentStep ? 0 : indent - kIndentStep);
   else
-    Surface().SelRightIndent(std::min(indent + kIndentStep, width));
-  UD_RightIndent.Value(kAtRest);
+    Surface().SelRightIndent(indent > width - kIndentStep ? width : indent + kIndentStep);
   RefreshParaIndent();
 }
 
 void Co_Paragraph::UD_HangingIndent_Change() {
-  const int arrow = ArrowOf(UD_HangingIndent);
+  const int arrow = TakeArrow(UD_HangingIndent);
   if (arrow == 0) return;
   const int indent =
       CorrValIndent(Surface().SelHangingIndent().value_or(CurrentStyle.HangingIndent), kIndentStep);
-  Surface().SelHangingIndent(indent + arrow * kIndentStep);
-  UD_HangingIndent.Value(kAtRest);
+  Surface().SelHangingIndent(Sum32(indent, arrow * kIndentStep));
   RefreshParaIndent();
 }
 
 void Co_Paragraph::UD_SpaceBefore_Change() {
-  const int arrow = ArrowOf(UD_SpaceBefore);
+  const int arrow = TakeArrow(UD_SpaceBefore);
   if (arrow == 0) return;
-  SetSpaceBefore(Surface(), SpaceBefore(Surface()) + arrow * kSpaceStep);
-  UD_SpaceBefore.Value(kAtRest);
+  SetSpaceBefore(Surface(), Sum32(SpaceBefore(Surface()), arrow * kSpaceStep));
   RefreshParaEspace();
 }
 
 void Co_Paragraph::UD_SpaceAfter_Change() {
-  const int arrow = ArrowOf(UD_SpaceAfter);
+  const int arrow = TakeArrow(UD_SpaceAfter);
   if (arrow == 0) return;
-  SetSpaceAfter(Surface(), SpaceAfter(Surface()) + arrow * kSpaceStep);
-  UD_SpaceAfter.Value(kAtRest);
+  SetSpaceAfter(Surface(), Sum32(SpaceAfter(Surface()), arrow * kSpaceStep));
   RefreshParaEspace();
 }
 
 void Co_Paragraph::UD_RightMargin_Change() {
-  const int arrow = ArrowOf(UD_RightMargin);
+  const int arrow = TakeArrow(UD_RightMargin);
   if (arrow == 0) return;
   const int margin = CorrValIndent(ToInt32(double{Surface().RightMargin()}), kIndentStep);
-  Surface().RightMargin(static_cast<float>(std::max(0, margin + arrow * kIndentStep)));
-  UD_RightMargin.Value(kAtRest);
+  Surface().RightMargin(static_cast<float>(std::max(0, Sum32(margin, arrow * kIndentStep))));
   RefreshParaMrgDte();
 }
 

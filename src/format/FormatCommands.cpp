@@ -1,5 +1,7 @@
 #include "format/FormatCommands.h"
 
+#include "base/Numbers.h"
+
 namespace lumenote {
 
 void BasculerGras(RichTextSurface& surface) { surface.SelBold(surface.SelBold() != true); }
@@ -33,7 +35,7 @@ void BasculerPuces(RichTextSurface& surface) {
 }
 
 void DécalerRetrait(RichTextSurface& surface, int twips) {
-  if (const auto indent = surface.SelIndent()) surface.SelIndent(*indent + twips);
+  if (const auto indent = surface.SelIndent()) surface.SelIndent(Sum32(*indent, twips));
 }
 
 }  // namespace lumenote

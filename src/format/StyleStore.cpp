@@ -77,16 +77,16 @@ void LoadStyle(const Settings& settings, std::u16string_view application,
 void ApplyStyleRecord(RichTextSurface& surface, StyleRecord& style) {
   const EditGroup group(surface);
   SetLineSpacing(surface, style.LineSpacing);
-  surface.SelAlignment(style.Alignment);
+  IgnoringErrors([&] { surface.SelAlignment(style.Alignment); });
   surface.SelIndent(style.LeftIndent);
   surface.SelRightIndent(style.RightIndent);
   surface.SelHangingIndent(style.HangingIndent);
-  style.LeftFront = ToInt32(double{static_cast<double>(style.LeftIndent)} + style.HangingIndent);
+  IgnoringErrors([&] { style.LeftFront = Sum32(style.LeftIndent, style.HangingIndent); });
   SetSpaceBefore(surface, style.SpaceBefore);
   SetSpaceAfter(surface, style.SpaceAfter);
-  surface.RightMargin(static_cast<float>(StyleRightMargin));
+  IgnoringErrors([&] { surface.RightMargin(static_cast<float>(StyleRightMargin)); });
   surface.SelFontName(style.FontName);
-  surface.SelFontSize(ParseSingle(style.FontSize));
+  IgnoringErrors([&] { surface.SelFontSize(ParseSingle(style.FontSize)); });
 }
 
 }  // namespace lumenote

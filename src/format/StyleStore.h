@@ -42,7 +42,8 @@ void SaveStyle(Settings& settings, std::u16string_view application, std::u16stri
 /// path counts by its base name. The first value that is no number ends the loading.
 void LoadStyle(const Settings& settings, std::u16string_view application,
                std::u16string_view section, StyleRecord& style);
-/// Gives the selection the format of the record, and the surface its right margin.
+/// Gives the selection the format of the record, and the surface its right margin. A value that
+/// cannot be is passed over.
 void ApplyStyleRecord(RichTextSurface& surface, StyleRecord& style);
 
 }  // namespace lumenote
