@@ -187,6 +187,10 @@ std::uint64_t HashOf(const KeptHead& head);
 /// fragment or an undo step may keep them as long as the document lives.
 struct FormatTables {
   FormatTables();
+  /// A serial for what is kept. They come round again, so that hostile sources do not fill the
+  /// tables with the same again and again; by then what has the same serial is far away.
+  std::uint32_t NextSerial() { return serials++ % 16384; }
+
   InternTable<FontFace> fonts;
   InternTable<CharFormat> characters;
   InternTable<ParaFormat> paragraphs;
@@ -195,6 +199,7 @@ struct FormatTables {
   InternTable<KeptField> fields;
   InternTable<KeptWords> words;
   InternTable<KeptHead> heads;
+  std::uint32_t serials = 0;
 };
 
 }  // namespace lumenote

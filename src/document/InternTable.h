@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <deque>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace lumenote {
@@ -28,28 +30,31 @@ requires std::has_unique_object_representations_v<T> std::uint64_t HashOf(const 
   return HashBytes(&value, sizeof value);
 }
 
-/// Open-addressing hash table over a vector of values; at most half of the slots are taken. A full
-/// table (`kMost` values) answers number 0, the default, for what it does not know, so hostile
-/// input stays bounded. A reference to a value lasts until the next `Intern`.
+/// Open-addressing hash table over values that stay where they are; at most three quarters of the
+/// slots are taken. A full table (`kMost` values) answers number 0, the default, for what it does
+/// not know, so hostile input stays bounded.
 template <class T>
 class InternTable {
  public:
   static constexpr std::uint32_t kMost = (1u << 20) - 1;
 
   /// The number of `value`, a new one when it was not known.
-  std::uint32_t Intern(const T& value) {
-    if (slots_.size() <= 2 * values_.size()) Grow();
-    std::uint32_t& slot = SlotOf(value);
-    if (slot != 0) return slot - 1;
-    if (values_.size() == kMost) return 0;
-    values_.push_back(value);
-    slot = Size();
-    return slot - 1;
-  }
+  std::uint32_t Intern(const T& value) { return Add(value); }
+  std::uint32_t Intern(T&& value) { return Add(std::move(value)); }
   const T& operator[](std::uint32_t number) const { return values_[number]; }
   std::uint32_t Size() const { return static_cast<std::uint32_t>(values_.size()); }
 
  private:
+  template <class Value>
+  std::uint32_t Add(Value&& value) {
+    if (3 * slots_.size() <= 4 * values_.size()) Grow();
+    std::uint32_t& slot = SlotOf(value);
+    if (slot != 0) return slot - 1;
+    if (values_.size() == kMost) return 0;
+    values_.push_back(std::forward<Value>(value));
+    slot = Size();
+    return slot - 1;
+  }
   /// The slot that holds the value's number plus one, or the free one (0) where it belongs.
   std::uint32_t& SlotOf(const T& value) {
     const std::size_t last = slots_.size() - 1;
@@ -58,11 +63,11 @@ class InternTable {
     return slots_[i];
   }
   void Grow() {
-    slots_.assign(slots_.empty() ? 16 : 2 * slots_.size(), 0);
+    slots_ = std::vector<std::uint32_t>(slots_.empty() ? 16 : 2 * slots_.size());
     for (std::uint32_t number = 0; number < Size(); ++number) SlotOf(values_[number]) = number + 1;
   }
 
-  std::vector<T> values_;
+  std::deque<T> values_;
   std::vector<std::uint32_t> slots_;  // a power of two of them
 };
 

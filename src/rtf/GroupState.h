@@ -31,16 +31,16 @@ struct ParagraphState {
   ParaFormat Resolved() const;
 };
 
-struct Style;
+struct StyleFormats;
 
 struct GroupState {
   static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
 
   CharFormat character;
   ParagraphState paragraph;
-  CodePage page;                 // of text bytes
-  int fallback = 1;              // \uc: characters that follow a \u for readers without Unicode
-  const Style* style = nullptr;  // of the paragraph
+  CodePage page;     // of text bytes
+  int fallback = 1;  // \uc: characters that follow a \u for readers without Unicode
+  const StyleFormats* style = nullptr;  // of the paragraph
 
   FieldId field = 0;               // the innermost one, 0 none
   KeptId inField = 0;              // what is kept with a character in that field

@@ -16,6 +16,9 @@ bool IsEscapedByte(const Token& token) {
   return token.kind == Token::Kind::Symbol && (byte == '\\' || byte == '{' || byte == '}');
 }
 
+constexpr std::size_t kBytesOfTab = 4;  // of a \tx with its number, at least
+constexpr std::size_t kLeastTabs = 4096;
+
 std::size_t CharacterLength(std::u16string_view text) {
   return text.size() > 1 && IsHighSurrogate(text.front()) ? 2
                                                           : std::min<std::size_t>(text.size(), 1);
@@ -49,6 +52,7 @@ Interpreter::Interpreter(std::string_view source, RtfTarget target, FormatTables
       formats_(formats),
       groups_(1),
       default_(base),
+      tabsLeft_(source.size() / kBytesOfTab + kLeastTabs),
       keeper_(formats, source.size()) {
   State().character = base;
   groups_.resize(groups_.size() + opened, groups_.front());
@@ -307,11 +311,20 @@ ParaId Interpreter::ParagraphNumber() {
       format.list = static_cast<std::uint16_t>(std::min(state.paragraph.list, 0xFFFE) + 1);
       format.level = static_cast<std::uint8_t>(std::clamp(state.paragraph.level, 0, 0xFF));
     }
-    if (state.paragraph.tabs) format.tabs = formats_.tabs.Intern(*state.paragraph.tabs);
+    if (state.paragraph.tabs) format.tabs = TabsNumber(*state.paragraph.tabs);
     state.paragraphId = formats_.paragraphs.Intern(format);
     state.paragraphKnown = true;
   }
   return state.paragraphId;
+}
+
+/// Groups bring long lists back at no cost to the source, so their sum is bounded.
+TabsId Interpreter::TabsNumber(const TabStops& stops) {
+  if (stops.size() > tabsLeft_) return 0;
+  const std::uint32_t known = formats_.tabs.Size();
+  const TabsId number = formats_.tabs.Intern(stops);
+  if (formats_.tabs.Size() != known) tabsLeft_ -= stops.size();
+  return number;
 }
 
 bool Interpreter::HasBullet() const {

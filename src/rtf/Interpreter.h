@@ -142,9 +142,9 @@ class Interpreter {
   bool HasBullet() const;
   /// What \plain gives where no style says otherwise.
   CharFormat PlainFormat() const;
-  const Style* ResolvedStyle(StyleSheet::Kind kind, int number);
-  void ResolveStyle(const Style* base, Style& style);
-  void ApplyCharacterStyle(const Style& style);
+  const StyleFormats* FormatsOf(StyleSheet::Kind kind, int number);
+  void ResolveStyle(const StyleFormats* base, Style& style);
+  void ApplyCharacterStyle(const StyleFormats& style);
 
   GroupState& State() { return groups_.back(); }
   const GroupState& State() const { return groups_.back(); }
@@ -154,6 +154,7 @@ class Interpreter {
   ParagraphState& EditParagraph();
   CharId CharacterNumber();
   ParaId ParagraphNumber();
+  TabsId TabsNumber(const TabStops& stops);
 
   Tokenizer tokens_;
   RtfTarget target_;
@@ -171,6 +172,8 @@ class Interpreter {
   int defaultFont_ = -1;  // \deff
   int documentPage_ = kPageOfWindows;
   bool appliesStyles_ = true;
+
+  std::size_t tabsLeft_;  // stops that paragraph formats may still have
 
   Keeper keeper_;
   std::string row_;       // the definition of the row at hand, if it came ahead of the cells

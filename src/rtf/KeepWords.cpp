@@ -73,9 +73,11 @@ void Interpreter::KeepInHead(const std::string& source) {
 
 /// The group from the word at `from` on, which opens it, to where the reader stands.
 std::string Interpreter::GroupSource(std::size_t from) {
-  const KeptSource kept(tokens_.Source(from, tokens_.At()), State().fallback);
+  KeptSource kept(tokens_.Source(from, tokens_.At()), State().fallback);
   keeper_.NeedTablesIf(kept.needsHead);
-  return (wasStarred_ ? "{\\*" : "{") + kept.Closed() + "}";
+  std::string source = std::move(kept).Closed();
+  source.insert(0, wasStarred_ ? "{\\*" : "{");
+  return source += '}';
 }
 
 /// What stands for itself in the text.
@@ -146,8 +148,8 @@ void Interpreter::FieldResult(int, const Token&) {
 void Interpreter::EnterField(KeptField field) {
   GroupState& state = State();
   field.outer = state.field;
-  field.serial = formats_.fields.Size();
-  state.field = formats_.fields.Intern(field);
+  field.serial = formats_.NextSerial();
+  state.field = formats_.fields.Intern(std::move(field));
   state.inField = formats_.kept.Intern({.field = state.field});
   state.characterKnown = false;
 }
@@ -156,11 +158,11 @@ void Interpreter::EnterField(KeptField field) {
 void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
   if (laid_ != group.laidBefore) return;
-  const KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
-                          KeptSource::Piece::Field);
+  KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
+                    KeptSource::Piece::Field);
   keeper_.NeedTablesIf(source.needsHead);
   keeper_.TakeSince(group.keptBefore);
-  keeper_.Keep("{" + source.Closed() + "}");
+  keeper_.Keep("{" + std::move(source).Closed() + "}");
 }
 
 bool Interpreter::IsNumbered() const {
@@ -216,7 +218,7 @@ HeadId Interpreter::Head() {
     head_ = {.source = std::move(head_.source)};
   }
   head_.tail = keeper_.Take();
-  return formats_.heads.Intern(head_);
+  return formats_.heads.Intern(std::move(head_));
 }
 
 }  // namespace lumenote

@@ -59,8 +59,8 @@ std::string Keeper::Take() {
 }
 
 KeptId Keeper::KeptNumber(Kept kept) {
-  if (!kept.before.empty()) kept.serial = formats_.kept.Size();
-  return formats_.kept.Intern(kept);
+  if (!kept.before.empty()) kept.serial = formats_.NextSerial();
+  return formats_.kept.Intern(std::move(kept));
 }
 
 }  // namespace lumenote

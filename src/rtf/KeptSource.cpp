@@ -1,5 +1,7 @@
 #include "rtf/KeptSource.h"
 
+#include <algorithm>
+
 #include "rtf/KeptWords.h"
 #include "rtf/Keywords.h"
 
@@ -56,6 +58,9 @@ bool TellsOfField(const Token& word) {
 }  // namespace
 
 KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
+  constexpr std::size_t kEscaped = 3;  // bytes more than one has as itself
+  const auto bare = std::ranges::count_if(source, [](char c) { return c < ' ' || c > '~'; });
+  text.reserve(source.size() + kEscaped * static_cast<std::size_t>(bare) + kEscaped);
   Tokenizer tokens(source);
   HiddenGroup hidden(piece == Piece::Hidden);
   std::size_t end = 0;

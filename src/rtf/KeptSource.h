@@ -21,7 +21,7 @@ struct KeptSource {
   /// `fallback` is the number of characters behind a \u in force where the source stands (\uc).
   KeptSource(std::string_view source, int fallback, Piece piece = Piece::Hidden);
   /// The same with the missing closing braces.
-  std::string Closed() const { return text + std::string(open, '}'); }
+  std::string Closed() && { return std::move(text.append(open, '}')); }
 
  private:
   void Append(const Token& token, std::string_view source);

@@ -1,6 +1,8 @@
 // Reading \stylesheet, and laying a style over a format.
 #include "rtf/StyleSheet.h"
 
+#include <utility>
+
 namespace lumenote {
 namespace {
 
@@ -40,7 +42,7 @@ void StyleSheet::Add(std::string_view source) {
     if (token.text == "s" || token.text == "cs") number = token.number;
   }
   if (whole) style.base = -1;
-  (*kind)[number] = style;
+  (*kind)[number] = std::move(style);
 }
 
 Style* StyleSheet::Find(Kind kind, int number) {

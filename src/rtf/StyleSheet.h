@@ -1,5 +1,6 @@
 // The paragraph and character styles of an RTF source by their numbers.
 #pragma once
+#include <memory>
 #include <string_view>
 #include <unordered_map>
 
@@ -8,13 +9,17 @@
 
 namespace lumenote {
 
-struct Style {
-  std::string_view source;  // of its group
-  int base = -1;            // \sbasedon
-  bool resolved = false;    // the members below say what the style and its bases give
+/// What a style and its bases give.
+struct StyleFormats {
   CharFormat character;
   ParagraphState paragraph;
   CodePage page;
+};
+
+struct Style {
+  std::string_view source;                  // of its group
+  int base = -1;                            // \sbasedon
+  std::unique_ptr<StyleFormats> formats{};  // null until the style is used
 };
 
 class StyleSheet {

@@ -16,7 +16,7 @@ void Interpreter::ParagraphStyle(int, const Token& word) {
   BeginBody();
   if (target_ == RtfTarget::Document)
     EditParagraph().words = keeper_.With(word, State().paragraph.words);
-  const Style* style = ResolvedStyle(StyleSheet::Kind::Paragraph, word.number);
+  const StyleFormats* style = FormatsOf(StyleSheet::Kind::Paragraph, word.number);
   State().style = style;
   if (!style) return;
   ApplyStyle(style->paragraph, EditParagraph());
@@ -26,35 +26,35 @@ void Interpreter::ParagraphStyle(int, const Token& word) {
 void Interpreter::CharacterStyle(int, const Token& word) {
   if (target_ == RtfTarget::Document)
     EditCharacter().words = keeper_.With(word, State().character.words);
-  const Style* style = ResolvedStyle(StyleSheet::Kind::Character, word.number);
+  const StyleFormats* style = FormatsOf(StyleSheet::Kind::Character, word.number);
   if (style) ApplyCharacterStyle(*style);
 }
 
-void Interpreter::ApplyCharacterStyle(const Style& style) {
+void Interpreter::ApplyCharacterStyle(const StyleFormats& style) {
   if (style.character.font != default_.font) State().page = style.page;
   ApplyStyle(style.character, PlainFormat(), EditCharacter());
 }
 
 /// A style is read once, behind those it is based on.
-const Style* Interpreter::ResolvedStyle(StyleSheet::Kind kind, int number) {
+const StyleFormats* Interpreter::FormatsOf(StyleSheet::Kind kind, int number) {
   if (!appliesStyles_) return nullptr;
   constexpr std::size_t kMostBases = 16;
   std::vector<Style*> line;
   Style* style = styles_.Find(kind, number);
-  while (style && !style->resolved && line.size() < kMostBases) {
+  while (style && !style->formats && line.size() < kMostBases) {
     line.push_back(style);
     style = styles_.Find(kind, style->base);
   }
-  const Style* base = style && style->resolved ? style : nullptr;
+  const StyleFormats* base = style ? style->formats.get() : nullptr;
   for (; !line.empty(); line.pop_back()) {
-    if (!line.back()->resolved) ResolveStyle(base, *line.back());
-    base = line.back();
+    if (!line.back()->formats) ResolveStyle(base, *line.back());
+    base = line.back()->formats.get();
   }
   return base;
 }
 
 /// Reads the words of the style on top of its base, in a group of its own.
-void Interpreter::ResolveStyle(const Style* base, Style& style) {
+void Interpreter::ResolveStyle(const StyleFormats* base, Style& style) {
   GroupState state;
   state.character = base ? base->character : PlainFormat();
   if (base) state.paragraph = base->paragraph;
@@ -66,10 +66,8 @@ void Interpreter::ResolveStyle(const Style* base, Style& style) {
     const Keyword* keyword = FindKeyword(token.text);
     if (keyword && keyword->formats) (this->*keyword->handler)(keyword->value, token);
   }
-  style.character = State().character;
-  style.paragraph = State().paragraph;
-  style.page = State().page;
-  style.resolved = true;
+  style.formats = std::make_unique<StyleFormats>(
+      StyleFormats{State().character, State().paragraph, State().page});
   groups_.pop_back();
 }
 

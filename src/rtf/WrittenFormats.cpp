@@ -54,7 +54,8 @@ void WriteFontName(const FontFace& face, Output& out) {
 }  // namespace
 
 WrittenFormats::WrittenFormats(const FormatTables& tables, HeadId id)
-    : tables_(tables), written_(tables.characters.Size()), head_(id) {
+    : tables_(tables), numbers_(tables.characters.Size()), head_(id) {
+  written_.Intern({});
   const KeptHead& head = Head();
   for (const KeptHead::Font& font : head.fonts) {
     const std::uint32_t known = faces_.Size();

@@ -37,13 +37,14 @@ class WrittenFormats {
 
   /// Takes in a format that the text uses.
   void Use(CharId format) {
-    if (written_[format].font < 0) written_[format] = Written(tables_.characters[format]);
+    if (numbers_[format] == 0)
+      numbers_[format] = written_.Intern(Written(tables_.characters[format]));
   }
   /// Takes in the font of bullets.
   void UseBullets();
 
   /// A format that was taken in.
-  const WrittenFormat& operator[](CharId format) const { return written_[format]; }
+  const WrittenFormat& operator[](CharId format) const { return written_[numbers_[format]]; }
   int BulletFont() const { return bulletFont_; }
   bool HasStyles() const { return Head().tables; }
 
@@ -58,7 +59,8 @@ class WrittenFormats {
   int ColourNumber(Colour colour);
 
   const FormatTables& tables_;
-  std::vector<WrittenFormat> written_;  // by CharId; font -1 where not used
+  InternTable<WrittenFormat> written_;  // number 0: nothing told
+  std::vector<std::uint32_t> numbers_;  // in it, by CharId
   HeadId head_;
   struct Font {
     int number;
