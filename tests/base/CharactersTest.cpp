@@ -11,13 +11,11 @@ struct CasePair {
   std::u16string_view capital;
 };
 
-constexpr CasePair kPairs[] = {
-    {u"abcz", u"ABCZ"},           {u"éèàçùâêîôûëïü", u"ÉÈÀÇÙÂÊÎÔÛËÏÜ"},
-    {u"œæÿøþð", u"ŒÆŸØÞÐ"},       {u"łśżąčřžőűğşțđ", u"ŁŚŻĄČŘŽŐŰĞŞȚĐ"},
-    {u"ơưǎǜɓə", u"ƠƯǍǛƁƏ"},       {u"αβγωάέήίόύώϊ", u"ΑΒΓΩΆΈΉΊΌΎΏΪ"},
-    {u"абвяёђџѣґ", u"АБВЯЁЂЏѢҐ"}, {u"ạằẽỗỵḁẕ", u"ẠẰẼỖỴḀẔ"},
-    {u"ἀὥᾳὰῶ", u"ἈὭᾼᾺῶ"},
-};
+constexpr CasePair kPairs[] = {{u"abcz", u"ABCZ"},           {u"éèàçùâêîôûëïü", u"ÉÈÀÇÙÂÊÎÔÛËÏÜ"},
+                               {u"œæÿøþð", u"ŒÆŸØÞÐ"},       {u"łśżąčřžőűğşțđ", u"ŁŚŻĄČŘŽŐŰĞŞȚĐ"},
+                               {u"ơưǎǜɓə", u"ƠƯǍǛƁƏ"},       {u"αβγωάέήίόύώϊ", u"ΑΒΓΩΆΈΉΊΌΎΏΪ"},
+                               {u"абвяёђџѣґ", u"АБВЯЁЂЏѢҐ"}, {u"ạằẽỗỵḁẕ", u"ẠẰẼỖỴḀẔ"},
+                               {u"ἀὥᾳὰῶ", u"ἈὭᾼᾺῶ"}};
 
 TEST(Characters, CasesMapBothWays) {
   for (const CasePair& pair : kPairs) {
@@ -47,11 +45,9 @@ TEST(Characters, Kinds) {
   const struct {
     std::u16string_view characters;
     bool letters, word;
-  } kCases[] = {
-      {u"azAZéŒßªµżΩяאعक中ハ가\xD83D\xDE00", true, true},
-      {u"09_\u0301\u05B0\u0663\u094D", false, true},
-      {u" \t\r\n.,;'’«»-–×÷²\u00A0\u2028€\uFFFC@[`{/:^", false, false},
-  };
+  } kCases[] = {{u"azAZéŒßªµżΩяאعक中ハ가\xD83D\xDE00", true, true},
+                {u"09_\u0301\u05B0\u0663\u094D", false, true},
+                {u" \t\r\n.,;'’«»-–×÷²\u00A0\u2028€\uFFFC@[`{/:^", false, false}};
   for (const auto& kind : kCases) {
     for (const char16_t c : kind.characters) {
       EXPECT_EQ(IsLetter(c), kind.letters) << static_cast<int>(c);

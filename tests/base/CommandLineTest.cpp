@@ -25,19 +25,17 @@ TEST(CommandLine, IsReadOrRefused) {
   const struct {
     std::vector<std::string_view> arguments;
     const char* expected;
-  } cases[] = {
-      {{}, "title=none"},
-      {{"--title", "Été", "a.rtf"}, "title=Été [a.rtf]"},
-      {{"--title=a=b", "--readonly", "-"}, "title=a=b readonly [-]"},
-      {{"--title", "--readonly", "x"}, "title=--readonly [x]"},
-      {{"--title=1", "--title=2"}, "title=2"},
-      {{"--", "--title", "--"}, "title=none [--title] [--]"},
-      {{"", "-o", ""}, "title=none []"},
-      {{"--title"}, "valeur manquante : --title"},
-      {{"--readonly=yes"}, "valeur inattendue : --readonly=yes"},
-      {{"--titre", "x"}, "option inconnue : --titre"},
-      {{"-x=1"}, "option inconnue : -x"},
-  };
+  } cases[] = {{{}, "title=none"},
+               {{"--title", "Été", "a.rtf"}, "title=Été [a.rtf]"},
+               {{"--title=a=b", "--readonly", "-"}, "title=a=b readonly [-]"},
+               {{"--title", "--readonly", "x"}, "title=--readonly [x]"},
+               {{"--title=1", "--title=2"}, "title=2"},
+               {{"--", "--title", "--"}, "title=none [--title] [--]"},
+               {{"", "-o", ""}, "title=none []"},
+               {{"--title"}, "valeur manquante : --title"},
+               {{"--readonly=yes"}, "valeur inattendue : --readonly=yes"},
+               {{"--titre", "x"}, "option inconnue : --titre"},
+               {{"-x=1"}, "option inconnue : -x"}};
   for (const auto& [arguments, expected] : cases) EXPECT_EQ(Read(arguments), expected);
 }
 

@@ -42,8 +42,7 @@ TEST(Numbers, Parsing) {
       {-.25, {u"-,25", u"-.25", u"-0,25", u" -0.25 ", u"-25e-2"}},
       {0, {u"0", u"-0,0000e99", u"0e999999999999", u"1e-400", u"1e-99999999999999999999"}},
       {0xABCDEF, {u"&HABCDEF", u"&h00abcdef&", u" &HaBcDeF"}},
-      {-1, {u"&HFFFFFFFF", u"&Hffffffff&"}},
-  };
+      {-1, {u"&HFFFFFFFF", u"&Hffffffff&"}}};
   for (const auto& c : kCases) {
     for (const auto text : c.texts) {
       EXPECT_EQ(ParseNumber(text), c.number) << testing::PrintToString(text);

@@ -65,16 +65,6 @@ TEST_F(UndoTest, GivesBackSelectionsKindsAndExtents) {
   EXPECT_EQ(Text(), u"XYo");
 }
 
-TEST_F(UndoTest, ForgetsWhatCouldBeRedone) {
-  Type(0, u"a");
-  history.Undo();
-  Type(0, u"");
-  EXPECT_TRUE(history.CanRedo());
-  Type(0, u"b");
-  EXPECT_FALSE(history.CanRedo());
-  EXPECT_EQ(history.Redo(), std::nullopt);
-}
-
 TEST_F(UndoTest, ReopensNoStepAfterUndoAndRedo) {
   Type(0, u"a");
   history.Undo();

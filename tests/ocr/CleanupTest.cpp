@@ -12,18 +12,16 @@ TEST(RemplacerTout, GoesOnBehindWhatItPutIn) {
   const struct {
     std::u16string_view text, find, replace, result;
     int count;
-  } rows[] = {
-      {u"", u"a", u"b", u"", 0},
-      {u"abc", u"", u"x", u"abc", 0},
-      {u"Teh teh TEH", u"teh", u"the", u"the the the", 3},
-      {u"modern", u"RN", u"m", u"modem", 1},
-      {u"a,,b", u",", u", ", u"a, ,b", 1},
-      {u"aaaa", u"a", u"", u"aa", 2},
-      {u"aaa", u"a", u"aa", u"aaaaa", 2},
-      {u"aaaaaa", u"aa", u"aa", u"aaaaaa", 2},
-      {u"x\r\nx", u"x", u"y", u"y\r\ny", 2},
-      {u"end", u"d", u"", u"en", 1},
-  };
+  } rows[] = {{u"", u"a", u"b", u"", 0},
+              {u"abc", u"", u"x", u"abc", 0},
+              {u"Teh teh TEH", u"teh", u"the", u"the the the", 3},
+              {u"modern", u"RN", u"m", u"modem", 1},
+              {u"a,,b", u",", u", ", u"a, ,b", 1},
+              {u"aaaa", u"a", u"", u"aa", 2},
+              {u"aaa", u"a", u"aa", u"aaaaa", 2},
+              {u"aaaaaa", u"aa", u"aa", u"aaaaaa", 2},
+              {u"x\r\nx", u"x", u"y", u"y\r\ny", 2},
+              {u"end", u"d", u"", u"en", 1}};
   for (const auto& row : rows) {
     Note note(row.text);
     const int count = RemplacerTout(note.surface, row.find, row.replace);
@@ -45,12 +43,10 @@ TEST(RemplacerTout, HasPositionsOf16Bits) {
 TEST(NormaliserEspaces, FollowsItsOrder) {
   const struct {
     std::u16string_view text, result;
-  } rows[] = {
-      {u"a,b;c", u"a, b ; c"}, {u"a , b", u"a, b"}, {u"a    b", u"a b"},
-      {u"A,,B", u"A,,B"},      {u"1,5", u"1, 5"},   {u"a:b.c?d!e", u"a:b.c?d!e"},
-      {u"a  ;b", u"a ; b"},    {u";", u" ; "},      {u"a\r\n  b", u"a\r\n b"},
-      {u"         ", u" "},
-  };
+  } rows[] = {{u"a,b;c", u"a, b ; c"}, {u"a , b", u"a, b"}, {u"a    b", u"a b"},
+              {u"A,,B", u"A,,B"},      {u"1,5", u"1, 5"},   {u"a:b.c?d!e", u"a:b.c?d!e"},
+              {u"a  ;b", u"a ; b"},    {u";", u" ; "},      {u"a\r\n  b", u"a\r\n b"},
+              {u"         ", u" "}};
   for (const auto& row : rows) {
     Note note(row.text);
     NormaliserEspaces(note.surface);
@@ -63,11 +59,11 @@ TEST(ApplyListCorr, AppliesPairsInFileOrder) {
     std::string_view list;
     std::u16string_view text, result;
     int error;
-  } rows[] = {
-      {"a=:=b\r\nb=:=c\r\n", u"a b", u"c c", 0}, {"b=:=c\r\na=:=b\r\n", u"a b", u"b c", 0},
-      {"=:=x\r\nteh=:=the", u"Teh", u"the", 0},  {"a=:=b\r\n\r\nc=:=d\r\n", u"a c", u"b c", 5},
-      {"a=:=b\r\nno pair\r\n", u"a", u"b", 5},
-  };
+  } rows[] = {{"a=:=b\r\nb=:=c\r\n", u"a b", u"c c", 0},
+              {"b=:=c\r\na=:=b\r\n", u"a b", u"b c", 0},
+              {"=:=x\r\nteh=:=the", u"Teh", u"the", 0},
+              {"a=:=b\r\n\r\nc=:=d\r\n", u"a c", u"b c", 5},
+              {"a=:=b\r\nno pair\r\n", u"a", u"b", 5}};
   for (const auto& row : rows) {
     Note note(row.text);
     note.files.Write(kList, row.list);
@@ -77,14 +73,6 @@ TEST(ApplyListCorr, AppliesPairsInFileOrder) {
   Note note(u"a");
   ApplyListCorr(note.surface, note.files, u"C:\\none.txt");
   EXPECT_EQ(note.surface.Text(), u"a");
-}
-
-TEST(NettoyerTexte, StopsAtABadLineBeforeEverythingElse) {
-  Note note(u"a,b");
-  note.files.Write(kList, "a=:=c\r\nbad");
-  EXPECT_EQ(ErrorOf([&] { NettoyerTexte(note.surface, note.files, kList); }), 5);
-  EXPECT_EQ(note.surface.Text(), u"c,b");
-  EXPECT_NE(note.surface.SelFontSize(), 11.0F);
 }
 
 }  // namespace

@@ -22,17 +22,15 @@ TEST(CorrectionReader, SplitsLines) {
   const struct {
     std::string_view bytes;
     std::vector<Correction> pairs;
-  } rows[] = {
-      {"", {}},
-      {"teh=:=the\r\n", {{u"teh", u"the"}}},
-      {"a=:=b\nc=:=d\r\n", {{u"a", u"b"}, {u"c", u"d"}}},
-      {"e ,=:= e, \r\n", {{u"e ,", u" e, "}}},
-      {"a=:=b=:=c\r\n", {{u"a", u"b=:=c"}}},
-      {"a=:=:=b\r\n", {{u"a", u":=b"}}},
-      {"a=:=\r\n=:=x\r\n", {{u"a", u""}, {u"", u"x"}}},
-      {"b=:=c\r\na=:=b\r\nb=:=c\r\n", {{u"b", u"c"}, {u"a", u"b"}, {u"b", u"c"}}},
-      {"c\xBFur=:=c\x9Cur", {{u"c¿ur", u"cœur"}}},
-  };
+  } rows[] = {{"", {}},
+              {"teh=:=the\r\n", {{u"teh", u"the"}}},
+              {"a=:=b\nc=:=d\r\n", {{u"a", u"b"}, {u"c", u"d"}}},
+              {"e ,=:= e, \r\n", {{u"e ,", u" e, "}}},
+              {"a=:=b=:=c\r\n", {{u"a", u"b=:=c"}}},
+              {"a=:=:=b\r\n", {{u"a", u":=b"}}},
+              {"a=:=\r\n=:=x\r\n", {{u"a", u""}, {u"", u"x"}}},
+              {"b=:=c\r\na=:=b\r\nb=:=c\r\n", {{u"b", u"c"}, {u"a", u"b"}, {u"b", u"c"}}},
+              {"c\xBFur=:=c\x9Cur", {{u"c¿ur", u"cœur"}}}};
   for (const auto& row : rows) EXPECT_EQ(Read(row.bytes), row.pairs) << row.bytes;
 }
 
@@ -41,13 +39,11 @@ TEST(CorrectionReader, RefusesBadLinesByNumber) {
     std::string bytes;
     int number;
     std::u16string_view line;
-  } rows[] = {
-      {"\r\n", 5, u"ligne 1"},
-      {"a=:=b\r\n\r\n", 5, u"ligne 2"},
-      {"a=:=b\r\nc=:=d\r\nword", 5, u"ligne 3"},
-      {std::string(40000, 'a'), 5, u"ligne 1"},
-      {"a=:=b\r\n" + std::string(32763, 'a') + "=:=bb", 6, u"ligne 2"},
-  };
+  } rows[] = {{"\r\n", 5, u"ligne 1"},
+              {"a=:=b\r\n\r\n", 5, u"ligne 2"},
+              {"a=:=b\r\nc=:=d\r\nword", 5, u"ligne 3"},
+              {std::string(40000, 'a'), 5, u"ligne 1"},
+              {"a=:=b\r\n" + std::string(32763, 'a') + "=:=bb", 6, u"ligne 2"}};
   for (const auto& row : rows) {
     try {
       Read(row.bytes);

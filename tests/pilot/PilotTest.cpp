@@ -201,17 +201,6 @@ TEST_F(PilotTest, TypingStopsWhenItClosesTheWindow) {
   EXPECT_EQ(keys, 2);
 }
 
-TEST_F(PilotTest, ALockedBoxTakesNoEditsFromTheUser) {
-  first.Show();
-  first.box.Surface().Text(u"abc");
-  first.box.Locked(true);
-  EXPECT_EQ(Run("type Co_Trouver.box x\nkey Co_Trouver.box Delete\ndrag Co_Trouver.box 0 1 3\n"
-                "key Co_Trouver.box Ctrl+A\nkey Co_Trouver.box Ctrl+C\nkey Co_Trouver.box Ctrl+X\n"
-                "get Co_Trouver.box.Text\nget Co_Trouver.box.SelLength\nclip\n")
-                .substr(0, 22),
-            "\"abc\"\n3\n{\"text\":\"abc\",");
-}
-
 TEST_F(PilotTest, LinesWrapAtTheBoxOrAtItsRightMargin) {
   RichTextSurface& surface = first.box.Surface();
   first.box.Width(3000);

@@ -45,8 +45,7 @@ TEST(KeysTest, NamesBothWays) {
       {Qt::Key_Backspace, {}, u"BackSpace"},
       {Qt::Key_Backtab, Qt::ShiftModifier, u"Shift+Tab"},
       {Qt::Key_Z, Qt::ControlModifier, u"Ctrl+Z"},
-      {Qt::Key_F10, Qt::ShiftModifier, u"Shift+F10"},
-  };
+      {Qt::Key_F10, Qt::ShiftModifier, u"Shift+F10"}};
   for (const KeyCase& c : cases) {
     const QKeyEvent pressed(QEvent::KeyPress, c.key, c.modifiers);
     const auto stroke = ParseKey(c.name);

@@ -49,17 +49,6 @@ TEST_F(WindowTest, KeepsTwipsThatAreNoWholePixels) {
   EXPECT_EQ(Differences(), none);
 }
 
-TEST_F(WindowTest, ALockedBoxTakesNoEdits) {
-  form->box.Surface().Text(u"un deux");
-  form->box.Surface().SelStart(4);
-  form->box.Locked(true);
-  acts.Type(form->box, u"x");
-  acts.Key(form->box, *ParseKey(u"Delete"));
-  acts.Key(form->box, *ParseKey(u"Home"));
-  EXPECT_EQ(form->box.Surface().Text(), u"un deux");
-  EXPECT_EQ(form->box.Surface().SelStart(), 0);
-}
-
 TEST_F(WindowTest, ClickAndShiftClickSelect) {
   form->box.Surface().Text(u"abc def");
   auto& view = *platform.windows.Widgets().Find<RichTextView>(form->box);

@@ -81,6 +81,16 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1\v hidden\v0\deleted gone})", "hiddengone"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    Tokens, ReaderText,
+    testing::Values(Case{R"({\rtf1\fs24 a\fs-3b})", "ab"}, Case{R"({\rtf1\li-a})", "-a"},
+                    Case{R"({\rtf1\b  two})", " two"}, Case{R"({\rtf1\'e9\'E9\'4})", "éé"},
+                    Case{R"({\rtf1\'zz})", "zz"}, Case{R"({\rtf1{\'e}x})", "x"},
+                    Case{"{\\rtf1\\b\r\nx\ny}", "xy"}, Case{"{\\rtf1 a\tb\xE9\\\xE9z}", "a\tbééz"},
+                    Case{R"({\rtf1\bin3 a}bc})", "c"}, Case{R"({\rtf1\bin-1 ab})", "ab"},
+                    Case{R"({\rtf1\u99999999999?a\u-99999999999?b})", "\uFFFDa\uFFFDb"},
+                    Case{R"({\rtf1{\*\x{b}\}c}d})", "d"}));
+
+INSTANTIATE_TEST_SUITE_P(
     Lists, ReaderText,
     testing::Values(
         Case{

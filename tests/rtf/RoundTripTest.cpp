@@ -132,13 +132,5 @@ TEST(RoundTrip, ReachesAFixedPointFromWhatNoSourceSays) {
   EXPECT_EQ(WriteRtf(Read(rtf)), rtf);
 }
 
-TEST(RoundTrip, NeverGrowsANote) {
-  std::string rtf = R"({\rtf1 a\par b\par})";
-  for (int times = 0; times < 3; ++times) {
-    rtf = WriteRtf(Read(rtf));
-    EXPECT_EQ(TextOf(Read(rtf)), "a\nb");
-  }
-}
-
 }  // namespace
 }  // namespace lumenote

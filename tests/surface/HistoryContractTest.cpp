@@ -70,15 +70,5 @@ TEST_F(SurfaceContract, FailedLoadsAndSavesLeaveEverything) {
   EXPECT_EQ(Changes(), 0);
 }
 
-TEST_F(SurfaceContract, RtfTravelsOneByteAUnit) {
-  s.TextRTF(u"{\\RTF1\\ansi \u00E9\\'e0 \u20AC}");
-  EXPECT_EQ(s.Text(), u"éà €");
-  const std::u16string rtf = s.TextRTF();
-  EXPECT_EQ(std::count_if(rtf.begin(), rtf.end(), [](char16_t c) { return c > 0xFF; }), 0);
-  s.TextRTF(rtf);
-  EXPECT_EQ(s.Text(), u"éà €");
-  EXPECT_EQ(s.TextRTF(), rtf);
-}
-
 }  // namespace
 }  // namespace lumenote

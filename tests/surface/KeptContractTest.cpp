@@ -11,16 +11,14 @@ TEST_F(SurfaceContract, BeginningsStayWhenTheTextBehindThemGoes) {
   const struct {
     Selection deleted;
     std::u16string_view put, left;
-  } cases[] = {
-      {{3, 4}, u"", u"\\sectd\\cols2 c\\par"},
-      {{3, 5}, u"", u"\\sectd\\cols2\\par"},
-      {{3, 7}, u"", u"\\sectd\\cols2\\page{\\*\\bkmkstart k}d"},
-      {{1, 4}, u"", u"fs20 ac\\par"},
-      {{3, 5}, u"xy", u"\\sectd\\cols2 xy\\par"},
-      {{7, 8}, u"", u"\\page{\\*\\bkmkend k}{\\pict 01}\\par }"},
-      {{7, 9}, u"", u"\\page\\par }"},
-      {{4, 5}, u"", u"b\\par"},
-  };
+  } cases[] = {{{3, 4}, u"", u"\\sectd\\cols2 c\\par"},
+               {{3, 5}, u"", u"\\sectd\\cols2\\par"},
+               {{3, 7}, u"", u"\\sectd\\cols2\\page{\\*\\bkmkstart k}d"},
+               {{1, 4}, u"", u"fs20 ac\\par"},
+               {{3, 5}, u"xy", u"\\sectd\\cols2 xy\\par"},
+               {{7, 8}, u"", u"\\page{\\*\\bkmkend k}{\\pict 01}\\par }"},
+               {{7, 9}, u"", u"\\page\\par }"},
+               {{4, 5}, u"", u"b\\par"}};
   for (const auto& c : cases) {
     s.TextRTF(kNote);
     const std::u16string before = s.TextRTF();
@@ -37,12 +35,10 @@ TEST_F(SurfaceContract, BeginningsThatStayDoNotCutRunsOfUndo) {
   const std::pair<Selection, std::function<void()>> cases[] = {
       {{3, 3}, [this] { Press(u"Delete Delete Delete"); }},
       {{8, 8}, [this] { Press(u"BackSpace BackSpace"); }},
-      {{7, 8},
-       [this] {
+      {{7, 8}, [this] {
          surface.UserType(u"xx");
          surface.UserType(u"y");
-       }},
-  };
+       }}};
   s.TextRTF(kNote);
   const std::u16string before = s.TextRTF();
   for (const auto& [selected, act] : cases) {

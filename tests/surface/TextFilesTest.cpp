@@ -30,24 +30,22 @@ TEST_F(TextFiles, GoBackAsTheyCame) {
     std::string bytes;
     std::u16string text;
     std::string edited;  // with an x ahead
-  } rows[] = {
-      {"", u"", "x"},
-      {"caf\xE9 \x80\x81", u"café €\x81", "xcaf\xE9 \x80\x81"},
-      {"caf\xC3\xA9 \xE2\x99\x80", u"café ♀", "xcaf\xC3\xA9 \xE2\x99\x80"},
-      {kMark + "caf\xC3\xA9", u"café", kMark + "xcaf\xC3\xA9"},
-      {kMark, u"", kMark + "x"},
-      {kMark + kMark + "a", u"\uFEFFa", kMark + "x" + kMark + "a"},
-      {"\xC3\xA9\xE9", u"Ã©é", "x\xC3\xA9\xE9"},           // no UTF-8
-      {"\xC3\xA9\xC2\x85", u"Ã©Â…", "x\xC3\xA9\xC2\x85"},  // would be a control
-      {"\xF0\x9F\x98\x80", u"\U0001F600", "x\xF0\x9F\x98\x80"},
-      {"a\0b"s, u"a\0b"s, "xa\0b"s},
-      {"a\nb\rc\r\n\xE9", u"a\r\nb\r\nc\r\né", "xa\r\nb\r\nc\r\n\xE9"},
-      {"\xC3\xA9\n", u"é\r\n", "x\xC3\xA9\r\n"},
-      {kMark + "a\xFF\n", u"a\uFFFD\r\n", kMark + "xa\xEF\xBF\xBD\r\n"},
-      {"\xFF\xFE\xE9\0"s, u"é", "x\xE9"},
-      {"\xFE\xFF\x03\xA9\x03"s, u"Ω", kMark + "x\xCE\xA9"},
-      {"\xFF\xFE\0\xD8"s, u"\xD800", "\xFF\xFEx\0\0\xD8"s},
-  };
+  } rows[] = {{"", u"", "x"},
+              {"caf\xE9 \x80\x81", u"café €\x81", "xcaf\xE9 \x80\x81"},
+              {"caf\xC3\xA9 \xE2\x99\x80", u"café ♀", "xcaf\xC3\xA9 \xE2\x99\x80"},
+              {kMark + "caf\xC3\xA9", u"café", kMark + "xcaf\xC3\xA9"},
+              {kMark, u"", kMark + "x"},
+              {kMark + kMark + "a", u"\uFEFFa", kMark + "x" + kMark + "a"},
+              {"\xC3\xA9\xE9", u"Ã©é", "x\xC3\xA9\xE9"},           // no UTF-8
+              {"\xC3\xA9\xC2\x85", u"Ã©Â…", "x\xC3\xA9\xC2\x85"},  // would be a control
+              {"\xF0\x9F\x98\x80", u"\U0001F600", "x\xF0\x9F\x98\x80"},
+              {"a\0b"s, u"a\0b"s, "xa\0b"s},
+              {"a\nb\rc\r\n\xE9", u"a\r\nb\r\nc\r\né", "xa\r\nb\r\nc\r\n\xE9"},
+              {"\xC3\xA9\n", u"é\r\n", "x\xC3\xA9\r\n"},
+              {kMark + "a\xFF\n", u"a\uFFFD\r\n", kMark + "xa\xEF\xBF\xBD\r\n"},
+              {"\xFF\xFE\xE9\0"s, u"é", "x\xE9"},
+              {"\xFE\xFF\x03\xA9\x03"s, u"Ω", kMark + "x\xCE\xA9"},
+              {"\xFF\xFE\0\xD8"s, u"\xD800", "\xFF\xFEx\0\0\xD8"s}};
   for (const auto& row : rows) {
     SCOPED_TRACE(testing::PrintToString(row.text));
     Load(row.bytes);
@@ -70,20 +68,18 @@ TEST_F(TextFiles, AreWrittenSoThatTheyReadAsTheyWere) {
     std::string before;
     std::u16string text;
     std::string after;
-  } rows[] = {
-      {"a", u"é", "\xE9"},
-      {"a", u"α", kMark + "\xCE\xB1"},
-      {"a", u"\x85", kMark + "\xC2\x85"},
-      {"a", u"Ã©", kMark + "\xC3\x83\xC2\xA9"},  // in page 1252 it would be a UTF-8 é
-      {"a", u"ï»¿", kMark + "\xC3\xAF\xC2\xBB\xC2\xBF"},
-      {"a", u"ÿþ", kMark + "\xC3\xBF\xC3\xBE"},
-      {"a", u"\xDC00\xD800", "\xFF\xFE\0\xDC\0\xD8"s},
-      {"\xC3\xA9", u"e", "e"},
-      {"\xC3\xA9", u"α", "\xCE\xB1"},
-      {"\xC3\xA9", u"é\x85", kMark + "\xC3\xA9\xC2\x85"},
-      {"\xC3\xA9", u"\uFEFFé", kMark + kMark + "\xC3\xA9"},
-      {kMark + "\xC3\xA9", u"e", kMark + "e"},
-  };
+  } rows[] = {{"a", u"é", "\xE9"},
+              {"a", u"α", kMark + "\xCE\xB1"},
+              {"a", u"\x85", kMark + "\xC2\x85"},
+              {"a", u"Ã©", kMark + "\xC3\x83\xC2\xA9"},  // in page 1252 it would be a UTF-8 é
+              {"a", u"ï»¿", kMark + "\xC3\xAF\xC2\xBB\xC2\xBF"},
+              {"a", u"ÿþ", kMark + "\xC3\xBF\xC3\xBE"},
+              {"a", u"\xDC00\xD800", "\xFF\xFE\0\xDC\0\xD8"s},
+              {"\xC3\xA9", u"e", "e"},
+              {"\xC3\xA9", u"α", "\xCE\xB1"},
+              {"\xC3\xA9", u"é\x85", kMark + "\xC3\xA9\xC2\x85"},
+              {"\xC3\xA9", u"\uFEFFé", kMark + kMark + "\xC3\xA9"},
+              {kMark + "\xC3\xA9", u"e", kMark + "e"}};
   for (const auto& row : rows) {
     SCOPED_TRACE(testing::PrintToString(row.text));
     Load(row.before);
@@ -115,16 +111,14 @@ TEST_F(TextFiles, EveryUnitComesBackFromRtf) {
 TEST_F(TextFiles, SourceOfRtfMayHoldAnyCharacter) {
   const struct {
     std::u16string source, text;
-  } rows[] = {
-      {u"é€α", u"é€α"},
-      {u"\\uc0 αb\\uc2 βc", u"αbβc"},
-      {u"\\\\α\\αx", u"\\ααx"},
-      {u"\\b α\\bβ", u"αβ"},
-      {u"\U0001F600\xD800z", u"\U0001F600\xD800z"},
-      {u"\u2028\uFEFF\uFFFDx", u"\u2028\uFEFF\uFFFDx"},
-      {u"{\\*\\inconnu α}b", u"b"},
-      {u"\\ansicpg936 α\\b β\\par γ", u"αβ\r\nγ"},
-  };
+  } rows[] = {{u"é€α", u"é€α"},
+              {u"\\uc0 αb\\uc2 βc", u"αbβc"},
+              {u"\\\\α\\αx", u"\\ααx"},
+              {u"\\b α\\bβ", u"αβ"},
+              {u"\U0001F600\xD800z", u"\U0001F600\xD800z"},
+              {u"\u2028\uFEFF\uFFFDx", u"\u2028\uFEFF\uFFFDx"},
+              {u"{\\*\\inconnu α}b", u"b"},
+              {u"\\ansicpg936 α\\b β\\par γ", u"αβ\r\nγ"}};
   for (const auto& row : rows) {
     s.TextRTF(u"{\\rtf1\\ansi " + row.source + u"}");
     EXPECT_EQ(s.Text(), row.text) << testing::PrintToString(row.source);
