@@ -1,0 +1,90 @@
+// The arithmetic of the paragraph dialog at its edges, the ruler's zones.
+#include <gtest/gtest.h>
+
+#include "format/Measures.h"
+#include "format/Ruler.h"
+
+namespace lumenote {
+namespace {
+
+TEST(MeasuresTest, LengthsSnapToTheGridUpToItsLastMultiple) {
+  const struct {
+    std::int32_t value, step, snapped;
+  } cases[] = {
+      {0, 150, 0},
+      {74, 150, 0},
+      {75, 150, 150},
+      {-75, 150, 0},
+      {-76, 150, -76},
+      {224, 150, 150},
+      {225, 150, 300},
+      {-1000, 150, -1000},
+      {37574, 150, 37500},
+      {37575, 150, 37650},
+      {37724, 150, 37650},
+      {37725, 150, 37725},
+      {37800, 150, 37800},
+      {251 * 3, 3, 251 * 3},
+      {252 * 3, 3, 252 * 3},
+      {251 * 3 + 2, 3, 755},
+      {7, 5, 7},
+      {8, 5, 10},
+      {2, 5, 2},
+      {1, 5, 0},
+      {3, 5, 5},
+      {INT32_MAX, 150, INT32_MAX},
+      {INT32_MIN, 150, INT32_MIN},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(CorrValIndent(c.value, c.step), c.snapped) << c.value << " by " << c.step;
+}
+
+TEST(MeasuresTest, TwipsAsMillimetresAreCutDown) {
+  const struct {
+    double twips;
+    std::u16string_view shown, whole;
+  } cases[] = {
+      {0, u"0", u"0"},         {1, u"0,01", u"0"},     {165, u"2,91", u"2"},
+      {567, u"10", u"10"},     {1440, u"25,4", u"25"}, {-1, u"-0,02", u"-1"},
+      {-165, u"-2,92", u"-3"}, {150, u"2,64", u"2"},   {32767, u"577,97", u"577"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(MillimetresText(c.twips), c.shown) << c.twips;
+    EXPECT_EQ(WholeMillimetresText(c.twips), c.whole) << c.twips;
+  }
+}
+
+TEST(MeasuresTest, LineSpacingIsShownInLinesAndReadInTwentieths) {
+  const std::pair<std::int32_t, std::u16string_view> shown[] = {
+      {20, u"1"}, {25, u"1,25"}, {30, u"1,5"}, {31, u"1,55"},  {99, u"4,95"},
+      {0, u"0"},  {1, u"0,05"},  {240, u"12"}, {2005, u"100,"}};
+  for (const auto& [code, text] : shown) EXPECT_EQ(LineSpacingText(code), text);
+  const std::pair<std::u16string_view, std::optional<std::int32_t>> read[] = {
+      {u"1", 20},    {u"1,25", 25},  {u"1,3", 26}, {u"4,95", 99}, {u"4,99", 99}, {u"5", 1},
+      {u"1,29", 25}, {u"0", 0},      {u",5", 10},  {u",", {}},    {u"", {}},     {u"1.5", {}},
+      {u"-1", {}},   {u"1,2,3", {}}, {u"x", {}},   {u" 1", {}},   {u"99999", 1}};
+  for (const auto& [text, code] : read) EXPECT_EQ(LineSpacingCode(text), code);
+}
+
+TEST(MeasuresTest, NumberBoxesAreBroughtIntoForm) {
+  const std::pair<std::u16string_view, std::u16string_view> cases[] = {
+      {u" 2.5 ", u"2,5"}, {u"2,5,1", u"0"}, {u"-1", u"0"},  {u"", u""},   {u"  ", u""},
+      {u"1e3", u"0"},     {u"9", u"9"},     {u"0,", u"0,"}, {u":", u"0"}, {u"/", u"0"}};
+  for (const auto& [typed, formed] : cases) EXPECT_EQ(NormalisedNumber(typed), formed);
+  EXPECT_TRUE(IsNumericText(u"-1-", true));
+  EXPECT_FALSE(IsNumericText(u"-1", false));
+}
+
+TEST(MeasuresTest, TheBoundariesOfTheRulersZonesBelongToTheMiddle) {
+  const struct {
+    float x, width, middle;
+    Zone zone;
+  } cases[] = {{0, 300, 300, Zone::Left},       {99.9F, 300, 300, Zone::Left},
+               {100, 300, 300, Zone::Middle},   {200, 300, 300, Zone::Middle},
+               {200.1F, 300, 300, Zone::Right}, {110, 300, 360, Zone::Left},
+               {250, 300, 900, Zone::Right}};
+  for (const auto& c : cases) EXPECT_EQ(ZoneAt(c.x, c.width, c.middle), c.zone) << c.x;
+}
+
+}  // namespace
+}  // namespace lumenote

@@ -1,0 +1,173 @@
+// The life of windows: which one is active next, who outlives whom, what an unload ends.
+#include <gtest/gtest.h>
+
+#include "backends/headless/HeadlessBackend.h"
+#include "backends/posix/PosixSandbox.h"
+#include "base/ErrorOf.h"
+#include "forms/Button.h"
+#include "forms/Instance.h"
+#include "forms/Timer.h"
+#include "pilot/PilotPlatform.h"
+#include "pilot/ReportedFonts.h"
+
+namespace lumenote {
+namespace {
+
+class Window : public Form {
+ public:
+  Window(WindowList& windows, std::string name)
+      : Form(windows, std::move(name), {100, 200, 3000, 4000}, u"") {
+    close.Click = [this] { Unload(); };
+    escape.Click = [this] { ++escapes; };
+    DefaultButton(&close);
+  }
+  ~Window() override { Gone(); }
+
+  Button close{*this, "close", {0, 0, 600, 300}, u"Fermer"};
+  Button escape{*this, "escape", {0, 300, 600, 300}, u"Annuler"};
+  Timer timer{*this, "timer"};
+  int activations = 0, resizes = 0, escapes = 0;
+  bool mayGo = true;
+  std::function<void()> Asking = [] {};
+  std::function<void()> Gone = [] {};
+
+ private:
+  void Form_Activate() override { ++activations; }
+  void Form_Resize() override { ++resizes; }
+  bool Form_QueryUnload() override {
+    Asking();
+    return mayGo;
+  }
+};
+
+class WindowsTest : public testing::Test {
+ protected:
+  PosixSandbox sandbox;
+  HeadlessBackend backend;
+  ReportedFonts fonts;
+  PilotPlatform platform{sandbox, backend, fonts};
+  WindowList windows{platform};
+  Window first{windows, "first"}, second{windows, "second"}, third{windows, "third"};
+};
+
+TEST_F(WindowsTest, AfterAnUnloadItsOwnerIsActiveElseTheLatestShown) {
+  first.Show();
+  second.Show();
+  third.Show(&first);
+  third.Unload();
+  EXPECT_EQ(windows.Active(), &first);
+  third.Show();
+  third.Unload();
+  EXPECT_EQ(windows.Active(), &second);
+  third.Load();
+  second.Unload();
+  EXPECT_EQ(windows.Active(), &first);
+  EXPECT_EQ(first.activations, 3);
+  second.Show();
+  first.Unload();
+  EXPECT_EQ(windows.Active(), &second);
+  EXPECT_EQ(second.activations, 3);
+  third.Show(&second);
+  second.Unload();
+  third.Unload();
+  EXPECT_EQ(windows.Active(), nullptr);
+  EXPECT_TRUE(windows.Loaded().empty());
+}
+
+TEST_F(WindowsTest, AWindowThatMayNotGoStaysAsItWas) {
+  first.Show();
+  first.mayGo = false;
+  first.Asking = [&] {
+    EXPECT_TRUE(first.IsUnloading());
+    EXPECT_FALSE(first.Unload());
+  };
+  EXPECT_FALSE(first.Unload());
+  EXPECT_TRUE(first.IsLoaded() && first.Visible() && !first.IsUnloading() && !first.IsUnloaded());
+  EXPECT_EQ(windows.Active(), &first);
+  first.mayGo = true;
+  EXPECT_TRUE(first.Unload());
+  EXPECT_TRUE(first.Unload());
+  EXPECT_TRUE(first.IsUnloaded());
+}
+
+TEST_F(WindowsTest, ReturnAndEscapeClickTheirButtonsWhileThoseCanBeClicked) {
+  const KeyStroke enter{.name = KeyName::Return}, escape{.name = KeyName::Escape};
+  first.Show();
+  EXPECT_FALSE(first.UserKey(escape));
+  first.CancelButton(&first.escape);
+  EXPECT_TRUE(first.UserKey(escape));
+  EXPECT_FALSE(first.UserKey({.name = KeyName::Escape, .control = true}));
+  first.escape.Enabled(false);
+  EXPECT_FALSE(first.UserKey(escape));
+  EXPECT_EQ(first.escapes, 1);
+  first.close.Visible(false);
+  EXPECT_FALSE(first.UserKey(enter));
+  first.close.Visible(true);
+  EXPECT_TRUE(first.UserKey(enter));
+  EXPECT_FALSE(first.IsLoaded());
+  second.Show();
+  second.EscapeCloses(true);
+  EXPECT_TRUE(second.UserKey(escape));
+  EXPECT_FALSE(second.IsLoaded());
+}
+
+TEST_F(WindowsTest, SizesResizeOnceAndNegativeOnesAreRefused) {
+  first.Width(3000);
+  first.Left(5);
+  EXPECT_EQ(first.resizes, 0);
+  first.Height(4001);
+  first.Width(0);
+  EXPECT_EQ(first.resizes, 2);
+  EXPECT_EQ(ErrorOf([&] { first.Width(-1); }), 380);
+  EXPECT_EQ(ErrorOf([&] { first.Height(-1); }), 380);
+  EXPECT_EQ(first.Place(), (Rect{5, 200, 0, 4001}));
+}
+
+TEST_F(WindowsTest, ATimerTicksWhileItsWindowIsLoadedOnly) {
+  int ticks = 0;
+  first.timer.Interval(10);
+  first.timer.Enabled(true);
+  first.timer.Tick = [&] { ++ticks; };
+  backend.Advance(10);
+  first.Load();
+  backend.Advance(9);
+  EXPECT_EQ(ticks, 0);
+  backend.Advance(1);
+  first.timer.Interval(5);
+  backend.Advance(10);
+  EXPECT_EQ(ticks, 3);
+  first.timer.Enabled(false);
+  backend.Advance(10);
+  first.timer.Enabled(true);
+  first.Unload();
+  backend.Advance(10);
+  EXPECT_EQ(ticks, 3);
+}
+
+TEST_F(WindowsTest, AWindowInUseOutlivesItsUnloadBesideTheNextOne) {
+  std::string gone;
+  int made = 0;
+  const auto make = [&] {
+    auto window = std::make_unique<Window>(windows, std::to_string(++made));
+    window->Gone = [&gone, name = window->Name()] { gone += name; };
+    return window;
+  };
+  Instance<Window> outer(make);
+  Instance<Window> inner(make, &outer.Get());
+  Window& dialog = inner.Get();
+  outer.Get().Load();
+  dialog.Load();
+  dialog.Raise([&] {
+    dialog.Unload();
+    outer.Get().Unload();
+    EXPECT_EQ(outer.Loaded(), nullptr);
+    EXPECT_NE(&inner.Get(), &dialog);
+    EXPECT_NE(outer.Get().Name(), "1");
+    EXPECT_EQ(gone, "");
+  });
+  EXPECT_EQ(gone, "21");
+  EXPECT_EQ(made, 4);
+}
+
+}  // namespace
+}  // namespace lumenote
