@@ -1,0 +1,183 @@
+#!/usr/bin/env python3
+"""Puts single faults into the C++ source of a folder and says which tests catch each of them.
+
+usage: mutate.py FOLDER... [--number N] [--seed N] [--limit SECONDS] [--tests REGEX] [--work DIR]
+
+FOLDER is below the checkout (src/format), or one file. Works on a copy of the checkout in DIR
+(build/mutate), which is built there without Qt; the checkout itself is only read. A fault that does
+not compile, or that leaves the object file as it was, is not counted and another one is drawn. The
+same seed on the same source draws the same faults.
+"""
+import argparse
+import os
+import pathlib
+import random
+import re
+import shutil
+import subprocess
+import sys
+import time
+
+TOP = pathlib.Path(__file__).resolve().parent.parent
+SWAPS = {"==": "!=", "!=": "==", "<": "<=", ">": ">=", "<=": "<", ">=": ">", "&&": "||",
+         "||": "&&", "+": "-", "-": "+", "+=": "-=", "-=": "+=", "*": "/", "/": "*"}
+BINARY = re.compile(r"(?<= )(%s)(?= )" % "|".join(map(re.escape, sorted(SWAPS, key=len)[::-1])))
+OPENING = re.compile(r"\b(?:if|while) \((?!const |auto |\w+\*? \w+ =)")
+STATEMENT = re.compile(r"(?:[a-z_*(][\w.\[\]():*&]*(?:->[\w.()]+)*(?:\(.*\)| [-+|&]?= .*)|break"
+                       r"|(?:\+\+|--)[\w.]+|[A-Z]\w*\(.*\)|[A-Z]\w*(?:\.|->|::)\w.*\(.*\));")
+
+
+class Fault:
+    def __init__(self, path, number, kind, line):
+        self.path, self.number, self.kind, self.line = path, number, kind, line
+
+
+def masked(line):
+    """The line with comments and the insides of literals blanked out, of the same length."""
+    blank = lambda found: found.group()[0] + " " * (len(found.group()) - 2) + found.group()[-1]
+    line = re.sub(r'"(?:\\.|[^"\\])*"|\'(?:\\.|[^\'\\])*\'', blank, line)
+    return re.sub(r"//.*", lambda found: " " * len(found.group()), line)
+
+
+def closing(code, start):
+    """Index of the parenthesis that closes the one before `start`, or -1."""
+    depth = 1
+    for index in range(start, len(code)):
+        depth += {"(": 1, ")": -1}.get(code[index], 0)
+        if depth == 0:
+            return index
+    return -1
+
+
+def variants(line, code, before):
+    """Every single fault of one line: its kind and the new line."""
+    put = lambda start, end, text: line[:start] + text + line[end:]
+    for found in BINARY.finditer(code):
+        yield "operator", put(*found.span(), SWAPS[found.group()])
+    for found in re.finditer(r"\b(?:true|false)\b", code):
+        yield "boolean", put(*found.span(), "false" if found.group() == "true" else "true")
+    for found in re.finditer(r"(?<![\w.'])\d+(?![\w.'])", code):
+        yield "constant", put(*found.span(), str(int(found.group()) + 1))
+    for found in re.finditer(r"(?<![\w\])])!(?=[\w(])", code):
+        yield "negation", put(*found.span(), "")
+    for found in OPENING.finditer(code):
+        end = closing(code, found.end())
+        if end > 0:
+            yield "condition", put(found.end(), end, "!(" + line[found.end():end] + ")")
+    text = code.strip()
+    if STATEMENT.fullmatch(text) and before.endswith((";", "{", "}", ":", ")")):
+        yield "statement", line[:len(line) - len(line.lstrip())] + ";"
+
+
+def faults_of(path):
+    before = "{"
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        code = masked(line)
+        if not code.lstrip().startswith(("#", "static_assert", "using", "namespace", "template")):
+            for kind, text in variants(line, code, before):
+                yield Fault(path, number, kind, text)
+        before = code.strip() or before
+
+
+def copy_checkout(target):
+    """Brings the copy to the checkout's state; files that are the same keep their time."""
+    listed = subprocess.run(["git", "ls-files", "-coz", "--exclude-standard"], cwd=TOP, check=True,
+                            capture_output=True).stdout.decode().split("\0")
+    wanted = {name for name in listed if name and (TOP / name).is_file()}
+    for old in [file for file in target.rglob("*") if file.is_file()]:
+        name = old.relative_to(target)
+        if str(name) not in wanted and name.parts[0] != "build":
+            old.unlink()
+    for name in wanted:
+        source, copy = TOP / name, target / name
+        copy.parent.mkdir(parents=True, exist_ok=True)
+        if not copy.exists() or copy.read_bytes() != source.read_bytes():
+            shutil.copyfile(source, copy)
+            shutil.copymode(source, copy)
+
+
+class Bench:
+    """The copy's build and its tests."""
+
+    def __init__(self, source, tests, patience):
+        self.source, self.tests, self.patience = source, tests, patience
+        self.build_folder = source / "build" / "test"
+        launcher = shutil.which("ccache")
+        subprocess.run(["cmake", "-S", source, "-B", self.build_folder, "-G", "Ninja",
+                        "-DLUMENOTE_QT=OFF", "-DCMAKE_BUILD_TYPE=Release",
+                        *([f"-DCMAKE_CXX_COMPILER_LAUNCHER={launcher}"] if launcher else [])],
+                       check=True, stdout=subprocess.DEVNULL)
+
+    def compiles(self):
+        return subprocess.run(["ninja", "-C", self.build_folder, "-j", "1"],
+                              capture_output=True).returncode == 0
+
+    def objects(self, path):
+        name = str(path.relative_to(self.source / "src")) + ".o" if path.suffix == ".cpp" else ""
+        return [file.read_bytes() for file in self.build_folder.rglob("*.o")
+                if name and str(file).endswith("/" + name)]
+
+    def failures(self):
+        command = ["ctest", "--test-dir", self.build_folder, "-j2", "--timeout", "20"]
+        command += ["-R", self.tests] if self.tests else []
+        try:
+            out = subprocess.run(command, capture_output=True, timeout=self.patience).stdout
+        except subprocess.TimeoutExpired:
+            return ["(no end)"]
+        return re.findall(r"^\s*\d+ - (\S+) \(", out.decode(errors="replace"), re.M)
+
+
+def judge(bench, fault):
+    """The tests that catch it; None when it is no fault at all."""
+    original = fault.path.read_text(encoding="utf-8")
+    before = bench.objects(fault.path)
+    lines = original.split("\n")
+    lines[fault.number - 1] = fault.line
+    try:
+        fault.path.write_text("\n".join(lines), encoding="utf-8")
+        if not bench.compiles() or (before and bench.objects(fault.path) == before):
+            return None
+        return bench.failures()
+    finally:
+        fault.path.write_text(original, encoding="utf-8")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("folder", nargs="+")
+    parser.add_argument("--number", type=int, default=20, help="faults to put in")
+    parser.add_argument("--seed", type=int, default=1)
+    parser.add_argument("--limit", type=float, default=3600, help="seconds for all of it")
+    parser.add_argument("--tests", default="", help="regular expression, as ctest -R takes it")
+    parser.add_argument("--work", type=pathlib.Path, default=TOP / "build" / "mutate")
+    options = parser.parse_args()
+    os.nice(15)
+    start = time.monotonic()
+    source = (options.work / "source").resolve()
+    copy_checkout(source)
+    bench = Bench(source, options.tests, 300)
+    if not bench.compiles() or bench.failures():
+        sys.exit("the checkout itself does not build, or fails its tests")
+    files = sorted(file for folder in options.folder for file in
+                   ([source / folder] if (source / folder).is_file() else
+                    (source / folder).rglob("*.[ch]*")))
+    drawn = [fault for file in files for fault in faults_of(file)]
+    print(f"{len(drawn)} possible faults in {len(files)} files")
+    random.Random(options.seed).shuffle(drawn)
+    survived = counted = 0
+    for fault in drawn:
+        if counted == options.number or time.monotonic() - start > options.limit:
+            break
+        caught = judge(bench, fault)
+        if caught is None:
+            continue
+        counted += 1
+        survived += not caught
+        verdict = ", ".join(caught[:4]) + (f" and {len(caught) - 4} more" if caught[4:] else "")
+        print(f"{fault.path.relative_to(source)}:{fault.number} {fault.kind}: {fault.line.strip()}"
+              f"\n    {'caught by ' + verdict if caught else 'SURVIVED'}", flush=True)
+    bench.compiles()
+    print(f"{counted - survived} of {counted} faults caught")
+
+
+main()
