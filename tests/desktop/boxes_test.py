@@ -45,7 +45,7 @@ class Boxes(Desktop):
         self.host.waits_for("selected 1", "un")
         for entry, title in (("Home", "notes_host"), ("End", "Attention")):
             with self.subTest(title):
-                self.run_x("xdotool", "windowactivate", "--sync", dialog)
+                self.activate(dialog)
                 self.mouse(dialog, SAVE_COMBO_ARROW, "click 1")
                 self.wait(self.popup, "the list")
                 self.run_x("xdotool", "key", entry, "Return")

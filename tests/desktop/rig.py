@@ -195,12 +195,19 @@ class Desktop(unittest.TestCase):
         x11.XSendEvent(display, ctypes.c_ulong(int(window, 16)), 0, 0, event)
         x11.XCloseDisplay(display)
 
+    def activate(self, window):
+        """Brings a window to the front that is not there yet."""
+        if self.run_x("xdotool", "getactivewindow").strip() != str(int(window, 16)):
+            self.run_x("xdotool", "windowactivate", "--sync", window)
+
     def keys(self, window, *keys):
         """Presses keys in a window that is brought to the front."""
-        self.run_x("xdotool", "windowactivate", "--sync", window, "key", "--delay", "40", *keys)
+        self.activate(window)
+        self.run_x("xdotool", "key", "--delay", "40", *keys)
 
     def type(self, window, text):
-        self.run_x("xdotool", "windowactivate", "--sync", window, "type", "--delay", "20", text)
+        self.activate(window)
+        self.run_x("xdotool", "type", "--delay", "20", text)
 
 
 def main():
