@@ -44,9 +44,10 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1 a\page b\par\page c\sect\sectd\cols2 d})",
              "\\f0\\fs24 a\\page\r\nb\\par\r\n\\page c\\sect\r\n\\sectd\\cols2 d\\par }\r\n"},
         Case{R"({\rtf1 a\par\page{\*\z}})", "\\f0\\fs24 a\\par \\page{\\*\\z}}\r\n"},
-        Case{R"({\rtf1\pard\brdrt\brdrs\brdrw10\keepn\keepn\foo1 a\par\pard{\kerning8 b}c})",
-             "\\brdrt\\brdrs\\brdrw10\\keepn\\f0\\fs24 a\\par\r\n"
-             "\\pard\\kerning8 b\\plain\\f0\\fs24 c\\par }\r\n"},
+        Case{
+            R"({\rtf1\pard\brdrt\brdrs\brdrw10\brdrb\brdrs\brdrw10\keepn\keepn\foo1 a\par\pard{\kerning8 b}c})",
+            "\\brdrt\\brdrs\\brdrw10\\brdrb\\brdrs\\brdrw10\\keepn\\f0\\fs24 a\\par\r\n"
+            "\\pard\\kerning8 b\\plain\\f0\\fs24 c\\par }\r\n"},
         Case{R"({\rtf1\rtlch\af1\ltrch\hich\af2\b a\dbch\b0 b})",
              "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql\\rtlch\\af1\\ltrch\\b\\fs24\\hich\\af2"
              "\\f0 a"
@@ -72,6 +73,8 @@ INSTANTIATE_TEST_SUITE_P(
             "\\intbl\\itap2\\f0\\fs24 a\\nestcell b\\nestcell\\pard\\intbl\\itap2"
             "{\\*\\nesttableprops\\nestrow}{\\nonesttables\\par}\r\n"
             "\\pard\\intbl c\\cell\\row\r\n}\r\n"},
+        Case{R"({\rtf1\pard\intbl\itap2 a\nestcell b\cell\row\pard c})",
+             "\\intbl\\f0\\fs24 a\\tab b\\cell\\row\r\n\\pard c\\par }\r\n"},
         Case{R"({\rtf1\pard\intbl\page\trowd\cellx9\cell\row\page\trowd\cellx9\cell\row\pard a})",
              "\\intbl\\page\\trowd\\cellx9\\f0\\fs24\\cell\\trowd\\cellx9\\row\r\n"
              "\\page\\trowd\\cellx9\\cell\\trowd\\cellx9\\row\r\n\\pard a\\par }\r\n"},
