@@ -26,7 +26,7 @@ class Editor : UserBench {
 
   void Play() {
     try {
-      surface.LoadFile(u"note.rtf", FileType::Rtf);
+      surface.LoadFile(u"note.rtf", FileType::Rtf, {});
     } catch (const RuntimeError&) {
       return;
     }
