@@ -52,7 +52,7 @@ class Boxes(Desktop):
                 box = self.box(title)
                 owner = self.run_x("xprop", "-id", box, "-notype", "WM_TRANSIENT_FOR")
                 self.assertEqual(int(owner.split()[-1], 16), int(dialog, 16))
-                self.keys(box, "Return")
+                self.keys(box, "Escape" if title == "notes_host" else "Return")
                 self.wait(lambda: self.active() == "Format Paragraphe - Style", "the dialog's turn")
                 self.run_x("xdotool", "key", "Tab", "z", "Tab")
         self.keys(self.note, "ctrl+End")

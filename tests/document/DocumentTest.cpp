@@ -77,6 +77,15 @@ TEST(Document, RefusesToOutgrowAPosition) {
   EXPECT_THROW(document.Replace(0, 0, PlainFragment(u"x", 0, 0)), RuntimeError);
 }
 
+TEST(InternTable, AnswersTheDefaultWhenFull) {
+  InternTable<std::uint32_t> table;
+  const std::uint32_t most = InternTable<std::uint32_t>::kMost;
+  for (std::uint32_t i = 0; i < most; ++i) ASSERT_EQ(table.Intern(i * 7), i);
+  EXPECT_EQ(table.Intern(1), 0u);
+  EXPECT_EQ(table.Intern(7 * 5), 5u);
+  EXPECT_EQ(table.Size(), most);
+}
+
 TEST(LeafText, HoldsBytesUntilOneIsMissing) {
   const auto unitSize = [](const LeafText& text) {
     return text.View().Visit([](auto own) { return sizeof(own[0]); });

@@ -207,11 +207,6 @@ cat Z:\etc\passwd
             self.assertEqual(done.returncode, 0, done.stderr)
             self.assertEqual(list(pathlib.Path(folder).iterdir()), [])
 
-    def test_run_time_of_a_long_script(self):
-        out, code, _ = run(OPEN + "show\n" + "type Co_Rtf.Bx_RTF x\n" * 5000 +
-                           "get Co_Rtf.Bx_RTF.SelStart\n")
-        self.assertEqual((out, code), (["5000"], 0))
-
 
 if __name__ == "__main__":
     unittest.main()

@@ -2,7 +2,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QMenu>
-#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -169,31 +168,6 @@ TEST_F(WindowTest, TimersTickWhileWaiting) {
   timer.Enabled(true);
   platform.windows.RunUntil([&] { return ticks == 3; });
   EXPECT_EQ(ticks, 3);
-}
-
-struct BoxCase {
-  MessageBox::Buttons buttons;
-  std::vector<Qt::Key> keys;
-  MessageBox::Answer answer;
-};
-
-TEST_F(WindowTest, BoxesAnswerToKeysAndAQuestionHasNoEscape) {
-  using Answer = MessageBox::Answer;
-  const BoxCase cases[] = {
-      {MessageBox::Buttons::Ok, {Qt::Key_Escape}, Answer::Ok},
-      {MessageBox::Buttons::YesNo, {Qt::Key_Return}, Answer::Yes},
-      {MessageBox::Buttons::YesNo, {Qt::Key_Escape, Qt::Key_Return}, Answer::Yes}};
-  for (const BoxCase& c : cases) {
-    QTimer::singleShot(0, [&] {
-      const QPointer<QWidget> box = QApplication::activeModalWidget();
-      for (const Qt::Key key : c.keys) {
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-        ASSERT_TRUE(box && box->isVisible());
-        QApplication::sendEvent(box, &press);
-      }
-    });
-    EXPECT_EQ(form->Ask({.text = u"Oui ?", .buttons = c.buttons}), c.answer);
-  }
 }
 
 TEST_F(WindowTest, AHugeFormHasAWindowOfBoundedSize) {
