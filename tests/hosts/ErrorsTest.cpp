@@ -28,11 +28,9 @@ TEST(ErrorsTest, AColourTextThatIsNoNumberNamesItsProperty) {
   const struct {
     std::u16string_view text;
     int number;
-  } cases[] = {
-      {u"", 13},          {u"rouge", 13},      {u"1 2", 13},       {u" ", 13},
-      {u"2147483648", 6}, {u"-2147483649", 6}, {u"4294967295", 6}, {u"1e400", 6},
-      {u" 12632256 ", 0}, {u"2147483647", 0},  {u"-1", 0},         {u"\t255", 0},
-  };
+  } cases[] = {{u"", 13},          {u"rouge", 13},      {u"1 2", 13},       {u" ", 13},
+               {u"2147483648", 6}, {u"-2147483649", 6}, {u"4294967295", 6}, {u"1e400", 6},
+               {u" 12632256 ", 0}, {u"2147483647", 0},  {u"-1", 0},         {u"\t255", 0}};
   EXPECT_EQ(Raised([&] { control.ShowMicroEdit(); }), Error(13, u"pCouleurFen"));
   for (const auto& c : cases) {
     control.pCouleurFen(c.text);
@@ -67,8 +65,7 @@ TEST(ErrorsTest, AnotherThreadIsRefusedAtOnceByEveryMember) {
       {u"pModelWord", [&] { control.pModelWord(u"x"); }},
       {u"pStrOrchm", [&] { control.pStrOrchm(u"x"); }},
       {u"pStrOrchm", [&] { control.pStrOrchm(); }},
-      {u"ShowMicroEdit", [&] { control.ShowMicroEdit(1); }},
-  };
+      {u"ShowMicroEdit", [&] { control.ShowMicroEdit(1); }}};
   for (const auto& [name, call] : members) {
     Error raised;
     std::thread([&, &call = call] { raised = Raised(call); }).join();

@@ -83,6 +83,11 @@ class PilotTest : public testing::Test {
     return out.str();
   }
 
+  static void Arm(Timer& timer, int interval) {
+    timer.Interval(interval);
+    timer.Enabled(true);
+  }
+
   std::string log;
   std::ostringstream out;
   std::ostringstream err;
@@ -106,8 +111,7 @@ TEST_F(PilotTest, AnErrorAtAnEventsEdgeIsPrintedByItsCommandAndShownOnce) {
   first.Show();
   first.Clicked = [] { throw RuntimeError(ErrorNumber::TypeMismatch); };
   first.fast.Tick = [] { throw RuntimeError(ErrorNumber::TypeMismatch); };
-  first.fast.Interval(10);
-  first.fast.Enabled(true);
+  Arm(first.fast, 10);
   EXPECT_EQ(Run("click Co_Trouver.lbl\nget Co_Trouver.Left\nboxes\ntick 25\n"),
             kError + "0\n" +
                 "[{\"text\":\"Erreur d'exécution 13\\r\\nIncompatibilité de type\",\"title\":\"\","
@@ -149,11 +153,9 @@ TEST_F(PilotTest, AnActActivatesItsWindowFirst) {
 TEST_F(PilotTest, TimersTickInTheOrderOfTime) {
   const auto note = [&](const char* what) { return [this, what] { log += what; }; };
   first.slow.Tick = note("s");
-  first.slow.Interval(20);
-  first.slow.Enabled(true);
+  Arm(first.slow, 20);
   first.fast.Tick = note("f");
-  first.fast.Interval(10);
-  first.fast.Enabled(true);
+  Arm(first.fast, 10);
   first.Load();
   Run("tick 9\ntick 1\ntick 15\ntick 5\n");
   EXPECT_TRUE(log.starts_with("fsffend;")) << log;
@@ -165,8 +167,7 @@ TEST_F(PilotTest, ATimerArmedAnewInItsTickCountsFromThen) {
     first.fast.Interval(first.fast.Interval() + 10);
     if (first.fast.Interval() == 40) first.fast.Enabled(false);
   };
-  first.fast.Interval(10);
-  first.fast.Enabled(true);
+  Arm(first.fast, 10);
   first.Load();
   Run("tick 59\ntick 1\ntick 1000\n");
   EXPECT_TRUE(log.starts_with("fffend;")) << log;
@@ -181,10 +182,8 @@ TEST_F(PilotTest, TickingInsideATickGoesOnFromThere) {
     }
   };
   first.fast.Tick = [&] { log += "f"; };
-  first.slow.Interval(20);
-  first.slow.Enabled(true);
-  first.fast.Interval(15);
-  first.fast.Enabled(true);
+  Arm(first.slow, 20);
+  Arm(first.fast, 15);
   first.Load();
   Run("tick 40\n");
   EXPECT_TRUE(log.starts_with("fsffend;")) << log;

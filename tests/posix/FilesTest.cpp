@@ -205,16 +205,14 @@ TEST_F(FilesTest, AnothersFileAndAClosedFolderAreWrittenInPlace) {
 TEST_F(FilesTest, AddsLinesBehindTheLastOne) {
   const struct {
     std::string old, lines, whole;
-  } kCases[] = {
-      {"(none)", "", ""},
-      {"(none)", "b\r\n", "b\r\n"},
-      {"", "b\r\n", "b\r\n"},
-      {"a\r\n", "b\r\n", "a\r\nb\r\n"},
-      {"a\n", "b\r\n", "a\nb\r\n"},
-      {"a", "b\r\n", "a\r\nb\r\n"},
-      {"a\r", "b\r\n", "a\r\nb\r\n"},
-      {"a", "", "a"},
-  };
+  } kCases[] = {{"(none)", "", ""},
+                {"(none)", "b\r\n", "b\r\n"},
+                {"", "b\r\n", "b\r\n"},
+                {"a\r\n", "b\r\n", "a\r\nb\r\n"},
+                {"a\n", "b\r\n", "a\nb\r\n"},
+                {"a", "b\r\n", "a\r\nb\r\n"},
+                {"a\r", "b\r\n", "a\r\nb\r\n"},
+                {"a", "", "a"}};
   fs::create_symlink("list.txt", Native("link.txt"));
   for (const auto& c : kCases) {
     fs::remove(Native("list.txt"));
@@ -292,18 +290,16 @@ TEST_F(FilesTest, FailuresHaveTheirNumbers) {
   const struct {
     std::u16string path;
     int read, look, write;
-  } kCases[] = {
-      {u"C:\\missing", 53, 53, 0},
-      {u"C:\\none\\missing", 76, 76, 76},
-      {u"C:\\file\\missing", 76, 76, 76},
-      {u"C:\\file\\", 76, 76, 76},
-      {u"C:\\folder", 75, 53, 75},
-      {u"C:\\pipe", 75, 53, 75},
-      {u"C:\\none\\", 76, 76, 76},
-      {u"D:\\file", 76, 76, 76},
-      {u"", 76, 76, 76},
-      {u"C:\\" + std::u16string(300, u'x'), 75, 75, 75},
-  };
+  } kCases[] = {{u"C:\\missing", 53, 53, 0},
+                {u"C:\\none\\missing", 76, 76, 76},
+                {u"C:\\file\\missing", 76, 76, 76},
+                {u"C:\\file\\", 76, 76, 76},
+                {u"C:\\folder", 75, 53, 75},
+                {u"C:\\pipe", 75, 53, 75},
+                {u"C:\\none\\", 76, 76, 76},
+                {u"D:\\file", 76, 76, 76},
+                {u"", 76, 76, 76},
+                {u"C:\\" + std::u16string(300, u'x'), 75, 75, 75}};
   for (const auto& c : kCases) {
     SCOPED_TRACE(testing::PrintToString(c.path));
     EXPECT_FALSE(files_.Exists(c.path));

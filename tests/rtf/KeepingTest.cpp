@@ -183,12 +183,14 @@ TEST(Keeping, AnEditLeavesTextOnItsPageAndInItsRow) {
        u"",
        "\\intbl\\f0\\fs24\\cell b\\cell\\trowd\\cellx9\\row\r\n\\pard c\\par }\r\n"},
       {R"({\rtf1\pard a\par\page b})", {3, 3}, u"x", "\\f0\\fs24 a\\par\r\n\\page xb\\par }\r\n"},
-      {R"({\rtf1\pard a\page b})", {0, 1}, u"", "?"}};
+      {R"({\rtf1\pard a\page b})", {0, 1}, u"", "\\page\\f0\\fs24\\par\r\nb\\par }\r\n"}};
   for (const auto& c : cases) {
     Document document = Read(c.source);
     document.Replace(c.edited.start, c.edited.end,
                      PlainFragment(c.put, document.CharFormatAt(0), 0));
-    EXPECT_EQ(Body(WriteRtf(document)), c.body);
+    const std::string written = WriteRtf(document);
+    EXPECT_EQ(Body(written), c.body);
+    EXPECT_EQ(TextOf(Read(written)), TextOf(document));
   }
 }
 

@@ -1,17 +1,15 @@
 // Every delimiter of a unit of text, every separator of proper case, on a surface without a window.
 #include <gtest/gtest.h>
 
-#include "backends/headless/FixedBreaker.h"
 #include "base/ErrorOf.h"
 #include "selection/LetterCase.h"
 #include "selection/TextUnits.h"
-#include "surface/DocumentSurface.h"
-#include "surface/Fakes.h"
+#include "surface/UserBench.h"
 
 namespace lumenote {
 namespace {
 
-class UnitsTest : public testing::Test {
+class UnitsTest : public testing::Test, protected UserBench {
  protected:
   /// What is selected when `select` has run on that selection.
   std::u16string Selected(void (*select)(RichTextSurface&), std::u16string_view text,
@@ -22,11 +20,6 @@ class UnitsTest : public testing::Test {
     select(surface);
     return surface.SelText();
   }
-
-  MemoryClipboard clipboard;
-  MemoryFiles files;
-  FixedBreaker breaker{5000};
-  DocumentSurface surface{clipboard, files, breaker};
 };
 
 TEST_F(UnitsTest, EachDelimiterEndsItsUnitsOnBothSides) {
