@@ -21,31 +21,20 @@ namespace lumenote {
 using Texts = std::vector<std::u16string>;
 
 /// Answers each box as `answer` says, which may act as a host or a program would meanwhile.
-class AnsweringBackend : public Backend {
+class AnsweringBackend : public HeadlessBackend {
  public:
-  std::unique_ptr<FormPeer> Realise(Form& form) override { return headless_.Realise(form); }
-  std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
-                                               Files& files) override {
-    return headless_.MakeSurface(box, clipboard, files);
-  }
   MessageBox::Answer Show(const MessageBox& box, Form*) override {
     shown.push_back(box.text);
     return answer(box);
   }
-  std::optional<FontChoice> ChooseFont(const FontChoice&, Form*) override { return {}; }
   void RunUntil(const std::function<bool()>& done) override {
-    while (!done()) headless_.Advance(RoundTrip::kInterval);
+    while (!done()) Advance(RoundTrip::kInterval);
   }
-  void Arm(Timer& timer) override { headless_.Arm(timer); }
-  void Disarm(Timer& timer) override { headless_.Disarm(timer); }
   /// Lets so many ticks of a round trip pass.
-  void Tick(int count) { headless_.Advance(count * RoundTrip::kInterval); }
+  void Tick(int count) { Advance(count * RoundTrip::kInterval); }
 
   Texts shown;
   std::function<MessageBox::Answer(const MessageBox&)> answer = DefaultAnswer;
-
- private:
-  HeadlessBackend headless_;
 };
 
 /// The disk below, but for what a test lets happen before an operation on a path.

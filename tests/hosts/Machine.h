@@ -17,16 +17,11 @@ namespace lumenote {
 
 /// Windows of the headless backend. While a box is up one event of the host comes, then the box is
 /// answered with its default button; a wait lets them come until it ends.
-class EventfulBackend final : public Backend {
+class EventfulBackend final : public HeadlessBackend {
  public:
   std::deque<std::function<void()>> events;
   std::vector<std::u16string> boxes;  // their texts
 
-  std::unique_ptr<FormPeer> Realise(Form& form) override { return inner_.Realise(form); }
-  std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
-                                               Files& files) override {
-    return inner_.MakeSurface(box, clipboard, files);
-  }
   MessageBox::Answer Show(const MessageBox& box, Form*) override {
     boxes.push_back(box.text);
     RunEvent();
@@ -40,10 +35,6 @@ class EventfulBackend final : public Backend {
     while (!done())
       if (!RunEvent()) throw std::logic_error("waits for ever");
   }
-  void Arm(Timer& timer) override { inner_.Arm(timer); }
-  void Disarm(Timer& timer) override { inner_.Disarm(timer); }
-
-  void Advance(int milliseconds) { inner_.Advance(milliseconds); }
 
  private:
   bool RunEvent() {
@@ -53,8 +44,6 @@ class EventfulBackend final : public Backend {
     event();
     return true;
   }
-
-  HeadlessBackend inner_;
 };
 
 struct Machine {

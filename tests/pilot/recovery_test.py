@@ -1,59 +1,12 @@
 #!/usr/bin/env python3
 """What is left of an edited note when the program dies.   usage: recovery_test.py LUMENOTE"""
-import json
-import os
-import pathlib
 import shutil
-import subprocess
-import sys
-import tempfile
 import unittest
 
-TOOL = os.path.abspath(sys.argv.pop(1))
+from program import SandboxTest
 
 
-class Program:
-    """A script that is carried out line by line."""
-
-    def __init__(self, root):
-        self.process = subprocess.Popen([TOOL, "pilot", "--root", root], stdin=subprocess.PIPE,
-                                        stdout=subprocess.PIPE, text=True, encoding="utf-8")
-
-    def do(self, *lines):
-        """The answer to the last line, which has one."""
-        self.process.stdin.write("".join(line + "\n" for line in lines))
-        self.process.stdin.flush()
-        return json.loads(self.process.stdout.readline())
-
-    def open(self, note):
-        return self.do("host pCouleurFen \"0\"", "host pStrOrchm " + json.dumps(note), "show",
-                       "get Session.Dirty")
-
-    def type(self, text, wait=10000):
-        return self.do("type Co_Rtf.Bx_RTF " + json.dumps(text), f"tick {wait}",
-                       "get Co_Rtf.Bx_RTF.Text")
-
-    def kill(self):
-        self.process.kill()
-        self.end()
-
-    def end(self):
-        self.process.stdin.close()
-        self.process.stdout.close()
-        self.process.wait(60)
-
-
-class Recovery(unittest.TestCase):
-    def setUp(self):
-        self.temporary = tempfile.TemporaryDirectory()
-        self.addCleanup(self.temporary.cleanup)
-        self.root = pathlib.Path(self.temporary.name)
-
-    def start(self):
-        program = Program(str(self.root))
-        self.addCleanup(program.kill)
-        return program
-
+class Recovery(SandboxTest):
     def copies(self):
         return sorted(path.read_bytes() for path in self.root.glob("state/*/*.note"))
 
@@ -90,19 +43,15 @@ class Recovery(unittest.TestCase):
         self.assertFalse((self.root / "state").exists())
         program.end()
 
-
-    def documents(self):
-        return {path.name: path.read_bytes() for path in (self.root / "c/Documents").iterdir()}
-
     def found(self, prepare=lambda: None):
         """The boxes that the next start shows."""
         program = self.start()
         program.do("forms")
         prepare()
         program.open("autre")
-        boxes = program.do("boxes")
+        boxes = [text.split("\r\n") for text in program.boxes()]
         program.end()
-        return [box["text"].split("\r\n") for box in boxes]
+        return boxes
 
     def test_the_next_start_makes_rescue_copies_and_tells_once(self):
         (self.root / "c/n").mkdir(parents=True)
@@ -132,9 +81,8 @@ class Recovery(unittest.TestCase):
             program.kill()
         starts = [self.start() for _ in range(4)]
         for program in starts:
-            program.process.stdin.write('host pCouleurFen "0"\nhost pStrOrchm "x"\nshow\nboxes\n')
-            program.process.stdin.flush()
-        boxes = [box for program in starts for box in json.loads(program.process.stdout.readline())]
+            program.tell("host pCouleurFen 0", 'host pStrOrchm "x"', "show", "boxes")
+        boxes = [box for program in starts for box in program.answer()]
         told = [path for box in boxes for path in box["text"].split("\r\n")[2:]]
         self.assertEqual(sorted(told), [f"C:\\Documents\\Secours_{name[-5:]}" for name in names])
         self.assertEqual(len(self.documents()), len(names))

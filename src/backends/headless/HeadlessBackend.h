@@ -12,7 +12,7 @@ namespace lumenote {
 /// Surfaces are laid out with fixed advances. Message boxes are answered with their default button
 /// at once; popup menus are dismissed. Timers tick only while `Advance` is called. Outlives the
 /// windows.
-class HeadlessBackend final : public Backend {
+class HeadlessBackend : public Backend {
  public:
   std::unique_ptr<FormPeer> Realise(Form& form) override;
   std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
