@@ -89,6 +89,7 @@ CoBxRtf::CoBxRtf(Platform& platform)
 CoBxRtf::~CoBxRtf() {
   const auto close = [&] {
     Co_Rtf* editor = parts_->editor.Loaded();
+    if (editor) editor->Values().noteReplaced = true;  // nobody reads it any more
     if (editor && !editor->Unload() && !editor->IsUnloading()) {
       editor->KeepUnsaved();
       editor->Values().closed = true;

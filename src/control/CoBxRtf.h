@@ -25,7 +25,8 @@ class CoBxRtf {
  public:
   /// `platform` outlives the control and the calls of its members that have not returned.
   explicit CoBxRtf(Platform& platform);
-  /// Closes the editor as the user would if it is still open. On the control's thread only.
+  /// Closes the editor as the user would if it is still open; a note in a string that was edited
+  /// becomes a rescue copy, since nobody can read it any more. On the control's thread only.
   ~CoBxRtf();
   CoBxRtf(const CoBxRtf&) = delete;
   CoBxRtf& operator=(const CoBxRtf&) = delete;

@@ -10,6 +10,7 @@ class DirtyFlag {
  public:
   DirtyFlag() = default;
   DirtyFlag(const DirtyFlag& other) : dirty_(other.dirty_) {}
+  DirtyFlag& operator=(const DirtyFlag&) = delete;
   operator bool() const { return dirty_; }
   DirtyFlag& operator=(bool dirty) {
     dirty_ = dirty;

@@ -56,8 +56,8 @@ struct Session {
   bool readOnly = false;
   bool deleted = false;
   bool closed = false;
-  /// The host wrote another note while the editor was open: it waits for the next opening, and
-  /// what the editor holds no longer goes to `note`.
+  /// What the editor holds no longer goes to `note`: the host wrote another one while the editor
+  /// was open, which waits for the next opening, or the control goes.
   bool noteReplaced = false;
 
   // Of the open editor, or of the last one.
@@ -68,6 +68,10 @@ struct Session {
   bool menuBarShown = false;
   std::uint64_t changes = 0;  // of the content since it came in
   FileState onDisk;           // the file at the document path
+
+  /// A string note was edited and cannot be given back; it may be clean, since a conversion or a
+  /// reload clears the dirty flag.
+  bool CannotReturn() const { return !fileMode && noteReplaced && changes > 0; }
 
   /// Work files that editors which have closed have left to programs.
   std::vector<WorkSent> workLeft;

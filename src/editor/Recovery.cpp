@@ -78,7 +78,8 @@ void Recovery::Commit() {
 }
 
 void Recovery::WriteNow() {
-  if (!editor_.Values().dirty) return;
+  const Session& session = editor_.Values();
+  if (!session.dirty && !session.CannotReturn()) return;
   IgnoringErrors([this] {
     Begin();
     while (writing_->Step()) continue;

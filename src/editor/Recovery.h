@@ -26,7 +26,7 @@ class Recovery {
   void Edited();
   /// Nothing of the note needs a copy any more.
   void Drop();
-  /// Brings the copy of a dirty note up to date at once.
+  /// Brings the copy of a note that is stored nowhere else up to date at once.
   void WriteNow();
 
  private:

@@ -46,12 +46,8 @@ Fermeture CloseFile(EditorWindow& editor) {
   return Fermeture::Complete;
 }
 
-/// The host has another note now, so that this one can only go to a rescue copy; what was edited
-/// counts though a conversion or a reload has cleared the dirty flag since.
 bool KeepUnreturned(EditorWindow& editor) {
-  const Session& session = editor.Values();
-  const bool lost = session.noteReplaced && session.changes > 0;
-  return !lost || GarderNote(editor, Cause::EnregistrementImpossible);
+  return !editor.Values().CannotReturn() || GarderNote(editor, Cause::EnregistrementImpossible);
 }
 
 Fermeture CloseString(EditorWindow& editor) {
@@ -99,8 +95,7 @@ Fermeture TerminerEdition(EditorWindow& editor) {
     editor.AskOver({.text = u"Attribut 'Lecture Seule'\r\nAbandon des modifications",
                     .title = u"Attention",
                     .icon = MessageBox::Icon::Exclamation});
-    const bool kept = session.fileMode || KeepUnreturned(editor);
-    return kept ? Fermeture::SansGeometrie : Fermeture::Annulee;
+    return KeepUnreturned(editor) ? Fermeture::SansGeometrie : Fermeture::Annulee;
   }
   return session.fileMode ? CloseFile(editor) : CloseString(editor);
 }

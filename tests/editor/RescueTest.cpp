@@ -160,6 +160,14 @@ TEST_F(RescueTest, AControlThatGoesKeepsItsNote) {
   second.reset();
   EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "deux avant");
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "un avant");
+
+  second = std::make_unique<CoBxRtf>(platform);
+  second->pCouleurFen(u"0");
+  second->pStrOrchm(u"note");
+  second->ShowMicroEdit();
+  second->Parts().editor.Get().Document().SelText(u"ma ");
+  second.reset();
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_TmpFlStr.txt"), "ma note");
 }
 
 TEST_F(RescueTest, AnErrorInTheClosingDecisionKeepsTheWindow) {

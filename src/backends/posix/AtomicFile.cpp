@@ -61,7 +61,7 @@ void AtomicFile::CommitAsNew() {
   Flush();
   const int error = RenameWithoutReplacing(name_, target_);
   if (error == EEXIST) throw RuntimeError(ErrorNumber::PermissionDenied);
-  if (error != 0) throw RemovalError(error, target_);
+  if (error != 0) throw AccessError(error, target_);
   Committed();
 }
 

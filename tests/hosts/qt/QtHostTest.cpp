@@ -158,8 +158,12 @@ TEST(QtHostTest, TheControlGoesWhileItWaitsOrAsks) {
   control = MakeControl(platform);
   control->ShowMicroEdit();
   Edit(*control, u"ma ");
-  AnswerBox([&] { control.reset(); });
+  AnswerBox([&] {
+    control.reset();
+    AnswerBox();  // tells of the rescue copy
+  });
   EditorOf(*control).UserClose();
+  EXPECT_TRUE(QDir::home().exists("Secours_TmpFlStr.txt"));
   EXPECT_TRUE(QApplication::topLevelWidgets().empty() || !QApplication::activeModalWidget());
 }
 
