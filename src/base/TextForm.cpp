@@ -10,18 +10,8 @@ namespace lumenote {
 
 namespace {
 
-std::string_view MarkOf(TextForm form) {
-  switch (form) {
-    case TextForm::MarkedUtf8:
-      return "\xEF\xBB\xBF";
-    case TextForm::LittleUtf16:
-      return "\xFF\xFE";
-    case TextForm::BigUtf16:
-      return "\xFE\xFF";
-    default:
-      return {};
-  }
-}
+constexpr std::size_t kLongestMark = 3;
+constexpr std::size_t kLongestUtf8 = 4;
 
 bool IsAscii(std::string_view bytes) {
   return std::ranges::none_of(bytes, [](char c) { return (c & 0x80) != 0; });
@@ -32,6 +22,17 @@ bool HasC1Control(std::string_view bytes) {
   for (std::size_t at = 0; (at = bytes.find('\xC2', at)) != bytes.npos; ++at)
     if (static_cast<unsigned char>(bytes[at + 1]) < 0xA0) return true;
   return false;
+}
+
+/// Whether `FormOfText` takes them for UTF-8, be they more than ASCII.
+bool IsPlainUtf8(std::string_view bytes) { return IsUtf8(bytes) && !HasC1Control(bytes); }
+
+/// Where the last character of UTF-8 begins that more bytes could belong to, else the end.
+std::size_t OpenEnd(std::string_view bytes) {
+  const std::size_t first = bytes.size() - std::min(bytes.size(), kLongestUtf8 - 1);
+  for (std::size_t at = bytes.size(); at-- > first;)
+    if (static_cast<unsigned char>(bytes[at]) >= 0xC0) return at;
+  return bytes.size();
 }
 
 /// Whether no surrogate stands alone.
@@ -65,26 +66,54 @@ std::string EncodeUtf16(std::u16string_view text, std::size_t low) {
   return bytes;
 }
 
-std::string EncodeWithoutMark(std::u16string_view text, TextForm form) {
+}  // namespace
+
+std::string_view MarkOf(TextForm form) {
   switch (form) {
-    case TextForm::Windows1252:
-      return Encode1252(text);
+    case TextForm::MarkedUtf8:
+      return "\xEF\xBB\xBF";
     case TextForm::LittleUtf16:
-      return EncodeUtf16(text, 0);
+      return "\xFF\xFE";
     case TextForm::BigUtf16:
-      return EncodeUtf16(text, 1);
+      return "\xFE\xFF";
     default:
-      return ToUtf8(text);
+      return {};
   }
 }
 
-}  // namespace
+void FormOfPieces::Add(std::string_view bytes) {
+  start_ += bytes.substr(0, kLongestMark - start_.size());
+  std::string joined;
+  if (!open_.empty()) bytes = joined = open_ + std::string(bytes);
+  const std::size_t end = OpenEnd(bytes);
+  open_ = bytes.substr(end);
+  bytes = bytes.substr(0, end);
+  ascii_ = ascii_ && IsAscii(bytes);
+  utf8_ = utf8_ && IsPlainUtf8(bytes);
+}
+
+TextForm FormOfPieces::Form() const {
+  for (const TextForm form : {TextForm::MarkedUtf8, TextForm::LittleUtf16, TextForm::BigUtf16})
+    if (start_.starts_with(MarkOf(form))) return form;
+  const bool utf8 = utf8_ && IsPlainUtf8(open_) && !(ascii_ && open_.empty());
+  return utf8 ? TextForm::Utf8 : TextForm::Windows1252;
+}
 
 TextForm FormOfText(std::string_view bytes) {
-  for (const TextForm form : {TextForm::MarkedUtf8, TextForm::LittleUtf16, TextForm::BigUtf16})
-    if (bytes.starts_with(MarkOf(form))) return form;
-  const bool utf8 = !IsAscii(bytes) && IsUtf8(bytes) && !HasC1Control(bytes);
-  return utf8 ? TextForm::Utf8 : TextForm::Windows1252;
+  FormOfPieces pieces;
+  pieces.Add(bytes);
+  return pieces.Form();
+}
+
+void FormForPieces::Add(std::u16string_view text) {
+  unicode_ = unicode_ && IsUnicode(text);
+  fits_ = fits_ && Fits1252(text);
+  if (fits_) bytes_.Add(Encode1252(text));
+}
+
+TextForm FormForPieces::Form() const {
+  if (fits_ && bytes_.Form() == TextForm::Windows1252) return TextForm::Windows1252;
+  return unicode_ ? TextForm::MarkedUtf8 : TextForm::LittleUtf16;
 }
 
 TextForm FormFor(std::u16string_view text) {
@@ -106,19 +135,33 @@ std::u16string DecodeText(std::string_view bytes, TextForm form) {
   }
 }
 
+std::string EncodeWithoutMark(std::u16string_view text, TextForm form) {
+  switch (form) {
+    case TextForm::Windows1252:
+      return Encode1252(text);
+    case TextForm::LittleUtf16:
+      return EncodeUtf16(text, 0);
+    case TextForm::BigUtf16:
+      return EncodeUtf16(text, 1);
+    default:
+      return ToUtf8(text);
+  }
+}
+
 std::string EncodeText(std::u16string_view text, TextForm form) {
   return std::string(MarkOf(form)) + EncodeWithoutMark(text, form);
 }
 
 std::string EncodeTextFile(std::u16string_view text, TextForm form) {
-  const bool utf8 = form == TextForm::Utf8 || form == TextForm::MarkedUtf8;
-  const TextForm wanted = utf8 ? form : TextForm::Windows1252;
-  const bool holds = utf8 ? IsUnicode(text) : Fits1252(text);
-  if (holds) {
-    std::string bytes = EncodeText(text, wanted);
-    if (FormOfText(bytes) == wanted || IsAscii(bytes)) return bytes;
+  if (form != TextForm::Utf8 && form != TextForm::MarkedUtf8) {
+    FormForPieces pieces;
+    pieces.Add(text);
+    return EncodeText(text, pieces.Form());
   }
-  return EncodeText(text, IsUnicode(text) ? TextForm::MarkedUtf8 : TextForm::LittleUtf16);
+  if (!IsUnicode(text)) return EncodeText(text, TextForm::LittleUtf16);
+  std::string bytes = EncodeText(text, form);
+  const bool known = FormOfText(bytes) == form || IsAscii(bytes);
+  return known ? bytes : EncodeText(text, TextForm::MarkedUtf8);
 }
 
 }  // namespace lumenote

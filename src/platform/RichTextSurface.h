@@ -132,7 +132,7 @@ class RichTextSurface {
   virtual std::string SaveFile(std::u16string_view path, FileType type) = 0;
   /// What `SaveFile` would write.
   virtual std::string FileBytes(FileType type) const = 0;
-  /// The same, handed to `sink` bit by bit.
+  /// The same, handed to `sink` bit by bit; plain text as though no file had been loaded.
   using ContentSink = std::function<void(std::string_view)>;
   virtual std::unique_ptr<ContentWriting> WriteContent(FileType type, ContentSink sink) const = 0;
 

@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/Strings.h"
-#include "base/Windows1252.h"
+#include "base/TextForm.h"
 #include "rtf/RtfWriting.h"
 
 namespace lumenote {
 namespace {
 
 constexpr Position kUnits = 1 << 14;  // of text, a step
-constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
 class RtfContent final : public ContentWriting {
  public:
@@ -28,7 +26,7 @@ class RtfContent final : public ContentWriting {
   RtfWriting writing_;
 };
 
-/// Goes through the text twice: first it looks whether page 1252 has all characters.
+/// Goes through the text twice: first it looks which form will be read as what it is.
 class TextContent final : public ContentWriting {
  public:
   TextContent(const Document& document, ByteSink sink)
@@ -37,14 +35,15 @@ class TextContent final : public ContentWriting {
   bool Step() override {
     const std::u16string text = Piece();
     if (looking_)
-      fits_ = fits_ && Fits1252(text);
+      pieces_.Add(text);
     else
-      sink_(fits_ ? Encode1252(text) : ToUtf8(text));
+      sink_(EncodeWithoutMark(text, form_));
     if (at_ < document_.Length()) return true;
     return std::exchange(looking_, false) && Begin();
   }
 
  private:
+  /// Ends between characters.
   std::u16string Piece() {
     const Position from = at_;
     at_ = document_.After(from + std::min(kUnits, document_.Length() - from));
@@ -52,7 +51,8 @@ class TextContent final : public ContentWriting {
   }
   bool Begin() {
     at_ = 0;
-    if (!fits_) sink_(kMark);
+    form_ = pieces_.Form();
+    sink_(MarkOf(form_));
     return true;
   }
 
@@ -60,7 +60,8 @@ class TextContent final : public ContentWriting {
   ByteSink sink_;
   Position at_ = 0;
   bool looking_ = true;
-  bool fits_ = true;
+  FormForPieces pieces_;
+  TextForm form_ = TextForm::Windows1252;
 };
 
 }  // namespace

@@ -6,12 +6,11 @@ usage: ends_test.py MICROEDIT    status 77 when the desktop cannot be had
 import os
 import signal
 import sys
-import time
 
 from rig import Desktop, main
 
 MICROEDIT = os.path.abspath(sys.argv.pop(1))
-COPY_AGE = 11  # seconds
+COPIES = ".local/state/lumenote/owner-*/*.note"
 
 
 class Ends(Desktop):
@@ -21,25 +20,30 @@ class Ends(Desktop):
         self.note = self.home / "note.txt"
         self.note.write_text("avant")
 
+    def launch(self):
+        return self.start(MICROEDIT, "--title", "Note", str(self.note))
+
     def open(self):
-        program = self.start(MICROEDIT, "--title", "Note", str(self.note))
-        return program, self.wait(lambda: self.window("Note"), "the editor")
+        program = self.launch()
+        return program, self.front("Note")
 
     def rescued(self):
         return [path.read_text() for path in sorted((self.home / "Documents").iterdir())]
 
     def starts_again(self):
         """The box is there once, and the note's file is as it was."""
-        program, _ = self.open()
-        box = self.wait(lambda: self.window("microedit"), "the box")
+        program = self.launch()
+        box = self.front("microedit")
         self.assertEqual(self.rescued(), ["xavant"])
         self.assertEqual(self.note.read_text(), "avant")
         self.keys(box, "Return")
         self.wait(lambda: not self.window("microedit"), "the end of the box")
         program.kill()
         program.wait()
-        self.open()
-        time.sleep(1)
+        self.wait(lambda: not self.window("Note"), "the end of the editor")
+        _, editor = self.open()
+        self.keys(editor, "ctrl+f")  # comes behind any box
+        self.front("Trouver")
         self.assertIsNone(self.window("microedit"))
         self.assertEqual(self.rescued(), ["xavant"])
 
@@ -47,7 +51,7 @@ class Ends(Desktop):
         program, editor = self.open()
         self.type(editor, "x")
         self.keys(editor, "ctrl+f")  # comes behind the text
-        self.wait(lambda: self.window("Trouver"), "the find dialog")
+        self.front("Trouver")
         return program
 
     def check_signal(self, number):
@@ -73,7 +77,7 @@ class Ends(Desktop):
 
     def test_a_crash(self):
         program = self.edit()
-        time.sleep(COPY_AGE)
+        self.wait(lambda: list(self.home.glob(COPIES)), "the copy")
         program.kill()
         program.wait()
         self.starts_again()
@@ -83,8 +87,7 @@ class Ends(Desktop):
         self.started[0].kill()
         program.wait(60)
         self.env["DISPLAY"] = self.start_server()
-        self.start("openbox")
-        self.wait(lambda: "0x" in self.run_x("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        self.start_window_manager()
         self.starts_again()
 
 

@@ -7,7 +7,8 @@
 //   read N          closes the editor of note N; answers with what the host gets back
 //   text N          the text on the surface; "rtf N" its source, "selected N" what is selected,
 //                   "undo N" the kind of the step that would be undone, "ontop N" whether the
-//                   editor takes itself for the topmost window
+//                   editor takes itself for the topmost window, "focus N" the control that has the
+//                   keyboard in its active window, "nobody" without one
 //   quit            QApplication::quit()
 //
 // Each line is answered by one, "ok" where there is nothing to tell, line ends as "\n". A line that
