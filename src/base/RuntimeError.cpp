@@ -14,6 +14,8 @@ const char16_t* DescriptionOf(ErrorNumber number) {
       return u"Argument ou appel de procédure incorrect";
     case ErrorNumber::Overflow:
       return u"Dépassement de capacité";
+    case ErrorNumber::OutOfMemory:
+      return u"Mémoire insuffisante";
     case ErrorNumber::TypeMismatch:
       return u"Incompatibilité de type";
     case ErrorNumber::Internal:

@@ -1,5 +1,6 @@
 // Run-time errors: the classic numbers of the platform with a French description.
 #pragma once
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -9,6 +10,7 @@ namespace lumenote {
 enum class ErrorNumber : int {
   InvalidArgument = 5,
   Overflow = 6,
+  OutOfMemory = 7,
   TypeMismatch = 13,
   Internal = 51,
   FileNotFound = 53,
@@ -44,6 +46,16 @@ class RuntimeError : public std::runtime_error {
   std::u16string description_;
   std::u16string member_;
 };
+
+/// Runs a statement and makes a run-time error of a failed allocation.
+template <class Statement>
+void WithMemoryErrors(Statement statement) {
+  try {
+    statement();
+  } catch (const std::bad_alloc&) {
+    throw RuntimeError(ErrorNumber::OutOfMemory);
+  }
+}
 
 /// Runs one statement whose run-time error is ignored; the caller goes on with its next one.
 /// Returns whether the statement went through.

@@ -23,6 +23,12 @@ bool IsReadOnlyAccess(std::u16string_view access) {
   return lower == u"readonly" || lower == u"lectureseule";
 }
 
+[[noreturn]] void RaiseIn(std::u16string_view member, ErrorNumber number) {
+  RuntimeError error(number);
+  error.Member(member);
+  throw error;
+}
+
 /// Runs the body of one member; what it raises is a run-time error that names the member.
 template <class Body>
 auto Named(std::u16string_view member, Body body) {
@@ -31,10 +37,10 @@ auto Named(std::u16string_view member, Body body) {
   } catch (RuntimeError& error) {
     error.Member(member);
     throw;
+  } catch (const std::bad_alloc&) {
+    RaiseIn(member, ErrorNumber::OutOfMemory);
   } catch (const std::exception&) {
-    RuntimeError error(ErrorNumber::Internal);
-    error.Member(member);
-    throw error;
+    RaiseIn(member, ErrorNumber::Internal);
   }
 }
 

@@ -40,13 +40,16 @@ Position Leaf::BreakAt(Position index) const {
 }
 
 void Leaf::Replace(Position at, Position removed, const Leaf& piece) {
+  // Whatever needs memory comes before the first change.
+  MakeRoom(marks, piece.marks.size());
+  runs.MakeRoomFor(piece.runs);
   const Position gone = BreaksBetween(at, at + removed);
-  if (gone > 0 || !piece.marks.empty()) {
-    const auto first = marks.begin() + BreaksBetween(0, at);
-    marks.insert(marks.erase(first, first + gone), piece.marks.begin(), piece.marks.end());
-  }
-  runs.Replace(at, removed, piece.runs);
+  const Position before = gone > 0 || !piece.marks.empty() ? BreaksBetween(0, at) : 0;
   text.Replace(at, removed, piece.text.View());
+  runs.Replace(at, removed, piece.runs);
+  if (gone == 0 && piece.marks.empty()) return;
+  const auto first = marks.begin() + before;
+  marks.insert(marks.erase(first, first + gone), piece.marks.begin(), piece.marks.end());
 }
 
 Leaf Leaf::Part(Position from, Position to) const {

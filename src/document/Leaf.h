@@ -25,7 +25,8 @@ struct Leaf {
   Position BreaksBetween(Position from, Position to) const;
   /// Where the break number `index` (from 0) begins.
   Position BreakAt(Position index) const;
-  /// Puts `piece` in the place of `removed` units at `at`; the result must fit.
+  /// Puts `piece` in the place of `removed` units at `at`; the result must fit. Nothing has changed
+  /// when an allocation fails.
   void Replace(Position at, Position removed, const Leaf& piece);
   Leaf Part(Position from, Position to) const;
 };

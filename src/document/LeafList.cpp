@@ -1,5 +1,8 @@
 #include "document/LeafList.h"
 
+#include <new>
+#include <utility>
+
 #include "base/RuntimeError.h"
 
 namespace lumenote {
@@ -98,6 +101,16 @@ LeafList LeafList::Replace(Position from, Position to, LeafList piece) {
   if (from == to && piece.Empty()) return {};
   if (piece.Length() > kMost - (Length() - (to - from))) throw RuntimeError(ErrorNumber::Overflow);
   if (auto removed = ReplaceInLeaf(from, to, piece)) return *std::move(removed);
+  LeafList before = *this;
+  try {
+    return ReplaceAcrossLeaves(from, to, std::move(piece));
+  } catch (const std::bad_alloc&) {
+    std::swap(*this, before);
+    throw;
+  }
+}
+
+LeafList LeafList::ReplaceAcrossLeaves(Position from, Position to, LeafList piece) {
   LeafList tail = Split(to);
   LeafList removed = Split(from);
   Append(std::move(piece));
@@ -121,11 +134,18 @@ std::optional<LeafList> LeafList::ReplaceInLeaf(Position from, Position to, cons
   groups_.Change(place.group, [&](LeafGroup& group) {
     group.Change(place.leaf, [&](LeafPointer& own) { Own(own).Replace(at, to - from, inserted); });
   });
-  if (size < kJoinedMost) {
+  if (size < kJoinedMost) Tidy(place);
+  return removed;
+}
+
+// The text is where it belongs already, so crumbs may lie there until there is memory again.
+void LeafList::Tidy(const Place& place) {
+  try {
     JoinLeaves(place.group, place.leaf);
     JoinGroups(place.group);
+  } catch (const std::bad_alloc&) {
+    ForgetPlace();
   }
-  return removed;
 }
 
 Position LeafList::BreaksBefore(Position position) const {
@@ -158,8 +178,9 @@ void LeafList::JoinLeaves(std::size_t group, std::size_t leaf) {
   const auto join = [](LeafGroup& leaves, std::size_t left) {
     if (left + 1 >= leaves.Size()) return;
     if (leaves[left]->Size() + leaves[left + 1]->Size() > kJoinedMost) return;
-    const LeafPointer right = leaves.Take(left + 1);
-    leaves.Change(left, [&](LeafPointer& own) { Own(own).Replace(own->Size(), 0, *right); });
+    leaves.Change(left,
+                  [&](LeafPointer& own) { Own(own).Replace(own->Size(), 0, *leaves[left + 1]); });
+    leaves.Take(left + 1);
   };
   groups_.Change(group, [&](LeafGroup& leaves) {
     join(leaves, leaf);
@@ -172,8 +193,8 @@ void LeafList::JoinGroups(std::size_t group) {
   const auto join = [this](std::size_t left) {
     if (left + 1 >= groups_.Size()) return;
     if (groups_[left].Size() + groups_[left + 1].Size() > kGroupMost) return;
-    LeafGroup right = groups_.Take(left + 1);
-    groups_.Change(left, [&](LeafGroup& own) { own.Append(std::move(right)); });
+    groups_.Change(left, [&](LeafGroup& own) { own.Append(groups_[left + 1]); });
+    groups_.Take(left + 1);
   };
   join(group);
   if (group > 0) join(group - 1);

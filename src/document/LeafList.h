@@ -46,6 +46,8 @@ class LeafCursor {
 /// The leaf found last is remembered, so that what comes next in the same one need not look for it;
 /// therefore even reading one list from two threads at once is not safe (two copies are).
 ///
+/// A change that fails for want of memory leaves the list as it was.
+///
 /// Ranges must lie in 0..`Length()` and cut no break. What would make a list longer than `kMost`
 /// raises Overflow before anything is changed.
 class LeafList {
@@ -105,9 +107,12 @@ class LeafList {
   /// `Replace` when it is a matter of one leaf; nothing otherwise.
   std::optional<LeafList> ReplaceInLeaf(Position from, Position to, const LeafList& piece);
   void CutLeaf(const Place& place, Position at);
+  LeafList ReplaceAcrossLeaves(Position from, Position to, LeafList piece);
   /// Restore the invariants around a leaf or group that has become smaller.
   void JoinLeaves(std::size_t group, std::size_t leaf);
   void JoinGroups(std::size_t group);
+
+  void Tidy(const Place& place);
 
   /// After any change by which leaves come to lie elsewhere.
   void ForgetPlace() { last_ = {}; }

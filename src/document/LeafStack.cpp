@@ -1,16 +1,14 @@
 #include "document/LeafStack.h"
 
-#include <utility>
-
 namespace lumenote {
 
-void LeafStack::Push(LeafList piece) {
+void LeafStack::Push(const LeafList& piece) {
   if (piece.Empty()) return;
   if (lists_.empty() || piece.Length() > LeafList::kMost - lists_.back().Length()) {
-    lists_.push_back(std::move(piece));
+    lists_.push_back(piece);
   } else {
     LeafList& last = lists_.back();
-    last.Replace(last.Length(), last.Length(), std::move(piece));
+    last.Replace(last.Length(), last.Length(), piece);
   }
 }
 

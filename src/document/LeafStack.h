@@ -10,7 +10,8 @@ namespace lumenote {
 /// large one no more than its list of leaves. What was pushed last is popped first, by its length.
 class LeafStack {
  public:
-  void Push(LeafList piece);
+  /// Both leave the stack as it was when an allocation fails.
+  void Push(const LeafList& piece);
   LeafList Pop(Position length);
   void Clear() { lists_.clear(); }
 

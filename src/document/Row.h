@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/Position.h"
+#include "document/MakeRoom.h"
 
 namespace lumenote {
 
@@ -49,6 +50,8 @@ class Row {
   Spot HoldingBreak(Position index) const { return Holding<&Extent::breaks>(index); }
 
   void Insert(std::size_t index, Item item) {
+    MakeRoom(items_, 1);
+    MakeRoom(extents_, 1);
     extents_.insert(At(extents_, index), ExtentOf(item));
     total_ += extents_[index];
     items_.insert(At(items_, index), std::move(item));
@@ -83,6 +86,8 @@ class Row {
     return tail;
   }
   void Append(Row tail) {
+    MakeRoom(items_, tail.Size());
+    MakeRoom(extents_, tail.Size());
     items_.insert(items_.end(), std::make_move_iterator(tail.items_.begin()),
                   std::make_move_iterator(tail.items_.end()));
     extents_.insert(extents_.end(), tail.extents_.begin(), tail.extents_.end());

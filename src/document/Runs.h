@@ -6,6 +6,7 @@
 
 #include "base/Position.h"
 #include "document/Formats.h"
+#include "document/MakeRoom.h"
 
 namespace lumenote {
 
@@ -24,6 +25,8 @@ class Runs {
   CharId FormatAt(Position at) const;
 
   void Append(Position length, CharId format);
+  /// Takes the memory that `Replace` by `inserted` may need, so that it cannot fail.
+  void MakeRoomFor(const Runs& inserted) { MakeRoom(items_, inserted.items_.size() + 2); }
   /// Puts `inserted` in the place of `removed` units at `at`.
   void Replace(Position at, Position removed, const Runs& inserted);
   Runs Part(Position from, Position to) const;

@@ -1,5 +1,6 @@
 #include "document/Undo.h"
 
+#include <new>
 #include <utility>
 
 namespace lumenote {
@@ -12,25 +13,58 @@ void UndoHistory::Begin(UndoKind kind, Selection before) {
   closing_ = false;
 }
 
+/// A group around an edit that is in none.
+class UndoHistory::Alone {
+ public:
+  Alone(UndoHistory& history, Selection range, Selection after)
+      : history_(history), after_(after), alone_(history.depth_ == 0) {
+    if (alone_) history_.Begin(UndoKind::Unknown, range);
+  }
+  ~Alone() {
+    if (alone_) history_.End(after_);
+  }
+  Alone(const Alone&) = delete;
+  Alone& operator=(const Alone&) = delete;
+
+ private:
+  UndoHistory& history_;
+  Selection after_;
+  bool alone_;
+};
+
 EditExtent UndoHistory::Apply(Position from, Position to, Fragment inserted) {
   const Selection range = document_.Outwards(from, to);
   const EditExtent edit{range.start, range.Length(), inserted.Length()};
   if (inserted.mark == document_.Mark()) inserted.mark.reset();
   if (edit.removed == 0 && edit.inserted == 0 && !inserted.mark) return edit;
   const bool closing = inserted.leaves.Breaks() > 0;
-  Fragment removed = document_.Replace(range, std::move(inserted));
   const Position end = edit.at + edit.inserted;
-  const bool alone = depth_ == 0;
-  if (alone) Begin(UndoKind::Unknown, range);
+  const Alone alone(*this, range, {end, end});
+  Exchange(range, std::move(inserted), [&](const Fragment& removed) { Remember(edit, removed); });
   closing_ |= closing;
-  Remember(edit, std::move(removed));
-  if (alone) End({end, end});
   return edit;
+}
+
+template <class Keeping>
+void UndoHistory::Exchange(Selection range, Fragment inserted, Keeping keep) {
+  const Position end = range.start + inserted.Length();
+  Fragment removed = document_.Replace(range, std::move(inserted));
+  try {
+    keep(removed);
+  } catch (const std::bad_alloc&) {
+    try {
+      document_.Replace(Selection{range.start, end}, std::move(removed));
+    } catch (const std::bad_alloc&) {
+      Clear();
+    }
+    throw;
+  }
 }
 
 void UndoHistory::End(Selection after) {
   if (depth_ == 0 || --depth_ > 0 || !started_) return;
   undo_.Last().after = after;
+  redo_.Clear();
   open_ = kind_ == UndoKind::Delete || (kind_ == UndoKind::Typing && !closing_);
 }
 
@@ -39,6 +73,7 @@ void UndoHistory::Clear() {
   redo_.Clear();
   open_ = false;
   started_ = false;
+  ++age_;
 }
 
 UndoKind UndoHistory::UndoType() const {
@@ -61,17 +96,24 @@ std::optional<Selection> UndoHistory::Redo(const EditVisitor& visit) {
   return step->after;
 }
 
-void UndoHistory::Remember(const EditExtent& edit, Fragment removed) {
-  if (!started_) StartStep(edit);
-  undo_.Push({edit.at, edit.removed, edit.inserted, removed.mark}, std::move(removed.leaves));
-}
-
-void UndoHistory::StartStep(const EditExtent& edit) {
+void UndoHistory::Remember(const EditExtent& edit, const Fragment& removed) {
+  const UndoEdit entry{edit.at, edit.removed, edit.inserted, removed.mark};
+  if (started_ || Continues(edit)) {
+    undo_.Push(entry, removed.leaves);
+  } else {
+    UndoLog single;
+    UndoLog& log = multiLevel_ ? undo_ : single;
+    log.Start({kind_, before_, before_});
+    try {
+      log.Push(entry, removed.leaves);
+    } catch (const std::bad_alloc&) {
+      log.Drop();
+      throw;
+    }
+    if (!multiLevel_) undo_ = std::move(single);
+    ++stepsBegun_;
+  }
   started_ = true;
-  redo_.Clear();
-  if (Continues(edit)) return;
-  if (!multiLevel_) undo_.Clear();
-  undo_.Start({kind_, before_, before_});
 }
 
 bool UndoHistory::Continues(const EditExtent& edit) const {
@@ -84,17 +126,87 @@ bool UndoHistory::Continues(const EditExtent& edit) const {
 std::optional<UndoStep> UndoHistory::Revert(UndoLog& from, UndoLog& to, const EditVisitor& visit) {
   if (depth_ > 0 || from.Empty()) return std::nullopt;
   open_ = false;
+  ++age_;
   const UndoStep step = from.Last();
   to.Start(step);
-  while (auto taken = from.Take()) {
-    const UndoEdit& edit = taken->edit;
-    const Selection range{edit.at, edit.at + edit.inserted};
-    Fragment removed = document_.Replace(range, std::move(taken->removed));
-    to.Push({edit.at, edit.inserted, edit.removed, removed.mark}, std::move(removed.leaves));
-    if (visit) visit(edit.at, edit.inserted, edit.removed);
-  }
+  CarryStep(from, to, visit);
   from.Drop();
   return step;
+}
+
+void UndoHistory::CarryStep(UndoLog& from, UndoLog& to, const EditVisitor& visit) {
+  try {
+    while (from.StepHasEdits()) CarryEdit(from, to, visit);
+  } catch (const std::bad_alloc&) {
+    try {
+      while (to.StepHasEdits()) CarryEdit(to, from, visit);
+      if (!to.Empty()) to.Drop();
+    } catch (const std::bad_alloc&) {
+      Clear();
+    }
+    throw;
+  }
+}
+
+void UndoHistory::CarryEdit(UndoLog& from, UndoLog& to, const EditVisitor& visit) {
+  const UndoLog::Taken taken = from.Take();
+  const UndoEdit& edit = taken.edit;
+  try {
+    Exchange({edit.at, edit.at + edit.inserted}, taken.removed, [&](const Fragment& removed) {
+      to.Push({edit.at, edit.inserted, edit.removed, removed.mark}, removed.leaves);
+    });
+  } catch (const std::bad_alloc&) {
+    PutBack(from, taken);
+    throw;
+  }
+  if (visit) visit(edit.at, edit.inserted, edit.removed);
+}
+
+void UndoHistory::PutBack(UndoLog& log, const UndoLog::Taken& taken) {
+  try {
+    if (!log.Empty()) log.Push(taken.edit, taken.removed.leaves);
+  } catch (const std::bad_alloc&) {
+    Clear();
+  }
+}
+
+// --- taking back
+
+UndoMark UndoHistory::Mark() const {
+  const std::size_t edits = undo_.CountOfEdits();
+  return {age_, stepsBegun_, edits, edits > 0 ? undo_.LastEdit().inserted : 0};
+}
+
+void UndoHistory::BackTo(const UndoMark& mark, const EditVisitor& visit) {
+  if (mark.age != age_) return;
+  open_ = false;
+  try {
+    for (; stepsBegun_ > mark.steps && !undo_.Empty(); --stepsBegun_) {
+      while (undo_.StepHasEdits()) TakeBack(visit);
+      undo_.Drop();
+      started_ = false;
+    }
+    while (undo_.CountOfEdits() > mark.edits) TakeBack(visit);
+    if (undo_.CountOfEdits() == mark.edits && undo_.StepHasEdits())
+      TakeBackTyping(mark.lastInserted, visit);
+  } catch (const std::bad_alloc&) {
+    Clear();
+  }
+}
+
+void UndoHistory::TakeBack(const EditVisitor& visit) {
+  const auto [edit, removed] = undo_.Take();
+  document_.Replace(Selection{edit.at, edit.at + edit.inserted}, removed);
+  visit(edit.at, edit.inserted, edit.removed);
+}
+
+void UndoHistory::TakeBackTyping(Position inserted, const EditVisitor& visit) {
+  const UndoEdit& last = undo_.LastEdit();
+  if (last.inserted == inserted) return;
+  const Selection typed{last.at + inserted, last.at + last.inserted};
+  document_.Replace(typed, {});
+  undo_.Shorten(inserted);
+  visit(typed.start, typed.Length(), 0);
 }
 
 }  // namespace lumenote

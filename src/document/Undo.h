@@ -6,6 +6,7 @@
 #include "document/Document.h"
 #include "document/UndoKind.h"
 #include "document/UndoLog.h"
+#include "document/UndoMark.h"
 
 namespace lumenote {
 
@@ -23,6 +24,10 @@ using EditVisitor = std::function<void(Position at, Position removed, Position i
 /// Applies edits to a document, which outlives it, and remembers them. Steps merge only when both
 /// are typing or both deletion, their edits touch, and the last one is still open; `Close`, another
 /// kind, undo, redo and a paragraph break typed close it. A new edit forgets what could be redone.
+///
+/// An edit, undo or redo that fails for want of memory has changed nothing. Should there not even
+/// be memory to put back what it had begun, the history forgets everything, so that it never
+/// disagrees with the document.
 class UndoHistory {
  public:
   explicit UndoHistory(Document& document) : document_(document) {}
@@ -34,6 +39,11 @@ class UndoHistory {
   /// removes and inserts nothing is not remembered. Outside a group, one of kind Unknown is made.
   EditExtent Apply(Position from, Position to, Fragment inserted);
   void End(Selection after);
+
+  /// Where the history stands; `BackTo` takes back every edit since then, which cannot be redone.
+  /// It does nothing where the mark is no longer good.
+  UndoMark Mark() const;
+  void BackTo(const UndoMark& mark, const EditVisitor& visit);
 
   void Close() { open_ = false; }
   void Clear();
@@ -51,14 +61,26 @@ class UndoHistory {
   std::optional<Selection> Redo(const EditVisitor& visit = {});
 
  private:
-  void Remember(const EditExtent& edit, Fragment removed);
-  void StartStep(const EditExtent& edit);
+  class Alone;
+
+  /// Exchanges a range for a fragment, which `keep` is then told to keep; all or nothing.
+  template <class Keeping>
+  void Exchange(Selection range, Fragment inserted, Keeping keep);
+  void Remember(const EditExtent& edit, const Fragment& removed);
   bool Continues(const EditExtent& edit) const;
   std::optional<UndoStep> Revert(UndoLog& from, UndoLog& to, const EditVisitor& visit);
+  /// Carries all edits of one log's last step to the last step of the other, or none.
+  void CarryStep(UndoLog& from, UndoLog& to, const EditVisitor& visit);
+  void CarryEdit(UndoLog& from, UndoLog& to, const EditVisitor& visit);
+  void PutBack(UndoLog& log, const UndoLog::Taken& taken);
+  void TakeBack(const EditVisitor& visit);
+  void TakeBackTyping(Position inserted, const EditVisitor& visit);
 
   Document& document_;
   UndoLog undo_;
   UndoLog redo_;
+  std::uint64_t age_ = 0;
+  std::size_t stepsBegun_ = 0;
   bool multiLevel_ = true;
   bool open_ = false;     // the last step may go on
   int depth_ = 0;         // of groups

@@ -1,7 +1,5 @@
 #include "document/UndoLog.h"
 
-#include <utility>
-
 namespace lumenote {
 
 void UndoLog::Clear() {
@@ -12,7 +10,7 @@ void UndoLog::Clear() {
 
 void UndoLog::Start(const UndoStep& step) { steps_.push_back({step, edits_.size()}); }
 
-void UndoLog::Push(const UndoEdit& edit, LeafList removed) {
+void UndoLog::Push(const UndoEdit& edit, const LeafList& removed) {
   if (StepHasEdits() && edit.removed == 0 && !edit.mark) {
     UndoEdit& last = edits_.back();
     if (edit.at == last.at + last.inserted) {
@@ -20,15 +18,16 @@ void UndoLog::Push(const UndoEdit& edit, LeafList removed) {
       return;
     }
   }
+  MakeRoom(edits_, 1);
+  removed_.Push(removed);
   edits_.push_back(edit);
-  removed_.Push(std::move(removed));
 }
 
-std::optional<UndoLog::Taken> UndoLog::Take() {
-  if (!StepHasEdits()) return std::nullopt;
+UndoLog::Taken UndoLog::Take() {
   const UndoEdit edit = edits_.back();
+  Taken taken{edit, {removed_.Pop(edit.removed), edit.mark}};
   edits_.pop_back();
-  return Taken{edit, {removed_.Pop(edit.removed), edit.mark}};
+  return taken;
 }
 
 }  // namespace lumenote

@@ -39,13 +39,18 @@ class UndoLog {
   /// The last edit of the last step, which has one.
   const UndoEdit& LastEdit() const { return edits_.back(); }
 
-  void Push(const UndoEdit& edit, LeafList removed);
-  /// Takes the last step's last edit, with what it removed; nothing when the step has none left.
+  /// This and `Take` leave the log as it was when an allocation fails.
+  void Push(const UndoEdit& edit, const LeafList& removed);
+  /// Takes the last step's last edit, which there is, with what it removed.
   struct Taken {
     UndoEdit edit;
     Fragment removed;
   };
-  std::optional<Taken> Take();
+  Taken Take();
+  bool StepHasEdits() const { return !Empty() && edits_.size() > steps_.back().firstEdit; }
+  std::size_t CountOfEdits() const { return edits_.size(); }
+  /// Makes the last edit forget that typing went on behind the first `inserted` units.
+  void Shorten(Position inserted) { edits_.back().inserted = inserted; }
   /// Ends the last step, all of whose edits have been taken.
   void Drop() { steps_.pop_back(); }
 
@@ -54,7 +59,6 @@ class UndoLog {
     UndoStep step;
     std::size_t firstEdit = 0;
   };
-  bool StepHasEdits() const { return edits_.size() > steps_.back().firstEdit; }
 
   std::vector<Entry> steps_;
   std::vector<UndoEdit> edits_;

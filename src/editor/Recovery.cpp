@@ -46,7 +46,8 @@ void Recovery::Schedule() {
 }
 
 void Recovery::Tick() {
-  const bool written = IgnoringErrors([this] { writing_ ? WriteSlice() : Begin(); });
+  const bool written =
+      IgnoringErrors([this] { WithMemoryErrors([this] { writing_ ? WriteSlice() : Begin(); }); });
   if (!written) {
     writing_.reset();
     due_ = true;
@@ -81,9 +82,11 @@ void Recovery::WriteNow() {
   const Session& session = editor_.Values();
   if (!session.dirty && !session.CannotReturn()) return;
   IgnoringErrors([this] {
-    Begin();
-    while (writing_->Step()) continue;
-    Commit();
+    WithMemoryErrors([this] {
+      Begin();
+      while (writing_->Step()) continue;
+      Commit();
+    });
   });
 }
 

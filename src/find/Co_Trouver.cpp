@@ -132,11 +132,13 @@ void Co_Trouver::cmdReplaceAll_Click() {
   std::int16_t count = 0;
   Position start = 0;
   // The search goes on at the match's old end, whatever the replacement's length.
-  while (surface.Find(cboFind.Text(), start, options) != -1) {
-    start = surface.SelStart() + surface.SelLength();
-    count = ToInt16(std::int64_t{count} + 1);
-    surface.SelText(cboReplace.Text());
-  }
+  AsOneStep(surface, [&] {
+    while (surface.Find(cboFind.Text(), start, options) != -1) {
+      start = surface.SelStart() + surface.SelLength();
+      count = ToInt16(std::int64_t{count} + 1);
+      surface.SelText(cboReplace.Text());
+    }
+  });
   if (count > 0)
     Ask({.text = u"La région spécifiée a été balayée\r\n" + NumberText(std::int64_t{count}) +
                  u" remplacements ont été faits."});

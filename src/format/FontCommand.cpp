@@ -16,14 +16,15 @@ void FmtPolice(EditorWindow& editor, Form* dialog) {
                          .colour = surface.SelColor()};
   const auto chosen = editor.ChooseFont(shown, dialog);
   if (!chosen) return;
-  const EditGroup group(surface);
-  if (chosen->name) surface.SelFontName(*chosen->name);
-  if (chosen->size) surface.SelFontSize(*chosen->size);
-  if (chosen->bold) surface.SelBold(*chosen->bold);
-  if (chosen->italic) surface.SelItalic(*chosen->italic);
-  if (chosen->underline) surface.SelUnderline(*chosen->underline);
-  if (chosen->strike) surface.SelStrikeThru(*chosen->strike);
-  if (chosen->colour) surface.SelColor(*chosen->colour);
+  AsOneStep(surface, [&] {
+    if (chosen->name) surface.SelFontName(*chosen->name);
+    if (chosen->size) surface.SelFontSize(*chosen->size);
+    if (chosen->bold) surface.SelBold(*chosen->bold);
+    if (chosen->italic) surface.SelItalic(*chosen->italic);
+    if (chosen->underline) surface.SelUnderline(*chosen->underline);
+    if (chosen->strike) surface.SelStrikeThru(*chosen->strike);
+    if (chosen->colour) surface.SelColor(*chosen->colour);
+  });
 }
 
 }  // namespace lumenote

@@ -17,11 +17,12 @@ void BasculerBarré(RichTextSurface& surface) {
 }
 
 void MettreNormal(RichTextSurface& surface) {
-  const EditGroup group(surface);
-  surface.SelBold(false);
-  surface.SelItalic(false);
-  surface.SelUnderline(false);
-  surface.SelStrikeThru(false);
+  AsOneStep(surface, [&] {
+    surface.SelBold(false);
+    surface.SelItalic(false);
+    surface.SelUnderline(false);
+    surface.SelStrikeThru(false);
+  });
 }
 
 void BasculerPuces(RichTextSurface& surface) {
@@ -29,9 +30,10 @@ void BasculerPuces(RichTextSurface& surface) {
     surface.SelBullet(true);
     return;
   }
-  const EditGroup group(surface);
-  surface.SelBullet(false);
-  surface.SelHangingIndent(0);
+  AsOneStep(surface, [&] {
+    surface.SelBullet(false);
+    surface.SelHangingIndent(0);
+  });
 }
 
 void DécalerRetrait(RichTextSurface& surface, int twips) {

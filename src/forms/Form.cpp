@@ -1,6 +1,7 @@
 #include "forms/Form.h"
 
 #include <algorithm>
+#include <new>
 
 #include "base/Numbers.h"
 #include "base/Strings.h"
@@ -196,7 +197,17 @@ void Form::Raise(const std::function<void()>& event) {
   try {
     event();
   } catch (const RuntimeError& error) {
-    Machine().Windows().EventFailed(error, this);
+    TellFailure(&error);
+  } catch (const std::bad_alloc&) {
+    TellFailure(nullptr);
+  }
+}
+
+void Form::TellFailure(const RuntimeError* error) {
+  try {
+    Machine().Windows().EventFailed(error ? *error : RuntimeError(ErrorNumber::OutOfMemory), this);
+  } catch (const std::bad_alloc&) {
+    // Without memory for a box the window lives on without a word.
   }
 }
 

@@ -87,7 +87,8 @@ class Form : public Element, public Container {
   /// The control that has the keyboard while the window is active, as the peer reports it.
   void ActiveControl(Control* control) { activeControl_ = control; }
 
-  /// Runs an event: an error that reaches its edge is shown, the form outlives it.
+  /// Runs an event: an error or a failed allocation that reaches its edge is shown, the form
+  /// outlives it.
   void Raise(const std::function<void()>& event);
 
   /// Shows a box over this window and returns the answer.
@@ -155,6 +156,8 @@ class Form : public Element, public Container {
   void Leave();
   void Place(Rect place);
   void TakeDown();
+  /// Shows an error that has reached an event's edge; without one, that memory was wanting.
+  void TellFailure(const RuntimeError* error);
   void RearmTimers();
   /// Gives the keyboard to the first control that takes it, unless one has it already.
   void FocusFirst();

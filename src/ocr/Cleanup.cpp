@@ -63,9 +63,11 @@ void MettreAuPropre(RichTextSurface& surface) {
 }
 
 void NettoyerTexte(RichTextSurface& surface, Files& files, std::u16string_view listPath) {
-  ApplyListCorr(surface, files, listPath);
-  NormaliserEspaces(surface);
-  MettreAuPropre(surface);
+  surface.Atomically([&] {
+    ApplyListCorr(surface, files, listPath);
+    NormaliserEspaces(surface);
+    MettreAuPropre(surface);
+  });
 }
 
 }  // namespace lumenote

@@ -161,6 +161,9 @@ class RichTextSurface {
   /// What is done between the two is one undo step of kind Unknown; see `EditGroup`.
   virtual void BeginGroup() = 0;
   virtual void EndGroup() = 0;
+  /// Runs a command of several edits. When an allocation fails in it, all that it has edited is
+  /// taken back, and the failure goes on.
+  virtual void Atomically(const std::function<void()>& command) = 0;
   virtual void Cut() = 0;
   virtual void Copy() = 0;
   virtual void Paste() = 0;
@@ -194,5 +197,11 @@ class EditGroup {
  private:
   RichTextSurface& surface_;
 };
+
+/// Runs a command as one undo step, which is taken back when an allocation fails in it.
+inline void AsOneStep(RichTextSurface& surface, const std::function<void()>& command) {
+  const EditGroup group(surface);
+  surface.Atomically(command);
+}
 
 }  // namespace lumenote

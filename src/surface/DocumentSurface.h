@@ -1,5 +1,6 @@
 // The rich-text surface over our own document.
 #pragma once
+#include "base/RuntimeError.h"
 #include "platform/RichTextSurface.h"
 #include "surface/CaretMotion.h"
 #include "surface/CharacterFormats.h"
@@ -68,10 +69,12 @@ class DocumentSurface final : public RichTextSurface {
   void RightMargin(float twips) override;
 
   void LoadFile(std::u16string_view path, FileType type, std::optional<TextForm> form) override {
-    transfer_.Load(path, type, form);
+    WithMemoryErrors([&] { transfer_.Load(path, type, form); });
   }
   std::string SaveFile(std::u16string_view path, FileType type) override {
-    return transfer_.Save(path, type);
+    std::string bytes;
+    WithMemoryErrors([&] { bytes = transfer_.Save(path, type); });
+    return bytes;
   }
   std::string FileBytes(FileType type) const override { return transfer_.Bytes(type); }
 
@@ -93,6 +96,7 @@ class DocumentSurface final : public RichTextSurface {
   void Redo() override { core_.Redo(); }
   void BeginGroup() override { core_.BeginGroup(); }
   void EndGroup() override { core_.EndGroup(); }
+  void Atomically(const std::function<void()>& command) override { core_.Atomically(command); }
   void Cut() override { transfer_.Cut(); }
   void Copy() override { transfer_.Copy(); }
   void Paste() override { transfer_.Paste(); }

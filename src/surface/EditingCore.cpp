@@ -1,6 +1,7 @@
 #include "surface/EditingCore.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "base/RuntimeError.h"
@@ -9,6 +10,8 @@
 namespace lumenote {
 
 namespace {
+
+constexpr std::size_t kReserve = std::size_t{1} << 16;
 
 /// Sets a flag for as long as it lives.
 class Raised {
@@ -100,9 +103,32 @@ void EditingCore::Edit(UndoKind kind, const std::function<void()>& make) {
   RequireQuiet();
   {
     const OpenStep step(history_, kind, *this);
-    make();
+    Atomically(make);
   }
   Tell();
+}
+
+void EditingCore::Atomically(const std::function<void()>& command) {
+  if (!reserve_) reserve_.reset(new (std::nothrow) char[kReserve]);
+  const UndoMark mark = history_.Mark();
+  const Selection selected{anchor_, caret_};
+  const std::optional<CharFormat> format = chosenFormat_;
+  try {
+    command();
+  } catch (const std::bad_alloc&) {
+    reserve_.reset();
+    BackTo(mark, selected);
+    chosenFormat_ = format;
+    throw;
+  }
+}
+
+void EditingCore::BackTo(const UndoMark& mark, Selection selected) {
+  history_.BackTo(mark, [this](Position at, Position removed, Position inserted) {
+    Note({at, removed, inserted});
+  });
+  Move(selected.start, selected.end);
+  if (!telling_) Tell();
 }
 
 void EditingCore::Replace(Position from, Position to, const Fragment& fragment) {
@@ -128,11 +154,17 @@ void EditingCore::Travel(std::optional<Selection> (UndoHistory::*step)(const Edi
   const auto note = [this](Position at, Position removed, Position inserted) {
     Note({at, removed, inserted});
   };
-  if (const std::optional<Selection> selection = (history_.*step)(note)) {
+  try {
+    const std::optional<Selection> selection = (history_.*step)(note);
+    if (!selection) return;
     chosenFormat_.reset();
     Move(selection->start, selection->end);
+  } catch (const std::bad_alloc&) {
+    Move(anchor_, caret_);
     Tell();
+    throw;
   }
+  Tell();
 }
 
 void EditingCore::Load(const Fragment& whole) {
@@ -157,13 +189,22 @@ void EditingCore::RequireQuiet() const {
   if (telling_) throw RuntimeError(ErrorNumber::InvalidArgument);
 }
 
+// A view that could not follow for want of memory lays everything out anew.
+void EditingCore::TellView(const std::optional<DocumentChange>& change, bool moved) {
+  try {
+    if (change) view_->DocumentChanged(*change);
+    if (moved) view_->SelectionChanged();
+    if (moved) view_->RevealCaret();
+  } catch (const std::bad_alloc&) {
+    view_->WrapWidthChanged();
+  }
+}
+
 void EditingCore::Tell() {
   const std::optional<DocumentChange> change = std::exchange(change_, std::nullopt);
   const bool moved = std::exchange(moved_, false);
   const Raised telling(telling_);
-  if (change && view_) view_->DocumentChanged(*change);
-  if (moved && view_) view_->SelectionChanged();
-  if (moved && view_) view_->RevealCaret();
+  if (view_) TellView(change, moved);
   const std::function<void()> onChange = onChange_;
   if (change && onChange) onChange();
 }

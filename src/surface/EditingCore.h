@@ -1,6 +1,7 @@
 // The document of a surface with its selection, history and lines: the one place that changes it.
 #pragma once
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "document/Document.h"
@@ -42,6 +43,10 @@ class EditingCore {
   /// Chooses one, until the caret moves or something is typed.
   void InsertionFormat(const CharFormat& format) { chosenFormat_ = format; }
 
+  /// Runs a command of several edits. When an allocation fails in it, all that it has edited is
+  /// taken back, and the failure goes on.
+  void Atomically(const std::function<void()>& command);
+
   /// Runs `make`, which calls `Replace` and `Place`, as one undo step and then tells about it.
   void Edit(UndoKind kind, const std::function<void()>& make);
   /// Inside `Edit`: puts `fragment` in the place of `from`..`to`.
@@ -71,8 +76,10 @@ class EditingCore {
   KeptId TypedInside(Position position) const;
   void Note(const DocumentChange& edit);
   bool Move(Position anchor, Position caret);
+  void BackTo(const UndoMark& mark, Selection selected);
   void Travel(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&));
   void Tell();
+  void TellView(const std::optional<DocumentChange>& change, bool moved);
 
   Document document_;
   UndoHistory history_;
@@ -83,6 +90,8 @@ class EditingCore {
 
   SurfaceView* view_ = nullptr;
   std::function<void()> onChange_;
+  /// Let go when memory runs out, for the way back.
+  std::unique_ptr<char[]> reserve_;
   // What `Tell` has still to say.
   std::optional<DocumentChange> change_;
   bool moved_ = false;

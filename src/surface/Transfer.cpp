@@ -68,14 +68,17 @@ void Transfer::Text(std::u16string_view text) {
   const ParaId paragraph = core_.Formats().paragraphs.Intern({});
   Fragment whole = PlainFragment(text, format, paragraph);
   whole.mark = FinalMark{.character = format, .paragraph = paragraph};
+  std::u16string font(kDefaultFont);
   core_.Load(whole);
-  baseFontName_ = kDefaultFont;
+  baseFontName_ = std::move(font);
 }
 
 void Transfer::LoadRtf(std::string_view bytes) {
   FormatTables& formats = core_.Formats();
-  core_.Load(ReadRtf(bytes, formats, RtfTarget::Document, defaultFormat_));
-  baseFontName_ = formats.fonts[DefaultFontOf(bytes, formats, defaultFormat_)].name;
+  const Fragment whole = ReadRtf(bytes, formats, RtfTarget::Document, defaultFormat_);
+  std::u16string font = formats.fonts[DefaultFontOf(bytes, formats, defaultFormat_)].name;
+  core_.Load(whole);
+  baseFontName_ = std::move(font);
 }
 
 std::u16string Transfer::Rtf() const { return UnitsOfBytes(WriteRtf(core_.Content())); }

@@ -145,10 +145,11 @@ void Co_Symbols::lblBigDisplay_DblClick() {
 void Co_Symbols::cmdInsert_Click() {
   picHolder.SetFocus();
   RichTextSurface& surface = editor_.Document();
-  const EditGroup group(surface);
-  surface.SelFontName(cboFonts.Text());
-  surface.SelText(u"");
-  surface.SelText(txtInsert.Text());
+  AsOneStep(surface, [&] {
+    surface.SelFontName(cboFonts.Text());
+    surface.SelText(u"");
+    surface.SelText(txtInsert.Text());
+  });
   HideBigDisplay();
 }
 

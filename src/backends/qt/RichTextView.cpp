@@ -7,6 +7,7 @@
 #include <QStyleHints>
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <utility>
 
 #include "backends/qt/Keys.h"
@@ -282,7 +283,27 @@ void RichTextView::timerEvent(QTimerEvent* event) {
 
 // --- events
 
+// Nothing may leave an event handler through the toolkit. What could not be laid out or painted for
+// want of memory is shown when there is some again.
 bool RichTextView::event(QEvent* event) {
+  try {
+    return HandleEvent(event);
+  } catch (const std::bad_alloc&) {
+    pane_.Cache().Clear();
+    return true;
+  }
+}
+
+bool RichTextView::viewportEvent(QEvent* event) {
+  try {
+    return attached_ && QAbstractScrollArea::viewportEvent(event);
+  } catch (const std::bad_alloc&) {
+    pane_.Cache().Clear();
+    return true;
+  }
+}
+
+bool RichTextView::HandleEvent(QEvent* event) {
   if (!attached_) return QObject::event(event);
   if (event->type() == SettleEvent()) {
     Settle();
@@ -293,10 +314,6 @@ bool RichTextView::event(QEvent* event) {
     if (key && IsEditingKey(*key)) event->accept();
   }
   return QAbstractScrollArea::event(event);
-}
-
-bool RichTextView::viewportEvent(QEvent* event) {
-  return attached_ && QAbstractScrollArea::viewportEvent(event);
 }
 
 void RichTextView::changeEvent(QEvent* event) {

@@ -66,6 +66,7 @@ class RichTextView : public QAbstractScrollArea, private SurfaceView {
 
  protected:
   bool event(QEvent* event) override;
+  bool HandleEvent(QEvent* event);
   bool viewportEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
