@@ -177,6 +177,7 @@ void Co_Rtf::Form_Activate() {
   session_.loaded = OuvrirDocument(*this);
   session_.changes = 0;
   RetrouverNotes(*this);
+  if (session_.closed) return;
   if (!session_.loaded) {
     Unload();
     return;

@@ -91,8 +91,12 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   bool WriteNote() override;
   void Reload() override { LoadFilAndIni(*this); }
   bool KeepNote() override { return GarderNote(*this, Cause::FichierModifie); }
-  bool KeepFile(Cause cause, std::u16string_view path) override {
-    return GarderFichier(*this, cause, path);
+  void GoOnUnsaved() override { ContinuerSansRecharger(*this); }
+  std::optional<std::u16string> CopyFile(std::u16string_view path) override {
+    return CopierFichier(Machine(), path);
+  }
+  void TellOf(Cause cause, const std::vector<std::u16string>& copies) override {
+    AnnoncerSecours(*this, cause, copies);
   }
 
   void LocatePrograms();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "base/Characters.h"
@@ -49,6 +50,24 @@ std::optional<std::u16string> KeepOtherState(EditorWindow& editor) {
   if (!copy) throw RuntimeError(ErrorNumber::PathAccess);
   session.onDisk = std::move(state);
   return copy;
+}
+
+/// Status, format and label follow the document path.
+FileType ShowDocumentPath(EditorWindow& editor) {
+  Session& session = editor.Values();
+  editor.ShowStatus(1, EspDvtDer(session.documentPath));
+  session.format = FormatDe(session.documentPath);
+  const FileType type = TypeDe(session.format);
+  editor.ShowFormat(type == FileType::Text ? u"Format Text (txt)" : u"Format RichText (rtf)");
+  return type;
+}
+
+/// Lest another editor saves between a look at the document's file and what is done to it. A
+/// temporary file needs none.
+std::shared_ptr<void> TakeTurn(EditorWindow& editor) {
+  const Session& session = editor.Values();
+  if (!session.fileMode) return nullptr;
+  return editor.Services().FileSystem().TakeTurn(session.documentPath);
 }
 
 }  // namespace
@@ -114,10 +133,7 @@ void DireEchecChargement(EditorWindow& editor) {
 
 bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form) {
   Session& session = editor.Values();
-  editor.ShowStatus(1, EspDvtDer(session.documentPath));
-  session.format = FormatDe(session.documentPath);
-  const FileType type = TypeDe(session.format);
-  editor.ShowFormat(type == FileType::Text ? u"Format Text (txt)" : u"Format RichText (rtf)");
+  const FileType type = ShowDocumentPath(editor);
   const FileState before = session.onDisk;
   NoterFichier(editor);
   const bool loaded =
@@ -126,6 +142,11 @@ bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form) {
   if (!loaded) session.onDisk = before;
   if (!loaded) DireEchecChargement(editor);
   return loaded;
+}
+
+void ContinuerSansRecharger(EditorWindow& editor) {
+  ShowDocumentPath(editor);
+  editor.Values().dirty = true;
 }
 
 Sauvegarde SauveFich(EditorWindow& editor, bool ask) {
@@ -147,8 +168,7 @@ Sauvegarde SauveFich(EditorWindow& editor, bool ask) {
 
 bool EcrireDocument(EditorWindow& editor, std::vector<std::u16string>& kept) {
   Session& session = editor.Values();
-  const Files& files = editor.Services().FileSystem();
-  const auto turn = session.fileMode ? files.TakeTurn(session.documentPath) : nullptr;
+  const auto turn = TakeTurn(editor);
   const bool written = IgnoringErrors([&] {
     if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
     const std::string bytes =
@@ -160,6 +180,7 @@ bool EcrireDocument(EditorWindow& editor, std::vector<std::u16string>& kept) {
 }
 
 void SupprimerFichier(EditorWindow& editor, std::vector<std::u16string>& kept) {
+  const auto turn = TakeTurn(editor);
   IgnoringErrors([&] {
     if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
     editor.Services().FileSystem().Delete(editor.Values().documentPath, true);

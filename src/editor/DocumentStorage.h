@@ -44,6 +44,9 @@ void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16strin
 /// the user and returned as false; a document that was in the surface before is dirty then. `form`
 /// is that of a plain text whose form is known.
 bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form = std::nullopt);
+/// Goes on with the surface where the document path now holds something else: shows that path, and
+/// the note is unsaved in its format.
+void ContinuerSansRecharger(EditorWindow& editor);
 /// Tells the user that the document path could not be loaded.
 void DireEchecChargement(EditorWindow& editor);
 

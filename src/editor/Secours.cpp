@@ -101,40 +101,32 @@ std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_vi
       kept, [&](const std::u16string& free) { return machine.State().KeepForGood(free, bytes); });
 }
 
+std::optional<std::u16string> CopierFichier(Platform& machine, std::u16string_view path) {
+  std::string bytes;
+  if (!IgnoringErrors([&] { bytes = machine.FileSystem().ReadAll(path); })) return std::nullopt;
+  return EcrireSecours(machine, path, bytes);
+}
+
 void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths) {
   if (!paths.empty()) editor.AskOver(BoxFor(cause, paths));
 }
 
-bool GarderSecours(EditorWindow& editor, Cause cause, std::u16string_view name,
-                   std::string_view bytes) {
-  const auto path = EcrireSecours(editor.Services(), name, bytes);
+bool GarderNote(EditorWindow& editor, Cause cause) {
+  const Session& session = editor.Values();
+  const auto path = EcrireSecours(editor.Services(), session.documentPath,
+                                  editor.Document().FileBytes(TypeDe(session.format)));
   if (path) AnnoncerSecours(editor, cause, {*path});
   return path.has_value();
 }
 
-bool GarderNote(EditorWindow& editor, Cause cause) {
-  const Session& session = editor.Values();
-  return GarderSecours(editor, cause, session.documentPath,
-                       editor.Document().FileBytes(TypeDe(session.format)));
-}
-
-bool GarderFichier(EditorWindow& editor, Cause cause, std::u16string_view path) {
-  std::string bytes;
-  return IgnoringErrors([&] { bytes = editor.Services().FileSystem().ReadAll(path); }) &&
-         GarderSecours(editor, cause, path, bytes);
-}
-
 void GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
-  Files& files = machine.FileSystem();
   std::vector<std::u16string> paths;
-  for (const WorkSent& sent : left) {
-    const std::u16string result = Reprendre(files, sent);
-    if (result.empty()) continue;
-    IgnoringErrors([&] {
-      if (auto copy = EcrireSecours(machine, result, files.ReadAll(result)))
-        paths.push_back(std::move(*copy));
-    });
-  }
+  const auto keep = [&](const std::u16string& result) {
+    auto copy = CopierFichier(machine, result);
+    if (copy) paths.push_back(*copy);
+    return true;  // the next form may find a place
+  };
+  for (WorkSent sent : left) ReprendreTout(machine.FileSystem(), sent, keep);
   if (!paths.empty()) machine.Windows().Show(BoxFor(Cause::FichierModifie, paths), nullptr);
 }
 

@@ -17,18 +17,17 @@ class Platform;
 /// when it could be written in neither.
 std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
                                             std::string_view bytes);
+/// The same of a file as it is on the disk; empty when it cannot be read, too.
+std::optional<std::u16string> CopierFichier(Platform& machine, std::u16string_view path);
 /// Tells of copies that were made for one cause, in one box; of none, nothing.
 void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths);
 
-/// Writes a copy and tells of it. False, with nothing told, when it could not be written.
-bool GarderSecours(EditorWindow& editor, Cause cause, std::u16string_view name,
-                   std::string_view bytes);
-/// The same for the note as it stands in the window, under the name of its file.
+/// Writes a copy of the note as it stands in the window, under the name of its file, and tells of
+/// it. False, with nothing told, when it could not be written.
 bool GarderNote(EditorWindow& editor, Cause cause);
-/// The same for a file as it is on the disk; false when it cannot be read, too.
-bool GarderFichier(EditorWindow& editor, Cause cause, std::u16string_view path);
 
-/// The same for what programs have saved for editors that have closed, when their control goes.
+/// Makes rescue copies of what programs have saved for editors that have closed, when their control
+/// goes, and tells of them in one box.
 void GarderRetours(Platform& machine, const std::vector<WorkSent>& left);
 
 /// Makes rescue copies of the notes that dead programs left, and tells of them in one box. One that

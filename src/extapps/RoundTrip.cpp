@@ -234,17 +234,22 @@ void RoundTrip::ReportWorkFile() {
 
 void RoundTrip::BringBack() {
   if (!sent_) return;
-  const WorkSent sent = *std::exchange(sent_, std::nullopt);
+  WorkSent sent = *std::exchange(sent_, std::nullopt);
   const std::u16string result = Reprendre(Disk(), sent);
   IgnoringErrors([&] {
     if (Disk().ModificationTime(sent.path) == sent.time) Disk().Delete(sent.path, false);
   });
   if (result.empty()) return;
   workFile_ = result;
-  if (BringOnto(result)) return RememberOthers(sent);
-  if (desk_.KeepFile(Cause::FichierTemporaire, result)) return;
-  ReportWorkFile();
-  editor_.Values().workLeft.push_back(sent);
+  if (BringOnto(result)) return RememberOthers(std::move(sent));
+  const auto copy = desk_.CopyFile(result);
+  if (!copy) {
+    editor_.Values().workLeft.push_back(std::move(sent));
+    return ReportWorkFile();
+  }
+  sent.old.push_back(TraceDe(Disk(), result));
+  RememberOthers(std::move(sent));
+  desk_.TellOf(Cause::FichierTemporaire, {*copy});
 }
 
 /// A program may have saved the note in several forms, of which one came back.
@@ -276,11 +281,14 @@ bool RoundTrip::BringOnto(const std::u16string& result) {
 
 void RoundTrip::Finish() {
   desk_.Watch(false);
-  if (noteOnDisk_ && KeepTyped() && !editor_.Values().closed) desk_.Reload();
+  if (noteOnDisk_) {
+    const bool kept = KeepTyped();
+    if (!editor_.Values().closed) kept ? desk_.Reload() : desk_.GoOnUnsaved();
+  }
   editor_.RetablirDessus();
 }
 
-/// What was typed behind the program's back does not survive the reload.
+/// What was typed behind the program's back does not survive the reload. False when it has to.
 bool RoundTrip::KeepTyped() {
   const Session& session = editor_.Values();
   const bool typed = session.changes != changesWritten_ && (session.dirty || broughtBack_);
@@ -293,23 +301,23 @@ void RoundTrip::Leave() {
   if (sent_) editor_.Values().workLeft.push_back(*std::exchange(sent_, std::nullopt));
 }
 
-bool RoundTrip::KeepResults(WorkSent sent) {
-  for (std::u16string result; !(result = Reprendre(Disk(), sent)).empty();) {
-    if (!desk_.KeepFile(Cause::FichierModifie, result)) return false;
-    sent.folder.clear();
-    sent.old.push_back(TraceDe(Disk(), result));
-  }
-  return true;
-}
-
-// What is told in a box may end in the host's hands, so that the list is not touched meanwhile.
+// The host may close the editor in the box, and the next one takes the list as it is then.
 template <class Ready>
 bool RoundTrip::KeepLeft(Ready ready) {
-  std::vector<WorkSent> left = std::exchange(editor_.Values().workLeft, {});
-  std::erase_if(left, [&](const WorkSent& sent) { return ready(sent) && KeepResults(sent); });
-  std::vector<WorkSent>& still = editor_.Values().workLeft;
-  still.insert(still.end(), left.begin(), left.end());
-  return still.empty();
+  std::vector<WorkSent>& left = editor_.Values().workLeft;
+  std::vector<std::u16string> copies;
+  const auto keep = [&](const std::u16string& result) {
+    auto copy = desk_.CopyFile(result);
+    if (copy) copies.push_back(*copy);
+    return copy.has_value();
+  };
+  std::vector<WorkSent> still;
+  for (WorkSent& sent : left)
+    if (!ready(sent) || !ReprendreTout(Disk(), sent, keep)) still.push_back(sent);
+  left = std::move(still);
+  const bool all = left.empty();
+  desk_.TellOf(Cause::FichierModifie, copies);
+  return all;
 }
 
 bool RoundTrip::KeepEarlierResults() {

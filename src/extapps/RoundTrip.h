@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "control/Session.h"
 #include "editor/EditorWindow.h"
@@ -24,10 +25,15 @@ class RoundTripDesk {
   virtual bool WriteNote() = 0;
   /// Loads the document path into the surface again; tells the user of a failure.
   virtual void Reload() = 0;
-  /// Rescue copies, of which the user is told: of the note as it stands in the surface, since its
-  /// file has been changed; of a file. False when none could be made.
+  /// Goes on with the surface instead, as an unsaved note in the form of the document path.
+  virtual void GoOnUnsaved() = 0;
+  /// A rescue copy of the note as it stands in the surface, since its file has been changed; tells
+  /// the user. False when none could be made.
   virtual bool KeepNote() = 0;
-  virtual bool KeepFile(Cause cause, std::u16string_view path) = 0;
+  /// A rescue copy of a file: its path; empty when none could be made.
+  virtual std::optional<std::u16string> CopyFile(std::u16string_view path) = 0;
+  /// Tells the user of such copies, in one box; of none, nothing.
+  virtual void TellOf(Cause cause, const std::vector<std::u16string>& copies) = 0;
 };
 
 /// One exchange at a time, carried forward by the ticks of a timer; nothing here waits. At every
@@ -91,7 +97,6 @@ class RoundTrip {
   void PrepareWorkFile();
   /// False when something that a program saved could be kept nowhere, and must not be purged.
   bool KeepEarlierResults();
-  bool KeepResults(WorkSent sent);
   /// The same for what earlier exchanges have left, where `ready` says so.
   template <class Ready>
   bool KeepLeft(Ready ready);

@@ -97,6 +97,16 @@ std::u16string Reprendre(Files& files, const WorkSent& sent) {
   return left.empty() ? TrouverRetour(files, sent.path, sent.old) : left;
 }
 
+bool ReprendreTout(Files& files, WorkSent& sent,
+                   const std::function<bool(const std::u16string& result)>& keep) {
+  for (std::u16string result; !(result = Reprendre(files, sent)).empty();) {
+    if (!keep(result)) return false;
+    sent.folder.clear();
+    sent.old.push_back(TraceDe(files, result));
+  }
+  return true;
+}
+
 bool EstEntier(const Files& files, std::u16string_view path, bool text, bool mayBeEmpty) {
   std::string bytes;
   if (!IgnoringErrors([&] { bytes = files.ReadAll(path); })) return false;

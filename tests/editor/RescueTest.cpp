@@ -1,4 +1,7 @@
 // What becomes of a note that cannot go where it belongs.
+#include <fcntl.h>
+#include <sys/file.h>
+
 #include "editor/Host.h"
 #include "editor/Secours.h"
 
@@ -168,6 +171,63 @@ TEST_F(RescueTest, AControlThatGoesKeepsItsNote) {
   second->Parts().editor.Get().Document().SelText(u"ma ");
   second.reset();
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_TmpFlStr.txt"), "ma note");
+}
+
+/// Two forms come too late, one of which cannot be read at first; the host closes in the box.
+TEST_F(RescueTest, WhatComesTooLateOutlivesACloseInTheBox) {
+  const std::u16string kProgram = u"C:\\Program Files\\qjot\\qjot.exe";
+  const std::u16string kCopy = u"C:\\Documents\\Secours_Sava.";
+  sandbox.MakeParents(kProgram);
+  sandbox.Programs().Put(kProgram);
+  for (const bool controlGoes : {false, true}) {
+    auto host = std::make_unique<CoBxRtf>(platform);
+    const auto open = [&] {
+      host->pCouleurFen(u"0");
+      host->pStrOrchm(u"C:\\n\\a.txt");
+      host->ShowMicroEdit();
+    };
+    sandbox.MakeParents(u"C:\\n\\a.txt");
+    open();
+    host->Parts().editor.Get().Pop.mnuPopQjot.UserClick();
+    backend.Tick(30);
+    host->pStrOrchm();
+    disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 un}");
+    disk.Write(u"C:\\Temp\\Sava.txt", "deux");
+    sandbox.Programs().Finish();
+    if (!controlGoes) {
+      Fail("read", u"Sava.txt");
+      backend.answer = [&](const MessageBox& box) {
+        host->pStrOrchm();
+        return DefaultAnswer(box);
+      };
+      open();
+      EXPECT_EQ(Boxes().size(), 1U);
+      EXPECT_FALSE(disk.Exists(kCopy + u"txt"));
+      backend.answer = DefaultAnswer;
+      platform.files.before = [](std::string_view, std::u16string_view) {};
+      open();
+    }
+    host.reset();
+    EXPECT_EQ(Boxes().size(), 1U);
+    EXPECT_EQ(disk.ReadAll(kCopy + u"rtf"), "{\\rtf1 un}");
+    EXPECT_EQ(disk.ReadAll(kCopy + u"txt"), "deux");
+    EXPECT_FALSE(disk.Exists(u"C:\\Documents\\Secours_2_Sava.rtf"));
+    for (const char16_t* form : {u"rtf", u"txt"}) sandbox.Remove(kCopy + form);
+  }
+}
+
+TEST_F(RescueTest, AConversionDeletesInItsTurn) {
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  bool deleted = false;
+  platform.files.before = [&](std::string_view operation, std::u16string_view path) {
+    if (operation != "delete" || path != u"C:\\n\\a.txt") return;
+    deleted = true;
+    const Descriptor other(open((folder.Path() + "/c/n").c_str(), O_RDONLY | O_DIRECTORY));
+    ASSERT_TRUE(other.IsOpen());
+    EXPECT_NE(flock(other.Number(), LOCK_EX | LOCK_NB), 0);
+  };
+  Editor().Pop.mnuPopTextRichText.UserClick();
+  EXPECT_TRUE(deleted);
 }
 
 TEST_F(RescueTest, AnErrorInTheClosingDecisionKeepsTheWindow) {

@@ -51,8 +51,12 @@ class RoundTripTest : public testing::Test, public RoundTripDesk {
     return written;
   }
   bool KeepNote() override { return GarderNote(Editor(), Cause::FichierModifie); }
-  bool KeepFile(Cause cause, std::u16string_view path) override {
-    return GarderFichier(Editor(), cause, path);
+  void GoOnUnsaved() override { ContinuerSansRecharger(Editor()); }
+  std::optional<std::u16string> CopyFile(std::u16string_view path) override {
+    return CopierFichier(platform, path);
+  }
+  void TellOf(Cause cause, const Texts& copies) override {
+    AnnoncerSecours(Editor(), cause, copies);
   }
 
   void SetUp() override {
@@ -245,7 +249,7 @@ TEST_F(RoundTripTest, FormsThatDidNotComeBackAreKeptBeforeThePurge) {
   EXPECT_EQ(BoxTexts(), Texts());
   exchange->mnuPopMSWord_Click();
   Tick(2);
-  EXPECT_EQ(BoxTexts().size(), 2U);
+  EXPECT_EQ(BoxTexts().size(), 1U);
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.txt"), "en clair");
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.sav"), "autrement");
 }
@@ -328,6 +332,28 @@ TEST_F(RoundTripTest, AResultWithoutAPlaceIsNotPurged) {
   exchange->mnuPopMSWord_Click();
   Tick(3);
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.rtf"), "{\\rtf1 apr");
+}
+
+TEST_F(RoundTripTest, WithoutAPlaceForItWhatWasTypedStaysUnsaved) {
+  for (const bool rtf : {false, true}) {
+    Open(u"C:\\n\\a.txt");
+    sandbox.Remove(u"C:\\Documents");
+    std::ofstream(folder.Path() + "/state") << "no folder";
+    exchange->mnuPopMSWord_Click();
+    FinishAfter([&] {
+      Editor().Document().SelText(u"d'");
+      EnregistrerNote(Editor());
+      disk.Write(rtf ? u"C:\\Temp\\Sava.rtf" : u"C:\\Temp\\Sava.sav", "{\\rtf1 retour}");
+    });
+    EXPECT_EQ(reloads, 0);
+    EXPECT_TRUE(Values().dirty);
+    EXPECT_EQ(Values().format, rtf ? u"rtf" : u"txt");
+    EXPECT_EQ(Values().documentPath, rtf ? u"C:\\n\\a.rtf" : u"C:\\n\\a.txt");
+    sandbox.MakeParents(u"C:\\Documents\\x");
+    Editor().Unload();
+    EXPECT_EQ(disk.ReadAll(Values().documentPath).starts_with("{\\rtf1"), rtf);
+    EXPECT_NE(disk.ReadAll(Values().documentPath).find("d'avant"), std::string::npos);
+  }
 }
 
 TEST_F(RoundTripTest, RefusalsNameTheProgram) {
