@@ -50,7 +50,9 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1\uc2\u233 e\par f})", "é\nf"}, Case{R"({\rtf1\u233\b ?x})", "é?x"},
         Case{R"({\rtf1\uc9999999\u233 abc})", "é"}, Case{R"({\rtf1\uc-5\u233 abc})", "éabc"},
         Case{R"({\rtf1 A{\upr{ansi}{\*\ud{\uc0\u233 }}}B})", "AéB"},
-        Case{R"({\rtf1 a\u13?b\'0dc\'0ad})", "a\nb\nc\nd"}));
+        Case{R"({\rtf1 a\u13?b\'0dc\'0ad})", "a\nb\nc\nd"}, Case{R"({\rtf1 x\u233{y}z})", "xéyz"},
+        Case{R"({\rtf1 x\u233\'1fy})", "xéy"}, Case{R"({\rtf1 x\u65536?y})", "x\U00010000y"},
+        Case{"{\\rtf1 x\\u233\r\n?y}", "xéy"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Paragraphs, ReaderText,
@@ -121,6 +123,16 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1{\upr a}b})", "ab"}, Case{"no RTF at all", "no RTF at all"},
         Case{"a}b{c", "abc"}, Case{"", ""}, Case{"\\", ""},
         Case{R"({\rtf1\f99\cf99\ls99 a})", "a"}));
+
+TEST(Reader, ReadsRunsOfEveryLength) {
+  for (const std::string_view stop : {"\\line", "{\\line}", "\\'0b", "\\u11?"}) {
+    for (std::size_t length = 0; length < 40; ++length) {
+      const std::string run(length, '~');
+      const std::string rtf = std::string("{\\rtf1 ").append(run).append(stop);
+      EXPECT_EQ(TextOf(Read(rtf + "{zzzzzzzzz}}")), run + "\vzzzzzzzzz") << rtf;
+    }
+  }
+}
 
 TEST(Reader, PassesOverNulBytes) {
   const std::string_view rtf("{\\rtf1\0 T\0h\0is\\b\0}\0\0", 20);

@@ -79,18 +79,6 @@ TEST(Writer, WritesASelectionWithoutAFinalParagraph) {
   EXPECT_EQ(body(1, 1), "}\r\n");
 }
 
-TEST(Writer, HandsOnLongTextInPieces) {
-  const Document document = Note(std::string(200'000, 'x'));
-  std::string rtf;
-  int pieces = 0;
-  WriteRtf(document, [&](std::string_view piece) {
-    rtf += piece;
-    ++pieces;
-  });
-  EXPECT_EQ(rtf, WriteRtf(document));
-  EXPECT_GT(pieces, 2);
-}
-
 TEST(Writer, RoundsOffsetsAwayFromZero) {
   Document document;
   CharFormat format{.offset = 15};
