@@ -52,16 +52,11 @@ void Interpreter::Fallback(int, const Token& word) { State().fallback = std::max
 
 void Interpreter::Plain(int, const Token&) {
   BeginBody();
-  EditCharacter() = PlainFormat();
+  CharFormat& plain = EditCharacter();
+  plain = default_;
+  plain.size = kStandardSize;
   const SourceFont* font = fonts_.Find(defaultFont_);
   State().page = CodePage(font && font->page ? font->page : documentPage_);
-  if (State().style) ApplyCharacterStyle(*State().style);
-}
-
-CharFormat Interpreter::PlainFormat() const {
-  CharFormat plain = default_;
-  plain.size = kStandardSize;
-  return plain;
 }
 
 void Interpreter::Font(int, const Token& word) {

@@ -31,8 +31,6 @@ struct ParagraphState {
   ParaFormat Resolved() const;
 };
 
-struct StyleFormats;
-
 struct GroupState {
   static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
 
@@ -40,7 +38,6 @@ struct GroupState {
   ParagraphState paragraph;
   CodePage page;     // of text bytes
   int fallback = 1;  // \uc: characters that follow a \u for readers without Unicode
-  const StyleFormats* style = nullptr;  // of the paragraph
 
   FieldId field = 0;               // the innermost one, 0 none
   KeptId inField = 0;              // what is kept with a character in that field

@@ -60,6 +60,22 @@ void Interpreter::Colours(int, const Token&) {
   colours_.Read(tokens_);
 }
 
+/// A word of the body behind the entries shows that the table's brace is lost.
+void Interpreter::PassTable() {
+  int depth = 0;
+  tokens_.WhileInGroup([&](const Token& token) {
+    if (token.kind == Token::Kind::Open) ++depth;
+    if (token.kind == Token::Kind::Close) --depth;
+    return depth > 0 || !EndsTable(token);
+  });
+}
+
+void Interpreter::Styles(int, const Token&) {
+  const std::size_t from = tokens_.Start();
+  PassTable();
+  if (!begun_) KeepInHead(GroupSource(from));
+}
+
 // Lists that come behind the first text would be others when the note is written and read again.
 
 void Interpreter::Lists(int, const Token&) {

@@ -14,7 +14,6 @@
 #include "rtf/KeptWords.h"
 #include "rtf/ListTable.h"
 #include "rtf/Reader.h"
-#include "rtf/StyleSheet.h"
 #include "rtf/Tokenizer.h"
 
 namespace lumenote {
@@ -48,12 +47,14 @@ class Interpreter {
   void FieldResult(int value, const Token& word);
   void Generator(int value, const Token& word);
   void KeepWord(int value, const Token& word);
+  void KeepStyle(int value, const Token& word);
   void KeepAssociated(int value, const Token& word);
   void SkipAlternative(int value, const Token& word);
   void Marker(int value, const Token& word);
   void Numbering(int value, const Token& word);
   void Fonts(int value, const Token& word);
   void Colours(int value, const Token& word);
+  void Styles(int value, const Token& word);
   void Lists(int value, const Token& word);
   void ListOverrides(int value, const Token& word);
 
@@ -91,11 +92,6 @@ class Interpreter {
   void List(int value, const Token& word);
   void ListLevel(int value, const Token& word);
 
-  // Styles.
-  void Styles(int value, const Token& word);
-  void ParagraphStyle(int value, const Token& word);
-  void CharacterStyle(int value, const Token& word);
-
  private:
   static constexpr std::size_t kDeepest = 10'000;
 
@@ -124,6 +120,7 @@ class Interpreter {
   void KeepUnknown(const Token& word);
   void KeepInHead(const std::string& source);
   std::string GroupSource(std::size_t from);
+  void PassTable();
   void EnterField(KeptField field);
   void EndField(const GroupState& group, const GroupState& around);
   void BeginBody();
@@ -140,11 +137,6 @@ class Interpreter {
   HeadId Head();
   void UseDefaultFont(GroupState& state);
   bool HasBullet() const;
-  /// What \plain gives where no style says otherwise.
-  CharFormat PlainFormat() const;
-  const StyleFormats* FormatsOf(StyleSheet::Kind kind, int number);
-  void ResolveStyle(const StyleFormats* base, Style& style);
-  void ApplyCharacterStyle(const StyleFormats& style);
 
   GroupState& State() { return groups_.back(); }
   const GroupState& State() const { return groups_.back(); }
@@ -167,11 +159,9 @@ class Interpreter {
   FontTable fonts_;
   ColourTable colours_;
   ListTable lists_;
-  StyleSheet styles_;
   CharFormat default_;    // what \plain gives, but for the size
   int defaultFont_ = -1;  // \deff
   int documentPage_ = kPageOfWindows;
-  bool appliesStyles_ = true;
 
   std::size_t tabsLeft_;  // stops that paragraph formats may still have
 

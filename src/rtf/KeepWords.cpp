@@ -46,6 +46,12 @@ void Interpreter::KeepWord(int value, const Token& word) {
   }
 }
 
+/// A style is a label: how text of it looks, the words behind it say.
+void Interpreter::KeepStyle(int value, const Token& word) {
+  if (static_cast<WordScope>(value) == WordScope::Paragraph) BeginBody();
+  KeepWord(value, word);
+}
+
 void Interpreter::KeepAssociated(int, const Token& word) {
   if (target_ == RtfTarget::Selection) return;
   EditCharacter().words = keeper_.WithScript(word, State().character.words);
@@ -97,16 +103,10 @@ void Interpreter::KeepAside(int, const Token&) {
   keeper_.Keep(GroupSource(from));
 }
 
-/// The same for a table of the head; a word of the body behind its entries shows that its brace is
-/// lost.
+/// The same for a table of the head.
 void Interpreter::KeepTable(int, const Token&) {
   const std::size_t from = tokens_.Start();
-  int depth = 0;
-  tokens_.WhileInGroup([&](const Token& token) {
-    if (token.kind == Token::Kind::Open) ++depth;
-    if (token.kind == Token::Kind::Close) --depth;
-    return depth > 0 || !EndsTable(token);
-  });
+  PassTable();
   keeper_.Keep(GroupSource(from));
 }
 
@@ -187,14 +187,11 @@ CharId Interpreter::NextCharacter() {
 
 // --- the head
 
-/// This component writes every format out, whatever the style of the text, and tables that are to
-/// stay as they are.
+/// The tables that this component wrote are to stay as they are.
 void Interpreter::Generator(int, const Token&) {
   const std::size_t from = tokens_.At();
   tokens_.SkipGroup();
-  const bool own = tokens_.Source(from, tokens_.At()).starts_with(kOwnName);
-  appliesStyles_ = !own;
-  keeper_.NeedTablesIf(own);
+  keeper_.NeedTablesIf(tokens_.Source(from, tokens_.At()).starts_with(kOwnName));
 }
 
 /// What came before goes with the note; a selection leaves it behind.

@@ -11,7 +11,6 @@ struct Keyword {
   void (Interpreter::*handler)(int value, const Token& word);
   int value = 0;
   bool opensGroup = false;  // may stand behind \*
-  bool formats = false;     // says what text or paragraphs look like
 };
 
 /// Null for a word that means nothing here.

@@ -73,7 +73,6 @@ ParaFormat ParagraphState::Resolved() const {
 void Interpreter::DefaultParagraph(int, const Token&) {
   BeginBody();
   EditParagraph() = {};
-  State().style = nullptr;
 }
 
 void Interpreter::Align(int value, const Token&) {

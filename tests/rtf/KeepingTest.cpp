@@ -108,7 +108,7 @@ TEST(Keeping, KeepsTheHeadWithTheNumbersOfItsTables) {
             "{\\colortbl ;\\red1\\green0\\blue0;\\red2\\green0\\blue0;}\r\n"
             "{\\stylesheet{\\s3\\b\\cf2 T;}}{\\info{\\title \\'cf}}\\paperw9\\sectd"
             "{\\*\\generator Lumenote;}\\viewkind4\\uc1\\pard\\s3\\fi0\\li0\\ri0\\sb0\\sa0\\sl240"
-            "\\slmult1\\ql\\b\\cf2\\f7\\fs24\\u1055?\\par }\r\n");
+            "\\slmult1\\ql\\f7\\fs24\\u1055?\\par }\r\n");
   EXPECT_EQ(WriteRtf(Read(written)), written);
 }
 
