@@ -1,4 +1,7 @@
 // Reading and assigning members by name.
+#include <string>
+#include <vector>
+
 #include "pilot/Arguments.h"
 #include "pilot/Objects.h"
 #include "pilot/Stage.h"
@@ -7,9 +10,12 @@
 namespace lumenote::verbs {
 
 Answer Get(Stage& stage, Arguments& arguments) {
-  const std::string path = arguments.Name();
-  arguments.End();
-  return ReadMember(stage, path);
+  std::vector<std::string> paths{arguments.Name()};
+  while (!arguments.AtEnd()) paths.push_back(arguments.Name());
+  if (paths.size() == 1) return ReadMember(stage, paths.front());
+  Value::Array values;
+  for (const std::string& path : paths) values.push_back(ReadMember(stage, path));
+  return Value(std::move(values));
 }
 
 Answer Set(Stage& stage, Arguments& arguments) {
