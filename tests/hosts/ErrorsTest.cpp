@@ -39,12 +39,20 @@ TEST(ErrorsTest, AColourTextThatIsNoNumberNamesItsProperty) {
     EXPECT_EQ(control.Parts().editor.Loaded() != nullptr, c.number == 0);
     control.pStrOrchm();
   }
-  try {
-    control.pCouleurFen(u"rouge");
-    control.ShowMicroEdit();
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.Description(), u"Incompatibilité de type");
-    EXPECT_STREQ(error.what(), "Incompatibilité de type");
+}
+
+TEST(ErrorsTest, OnlyAPathWithADriveNamesAFile) {
+  Machine machine;
+  CoBxRtf control(machine.platform);
+  const std::pair<std::u16string_view, bool> notes[] = {
+      {u"C:\\a.rtf", true},          {u"C:\\a.rt", false},
+      {u"?:\\abcde", true},          {u"?:\\abcd", false},
+      {u"\\\\server\\x.rtf", false}, {u"notes\\x.rtf", false},
+      {u"C:/notes/x.rtf", false},    {u"", false}};
+  for (const auto& [note, isFile] : notes) {
+    control.pStrOrchm(note);
+    EXPECT_EQ(control.Parts().session->fileMode, isFile) << testing::PrintToString(note);
+    EXPECT_EQ(control.Parts().session->documentPath, isFile ? note : u"");
   }
 }
 
