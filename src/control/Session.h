@@ -31,7 +31,7 @@ struct FileState {
   std::u16string path;
   std::size_t size = 0;
   std::size_t hash = 0;
-  bool operator==(const FileState&) const = default;
+  std::int64_t time = 0;  // of its modification; 0 where a change might not show in it
 };
 
 /// One set per control and opening. The host's values stay as written; the derived ones say how the

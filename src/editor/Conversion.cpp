@@ -2,12 +2,14 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/RuntimeError.h"
 #include "control/Session.h"
 #include "editor/ContextMenu.h"
 #include "editor/DocumentStorage.h"
+#include "editor/FileState.h"
 #include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
@@ -16,19 +18,21 @@
 namespace lumenote {
 namespace {
 
-/// Writes the document to `path` and loads it from there. Where the load fails, what stood there
-/// before is put back.
-bool Exchange(EditorWindow& editor, std::u16string_view path, FileType type) {
+/// Writes the document to `path` and loads it from there; the file as it is then. Where the load
+/// fails, what stood there before is put back, and there is none.
+std::optional<FileState> Exchange(EditorWindow& editor, std::u16string_view path, FileType type) {
   Files& files = editor.Services().FileSystem();
   std::optional<std::string> before;
+  std::optional<FileState> state;
   const bool written = IgnoringErrors([&] {
     if (files.Exists(path)) before = files.ReadAll(path);
     editor.Document().SaveFile(path, type);
   });
-  if (!written) return false;
-  if (IgnoringErrors([&] { editor.Document().LoadFile(path, type); })) return true;
-  IgnoringErrors([&] { before ? files.Write(path, *before) : files.Delete(path, true); });
-  return false;
+  if (!written) return state;
+  IgnoringErrors([&] { state = StateOf(path, editor.Document().LoadFile(path, type)); });
+  if (!state)
+    IgnoringErrors([&] { before ? files.Write(path, *before) : files.Delete(path, true); });
+  return state;
 }
 
 void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
@@ -37,14 +41,15 @@ void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
   Files& files = editor.Services().FileSystem();
   const std::u16string old = session.documentPath;
   const std::u16string path = ChmExts(old, format);
-  if (!Exchange(editor, path, type)) return;
+  std::optional<FileState> state = Exchange(editor, path, type);
+  if (!state) return;
   session.format = format;
   session.dirty = false;
   editor.ShowFormat(label);
   std::vector<std::u16string> kept;
   if (!files.SameFile(old, path)) SupprimerFichier(editor, kept);
   session.documentPath = path;
-  NoterFichier(editor);
+  session.onDisk = std::move(*state);
   editor.ShowStatus(1, EspDvtDer(path));
   AnnoncerSecours(editor, Cause::FichierModifie, kept);
 }

@@ -1,7 +1,6 @@
 #include "editor/DocumentStorage.h"
 
 #include <algorithm>
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -10,6 +9,7 @@
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "control/Session.h"
+#include "editor/FileState.h"
 #include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
@@ -31,10 +31,6 @@ void PutNote(Session& session, std::u16string value) {
   if (!session.noteReplaced) session.note = std::move(value);
 }
 
-FileState StateOf(std::u16string_view path, std::string_view bytes) {
-  return {std::u16string(path), bytes.size(), std::hash<std::string_view>{}(bytes)};
-}
-
 /// What another program has made of the document's file since this editor read or wrote it, kept as
 /// a rescue copy: its path, empty when there is no such thing. Raises PathAccess when there is no
 /// place for it, and what reading the file raises.
@@ -42,10 +38,10 @@ std::optional<std::u16string> KeepOtherState(EditorWindow& editor) {
   Session& session = editor.Values();
   const std::u16string& path = session.documentPath;
   const Files& files = editor.Services().FileSystem();
-  if (!files.Exists(path)) return std::nullopt;
+  if (!files.Exists(path) || IsUntouched(files, session.onDisk, path)) return std::nullopt;
   const std::string bytes = files.ReadAll(path);
   FileState state = StateOf(path, bytes);
-  if (state == session.onDisk) return std::nullopt;
+  if (IsSameContent(state, session.onDisk)) return std::nullopt;
   auto copy = EcrireSecours(editor.Services(), path, bytes);
   if (!copy) throw RuntimeError(ErrorNumber::PathAccess);
   session.onDisk = std::move(state);
@@ -89,7 +85,9 @@ TextForm EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_vi
   return form;
 }
 
-void CreFVideRtf(Files& files, std::u16string_view path) { files.Write(path, kEmptyRtf); }
+void CreFVideRtf(Files& files, std::u16string_view path) {
+  files.WriteNew(path, kEmptyRtf, Readers::AsUsual);
+}
 
 std::u16string EspDvtDer(std::u16string_view path) {
   return u"   " + std::u16string(path) + u"   ";
@@ -117,15 +115,6 @@ void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16strin
   IgnoringErrors([&] { files.Delete(path, false); });
 }
 
-void NoterFichier(EditorWindow& editor) {
-  Session& session = editor.Values();
-  session.onDisk = {};
-  IgnoringErrors([&] {
-    session.onDisk =
-        StateOf(session.documentPath, editor.Services().FileSystem().ReadAll(session.documentPath));
-  });
-}
-
 void DireEchecChargement(EditorWindow& editor) {
   editor.AskOver({.text = u"Impossible de Charger le fichier\r\n" + editor.Values().documentPath,
                   .icon = MessageBox::Icon::Critical});
@@ -134,12 +123,11 @@ void DireEchecChargement(EditorWindow& editor) {
 bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form) {
   Session& session = editor.Values();
   const FileType type = ShowDocumentPath(editor);
-  const FileState before = session.onDisk;
-  NoterFichier(editor);
-  const bool loaded =
-      IgnoringErrors([&] { editor.Document().LoadFile(session.documentPath, type, form); });
+  const std::u16string& path = session.documentPath;
+  const FileTime time = SettledTime(editor.Services().FileSystem(), path);
+  const bool loaded = IgnoringErrors(
+      [&] { session.onDisk = StateOf(path, editor.Document().LoadFile(path, type, form), time); });
   session.dirty = session.loaded && !loaded;
-  if (!loaded) session.onDisk = before;
   if (!loaded) DireEchecChargement(editor);
   return loaded;
 }

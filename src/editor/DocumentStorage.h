@@ -22,7 +22,8 @@ std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
 /// 1252 or what `FormFor` finds; RTF source has escapes for the characters that are not in that
 /// page.
 TextForm EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
-/// Writes the empty RTF document.
+/// Creates the empty RTF document. A file that another program has made there meanwhile is left
+/// alone (PermissionDenied).
 void CreFVideRtf(Files& files, std::u16string_view path);
 /// The path between three blanks on each side, as the status bar shows it.
 std::u16string EspDvtDer(std::u16string_view path);
@@ -50,9 +51,6 @@ void ContinuerSansRecharger(EditorWindow& editor);
 /// Tells the user that the document path could not be loaded.
 void DireEchecChargement(EditorWindow& editor);
 
-/// Remembers the file at the document path as it is now, so that a save can tell what another
-/// program makes of it.
-void NoterFichier(EditorWindow& editor);
 /// Writes the document to its path. Where another program has changed the file, that state is first
 /// kept as a rescue copy, whose path is added to `kept` for the user to be told of when all is
 /// done. A failure, of the copy too, leaves the old file whole and stands in the second status

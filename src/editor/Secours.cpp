@@ -93,7 +93,7 @@ std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_vi
     Files& files = machine.FileSystem();
     std::u16string wanted = machine.SpecialFolders().Documents() + u"\\" + free;
     if (files.Exists(wanted)) throw RuntimeError(ErrorNumber::PermissionDenied);
-    files.WriteNew(wanted, bytes);
+    files.WriteNew(wanted, bytes, Readers::UserOnly);
     return wanted;
   });
   if (path) return path;

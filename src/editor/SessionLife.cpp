@@ -18,7 +18,7 @@ void PrepareFile(EditorWindow& editor) {
   session.format = FormatDe(session.documentPath);
   if (!files.Exists(session.documentPath)) {
     if (session.format == u"txt")
-      IgnoringErrors([&] { files.Write(session.documentPath, ""); });
+      IgnoringErrors([&] { files.WriteNew(session.documentPath, "", Readers::AsUsual); });
     else if (session.format == u"rtf")
       IgnoringErrors([&] { CreFVideRtf(files, session.documentPath); });
   }

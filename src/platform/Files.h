@@ -10,6 +10,9 @@ namespace lumenote {
 /// Nanoseconds since the epoch; full precision of the file system.
 using FileTime = std::int64_t;
 
+/// Who may read a new file: those whom the user's settings say, or this user alone.
+enum class Readers { AsUsual, UserOnly };
+
 /// Every path is a drive-letter path ("C:\notes\a.rtf"), case kept. Failures are run-time errors:
 /// FileNotFound, DiskFull, PermissionDenied, PathAccess, PathNotFound (a missing folder or drive, a
 /// text that is no path). A folder is not a file.
@@ -22,6 +25,7 @@ class Files {
   /// The read-only attribute: the owner's missing write bit on POSIX.
   virtual bool IsReadOnly(std::u16string_view path) const = 0;
   virtual FileTime ModificationTime(std::u16string_view path) const = 0;
+  virtual std::uint64_t Size(std::u16string_view path) const = 0;  // bytes
   virtual std::string ReadAll(std::u16string_view path) const = 0;
   /// Whether both paths lead to one file, links of either kind followed; never fails.
   virtual bool SameFile(std::u16string_view one, std::u16string_view other) const = 0;
@@ -36,9 +40,8 @@ class Files {
   /// other names), or its folder is closed, the file itself is written, with a backup until that is
   /// done. Refuses a read-only file (PathAccess).
   virtual void Write(std::u16string_view path, std::string_view bytes) = 0;
-  /// Makes a new file that only this user may read, whole or not at all. PermissionDenied where
-  /// something of that name stands.
-  virtual void WriteNew(std::u16string_view path, std::string_view bytes) = 0;
+  /// Makes a new file, whole or not at all. PermissionDenied where something of that name stands.
+  virtual void WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) = 0;
   /// Adds whole lines behind what the file holds, in one write and all of them or none, so that
   /// several programs can add to it at the same time; a last line without its end gets it first. A
   /// missing file is made. Refuses a read-only file (PathAccess).

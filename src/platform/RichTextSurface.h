@@ -123,9 +123,9 @@ class RichTextSurface {
 
   /// Replaces everything and clears the undo history. A file that is no RTF behind `FileType::Rtf`
   /// raises InvalidArgument (5); a failure leaves the content as it is. Plain text is read in
-  /// `form`, without it in the one that the bytes tell of (`FormOfText`).
-  virtual void LoadFile(std::u16string_view path, FileType type,
-                        std::optional<TextForm> form = std::nullopt) = 0;
+  /// `form`, without it in the one that the bytes tell of (`FormOfText`). Returns what it has read.
+  virtual std::string LoadFile(std::u16string_view path, FileType type,
+                               std::optional<TextForm> form = std::nullopt) = 0;
   /// Plain text is written in the form of UTF-8 that it was loaded in, else in page 1252, and as
   /// UTF-8 with a mark where that cannot be (`EncodeTextFile`), its breaks as CR LF. The very text
   /// that was loaded goes back byte for byte. Returns what it has written.

@@ -68,8 +68,11 @@ class DocumentSurface final : public RichTextSurface {
   float RightMargin() const override { return rightMargin_; }
   void RightMargin(float twips) override;
 
-  void LoadFile(std::u16string_view path, FileType type, std::optional<TextForm> form) override {
-    WithMemoryErrors([&] { transfer_.Load(path, type, form); });
+  std::string LoadFile(std::u16string_view path, FileType type,
+                       std::optional<TextForm> form) override {
+    std::string bytes;
+    WithMemoryErrors([&] { bytes = transfer_.Load(path, type, form); });
+    return bytes;
   }
   std::string SaveFile(std::u16string_view path, FileType type) override {
     std::string bytes;

@@ -9,6 +9,17 @@ namespace lumenote {
 
 namespace {
 
+bool AreBytes(std::u16string_view units) {
+  return std::ranges::all_of(units, [](char16_t unit) { return unit <= 0xFF; });
+}
+
+std::string Narrow(std::u16string_view units) {
+  std::string bytes(units.size(), '\0');
+  std::ranges::transform(units, bytes.begin(),
+                         [](char16_t unit) { return static_cast<char>(unit); });
+  return bytes;
+}
+
 /// RTF source as bytes; `byteOf` gives the one of a unit, or -1. The braces behind an escape shut
 /// out that what follows is taken for its fallback, however many characters (\uc) those are.
 template <class ByteOf>
@@ -39,6 +50,7 @@ std::u16string UnitsOfBytes(std::string_view bytes) {
 }
 
 std::string BytesOfUnits(std::u16string_view units) {
+  if (AreBytes(units)) return Narrow(units);
   return SourceBytes(units, [](char16_t unit) { return unit <= 0xFF ? unit : ByteIn1252(unit); });
 }
 

@@ -106,10 +106,14 @@ void Transfer::SelectedRtf(std::u16string_view rtf) {
     text_.DeleteSelection(UndoKind::Unknown);
 }
 
-void Transfer::Load(std::u16string_view path, FileType type, std::optional<TextForm> form) {
+std::string Transfer::Load(std::u16string_view path, FileType type, std::optional<TextForm> form) {
   core_.RequireQuiet();
   std::string bytes = files_.ReadAll(path);
-  if (type == FileType::Text) return LoadText(std::move(bytes), form);
+  type == FileType::Text ? LoadText(bytes, form) : LoadSource(bytes);
+  return bytes;
+}
+
+void Transfer::LoadSource(std::string_view bytes) {
   if (!LooksLikeRtf(bytes))
     throw RuntimeError(ErrorNumber::InvalidArgument, u"Le fichier n'est pas au format RTF");
   LoadRtf(bytes);
@@ -119,13 +123,13 @@ void Transfer::Load(std::u16string_view path, FileType type, std::optional<TextF
 
 // The file itself is kept only where it could not be told from its text: the breaks of the document
 // are all alike, and damaged bytes have no characters. Each lone CR or LF has made the text longer.
-void Transfer::LoadText(std::string bytes, std::optional<TextForm> form) {
+void Transfer::LoadText(const std::string& bytes, std::optional<TextForm> form) {
   form_ = form.value_or(FormOfText(bytes));
   const std::u16string text = DecodeText(bytes, form_);
   Text(text);
   const bool same = static_cast<std::size_t>(core_.Content().Length()) == text.size() &&
                     (form_ == TextForm::Windows1252 || EncodeTextFile(text, form_) == bytes);
-  original_ = same || form ? std::string() : std::move(bytes);
+  original_ = same || form ? std::string() : bytes;
 }
 
 std::string Transfer::PlainBytes() const {

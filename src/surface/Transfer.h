@@ -24,7 +24,7 @@ class Transfer {
   std::u16string SelectedRtf() const;
   void SelectedRtf(std::u16string_view rtf);
 
-  void Load(std::u16string_view path, FileType type, std::optional<TextForm> form);
+  std::string Load(std::u16string_view path, FileType type, std::optional<TextForm> form);
   std::string Save(std::u16string_view path, FileType type);
   /// What `Save` writes.
   std::string Bytes(FileType type) const;
@@ -40,7 +40,8 @@ class Transfer {
 
  private:
   void LoadRtf(std::string_view bytes);
-  void LoadText(std::string bytes, std::optional<TextForm> form);
+  void LoadSource(std::string_view bytes);
+  void LoadText(const std::string& bytes, std::optional<TextForm> form);
   std::string PlainBytes() const;
   Fragment FragmentOf(const ClipboardContent& content);
 

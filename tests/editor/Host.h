@@ -47,6 +47,7 @@ class DisturbedFiles : public Files {
   FileTime ModificationTime(std::u16string_view path) const override {
     return inner_.ModificationTime(path);
   }
+  std::uint64_t Size(std::u16string_view path) const override { return inner_.Size(path); }
   std::string ReadAll(std::u16string_view path) const override {
     before("read", path);
     return inner_.ReadAll(path);
@@ -61,9 +62,9 @@ class DisturbedFiles : public Files {
     before("write", path);
     inner_.Write(path, bytes);
   }
-  void WriteNew(std::u16string_view path, std::string_view bytes) override {
+  void WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) override {
     before("write", path);
-    inner_.WriteNew(path, bytes);
+    inner_.WriteNew(path, bytes, readers);
   }
   void AppendLines(std::u16string_view path, std::string_view lines) override {
     before("write", path);

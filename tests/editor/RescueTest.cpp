@@ -101,6 +101,49 @@ TEST_F(RescueTest, AChangedFileThatCannotBeKeptIsNotReplaced) {
   EXPECT_EQ(Shown().substr(0, 9), u"pas avant");
 }
 
+TEST_F(RescueTest, AFileIsReadAgainBeforeASaveOnlyWhenItMayHaveChanged) {
+  const std::u16string path = u"C:\\n\\a.txt";
+  const struct {
+    std::function<void()> meanwhile;
+    int readings;
+    bool changed;
+  } cases[] = {{[] {}, 1, false},
+               {[&] { disk.Write(path, "mien"); }, 2, false},
+               {[&] { disk.Write(path, "leur"); }, 2, true},
+               {[&] { disk.Write(path, "le leur"), sandbox.Age(path, -3600); }, 2, true},
+               {[&] { sandbox.Remove(path); }, 1, false}};
+  for (const auto& c : cases) {
+    sandbox.MakeParents(path);
+    disk.Write(path, "mien");
+    sandbox.Age(path, -3600);
+    int readings = 0;
+    platform.files.before = [&](std::string_view operation, std::u16string_view read) {
+      readings += operation == "read" && read == path;
+    };
+    Open(path);
+    c.meanwhile();
+    Type(u"x");
+    Editor().Pop.mnuPopEnregistrer.UserClick();
+    EXPECT_EQ(readings, c.readings);
+    EXPECT_EQ(Boxes().size(), c.changed);
+    EXPECT_EQ(disk.ReadAll(path), "xmien");
+    control.pStrOrchm();
+  }
+}
+
+TEST_F(RescueTest, AnEmptyNoteNeverTakesThePlaceOfAnothersFile) {
+  for (const std::u16string path : {u"C:\\n\\a.txt", u"C:\\n\\a.rtf"}) {
+    sandbox.MakeParents(path);
+    platform.files.before = [&](std::string_view operation, std::u16string_view) {
+      if (operation == "write") disk.Write(path, "{\\rtf1 leur}");
+    };
+    Open(path);
+    EXPECT_EQ(disk.ReadAll(path), "{\\rtf1 leur}");
+    EXPECT_NE(Shown().find(u"leur"), Shown().npos);
+    control.pStrOrchm();
+  }
+}
+
 TEST_F(RescueTest, OnlyTheFileThatWasNamedIsDeleted) {
   const struct {
     std::function<void()> meanwhile;  // while the question stands

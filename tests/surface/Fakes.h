@@ -18,6 +18,7 @@ class MemoryFiles final : public Files {
   bool Exists(std::u16string_view path) const override { return files.contains(path); }
   bool IsReadOnly(std::u16string_view) const override { return false; }
   FileTime ModificationTime(std::u16string_view) const override { return 0; }
+  std::uint64_t Size(std::u16string_view path) const override { return ReadAll(path).size(); }
   std::string ReadAll(std::u16string_view path) const override {
     const auto found = files.find(path);
     if (found == files.end()) throw RuntimeError(ErrorNumber::FileNotFound);
@@ -31,7 +32,9 @@ class MemoryFiles final : public Files {
     if (broken) throw RuntimeError(ErrorNumber::PathAccess);
     files[std::u16string(path)] = bytes;
   }
-  void WriteNew(std::u16string_view path, std::string_view bytes) override { Write(path, bytes); }
+  void WriteNew(std::u16string_view path, std::string_view bytes, Readers) override {
+    Write(path, bytes);
+  }
   void AppendLines(std::u16string_view path, std::string_view lines) override {
     if (broken) throw RuntimeError(ErrorNumber::PathAccess);
     files[std::u16string(path)] += lines;

@@ -64,6 +64,10 @@ FileTime PosixFiles::ModificationTime(std::u16string_view path) const {
   return InNanoseconds(InfoOf(drives_.ToNative(path)).st_mtim);
 }
 
+std::uint64_t PosixFiles::Size(std::u16string_view path) const {
+  return static_cast<std::uint64_t>(InfoOf(drives_.ToNative(path)).st_size);
+}
+
 std::string PosixFiles::ReadAll(std::u16string_view path) const {
   return ReadWholeFile(drives_.ToNative(path));
 }
@@ -93,8 +97,9 @@ void PosixFiles::Write(std::u16string_view path, std::string_view bytes) {
   SaveFile(drives_.ToNative(path), bytes, kNewFileMode, backups_);
 }
 
-void PosixFiles::WriteNew(std::u16string_view path, std::string_view bytes) {
-  AtomicFile file(drives_.ToNative(path), S_IRUSR | S_IWUSR);
+void PosixFiles::WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) {
+  const mode_t mode = readers == Readers::UserOnly ? S_IRUSR | S_IWUSR : kNewFileMode;
+  AtomicFile file(FollowLinks(drives_.ToNative(path)), mode);
   file.Write(bytes);
   file.CommitAsNew();
 }

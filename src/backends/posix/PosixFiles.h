@@ -19,6 +19,7 @@ class PosixFiles : public Files {
   bool Exists(std::u16string_view path) const override;
   bool IsReadOnly(std::u16string_view path) const override;
   FileTime ModificationTime(std::u16string_view path) const override;
+  std::uint64_t Size(std::u16string_view path) const override;
   std::string ReadAll(std::u16string_view path) const override;
   bool SameFile(std::u16string_view one, std::u16string_view other) const override;
 
@@ -27,7 +28,7 @@ class PosixFiles : public Files {
   /// Writes through a symbolic link: the link stays, the file behind it is replaced. May be called
   /// on any thread.
   void Write(std::u16string_view path, std::string_view bytes) override;
-  void WriteNew(std::u16string_view path, std::string_view bytes) override;
+  void WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) override;
   void AppendLines(std::u16string_view path, std::string_view lines) override;
   /// Removes a symbolic link itself.
   void Delete(std::u16string_view path, bool force) override;
