@@ -7,7 +7,7 @@
 #include "Limits.h"
 #include "Notes.h"
 #include "document/Search.h"
-#include "document/Undo.h"
+#include "document/undo/Undo.h"
 
 namespace lumenote {
 namespace {

@@ -8,7 +8,7 @@
 #include "ocr/Cleanup.h"
 #include "surface/DocumentSurface.h"
 #include "surface/Fakes.h"
-#include "surface/TextBytes.h"
+#include "surface/editing/TextBytes.h"
 
 namespace lumenote {
 namespace {

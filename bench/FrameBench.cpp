@@ -12,7 +12,7 @@
 
 #include "Notes.h"
 #include "ScannedPage.h"
-#include "backends/qt/RichTextView.h"
+#include "backends/qt/view/RichTextView.h"
 #include "ocr/Cleanup.h"
 #include "qt/Desk.h"
 #include "surface/Fakes.h"

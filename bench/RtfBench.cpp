@@ -5,8 +5,8 @@
 
 #include "Limits.h"
 #include "Notes.h"
-#include "rtf/Reader.h"
-#include "rtf/Writer.h"
+#include "rtf/read/Reader.h"
+#include "rtf/write/Writer.h"
 
 namespace lumenote {
 namespace {

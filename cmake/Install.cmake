@@ -1,8 +1,8 @@
-# The CMake package: find_package(Lumenote), targets Lumenote::Lumenote and Lumenote::Qt.
+# The CMake package: find_package(Lumenote), targets Lumenote::Core, Posix, Headless and Qt.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
-set(targets lumenote)
+set(targets lumenote_core lumenote_posix lumenote_headless)
 if(LUMENOTE_QT)
   list(APPEND targets lumenote_qt)
 endif()

@@ -1,20 +1,30 @@
 #!/usr/bin/env python3
 """Checks that includes point downwards only.   usage: check_includes.py SRC_FOLDER
 
-A layer may include itself and the layers below it. The two pure headers may be included from every
-layer above the forms. A system header of a toolkit or an operating system stays in backends/.
+A layer may include itself and the layers below it. The rooms of a layer include each other in one
+direction only: no room comes back to itself through others. A system header of a toolkit or an
+operating system stays in backends/; only the sandboxes of the scripts know a backend.
 """
+import collections
 import pathlib
 import re
 import sys
 
-LAYERS = ["base", "document", "rtf", "platform", "surface", "forms",
+LAYERS = ["base", "document", "rtf", "platform", "surface", "forms", "session",
           ("selection", "extapps"), ("find", "symbols", "ocr", "format"),
-          "editor", "control", "pilot", "backends"]
-PURE = {"control/Session.h", "editor/EditorWindow.h"}
+          "editor", "control", "backends", "pilot"]
+# The kept source still asks the reader's table of words.
+OPEN = {("rtf/kept", "rtf/read")}
 FOREIGN = re.compile(r"^(Q[A-Z]|q[a-z]+/|sys/|X11/|unistd|fcntl|windows|dirent|spawn|pwd|grp)")
 RANK = {name: rank for rank, names in enumerate(LAYERS)
         for name in ([names] if isinstance(names, str) else names)}
+
+
+def includes(file):
+    for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+        found = re.match(r'\s*#\s*include\s*([<"])([^>"]+)', line)
+        if found:
+            yield number, *found.groups()
 
 
 def complaint(source, path, quote, target):
@@ -24,25 +34,44 @@ def complaint(source, path, quote, target):
         return "platform header" if layer != "backends" and FOREIGN.match(target) else None
     if not (source / target).exists():
         return "no such header"
-    other = target.split("/")[0]
-    if target in PURE and RANK[layer] > RANK["forms"]:
-        return None
-    if other == "backends" and layer != "backends":
+    if target.startswith("backends/") and layer == "pilot" and path.parts[1] != "posix":
         return "backend from above"
-    return "points up" if RANK[other] > RANK[layer] else None
+    return "points up" if RANK[target.split("/")[0]] > RANK[layer] else None
+
+
+def way_back(rooms, start):
+    """The rooms through which `start` includes itself, or None."""
+    ways = collections.deque([[start]])
+    seen = set()
+    while ways:
+        way = ways.popleft()
+        for room in sorted(rooms[way[-1]]):
+            if room == start:
+                return way + [start]
+            if room not in seen:
+                seen.add(room)
+                ways.append(way + [room])
+    return None
 
 
 def main():
     source = pathlib.Path(sys.argv[1])
-    bad = 0
+    bad = []
+    rooms = collections.defaultdict(set)
     for file in sorted(source.rglob("*.[ch]*")):
         path = file.relative_to(source)
-        for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
-            found = re.match(r'\s*#\s*include\s*([<"])([^>"]+)', line)
-            why = found and complaint(source, path, *found.groups())
+        for number, quote, target in includes(file):
+            why = complaint(source, path, quote, target)
             if why:
-                print(f"{path}:{number}: {why}: {found.group(2)}")
-                bad += 1
+                bad.append(f"{path}:{number}: {why}: {target}")
+            room, other = str(path.parent), str(pathlib.Path(target).parent)
+            if quote == '"' and room != other and (room, other) not in OPEN:
+                rooms[room].add(other)
+    for room in sorted(rooms):
+        way = way_back(rooms, room)
+        if way:
+            bad.append("circle of rooms: " + " -> ".join(way))
+    print("\n".join(bad))
     return 1 if bad else 0
 
 

@@ -6,11 +6,10 @@
 #include <vector>
 
 #include "SuddenEnds.h"
-#include "backends/posix/PosixSandbox.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtPlatform.h"
 #include "backends/qt/QtUserActs.h"
-#include "backends/qt/Shot.h"
+#include "backends/qt/windows/Shot.h"
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
@@ -19,9 +18,10 @@
 #include "control/Component.h"
 #include "editor/DocumentStorage.h"
 #include "pilot/RunPilot.h"
+#include "pilot/posix/PosixSandbox.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
-#include "rtf/Reader.h"
+#include "rtf/read/Reader.h"
 
 using namespace lumenote;
 

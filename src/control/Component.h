@@ -3,11 +3,11 @@
 #include <memory>
 #include <thread>
 
-#include "control/Session.h"
 #include "editor/Co_Rtf.h"
 #include "forms/Instance.h"
 #include "forms/WindowList.h"
 #include "platform/Folders.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

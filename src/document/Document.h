@@ -8,9 +8,9 @@
 #include <string_view>
 #include <utility>
 
-#include "document/Formats.h"
-#include "document/Fragment.h"
-#include "document/LeafList.h"
+#include "document/formats/Formats.h"
+#include "document/text/Fragment.h"
+#include "document/text/LeafList.h"
 
 namespace lumenote {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <tuple>
 
-#include "document/LeafList.h"
 #include "document/Search.h"
+#include "document/text/LeafList.h"
 
 namespace lumenote {
 

@@ -1,6 +1,5 @@
 #include "editor/Co_Rtf.h"
 
-#include "control/Session.h"
 #include "editor/Conversion.h"
 #include "editor/EditCommands.h"
 #include "editor/Layout.h"
@@ -17,6 +16,7 @@
 #include "platform/Settings.h"
 #include "selection/LetterCase.h"
 #include "selection/TextUnits.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

@@ -2,7 +2,6 @@
 #pragma once
 #include "editor/ContextMenu.h"
 #include "editor/DocumentStorage.h"
-#include "editor/EditorWindow.h"
 #include "editor/MenuBar.h"
 #include "editor/Recovery.h"
 #include "editor/Secours.h"
@@ -12,13 +11,14 @@
 #include "format/Co_Paragraph.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
-#include "forms/Frame.h"
 #include "forms/Instance.h"
-#include "forms/Label.h"
-#include "forms/RichTextBox.h"
-#include "forms/StatusBar.h"
 #include "forms/Timer.h"
+#include "forms/controls/Frame.h"
+#include "forms/controls/Label.h"
+#include "forms/controls/RichTextBox.h"
+#include "forms/controls/StatusBar.h"
 #include "ocr/Co_Apprendre.h"
+#include "session/EditorWindow.h"
 #include "symbols/Co_Symbols.h"
 
 namespace lumenote {

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "base/RuntimeError.h"
-#include "control/Session.h"
 #include "editor/ContextMenu.h"
 #include "editor/DocumentStorage.h"
 #include "editor/FileState.h"
@@ -14,6 +13,7 @@
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "session/Session.h"
 
 namespace lumenote {
 namespace {

@@ -1,6 +1,6 @@
 // Turning the document from plain text into RTF and back, through its file.
 #pragma once
-#include "editor/EditorWindow.h"
+#include "session/EditorWindow.h"
 
 namespace lumenote {
 

@@ -8,14 +8,14 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "control/Session.h"
 #include "editor/FileState.h"
 #include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"
-#include "surface/TextBytes.h"
+#include "session/Session.h"
+#include "surface/editing/TextBytes.h"
 
 namespace lumenote {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/TextForm.h"
-#include "editor/EditorWindow.h"
+#include "session/EditorWindow.h"
 
 namespace lumenote {
 

@@ -2,8 +2,8 @@
 #pragma once
 #include <string_view>
 
-#include "control/Session.h"
 #include "platform/Files.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

@@ -3,10 +3,10 @@
 #include <chrono>
 
 #include "base/RuntimeError.h"
-#include "control/Session.h"
 #include "forms/Platform.h"
 #include "forms/Timer.h"
 #include "platform/Paths.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

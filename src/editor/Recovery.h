@@ -2,9 +2,9 @@
 #pragma once
 #include <memory>
 
-#include "editor/EditorWindow.h"
 #include "platform/RichTextSurface.h"
 #include "platform/StateFolder.h"
+#include "session/EditorWindow.h"
 
 namespace lumenote {
 

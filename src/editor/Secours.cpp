@@ -8,7 +8,6 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "control/Session.h"
 #include "editor/DocumentStorage.h"
 #include "extapps/WorkCopies.h"
 #include "forms/Backend.h"
@@ -17,6 +16,7 @@
 #include "platform/Folders.h"
 #include "platform/Paths.h"
 #include "platform/StateFolder.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

@@ -1,12 +1,12 @@
 #include "editor/SessionLife.h"
 
 #include "base/RuntimeError.h"
-#include "control/Session.h"
 #include "editor/DocumentStorage.h"
 #include "editor/Secours.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

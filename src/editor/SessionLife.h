@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "base/TextForm.h"
-#include "editor/EditorWindow.h"
+#include "session/EditorWindow.h"
 
 namespace lumenote {
 

@@ -2,7 +2,7 @@
 #pragma once
 #include <string_view>
 
-#include "forms/Geometry.h"
+#include "forms/values/Geometry.h"
 
 namespace lumenote {
 

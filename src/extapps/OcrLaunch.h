@@ -2,7 +2,7 @@
 #pragma once
 #include <string_view>
 
-#include "editor/EditorWindow.h"
+#include "session/EditorWindow.h"
 
 namespace lumenote {
 

@@ -8,12 +8,12 @@
 #include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "control/Session.h"
 #include "extapps/WorkCopies.h"
 #include "forms/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
+#include "session/Session.h"
 
 namespace lumenote {
 namespace {

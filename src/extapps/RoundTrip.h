@@ -6,10 +6,10 @@
 #include <string_view>
 #include <vector>
 
-#include "control/Session.h"
-#include "editor/EditorWindow.h"
 #include "extapps/ProgramTable.h"
 #include "platform/Processes.h"
+#include "session/EditorWindow.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

@@ -8,8 +8,8 @@
 #include "base/RuntimeError.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
-#include "rtf/Reader.h"
-#include "rtf/Tokenizer.h"
+#include "rtf/read/Reader.h"
+#include "rtf/source/Tokenizer.h"
 
 namespace lumenote {
 

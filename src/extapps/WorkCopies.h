@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "control/Session.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "editor/EditorWindow.h"
+#include "session/EditorWindow.h"
 
 namespace lumenote {
 

@@ -1,11 +1,11 @@
 // The find and replace dialog.
 #pragma once
 #include "forms/Button.h"
-#include "forms/CheckBox.h"
-#include "forms/ComboBox.h"
 #include "forms/Form.h"
-#include "forms/Frame.h"
-#include "forms/Label.h"
+#include "forms/controls/CheckBox.h"
+#include "forms/controls/ComboBox.h"
+#include "forms/controls/Frame.h"
+#include "forms/controls/Label.h"
 
 namespace lumenote {
 

@@ -4,15 +4,15 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "control/Session.h"
-#include "editor/EditorWindow.h"
 #include "format/FontCommand.h"
 #include "format/FormatCommands.h"
 #include "format/Measures.h"
 #include "format/StyleStore.h"
 #include "forms/Platform.h"
 #include "selection/TextUnits.h"
-#include "surface/ParagraphSpacing.h"
+#include "session/EditorWindow.h"
+#include "session/Session.h"
+#include "surface/editing/ParagraphSpacing.h"
 
 namespace lumenote {
 

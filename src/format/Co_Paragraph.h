@@ -1,14 +1,14 @@
 // The paragraph dialog: shows the format of the selected paragraphs and changes it in place.
 #pragma once
 #include "forms/Button.h"
-#include "forms/ComboBox.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
-#include "forms/Frame.h"
-#include "forms/Label.h"
-#include "forms/OptionButton.h"
-#include "forms/TextBox.h"
-#include "forms/UpDown.h"
+#include "forms/controls/ComboBox.h"
+#include "forms/controls/Frame.h"
+#include "forms/controls/Label.h"
+#include "forms/controls/OptionButton.h"
+#include "forms/controls/TextBox.h"
+#include "forms/controls/UpDown.h"
 #include "platform/RichTextSurface.h"
 
 namespace lumenote {

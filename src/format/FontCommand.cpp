@@ -1,7 +1,7 @@
 #include "format/FontCommand.h"
 
-#include "editor/EditorWindow.h"
-#include "forms/FontChoice.h"
+#include "forms/values/FontChoice.h"
+#include "session/EditorWindow.h"
 
 namespace lumenote {
 

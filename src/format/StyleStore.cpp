@@ -3,7 +3,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "platform/Paths.h"
-#include "surface/ParagraphSpacing.h"
+#include "surface/editing/ParagraphSpacing.h"
 
 namespace lumenote {
 

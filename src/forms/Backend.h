@@ -8,9 +8,9 @@
 
 #include "base/RuntimeError.h"
 #include "forms/Element.h"
-#include "forms/FontChoice.h"
-#include "forms/Geometry.h"
-#include "forms/MessageBox.h"
+#include "forms/values/FontChoice.h"
+#include "forms/values/Geometry.h"
+#include "forms/values/MessageBox.h"
 #include "platform/RichTextSurface.h"
 
 namespace lumenote {

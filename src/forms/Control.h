@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "forms/Geometry.h"
 #include "forms/ShownElement.h"
-#include "surface/KeyStroke.h"
+#include "forms/values/Geometry.h"
+#include "surface/keys/KeyStroke.h"
 
 namespace lumenote {
 

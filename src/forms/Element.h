@@ -2,7 +2,7 @@
 #pragma once
 #include <string>
 
-#include "forms/Members.h"
+#include "forms/values/Members.h"
 
 namespace lumenote {
 

@@ -7,7 +7,7 @@
 #include "ocr/CorrectionList.h"
 #include "platform/Files.h"
 #include "selection/TextUnits.h"
-#include "surface/ParagraphSpacing.h"
+#include "surface/editing/ParagraphSpacing.h"
 
 namespace lumenote {
 

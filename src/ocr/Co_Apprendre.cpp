@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "base/RuntimeError.h"
-#include "control/Session.h"
-#include "editor/EditorWindow.h"
 #include "forms/Platform.h"
 #include "ocr/CorrectionList.h"
+#include "session/EditorWindow.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

@@ -2,9 +2,9 @@
 #pragma once
 #include "forms/Button.h"
 #include "forms/Form.h"
-#include "forms/Label.h"
 #include "forms/Menu.h"
-#include "forms/RichTextBox.h"
+#include "forms/controls/Label.h"
+#include "forms/controls/RichTextBox.h"
 
 namespace lumenote {
 

@@ -2,14 +2,14 @@
 
 #include <string>
 
-#include "control/Session.h"
-#include "editor/EditorWindow.h"
 #include "forms/Platform.h"
 #include "ocr/Cleanup.h"
 #include "platform/Clipboard.h"
 #include "platform/Files.h"
 #include "platform/Processes.h"
 #include "platform/ProgramCommand.h"
+#include "session/EditorWindow.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

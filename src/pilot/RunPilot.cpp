@@ -1,8 +1,8 @@
 // Putting a run together.
 #include "pilot/RunPilot.h"
 
-#include "pilot/PilotPlatform.h"
 #include "pilot/ScriptRunner.h"
+#include "pilot/machine/PilotPlatform.h"
 
 namespace lumenote {
 

@@ -7,9 +7,9 @@
 
 #include "base/Strings.h"
 #include "forms/Form.h"
-#include "pilot/Arguments.h"
-#include "pilot/ScriptError.h"
-#include "pilot/Verbs.h"
+#include "pilot/language/Arguments.h"
+#include "pilot/language/ScriptError.h"
+#include "pilot/verbs/Verbs.h"
 
 namespace lumenote {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "pilot/Stage.h"
-#include "pilot/Verbs.h"
+#include "pilot/stage/Stage.h"
+#include "pilot/verbs/Verbs.h"
 
 namespace lumenote {
 

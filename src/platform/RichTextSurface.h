@@ -9,7 +9,7 @@
 
 #include "base/Position.h"
 #include "base/TextForm.h"
-#include "document/UndoKind.h"
+#include "document/undo/UndoKind.h"
 
 namespace lumenote {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/TextForm.h"
-#include "rtf/RtfWriting.h"
+#include "rtf/write/RtfWriting.h"
 
 namespace lumenote {
 namespace {

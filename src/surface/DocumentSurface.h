@@ -2,15 +2,15 @@
 #pragma once
 #include "base/RuntimeError.h"
 #include "platform/RichTextSurface.h"
-#include "surface/CaretMotion.h"
-#include "surface/CharacterFormats.h"
 #include "surface/ContentWritings.h"
-#include "surface/EditingCore.h"
-#include "surface/ParagraphFormats.h"
-#include "surface/SurfaceView.h"
-#include "surface/TextEditing.h"
-#include "surface/Transfer.h"
-#include "surface/UserKeys.h"
+#include "surface/editing/CharacterFormats.h"
+#include "surface/editing/EditingCore.h"
+#include "surface/editing/ParagraphFormats.h"
+#include "surface/editing/SurfaceView.h"
+#include "surface/editing/TextEditing.h"
+#include "surface/editing/Transfer.h"
+#include "surface/keys/CaretMotion.h"
+#include "surface/keys/UserKeys.h"
 
 namespace lumenote {
 

@@ -1,7 +1,7 @@
 #include "surface/Scan.h"
 
 #include "base/Strings.h"
-#include "surface/TextWindow.h"
+#include "surface/keys/TextWindow.h"
 
 namespace lumenote {
 

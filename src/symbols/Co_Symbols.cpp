@@ -4,10 +4,10 @@
 
 #include "base/Numbers.h"
 #include "base/Windows1252.h"
-#include "editor/EditorWindow.h"
 #include "forms/Platform.h"
 #include "platform/Clipboard.h"
 #include "platform/Fonts.h"
+#include "session/EditorWindow.h"
 #include "symbols/SymbolGrid.h"
 
 namespace lumenote {

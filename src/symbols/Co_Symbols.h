@@ -4,13 +4,13 @@
 #include <string>
 
 #include "forms/Button.h"
-#include "forms/ComboBox.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
-#include "forms/Label.h"
-#include "forms/PictureBox.h"
-#include "forms/ScrollBar.h"
-#include "forms/TextBox.h"
+#include "forms/controls/ComboBox.h"
+#include "forms/controls/Label.h"
+#include "forms/controls/PictureBox.h"
+#include "forms/controls/ScrollBar.h"
+#include "forms/controls/TextBox.h"
 
 namespace lumenote {
 

@@ -1,6 +1,6 @@
 // Thousands of random edits, undone and redone, against a naive model.
 #include "Model.h"
-#include "document/Undo.h"
+#include "document/undo/Undo.h"
 
 namespace lumenote {
 namespace {

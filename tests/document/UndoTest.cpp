@@ -1,7 +1,7 @@
 // The rules of undo, one by one.
 #include <gtest/gtest.h>
 
-#include "document/Undo.h"
+#include "document/undo/Undo.h"
 
 namespace lumenote {
 namespace {

@@ -8,13 +8,13 @@
 #include <vector>
 
 #include "backends/headless/HeadlessBackend.h"
-#include "backends/posix/PosixSandbox.h"
 #include "base/RuntimeError.h"
 #include "control/CoBxRtf.h"
 #include "control/Component.h"
-#include "control/Session.h"
-#include "pilot/PilotPlatform.h"
-#include "pilot/ReportedFonts.h"
+#include "pilot/machine/PilotPlatform.h"
+#include "pilot/machine/ReportedFonts.h"
+#include "pilot/posix/PosixSandbox.h"
+#include "session/Session.h"
 
 namespace lumenote {
 

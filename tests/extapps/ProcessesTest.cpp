@@ -7,9 +7,9 @@
 #include <sys/wait.h>
 #include <thread>
 
-#include "backends/posix/IniRegistry.h"
-#include "backends/posix/PosixProcesses.h"
-#include "backends/posix/PosixProgramFolders.h"
+#include "backends/posix/folders/PosixProgramFolders.h"
+#include "backends/posix/programs/PosixProcesses.h"
+#include "backends/posix/settings/IniRegistry.h"
 #include "base/Strings.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"

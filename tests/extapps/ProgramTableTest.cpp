@@ -1,9 +1,9 @@
 // Where programs are looked for, in folders and in the registry.
 #include <gtest/gtest.h>
 
-#include "backends/posix/PosixSandbox.h"
 #include "base/ErrorOf.h"
 #include "extapps/ProgramTable.h"
+#include "pilot/posix/PosixSandbox.h"
 
 namespace lumenote {
 namespace {

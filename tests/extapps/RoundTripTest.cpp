@@ -4,7 +4,6 @@
 #include <optional>
 
 #include "backends/headless/HeadlessBackend.h"
-#include "backends/posix/PosixSandbox.h"
 #include "base/ErrorOf.h"
 #include "control/CoBxRtf.h"
 #include "control/Component.h"
@@ -12,9 +11,10 @@
 #include "editor/Secours.h"
 #include "extapps/OcrLaunch.h"
 #include "extapps/RoundTrip.h"
-#include "pilot/PilotBackend.h"
-#include "pilot/PilotPlatform.h"
-#include "pilot/ReportedFonts.h"
+#include "pilot/machine/PilotBackend.h"
+#include "pilot/machine/PilotPlatform.h"
+#include "pilot/machine/ReportedFonts.h"
+#include "pilot/posix/PosixSandbox.h"
 
 namespace lumenote {
 namespace {

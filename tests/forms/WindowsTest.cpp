@@ -2,13 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "backends/headless/HeadlessBackend.h"
-#include "backends/posix/PosixSandbox.h"
 #include "base/ErrorOf.h"
 #include "forms/Button.h"
 #include "forms/Instance.h"
 #include "forms/Timer.h"
-#include "pilot/PilotPlatform.h"
-#include "pilot/ReportedFonts.h"
+#include "pilot/machine/PilotPlatform.h"
+#include "pilot/machine/ReportedFonts.h"
+#include "pilot/posix/PosixSandbox.h"
 
 namespace lumenote {
 namespace {

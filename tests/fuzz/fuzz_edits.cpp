@@ -7,7 +7,7 @@
 
 #include "document/Model.h"
 #include "rtf/Reading.h"
-#include "rtf/Writer.h"
+#include "rtf/write/Writer.h"
 #include "surface/UserBench.h"
 
 namespace lumenote {

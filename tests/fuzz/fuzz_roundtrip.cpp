@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "rtf/Reading.h"
-#include "rtf/Writer.h"
+#include "rtf/write/Writer.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "backends/posix/IniText.h"
+#include "backends/posix/settings/IniText.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string bytes(reinterpret_cast<const char*>(data), size);

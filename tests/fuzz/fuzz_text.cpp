@@ -10,7 +10,7 @@
 #include "base/TextForm.h"
 #include "surface/DocumentSurface.h"
 #include "surface/Fakes.h"
-#include "surface/TextBytes.h"
+#include "surface/editing/TextBytes.h"
 
 namespace {
 

@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "backends/headless/HeadlessBackend.h"
-#include "backends/posix/PosixSandbox.h"
 #include "control/CoBxRtf.h"
 #include "control/Component.h"
-#include "pilot/PilotPlatform.h"
-#include "pilot/ReportedFonts.h"
+#include "pilot/machine/PilotPlatform.h"
+#include "pilot/machine/ReportedFonts.h"
+#include "pilot/posix/PosixSandbox.h"
 
 namespace lumenote {
 

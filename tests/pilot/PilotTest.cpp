@@ -4,12 +4,12 @@
 
 #include "backends/headless/HeadlessActs.h"
 #include "backends/headless/HeadlessBackend.h"
-#include "backends/posix/PosixSandbox.h"
-#include "forms/Label.h"
-#include "forms/RichTextBox.h"
 #include "forms/Timer.h"
-#include "pilot/PilotPlatform.h"
+#include "forms/controls/Label.h"
+#include "forms/controls/RichTextBox.h"
 #include "pilot/ScriptRunner.h"
+#include "pilot/machine/PilotPlatform.h"
+#include "pilot/posix/PosixSandbox.h"
 
 namespace lumenote {
 namespace {

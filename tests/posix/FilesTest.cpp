@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "Sandbox.h"
-#include "backends/posix/BesideFile.h"
-#include "backends/posix/PosixFiles.h"
-#include "backends/posix/PosixStateFolder.h"
+#include "backends/posix/files/BesideFile.h"
+#include "backends/posix/saving/PosixFiles.h"
+#include "backends/posix/state/PosixStateFolder.h"
 
 namespace lumenote {
 namespace {

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "Sandbox.h"
-#include "backends/posix/PosixFolders.h"
-#include "backends/posix/UserFolders.h"
+#include "backends/posix/folders/PosixFolders.h"
+#include "backends/posix/folders/UserFolders.h"
 
 namespace lumenote {
 namespace {

@@ -3,7 +3,7 @@
 #include <unistd.h>
 
 #include "Sandbox.h"
-#include "backends/posix/IniSettings.h"
+#include "backends/posix/settings/IniSettings.h"
 
 namespace lumenote {
 namespace {

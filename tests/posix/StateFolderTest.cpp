@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "Sandbox.h"
-#include "backends/posix/PosixStateFolder.h"
+#include "backends/posix/state/PosixStateFolder.h"
 #include "base/Strings.h"
 
 namespace lumenote {

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "backends/posix/TemporaryFolder.h"
+#include "backends/posix/folders/TemporaryFolder.h"
 #include "backends/qt/QtPlatform.h"
 #include "control/CoBxRtf.h"
 #include "control/Component.h"

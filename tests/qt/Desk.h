@@ -5,15 +5,15 @@
 #include <vector>
 
 #include "backends/qt/QtBackend.h"
-#include "backends/qt/QtBreaker.h"
+#include "backends/qt/text/QtBreaker.h"
 #include "forms/Form.h"
-#include "forms/Frame.h"
-#include "forms/Label.h"
 #include "forms/Menu.h"
 #include "forms/Platform.h"
-#include "forms/RichTextBox.h"
-#include "forms/StatusBar.h"
 #include "forms/Timer.h"
+#include "forms/controls/Frame.h"
+#include "forms/controls/Label.h"
+#include "forms/controls/RichTextBox.h"
+#include "forms/controls/StatusBar.h"
 #include "surface/DocumentSurface.h"
 #include "surface/Fakes.h"
 

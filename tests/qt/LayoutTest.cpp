@@ -4,8 +4,8 @@
 #include <random>
 
 #include "Desk.h"
-#include "backends/qt/RichTextView.h"
-#include "backends/qt/ViewDamage.h"
+#include "backends/qt/view/RichTextView.h"
+#include "backends/qt/view/ViewDamage.h"
 
 namespace lumenote {
 namespace {

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "Desk.h"
-#include "backends/qt/Keys.h"
-#include "backends/qt/MimeContent.h"
-#include "backends/qt/QtText.h"
-#include "backends/qt/Units.h"
-#include "backends/qt/WindowGeometry.h"
+#include "backends/qt/toolkit/Keys.h"
+#include "backends/qt/toolkit/MimeContent.h"
+#include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/toolkit/Units.h"
+#include "backends/qt/windows/WindowGeometry.h"
 
 namespace lumenote {
 namespace {

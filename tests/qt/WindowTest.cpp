@@ -7,9 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "Desk.h"
-#include "backends/qt/FormWindow.h"
 #include "backends/qt/QtUserActs.h"
-#include "backends/qt/RichTextView.h"
+#include "backends/qt/view/RichTextView.h"
+#include "backends/qt/windows/FormWindow.h"
 
 namespace lumenote {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "rtf/CodePage.h"
-#include "rtf/CodePageTables.h"
+#include "rtf/codepages/CodePage.h"
+#include "rtf/codepages/CodePageTables.h"
 
 namespace lumenote {
 namespace {

@@ -3,8 +3,8 @@
 #include <sstream>
 
 #include "base/Strings.h"
-#include "rtf/RtfWriting.h"
-#include "rtf/Writer.h"
+#include "rtf/write/RtfWriting.h"
+#include "rtf/write/Writer.h"
 
 namespace lumenote {
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "document/Document.h"
-#include "rtf/Reader.h"
+#include "rtf/read/Reader.h"
 
 namespace lumenote {
 

@@ -6,7 +6,7 @@
 #include <random>
 
 #include "Reading.h"
-#include "rtf/Writer.h"
+#include "rtf/write/Writer.h"
 
 namespace lumenote {
 namespace {

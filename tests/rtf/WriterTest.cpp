@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Reading.h"
-#include "rtf/Writer.h"
+#include "rtf/write/Writer.h"
 
 namespace lumenote {
 namespace {

@@ -9,7 +9,7 @@
 #include "base/RuntimeError.h"
 #include "ocr/Cleanup.h"
 #include "surface/DocumentSurface.h"
-#include "surface/TextBytes.h"
+#include "surface/editing/TextBytes.h"
 
 namespace lumenote {
 namespace {

@@ -3,8 +3,8 @@
 #include <map>
 #include <string>
 
+#include "backends/headless/MemoryClipboard.h"
 #include "base/RuntimeError.h"
-#include "pilot/MemoryClipboard.h"
 #include "platform/Files.h"
 
 namespace lumenote {

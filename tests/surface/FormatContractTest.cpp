@@ -1,8 +1,8 @@
 // Attributes of characters and paragraphs, as every surface must do them.
 #include <cmath>
 
-#include "surface/ParagraphSpacing.h"
 #include "surface/SurfaceContract.h"
+#include "surface/editing/ParagraphSpacing.h"
 
 namespace lumenote {
 namespace {

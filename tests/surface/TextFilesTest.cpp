@@ -3,7 +3,7 @@
 
 #include "base/TextForm.h"
 #include "surface/SurfaceContract.h"
-#include "surface/TextBytes.h"
+#include "surface/editing/TextBytes.h"
 
 namespace lumenote {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "surface/UserBench.h"
-#include "surface/Words.h"
+#include "surface/keys/Words.h"
 
 namespace lumenote {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "backends/posix/PosixFiles.h"
+#include "backends/posix/saving/PosixFiles.h"
 #include "ocr/CorrectionList.h"
 
 namespace lumenote::tool {

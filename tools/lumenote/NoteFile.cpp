@@ -7,15 +7,15 @@
 #include <system_error>
 
 #include "Command.h"
-#include "backends/posix/Descriptor.h"
-#include "backends/posix/PosixStateFolder.h"
-#include "backends/posix/ReplaceFile.h"
+#include "backends/posix/files/Descriptor.h"
+#include "backends/posix/saving/ReplaceFile.h"
+#include "backends/posix/state/PosixStateFolder.h"
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "rtf/Reader.h"
-#include "rtf/Writer.h"
-#include "surface/TextBytes.h"
+#include "rtf/read/Reader.h"
+#include "rtf/write/Writer.h"
+#include "surface/editing/TextBytes.h"
 
 namespace lumenote::tool {
 namespace {

@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "backends/headless/FixedBreaker.h"
-#include "backends/posix/PosixFiles.h"
+#include "backends/headless/MemoryClipboard.h"
+#include "backends/posix/saving/PosixFiles.h"
 #include "base/TextForm.h"
-#include "pilot/MemoryClipboard.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote::tool {

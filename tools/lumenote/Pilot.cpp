@@ -6,9 +6,9 @@
 #include "Command.h"
 #include "backends/headless/HeadlessActs.h"
 #include "backends/headless/HeadlessBackend.h"
-#include "backends/posix/PosixSandbox.h"
 #include "base/CommandLine.h"
 #include "pilot/RunPilot.h"
+#include "pilot/posix/PosixSandbox.h"
 
 namespace lumenote::tool {
 namespace {

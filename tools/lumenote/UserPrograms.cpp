@@ -2,10 +2,10 @@
 #include "UserPrograms.h"
 
 #include "Command.h"
-#include "backends/posix/IniRegistry.h"
-#include "backends/posix/PosixFiles.h"
-#include "backends/posix/PosixFolders.h"
-#include "backends/posix/PosixProgramFolders.h"
+#include "backends/posix/folders/PosixFolders.h"
+#include "backends/posix/folders/PosixProgramFolders.h"
+#include "backends/posix/saving/PosixFiles.h"
+#include "backends/posix/settings/IniRegistry.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote::tool {

@@ -2,7 +2,7 @@
 #pragma once
 #include <filesystem>
 
-#include "backends/posix/DrivePaths.h"
+#include "backends/posix/folders/DrivePaths.h"
 #include "extapps/ProgramTable.h"
 
 namespace lumenote::tool {

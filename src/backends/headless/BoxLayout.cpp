@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "forms/RichTextBox.h"
+#include "forms/controls/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

@@ -1,7 +1,7 @@
 // Line layout of one rich-text box without fonts.
 #pragma once
 #include "backends/headless/FixedBreaker.h"
-#include "surface/SurfaceView.h"
+#include "surface/editing/SurfaceView.h"
 
 namespace lumenote {
 

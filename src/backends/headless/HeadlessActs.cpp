@@ -4,11 +4,11 @@
 #include <algorithm>
 
 #include "base/Strings.h"
-#include "forms/ComboBox.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
-#include "forms/RichTextBox.h"
-#include "forms/UpDown.h"
+#include "forms/controls/ComboBox.h"
+#include "forms/controls/RichTextBox.h"
+#include "forms/controls/UpDown.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

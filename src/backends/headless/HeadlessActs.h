@@ -1,7 +1,7 @@
 // The user's acts without a window system.
 #pragma once
 #include "base/Position.h"
-#include "forms/UserActs.h"
+#include "forms/controls/UserActs.h"
 
 namespace lumenote {
 

@@ -3,7 +3,7 @@
 
 #include "base/RuntimeError.h"
 #include "forms/Form.h"
-#include "forms/RichTextBox.h"
+#include "forms/controls/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

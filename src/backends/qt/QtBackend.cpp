@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "backends/qt/FontDialog.h"
-#include "backends/qt/MessageBoxes.h"
-#include "backends/qt/Units.h"
-#include "backends/qt/WindowOrder.h"
-#include "forms/RichTextBox.h"
+#include "backends/qt/toolkit/Units.h"
+#include "backends/qt/windows/FontDialog.h"
+#include "backends/qt/windows/MessageBoxes.h"
+#include "backends/qt/x11/WindowOrder.h"
+#include "forms/controls/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

@@ -5,10 +5,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "backends/qt/QtBreaker.h"
-#include "backends/qt/QtFormPeer.h"
 #include "backends/qt/QtTimers.h"
-#include "backends/qt/WidgetRegistry.h"
+#include "backends/qt/text/QtBreaker.h"
+#include "backends/qt/toolkit/WidgetRegistry.h"
+#include "backends/qt/windows/QtFormPeer.h"
 #include "forms/Backend.h"
 
 namespace lumenote {

@@ -3,7 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
-#include "backends/qt/MimeContent.h"
+#include "backends/qt/toolkit/MimeContent.h"
 
 namespace lumenote {
 

@@ -3,7 +3,7 @@
 #include <QFontDatabase>
 #include <QStringList>
 
-#include "backends/qt/QtText.h"
+#include "backends/qt/toolkit/QtText.h"
 
 namespace lumenote {
 

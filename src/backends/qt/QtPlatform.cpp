@@ -6,20 +6,20 @@
 #include <QTimer>
 #include <QTranslator>
 
-#include "backends/posix/DrivePaths.h"
-#include "backends/posix/IniRegistry.h"
-#include "backends/posix/IniSettings.h"
-#include "backends/posix/PosixFiles.h"
-#include "backends/posix/PosixFolders.h"
-#include "backends/posix/PosixProcesses.h"
-#include "backends/posix/PosixProgramFolders.h"
-#include "backends/posix/PosixStateFolder.h"
+#include "backends/posix/folders/DrivePaths.h"
+#include "backends/posix/folders/PosixFolders.h"
+#include "backends/posix/folders/PosixProgramFolders.h"
+#include "backends/posix/programs/PosixProcesses.h"
+#include "backends/posix/saving/PosixFiles.h"
+#include "backends/posix/settings/IniRegistry.h"
+#include "backends/posix/settings/IniSettings.h"
+#include "backends/posix/state/PosixStateFolder.h"
 #include "backends/qt/ApplicationEnd.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
 #include "backends/qt/QtFonts.h"
-#include "backends/qt/Shot.h"
-#include "backends/qt/X11Windows.h"
+#include "backends/qt/windows/Shot.h"
+#include "backends/qt/x11/X11Windows.h"
 #include "forms/Form.h"
 
 namespace lumenote {

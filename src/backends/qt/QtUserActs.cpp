@@ -8,17 +8,17 @@
 #include <QPointer>
 #include <stdexcept>
 
-#include "backends/qt/ComboBoxPeer.h"
-#include "backends/qt/FormWindow.h"
-#include "backends/qt/Keys.h"
-#include "backends/qt/MouseButtons.h"
 #include "backends/qt/QtBackend.h"
-#include "backends/qt/QtText.h"
-#include "backends/qt/RichTextView.h"
-#include "backends/qt/SelectionMime.h"
-#include "backends/qt/Units.h"
-#include "backends/qt/UpDownPeer.h"
-#include "forms/RichTextBox.h"
+#include "backends/qt/peers/ComboBoxPeer.h"
+#include "backends/qt/peers/UpDownPeer.h"
+#include "backends/qt/toolkit/Keys.h"
+#include "backends/qt/toolkit/MouseButtons.h"
+#include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/toolkit/Units.h"
+#include "backends/qt/view/RichTextView.h"
+#include "backends/qt/view/SelectionMime.h"
+#include "backends/qt/windows/FormWindow.h"
+#include "forms/controls/RichTextBox.h"
 
 namespace lumenote {
 

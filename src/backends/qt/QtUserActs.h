@@ -4,9 +4,9 @@
 #include <QPointF>
 #include <QWidget>
 
-#include "backends/qt/WidgetRegistry.h"
+#include "backends/qt/toolkit/WidgetRegistry.h"
 #include "base/Position.h"
-#include "forms/UserActs.h"
+#include "forms/controls/UserActs.h"
 
 namespace lumenote {
 

@@ -1,0 +1,44 @@
+// Files of a POSIX system.
+#pragma once
+#include <utility>
+
+#include "backends/posix/folders/DrivePaths.h"
+#include "platform/Files.h"
+
+namespace lumenote {
+
+class PosixStateFolder;
+
+class PosixFiles : public Files {
+ public:
+  /// `backups` outlives it; without one a file that cannot be replaced in one rename is not
+  /// written.
+  explicit PosixFiles(DrivePaths drives, PosixStateFolder* backups = nullptr)
+      : drives_(std::move(drives)), backups_(backups) {}
+
+  bool Exists(std::u16string_view path) const override;
+  bool IsReadOnly(std::u16string_view path) const override;
+  FileTime ModificationTime(std::u16string_view path) const override;
+  std::uint64_t Size(std::u16string_view path) const override;
+  std::string ReadAll(std::u16string_view path) const override;
+  bool SameFile(std::u16string_view one, std::u16string_view other) const override;
+
+  std::shared_ptr<void> TakeTurn(std::u16string_view path) const override;
+
+  /// Writes through a symbolic link: the link stays, the file behind it is replaced. May be called
+  /// on any thread.
+  void Write(std::u16string_view path, std::string_view bytes) override;
+  void WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) override;
+  void AppendLines(std::u16string_view path, std::string_view lines) override;
+  /// Removes a symbolic link itself.
+  void Delete(std::u16string_view path, bool force) override;
+  void Copy(std::u16string_view from, std::u16string_view to) override;
+  /// Across file systems the file is copied, with mode, owner and time, then removed.
+  void Move(std::u16string_view from, std::u16string_view to) override;
+
+ private:
+  DrivePaths drives_;
+  PosixStateFolder* backups_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,44 @@
+// The state folder of a user, or of a sandbox.
+#pragma once
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <string>
+
+#include "backends/posix/folders/DrivePaths.h"
+#include "backends/posix/state/OwnerFolder.h"
+#include "backends/posix/state/StateCopy.h"
+#include "platform/StateFolder.h"
+
+namespace lumenote {
+
+/// Holds a sub-folder for each living object of this class, and the folder "rescue" for what is
+/// kept for good.
+class PosixStateFolder final : public StateFolder {
+ public:
+  /// `path` is native; empty when the user has no folder for this, then everything raises
+  /// PathAccess. `drives` name the files that the user is told of, where they can.
+  PosixStateFolder(std::string path, DrivePaths drives)
+      : path_(std::move(path)), drives_(std::move(drives)) {}
+
+  /// `lumenote` in the user's own folder for state.
+  static std::string OfUser();
+
+  std::unique_ptr<NoteCopy> MakeCopy() override { return MakeStateCopy(); }
+  /// The same for code of this backend.
+  std::unique_ptr<StateCopy> MakeStateCopy();
+  void HandOverLeft(const std::function<bool(const LeftCopy&)>& rescue) override;
+  std::u16string KeepForGood(std::u16string_view name, std::string_view bytes) override;
+
+ private:
+  /// The sub-folder of this object, made when there is none.
+  std::string Own();
+
+  std::string path_;
+  DrivePaths drives_;
+  std::mutex access_;  // notes may be saved on any thread
+  std::unique_ptr<OwnerFolder> own_;
+  std::atomic<unsigned> copies_ = 0;
+};
+
+}  // namespace lumenote

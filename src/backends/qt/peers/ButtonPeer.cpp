@@ -1,0 +1,68 @@
+#include "backends/qt/peers/ButtonPeer.h"
+
+#include <QCheckBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "backends/qt/toolkit/QtText.h"
+
+namespace lumenote {
+
+namespace {
+
+/// A click counts on the whole of the control, not on the mark and the caption alone.
+template <class Native>
+class WholeArea : public Native {
+ public:
+  using Native::Native;
+
+ protected:
+  bool hitButton(const QPoint& at) const override { return this->rect().contains(at); }
+};
+
+QPushButton* MakePushButton(QWidget& parent) {
+  auto* button = new QPushButton(&parent);
+  button->setAutoDefault(true);  // Return clicks it while it has the keyboard
+  return button;
+}
+
+// The form's option buttons keep each other in step.
+QRadioButton* MakeRadioButton(QWidget& parent) {
+  auto* button = new WholeArea<QRadioButton>(&parent);
+  button->setAutoExclusive(false);
+  return button;
+}
+
+}  // namespace
+
+ButtonPeer::ButtonPeer(Button& button, QWidget& parent, LayouterSource&)
+    : ButtonPeer(button, MakePushButton(parent)) {}
+
+ButtonPeer::ButtonPeer(CaptionedControl& control, QAbstractButton* widget)
+    : ControlPeer(control, *widget), control_(control), widget_(*widget) {
+  connect(widget, &QAbstractButton::clicked, this, [this] {
+    const QPointer<ButtonPeer> self = this;
+    control_.UserClick();
+    if (self) Update(Property::Value);
+  });
+}
+
+void ButtonPeer::Update(Property property) {
+  ControlPeer::Update(property);
+  if (property == Property::Caption) widget_.setText(ToQString(control_.Caption()));
+  if (property == Property::Value && widget_.isCheckable()) widget_.setChecked(IsChecked());
+}
+
+void ButtonPeer::Compare(DifferenceList& differences) const {
+  ControlPeer::Compare(differences);
+  differences.Check(control_, "Caption", widget_.text() == ToQString(control_.Caption()));
+  differences.Check(control_, "Value", widget_.isChecked() == IsChecked());
+}
+
+CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget& parent, LayouterSource&)
+    : ButtonPeer(box, new WholeArea<QCheckBox>(&parent)), box_(box) {}
+
+OptionButtonPeer::OptionButtonPeer(OptionButton& option, QWidget& parent, LayouterSource&)
+    : ButtonPeer(option, MakeRadioButton(parent)), option_(option) {}
+
+}  // namespace lumenote

@@ -1,0 +1,47 @@
+// Drop-down lists on screen.
+#pragma once
+#include <QComboBox>
+
+#include "backends/qt/peers/ControlPeer.h"
+#include "forms/controls/ComboBox.h"
+
+namespace lumenote {
+
+/// Tells before its list drops down. `activated` comes for a choice from the open list alone: keys
+/// open the list first, and neither the wheel, nor leaving the box, nor Return chooses.
+class ComboBoxWidget : public QComboBox {
+ public:
+  ComboBoxWidget(ComboBox& combo, QWidget* parent);
+
+  void Detach() { combo_ = nullptr; }
+  void showPopup() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  void KeepTextApart();
+
+  ComboBox* combo_;
+};
+
+class ComboBoxPeer final : public ControlPeer {
+ public:
+  ComboBoxPeer(ComboBox& combo, QWidget& parent, LayouterSource&);
+  ~ComboBoxPeer() override;
+
+  void Update(Property property) override;
+  void Compare(DifferenceList& differences) const override;
+
+ private:
+  ComboBoxPeer(ComboBox& combo, ComboBoxWidget* widget);
+  void ShowList();
+  void ShowContent();
+  QStringList Entries() const;
+
+  ComboBox& combo_;
+  QPointer<ComboBoxWidget> widget_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,72 @@
+#include "backends/qt/peers/ControlPeer.h"
+
+#include <QMouseEvent>
+
+#include "backends/qt/text/FontNames.h"
+#include "backends/qt/toolkit/MouseButtons.h"
+#include "backends/qt/toolkit/Units.h"
+#include "forms/Form.h"
+
+namespace lumenote {
+
+namespace {
+constexpr float kTwipsPerPoint = 20;
+}
+
+ControlPeer::ControlPeer(Control& control, QWidget& widget) : control_(control), widget_(&widget) {
+  widget.installEventFilter(this);
+  widget.setMouseTracking(true);
+  widget.setAttribute(Qt::WA_NoMousePropagation);  // what happens over it is not the window's
+}
+
+ControlPeer::~ControlPeer() {
+  if (widget_) widget_->removeEventFilter(this);
+}
+
+void ControlPeer::Update(Property property) {
+  if (property == Property::Geometry && !IsDocked())
+    widget_->setGeometry(ToPixels(control_.Place()));
+  if (property == Property::Visible) widget_->setVisible(control_.Visible());
+  if (property == Property::Order) widget_->raise();
+  if (property == Property::Font) ShowFont();
+  if (property == Property::Enabled) widget_->setEnabled(control_.Enabled());
+}
+
+void ControlPeer::Compare(DifferenceList& differences) const {
+  const QWidget* parent = widget_->parentWidget();
+  differences.Check(control_, "Visible", widget_->isVisibleTo(parent) == control_.Visible());
+  differences.Check(control_, "Enabled", widget_->isEnabledTo(parent) == control_.Enabled());
+  if (!IsDocked())
+    differences.Check(control_, "Place", widget_->geometry() == ToPixels(control_.Place()));
+}
+
+void ControlPeer::ShowFont() {
+  QFont font = ControlFont();
+  if (!control_.FontName().empty()) font.setFamily(MachineFamily({control_.FontName()}));
+  if (control_.FontSize() > 0)
+    font.setPixelSize(RoundToPixel(control_.FontSize() * kTwipsPerPoint));
+  widget_->setFont(font);
+}
+
+bool ControlPeer::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) control_.Owner().ActiveControl(&control_);
+  if (!PassesMouse()) return false;
+  if (const auto* mouse = dynamic_cast<const QMouseEvent*>(event)) PassMouse(*mouse);
+  return false;
+}
+
+// Any event may close the window, and take the peer with it.
+void ControlPeer::PassMouse(const QMouseEvent& mouse) {
+  const QPointer<ControlPeer> self = this;
+  const QPointF at = mouse.position();
+  const MouseEvent event{ButtonOf(mouse.button()), {ToTwips(at.x()), ToTwips(at.y())}};
+  const bool clicks =
+      ClicksByMouse() && mouse.button() == Qt::LeftButton && QRectF(widget_->rect()).contains(at);
+  if (mouse.type() == QEvent::MouseMove) control_.UserMouseMove(event);
+  if (mouse.type() == QEvent::MouseButtonDblClick) control_.UserDoubleClick();
+  if (mouse.type() != QEvent::MouseButtonRelease) return;
+  control_.UserMouseUp(event);
+  if (self && clicks) control_.UserClick();
+}
+
+}  // namespace lumenote

@@ -1,0 +1,56 @@
+#include "backends/qt/peers/FramePeer.h"
+
+#include <QPainter>
+
+#include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/QtText.h"
+
+namespace lumenote {
+
+namespace {
+constexpr int kTitleLeft = 8;
+constexpr int kTitleGap = 3;
+constexpr float kRelief = 0.35F;
+}  // namespace
+
+void FrameWidget::Title(const QString& text) {
+  title_ = text;
+  update();
+}
+
+void FrameWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor ground = palette().color(QPalette::Window);
+  const QFontMetrics metrics = fontMetrics();
+  const int lineY = metrics.height() / 2;
+  const QRect titleBox(kTitleLeft, 0, metrics.size(Qt::TextShowMnemonic, title_).width(),
+                       metrics.height());
+  if (!title_.isEmpty()) {
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(titleBox, Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic, title_);
+    painter.setClipRegion(QRegion(rect()) - titleBox.adjusted(-kTitleGap, 0, kTitleGap, 0));
+  }
+  const QRect line(0, lineY, width() - 1, height() - lineY - 1);
+  painter.setPen(Mixed(ground, Qt::white, kRelief));
+  painter.drawRect(line.translated(1, 1).adjusted(0, 0, -1, -1));
+  painter.setPen(Mixed(ground, Qt::black, kRelief));
+  painter.drawRect(line.adjusted(0, 0, -1, -1));
+}
+
+FramePeer::FramePeer(Frame& frame, QWidget& parent, LayouterSource&)
+    : FramePeer(frame, new FrameWidget(&parent)) {}
+
+FramePeer::FramePeer(Frame& frame, FrameWidget* widget)
+    : ControlPeer(frame, *widget), frame_(frame), widget_(*widget) {}
+
+void FramePeer::Update(Property property) {
+  ControlPeer::Update(property);
+  if (property == Property::Caption) widget_.Title(ToQString(frame_.Caption()));
+}
+
+void FramePeer::Compare(DifferenceList& differences) const {
+  ControlPeer::Compare(differences);
+  differences.Check(frame_, "Caption", widget_.Title() == ToQString(frame_.Caption()));
+}
+
+}  // namespace lumenote

@@ -1,0 +1,18 @@
+// Sunken areas on screen.
+#pragma once
+#include <QFrame>
+
+#include "backends/qt/peers/ControlPeer.h"
+#include "forms/controls/PictureBox.h"
+
+namespace lumenote {
+
+class PictureBoxPeer final : public ControlPeer {
+ public:
+  PictureBoxPeer(PictureBox& box, QWidget& parent, LayouterSource&);
+
+ private:
+  PictureBoxPeer(PictureBox& box, QFrame* frame);
+};
+
+}  // namespace lumenote

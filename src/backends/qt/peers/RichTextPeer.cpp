@@ -1,0 +1,35 @@
+#include "backends/qt/peers/RichTextPeer.h"
+
+#include "forms/Form.h"
+
+namespace lumenote {
+
+namespace {
+
+RichTextView* MakeView(RichTextBox& box, QWidget& parent, LayouterSource& layouters) {
+  ViewDoors doors;
+  doors.act = [&box](const std::function<void()>& act) { box.Owner().Raise(act); };
+  doors.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
+  doors.locked = [&box] { return box.Locked(); };
+  auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
+  return new RichTextView(surface, layouters.LayouterOf(box), std::move(doors), &parent);
+}
+
+}  // namespace
+
+RichTextPeer::RichTextPeer(RichTextBox& box, QWidget& parent, LayouterSource& layouters)
+    : RichTextPeer(box, MakeView(box, parent, layouters)) {}
+
+RichTextPeer::RichTextPeer(RichTextBox& box, RichTextView* view)
+    : ControlPeer(box, *view), box_(box), view_(view) {}
+
+RichTextPeer::~RichTextPeer() {
+  if (view_) view_->Detach();
+}
+
+void RichTextPeer::Compare(DifferenceList& differences) const {
+  ControlPeer::Compare(differences);
+  for (const std::string& difference : view_->Differences()) differences.Add(box_, difference);
+}
+
+}  // namespace lumenote

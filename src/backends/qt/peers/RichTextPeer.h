@@ -1,0 +1,26 @@
+// Rich-text boxes on screen.
+#pragma once
+#include "backends/qt/peers/ControlPeer.h"
+#include "backends/qt/view/RichTextView.h"
+#include "forms/controls/RichTextBox.h"
+
+namespace lumenote {
+
+class RichTextPeer final : public ControlPeer {
+ public:
+  RichTextPeer(RichTextBox& box, QWidget& parent, LayouterSource& layouters);
+  ~RichTextPeer() override;
+
+  void Compare(DifferenceList& differences) const override;
+
+ protected:
+  bool PassesMouse() const override { return false; }  // the view does, by its viewport
+
+ private:
+  RichTextPeer(RichTextBox& box, RichTextView* view);
+
+  RichTextBox& box_;
+  QPointer<RichTextView> view_;
+};
+
+}  // namespace lumenote

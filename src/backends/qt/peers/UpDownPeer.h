@@ -1,0 +1,34 @@
+// Pairs of small arrows on screen.
+#pragma once
+#include <QToolButton>
+
+#include "backends/qt/peers/ControlPeer.h"
+#include "forms/controls/UpDown.h"
+
+namespace lumenote {
+
+/// Two buttons, one above the other, which repeat while they are held down.
+class UpDownWidget : public QWidget {
+ public:
+  explicit UpDownWidget(QWidget* parent);
+
+  QToolButton& Arrow(bool up) { return up ? up_ : down_; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QToolButton up_{this};
+  QToolButton down_{this};
+};
+
+class UpDownPeer final : public ControlPeer {
+ public:
+  UpDownPeer(UpDown& spinner, QWidget& parent, LayouterSource&);
+
+ private:
+  UpDownPeer(UpDown& spinner, UpDownWidget* widget);
+};
+
+}  // namespace lumenote

@@ -1,0 +1,12 @@
+// Underlines, strike-out and placeholders, drawn over the text of a piece.
+#pragma once
+#include <QPainter>
+
+#include "backends/qt/text/Piece.h"
+
+namespace lumenote {
+
+/// `origin` is where the text's left edge meets the piece's top; `ink` the automatic colour.
+void PaintDecorations(QPainter& painter, const Piece& piece, QPointF origin, const QColor& ink);
+
+}  // namespace lumenote

@@ -1,0 +1,40 @@
+// The selected text of a view as other programs and widgets get it.
+#pragma once
+#include <QMimeData>
+#include <QPointer>
+#include <optional>
+
+#include "backends/qt/view/RichTextView.h"
+
+namespace lumenote {
+
+/// Text and RTF are written when they are asked for, however large: either of what is selected
+/// then, or of what was selected when this was made, which later edits do not reach.
+class SelectionMime : public QMimeData {
+ public:
+  enum class Of { Then, Now };
+  SelectionMime(RichTextView& view, Of when);
+
+  /// The view that the text can be moved from: null when it has gone, or has been edited since.
+  RichTextView* Source() const;
+
+  QStringList formats() const override;
+  bool hasFormat(const QString& format) const override { return formats().contains(format); }
+
+ protected:
+  QVariant retrieveData(const QString& format, QMetaType type) const override;
+
+ private:
+  struct Part {
+    Document document;  // shares its leaves with the surface's
+    Selection range;
+  };
+  static Part Selected(const RichTextView& view);
+  std::optional<Part> Content() const;
+
+  QPointer<RichTextView> view_;
+  std::optional<Part> taken_;
+  int edits_;  // that the view had seen
+};
+
+}  // namespace lumenote

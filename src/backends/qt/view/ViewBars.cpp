@@ -1,0 +1,93 @@
+#include "backends/qt/view/ViewBars.h"
+
+#include <QScrollBar>
+#include <algorithm>
+#include <cmath>
+
+#include "backends/qt/view/RichTextView.h"
+
+namespace lumenote {
+
+namespace {
+constexpr int kBarlessHeight = 48;  // pixels; lower boxes have no scroll bars
+constexpr int kLineStep = 20;       // pixels
+constexpr double kMostRange = 1e9;
+}  // namespace
+
+ViewBars::ViewBars(RichTextView& view) : view_(view) {
+  view.verticalScrollBar()->setSingleStep(kLineStep);
+  view.horizontalScrollBar()->setSingleStep(kLineStep);
+  QObject::connect(view.verticalScrollBar(), &QScrollBar::actionTriggered, &view,
+                   [this](int action) { Step(action); });
+}
+
+void ViewBars::Choose(int height) {
+  const auto policy = height < kBarlessHeight ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded;
+  view_.setVerticalScrollBarPolicy(policy);
+  view_.setHorizontalScrollBarPolicy(policy);
+}
+
+void ViewBars::Sync() {
+  syncing_ = true;
+  SyncVertical();
+  SyncHorizontal();
+  syncing_ = false;
+}
+
+void ViewBars::SyncHorizontal() {
+  QScrollBar* bar = view_.horizontalScrollBar();
+  bar->setRange(0, static_cast<int>(view_.Pane().MostRight()));
+  bar->setPageStep(view_.viewport()->width());
+  bar->setValue(static_cast<int>(view_.Pane().ScrolledRight()));
+}
+
+// A bar is painted anew when its range changes, which costs more than a typed character; so it
+// stays while that would not move the slider by a pixel.
+void ViewBars::SyncVertical() {
+  const ScrollModel::Scale scale = view_.Pane().Scroll().Read();
+  QScrollBar* bar = view_.verticalScrollBar();
+  const int page = view_.viewport()->height();
+  const int most = static_cast<int>(std::clamp(std::ceil(scale.total - page), 0.0, kMostRange));
+  const bool differs = std::abs(most - bar->maximum()) * 2.0 * page > most;
+  if (differs || bar->pageStep() != page) {
+    bar->setPageStep(page);
+    bar->setRange(0, most);
+  }
+  if (!bar->isSliderDown()) bar->setValue(static_cast<int>(std::lround(scale.value)));
+}
+
+void ViewBars::Follow(int dx, int dy) {
+  if (syncing_) return;
+  if (dx != 0) view_.Pane().ScrolledRight(view_.horizontalScrollBar()->value());
+  if (dy != 0) view_.Pane().Scroll().To(view_.verticalScrollBar()->value());
+  view_.Settle();
+}
+
+void ViewBars::Step(int action) {
+  const double page = std::max<double>(kLineStep, view_.viewport()->height() - kLineStep);
+  switch (action) {
+    case QAbstractSlider::SliderSingleStepAdd:
+      view_.ScrollBy(kLineStep);
+      break;
+    case QAbstractSlider::SliderSingleStepSub:
+      view_.ScrollBy(-kLineStep);
+      break;
+    case QAbstractSlider::SliderPageStepAdd:
+      view_.ScrollBy(page);
+      break;
+    case QAbstractSlider::SliderPageStepSub:
+      view_.ScrollBy(-page);
+      break;
+    default:
+      return;
+  }
+  view_.verticalScrollBar()->setSliderPosition(view_.verticalScrollBar()->value());
+}
+
+void ViewBars::Turn(double x, double y) {
+  QScrollBar* across = view_.horizontalScrollBar();
+  if (x != 0) across->setValue(across->value() - static_cast<int>(std::lround(x)));
+  if (y != 0) view_.ScrollBy(-y);
+}
+
+}  // namespace lumenote

@@ -1,0 +1,89 @@
+#include "backends/qt/view/ViewPainter.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "backends/qt/text/Decorations.h"
+
+namespace lumenote {
+
+namespace {
+constexpr double kSelectedBreakWidth = 5;
+constexpr char16_t kBullet[] = u"\u2022";
+}  // namespace
+
+void ViewPainter::Paint(QPainter& painter, const QRectF& area) {
+  painter.fillRect(area, state_.palette.base());
+  for (const ShownPiece& item : pane_.Visible())
+    if (item.y < area.bottom() && item.y + item.piece->height > area.top())
+      PaintPiece(painter, item, area);
+  if (state_.caret) painter.fillRect(*state_.caret, state_.palette.text());
+  if (state_.dropCaret) painter.fillRect(*state_.dropCaret, state_.palette.text());
+}
+
+void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area) {
+  const QPointF origin(pane_.TextLeft(), item.y);
+  painter.setPen(state_.palette.color(QPalette::Text));
+  PaintSelectedBreak(painter, item);
+  PaintBullet(painter, item);
+  item.piece->layout.draw(&painter, origin, {}, area);
+  PaintSelection(painter, item);
+  PaintDecorations(painter, *item.piece, origin, state_.palette.color(QPalette::Text));
+}
+
+// The toolkit's own painting of selections cuts off raised and lowered text.
+void ViewPainter::PaintSelection(QPainter& painter, const ShownPiece& item) {
+  const Piece& piece = *item.piece;
+  const int start = piece.ToIndex(std::max(state_.selection.start, piece.from));
+  const int end = piece.ToIndex(std::min(state_.selection.end, piece.to));
+  const QPointF origin(pane_.TextLeft(), item.y);
+  for (int i = 0; i < std::ssize(piece.lines); ++i) {
+    const PieceLine& line = piece.lines[static_cast<std::size_t>(i)];
+    const int from = std::max(start, line.start);
+    const int to = std::min(end, line.end);
+    if (from >= to) continue;
+    const QTextLine text = piece.layout.lineAt(i);
+    const auto [left, right] = std::minmax({text.cursorToX(from), text.cursorToX(to)});
+    const QRectF box(origin.x() + left, item.y + line.top, right - left, line.height);
+    painter.fillRect(box, state_.palette.highlight());
+    PaintSelectedText(painter, piece, origin, i, from, to);
+  }
+}
+
+void ViewPainter::PaintSelectedText(QPainter& painter, const Piece& piece, QPointF origin, int line,
+                                    int start, int end) {
+  painter.setPen(state_.palette.color(QPalette::HighlightedText));
+  const QTextLine text = piece.layout.lineAt(line);
+  for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
+    const auto next = std::next(run);
+    const int from = std::max(run->start, start);
+    const int to = next == piece.runs.end() ? end : std::min(next->start, end);
+    if (from >= to) continue;
+    const CharStyle& style = pane_.Layouter().styles.Of(pane_.Content(), run->format);
+    if (style.object) continue;
+    for (const QGlyphRun& glyphs : text.glyphRuns(from, to - from))
+      painter.drawGlyphRun(origin - QPointF(0, style.raise), glyphs);
+  }
+}
+
+// A selected paragraph break shows as a narrow stripe behind the last line.
+void ViewPainter::PaintSelectedBreak(QPainter& painter, const ShownPiece& item) {
+  const Piece& piece = *item.piece;
+  if (!piece.closes || state_.selection.start > piece.to || state_.selection.end <= piece.to)
+    return;
+  const PieceLine& line = piece.lines.back();
+  const double x = pane_.TextLeft() + piece.XOf(piece.to);
+  painter.fillRect(QRectF(x, item.y + line.top, kSelectedBreakWidth, line.height),
+                   state_.palette.highlight());
+}
+
+void ViewPainter::PaintBullet(QPainter& painter, const ShownPiece& item) {
+  const Piece& piece = *item.piece;
+  if (piece.bulletX < 0) return;
+  const PieceLine& line = piece.lines.front();
+  painter.setFont(piece.layout.font());
+  painter.drawText(QPointF(pane_.TextLeft() + piece.bulletX, item.y + line.baseline),
+                   QString::fromUtf16(kBullet));
+}
+
+}  // namespace lumenote

@@ -1,0 +1,146 @@
+#include "backends/qt/windows/FormWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include "backends/qt/text/FontNames.h"
+#include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/Keys.h"
+#include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/toolkit/Units.h"
+#include "backends/qt/windows/MenuBarStyle.h"
+
+namespace lumenote {
+
+FormWindow::FormWindow(Form& form, ActivationListener& listener)
+    : QWidget(nullptr, Qt::Window), form_(&form), listener_(listener) {
+  setAttribute(Qt::WA_QuitOnClose, false);  // the host decides when its program ends
+  setFont(ControlFont());
+  content_ = new QWidget(this);
+  content_->setAutoFillBackground(true);
+  content_->setMouseTracking(true);
+  content_->installEventFilter(this);
+  bar_ = new QMenuBar(this);
+  bar_->setNativeMenuBar(false);
+  bar_->setFont(ControlFont());
+  auto* style = new MenuBarStyle;
+  style->setParent(bar_);
+  bar_->setStyle(style);
+}
+
+void FormWindow::Docked(QWidget* widget) { docked_ = widget; }
+
+void FormWindow::PlaceParts() {
+  if (!form_) return;
+  const int top = form_->HasMenuBar() ? kBarHeight : 0;
+  bar_->setVisible(form_->HasMenuBar());
+  bar_->setGeometry(0, 0, width(), kBarHeight);
+  content_->setGeometry(0, top, width(), height() - top);
+  if (!docked_) return;
+  docked_->setGeometry(0, height() - kBarHeight, width(), kBarHeight);
+  docked_->raise();
+}
+
+void FormWindow::ShowCaption() { setWindowTitle(ToQString(form_->Caption())); }
+
+void FormWindow::ShowGeometry() {
+  const QPoint corner = WindowGeometry::Corner(form_->Place());
+  const bool elsewhere = corner != geometry_.AskedCorner();
+  geometry_.Asked(form_->Place());
+  if (elsewhere) move(corner);
+  resize(WindowGeometry::ClientSize(form_->Place()));
+  PlaceParts();
+}
+
+// The kind is settled before the native window exists; later only the on-top state may change.
+void FormWindow::ChooseKind() {
+  const bool dialog = form_->OwnerWindow() || form_->IsModal();
+  Qt::WindowFlags flags = dialog ? Qt::Dialog : Qt::Window;
+  flags.setFlag(Qt::WindowStaysOnTopHint, form_->OnTop());
+  if (!windowHandle()) setWindowFlags(flags);
+  setWindowModality(form_->IsModal() ? Qt::ApplicationModal : Qt::NonModal);
+}
+
+void FormWindow::ShowVisible(QWidget* owner) {
+  if (!form_->Visible()) return hide();
+  ChooseKind();
+  winId();
+  windowHandle()->installEventFilter(this);
+  windowHandle()->setTransientParent(owner ? owner->windowHandle() : nullptr);
+  ShowGeometry();
+  show();
+}
+
+void FormWindow::ShowOnTop() {
+  if (!windowHandle()) return;  // `ChooseKind` sees to it
+  windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form_->OnTop());
+  overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, form_->OnTop()));
+}
+
+QColor FormWindow::WantedGround() const {
+  const std::int32_t colour = form_->BackColor();
+  return colour < 0 ? QApplication::palette().color(QPalette::Window)
+                    : FromBgr(static_cast<std::uint32_t>(colour));
+}
+
+void FormWindow::ShowBackColor() {
+  QPalette colours = QApplication::palette();
+  if (form_->BackColor() >= 0) {
+    colours.setColor(QPalette::Window, WantedGround());
+    colours.setColor(QPalette::WindowText, InkOn(WantedGround()));
+  }
+  content_->setPalette(colours);
+}
+
+void FormWindow::DragTo(float width, float height) {
+  const Rect wanted{form_->Left(), form_->Top(), width, height};
+  geometry_.Asked(wanted);
+  resize(WindowGeometry::ClientSize(wanted));
+  form_->UserResize(width, height);
+}
+
+bool FormWindow::event(QEvent* event) {
+  if (form_ && event->type() == QEvent::WindowActivate) listener_.NativelyActive(*form_);
+  if (form_ && event->type() == QEvent::ApplicationPaletteChange) ShowBackColor();
+  return QWidget::event(event);
+}
+
+bool FormWindow::eventFilter(QObject* object, QEvent* event) {
+  const bool pressed =
+      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
+  if (form_ && pressed && object == windowHandle()) listener_.Used(*form_);
+  if (form_ && object == content_ && event->type() == QEvent::MouseMove) {
+    const QPointF at = static_cast<const QMouseEvent*>(event)->position();
+    form_->UserMouseMove({MouseButton::None, {ToTwips(at.x()), ToTwips(at.y())}});
+  }
+  return QWidget::eventFilter(object, event);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const auto key = StrokeOf(*event);
+  event->setAccepted(form_ && key && form_->UserKey(*key));
+}
+
+// The form decides; when it has unloaded its window is closed, which the end of the program and
+// of the session wait for.
+void FormWindow::closeEvent(QCloseEvent* event) {
+  if (form_) form_->UserClose();
+  event->setAccepted(!form_);
+}
+
+void FormWindow::resizeEvent(QResizeEvent*) {
+  PlaceParts();
+  if (!form_) return;
+  if (const auto place = geometry_.Resized(size(), form_->Place()))
+    form_->UserResize(place->width, place->height);
+}
+
+void FormWindow::moveEvent(QMoveEvent*) {
+  if (!form_) return;
+  if (const auto place = geometry_.Moved(pos(), form_->Place()))
+    form_->UserMove(place->left, place->top);
+}
+
+}  // namespace lumenote

@@ -1,0 +1,38 @@
+// The menus of a form, in its menu bar and popped up.
+#pragma once
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <memory>
+#include <unordered_map>
+
+#include "backends/qt/toolkit/Differences.h"
+#include "backends/qt/toolkit/WidgetRegistry.h"
+#include "forms/Menu.h"
+
+namespace lumenote {
+
+class MenuTree {
+ public:
+  /// The actions belong to `window`, which may outlive the tree; they do nothing then.
+  MenuTree(const std::vector<Menu*>& menus, QMenuBar& bar, QWidget& window,
+           WidgetRegistry& registry);
+  ~MenuTree();
+
+  void Update(const Menu& menu);
+  /// Shows the menu at a point of the screen until it closes; the tree may be gone then.
+  void PopUp(Menu& menu, QPoint at);
+  void Compare(DifferenceList& differences) const;
+
+ private:
+  QAction* Add(Menu& menu);
+  QAction* MakeAction(Menu& menu);
+
+  QWidget& window_;
+  WidgetRegistry& registry_;
+  std::unordered_map<const Menu*, QAction*> actions_;
+  std::unique_ptr<QObject> listener_;  // with it every connection goes
+  const Menu* poppedUp_ = nullptr;     // its opening event has run already
+};
+
+}  // namespace lumenote

@@ -1,0 +1,124 @@
+#include "backends/qt/windows/MessageBoxes.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <memory>
+
+#include "backends/qt/toolkit/QtText.h"
+
+namespace lumenote {
+
+namespace {
+
+using Answer = MessageBox::Answer;
+
+QMessageBox::Icon IconOf(MessageBox::Icon icon) {
+  switch (icon) {
+    case MessageBox::Icon::None:
+      return QMessageBox::NoIcon;
+    case MessageBox::Icon::Critical:
+      return QMessageBox::Critical;
+    case MessageBox::Icon::Question:
+      return QMessageBox::Question;
+    case MessageBox::Icon::Exclamation:
+      return QMessageBox::Warning;
+    case MessageBox::Icon::Information:
+      return QMessageBox::Information;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QString TitleOf(const MessageBox& box) {
+  if (!box.title.empty()) return ToQString(box.title);
+  const QString application = QGuiApplication::applicationDisplayName();
+  return application.isEmpty() ? QStringLiteral("Lumenote") : application;
+}
+
+/// Gives the keyboard back to the window that asked when it had it itself.
+class NativeBox : public QMessageBox {
+ public:
+  NativeBox(const MessageBox& box, QWidget* over)
+      : QMessageBox(IconOf(box.icon), TitleOf(box), ToLines(box.text), {}, over), over_(over) {
+    setTextFormat(Qt::PlainText);
+    setModal(true);
+    if (box.buttons == MessageBox::Buttons::YesNo)
+      AddYesAndNo();
+    else
+      setDefaultButton(addButton(QStringLiteral("OK"), AcceptRole));
+  }
+
+  bool SaysYes() const { return clickedButton() && clickedButton() == yes_; }
+  /// Neither a way out of the program nor one of the toolkit's loops ends the wait.
+  static void Await(const QPointer<NativeBox>& box) {
+    box->show();
+    QEventLoop loop;
+    while (box && box->isVisible()) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  }
+
+  void done(int result) override {
+    const bool active = isActiveWindow();
+    QMessageBox::done(result);
+    if (active && over_ && over_->isVisible()) over_->activateWindow();
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (!yes_ || !event->matches(QKeySequence::Cancel)) QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (yes_)
+      event->ignore();
+    else
+      QMessageBox::closeEvent(event);
+  }
+
+ private:
+  void AddYesAndNo() {
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    yes_ = addButton(QStringLiteral("&Oui"), YesRole);
+    addButton(QStringLiteral("&Non"), NoRole);
+    setDefaultButton(yes_);
+  }
+
+  QPushButton* yes_ = nullptr;  // of a question
+  QPointer<QWidget> over_;
+};
+
+/// A question that is up keeps the program from ending; who asked for the end while it was is heard
+/// again when it has been answered.
+class EndWatch : public QObject {
+ public:
+  EndWatch() { QCoreApplication::instance()->installEventFilter(this); }
+  ~EndWatch() override {
+    if (asked_) QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    asked_ = asked_ || (object == qApp && event->type() == QEvent::Quit);
+    return false;
+  }
+
+ private:
+  bool asked_ = false;
+};
+
+}  // namespace
+
+// The box may be destroyed with its window while it is up.
+Answer ShowMessageBox(const MessageBox& box, QWidget* over) {
+  const bool question = box.buttons == MessageBox::Buttons::YesNo;
+  const auto watch = question ? std::make_unique<EndWatch>() : nullptr;
+  const QPointer<NativeBox> shown = new NativeBox(box, over);
+  NativeBox::Await(shown);
+  const bool yes = shown && shown->SaysYes();
+  delete shown;
+  if (!question) return Answer::Ok;
+  return yes ? Answer::Yes : Answer::No;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,16 @@
+#include "backends/qt/windows/Shot.h"
+
+#include <QCoreApplication>
+#include <QPixmap>
+#include <QWidget>
+
+namespace lumenote {
+
+bool SaveWindowShot(const WidgetRegistry& widgets, const Element& form, const QString& path) {
+  auto* window = widgets.Find<QWidget>(form);
+  if (!window) return false;
+  QCoreApplication::sendPostedEvents();  // scroll bars come and go in their own time
+  return window->grab().save(path, "PNG");
+}
+
+}  // namespace lumenote

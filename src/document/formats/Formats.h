@@ -1,0 +1,205 @@
+// Character and paragraph formats, and the tables that give each distinct one a small number.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "document/formats/InternTable.h"
+
+namespace lumenote {
+
+using FontId = std::uint32_t;
+using CharId = std::uint32_t;
+using ParaId = std::uint32_t;
+using TabsId = std::uint32_t;
+using KeptId = std::uint32_t;
+using FieldId = std::uint32_t;
+using WordsId = std::uint32_t;
+using HeadId = std::uint32_t;
+
+/// A font as notes name it; the machine need not have it.
+struct FontFace {
+  std::u16string name;
+  std::uint8_t charset = 0;  // RTF \fcharset
+  std::uint8_t family =
+      0;  // RTF \fnil, \froman, \fswiss, \fmodern, \fscript, \fdecor, \ftech, \fbidi
+  std::uint8_t pitch = 0;  // RTF \fprq
+  bool operator==(const FontFace&) const = default;
+};
+
+enum class Underline : std::uint8_t {
+  None,
+  Single,
+  Words,
+  Double,
+  Dotted,
+  Dash,
+  DashDot,
+  DashDotDot,
+  Thick,
+  Wave,
+  DoubleWave,
+  HeavyWave,
+  LongDash,
+  ThickDotted,
+  ThickDash,
+  ThickDashDot,
+  ThickDashDotDot,
+  ThickLongDash
+};
+
+enum CharEffect : std::uint16_t {
+  kBold = 1,
+  kItalic = 2,
+  kStrike = 4,
+  kDoubleStrike = 8,
+  kAllCaps = 16,
+  kSmallCaps = 32,
+  kHidden = 64,
+  kOutline = 128,
+  kShadow = 256,
+  kEmboss = 512,
+  kEngrave = 1024,
+  kSuperscript = 2048,
+  kSubscript = 4096,
+  kDeleted = 8192
+};
+
+/// A colour as 0x00BBGGRR, or the platform's automatic one.
+using Colour = std::uint32_t;
+inline constexpr Colour kAutoColour = 0xFF000000;
+
+/// Everything a run of characters can carry. Plain old data without padding, so that it is hashed
+/// and compared as bytes.
+struct CharFormat {
+  FontId font = 0;
+  Colour colour = kAutoColour;
+  Colour highlight = kAutoColour;
+  KeptId kept = 0;             // what the source says there beyond these formats
+  WordsId words = 0;           // kept words that the editor cannot show
+  std::uint16_t effects = 0;   // CharEffect
+  std::uint16_t size = 20;     // half-points
+  std::int16_t offset = 0;     // twips above the line (RTF \up, \dn)
+  std::uint16_t language = 0;  // Windows language identifier, 0 not given
+  std::int16_t spacing = 0;    // twips between characters
+  std::uint16_t scale = 100;   // per cent of the width
+  Underline underline = Underline::None;
+  std::uint8_t reserved[3] = {};
+  bool operator==(const CharFormat&) const = default;
+};
+static_assert(std::has_unique_object_representations_v<CharFormat>);
+
+enum class Alignment : std::uint8_t { Left = 0, Right = 1, Centre = 2, Justify = 3 };
+enum class LineRule : std::uint8_t { Single, OneAndHalf, Double, AtLeast, Exact, Multiple };
+
+/// Everything a paragraph can carry; lengths are twips. Plain old data like `CharFormat`.
+struct ParaFormat {
+  std::int32_t firstIndent = 0;    // of the first line, from the left edge
+  std::int32_t hangingIndent = 0;  // of the following lines, from the first one
+  std::int32_t rightIndent = 0;
+  std::int32_t spaceBefore = 0;
+  std::int32_t spaceAfter = 0;
+  std::int32_t lineSpacing = 0;  // twips; twentieths of a line under LineRule::Multiple
+  TabsId tabs = 0;
+  LineRule lineRule = LineRule::Single;
+  Alignment alignment = Alignment::Left;
+  std::uint8_t bullet = 0;  // 1: a bullet stands before the paragraph
+  std::uint8_t rightToLeft = 0;
+  WordsId words = 0;         // kept words that the editor cannot show
+  std::uint16_t list = 0;    // RTF \ls, counted from 1; 0 none
+  std::uint8_t level = 0;    // in that list
+  std::uint8_t nesting = 0;  // of the table that the paragraph is in, 0 none
+  bool operator==(const ParaFormat&) const = default;
+};
+static_assert(std::has_unique_object_representations_v<ParaFormat>);
+
+enum class TabKind : std::uint8_t { Left, Right, Centre, Decimal, Bar };
+struct TabStop {
+  std::int32_t position = 0;  // twips
+  TabKind kind = TabKind::Left;
+  std::uint8_t leader = 0;  // 0 none, 1 dots, 2 hyphens, 3 underline, 4 thick line, 5 equal signs
+  bool operator==(const TabStop&) const = default;
+};
+using TabStops = std::vector<TabStop>;  // by rising position
+
+/// What a note's RTF source says at one character beyond what the editor can show. It goes where
+/// the character goes and is written back with it. Sources are pure ASCII with paired braces.
+struct Kept {
+  enum class Kind : std::uint8_t {
+    Character,  // is itself, or what `instead` says
+    Embedded,   // U+FFFC, which stands for the group in `instead`
+    Cell,       // the tab behind a table cell
+    Row,        // the break behind a table row, and so behind its last cell
+  };
+  std::string before{};   // words and groups in front of the character
+  std::string instead{};  // what the character is in the source; empty: as the writer knows it
+  FieldId field = 0;      // the innermost field that the character is in, 0 none
+  ParaId paragraph = 0;   // of Cell: its format; the last one of a row has the paragraph's
+  Kind kind = Kind::Character;
+  std::uint32_t serial = 0;  // tells characters apart that the same comes before
+  bool operator==(const Kept&) const = default;
+};
+
+/// A group around characters: the result of a field, or the visible number of a list paragraph.
+struct KeptField {
+  std::string opening{}, closing{};
+  FieldId outer = 0;         // the field around it, 0 none
+  std::uint32_t serial = 0;  // tells fields apart that follow each other and say the same
+  bool numbers = false;      // the text is a list number
+  bool operator==(const KeptField&) const = default;
+};
+
+/// Control words in the order of the source.
+struct KeptWords {
+  std::string source;
+  bool operator==(const KeptWords&) const = default;
+};
+
+/// What a source says ahead of its text and behind it. What is kept names fonts and colours by
+/// numbers, so their tables stay as they were, and what the note uses besides comes behind.
+struct KeptHead {
+  struct Font {
+    int number = 0;
+    FontId font = 0;
+    int page = 0;  // of its bytes; 0: the document's
+    bool operator==(const Font&) const = default;
+  };
+  std::string source{};           // words and groups, the tables excepted
+  std::string tail{};             // words and groups behind the text
+  bool tables = false;            // something kept names entries of the tables: they are kept too
+  std::string fontTable{};        // what stands in its group
+  std::vector<Font> fonts{};      // by rising number
+  std::vector<Colour> colours{};  // by their numbers
+  int page = 1252;                // of bytes under no font of another one
+  int defaultFont = 0;
+  bool operator==(const KeptHead&) const = default;
+};
+
+std::uint64_t HashOf(const FontFace& face);
+std::uint64_t HashOf(const TabStops& stops);
+std::uint64_t HashOf(const Kept& kept);
+std::uint64_t HashOf(const KeptField& field);
+std::uint64_t HashOf(const KeptWords& words);
+std::uint64_t HashOf(const KeptHead& head);
+
+/// The tables of one document. Number 0 of each is the default; numbers are never reused, so a
+/// fragment or an undo step may keep them as long as the document lives.
+struct FormatTables {
+  FormatTables();
+  /// A serial for what is kept. They come round again, so that hostile sources do not fill the
+  /// tables with the same again and again; by then what has the same serial is far away.
+  std::uint32_t NextSerial() { return serials++ % 16384; }
+
+  InternTable<FontFace> fonts;
+  InternTable<CharFormat> characters;
+  InternTable<ParaFormat> paragraphs;
+  InternTable<TabStops> tabs;
+  InternTable<Kept> kept;
+  InternTable<KeptField> fields;
+  InternTable<KeptWords> words;
+  InternTable<KeptHead> heads;
+  std::uint32_t serials = 0;
+};
+
+}  // namespace lumenote

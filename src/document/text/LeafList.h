@@ -1,0 +1,157 @@
+// The leaves that hold a document's text and formats, in two levels with sums.
+#pragma once
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+#include "document/text/Leaf.h"
+#include "document/text/Row.h"
+
+namespace lumenote {
+
+inline Extent ExtentOf(const LeafPointer& leaf) {
+  return {leaf->Size(), static_cast<Position>(leaf->marks.size())};
+}
+using LeafGroup = Row<LeafPointer>;
+
+/// Goes through the leaves of a list from one on; the list must stay as it is meanwhile.
+class LeafCursor {
+ public:
+  /// At a leaf, whose first unit is at `start`, or at the end: behind the last group.
+  LeafCursor(const Row<LeafGroup>& groups, std::size_t group, std::size_t leaf, Position start)
+      : groups_(&groups), group_(group), leaf_(leaf), start_(start) {}
+
+  bool AtEnd() const { return group_ == groups_->Size(); }
+  const LeafPointer& Pointer() const { return (*groups_)[group_][leaf_]; }
+  const Leaf& operator*() const { return *Pointer(); }
+  const Leaf* operator->() const { return Pointer().get(); }
+  /// Position in the list of the leaf's first unit.
+  Position Start() const { return start_; }
+  void Next();
+
+ private:
+  const Row<LeafGroup>* groups_;
+  std::size_t group_;
+  std::size_t leaf_;
+  Position start_;
+};
+
+/// Two levels: groups of leaves. An edit touches one leaf and the two sums above it; a larger one
+/// costs by leaves, not by units. Copies of a list share its leaves.
+///
+/// Invariants: no leaf and no group is empty; a group has at most `kGroupMost` leaves; two leaves
+/// side by side in a group hold more than `kJoinedMost` units together, and two groups side by side
+/// more than half of `kGroupMost` leaves, so that no series of edits leaves crumbs.
+///
+/// The leaf found last is remembered, so that what comes next in the same one need not look for it;
+/// therefore even reading one list from two threads at once is not safe (two copies are).
+///
+/// A change that fails for want of memory leaves the list as it was.
+///
+/// Ranges must lie in 0..`Length()` and cut no break. What would make a list longer than `kMost`
+/// raises Overflow before anything is changed.
+class LeafList {
+ public:
+  static constexpr Position kMost = std::numeric_limits<Position>::max();
+
+  bool Empty() const { return groups_.Empty(); }
+  Position Length() const { return groups_.Total().length; }
+  Position Breaks() const { return groups_.Total().breaks; }
+
+  /// Appends a leaf, which is not empty, as it is.
+  void Add(LeafPointer leaf);
+  void Append(LeafList tail);
+  /// Cuts off what stands from `at` on.
+  LeafList Split(Position at);
+  LeafList Slice(Position from, Position to) const;
+  /// Puts `piece` in the place of `from`..`to` and returns what stood there.
+  LeafList Replace(Position from, Position to, LeafList piece);
+
+  /// At the leaf that holds the unit at `position`, or at the end.
+  LeafCursor CursorAt(Position position) const;
+  /// Count of the breaks that begin before `position`.
+  Position BreaksBefore(Position position) const;
+  /// Where the break number `index` (from 0) begins.
+  Position BreakAt(Position index) const;
+  /// The paragraph format that the break number `index` carries.
+  ParaId MarkAt(Position index) const;
+
+  /// Calls `visit(const Leaf&, Position start, Position from, Position to)` for each leaf between
+  /// `from` and `to`: its start in the list and the part of it that lies in between.
+  template <class Visit>
+  void ForEachLeaf(Position from, Position to, Visit visit) const;
+  /// Calls `visit(Position start, TextView text, CharId format)` for each piece of one
+  /// format between `from` and `to`; a piece never crosses a leaf.
+  template <class Visit>
+  void ForEachRun(Position from, Position to, Visit visit) const;
+  /// Calls `visit(ParaId)` for the marks of the breaks number `first` to `last` - 1.
+  template <class Visit>
+  void ForEachMark(Position first, Position last, Visit visit) const;
+
+ private:
+  static constexpr Position kJoinedMost = Leaf::kCapacity / 2;
+  static constexpr std::size_t kGroupMost = 128;
+
+  static constexpr std::size_t kNowhere = std::numeric_limits<std::size_t>::max();
+
+  /// A leaf's group, its place there, and the extent of the leaves before it.
+  struct Place {
+    std::size_t group = kNowhere;
+    std::size_t leaf = 0;
+    Extent before;
+  };
+
+  Place Holding(Position unit) const;
+  Place HoldingBreak(Position index) const;
+  const LeafPointer& LeafAt(const Place& place) const { return groups_[place.group][place.leaf]; }
+  /// `Replace` when it is a matter of one leaf; nothing otherwise.
+  std::optional<LeafList> ReplaceInLeaf(Position from, Position to, const LeafList& piece);
+  void CutLeaf(const Place& place, Position at);
+  LeafList ReplaceAcrossLeaves(Position from, Position to, LeafList piece);
+  /// Restore the invariants around a leaf or group that has become smaller.
+  void JoinLeaves(std::size_t group, std::size_t leaf);
+  void JoinGroups(std::size_t group);
+
+  void Tidy(const Place& place);
+
+  /// After any change by which leaves come to lie elsewhere.
+  void ForgetPlace() { last_ = {}; }
+
+  Row<LeafGroup> groups_;
+  mutable Place last_;  // of the leaf found last
+};
+
+template <class Visit>
+void LeafList::ForEachLeaf(Position from, Position to, Visit visit) const {
+  for (LeafCursor leaf = CursorAt(from); !leaf.AtEnd() && leaf.Start() < to; leaf.Next()) {
+    const Position start = leaf.Start();
+    visit(*leaf, start, std::max(from - start, 0), std::min(to - start, leaf->Size()));
+  }
+}
+
+template <class Visit>
+void LeafList::ForEachRun(Position from, Position to, Visit visit) const {
+  ForEachLeaf(from, to, [&](const Leaf& leaf, Position start, Position first, Position last) {
+    Position at = 0;
+    for (Run run : leaf.runs) {
+      const Position begin = std::max(at, first);
+      at += static_cast<Position>(run.length);
+      const Position end = std::min(at, last);
+      if (begin >= end) continue;
+      visit(start + begin, leaf.Text(begin, end), CharId{run.format});
+    }
+  });
+}
+
+template <class Visit>
+void LeafList::ForEachMark(Position first, Position last, Visit visit) const {
+  if (first >= last) return;
+  const Position at = BreakAt(first);
+  LeafCursor leaf = CursorAt(at);
+  auto index = static_cast<std::size_t>(leaf->BreaksBetween(0, at - leaf.Start()));
+  for (; first < last; leaf.Next(), index = 0) {
+    for (; index < leaf->marks.size() && first < last; ++index, ++first) visit(leaf->marks[index]);
+  }
+}
+
+}  // namespace lumenote

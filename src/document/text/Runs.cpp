@@ -1,0 +1,102 @@
+#include "document/text/Runs.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace lumenote {
+namespace {
+
+Run MakeRun(Position length, CharId format) {
+  return {static_cast<std::uint32_t>(length) & 0xFFF, format & 0xFFFFF};
+}
+
+}  // namespace
+
+CharId Runs::FormatAt(Position at) const { return items_[Holding(at).index].format; }
+
+void Runs::Append(Position length, CharId format) {
+  if (length == 0) return;
+  length_ += length;
+  if (!items_.empty() && items_.back().format == format) {
+    length += static_cast<Position>(items_.back().length);
+    items_.pop_back();
+  }
+  items_.push_back(MakeRun(length, format));
+}
+
+void Runs::Replace(Position at, Position removed, const Runs& inserted) {
+  if (Resize(at, removed, inserted)) return;
+  const Index first = CutAt(at);
+  const Index last = CutAt(at + removed);
+  const Index count = std::ssize(inserted.items_);
+  const Index common = std::min(last - first, count);
+  std::copy_n(inserted.begin(), common, items_.begin() + first);
+  items_.erase(items_.begin() + first + common, items_.begin() + last);
+  items_.insert(items_.begin() + first + common, inserted.begin() + common, inserted.end());
+  length_ += inserted.length_ - removed;
+  JoinBefore(first + count);
+  JoinBefore(first);
+}
+
+Runs Runs::Part(Position from, Position to) const {
+  Runs part;
+  if (from == to) return part;
+  const Spot first = Holding(from);
+  Position start = first.start;
+  for (Index i = first.index; start < to; start += LengthOf(i++)) {
+    const Position end = std::min(start + LengthOf(i), to);
+    part.Append(end - std::max(start, from), items_[i].format);
+  }
+  return part;
+}
+
+void Runs::Clear() {
+  items_.clear();
+  length_ = 0;
+}
+
+Runs::Spot Runs::Holding(Position at) const {
+  Spot spot;
+  if (at < length_ / 2) {
+    while (spot.start + LengthOf(spot.index) <= at) spot.start += LengthOf(spot.index++);
+    return spot;
+  }
+  spot = {std::ssize(items_), length_};
+  while (spot.start > at) spot.start -= LengthOf(--spot.index);
+  return spot;
+}
+
+Runs::Index Runs::CutAt(Position at) {
+  if (at == length_) return std::ssize(items_);
+  const Spot spot = Holding(at);
+  if (spot.start == at) return spot.index;
+  const CharId format = items_[spot.index].format;
+  const Run rest = MakeRun(spot.start + LengthOf(spot.index) - at, format);
+  items_[spot.index] = MakeRun(at - spot.start, format);
+  items_.insert(items_.begin() + spot.index + 1, rest);
+  return spot.index + 1;
+}
+
+void Runs::JoinBefore(Index index) {
+  if (index == 0 || index >= std::ssize(items_)) return;
+  const CharId format = items_[index].format;
+  if (items_[index - 1].format != format) return;
+  items_[index - 1] = MakeRun(LengthOf(index - 1) + LengthOf(index), format);
+  items_.erase(items_.begin() + index);
+}
+
+bool Runs::Resize(Position at, Position removed, const Runs& inserted) {
+  if (inserted.items_.size() > 1 || items_.empty()) return false;
+  // Text put in between two runs may go on with the first.
+  const Spot spot = Holding(removed == 0 && at > 0 ? at - 1 : at);
+  const CharId format = items_[spot.index].format;
+  const Position change = inserted.length_ - removed;
+  const Position resized = LengthOf(spot.index) + change;
+  if (at + removed > spot.start + LengthOf(spot.index) || resized == 0) return false;
+  if (!inserted.items_.empty() && inserted.items_.front().format != format) return false;
+  items_[spot.index] = MakeRun(resized, format);
+  length_ += change;
+  return true;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,25 @@
+#include "forms/controls/RichTextBox.h"
+
+#include "forms/Form.h"
+#include "forms/Platform.h"
+#include "forms/controls/SurfaceMembers.h"
+
+namespace lumenote {
+
+RichTextBox::RichTextBox(Container& container, std::string name, Rect place)
+    : Control(container, std::move(name), place) {
+  Platform& machine = Owner().Machine();
+  surface_ = machine.Windows().MakeSurface(*this, machine.SystemClipboard(), machine.FileSystem());
+  surface_->OnChange([this] {
+    if (Change) Owner().Raise(Change);
+  });
+}
+
+RichTextBox::~RichTextBox() = default;
+
+void RichTextBox::Describe(MemberTable& members) {
+  Control::Describe(members);
+  DescribeSurface(*surface_, members);
+}
+
+}  // namespace lumenote

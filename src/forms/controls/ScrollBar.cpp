@@ -1,0 +1,41 @@
+#include "forms/controls/ScrollBar.h"
+
+#include <algorithm>
+
+#include "base/Numbers.h"
+#include "forms/Form.h"
+
+namespace lumenote {
+
+void ScrollBar::Range(int least, int most) {
+  min_ = least;
+  max_ = most;
+  const int clipped = std::clamp(value_, min_, max_);
+  Changed(Property::Value);
+  Value(clipped);
+}
+
+void ScrollBar::Min(int least) { Range(least, std::max(least, max_)); }
+
+void ScrollBar::Max(int most) { Range(std::min(min_, most), most); }
+
+void ScrollBar::Value(int value) {
+  if (value < min_ || value > max_) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+  if (value == value_) return;
+  value_ = value;
+  Changed(Property::Value);
+  if (Change) Owner().Raise(Change);
+}
+
+void ScrollBar::UserScroll(int value) { Value(std::clamp(value, min_, max_)); }
+
+void ScrollBar::Describe(MemberTable& members) {
+  Control::Describe(members);
+  members.Add("Min", [this] { return lumenote::Value(Min()); });
+  members.Add("Max", [this] { return lumenote::Value(Max()); });
+  members.Add(
+      "Value", [this] { return lumenote::Value(Value()); },
+      [this](const lumenote::Value& value) { Value(ToInt32(NumberOf(value))); });
+}
+
+}  // namespace lumenote

@@ -1,0 +1,28 @@
+#include "forms/controls/StatusBar.h"
+
+#include "base/RuntimeError.h"
+
+namespace lumenote {
+
+StatusBar::StatusBar(Container& container, std::string name, int panels)
+    : Control(container, std::move(name), {}), panels_(static_cast<std::size_t>(panels)) {}
+
+const std::u16string& StatusBar::Panel(int number) const {
+  if (number < 1 || number > Count()) throw RuntimeError(ErrorNumber::NoSuchElement);
+  return panels_[static_cast<std::size_t>(number - 1)];
+}
+
+void StatusBar::Panel(int number, std::u16string_view text) {
+  if (Panel(number) == text) return;
+  panels_[static_cast<std::size_t>(number - 1)] = text;
+  Changed(Property::Panels);
+}
+
+void StatusBar::Describe(MemberTable& members) {
+  Control::Describe(members);
+  members.AddIndexed(
+      "Panels", [this](int number) { return Value(Panel(number)); },
+      [this](const Value& value, int number) { Panel(number, TextOf(value)); });
+}
+
+}  // namespace lumenote

@@ -1,0 +1,45 @@
+#include "pilot/machine/StandIns.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/RuntimeError.h"
+#include "platform/Files.h"
+#include "platform/ProgramCommand.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::string_view kContent = "stand-in program\r\n";
+
+}  // namespace
+
+ProcessId StandIns::Start(std::u16string_view commandLine) {
+  const std::vector<std::u16string> words = SplitCommandLine(commandLine);
+  if (words.empty()) throw RuntimeError(ErrorNumber::FileNotFound);
+  if (files_.ReadAll(words[0]) != kContent) throw RuntimeError(ErrorNumber::PathAccess);
+  started_.emplace_back(commandLine);
+  running_.push_back({++last_, words[0]});
+  return last_;
+}
+
+bool StandIns::IsRunning(ProcessId process) {
+  return std::any_of(running_.begin(), running_.end(),
+                     [&](const Running& program) { return program.id == process; });
+}
+
+std::optional<SystemError> StandIns::Terminate(std::u16string_view path) {
+  const auto ended = std::erase_if(running_, [&](const Running& it) { return it.path == path; });
+  killed_.insert(killed_.end(), ended, std::u16string(path));
+  return std::nullopt;
+}
+
+std::optional<SystemError> StandIns::Lingering(std::u16string_view) { return std::nullopt; }
+
+void StandIns::Put(std::u16string_view path) { files_.Write(path, kContent); }
+
+std::vector<std::u16string> StandIns::TakeStarted() { return std::exchange(started_, {}); }
+
+std::vector<std::u16string> StandIns::TakeKilled() { return std::exchange(killed_, {}); }
+
+}  // namespace lumenote

@@ -1,0 +1,66 @@
+// A machine for scripts in one folder of the file system.
+#pragma once
+#include <memory>
+#include <string>
+
+#include "backends/headless/MemoryClipboard.h"
+#include "backends/posix/folders/PosixFolders.h"
+#include "backends/posix/folders/PosixProgramFolders.h"
+#include "backends/posix/folders/TemporaryFolder.h"
+#include "backends/posix/saving/PosixFiles.h"
+#include "backends/posix/settings/IniRegistry.h"
+#include "backends/posix/settings/IniSettings.h"
+#include "backends/posix/state/PosixStateFolder.h"
+#include "pilot/machine/Sandbox.h"
+#include "pilot/machine/StandIns.h"
+
+namespace lumenote {
+
+/// Drive C: is the folder c below the root, beside settings.ini, registry.ini and the state folder.
+/// The folders C:\Temp, C:\Documents, C:\Program Files and C:\Lumenote are there from the start.
+class PosixSandbox final : public Sandbox {
+ public:
+  /// A fresh one in the system's temporary folder, removed at the end. Raises PathAccess when there
+  /// can be none.
+  PosixSandbox();
+  /// In the native folder `root`, which is made when it is missing and stays. Raises PathAccess
+  /// when it cannot be made.
+  explicit PosixSandbox(const std::string& root);
+
+  Settings& UserSettings() override { return settings_; }
+  Files& FileSystem() override { return files_; }
+  Folders& SpecialFolders() override { return folders_; }
+  StateFolder& State() override { return state_; }
+  Clipboard& SystemClipboard() override { return clipboard_; }
+
+  const Registry& MachineRegistry() const override { return registry_; }
+  const ProgramFolders& InstalledPrograms() const override { return programFolders_; }
+  StandIns& Programs() override { return programs_; }
+
+  void WriteRegistry(std::u16string_view key, std::u16string_view name,
+                     std::u16string_view value) override;
+
+  void MakeParents(std::u16string_view path) override;
+  std::vector<std::u16string> List(std::u16string_view folder) const override;
+  void Remove(std::u16string_view path) override;
+  void ReadOnly(std::u16string_view path, bool on) override;
+  void Link(std::u16string_view name, std::u16string_view path, LinkKind kind) override;
+  void Age(std::u16string_view path, std::int64_t seconds) override;
+
+ private:
+  explicit PosixSandbox(std::unique_ptr<TemporaryFolder> own);
+
+  std::unique_ptr<TemporaryFolder> own_;  // the root of a fresh one, else null
+  DrivePaths drives_;
+  PosixStateFolder state_;
+  PosixFiles files_;
+  FixedFolders folders_;
+  IniSettings settings_;
+  IniRegistry registry_;
+  IniSettings registryFile_;
+  FixedProgramFolders programFolders_;
+  StandIns programs_;
+  MemoryClipboard clipboard_;
+};
+
+}  // namespace lumenote

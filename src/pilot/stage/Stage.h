@@ -1,0 +1,28 @@
+// What the verbs of a script work on.
+#pragma once
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "control/CoBxRtf.h"
+#include "control/Component.h"
+#include "forms/controls/UserActs.h"
+#include "pilot/language/Transcript.h"
+#include "pilot/machine/PilotBackend.h"
+#include "pilot/machine/ReportedFonts.h"
+#include "pilot/machine/Sandbox.h"
+
+namespace lumenote {
+
+struct Stage {
+  CoBxRtf& control;
+  Sandbox& sandbox;
+  PilotBackend& backend;
+  UserActs& acts;
+  Transcript& transcript;
+  ReportedFonts& fonts;
+
+  WindowList& Windows() const { return control.Parts().windows; }
+};
+
+}  // namespace lumenote

@@ -1,0 +1,128 @@
+// The files of the sandbox, as scripts lay them out and look at them.
+#include <optional>
+#include <string>
+
+#include "base/Strings.h"
+#include "base/TextForm.h"
+#include "base/Windows1252.h"
+#include "pilot/language/Arguments.h"
+#include "pilot/language/ScriptError.h"
+#include "pilot/stage/Stage.h"
+#include "pilot/verbs/Verbs.h"
+#include "platform/Files.h"
+
+namespace lumenote::verbs {
+namespace {
+
+void Lay(Sandbox& sandbox, std::u16string_view path, std::string_view bytes) {
+  sandbox.MakeParents(path);
+  sandbox.FileSystem().Write(path, bytes);
+}
+
+std::optional<std::string> ContentOf(const Files& files, std::u16string_view path) {
+  if (!files.Exists(path)) return {};
+  return files.ReadAll(path);
+}
+
+std::u16string Decoded(std::string_view bytes) {
+  const bool marked = FormOfText(bytes) == TextForm::MarkedUtf8;
+  return DecodeText(bytes, marked ? TextForm::MarkedUtf8 : TextForm::Windows1252);
+}
+
+std::string BytesOfHex(std::string_view hex) {
+  std::string bytes;
+  for (std::size_t i = 0; i < hex.size(); i += 2) {
+    const auto unit = UnitFromHex("00" + std::string(hex.substr(i, 2)));
+    if (!unit) throw ScriptError("pairs of hexadecimal digits expected");
+    bytes += static_cast<char>(*unit);
+  }
+  return bytes;
+}
+
+std::string HexOfBytes(std::string_view bytes) {
+  std::string hex;
+  for (const unsigned char byte : bytes) hex += HexOfUnit(byte).substr(2);
+  return hex;
+}
+
+LinkKind TakeLinkKind(Arguments& arguments) {
+  const std::u16string kind = arguments.Text();
+  if (kind == u"hard") return LinkKind::Hard;
+  if (kind == u"symbolic") return LinkKind::Symbolic;
+  throw ScriptError("hard or symbolic expected");
+}
+
+}  // namespace
+
+Answer File(Stage& stage, Arguments& arguments) {
+  const std::u16string path = arguments.Text();
+  const std::u16string content = arguments.Text();
+  arguments.End();
+  if (!Fits1252(content)) throw ScriptError("a character outside code page 1252");
+  Lay(stage.sandbox, path, Encode1252(content));
+  return {};
+}
+
+Answer Bytes(Stage& stage, Arguments& arguments) {
+  const std::u16string path = arguments.Text();
+  const std::string bytes = BytesOfHex(arguments.Name());
+  arguments.End();
+  Lay(stage.sandbox, path, bytes);
+  return {};
+}
+
+Answer Cat(Stage& stage, Arguments& arguments) {
+  const std::u16string path = arguments.Text();
+  arguments.End();
+  const auto bytes = ContentOf(stage.sandbox.FileSystem(), path);
+  return bytes ? Value(Decoded(*bytes)) : Value();
+}
+
+Answer Hex(Stage& stage, Arguments& arguments) {
+  const std::u16string path = arguments.Text();
+  arguments.End();
+  const auto bytes = ContentOf(stage.sandbox.FileSystem(), path);
+  return bytes ? Value(FromUtf8(HexOfBytes(*bytes))) : Value();
+}
+
+Answer Link(Stage& stage, Arguments& arguments) {
+  const std::u16string name = arguments.Text();
+  const std::u16string file = arguments.Text();
+  const LinkKind kind = TakeLinkKind(arguments);
+  arguments.End();
+  stage.sandbox.Link(name, file, kind);
+  return {};
+}
+
+Answer Ls(Stage& stage, Arguments& arguments) {
+  const std::u16string path = arguments.Text();
+  arguments.End();
+  Value::Array names;
+  for (std::u16string& name : stage.sandbox.List(path)) names.emplace_back(std::move(name));
+  return names;
+}
+
+Answer Rm(Stage& stage, Arguments& arguments) {
+  const std::u16string path = arguments.Text();
+  arguments.End();
+  stage.sandbox.Remove(path);
+  return {};
+}
+
+Answer ReadOnly(Stage& stage, Arguments& arguments) {
+  const std::u16string path = arguments.Text();
+  const bool on = arguments.Flag();
+  arguments.End();
+  stage.sandbox.ReadOnly(path, on);
+  return {};
+}
+
+Answer Touch(Stage& stage, Arguments& arguments) {
+  constexpr std::int64_t kSeconds = 10;
+  const std::u16string path = arguments.Text();
+  arguments.End();
+  stage.sandbox.Age(path, kSeconds);
+  return {};
+}
+
+}  // namespace lumenote::verbs

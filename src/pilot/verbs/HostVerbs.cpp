@@ -1,0 +1,56 @@
+// What the host program does: it writes the control's properties and opens the editor.
+#include <array>
+#include <limits>
+
+#include "pilot/language/Arguments.h"
+#include "pilot/language/ScriptError.h"
+#include "pilot/stage/Stage.h"
+#include "pilot/verbs/Verbs.h"
+
+namespace lumenote::verbs {
+namespace {
+
+struct HostProperty {
+  std::string_view name;
+  void (CoBxRtf::*write)(std::u16string_view);
+};
+
+constexpr std::array<HostProperty, 9> kProperties{{
+    {"pNomAppli", &CoBxRtf::pNomAppli},
+    {"pChmAppli", &CoBxRtf::pChmAppli},
+    {"pTitreFenêtre", &CoBxRtf::pTitreFenêtre},
+    {"pTitreCadre", &CoBxRtf::pTitreCadre},
+    {"pCouleurFen", &CoBxRtf::pCouleurFen},
+    {"pSScléReg", &CoBxRtf::pSScléReg},
+    {"pAttribut", &CoBxRtf::pAttribut},
+    {"pModelWord", &CoBxRtf::pModelWord},
+    {"pStrOrchm", &CoBxRtf::pStrOrchm},
+}};
+
+const HostProperty& FindProperty(std::string_view name) {
+  for (const HostProperty& property : kProperties)
+    if (property.name == name) return property;
+  throw ScriptError("unknown property " + std::string(name));
+}
+
+}  // namespace
+
+Answer Host(Stage& stage, Arguments& arguments) {
+  const std::string name = arguments.Name();
+  const HostProperty& property = FindProperty(name);
+  if (arguments.AtEnd() && name == "pStrOrchm") return Value(stage.control.pStrOrchm());
+  const std::u16string value = arguments.Text();
+  arguments.End();
+  (stage.control.*property.write)(value);
+  return {};
+}
+
+Answer Show(Stage& stage, Arguments& arguments) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const std::int32_t mode = arguments.AtEnd() ? 0 : arguments.Whole(Limits::min(), Limits::max());
+  arguments.End();
+  stage.control.ShowMicroEdit(mode);
+  return {};
+}
+
+}  // namespace lumenote::verbs

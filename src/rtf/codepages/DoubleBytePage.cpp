@@ -1,0 +1,141 @@
+// Unpacking the double-byte pages and decoding by them.
+//
+// A packed page is a list of items, one digit or more each, for the cells in their order: a near
+// step from the last character forward, a step of two digits either way, a run of characters in
+// sequence, a gap of empty cells, or a character by its number.
+#include "rtf/codepages/DoubleBytePage.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <mutex>
+
+namespace lumenote {
+namespace {
+
+constexpr int kFirstLead = 0x81, kLastLead = 0xFE;
+constexpr int kFirstTrail = 0x40, kLastTrail = 0xFE;
+constexpr int kRow = kLastTrail - kFirstTrail + 1;
+constexpr std::size_t kCells = (kLastLead - kFirstLead + 1) * std::size_t{kRow};
+
+// What the first digit of an item says, from the least number of each kind up to the next.
+constexpr int kPair = 44, kRun = 78, kGap = 79, kFar = 80;
+constexpr int kBack = 700;  // the farthest that a step of two digits goes back
+constexpr int kBase = 90;
+
+/// The printable characters from "#" on but for "?" and the backslash, which C++ gives a meaning.
+int DigitOf(char c) { return c - '#' - (c > '?') - (c > '\\'); }
+
+constexpr char16_t kUnknown = u'\uFFFD';
+
+class Unpacker {
+ public:
+  Unpacker(std::string_view packed, std::vector<char16_t>& cells)
+      : packed_(packed), cells_(cells) {}
+
+  void Run() {
+    while (at_ < packed_.size()) Item(Digit());
+  }
+
+ private:
+  int Digit() { return DigitOf(packed_[at_++]); }
+  void Put(int unit) { cells_.push_back(static_cast<char16_t>(last_ = unit)); }
+  void Item(int kind);
+
+  std::string_view packed_;
+  std::vector<char16_t>& cells_;
+  std::size_t at_ = 0;
+  int last_ = 0;
+};
+
+void Unpacker::Item(int kind) {
+  if (kind < kPair) {
+    Put(last_ + kind + 1);
+  } else if (kind < kRun) {
+    Put(last_ + (kind - kPair) * kBase + Digit() - kBack);
+  } else if (kind == kRun) {
+    for (int left = Digit() + 1; left > 0; --left) Put(last_ + 1);
+  } else if (kind == kGap) {
+    cells_.insert(cells_.end(), static_cast<std::size_t>(Digit() + 1), 0);
+  } else {
+    const int high = (kind - kFar) * kBase + Digit();
+    Put(high * kBase + Digit());
+  }
+}
+
+/// The page that serves for another one.
+int OwnNumber(int number) {
+  switch (number) {
+    case 10001:
+      return 932;
+    case 10002:
+      return 950;
+    case 10003:
+      return 949;
+    case 10008:
+      return 936;
+    default:
+      return number;
+  }
+}
+
+}  // namespace
+
+DoubleBytePage::DoubleBytePage(const PackedPage& packed) : number_(packed.number) {
+  cells_.reserve(kCells);
+  Unpacker(packed.cells, cells_).Run();
+}
+
+bool DoubleBytePage::Is(int number) {
+  return std::any_of(
+      std::begin(kDoubleBytePages), std::end(kDoubleBytePages),
+      [own = OwnNumber(number)](const PackedPage& page) { return page.number == own; });
+}
+
+const DoubleBytePage* DoubleBytePage::Find(int number) {
+  static std::array<std::unique_ptr<const DoubleBytePage>, std::size(kDoubleBytePages)> unpacked;
+  static std::array<std::once_flag, std::size(kDoubleBytePages)> once;
+  for (std::size_t i = 0; i < unpacked.size(); ++i) {
+    if (kDoubleBytePages[i].number != OwnNumber(number)) continue;
+    std::call_once(once[i], [i] { unpacked[i].reset(new DoubleBytePage(kDoubleBytePages[i])); });
+    return unpacked[i].get();
+  }
+  return nullptr;
+}
+
+void DoubleBytePage::Decode(std::string_view bytes, std::u16string& out) const {
+  out.reserve(out.size() + bytes.size());
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(bytes[i]);
+    const bool pair = Leads(byte) && i + 1 < bytes.size();
+    if (!pair) {
+      out.push_back(Single(byte));
+      continue;
+    }
+    const auto trail = static_cast<unsigned char>(bytes[i + 1]);
+    const char16_t unit = Pair(byte, trail);
+    out.push_back(unit != 0 ? unit : kUnknown);
+    if (unit != 0 || trail >= 0x80) ++i;
+  }
+}
+
+bool DoubleBytePage::Leads(unsigned char byte) const {
+  const bool single = number_ == 932 && ((byte >= 0xA0 && byte < 0xE0) || byte > 0xFC);
+  return byte >= kFirstLead && byte <= kLastLead && !single;
+}
+
+char16_t DoubleBytePage::Single(unsigned char byte) const {
+  if (byte < 0x80) return byte;
+  if (number_ == 932 && byte > 0xA0 && byte < 0xE0) return static_cast<char16_t>(0xFEC0 + byte);
+  if (number_ == 936 && byte == 0x80) return u'\u20AC';
+  return byte == 0x80 || (number_ == 932 && byte == 0xA0) ? byte : kUnknown;
+}
+
+char16_t DoubleBytePage::Pair(unsigned char lead, unsigned char trail) const {
+  if (trail < kFirstTrail || trail > kLastTrail) return 0;
+  return cells_[static_cast<std::size_t>(lead - kFirstLead) * kRow + trail - kFirstTrail];
+}
+
+}  // namespace lumenote

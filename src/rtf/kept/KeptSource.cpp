@@ -1,0 +1,117 @@
+#include "rtf/kept/KeptSource.h"
+
+#include <algorithm>
+
+#include "rtf/kept/KeptWords.h"
+#include "rtf/read/Keywords.h"
+
+namespace lumenote {
+namespace {
+
+constexpr int kOwnFallback = 1;  // what the writer tells with \uc
+
+void AppendHex(std::string_view bytes, std::string_view before, std::string& out) {
+  constexpr char kDigits[] = "0123456789abcdef";
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    out += before;
+    out += kDigits[byte >> 4];
+    out += kDigits[byte & 15];
+  }
+}
+
+bool IsControl(unsigned char byte) { return byte < 0x20 || byte == 0x7F; }
+
+/// A backslash and a control character. Most mean nothing, but end what stands before them.
+std::string_view ControlSymbol(unsigned char byte) {
+  if (byte == '\r' || byte == '\n') return "\\\r\n";
+  return byte == '\t' ? "\\'09" : "{}";
+}
+
+/// Follows a piece to where the reader passes text over.
+class HiddenGroup {
+ public:
+  explicit HiddenGroup(bool fromStart) : depth_(fromStart ? 0 : kNone) {}
+
+  bool Inside() const { return depth_ != kNone; }
+  /// `open` groups are open behind the token.
+  void Pass(const Token& token, std::size_t open) {
+    if (Inside() && open < depth_) depth_ = kNone;
+    const bool hides = token.kind == Token::Kind::Word && HidesText(token.text, starred_);
+    if (!Inside() && hides) depth_ = open;
+    starred_ = opened_ && token.kind == Token::Kind::Symbol && token.byte == '*';
+    opened_ = token.kind == Token::Kind::Open;
+  }
+
+ private:
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+  std::size_t depth_;
+  bool opened_ = false;
+  bool starred_ = false;
+};
+
+bool TellsOfField(const Token& word) {
+  return word.text == "field" || word.text.starts_with("fld");
+}
+
+}  // namespace
+
+KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
+  constexpr std::size_t kEscaped = 3;  // bytes more than one has as itself
+  const auto bare = std::ranges::count_if(source, [](char c) { return c < ' ' || c > '~'; });
+  text.reserve(source.size() + kEscaped * static_cast<std::size_t>(bare) + kEscaped);
+  Tokenizer tokens(source);
+  HiddenGroup hidden(piece == Piece::Hidden);
+  std::size_t end = 0;
+  std::size_t firstWordEnd = 0;
+  bool unicode = false;
+  bool delimited = false;
+  for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
+    const bool word = token.kind == Token::Kind::Word;
+    const bool data = token.kind == Token::Kind::Binary;
+    const bool nothing =
+        (token.kind == Token::Kind::Close && open == 0) || (data && token.text.empty());
+    if (nothing) continue;
+    const bool ofFormat = piece == Piece::FieldOpening && open == 0 && word && !TellsOfField(token);
+    if (ofFormat || (data && !hidden.Inside())) {
+      end = tokens.At();
+      continue;
+    }
+    if (tokens.Start() != end && !text.ends_with('\n')) text += "\r\n";
+    end = tokens.At();
+    Append(token, tokens.Source(tokens.Start(), end));
+    hidden.Pass(token, open);
+    delimited = word && text.ends_with(' ');
+    if (word && firstWordEnd == 0) firstWordEnd = text.size() - (delimited ? 1 : 0);
+    unicode |= word && token.text == "u";
+  }
+  if (delimited) text.pop_back();
+  if (!unicode || fallback == kOwnFallback) return;
+  const bool opening = piece == Piece::FieldOpening;
+  if (opening && text[firstWordEnd] == ' ') text.erase(firstWordEnd, 1);
+  text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
+  if (opening) text += "\\uc" + std::to_string(kOwnFallback);
+}
+
+void KeptSource::Append(const Token& token, std::string_view source) {
+  using Kind = Token::Kind;
+  if (token.kind == Kind::Open) ++open;
+  if (token.kind == Kind::Close) --open;
+  needsHead |= token.kind == Kind::High || token.kind == Kind::Byte ||
+               (token.kind == Kind::Word && NamesTableEntry(token.text));
+  const bool bare = token.kind == Kind::High || (token.kind == Kind::Byte && source.size() == 1);
+  if (bare) return AppendHex(source, "\\'", text);
+  if (token.kind == Kind::Symbol && IsControl(token.byte)) source = ControlSymbol(token.byte);
+  if (token.kind != Kind::Binary) return void(text += source);
+  if (!text.ends_with('\n')) text += "\r\n";
+  AppendHex(token.text, "", text);
+}
+
+std::string SourceOf(const Token& word) {
+  std::string source = "\\" + std::string(word.text);
+  if (word.hasNumber) source += std::to_string(word.number);
+  return source;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,113 @@
+// Words that change the format of characters, and the document's defaults for it.
+#include <algorithm>
+#include <limits>
+
+#include "rtf/read/Interpreter.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::uint16_t kStandardSize = 24;  // half-points, where RTF says nothing else
+constexpr int kOwnLanguage = 1036;           // what the language number 0 stands for
+constexpr int kStandardRaise = 6;            // half-points of \up and \dn without a number
+
+bool On(const Token& word) { return !word.hasNumber || word.number != 0; }
+
+template <class Number>
+Number Clipped(std::int64_t value) {
+  using Limits = std::numeric_limits<Number>;
+  return static_cast<Number>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+}  // namespace
+
+void Interpreter::DocumentPage(int value, const Token& word) {
+  documentPage_ = value != 0 ? value : word.number;
+  State().page = CodePage(documentPage_);
+}
+
+void Interpreter::DefaultFont(int, const Token& word) {
+  defaultFont_ = word.number;
+  default_.size = kStandardSize;
+  EditCharacter().size = kStandardSize;
+  UseDefaultFont(State());
+}
+
+void Interpreter::UseDefaultFont(GroupState& state) {
+  const SourceFont* font = defaultFont_ < 0 ? nullptr : fonts_.Find(defaultFont_);
+  if (!font) return;
+  default_.font = font->font;
+  state.character.font = font->font;
+  state.characterKnown = false;
+  state.page = CodePage(font->page ? font->page : documentPage_);
+}
+
+void Interpreter::DefaultLanguage(int, const Token& word) {
+  default_.language =
+      word.number == kOwnLanguage ? std::uint16_t{0} : Clipped<std::uint16_t>(word.number);
+  EditCharacter().language = default_.language;
+}
+
+void Interpreter::Fallback(int, const Token& word) { State().fallback = std::max(word.number, 0); }
+
+void Interpreter::Plain(int, const Token&) {
+  BeginBody();
+  CharFormat& plain = EditCharacter();
+  plain = default_;
+  plain.size = kStandardSize;
+  const SourceFont* font = fonts_.Find(defaultFont_);
+  State().page = CodePage(font && font->page ? font->page : documentPage_);
+}
+
+void Interpreter::Font(int, const Token& word) {
+  const SourceFont* font = fonts_.Find(word.number);
+  if (!font) return;
+  EditCharacter().font = font->font;
+  State().page = CodePage(font->page ? font->page : documentPage_);
+}
+
+void Interpreter::Size(int, const Token& word) {
+  if (word.number > 0) EditCharacter().size = Clipped<std::uint16_t>(word.number);
+}
+
+void Interpreter::Effect(int value, const Token& word) {
+  std::uint16_t& effects = EditCharacter().effects;
+  effects = static_cast<std::uint16_t>(On(word) ? effects | value : effects & ~value);
+}
+
+void Interpreter::Script(int value, const Token& word) {
+  std::uint16_t& effects = EditCharacter().effects;
+  effects = static_cast<std::uint16_t>(effects & ~(kSuperscript | kSubscript));
+  if (On(word)) effects = static_cast<std::uint16_t>(effects | value);
+}
+
+void Interpreter::UnderlineAs(int value, const Token& word) {
+  EditCharacter().underline = On(word) ? static_cast<Underline>(value) : Underline::None;
+}
+
+void Interpreter::TextColour(int, const Token& word) {
+  EditCharacter().colour = colours_[word.number];
+}
+
+void Interpreter::Highlight(int, const Token& word) {
+  EditCharacter().highlight = word.number == 0 ? kAutoColour : colours_[word.number];
+}
+
+void Interpreter::Raise(int value, const Token& word) {
+  const std::int64_t halfPoints = word.hasNumber ? word.number : kStandardRaise;
+  EditCharacter().offset = Clipped<std::int16_t>(halfPoints * value * 10);
+}
+
+void Interpreter::Language(int, const Token& word) {
+  EditCharacter().language = Clipped<std::uint16_t>(word.number);
+}
+
+void Interpreter::Spacing(int value, const Token& word) {
+  EditCharacter().spacing = Clipped<std::int16_t>(std::int64_t{word.number} * value);
+}
+
+void Interpreter::Scale(int, const Token& word) {
+  EditCharacter().scale = Clipped<std::uint16_t>(std::max(word.number, 1));
+}
+
+}  // namespace lumenote

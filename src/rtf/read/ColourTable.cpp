@@ -1,0 +1,51 @@
+// Reading \colortbl.
+#include "rtf/read/ColourTable.h"
+
+#include <algorithm>
+
+namespace lumenote {
+namespace {
+
+/// How far left a component stands in a colour, or -1 for another word.
+int ShiftOf(std::string_view component) {
+  if (component == "red") return 0;
+  if (component == "green") return 8;
+  if (component == "blue") return 16;
+  return -1;
+}
+
+}  // namespace
+
+void ColourTable::Read(Tokenizer& tokens) {
+  colours_.clear();
+  Colour colour = kAutoColour;
+  const auto component = [&](const Token& word) {
+    const int shift = ShiftOf(word.text);
+    if (shift < 0) return;
+    if (colour == kAutoColour) colour = 0;
+    colour &= ~(Colour{0xFF} << shift);
+    colour |= static_cast<Colour>(std::clamp(word.number, 0, 255)) << shift;
+  };
+  const auto finish = [&] {
+    colours_.push_back(colour);
+    colour = kAutoColour;
+  };
+  tokens.WhileInGroup([&](const Token& token) {
+    if (EndsTable(token)) return false;
+    if (token.kind == Token::Kind::Word) component(token);
+    if (token.kind == Token::Kind::Text) {
+      for (const char c : token.text) {
+        if (c == ';') finish();
+      }
+    }
+    return true;
+  });
+  if (colour != kAutoColour) finish();
+}
+
+Colour ColourTable::operator[](int number) const {
+  const bool inside = number >= 0 && static_cast<std::size_t>(number) < colours_.size();
+  return inside ? colours_[static_cast<std::size_t>(number)] : kAutoColour;
+}
+
+}  // namespace lumenote

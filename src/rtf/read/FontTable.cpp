@@ -1,0 +1,127 @@
+// Reading \fonttbl.
+#include "rtf/read/FontTable.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include "base/Strings.h"
+#include "rtf/codepages/CodePage.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::string_view kFamilies[] = {"fnil",    "froman", "fswiss", "fmodern",
+                                          "fscript", "fdecor", "ftech",  "fbidi"};
+
+std::uint8_t Small(int number) { return static_cast<std::uint8_t>(std::clamp(number, 0, 255)); }
+
+/// One font on its way: from \f to ";".
+class Entry {
+ public:
+  explicit Entry(int documentPage, int number = -1)
+      : documentPage_(documentPage), number_(number) {}
+
+  int Number() const { return number_; }
+  int Page() const { return page_; }
+  FontFace Face() const;
+
+  void Word(const Token& word);
+  void Bytes(std::string_view bytes);
+  /// What follows is no other form of a \u before it.
+  void EndFallback() { fallback_ = 0; }
+  /// Gives the bytes of the name so far their characters.
+  void EndBytes();
+
+ private:
+  int documentPage_;
+  int number_;
+  int page_ = 0;
+  int fallback_ = 0;   // bytes still to pass over behind a \u
+  std::string bytes_;  // of the name, not yet decoded
+  FontFace face_;
+};
+
+FontFace Entry::Face() const {
+  FontFace face = face_;
+  face.name = TrimBlanks(face_.name);
+  return face;
+}
+
+void Entry::Word(const Token& word) {
+  if (word.text == "fcharset") {
+    face_.charset = Small(word.number);
+    if (page_ == 0) page_ = CodePageOfCharset(word.number);
+  } else if (word.text == "cpg") {
+    page_ = word.number;
+  } else if (word.text == "fprq") {
+    face_.pitch = Small(word.number);
+  } else if (word.text == "u") {
+    EndBytes();
+    face_.name.push_back(static_cast<char16_t>(word.number));
+    fallback_ = 1;
+  } else {
+    const auto family = std::find(std::begin(kFamilies), std::end(kFamilies), word.text);
+    if (family != std::end(kFamilies)) {
+      face_.family = static_cast<std::uint8_t>(family - std::begin(kFamilies));
+    }
+  }
+}
+
+void Entry::Bytes(std::string_view bytes) {
+  const int passed = std::min(fallback_, static_cast<int>(bytes.size()));
+  fallback_ -= passed;
+  bytes.remove_prefix(static_cast<std::size_t>(passed));
+  bytes_ += bytes;
+}
+
+void Entry::EndBytes() {
+  const bool ownPage = page_ != 0 && page_ != kPageOfSymbols;
+  DecodeCodePage(ownPage ? page_ : documentPage_, std::exchange(bytes_, {}), face_.name);
+}
+
+}  // namespace
+
+void FontTable::Read(Tokenizer& tokens, InternTable<FontFace>& faces, int documentPage) {
+  Entry entry(documentPage);
+  const auto start = [&](int number) {
+    entry.EndBytes();
+    if (entry.Number() >= 0) fonts_[entry.Number()] = {faces.Intern(entry.Face()), entry.Page()};
+    entry = Entry(documentPage, number);
+  };
+  const auto text = [&](std::string_view bytes) {
+    for (auto end = bytes.find(';'); end != bytes.npos; end = bytes.find(';')) {
+      entry.Bytes(bytes.substr(0, end));
+      start(-1);
+      bytes.remove_prefix(end + 1);
+    }
+    entry.Bytes(bytes);
+  };
+  tokens.WhileInGroup([&](const Token& token) {
+    if (EndsTable(token)) return false;
+    const char byte = static_cast<char>(token.byte);
+    if (token.kind == Token::Kind::Word && token.text == "f") {
+      start(token.number);
+    } else if (token.kind == Token::Kind::Word) {
+      entry.Word(token);
+    } else if (token.kind == Token::Kind::Open) {
+      entry.EndFallback();
+    } else if (token.kind == Token::Kind::Byte) {
+      entry.Bytes({&byte, 1});
+    } else if (token.kind == Token::Kind::Text || token.kind == Token::Kind::High) {
+      text(token.text);
+    } else if (token.kind == Token::Kind::Symbol && byte == '*') {
+      tokens.SkipGroup();
+    }
+    return true;
+  });
+  start(-1);
+}
+
+const SourceFont* FontTable::Find(int number) const {
+  const auto found = fonts_.find(number);
+  return found == fonts_.end() ? nullptr : &found->second;
+}
+
+}  // namespace lumenote

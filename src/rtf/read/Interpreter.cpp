@@ -1,0 +1,335 @@
+// The reading loop: groups, text bytes, and what comes before text.
+#include "rtf/read/Interpreter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/Strings.h"
+#include "rtf/read/Keywords.h"
+
+namespace lumenote {
+namespace {
+
+/// Whether a token is a byte behind a backslash, which may be the second half of a character.
+bool IsEscapedByte(const Token& token) {
+  const unsigned char byte = token.byte;
+  return token.kind == Token::Kind::Symbol && (byte == '\\' || byte == '{' || byte == '}');
+}
+
+constexpr std::size_t kBytesOfTab = 4;  // of a \tx with its number, at least
+constexpr std::size_t kLeastTabs = 4096;
+
+std::size_t CharacterLength(std::u16string_view text) {
+  return text.size() > 1 && IsHighSurrogate(text.front()) ? 2
+                                                          : std::min<std::size_t>(text.size(), 1);
+}
+
+/// What a symbol stands for; 0 for the marks of groups, indexes and formulas.
+char16_t CharacterOf(char symbol) {
+  switch (symbol) {
+    case '~':
+      return u'\u00A0';
+    case '_':
+      return u'\u2011';
+    case '-':
+      return u'\u00AD';
+    case '{':
+    case '}':
+    case '\\':
+    case '\t':
+      return static_cast<unsigned char>(symbol);
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+Interpreter::Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
+                         const CharFormat& base, std::size_t opened)
+    : tokens_(source),
+      target_(target),
+      formats_(formats),
+      groups_(1),
+      default_(base),
+      tabsLeft_(source.size() / kBytesOfTab + kLeastTabs),
+      keeper_(formats, source.size()) {
+  State().character = base;
+  groups_.resize(groups_.size() + opened, groups_.front());
+}
+
+Fragment Interpreter::Read() {
+  Interpret();
+  for (std::size_t group = groups_.size() - 1; group > 0; --group)
+    EndField(groups_[group], groups_[group - 1]);
+  BeginBody();
+  // The final mark stands behind the fields that only the end of the source closes.
+  State().field = State().inField = 0;
+  State().characterKnown = false;
+  if (!marker_.empty()) PlaceMarker();
+  Fragment fragment = body_.Finish(target_, {CharacterNumber(), ParagraphNumber()});
+  if (fragment.mark) fragment.mark->head = Head();
+  return fragment;
+}
+
+void Interpreter::Interpret() {
+  TakeText();
+  for (Token token = tokens_.Next(); token.kind != Token::Kind::End; token = tokens_.Next()) {
+    if (token.kind == Token::Kind::Close && Ended()) break;
+    Take(token);
+    TakeText();
+  }
+  EndBytes();
+}
+
+void Interpreter::Take(const Token& token) {
+  using Kind = Token::Kind;
+  wasStarred_ = std::exchange(starred_, false);
+  wasOpened_ = std::exchange(opened_, false);
+  if (State().page.MultiByte() && IsEscapedByte(token)) return Byte(token.byte);
+  const bool ofBytes =
+      token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
+  if (!ofBytes) EndBytes();
+  switch (token.kind) {
+    case Kind::Byte:
+      return Byte(token.byte);
+    case Kind::Word:
+      return Word(token);
+    case Kind::Symbol:
+      starred_ = wasOpened_ && token.byte == '*';
+      return Symbol(static_cast<char>(token.byte));
+    case Kind::Open:
+      return Open();
+    case Kind::Close:
+      return Close();
+    case Kind::Binary:
+      Swallowed();
+      return;
+    default:
+      return Bytes(token.text);
+  }
+}
+
+/// Text goes the short way, from the source into the fragment, unless some of it is to be passed
+/// over or its characters take several bytes.
+void Interpreter::TakeText() {
+  if (swallow_ > 0 || starred_ || State().page.MultiByte() || !AtText()) return;
+  opened_ = false;
+  BeforeText();
+  if (keeper_.Pending()) {
+    TakeSome(1, NextCharacter());
+    if (!AtText()) return;
+  }
+  const CharId format = CharacterNumber();
+  while (TakeSome(Leaf::kCapacity, format)) {
+  }
+}
+
+/// Takes text into the leaf at hand, as bytes as long as that goes; at most `most` units. Returns
+/// whether it stopped for want of room.
+bool Interpreter::TakeSome(std::size_t most, CharId format) {
+  const CodePage page = State().page;
+  const bool unicode = HasOneFallback();
+  const auto take = [&](auto room, auto decode) {
+    room = room.first(std::min(most, room.size()));
+    const std::size_t count = decode(room);
+    if (count > 0) body_.Commit(static_cast<int>(count), format);
+    return count == room.size();
+  };
+  if (page.Number() == kPageOfWindows) {
+    if (const auto room = body_.ByteRoom(); !room.empty()) {
+      if (take(room, [&](auto part) { return tokens_.DecodeToBytes(unicode, part); })) return true;
+      if (!AtText()) return false;
+    }
+  }
+  return take(body_.UnitRoom(), [&](auto part) { return tokens_.Decode(page, unicode, part); });
+}
+
+/// Whether the "}" just read is the last that matters. Braces that only close at the end leave the
+/// formats as they are, for the final mark; behind the document's own one, text without any markup
+/// is no part of it but what some mailer or disk left there, and neither is a second document.
+bool Interpreter::Ended() const {
+  if (tokens_.OnlyClosesFollow()) return true;
+  const bool outermost = !placingMarker_ && uncounted_ == 0 && groups_.size() <= outermost_;
+  return outermost && (!tokens_.MarkupFollows() || tokens_.DocumentFollows());
+}
+
+void Interpreter::Open() {
+  swallow_ = 0;
+  borderOf_ = WordScope::None;
+  opened_ = true;
+  if (groups_.size() < kDeepest) {
+    groups_.push_back(groups_.back());
+  } else {
+    ++uncounted_;
+  }
+}
+
+void Interpreter::Close() {
+  swallow_ = 0;
+  borderOf_ = WordScope::None;
+  if (uncounted_ > 0) return void(--uncounted_);
+  EndField(State(), Outer());
+  if (groups_.size() > outermost_)
+    groups_.pop_back();
+  else
+    State().fieldAt = GroupState::kNowhere;
+}
+
+/// A word counts as one of the characters behind a \u, but only one that stands for a character is
+/// passed over: no break and no format is lost.
+void Interpreter::Word(const Token& word) {
+  const Keyword* keyword = FindKeyword(word.text);
+  if (wasStarred_ && !(keyword && keyword->opensGroup)) return KeepAside(0, word);
+  const bool swallowed = Swallowed();
+  if (!keyword) return KeepUnknown(word);
+  if (keyword->handler != &Interpreter::KeepWord) borderOf_ = WordScope::None;
+  if (swallowed && keyword->handler == &Interpreter::Character) return;
+  (this->*keyword->handler)(keyword->value, word);
+}
+
+void Interpreter::Symbol(char symbol) {
+  if (symbol == '\r' || symbol == '\n') return Break(0, {});
+  const char16_t unit = CharacterOf(symbol);
+  if (unit != 0 && !Swallowed()) Put(unit);
+}
+
+bool Interpreter::Swallowed() {
+  if (swallow_ == 0) return false;
+  --swallow_;
+  return true;
+}
+
+void Interpreter::Byte(unsigned char byte) {
+  if (Swallowed() || byte == 0) return;
+  if (byte == '\r' || byte == '\n') {
+    EndBytes();
+    return Break(0, {});
+  }
+  if (State().page.MultiByte()) {
+    bytes_ += static_cast<char>(byte);
+  } else {
+    Put(State().page[byte]);
+  }
+}
+
+/// Text that could not go the short way.
+void Interpreter::Bytes(std::string_view bytes) {
+  const auto passed = std::min(static_cast<std::size_t>(swallow_), bytes.size());
+  swallow_ -= static_cast<int>(passed);
+  bytes.remove_prefix(passed);
+  if (State().page.MultiByte()) {
+    bytes_ += bytes;
+  } else {
+    tokens_.PutBack(bytes.size());
+  }
+}
+
+void Interpreter::EndBytes() {
+  if (bytes_.empty()) return;
+  const std::string bytes = std::exchange(bytes_, {});
+  BeforeText();
+  decoded_.clear();
+  DecodeCodePage(State().page.Number(), bytes, decoded_);
+  const std::u16string_view text = decoded_;
+  const std::size_t first = keeper_.Pending() ? CharacterLength(text) : 0;
+  if (first > 0) body_.Append(text.substr(0, first), NextCharacter());
+  body_.Append(text.substr(first), CharacterNumber());
+}
+
+void Interpreter::Put(char16_t unit) {
+  BeforeText();
+  body_.Append(std::u16string_view(&unit, 1), NextCharacter());
+}
+
+void Interpreter::BeforeText() {
+  Lay();
+  if (inHead_) BeginBody();
+  if (!marker_.empty()) PlaceMarker();
+  if (body_.Holds()) body_.Release();
+}
+
+/// Reads the marker as text, in a group of its own that it cannot leave. What numbers its paragraph
+/// does not end it.
+void Interpreter::PlaceMarker() {
+  const std::string_view marker = std::exchange(marker_, {});
+  if (HasBullet()) return;
+  const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
+  groups_.push_back(groups_.back());
+  State().fieldAt = GroupState::kNowhere;
+  State().fallback = markerFallback_;
+  numbering_ = IsNumbered();
+  if (numbering_ && target_ == RtfTarget::Document)
+    EnterField({.opening = "{\\" + std::string(markerWord_), .closing = "}", .numbers = true});
+  const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
+  const std::size_t outermost = std::exchange(outermost_, groups_.size());
+  const std::size_t uncounted = std::exchange(uncounted_, 0);
+  const std::string behind = keeper_.TakeSince(markerPlace_);
+  placingMarker_ = true;
+  Interpret();
+  placingMarker_ = false;
+  numbering_ = false;
+  keeper_.Keep(behind + keeper_.TakeSince(markerPlace_));
+  borderOf_ = WordScope::None;
+  keeper_.EndScripts();
+  tokens_ = tokens;
+  outermost_ = outermost;
+  uncounted_ = uncounted;
+  swallow_ = 0;
+  starred_ = false;
+  groups_.erase(groups_.begin() + depth, groups_.end());
+}
+
+CharFormat& Interpreter::EditCharacter() {
+  State().characterKnown = false;
+  return State().character;
+}
+
+ParagraphState& Interpreter::EditParagraph() {
+  State().paragraphKnown = false;
+  return State().paragraph;
+}
+
+CharId Interpreter::CharacterNumber() {
+  GroupState& state = State();
+  if (!state.characterKnown) {
+    CharFormat format = state.character;
+    format.kept = state.inField;
+    state.characterId = formats_.characters.Intern(format);
+    state.characterKnown = true;
+  }
+  return state.characterId;
+}
+
+ParaId Interpreter::ParagraphNumber() {
+  GroupState& state = State();
+  if (!state.paragraphKnown) {
+    ParaFormat format = state.paragraph.Resolved();
+    format.bullet = HasBullet();
+    const bool listed = state.paragraph.list >= 0 && !state.paragraph.bullet;
+    if (target_ == RtfTarget::Document && listed) {
+      format.list = static_cast<std::uint16_t>(std::min(state.paragraph.list, 0xFFFE) + 1);
+      format.level = static_cast<std::uint8_t>(std::clamp(state.paragraph.level, 0, 0xFF));
+    }
+    if (state.paragraph.tabs) format.tabs = TabsNumber(*state.paragraph.tabs);
+    state.paragraphId = formats_.paragraphs.Intern(format);
+    state.paragraphKnown = true;
+  }
+  return state.paragraphId;
+}
+
+/// Groups bring long lists back at no cost to the source, so their sum is bounded.
+TabsId Interpreter::TabsNumber(const TabStops& stops) {
+  if (stops.size() > tabsLeft_) return 0;
+  const std::uint32_t known = formats_.tabs.Size();
+  const TabsId number = formats_.tabs.Intern(stops);
+  if (formats_.tabs.Size() != known) tabsLeft_ -= stops.size();
+  return number;
+}
+
+bool Interpreter::HasBullet() const {
+  const ParagraphState& paragraph = State().paragraph;
+  return paragraph.bullet || lists_.IsBullet(paragraph.list, paragraph.level);
+}
+
+}  // namespace lumenote

@@ -1,0 +1,191 @@
+// What the words of RTF do to the note being read.
+#pragma once
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/text/Fragment.h"
+#include "rtf/kept/KeptWords.h"
+#include "rtf/read/BodyText.h"
+#include "rtf/read/ColourTable.h"
+#include "rtf/read/FontTable.h"
+#include "rtf/read/GroupState.h"
+#include "rtf/read/Keeper.h"
+#include "rtf/read/ListTable.h"
+#include "rtf/read/Reader.h"
+#include "rtf/source/Tokenizer.h"
+
+namespace lumenote {
+
+/// Reads one source. Groups are a stack of states, at most `kDeepest`; deeper ones are counted
+/// only, so that their formats leak outwards but memory stays bounded.
+class Interpreter {
+ public:
+  /// The source begins inside `opened` groups.
+  Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
+              const CharFormat& base, std::size_t opened);
+  Fragment Read();
+
+  // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it.
+
+  // Text.
+  void Character(int value, const Token& word);
+  void Unicode(int value, const Token& word);
+  void Break(int value, const Token& word);
+  void EndParagraph(int value, const Token& word);
+  void Cell(int value, const Token& word);
+  void Row(int value, const Token& word);
+
+  // Groups.
+  void EnterGroup(int value, const Token& word);
+  void SkipGroup(int value, const Token& word);
+  void KeepGroup(int value, const Token& word);
+  void KeepAside(int value, const Token& word);
+  void KeepTable(int value, const Token& word);
+  void Field(int value, const Token& word);
+  void FieldResult(int value, const Token& word);
+  void Generator(int value, const Token& word);
+  void KeepWord(int value, const Token& word);
+  void KeepStyle(int value, const Token& word);
+  void KeepAssociated(int value, const Token& word);
+  void SkipAlternative(int value, const Token& word);
+  void Marker(int value, const Token& word);
+  void Numbering(int value, const Token& word);
+  void Fonts(int value, const Token& word);
+  void Colours(int value, const Token& word);
+  void Styles(int value, const Token& word);
+  void Lists(int value, const Token& word);
+  void ListOverrides(int value, const Token& word);
+
+  // The document.
+  void DocumentPage(int value, const Token& word);
+  void DefaultFont(int value, const Token& word);
+  void DefaultLanguage(int value, const Token& word);
+  void Fallback(int value, const Token& word);
+
+  // Characters.
+  void Plain(int value, const Token& word);
+  void Font(int value, const Token& word);
+  void Size(int value, const Token& word);
+  void Effect(int value, const Token& word);
+  void Script(int value, const Token& word);
+  void UnderlineAs(int value, const Token& word);
+  void TextColour(int value, const Token& word);
+  void Highlight(int value, const Token& word);
+  void Raise(int value, const Token& word);
+  void Language(int value, const Token& word);
+  void Spacing(int value, const Token& word);
+  void Scale(int value, const Token& word);
+
+  // Paragraphs.
+  void DefaultParagraph(int value, const Token& word);
+  void Align(int value, const Token& word);
+  void Length(int value, const Token& word);
+  void MultipleLines(int value, const Token& word);
+  void Tab(int value, const Token& word);
+  void TabKindIs(int value, const Token& word);
+  void TabLeaderIs(int value, const Token& word);
+  void RightToLeft(int value, const Token& word);
+  void InTable(int value, const Token& word);
+  void TableNesting(int value, const Token& word);
+  void List(int value, const Token& word);
+  void ListLevel(int value, const Token& word);
+
+ private:
+  static constexpr std::size_t kDeepest = 10'000;
+
+  void Interpret();
+  void Take(const Token& token);
+  /// Whether a \u has one character behind it for other readers.
+  bool HasOneFallback() const { return State().fallback == 1; }
+  bool AtText() { return tokens_.AtText(HasOneFallback()); }
+  void TakeText();
+  bool TakeSome(std::size_t most, CharId format);
+  bool Ended() const;
+  void Open();
+  void Close();
+  void Word(const Token& word);
+  void Symbol(char symbol);
+  void Byte(unsigned char byte);
+  void Bytes(std::string_view bytes);
+  void EndBytes();
+  bool Swallowed();
+
+  void Put(char16_t unit);
+  void BeforeText();
+  void PlaceMarker();
+  bool IsNumbered() const;
+
+  void KeepUnknown(const Token& word);
+  void KeepInHead(const std::string& source);
+  std::string GroupSource(std::size_t from);
+  void PassTable();
+  void EnterField(KeptField field);
+  void EndField(const GroupState& group, const GroupState& around);
+  void BeginBody();
+  /// Takes note that text or a break is laid down.
+  void Lay() {
+    ++laid_;
+    begun_ = true;
+    borderOf_ = WordScope::None;
+  }
+  bool ReachBreak();
+  void BreakAs(Kept kept);
+  CharId CharacterWith(Kept kept);
+  CharId NextCharacter();
+  HeadId Head();
+  void UseDefaultFont(GroupState& state);
+  bool HasBullet() const;
+
+  GroupState& State() { return groups_.back(); }
+  const GroupState& State() const { return groups_.back(); }
+  /// Of the group around the present one, for groups that say something about what follows them.
+  GroupState& Outer() { return groups_.size() > 1 ? groups_[groups_.size() - 2] : groups_.back(); }
+  CharFormat& EditCharacter();
+  ParagraphState& EditParagraph();
+  CharId CharacterNumber();
+  ParaId ParagraphNumber();
+  TabsId TabsNumber(const TabStops& stops);
+
+  Tokenizer tokens_;
+  RtfTarget target_;
+  FormatTables& formats_;
+  BodyText body_;
+  std::vector<GroupState> groups_;
+  std::size_t outermost_ = 2;  // a "}" too many never leaves this many: the source, its own group
+  std::size_t uncounted_ = 0;  // groups opened beyond `kDeepest`
+
+  FontTable fonts_;
+  ColourTable colours_;
+  ListTable lists_;
+  CharFormat default_;    // what \plain gives, but for the size
+  int defaultFont_ = -1;  // \deff
+  int documentPage_ = kPageOfWindows;
+
+  std::size_t tabsLeft_;  // stops that paragraph formats may still have
+
+  Keeper keeper_;
+  std::string row_;       // the definition of the row at hand, if it came ahead of the cells
+  std::size_t laid_ = 0;  // pieces of text, breaks and tables so far
+  WordScope borderOf_ = WordScope::None;
+  bool inHead_ = true;  // nothing of the body has come yet
+  bool begun_ = false;  // text has come
+  KeptHead head_;
+
+  int swallow_ = 0;          // characters still to pass over behind a \u
+  bool opened_ = false;      // the last token was {
+  bool wasOpened_ = false;   // so was the token before the present one
+  bool starred_ = false;     // the last token was \*, just behind {
+  bool wasStarred_ = false;  // so was the token before the present one
+  std::string bytes_;        // of a multi-byte page, not yet decoded
+  std::u16string decoded_;
+  bool placingMarker_ = false;
+  bool numbering_ = false;   // the marker being placed is a list number
+  std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
+  std::string_view markerWord_;
+  Keeper::Place markerPlace_ = 0;  // in what is kept
+  int markerFallback_ = 1;         // \uc where it stands
+};
+
+}  // namespace lumenote

@@ -1,0 +1,25 @@
+// Which lists of an RTF source are bullets.
+#pragma once
+#include <cstdint>
+#include <unordered_map>
+
+#include "rtf/source/Tokenizer.h"
+
+namespace lumenote {
+
+class ListTable {
+ public:
+  /// Reads the \listtable group that the tokenizer stands in, up to its closing brace.
+  void ReadLists(Tokenizer& tokens);
+  /// The same for \listoverridetable, which gives lists the numbers that \ls names.
+  void ReadOverrides(Tokenizer& tokens);
+
+  /// Whether paragraphs of list \ls`number` have a bullet at `level` (\ilvl).
+  bool IsBullet(int number, int level) const;
+
+ private:
+  std::unordered_map<int, std::uint32_t> bullets_;  // by \listid: a bit for each bullet level
+  std::unordered_map<int, int> ids_;                // by \ls
+};
+
+}  // namespace lumenote

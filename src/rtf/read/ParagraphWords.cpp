@@ -1,0 +1,118 @@
+// Words that change the format of paragraphs.
+#include <algorithm>
+#include <cstdlib>
+
+#include "rtf/read/Interpreter.h"
+
+namespace lumenote {
+namespace {
+
+constexpr int kMostLength = 1'000'000;  // twips; far beyond any paper
+constexpr std::size_t kMostTabs = 64;
+constexpr int kUnitsOfTwentieth = 12;  // \sl counts 240 units a line, the format 20
+
+int Clipped(int length) { return std::clamp(length, -kMostLength, kMostLength); }
+
+void SetMultiple(int twentieths, ParaFormat& format) {
+  switch (twentieths) {
+    case 20:
+      return;
+    case 30:
+      format.lineRule = LineRule::OneAndHalf;
+      return;
+    case 40:
+      format.lineRule = LineRule::Double;
+      return;
+    default:
+      format.lineRule = LineRule::Multiple;
+      format.lineSpacing = std::max(twentieths, 1);
+  }
+}
+
+void SetLineSpacing(int spacing, bool multiple, ParaFormat& format) {
+  if (spacing == 0) return;
+  const int size = std::abs(spacing);
+  if (multiple) return SetMultiple((size + kUnitsOfTwentieth / 2) / kUnitsOfTwentieth, format);
+  format.lineRule = spacing > 0 ? LineRule::AtLeast : LineRule::Exact;
+  format.lineSpacing = size;
+}
+
+}  // namespace
+
+void ParagraphState::AddTab(int position) {
+  nextTab.position = position;
+  auto changed = std::make_shared<TabStops>(tabs ? *tabs : TabStops());
+  const auto at =
+      std::lower_bound(changed->begin(), changed->end(), position,
+                       [](const TabStop& tab, int limit) { return tab.position < limit; });
+  if (at != changed->end() && at->position == position) {
+    *at = nextTab;
+  } else if (changed->size() < kMostTabs) {
+    changed->insert(at, nextTab);
+  }
+  tabs = std::move(changed);
+  nextTab = {};
+}
+
+ParaFormat ParagraphState::Resolved() const {
+  ParaFormat format;
+  format.firstIndent = lengths[kLeft] + lengths[kFirst];
+  format.hangingIndent = -lengths[kFirst];
+  format.rightIndent = lengths[kRight];
+  format.spaceBefore = lengths[kBefore];
+  format.spaceAfter = lengths[kAfter];
+  SetLineSpacing(lengths[kLine], multipleLines, format);
+  format.alignment = alignment;
+  format.rightToLeft = rightToLeft;
+  format.words = words;
+  const int depth = std::max(nesting, inTable ? 1 : 0);
+  format.nesting = static_cast<std::uint8_t>(std::clamp(depth, 0, 255));
+  return format;
+}
+
+void Interpreter::DefaultParagraph(int, const Token&) {
+  BeginBody();
+  EditParagraph() = {};
+}
+
+void Interpreter::Align(int value, const Token&) {
+  EditParagraph().alignment = static_cast<Alignment>(value);
+}
+
+void Interpreter::Length(int value, const Token& word) {
+  EditParagraph().lengths[value] = Clipped(word.number);
+}
+
+void Interpreter::MultipleLines(int, const Token& word) {
+  EditParagraph().multipleLines = word.number != 0;
+}
+
+void Interpreter::Tab(int value, const Token& word) {
+  ParagraphState& paragraph = EditParagraph();
+  if (static_cast<TabKind>(value) == TabKind::Bar) paragraph.nextTab.kind = TabKind::Bar;
+  paragraph.AddTab(Clipped(word.number));
+}
+
+void Interpreter::TabKindIs(int value, const Token&) {
+  EditParagraph().nextTab.kind = static_cast<TabKind>(value);
+}
+
+void Interpreter::TabLeaderIs(int value, const Token&) {
+  EditParagraph().nextTab.leader = static_cast<std::uint8_t>(value);
+}
+
+void Interpreter::RightToLeft(int value, const Token&) { EditParagraph().rightToLeft = value != 0; }
+
+void Interpreter::InTable(int, const Token& word) {
+  EditParagraph().inTable = !word.hasNumber || word.number != 0;
+}
+
+void Interpreter::TableNesting(int, const Token& word) {
+  EditParagraph().nesting = word.number > 1 ? word.number : 0;
+}
+
+void Interpreter::List(int, const Token& word) { EditParagraph().list = word.number; }
+
+void Interpreter::ListLevel(int, const Token& word) { EditParagraph().level = word.number; }
+
+}  // namespace lumenote

@@ -1,0 +1,167 @@
+// The words of character and paragraph formats.
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+
+#include "rtf/kept/KeptWords.h"
+#include "rtf/write/WrittenFormats.h"
+
+namespace lumenote {
+namespace {
+
+struct EffectWords {
+  std::uint16_t effect;
+  std::string_view on, off;
+};
+constexpr EffectWords kEffects[] = {
+    {kBold, "b", "b0"},
+    {kItalic, "i", "i0"},
+    {kStrike, "strike", "strike0"},
+    {kDoubleStrike, "striked1", "striked0"},
+    {kAllCaps, "caps", "caps0"},
+    {kSmallCaps, "scaps", "scaps0"},
+    {kHidden, "v", "v0"},
+    {kOutline, "outl", "outl0"},
+    {kShadow, "shad", "shad0"},
+    {kEmboss, "embo", "embo0"},
+    {kEngrave, "impr", "impr0"},
+    {kDeleted, "deleted", "deleted0"},
+};
+
+// By Underline.
+constexpr std::string_view kUnderlines[] = {
+    "ulnone",  "ul",       "ulw",      "uldb",      "uld",        "uldash",
+    "uldashd", "uldashdd", "ulth",     "ulwave",    "ululdbwave", "ulhwave",
+    "ulldash", "ulthd",    "ulthdash", "ulthdashd", "ulthdashdd", "ulthldash"};
+
+std::string_view ScriptWord(int effects) {
+  if ((effects & kSuperscript) != 0) return "super";
+  return (effects & kSubscript) != 0 ? "sub" : "nosupersub";
+}
+
+void WriteEffects(int from, int to, Output& out) {
+  const int changed = from ^ to;
+  for (const EffectWords& words : kEffects) {
+    if ((changed & words.effect) != 0) out.Word((to & words.effect) != 0 ? words.on : words.off);
+  }
+  if ((changed & (kSuperscript | kSubscript)) != 0) out.Word(ScriptWord(to));
+}
+
+constexpr int kMostLength = 1'000'000;  // twips; the reader's limit
+constexpr int kUnitsOfTwentieth = 12;   // \sl counts 240 units a line, the format 20
+
+struct LineWords {
+  int spacing = 0;
+  bool multiple = false;
+};
+
+LineWords WordsOf(LineRule rule, int spacing) {
+  const int size = std::clamp(spacing, 0, kMostLength);
+  switch (rule) {
+    case LineRule::OneAndHalf:
+      return {360, true};
+    case LineRule::Double:
+      return {480, true};
+    case LineRule::AtLeast:
+      return {size, false};
+    case LineRule::Exact:
+      return {-size, false};
+    case LineRule::Multiple:
+      return {std::min(size, kMostLength / kUnitsOfTwentieth) * kUnitsOfTwentieth, true};
+    default:
+      return {};
+  }
+}
+
+class ParagraphWriter {
+ public:
+  /// With `whole`, what has its default is told too.
+  ParagraphWriter(std::string kept, bool whole) : words_(std::move(kept)), whole_(whole) {}
+
+  void Word(std::string_view name) { words_.append("\\").append(name); }
+  void Number(std::string_view name, std::int64_t number) {
+    Word(name);
+    words_ += std::to_string(std::clamp<std::int64_t>(number, -kMostLength, kMostLength));
+  }
+  void Length(std::string_view name, std::int64_t twips) {
+    if (twips != 0 || whole_) Number(name, twips);
+  }
+  void LineSpacing(LineWords line) {
+    const bool single = line.spacing == 0 || (line.multiple && line.spacing == 240);
+    if (single && whole_) return void(words_ += "\\sl240\\slmult1");
+    if (single) return;
+    Number("sl", line.spacing);
+    Number("slmult", line.multiple ? 1 : 0);
+  }
+  void Tab(const TabStop& tab);
+
+  std::string Take() { return std::move(words_); }
+
+ private:
+  std::string words_;
+  bool whole_;
+};
+
+void ParagraphWriter::Tab(const TabStop& tab) {
+  static constexpr std::string_view kLeaders[] = {"", "tldot", "tlhyph", "tlul", "tlth", "tleq"};
+  static constexpr std::string_view kKinds[] = {"", "tqr", "tqc", "tqdec", ""};
+  const std::string_view leader = kLeaders[tab.leader % std::size(kLeaders)];
+  const std::string_view kind = kKinds[static_cast<std::size_t>(tab.kind)];
+  if (!leader.empty()) Word(leader);
+  if (!kind.empty()) Word(kind);
+  Number(tab.kind == TabKind::Bar ? "tb" : "tx", tab.position);
+}
+
+}  // namespace
+
+void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
+                 Output& out) {
+  static constexpr WrittenFormat kNothing;
+  const std::string& kept = tables.words[to.words].source;
+  const std::string_view words = kept;
+  const std::size_t high = kept.empty() ? 0 : HighPart(kept);
+  const bool anew = told.words != to.words || high < words.size();
+  const WrittenFormat& from = anew && told.words != 0 ? kNothing : told;
+  if (anew) {
+    if (told.words != 0) out.Word("plain");
+    out.Words(words.substr(0, high));
+  }
+  if (from.effects != to.effects) WriteEffects(from.effects, to.effects, out);
+  if (from.underline != to.underline) out.Word(kUnderlines[static_cast<std::size_t>(to.underline)]);
+  if (from.halfPoints != to.halfPoints) {
+    out.Word(to.halfPoints < 0 ? "dn" : "up", std::abs(to.halfPoints));
+  }
+  if (from.spacing != to.spacing) out.Word("expndtw", to.spacing);
+  if (from.scale != to.scale) out.Word("charscalex", to.scale);
+  if (from.colour != to.colour) out.Word("cf", to.colour);
+  if (from.highlight != to.highlight) out.Word("highlight", to.highlight);
+  if (from.language != to.language) out.Word("lang", to.language);
+  if (high == words.size() && from.font != to.font) out.Word("f", to.font);
+  if (from.size != to.size) out.Word("fs", to.size);
+  if (high == words.size()) return;
+  out.Words(words.substr(high));
+  out.Word("f", to.font);
+}
+
+std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled) {
+  static constexpr std::string_view kAlignments[] = {"ql", "qr", "qc", "qj"};
+  const std::int64_t hanging = format.hangingIndent;
+  const std::string_view alignment = kAlignments[static_cast<std::size_t>(format.alignment)];
+  // Styles and lists have formats of their own for paragraphs that tell none.
+  const bool whole = styled || format.list != 0;
+  ParagraphWriter words(tables.words[format.words].source, whole);
+  if (format.rightToLeft != 0) words.Word("rtlpar");
+  if (format.list != 0) words.Number("ls", format.list - 1);
+  if (format.list != 0) words.Number("ilvl", format.level);
+  words.Length("fi", -hanging);
+  words.Length("li", format.firstIndent + hanging);
+  words.Length("ri", format.rightIndent);
+  words.Length("sb", format.spaceBefore);
+  words.Length("sa", format.spaceAfter);
+  words.LineSpacing(WordsOf(format.lineRule, format.lineSpacing));
+  for (const TabStop& tab : tables.tabs[format.tabs]) words.Tab(tab);
+  if (whole || format.alignment != Alignment::Left) words.Word(alignment);
+  return words.Take();
+}
+
+}  // namespace lumenote

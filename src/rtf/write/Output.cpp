@@ -1,0 +1,250 @@
+// Buffering and the lexical rules of RTF, seen from the writer.
+#include "rtf/write/Output.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+#include "rtf/source/PlainText.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::size_t kHexLength = 4;  // of \'xx
+
+using Escape = std::array<char, kHexLength>;
+
+constexpr std::array<Escape, 256> kEscapes = [] {
+  constexpr char kDigits[] = "0123456789abcdef";
+  std::array<Escape, 256> escapes{};
+  for (unsigned byte = 0; byte < escapes.size(); ++byte)
+    escapes[byte] = {'\\', '\'', kDigits[byte >> 4], kDigits[byte & 15]};
+  return escapes;
+}();
+
+char* PutHex(int byte, char* out) {
+  std::memcpy(out, kEscapes[static_cast<std::size_t>(byte)].data(), kHexLength);
+  return out + kHexLength;
+}
+
+/// How a byte of page 1252 is written: as itself or escaped. Those that have a symbol of their own
+/// or mean more than themselves have no form here.
+struct Form {
+  Escape text{};
+  std::uint8_t length = 0;  // 0 for no form
+};
+
+constexpr std::array<Form, 256> kForms = [] {
+  std::array<Form, 256> forms{};
+  for (unsigned byte = 0; byte < forms.size(); ++byte) {
+    if (IsPlain(static_cast<char16_t>(byte))) {
+      forms[byte] = {{static_cast<char>(byte)}, 1};
+    } else if (byte >= 0x80 && byte != 0xA0 && byte != 0xAD) {
+      forms[byte] = {kEscapes[byte], kHexLength};
+    }
+  }
+  return forms;
+}();
+
+/// The forms for all of page 1252, and for ASCII alone.
+struct WindowsForms {
+  static const Form& Of(char16_t unit) { return kForms[ByteOf1252(unit)]; }
+  static const Form& Of(char byte) { return kForms[static_cast<unsigned char>(byte)]; }
+};
+struct AsciiForms {
+  template <class Unit>
+  static const Form& Of(Unit c) {
+    const std::make_unsigned_t<Unit> number = c;
+    return kForms[number < 0x80 ? number : 0];
+  }
+};
+
+/// Writes the beginning of `text` that consists of characters that have a form; returns its length.
+/// Takes room for `kHexLength` bytes a unit, and writes to it beyond what counts.
+template <class Forms, class Unit>
+std::size_t PutForms(std::basic_string_view<Unit> text, char*& out) {
+  const Unit* at = text.data();
+  const Unit* const end = at + text.size();
+  char* to = out;  // no store in the loop
+  while (at != end) {
+    // One more than a step, since what comes behind it is looked at too.
+    if (end - at > kPlainStep) {
+      const int plain = CopyPlain(at, to);
+      at += plain;
+      to += plain;
+    }
+    // Plain or escaped, the one as often as the other: a table knows without guessing.
+    const Form& form = Forms::Of(*at);
+    std::memcpy(to, form.text.data(), kHexLength);
+    if (form.length == 0) break;
+    to += form.length;
+    ++at;
+  }
+  out = to;
+  return static_cast<std::size_t>(at - text.data());
+}
+
+/// The byte that a reader turns into `unit` again, or -1.
+int ByteFor(char16_t unit, Encoding encoding) {
+  if (unit == 0) return -1;
+  if (unit <= u' ') return unit;
+  if (encoding == Encoding::Windows) return ByteIn1252(unit);
+  if (encoding == Encoding::Symbols) return unit > 0xF020 && unit < 0xF100 ? unit - 0xF000 : -1;
+  return unit < 0x80 ? unit : -1;
+}
+
+/// The symbol of a character that has one, else nothing.
+std::string_view SymbolFor(char16_t unit) {
+  switch (unit) {
+    case u'\\':
+      return "\\\\";
+    case u'{':
+      return "\\{";
+    case u'}':
+      return "\\}";
+    case u'\u00A0':
+      return "\\~";
+    case u'\u00AD':
+      return "\\-";
+    case u'\u2011':
+      return "\\_";
+    default:
+      return {};
+  }
+}
+
+/// Whether a character is more than itself.
+bool StopsText(char16_t unit) {
+  return unit == u'\t' || unit == u'\v' || unit == u'\r' || unit == u'\uFFFC';
+}
+
+}  // namespace
+
+Output::Output(const ByteSink& sink) : sink_(sink), buffer_(kPiece + kShort) {}
+
+void Output::Append(std::string_view source) {
+  if (source.size() > kShort) return AppendLong(source);
+  std::copy_n(source.data(), source.size(), buffer_.data() + size_);
+  Grow(source.size());
+}
+
+void Output::AppendLong(std::string_view source) {
+  for (; source.size() > kShort; source.remove_prefix(kShort)) Append(source.substr(0, kShort));
+  Append(source);
+}
+
+void Output::Grow(std::size_t count) {
+  size_ += count;
+  if (size_ >= kPiece) Flush();
+}
+
+void Output::Flush() {
+  sink_({buffer_.data(), size_});
+  size_ = 0;
+}
+
+void Output::Word(std::string_view name) {
+  buffer_[size_] = '\\';
+  std::copy_n(name.data(), name.size(), buffer_.data() + size_ + 1);
+  Grow(name.size() + 1);
+  openWord_ = true;
+}
+
+void Output::Word(std::string_view name, int number) {
+  constexpr std::size_t kLongestNumber = 11;
+  Word(name);
+  char* const digits = buffer_.data() + size_;
+  Grow(static_cast<std::size_t>(std::to_chars(digits, digits + kLongestNumber, number).ptr -
+                                digits));
+}
+
+void Output::Words(std::string_view source) {
+  if (source.empty()) return;
+  Append(source);
+  openWord_ = source.back() != '}';
+}
+
+void Output::Raw(std::string_view source) {
+  Append(source);
+  openWord_ = false;
+}
+
+void Output::Hex(int byte) {
+  PutHex(byte, buffer_.data() + size_);
+  Grow(kHexLength);
+  openWord_ = false;
+}
+
+void Output::Unicode(char16_t unit) {
+  Word("u", static_cast<std::int16_t>(unit));
+  Raw("?");
+}
+
+template <class Forms, class Unit>
+std::size_t Output::WriteForms(std::basic_string_view<Unit> text) {
+  if (text.empty()) return 0;
+  if (openWord_ && IsPlain(TextView(text).Front())) Raw(" ");
+  std::size_t done = 0;
+  std::size_t count = 0;
+  std::size_t room = 0;
+  do {
+    room = (buffer_.size() - size_) / kHexLength;
+    char* out = buffer_.data() + size_;
+    count = PutForms<Forms>(text.substr(done, room), out);
+    Grow(static_cast<std::size_t>(out - buffer_.data()) - size_);
+    done += count;
+  } while (count == room);
+  if (done > 0) openWord_ = false;
+  return done;
+}
+
+std::size_t Output::Plain(TextView text) {
+  return text.Visit([this](auto own) { return WriteForms<AsciiForms>(own); });
+}
+
+std::size_t Output::Text(TextView text, Encoding encoding) {
+  return text.Visit([=, this](auto own) { return TextAs(own, encoding); });
+}
+
+template <class Unit>
+std::size_t Output::TextAs(std::basic_string_view<Unit> text, Encoding encoding) {
+  std::size_t done = 0;
+  while (done < text.size()) {
+    const auto rest = text.substr(done);
+    const std::size_t some = WriteEncoded(rest, encoding);
+    done += some;
+    if (some > 0) continue;
+    const char16_t unit = TextView(rest).Front();
+    if (StopsText(unit)) break;
+    Character(unit, encoding);
+    ++done;
+  }
+  return done;
+}
+
+template <class Unit>
+std::size_t Output::WriteEncoded(std::basic_string_view<Unit> text, Encoding encoding) {
+  switch (encoding) {
+    case Encoding::Windows:
+      return WriteForms<WindowsForms>(text);
+    case Encoding::Symbols:
+      return WriteForms<AsciiForms>(text.substr(0, text.front() == ' ' ? 1 : 0));
+    default:
+      return WriteForms<AsciiForms>(text);
+  }
+}
+
+void Output::Character(char16_t unit, Encoding encoding) {
+  if (const std::string_view symbol = SymbolFor(unit); !symbol.empty()) {
+    Raw(symbol);
+  } else if (const int byte = ByteFor(unit, encoding); byte >= 0) {
+    Hex(byte);
+  } else {
+    Unicode(unit);
+  }
+}
+
+}  // namespace lumenote

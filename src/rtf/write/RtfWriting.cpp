@@ -1,0 +1,100 @@
+// The parts of the source, and what they need to know of each other.
+#include "rtf/write/RtfWriting.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lumenote {
+namespace {
+
+void WriteHead(const WrittenFormats& formats, const KeptHead& head, bool whole, Output& out) {
+  out.Raw("{\\rtf1\\ansi");
+  out.Word("ansicpg", head.page);
+  out.Word("deff", head.defaultFont);
+  out.Words("\\deflang1036");
+  formats.WriteFontTable(out);
+  formats.WriteColourTable(out);
+  if (whole) out.Words(head.source);
+  if (head.tables) out.Raw("{\\*\\generator Lumenote;}");
+  out.Words("\\viewkind4\\uc1");
+}
+
+}  // namespace
+
+RtfWriting::RtfWriting(const Document& document, Selection range, std::optional<FinalMark> mark,
+                       const ByteSink& sink)
+    : document_(document),
+      range_(document.Outwards(range.start, range.end)),
+      mark_(mark),
+      at_(range_.start),
+      scan_(document, range_.start, mark_ ? &*mark_ : nullptr),
+      formats_(document.Formats(), document.Mark().head),
+      out_(sink) {}
+
+bool RtfWriting::Step(Position units) {
+  switch (stage_) {
+    case Stage::Look:
+      Look(Piece(units));
+      if (at_ == range_.end) Begin();
+      break;
+    case Stage::Rows:
+      if (!scan_.FindRows(static_cast<std::size_t>(units))) stage_ = Stage::Write;
+      break;
+    case Stage::Write:
+      Write(Piece(units));
+      if (at_ == range_.end) Finish();
+      break;
+    case Stage::Done:
+      break;
+  }
+  return stage_ != Stage::Done;
+}
+
+Selection RtfWriting::Piece(Position units) {
+  const Position from = at_;
+  at_ = units < range_.end - from ? document_.After(from + units) : range_.end;
+  return {from, at_};
+}
+
+void RtfWriting::Look(Selection piece) {
+  std::size_t known = scan_.found.formats.size();
+  scan_.Take(piece.start, piece.end);
+  const std::vector<ParaId>& paragraphs = scan_.found.formats;
+  for (; known < paragraphs.size(); ++known)
+    bullets_ = bullets_ || document_.Formats().paragraphs[paragraphs[known]].bullet != 0;
+  document_.ForEachRun(piece.start, piece.end,
+                       [this](Position, TextView, CharId format) { formats_.Use(format); });
+}
+
+/// Everything has been looked at.
+void RtfWriting::Begin() {
+  scan_.TakeEnd();
+  if (mark_) {
+    formats_.Use(mark_->character);
+    bullets_ = bullets_ || document_.Formats().paragraphs[mark_->paragraph].bullet != 0;
+  }
+  if (bullets_) formats_.UseBullets();
+  at_ = range_.start;
+  stage_ = Stage::Rows;
+}
+
+void RtfWriting::Write(Selection piece) {
+  const FormatTables& tables = document_.Formats();
+  if (!body_) {
+    WriteHead(formats_, tables.heads[document_.Mark().head], mark_.has_value(), out_);
+    body_.emplace(tables, formats_, std::move(scan_.found), mark_.has_value(), out_);
+  }
+  document_.ForEachRun(piece.start, piece.end, [this](Position, TextView text, CharId format) {
+    body_->Text(text, format);
+  });
+}
+
+void RtfWriting::Finish() {
+  body_->Finish(mark_ ? &*mark_ : nullptr);
+  if (mark_) out_.Words(document_.Formats().heads[mark_->head].tail);
+  out_.Raw("}\r\n");
+  out_.Flush();
+  stage_ = Stage::Done;
+}
+
+}  // namespace lumenote

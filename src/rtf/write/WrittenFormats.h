@@ -1,0 +1,86 @@
+// The formats of a text in the terms in which they are written.
+#pragma once
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "document/Document.h"
+#include "rtf/write/Output.h"
+
+namespace lumenote {
+
+/// A character format as the words of RTF can tell it: two formats that are written alike are
+/// equal here. The fields are the words' own numbers.
+struct WrittenFormat {
+  int font = -1;  // -1 and size 0: not yet told
+  int size = 0;
+  int colour = 0;     // in the colour table, 0 automatic
+  int highlight = 0;  // likewise
+  int halfPoints = 0;
+  int language = 0;
+  int spacing = 0;
+  int scale = 100;
+  std::uint16_t effects = 0;
+  Underline underline = Underline::None;
+  Encoding encoding = Encoding::Windows;  // that of the font
+  WordsId words = 0;
+  bool operator==(const WrittenFormat&) const = default;
+};
+
+/// Font table, colour table and character formats of a text. Fonts and colours have the numbers
+/// that they have in the head of the note's source; others follow, as they first occur.
+class WrittenFormats {
+ public:
+  /// The tables may grow while this lives; only formats that they hold now can be taken in.
+  WrittenFormats(const FormatTables& tables, HeadId head);
+
+  /// Takes in a format that the text uses.
+  void Use(CharId format) {
+    if (numbers_[format] == 0)
+      numbers_[format] = written_.Intern(Written(tables_.characters[format]));
+  }
+  /// Takes in the font of bullets.
+  void UseBullets();
+
+  /// A format that was taken in.
+  const WrittenFormat& operator[](CharId format) const { return written_[numbers_[format]]; }
+  int BulletFont() const { return bulletFont_; }
+  bool HasStyles() const { return Head().tables; }
+
+  void WriteFontTable(Output& out) const;
+  /// Nothing when no colour is used.
+  void WriteColourTable(Output& out) const;
+
+ private:
+  const KeptHead& Head() const { return tables_.heads[head_]; }
+  WrittenFormat Written(const CharFormat& format);
+  std::uint32_t FontIndex(const FontFace& face);
+  int ColourNumber(Colour colour);
+
+  const FormatTables& tables_;
+  InternTable<WrittenFormat> written_;  // number 0: nothing told
+  std::vector<std::uint32_t> numbers_;  // in it, by CharId
+  HeadId head_;
+  struct Font {
+    int number;
+    Encoding encoding;
+  };
+  InternTable<FontFace> faces_;
+  std::vector<Font> fonts_;  // of the faces, the kept ones first
+  std::uint32_t keptFonts_ = 0;
+  int nextFont_ = 0;
+  std::vector<Colour> colours_;
+  std::unordered_map<Colour, int> colourNumbers_;
+  int bulletFont_ = -1;
+};
+
+/// Writes the words that lead from one character format to another. Behind \hich readers take sizes
+/// and effects for those of right-to-left text, so they are told before it.
+void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
+                 Output& out);
+/// The words of a paragraph format behind \pard, its bullet and its table excepted. `styled` tells
+/// of a source that has styles.
+std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled);
+
+}  // namespace lumenote

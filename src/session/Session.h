@@ -1,0 +1,80 @@
+// The values that one control and its windows share.
+#pragma once
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "session/DirtyFlag.h"
+
+namespace lumenote {
+
+/// A file as it was when somebody looked: its modification time.
+struct WorkTrace {
+  std::u16string path;
+  std::int64_t time = 0;
+  bool operator==(const WorkTrace&) const = default;
+};
+using WorkTraces = std::vector<WorkTrace>;
+
+/// A work file that a program was started on.
+struct WorkSent {
+  std::u16string path;
+  std::int64_t time = 0;  // of its modification, as it went out
+  std::u16string folder;  // where the program leaves copies of its own; empty for none
+  WorkTraces old;         // what lay about before and is no result
+  std::int64_t process = 0;
+};
+
+/// A file's content as this editor has last read or written it.
+struct FileState {
+  std::u16string path;
+  std::size_t size = 0;
+  std::size_t hash = 0;
+  std::int64_t time = 0;  // of its modification; 0 where a change might not show in it
+};
+
+/// One set per control and opening. The host's values stay as written; the derived ones say how the
+/// open editor works.
+struct Session {
+  // Written by the host.
+  std::u16string applicationName;
+  std::u16string listCorrPath;
+  std::u16string note;  // the note itself or its path; what the host reads back
+  std::u16string windowTitle;
+  std::u16string frameTitle;
+  std::u16string colourText;
+  std::u16string settingsKey;
+  std::u16string access;
+  std::u16string templatePath;
+
+  // Derived.
+  std::int32_t colour = 0;  // 0xBBGGRR
+  bool fileMode = false;
+  std::u16string
+      documentPath;  // string mode: the temporary file, empty before the first activation
+  bool readOnly = false;
+  bool deleted = false;
+  bool closed = false;
+  /// What the editor holds no longer goes to `note`: the host wrote another one while the editor
+  /// was open, which waits for the next opening, or the control goes.
+  bool noteReplaced = false;
+
+  // Of the open editor, or of the last one.
+  bool loaded = false;    // the document came in; nothing is given back or saved before
+  std::u16string format;  // lower-cased last three characters of the document path
+  DirtyFlag dirty;
+  bool onTop = false;
+  bool menuBarShown = false;
+  std::uint64_t changes = 0;  // of the content since it came in
+  FileState onDisk;           // the file at the document path
+
+  /// A string note was edited and cannot be given back; it may be clean, since a conversion or a
+  /// reload clears the dirty flag.
+  bool CannotReturn() const { return !fileMode && noteReplaced && changes > 0; }
+
+  /// Work files that editors which have closed have left to programs.
+  std::vector<WorkSent> workLeft;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,22 @@
+// Several edits told as one change.
+#pragma once
+#include <algorithm>
+#include <optional>
+
+#include "surface/editing/SurfaceView.h"
+
+namespace lumenote {
+
+/// Adds an edit, whose positions count in the document that the change so far has left.
+inline void Widen(std::optional<DocumentChange>& change, const DocumentChange& edit) {
+  if (!change) {
+    change = edit;
+    return;
+  }
+  const Position start = std::min(change->at, edit.at);
+  const Position end = std::max(change->at + change->inserted, edit.at + edit.removed);
+  change = DocumentChange{start, end - start - change->inserted + change->removed,
+                          end - start - edit.removed + edit.inserted};
+}
+
+}  // namespace lumenote

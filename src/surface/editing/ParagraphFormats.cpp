@@ -1,0 +1,119 @@
+#include "surface/editing/ParagraphFormats.h"
+
+#include "base/RuntimeError.h"
+#include "rtf/kept/KeptWords.h"
+
+namespace lumenote {
+
+// Number of the last paragraph that the selection touches.
+Position ParagraphFormats::LastTouched() const {
+  const Selection selection = core_.Selected();
+  return core_.Content().ParagraphOf(core_.HasSelection() ? selection.end - 1 : selection.end);
+}
+
+template <class Get>
+auto ParagraphFormats::Common(Get get) const -> std::optional<decltype(get(ParaFormat{}))> {
+  std::optional<decltype(get(ParaFormat{}))> value;
+  bool mixed = false;
+  const Selection selection = core_.Selected();
+  core_.Content().ForEachParagraph(selection.start, selection.end, [&](ParaId id) {
+    const auto found = get(core_.ParagraphFormat(id));
+    mixed = mixed || (value && *value != found);
+    value = found;
+  });
+  if (mixed) return std::nullopt;
+  return value;
+}
+
+// Lets `set` make the new formats; equal ones stay as they are.
+template <class Set>
+void ParagraphFormats::Apply(UndoKind kind, Set set) {
+  core_.RequireQuiet();
+  const auto map = [&](ParaId id) {
+    ParaFormat format = core_.ParagraphFormat(id);
+    set(format);
+    return core_.Formats().paragraphs.Intern(format);
+  };
+  // A table row is one paragraph here, whose cells have their formats at their ends.
+  const auto mapCell = [&](CharId id) {
+    CharFormat format = core_.CharacterFormat(id);
+    Kept kept = core_.Formats().kept[format.kept];
+    if (kept.kind != Kept::Kind::Cell) return id;
+    kept.paragraph = map(kept.paragraph);
+    format.kept = core_.Formats().kept.Intern(kept);
+    return core_.Formats().characters.Intern(format);
+  };
+  const Document& document = core_.Content();
+  const Position start = core_.Selected().start;
+  const Position first = document.ParagraphOf(start);
+  const bool inTable = core_.ParagraphFormat(document.ParaFormatAt(start)).nesting > 0;
+  const Position from = inTable ? document.ParagraphStart(first) : document.ParagraphEnd(first);
+  const Position last = LastTouched();
+  const bool final = last + 1 == document.ParagraphCount();
+  const Position to = final ? document.Length() : document.ParagraphStart(last + 1);
+  const auto mapped = document.MapFormats(from, to, mapCell, map, final);
+  if (mapped) core_.Edit(kind, [&] { core_.Replace(from, to, *mapped); });
+}
+
+std::optional<bool> ParagraphFormats::Bullet() const {
+  return Common([](const ParaFormat& format) { return format.bullet != 0; });
+}
+
+void ParagraphFormats::Bullet(UndoKind kind, bool on) {
+  Apply(kind, [this, on](ParaFormat& format) {
+    if ((format.bullet != 0) == on) return;
+    format.bullet = on;
+    format.list = 0;
+    auto& words = core_.Formats().words;
+    format.words = words.Intern({WithoutNumbering(words[format.words].source)});
+  });
+}
+
+std::optional<int> ParagraphFormats::AlignmentCode() const {
+  return Common([](const ParaFormat& format) {
+    const bool justified = format.alignment == Alignment::Justify;
+    return static_cast<int>(justified ? Alignment::Left : format.alignment);
+  });
+}
+
+void ParagraphFormats::AlignmentCode(int code) {
+  if (code < static_cast<int>(Alignment::Left) || code > static_cast<int>(Alignment::Centre))
+    throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+  Apply(UndoKind::Unknown,
+        [=](ParaFormat& format) { format.alignment = static_cast<Alignment>(code); });
+}
+
+std::optional<int> ParagraphFormats::Indent(std::int32_t ParaFormat::*indent) const {
+  return Common([=](const ParaFormat& format) { return int{format.*indent}; });
+}
+
+void ParagraphFormats::Indent(std::int32_t ParaFormat::*indent, int twips) {
+  Apply(UndoKind::Unknown, [=](ParaFormat& format) { format.*indent = twips; });
+}
+
+ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
+  const ParaFormat& format =
+      core_.ParagraphFormat(core_.Content().ParaFormatAt(core_.Selected().start));
+  ParagraphRecord record;
+  record.mask = mask;
+  if (mask & ParagraphRecord::kLineSpacing) {
+    record.lineSpacingRule = static_cast<LineSpacingRule>(format.lineRule);
+    record.lineSpacing = format.lineSpacing;
+  }
+  if (mask & ParagraphRecord::kSpaceBefore) record.spaceBefore = format.spaceBefore;
+  if (mask & ParagraphRecord::kSpaceAfter) record.spaceAfter = format.spaceAfter;
+  return record;
+}
+
+void ParagraphFormats::Record(const ParagraphRecord& record) {
+  Apply(UndoKind::Unknown, [&](ParaFormat& format) {
+    if (record.mask & ParagraphRecord::kLineSpacing) {
+      format.lineRule = static_cast<LineRule>(record.lineSpacingRule);
+      format.lineSpacing = record.lineSpacing;
+    }
+    if (record.mask & ParagraphRecord::kSpaceBefore) format.spaceBefore = record.spaceBefore;
+    if (record.mask & ParagraphRecord::kSpaceAfter) format.spaceAfter = record.spaceAfter;
+  });
+}
+
+}  // namespace lumenote

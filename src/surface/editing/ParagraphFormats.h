@@ -1,0 +1,37 @@
+// The paragraph attributes of the selection.
+#pragma once
+#include <optional>
+
+#include "platform/RichTextSurface.h"
+#include "surface/editing/EditingCore.h"
+
+namespace lumenote {
+
+/// Reads attributes common to the paragraphs that the selection touches and writes them on those
+/// that differ. Values and errors: see `RichTextSurface`.
+class ParagraphFormats {
+ public:
+  explicit ParagraphFormats(EditingCore& core) : core_(core) {}
+
+  std::optional<bool> Bullet() const;
+  void Bullet(UndoKind kind, bool on);
+  std::optional<int> AlignmentCode() const;
+  void AlignmentCode(int code);
+  /// One of the indents, in twips.
+  std::optional<int> Indent(std::int32_t ParaFormat::*indent) const;
+  void Indent(std::int32_t ParaFormat::*indent, int twips);
+
+  ParagraphRecord Record(unsigned mask) const;
+  void Record(const ParagraphRecord& record);
+
+ private:
+  template <class Get>
+  auto Common(Get get) const -> std::optional<decltype(get(ParaFormat{}))>;
+  template <class Set>
+  void Apply(UndoKind kind, Set set);
+  Position LastTouched() const;
+
+  EditingCore& core_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,186 @@
+#include "surface/editing/Transfer.h"
+
+#include <utility>
+
+#include "base/RuntimeError.h"
+#include "base/Strings.h"
+#include "rtf/read/Reader.h"
+#include "rtf/write/Writer.h"
+#include "surface/editing/TextBytes.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr std::uint16_t kFrench = 1036;
+constexpr std::u16string_view kDefaultFont = u"Arial";
+
+CharFormat DefaultFormat(FormatTables& formats) {
+  FontFace face;
+  face.name = kDefaultFont;
+  CharFormat format;
+  format.font = formats.fonts.Intern(face);
+  format.language = kFrench;
+  return format;
+}
+
+/// Length of the group that begins with the first byte, braces included; 0 when it has no end.
+std::size_t GroupLength(std::string_view group) {
+  int depth = 0;
+  for (std::size_t i = 0; i < group.size(); ++i) {
+    if (group[i] == '\\')
+      ++i;
+    else if (group[i] == '{')
+      ++depth;
+    else if (group[i] == '}' && --depth == 0)
+      return i + 1;
+  }
+  return 0;
+}
+
+/// The font that plain text has in an RTF source: that of a letter put behind its font table.
+FontId DefaultFontOf(std::string_view rtf, FormatTables& formats, const CharFormat& base) {
+  const std::size_t table = rtf.find("{\\fonttbl");
+  if (table == std::string_view::npos) return base.font;
+  std::string probe(rtf.substr(0, table + GroupLength(rtf.substr(table))));
+  probe += "\\plain x}";
+  const Fragment letter = ReadRtf(probe, formats, RtfTarget::Selection, base);
+  FontId font = base.font;
+  letter.leaves.ForEachRun(0, letter.Length(), [&](Position, TextView, CharId id) {
+    font = formats.characters[id].font;
+  });
+  return font;
+}
+
+}  // namespace
+
+Transfer::Transfer(EditingCore& core, TextEditing& text, Clipboard& clipboard, Files& files)
+    : core_(core),
+      text_(text),
+      clipboard_(clipboard),
+      files_(files),
+      defaultFormat_(DefaultFormat(core.Formats())) {
+  Text({});
+}
+
+void Transfer::Text(std::u16string_view text) {
+  const CharId format = core_.Formats().characters.Intern(defaultFormat_);
+  const ParaId paragraph = core_.Formats().paragraphs.Intern({});
+  Fragment whole = PlainFragment(text, format, paragraph);
+  whole.mark = FinalMark{.character = format, .paragraph = paragraph};
+  std::u16string font(kDefaultFont);
+  core_.Load(whole);
+  baseFontName_ = std::move(font);
+}
+
+void Transfer::LoadRtf(std::string_view bytes) {
+  FormatTables& formats = core_.Formats();
+  const Fragment whole = ReadRtf(bytes, formats, RtfTarget::Document, defaultFormat_);
+  std::u16string font = formats.fonts[DefaultFontOf(bytes, formats, defaultFormat_)].name;
+  core_.Load(whole);
+  baseFontName_ = std::move(font);
+}
+
+std::u16string Transfer::Rtf() const { return UnitsOfBytes(WriteRtf(core_.Content())); }
+
+void Transfer::Rtf(std::u16string_view rtf) {
+  const std::string bytes = BytesOfUnits(rtf);
+  if (LooksLikeRtf(bytes))
+    LoadRtf(bytes);
+  else
+    Text(rtf);
+}
+
+std::u16string Transfer::SelectedRtf() const {
+  const Selection selection = core_.Selected();
+  return UnitsOfBytes(WriteRtf(core_.Content(), selection.start, selection.end));
+}
+
+void Transfer::SelectedRtf(std::u16string_view rtf) {
+  const std::string bytes = BytesOfUnits(rtf);
+  if (!LooksLikeRtf(bytes)) return text_.ReplaceSelection(UndoKind::Unknown, rtf);
+  const Fragment fragment = ReadRtf(bytes, core_.Formats(), RtfTarget::Selection, defaultFormat_);
+  if (fragment.Length() > 0)
+    text_.ReplaceSelection(UndoKind::Unknown, fragment);
+  else
+    text_.DeleteSelection(UndoKind::Unknown);
+}
+
+std::string Transfer::Load(std::u16string_view path, FileType type, std::optional<TextForm> form) {
+  core_.RequireQuiet();
+  std::string bytes = files_.ReadAll(path);
+  type == FileType::Text ? LoadText(bytes, form) : LoadSource(bytes);
+  return bytes;
+}
+
+void Transfer::LoadSource(std::string_view bytes) {
+  if (!LooksLikeRtf(bytes))
+    throw RuntimeError(ErrorNumber::InvalidArgument, u"Le fichier n'est pas au format RTF");
+  LoadRtf(bytes);
+  form_ = TextForm::Windows1252;
+  original_.clear();
+}
+
+// The file itself is kept only where it could not be told from its text: the breaks of the document
+// are all alike, and damaged bytes have no characters. Each lone CR or LF has made the text longer.
+void Transfer::LoadText(const std::string& bytes, std::optional<TextForm> form) {
+  form_ = form.value_or(FormOfText(bytes));
+  const std::u16string text = DecodeText(bytes, form_);
+  Text(text);
+  const bool same = static_cast<std::size_t>(core_.Content().Length()) == text.size() &&
+                    (form_ == TextForm::Windows1252 || EncodeTextFile(text, form_) == bytes);
+  original_ = same || form ? std::string() : bytes;
+}
+
+std::string Transfer::PlainBytes() const {
+  const Document& document = core_.Content();
+  const std::u16string text = document.Text(0, document.Length());
+  if (!original_.empty() && WithCrLf(DecodeText(original_, form_)) == text) return original_;
+  return EncodeTextFile(text, form_);
+}
+
+std::string Transfer::Bytes(FileType type) const {
+  return type == FileType::Rtf ? WriteRtf(core_.Content()) : PlainBytes();
+}
+
+std::string Transfer::Save(std::u16string_view path, FileType type) {
+  std::string bytes = Bytes(type);
+  files_.Write(path, bytes);
+  core_.CloseStep();
+  return bytes;
+}
+
+void Transfer::Copy() {
+  if (!core_.HasSelection()) return;
+  const Selection selection = core_.Selected();
+  const Document& document = core_.Content();
+  clipboard_.Set({document.Text(selection.start, selection.end),
+                  WriteRtf(document, selection.start, selection.end)});
+}
+
+void Transfer::Cut() {
+  core_.RequireQuiet();
+  Copy();
+  text_.DeleteSelection(UndoKind::Cut);
+}
+
+void Transfer::Paste() {
+  const Fragment fragment = FragmentOf(clipboard_.Get());
+  if (fragment.Length() > 0) text_.ReplaceSelection(UndoKind::Paste, fragment);
+}
+
+void Transfer::Drop(const ClipboardContent& content, Position target) {
+  core_.Select(target, target);
+  text_.Drop(FragmentOf(content), core_.Caret());
+}
+
+// RTF before text; plain text looks like what would be typed.
+Fragment Transfer::FragmentOf(const ClipboardContent& content) {
+  Fragment fragment;
+  if (content.rtf && LooksLikeRtf(*content.rtf))
+    fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, defaultFormat_);
+  if (fragment.Length() == 0 && content.text) fragment = text_.Plain(*content.text);
+  return fragment;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,59 @@
+// Content that comes and goes as a whole or through the clipboard: texts, RTF, files.
+#pragma once
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Clipboard.h"
+#include "platform/Files.h"
+#include "platform/RichTextSurface.h"
+#include "surface/editing/EditingCore.h"
+#include "surface/editing/TextEditing.h"
+
+namespace lumenote {
+
+/// Turns foreign content into fragments and back. Behaviour and errors: see `RichTextSurface`.
+class Transfer {
+ public:
+  /// All four outlive this object. The document takes the default format.
+  Transfer(EditingCore& core, TextEditing& text, Clipboard& clipboard, Files& files);
+
+  void Text(std::u16string_view text);
+  std::u16string Rtf() const;
+  void Rtf(std::u16string_view rtf);
+  std::u16string SelectedRtf() const;
+  void SelectedRtf(std::u16string_view rtf);
+
+  std::string Load(std::u16string_view path, FileType type, std::optional<TextForm> form);
+  std::string Save(std::u16string_view path, FileType type);
+  /// What `Save` writes.
+  std::string Bytes(FileType type) const;
+
+  bool CanPaste() const { return clipboard_.HasContent(); }
+  void Copy();
+  void Cut();
+  void Paste();
+  void Drop(const ClipboardContent& content, Position target);
+
+  /// The font that the content names as its default.
+  std::u16string BaseFontName() const { return baseFontName_; }
+
+ private:
+  void LoadRtf(std::string_view bytes);
+  void LoadSource(std::string_view bytes);
+  void LoadText(const std::string& bytes, std::optional<TextForm> form);
+  std::string PlainBytes() const;
+  Fragment FragmentOf(const ClipboardContent& content);
+
+  EditingCore& core_;
+  TextEditing& text_;
+  Clipboard& clipboard_;
+  Files& files_;
+  CharFormat defaultFormat_;
+  std::u16string baseFontName_;
+  TextForm form_ = TextForm::Windows1252;  // of the file loaded last
+  /// That file, where writing its text anew would give other bytes; else empty.
+  std::string original_;
+};
+
+}  // namespace lumenote

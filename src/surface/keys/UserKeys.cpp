@@ -1,0 +1,120 @@
+#include "surface/keys/UserKeys.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "base/Characters.h"
+#include "surface/keys/Words.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr KeyStroke Plain(KeyName name) { return {.name = name}; }
+constexpr KeyStroke Shift(KeyName name) { return {.name = name, .shift = true}; }
+constexpr KeyStroke Ctrl(KeyName name) { return {.name = name, .control = true}; }
+constexpr KeyStroke Ctrl(char16_t letter) { return {.character = letter, .control = true}; }
+constexpr KeyStroke CtrlShift(char16_t letter) {
+  return {.character = letter, .shift = true, .control = true};
+}
+
+bool IsPlainCharacter(const KeyStroke& key) {
+  return key.name == KeyName::Character && !key.control && !key.alt;
+}
+
+}  // namespace
+
+const UserKeys::Command UserKeys::kCommands[] = {
+    {Plain(KeyName::BackSpace), &UserKeys::BackSpace},
+    {Shift(KeyName::BackSpace), &UserKeys::BackSpace},
+    {Ctrl(KeyName::BackSpace), &UserKeys::BackSpaceWord},
+    {Plain(KeyName::Delete), &UserKeys::DeleteNext},
+    {Ctrl(KeyName::Delete), &UserKeys::DeleteNextWord},
+    {Plain(KeyName::Return), &UserKeys::Break},
+    {Shift(KeyName::Return), &UserKeys::BreakLine},
+    {Plain(KeyName::Tab), &UserKeys::Tab},
+    {Plain(KeyName::Space), &UserKeys::Blank},
+    {Shift(KeyName::Space), &UserKeys::Blank},
+    {Ctrl(u'a'), &UserKeys::SelectAll},
+    {Ctrl(u'c'), &UserKeys::Copy},
+    {Ctrl(KeyName::Insert), &UserKeys::Copy},
+    {Ctrl(u'x'), &UserKeys::Cut},
+    {Shift(KeyName::Delete), &UserKeys::Cut},
+    {Ctrl(u'v'), &UserKeys::Paste},
+    {Shift(KeyName::Insert), &UserKeys::Paste},
+    {Ctrl(u'z'), &UserKeys::Undo},
+    {Ctrl(u'y'), &UserKeys::Redo},
+    {CtrlShift(u'z'), &UserKeys::Redo},
+    {Ctrl(u'b'), &UserKeys::ToggleBold},
+    {Ctrl(u'i'), &UserKeys::ToggleItalic},
+    {Ctrl(u'u'), &UserKeys::ToggleUnderline},
+};
+
+UserKeys::UserKeys(EditingCore& core, CaretMotion& motion, TextEditing& text,
+                   CharacterFormats& characters, ParagraphFormats& paragraphs, Transfer& transfer)
+    : core_(core),
+      motion_(motion),
+      text_(text),
+      characters_(characters),
+      paragraphs_(paragraphs),
+      transfer_(transfer) {}
+
+bool UserKeys::Press(const KeyStroke& key) {
+  if (key.alt) return false;
+  if (const std::optional<Position> target = motion_.Target(key)) {
+    core_.Select(key.shift ? core_.Anchor() : *target, *target);
+    return true;
+  }
+  if (IsPlainCharacter(key)) {
+    const char16_t character = key.shift ? ToUpper(key.character) : key.character;
+    text_.Type({&character, 1});
+    return true;
+  }
+  const auto* command = std::ranges::find(kCommands, key, &Command::key);
+  if (command == std::end(kCommands)) return false;
+  (this->*command->action)();
+  return true;
+}
+
+// At the start of a paragraph with a bullet the key takes the bullet off first.
+void UserKeys::BackSpace() {
+  const Document& document = core_.Content();
+  const Position caret = core_.Caret();
+  const bool first = document.ParagraphStart(document.ParagraphOf(caret)) == caret;
+  if (first && !core_.HasSelection() && paragraphs_.Bullet() == true)
+    return paragraphs_.Bullet(UndoKind::Delete, false);
+  Erase(document.Before(std::max(caret - 1, 0)));
+}
+
+void UserKeys::BackSpaceWord() { Erase(PreviousWord(core_.Content(), core_.Caret())); }
+
+void UserKeys::DeleteNext() {
+  const Document& document = core_.Content();
+  Erase(document.After(std::min(core_.Caret() + 1, document.Length())));
+}
+
+void UserKeys::DeleteNextWord() { Erase(NextWord(core_.Content(), core_.Caret())); }
+
+// Deletes the selection, else what lies between the caret and `to`.
+void UserKeys::Erase(Position to) {
+  if (core_.HasSelection()) return text_.DeleteSelection(UndoKind::Delete);
+  text_.Delete(UndoKind::Delete, std::min(core_.Caret(), to), std::max(core_.Caret(), to));
+}
+
+void UserKeys::Break() { text_.Type(u"\r\n"); }
+
+void UserKeys::BreakLine() { text_.Type(u"\v"); }
+
+void UserKeys::Tab() { text_.Type(u"\t"); }
+
+void UserKeys::Blank() { text_.Type(u" "); }
+
+void UserKeys::SelectAll() { core_.Select(0, core_.Content().Length()); }
+
+void UserKeys::ToggleBold() { characters_.Effect(kBold, characters_.Effect(kBold) != true); }
+
+void UserKeys::ToggleItalic() { characters_.Effect(kItalic, characters_.Effect(kItalic) != true); }
+
+void UserKeys::ToggleUnderline() { characters_.Underlined(characters_.Underlined() != true); }
+
+}  // namespace lumenote

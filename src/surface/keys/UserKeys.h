@@ -1,0 +1,56 @@
+// What the keys do that change the document or act on the clipboard and the history.
+#pragma once
+#include "surface/editing/CharacterFormats.h"
+#include "surface/editing/ParagraphFormats.h"
+#include "surface/editing/TextEditing.h"
+#include "surface/editing/Transfer.h"
+#include "surface/keys/CaretMotion.h"
+#include "surface/keys/KeyStroke.h"
+
+namespace lumenote {
+
+/// The keyboard of a surface: caret keys, and a table of all the others.
+class UserKeys {
+ public:
+  UserKeys(EditingCore& core, CaretMotion& motion, TextEditing& text, CharacterFormats& characters,
+           ParagraphFormats& paragraphs, Transfer& transfer);
+
+  /// Whether the key does something here; one that finds nothing to do has still been used.
+  bool Press(const KeyStroke& key);
+
+ private:
+  using Action = void (UserKeys::*)();
+  struct Command {
+    KeyStroke key;
+    Action action = nullptr;
+  };
+  static const Command kCommands[];
+
+  void BackSpace();
+  void BackSpaceWord();
+  void DeleteNext();
+  void DeleteNextWord();
+  void Erase(Position to);
+  void Break();
+  void BreakLine();
+  void Tab();
+  void Blank();
+  void SelectAll();
+  void Copy() { transfer_.Copy(); }
+  void Cut() { transfer_.Cut(); }
+  void Paste() { transfer_.Paste(); }
+  void Undo() { core_.Undo(); }
+  void Redo() { core_.Redo(); }
+  void ToggleBold();
+  void ToggleItalic();
+  void ToggleUnderline();
+
+  EditingCore& core_;
+  CaretMotion& motion_;
+  TextEditing& text_;
+  CharacterFormats& characters_;
+  ParagraphFormats& paragraphs_;
+  Transfer& transfer_;
+};
+
+}  // namespace lumenote
