@@ -2,48 +2,61 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
-#include "editor/Host.h"
 #include "editor/Secours.h"
+#include "hosts/Host.h"
 
 namespace lumenote {
 namespace {
 
+const std::u16string kQjot = u"C:\\Program Files\\qjot\\qjot.exe";
 const std::u16string kQuestion = u"Voulez-vous enregistrer les modifs en cours";
 
-class RescueTest : public HostTest {};
+class RescueTest : public HostTest {
+ protected:
+  /// Whether a file of the user's holds that text; temporary ones do not count.
+  bool OnDisk(const std::string& text) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {
+      if (!entry.is_regular_file() || entry.path().string().find("/Temp/") != std::string::npos)
+        continue;
+      std::ifstream file(entry.path());
+      const std::string bytes(std::istreambuf_iterator<char>(file), {});
+      if (bytes.find(text) != bytes.npos) return true;
+    }
+    return false;
+  }
+};
 
 TEST_F(RescueTest, WithoutAnyPlaceTheWindowStays) {
   const struct {
-    bool fileMode, readOnly;
-  } cases[] = {{true, false}, {false, false}, {false, true}};
+    std::u16string note, next, attribute, copy;
+  } cases[] = {{u"C:\\n\\a.txt", u"C:\\n\\a.txt", u"", u"Secours_a.txt"},
+               {u"avant", u"autre", u"", u"Secours_TmpFlStr.txt"},
+               {u"avant", u"autre", u"readonly", u"Secours_TmpFlStr.txt"}};
   LeaveNoPlace();
+  sandbox.MakeParents(u"C:\\n\\a.txt");
+  disk.Write(u"C:\\n\\a.txt", "avant");
   for (const auto& c : cases) {
-    control.pAttribut(c.readOnly ? u"readonly" : u"");
-    if (c.fileMode)
-      OpenFile(u"C:\\n\\a.txt", "avant");
-    else
-      Open(u"avant");
+    control->pAttribut(c.attribute);
+    Open(c.note);
     Type(u"pas ");
     Fail("write", u"\\a.txt");
-    const std::u16string next = c.fileMode ? u"C:\\n\\a.txt" : u"autre";
-    if (!c.fileMode) control.pStrOrchm(next);
-    EXPECT_EQ(control.pStrOrchm(), next);
+    if (c.next != c.note) control->pStrOrchm(c.next);
+    EXPECT_EQ(control->pStrOrchm(), c.next);
     ASSERT_TRUE(IsOpen());
     EXPECT_FALSE(Values().closed);
     EXPECT_EQ(Shown(), u"pas avant");
     EXPECT_TRUE(Values().dirty);
-    Editor().Pop.mnuPopQuitter.UserClick();
+    Choose(&ContextMenu::mnuPopQuitter);
     ASSERT_TRUE(IsOpen());
     EXPECT_EQ(Boxes().size(), 2U);  // asked, or told of the read-only state, each time anew
     sandbox.MakeParents(u"C:\\Documents\\x");
-    Editor().Pop.mnuPopQuitter.UserClick();
+    Choose(&ContextMenu::mnuPopQuitter);
     EXPECT_FALSE(IsOpen());
-    const std::u16string copy = c.fileMode ? u"Secours_a.txt" : u"Secours_TmpFlStr.txt";
     EXPECT_EQ(Boxes().back(),
-              u"Enregistrement impossible\r\nCopie de secours :\r\nC:\\Documents\\" + copy);
-    EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\" + copy), "pas avant");
+              u"Enregistrement impossible\r\nCopie de secours :\r\nC:\\Documents\\" + c.copy);
+    EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\" + c.copy), "pas avant");
     sandbox.Remove(u"C:\\Documents");
-    platform.files.before = [](std::string_view, std::u16string_view) {};
+    Mend();
   }
 }
 
@@ -55,11 +68,11 @@ TEST_F(RescueTest, AWaitingHostGoesOnWaiting) {
   int attempts = 0;
   Timer& clock = Editor().Timer1;
   clock.Tick = [&] {
-    if (++attempts == 2) platform.files.before = [](std::string_view, std::u16string_view) {};
-    Editor().Pop.mnuPopQuitter.UserClick();
+    if (++attempts == 2) Mend();
+    Choose(&ContextMenu::mnuPopQuitter);
   };
   clock.Enabled(true);
-  control.ShowMicroEdit(1);
+  control->ShowMicroEdit(1);
   EXPECT_EQ(attempts, 2);
   EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "pas avant");
 }
@@ -92,11 +105,11 @@ TEST_F(RescueTest, AChangedFileThatCannotBeKeptIsNotReplaced) {
   OpenFile(u"C:\\n\\a.txt", "avant");
   Type(u"pas ");
   disk.Write(u"C:\\n\\a.txt", "leur");
-  Editor().Pop.mnuPopEnregistrer.UserClick();
+  Choose(&ContextMenu::mnuPopEnregistrer);
   EXPECT_EQ(Editor().Status(2), u"Enregistrement impossible");
   EXPECT_TRUE(Values().dirty);
   EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "leur");
-  Editor().Pop.mnuPopTextRichText.UserClick();
+  Choose(&ContextMenu::mnuPopTextRichText);
   EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "leur");
   EXPECT_EQ(Shown().substr(0, 9), u"pas avant");
 }
@@ -123,11 +136,11 @@ TEST_F(RescueTest, AFileIsReadAgainBeforeASaveOnlyWhenItMayHaveChanged) {
     Open(path);
     c.meanwhile();
     Type(u"x");
-    Editor().Pop.mnuPopEnregistrer.UserClick();
+    Choose(&ContextMenu::mnuPopEnregistrer);
     EXPECT_EQ(readings, c.readings);
     EXPECT_EQ(Boxes().size(), c.changed);
     EXPECT_EQ(disk.ReadAll(path), "xmien");
-    control.pStrOrchm();
+    control->pStrOrchm();
   }
 }
 
@@ -140,7 +153,7 @@ TEST_F(RescueTest, AnEmptyNoteNeverTakesThePlaceOfAnothersFile) {
     Open(path);
     EXPECT_EQ(disk.ReadAll(path), "{\\rtf1 leur}");
     EXPECT_NE(Shown().find(u"leur"), Shown().npos);
-    control.pStrOrchm();
+    control->pStrOrchm();
   }
 }
 
@@ -148,114 +161,67 @@ TEST_F(RescueTest, OnlyTheFileThatWasNamedIsDeleted) {
   const struct {
     std::function<void()> meanwhile;  // while the question stands
     bool deleted;
-  } cases[] = {{[&] { control.pStrOrchm(u"C:\\n\\b.txt"); }, true},
-               {[&] { control.pStrOrchm(); }, false},
-               {[&] { Editor().Pop.mnuPopTextRichText.UserClick(); }, false},
+  } cases[] = {{[&] { control->pStrOrchm(u"C:\\n\\b.txt"); }, true},
+               {[&] { control->pStrOrchm(); }, false},
+               {[&] { Choose(&ContextMenu::mnuPopTextRichText); }, false},
                {[&] { Fail("delete", u"a.txt"); }, false}};
   for (const auto& c : cases) {
-    OpenFile(u"C:\\n\\b.txt", "autre");
+    sandbox.MakeParents(u"C:\\n\\b.txt");
+    disk.Write(u"C:\\n\\b.txt", "autre");
     OpenFile(u"C:\\n\\a.txt", "un");
-    control.pStrOrchm();
-    Open(u"C:\\n\\a.txt");
-    bool asked = false;
-    backend.answer = [&](const MessageBox& box) {
-      if (box.title == u"Attention" && !std::exchange(asked, true)) c.meanwhile();
-      return DefaultAnswer(box);
-    };
-    Editor().Pop.mnuPopSupprDoc.UserClick();
-    EXPECT_TRUE(asked);
+    OnEvent(c.meanwhile);
+    Choose(&ContextMenu::mnuPopSupprDoc);
+    EXPECT_TRUE(backend.events.empty());
     EXPECT_EQ(disk.ReadAll(u"C:\\n\\b.txt"), "autre");
     EXPECT_EQ(disk.Exists(u"C:\\n\\a.txt") || disk.Exists(u"C:\\n\\a.rtf"), !c.deleted);
-    backend.answer = DefaultAnswer;
-    platform.files.before = [](std::string_view, std::u16string_view) {};
-    control.pStrOrchm();
-    sandbox.Remove(u"C:\\n");
+    Mend();
+    control->pStrOrchm();
+    Clear();
   }
 }
 
-TEST_F(RescueTest, AReloadThatFailsLeavesTheNoteDirty) {
-  sandbox.MakeParents(u"C:\\Program Files\\qjot\\qjot.exe");
-  sandbox.Programs().Put(u"C:\\Program Files\\qjot\\qjot.exe");
-  OpenFile(u"C:\\n\\a.txt", "avant");
-  Editor().Pop.mnuPopQjot.UserClick();
-  backend.Tick(30);
-  disk.Write(u"C:\\Program Files\\qjot\\SavNotes.txt", "retour");
-  sandbox.Programs().Finish();
-  while (Editor().Timer1.Enabled() && !disk.ReadAll(u"C:\\n\\a.txt").starts_with("retour"))
-    backend.Tick(1);
-  Fail("read", u"\\a.txt");
-  backend.Tick(2);
-  EXPECT_EQ(Boxes(), Texts{u"Impossible de Charger le fichier\r\nC:\\n\\a.txt"});
-  EXPECT_TRUE(Values().dirty);
-  EXPECT_EQ(Shown(), u"avant");
-  platform.files.before = [](std::string_view, std::u16string_view) {};
-  control.pStrOrchm();
-  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
-  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "retour");
-}
-
 TEST_F(RescueTest, AControlThatGoesKeepsItsNote) {
-  auto second = std::make_unique<CoBxRtf>(platform);
   OpenFile(u"C:\\n\\a.txt", "avant");
-  second->pCouleurFen(u"0");
-  second->pStrOrchm(u"C:\\n\\a.txt");
-  second->ShowMicroEdit();
-  second->Parts().editor.Get().Document().SelText(u"deux ");
-  Type(u"un ");
-  Editor().Pop.mnuPopEnregistrer.UserClick();
-  second.reset();
-  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "deux avant");
+  for (const std::u16string note : {u"C:\\n\\a.txt", u"note"}) {
+    const auto second = MakeControl();
+    Open(*second, note);
+    EditorOf(*second).Document().SelText(u"deux ");
+    Type(u"un ");
+    Choose(&ContextMenu::mnuPopEnregistrer);
+  }
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "un un avant");
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "un avant");
-
-  second = std::make_unique<CoBxRtf>(platform);
-  second->pCouleurFen(u"0");
-  second->pStrOrchm(u"note");
-  second->ShowMicroEdit();
-  second->Parts().editor.Get().Document().SelText(u"ma ");
-  second.reset();
-  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_TmpFlStr.txt"), "ma note");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_2_a.txt"), "deux avant");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_TmpFlStr.txt"), "deux note");
 }
 
 /// Two forms come too late, one of which cannot be read at first; the host closes in the box.
 TEST_F(RescueTest, WhatComesTooLateOutlivesACloseInTheBox) {
-  const std::u16string kProgram = u"C:\\Program Files\\qjot\\qjot.exe";
   const std::u16string kCopy = u"C:\\Documents\\Secours_Sava.";
-  sandbox.MakeParents(kProgram);
-  sandbox.Programs().Put(kProgram);
+  Install(kQjot);
   for (const bool controlGoes : {false, true}) {
-    auto host = std::make_unique<CoBxRtf>(platform);
-    const auto open = [&] {
-      host->pCouleurFen(u"0");
-      host->pStrOrchm(u"C:\\n\\a.txt");
-      host->ShowMicroEdit();
-    };
-    sandbox.MakeParents(u"C:\\n\\a.txt");
-    open();
-    host->Parts().editor.Get().Pop.mnuPopQjot.UserClick();
+    OpenFile(u"C:\\n\\a.txt", "");
+    Choose(&ContextMenu::mnuPopQjot);
     backend.Tick(30);
-    host->pStrOrchm();
+    control->pStrOrchm();
     disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 un}");
     disk.Write(u"C:\\Temp\\Sava.txt", "deux");
     sandbox.Programs().Finish();
     if (!controlGoes) {
       Fail("read", u"Sava.txt");
-      backend.answer = [&](const MessageBox& box) {
-        host->pStrOrchm();
-        return DefaultAnswer(box);
-      };
-      open();
+      OnEvent([&] { control->pStrOrchm(); });
+      Open(u"C:\\n\\a.txt");
       EXPECT_EQ(Boxes().size(), 1U);
       EXPECT_FALSE(disk.Exists(kCopy + u"txt"));
-      backend.answer = DefaultAnswer;
-      platform.files.before = [](std::string_view, std::u16string_view) {};
-      open();
+      Mend();
+      Open(u"C:\\n\\a.txt");
     }
-    host.reset();
+    control = MakeControl();
     EXPECT_EQ(Boxes().size(), 1U);
     EXPECT_EQ(disk.ReadAll(kCopy + u"rtf"), "{\\rtf1 un}");
     EXPECT_EQ(disk.ReadAll(kCopy + u"txt"), "deux");
     EXPECT_FALSE(disk.Exists(u"C:\\Documents\\Secours_2_Sava.rtf"));
-    for (const char16_t* form : {u"rtf", u"txt"}) sandbox.Remove(kCopy + form);
+    Clear();
   }
 }
 
@@ -269,7 +235,7 @@ TEST_F(RescueTest, AConversionDeletesInItsTurn) {
     ASSERT_TRUE(other.IsOpen());
     EXPECT_NE(flock(other.Number(), LOCK_EX | LOCK_NB), 0);
   };
-  Editor().Pop.mnuPopTextRichText.UserClick();
+  Choose(&ContextMenu::mnuPopTextRichText);
   EXPECT_TRUE(deleted);
 }
 
@@ -280,22 +246,17 @@ TEST_F(RescueTest, AnErrorInTheClosingDecisionKeepsTheWindow) {
     if (box.text == kQuestion) throw RuntimeError(ErrorNumber::PathAccess);
     return DefaultAnswer(box);
   };
-  EXPECT_EQ(control.pStrOrchm(), u"avant");
+  EXPECT_EQ(control->pStrOrchm(), u"avant");
   ASSERT_TRUE(IsOpen());
   backend.answer = DefaultAnswer;
-  EXPECT_EQ(control.pStrOrchm(), u"pas avant");
+  EXPECT_EQ(control->pStrOrchm(), u"pas avant");
 }
 
 TEST_F(RescueTest, AControlThatGoesTakesItsWindowAlong) {
-  auto control = std::make_unique<CoBxRtf>(platform);
   LeaveNoPlace();
-  sandbox.MakeParents(u"C:\\n\\a.txt");
-  control->pCouleurFen(u"0");
-  control->pStrOrchm(u"C:\\n\\a.txt");
-  control->ShowMicroEdit();
-  Co_Rtf& editor = control->Parts().editor.Get();
-  editor.Bar.mnuEdtTrouver.UserClick();
-  editor.Document().SelText(u"perdu");
+  OpenFile(u"C:\\n\\a.txt", "");
+  Editor().Bar.mnuEdtTrouver.UserClick();
+  Type(u"perdu");
   Fail("write", u"\\a.txt");
   control.reset();
   EXPECT_EQ(Boxes(), Texts{kQuestion});
@@ -305,24 +266,22 @@ TEST_F(RescueTest, AControlThatGoesTakesItsWindowAlong) {
 /// Whatever the host does while a box stands, what was typed is in its hands, on the disk or still
 /// in the window.
 TEST_F(RescueTest, NoActOfTheHostInABoxLosesText) {
-  const std::u16string kProgram = u"C:\\Program Files\\qjot\\qjot.exe";
-  sandbox.MakeParents(kProgram);
-  sandbox.Programs().Put(kProgram);
+  Install(kQjot);
   const std::function<void()> hosts[] = {
       [] {},
-      [&] { control.pStrOrchm(u"autre"); },
-      [&] { control.pStrOrchm(u"C:\\n\\b.txt"); },
-      [&] { control.pStrOrchm(); },
+      [&] { control->pStrOrchm(u"autre"); },
+      [&] { control->pStrOrchm(u"C:\\n\\b.txt"); },
+      [&] { control->pStrOrchm(); },
       [&] { backend.Tick(40); },
   };
   const std::function<void()> users[] = {
       [&] { Editor().Unload(); },
-      [&] { Editor().Pop.mnuPopQuitter.UserClick(); },
-      [&] { disk.Write(u"C:\\n\\a.txt", "leur"), Editor().Pop.mnuPopEnregistrer.UserClick(); },
-      [&] { disk.Write(u"C:\\n\\a.txt", "leur"), Editor().Pop.mnuPopTextRichText.UserClick(); },
+      [&] { Choose(&ContextMenu::mnuPopQuitter); },
+      [&] { disk.Write(u"C:\\n\\a.txt", "leur"), Choose(&ContextMenu::mnuPopEnregistrer); },
+      [&] { disk.Write(u"C:\\n\\a.txt", "leur"), Choose(&ContextMenu::mnuPopTextRichText); },
       [&] { Fail("write", u"\\a."), Editor().Unload(); },
       [&] {
-        disk.Write(u"C:\\n\\a.txt", "leur"), Editor().Pop.mnuPopQjot.UserClick(), backend.Tick(40);
+        disk.Write(u"C:\\n\\a.txt", "leur"), Choose(&ContextMenu::mnuPopQjot), backend.Tick(40);
       },
   };
   for (const bool fileMode : {true, false})
@@ -333,23 +292,16 @@ TEST_F(RescueTest, NoActOfTheHostInABoxLosesText) {
         else
           Open(u"avant");
         Type(u"SAISI ");
-        bool acted = false;
-        backend.answer = [&](const MessageBox& box) {
-          if (!std::exchange(acted, true)) hosts[host]();
-          return DefaultAnswer(box);
-        };
+        OnEvent(hosts[host]);
         users[user]();
-        backend.answer = DefaultAnswer;
-        platform.files.before = [](std::string_view, std::u16string_view) {};
+        backend.events.clear();
+        Mend();
         sandbox.Programs().Finish();
-        const std::u16string note = control.pStrOrchm();
+        const std::u16string note = control->pStrOrchm();
         EXPECT_TRUE(note.find(u"SAISI") != note.npos || OnDisk("SAISI"))
             << fileMode << " user " << user << " host " << host;
-        control.pStrOrchm(u"");
-        for (const char16_t* used : {u"C:\\n", u"C:\\Temp", u"C:\\Documents"}) {
-          IgnoringErrors([&] { sandbox.Remove(used); });
-          sandbox.MakeParents(std::u16string(used) + u"\\x");
-        }
+        control->pStrOrchm(u"");
+        Clear();
       }
 }
 

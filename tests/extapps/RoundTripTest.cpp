@@ -1,20 +1,9 @@
-// The exchange with an external editor, tick by tick, on a machine of stand-in programs.
-#include <fstream>
-#include <gtest/gtest.h>
+// The exchange of the editor with an external program, tick by tick, among stand-in programs.
 #include <optional>
 
-#include "backends/headless/HeadlessBackend.h"
-#include "base/ErrorOf.h"
-#include "control/CoBxRtf.h"
-#include "control/Component.h"
-#include "editor/DocumentStorage.h"
 #include "editor/Secours.h"
-#include "extapps/OcrLaunch.h"
-#include "extapps/RoundTrip.h"
-#include "pilot/machine/PilotBackend.h"
-#include "pilot/machine/PilotPlatform.h"
-#include "pilot/machine/ReportedFonts.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "hosts/Host.h"
+#include "platform/Paths.h"
 
 namespace lumenote {
 namespace {
@@ -22,7 +11,9 @@ namespace {
 const std::u16string kQjotPath = u"C:\\Program Files\\qjot\\qjot.exe";
 const std::u16string kAtlantisPath = u"C:\\Program Files\\Atlantis Nova\\Atlantis.exe";
 const std::u16string kWordPath = u"C:\\Program Files\\Microsoft\\Office11\\WinWord.exe";
-using Texts = std::vector<std::u16string>;
+constexpr auto kQjot = &ContextMenu::mnuPopQjot;
+constexpr auto kAtlantis = &ContextMenu::mnuPopAtlantis;
+constexpr auto kWord = &ContextMenu::mnuPopMSWord;
 
 /// A program that goes on whatever it is asked.
 struct Stubborn : Processes {
@@ -37,393 +28,299 @@ struct Stubborn : Processes {
   int started = 0;
 };
 
-class RoundTripTest : public testing::Test, public RoundTripDesk {
+class RoundTripTest : public HostTest {
  protected:
-  void Watch(bool on) override { watching = on; }
-  void Reload() override {
-    ++reloads;
-    LoadFilAndIni(Editor());
-  }
-  bool WriteNote() override {
-    Texts kept;
-    const bool written = EcrireDocument(Editor(), kept);
-    AnnoncerSecours(Editor(), Cause::FichierModifie, kept);
-    return written;
-  }
-  bool KeepNote() override { return GarderNote(Editor(), Cause::FichierModifie); }
-  void GoOnUnsaved() override { ContinuerSansRecharger(Editor()); }
-  std::optional<std::u16string> CopyFile(std::u16string_view path) override {
-    return CopierFichier(platform, path);
-  }
-  void TellOf(Cause cause, const Texts& copies) override {
-    AnnoncerSecours(Editor(), cause, copies);
-  }
-
   void SetUp() override {
-    for (const std::u16string& path : {kQjotPath, kAtlantisPath, kWordPath}) {
-      sandbox.MakeParents(path);
-      sandbox.Programs().Put(path);
-    }
+    for (const std::u16string& path : {kQjotPath, kAtlantisPath, kWordPath}) Install(path);
   }
-  /// Opens a note as a file of that path.
-  void Open(std::u16string_view path, std::string_view note = "avant") {
-    sandbox.MakeParents(path);
-    disk.Write(path, note);
-    control.pCouleurFen(u"0");
-    control.pStrOrchm(path);
-    control.ShowMicroEdit();
-    programs = ChercherApplis({disk, sandbox.SpecialFolders(), u"C:\\Temp\\",
-                               sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
-    exchange.emplace(Editor(), *this, programs, sandbox.Programs());
+  Value Member(std::string_view name) {
+    MemberTable members;
+    Editor().Describe(members);
+    return members.Find(name)->get(-1);
   }
-  Co_Rtf& Editor() { return control.Parts().editor.Get(); }
-  Session& Values() { return *control.Parts().session; }
-  /// As long as the timer runs, at most `count` times.
-  void Tick(int count) {
-    for (int i = 0; i < count && watching; ++i) exchange->TimerWpd_Timer();
-  }
+  bool Watching() { return Editor().TimerWpd.Enabled(); }
   /// What the user does in the program, then its end and the way back.
   void FinishAfter(const std::function<void()>& work = [] {}) {
-    Tick(40);
-    EXPECT_EQ(exchange->EtatWpd(), 26);
+    backend.Tick(40);
+    EXPECT_EQ(Member("EtatWpd"), Value(26));
     work();
     sandbox.Programs().Finish();
-    Tick(5);
-    EXPECT_FALSE(watching);
+    backend.Tick(5);
+    EXPECT_FALSE(Watching());
   }
-  Texts BoxTexts() {
-    Texts texts;
-    for (const ShownBox& shown : backend.TakeBoxes()) texts.push_back(shown.box.text);
-    return texts;
+  static std::u16string Told(std::u16string_view cause, std::u16string_view copy) {
+    return std::u16string(cause) + u"\r\nCopie de secours :\r\nC:\\Documents\\Secours_" +
+           std::u16string(copy);
   }
-
-  TemporaryFolder folder;
-  PosixSandbox sandbox{folder.Path()};
-  Files& disk = sandbox.FileSystem();
-  HeadlessBackend inner;
-  PilotBackend backend{inner};
-  ReportedFonts fonts;
-  PilotPlatform platform{sandbox, backend, fonts};
-  CoBxRtf control{platform};
-  ProgramTable programs;
-  std::optional<RoundTrip> exchange;  // of the window that is open
-  bool watching = false;
-  int reloads = 0;
 };
 
-TEST_F(RoundTripTest, WhatTheProgramSavedComesBack) {
+TEST_F(RoundTripTest, WhatTheProgramSavedWholeReplacesTheNote) {
+  const std::u16string temp = u"C:\\Temp\\", qjot = u"C:\\Program Files\\qjot\\",
+                       documents = u"C:\\Documents\\";
   const struct {
-    void (RoundTrip::*begin)();
-    std::u16string saved;
-    std::u16string path;
+    Menu ContextMenu::*entry;
+    std::u16string note, saved;
+    std::string_view bytes;
+    std::u16string after;  // the note's name when it has come back, "kept" for a rescue copy
   } cases[] = {
-      {&RoundTrip::mnuPopQjot_Click, u"C:\\Temp\\Sava.txt", u"C:\\n\\a.txt"},
-      {&RoundTrip::mnuPopMSWord_Click, u"C:\\Temp\\Sava.sav", u"C:\\n\\a.txt"},
-      {&RoundTrip::mnuPopMSWord_Click, u"C:\\Documents\\SavNotes.txt", {}},
-      {&RoundTrip::mnuPopQjot_Click, u"C:\\Program Files\\qjot\\SavNotes.txt", u"C:\\n\\a.txt"},
-      {&RoundTrip::mnuPopAtlantis_Click, u"C:\\Documents\\SavNotes.txt", u"C:\\n\\a.txt"},
+      {kQjot, u"a.txt", temp + u"Sava.txt", "retour", u"a.txt"},
+      {kWord, u"a.txt", temp + u"Sava.sav", "retour", u"a.txt"},
+      {kWord, u"a.txt", documents + u"SavNotes.txt", "retour", u""},
+      {kQjot, u"N.TXT", qjot + u"SavNotes.TXT", "retour", u"N.TXT"},
+      {kAtlantis, u"a.txt", documents + u"SavNotes.txt", "retour", u"a.txt"},
+      {kAtlantis, u"o.rtf", documents + u"SavNotes.Rtf", "{\\rtf1 retour}", u"o.rtf"},
+      {kWord, u"NOTE.RTF", temp + u"SavNOTE.RTF", "{\\rtf1 retour}", u"NOTE.RTF"},
+      {kWord, u"NOTE.RTF", temp + u"SavNOTE.rtf", "{\\rtf1 retour}", u"NOTE.RTF"},
+      {kWord, u"N.TXT", temp + u"SavN.SAV", "retour", u"N.TXT"},
+      {kWord, u"N.TXT", temp + u"SavN.Rtf", "{\\rtf1 retour}", u"N.Rtf"},
+      {kWord, u"L.txt", temp + u"SavL.rtf", "{\\rtf1 retour}", u"kept"},
+      {kWord, u"a.rtf", temp + u"Sava.rtf", "", u"kept"},
+      {kWord, u"A.RTF", temp + u"SavA.RTF", "{\\rtf1 apr", u"kept"},
+      {kWord, u"a.rtf", temp + u"Sava.rtf", "{\\rtf1 {\\b apr}", u"kept"},
+      {kWord, u"a.rtf", temp + u"Sava.sav", "texte}", u"kept"},
+      {kWord, u"a.txt", temp + u"Sava.rtf", "{\\rtf1 a{\\b b}", u"kept"},
+      {kWord, u"a.txt", temp + u"Sava.txt", "", u"kept"},
   };
   for (const auto& c : cases) {
-    Open(u"C:\\n\\a.txt");
-    (*exchange.*c.begin)();
+    SCOPED_TRACE(testing::PrintToString(c.saved) + std::string(c.bytes));
+    const bool kept = c.after == u"kept";
+    const bool returns = !kept && !c.after.empty();
+    const bool text = c.note.ends_with(u"txt") || c.note.ends_with(u"TXT");
+    OpenFile(u"C:\\n\\" + c.note, text ? "avant" : "{\\rtf1 avant}");
+    disk.Write(u"C:\\n\\N.Rtf", "{\\rtf1 autre}");
+    disk.Write(u"C:\\n\\L.rtf", "{\\rtf1 autre}");
+    sandbox.ReadOnly(u"C:\\n\\L.rtf", true);
+    Choose(c.entry);
     FinishAfter([&] {
-      disk.Write(c.saved, "retour");
+      disk.Write(c.saved, c.bytes);
       sandbox.Age(c.saved, 10);
     });
-    EXPECT_EQ(Editor().Document().Text(), c.path.empty() ? u"avant" : u"retour");
-    EXPECT_EQ(Values().documentPath, u"C:\\n\\a.txt");
+    EXPECT_EQ(Shown().substr(0, 6), returns ? u"retour" : u"avant");
+    EXPECT_EQ(Values().documentPath, u"C:\\n\\" + (returns ? c.after : c.note));
+    EXPECT_EQ(disk.ReadAll(u"C:\\n\\L.rtf"), "{\\rtf1 autre}");
+    const std::u16string name = FileName(c.saved);
+    EXPECT_EQ(Boxes(), kept ? Texts{Told(u"Erreur fichier temporaire", name)} : Texts());
+    if (kept) {
+      EXPECT_EQ(disk.ReadAll(c.saved), c.bytes);
+      EXPECT_EQ(disk.ReadAll(documents + u"Secours_" + name), c.bytes);
+    }
     Editor().Unload();
+    Clear();
   }
-}
-
-TEST_F(RoundTripTest, NamesAreComparedWithoutTheCaseOfTheirExtension) {
-  const struct {
-    void (RoundTrip::*begin)();
-    std::u16string note, saved, path;
-  } cases[] = {
-      {&RoundTrip::mnuPopMSWord_Click, u"NOTE.RTF", u"C:\\Temp\\SavNOTE.RTF", u"NOTE.RTF"},
-      {&RoundTrip::mnuPopMSWord_Click, u"NOTE.RTF", u"C:\\Temp\\SavNOTE.rtf", u"NOTE.RTF"},
-      {&RoundTrip::mnuPopMSWord_Click, u"N.TXT", u"C:\\Temp\\SavN.SAV", u"N.TXT"},
-      {&RoundTrip::mnuPopMSWord_Click, u"N.TXT", u"C:\\Temp\\SavN.Rtf", u"N.Rtf"},
-      {&RoundTrip::mnuPopQjot_Click, u"N.TXT", u"C:\\Program Files\\qjot\\SavNotes.TXT", u"N.TXT"},
-      {&RoundTrip::mnuPopAtlantis_Click, u"o.rtf", u"C:\\Documents\\SavNotes.Rtf", u"o.rtf"},
-  };
-  for (const auto& c : cases) {
-    const bool plain = c.note.ends_with(u"TXT");
-    Open(u"C:\\n\\" + c.note, plain ? "avant" : "{\\rtf1 avant}");
-    if (c.path == u"N.Rtf") disk.Write(u"C:\\n\\N.Rtf", "{\\rtf1 ancien}");
-    (*exchange.*c.begin)();
-    FinishAfter([&] {
-      disk.Write(c.saved, plain && c.path == c.note ? "retour" : "{\\rtf1 retour}");
-      sandbox.Age(c.saved, 10);
-    });
-    EXPECT_EQ(Editor().Document().Text().substr(0, 6), u"retour");
-    EXPECT_EQ(Values().documentPath, u"C:\\n\\" + c.path);
-    Editor().Unload();
-    sandbox.Remove(u"C:\\n");
-  }
-  EXPECT_EQ(BoxTexts(), Texts());
 }
 
 TEST_F(RoundTripTest, WhatLayThereBeforeIsNoResult) {
   disk.Write(u"C:\\Documents\\SavNotes.rtf", "{\\rtf1 ancien}");
   sandbox.ReadOnly(u"C:\\Documents\\SavNotes.rtf", true);  // the purge leaves it
   disk.Write(u"C:\\Temp\\Sava.sav", "ancien");
-  for (const auto begin : {&RoundTrip::mnuPopAtlantis_Click, &RoundTrip::mnuPopMSWord_Click}) {
-    Open(u"C:\\n\\a.txt");
-    (*exchange.*begin)();
+  for (const auto entry : {kAtlantis, kWord}) {
+    OpenFile(u"C:\\n\\a.txt", "avant");
+    Choose(entry);
     FinishAfter();
-    EXPECT_EQ(Editor().Document().Text(), u"avant");
+    EXPECT_EQ(Shown(), u"avant");
     EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
     Editor().Unload();
   }
 }
 
 TEST_F(RoundTripTest, ThePurgeSparesTheNoteItself) {
-  Open(u"C:\\Documents\\SavNotes.txt");
-  sandbox.ReadOnly(u"C:\\Documents\\SavNotes.txt", true);
-  exchange->mnuPopAtlantis_Click();
-  Tick(2);
-  EXPECT_TRUE(disk.Exists(u"C:\\Documents\\SavNotes.txt"));
-  sandbox.ReadOnly(u"C:\\Documents\\SavNotes.txt", false);
-  exchange->mnuPopAtlantis_Click();
-  Tick(2);
-  EXPECT_TRUE(disk.Exists(u"C:\\Documents\\SavNotes.txt"));
+  OpenFile(u"C:\\Documents\\SavNotes.txt", "avant");
+  for (const bool readOnly : {true, false}) {
+    sandbox.ReadOnly(u"C:\\Documents\\SavNotes.txt", readOnly);
+    Choose(kAtlantis);
+    backend.Tick(2);
+    EXPECT_TRUE(disk.Exists(u"C:\\Documents\\SavNotes.txt"));
+  }
 }
 
 TEST_F(RoundTripTest, WhatWasTypedMeanwhileIsKeptBeforeTheReload) {
-  const std::u16string kTold =
-      u"Fichier modifié par un autre programme\r\nCopie de secours "
-      u":\r\nC:\\Documents\\Secours_a.txt";
   const struct {
     bool saved;     // by the user, before the program ends
     bool returned;  // something came back
     bool kept;
-  } cases[] = {{false, false, true}, {false, true, true}, {true, true, true}, {true, false, false}};
+    std::u16string shown;
+  } cases[] = {{false, false, true, u"d'avant"},
+               {false, true, true, u"retour"},
+               {true, true, true, u"retour"},
+               {true, false, false, u"d'abord avant"}};
   for (const auto& c : cases) {
-    Open(u"C:\\n\\a.txt");
-    Editor().Document().SelText(u"d'");
-    exchange->mnuPopMSWord_Click();
+    OpenFile(u"C:\\n\\a.txt", "avant");
+    Type(u"d'");
+    Choose(kWord);
     FinishAfter([&] {
-      Editor().Document().SelText(u"abord ");
-      if (c.saved) EnregistrerNote(Editor());
+      Type(u"abord ");
+      if (c.saved) Choose(&ContextMenu::mnuPopEnregistrer);
       if (c.returned) disk.Write(u"C:\\Temp\\Sava.sav", "retour");
     });
-    EXPECT_EQ(Editor().Document().Text(), c.returned ? u"retour"
-                                          : c.saved  ? u"d'abord avant"
-                                                     : u"d'avant");
-    EXPECT_EQ(BoxTexts(), c.kept ? Texts{kTold} : Texts());
+    EXPECT_EQ(Shown(), c.shown);
+    EXPECT_EQ(Boxes(),
+              c.kept ? Texts{Told(u"Fichier modifié par un autre programme", u"a.txt")} : Texts());
     EXPECT_EQ(disk.Exists(u"C:\\Documents\\Secours_a.txt"), c.kept);
     if (c.kept) {
       EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "d'abord avant");
-      sandbox.Remove(u"C:\\Documents\\Secours_a.txt");
     }
     Editor().Unload();
+    Clear();
   }
 }
 
-TEST_F(RoundTripTest, AResultForANoteThatIsEditedAnewIsKept) {
-  Open(u"C:\\n\\a.txt");
-  exchange->mnuPopMSWord_Click();
-  Tick(20);
+TEST_F(RoundTripTest, WhatDidNotComeBackIsKeptBeforeThePurge) {
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Choose(kWord);
+  backend.Tick(20);
   disk.Write(u"C:\\Temp\\Sava.txt", "enregistré avant la fin");
-  exchange->mnuPopMSWord_Click();
-  Tick(20);
+  Choose(kWord);
+  backend.Tick(40);
   EXPECT_EQ(sandbox.Programs().TakeStarted().size(), 2U);
   EXPECT_EQ(sandbox.Programs().TakeKilled(), Texts{kWordPath});
-  EXPECT_EQ(BoxTexts(), Texts{u"Fichier modifié par un autre programme\r\nCopie de secours :\r\n"
-                              u"C:\\Documents\\Secours_Sava.txt"});
+  EXPECT_EQ(Boxes(), Texts{Told(u"Fichier modifié par un autre programme", u"Sava.txt")});
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.txt"), "enregistré avant la fin");
   EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.txt"), "avant");
-}
 
-TEST_F(RoundTripTest, FormsThatDidNotComeBackAreKeptBeforeThePurge) {
-  Open(u"C:\\n\\a.txt");
-  exchange->mnuPopMSWord_Click();
-  FinishAfter([&] {
+  FinishAfter([&] {  // of several forms one comes back
     disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 retour}");
     disk.Write(u"C:\\Temp\\Sava.txt", "en clair");
     disk.Write(u"C:\\Temp\\Sava.sav", "autrement");
   });
-  EXPECT_EQ(Editor().Document().Text(), u"retour");
-  EXPECT_EQ(BoxTexts(), Texts());
-  exchange->mnuPopMSWord_Click();
-  Tick(2);
-  EXPECT_EQ(BoxTexts().size(), 1U);
-  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.txt"), "en clair");
+  EXPECT_EQ(Shown(), u"retour");
+  EXPECT_EQ(Boxes(), Texts());
+  Choose(kWord);
+  backend.Tick(2);
+  EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_2_Sava.txt"), "en clair");
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.sav"), "autrement");
 }
 
 TEST_F(RoundTripTest, ARefusedCommandLeavesTheExchangeAlone) {
-  Open(u"C:\\n\\a.txt");
-  exchange->mnuPopQjot_Click();
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Choose(kQjot);
   disk.Delete(kWordPath, true);
-  exchange->mnuPopMSWord_Click();
-  EXPECT_EQ(exchange->TypeEditeur(), 3);
+  Choose(kWord);
+  EXPECT_EQ(Member("TypeEditeur"), Value(3));
+  Values().readOnly = true;
+  Choose(kAtlantis);
+  EXPECT_EQ(Boxes(), (Texts{u"MS WinWord Introuvable",
+                            u"Fichier en 'lecture seule'\r\nAbandon de l'appel Atlantis"}));
+  Values().readOnly = false;
   FinishAfter([&] { disk.Write(u"C:\\Program Files\\qjot\\SavNotes.txt", "retour"); });
-  EXPECT_EQ(Editor().Document().Text(), u"retour");
+  EXPECT_EQ(Shown(), u"retour");
+}
+
+TEST_F(RoundTripTest, AProgramMayGoBetweenTheLookAndTheStart) {
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  int looks = 0;
+  platform.files.before = [&](std::string_view operation, std::u16string_view path) {
+    if (operation == "look" && path == kWordPath && ++looks == 2) disk.Delete(kWordPath, true);
+  };
+  Choose(kWord);
+  EXPECT_EQ(Boxes(), Texts{u"MS Word introuvable\r\nEdition impossible"});
+  Choose(kQjot);
+  disk.Write(kQjotPath, "no program");
+  backend.Tick(20);
+  EXPECT_EQ(Boxes().front().substr(0, 22), u"Erreur d'exécution 75\r");
+  EXPECT_TRUE(Watching());
+  backend.Tick(10);
+  EXPECT_FALSE(Watching());
 }
 
 TEST_F(RoundTripTest, AProgramThatGoesOnIsWaitedForThenReported) {
   Stubborn stubborn;
-  Open(u"C:\\n\\a.txt");
-  exchange.emplace(Editor(), *this, programs, stubborn);
-  exchange->mnuPopQjot_Click();
+  platform.programs = &stubborn;
+  control = MakeControl();
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Choose(kQjot);
   for (int tick = 1; tick <= 250; ++tick) {
-    Tick(1);
-    EXPECT_EQ(exchange->EtatWpd(), tick == 1 ? 1 : 2);
+    backend.Tick(1);
+    EXPECT_EQ(Member("EtatWpd"), Value(tick == 1 ? 1 : 2));
   }
-  EXPECT_EQ(BoxTexts(), Texts());
-  EXPECT_EQ(exchange->FichierTravail(), u"");
-  Tick(1);
-  EXPECT_EQ(exchange->EtatWpd(), 2);
-  Tick(1);
-  EXPECT_EQ(exchange->EtatWpd(), 3);
-  Tick(290);
-  EXPECT_EQ(BoxTexts(), Texts{u"Destruction Windows Erreur : Error #110 too late"});
+  EXPECT_EQ(Boxes(), Texts());
+  EXPECT_EQ(Member("FichierTravail"), Value(u""));
+  backend.Tick(1);
+  EXPECT_EQ(Member("EtatWpd"), Value(2));
+  backend.Tick(1);
+  EXPECT_EQ(Member("EtatWpd"), Value(3));
+  backend.Tick(290);
+  EXPECT_EQ(Boxes(), Texts{u"Destruction Windows Erreur : Error #110 too late"});
   EXPECT_EQ(stubborn.started, 1);
-  EXPECT_EQ(exchange->EtatWpd(), 26);
-}
-
-TEST_F(RoundTripTest, AResultThatWasCutOffIsKeptBesideTheNote) {
-  const struct {
-    std::u16string note, saved;
-    std::string_view cut;
-  } cases[] = {{u"a.rtf", u"Sava.rtf", ""},
-               {u"A.RTF", u"SavA.RTF", "{\\rtf1 apr"},
-               {u"a.rtf", u"Sava.rtf", "{\\rtf1 {\\b apr}"},
-               {u"a.rtf", u"Sava.sav", "texte}"},
-               {u"a.txt", u"Sava.rtf", "{\\rtf1 a{\\b b}"},
-               {u"a.txt", u"Sava.txt", ""}};
-  for (const auto& c : cases) {
-    const bool plain = c.note.ends_with(u"txt");
-    Open(u"C:\\n\\" + c.note, plain ? "avant" : "{\\rtf1 avant}");
-    exchange->mnuPopMSWord_Click();
-    FinishAfter([&] {
-      disk.Write(u"C:\\Temp\\" + c.saved, c.cut);
-      sandbox.Age(u"C:\\Temp\\" + c.saved, 10);
-    });
-    const std::u16string copy = u"C:\\Documents\\Secours_" + c.saved;
-    EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire\r\nCopie de secours :\r\n" + copy});
-    EXPECT_EQ(Editor().Document().Text(), u"avant");
-    EXPECT_EQ(Values().documentPath, u"C:\\n\\" + c.note);
-    for (const std::u16string& place : {u"C:\\Temp\\" + c.saved, copy})
-      EXPECT_EQ(disk.ReadAll(place), c.cut);
-    Editor().Unload();
-    for (const std::u16string& place : {u"C:\\Temp\\" + c.saved, copy}) sandbox.Remove(place);
-  }
+  EXPECT_EQ(Member("EtatWpd"), Value(26));
+  control.reset();
 }
 
 TEST_F(RoundTripTest, AResultWithoutAPlaceIsNotPurged) {
-  Open(u"C:\\n\\a.rtf", "{\\rtf1 avant}");
-  sandbox.Remove(u"C:\\Documents");
-  std::ofstream(folder.Path() + "/state") << "no folder";
-  exchange->mnuPopMSWord_Click();
+  LeaveNoPlace();
+  OpenFile(u"C:\\n\\a.rtf", "{\\rtf1 avant}");
+  Choose(kWord);
   FinishAfter([&] {
     disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 apr");
     sandbox.Age(u"C:\\Temp\\Sava.rtf", 10);
   });
-  exchange->mnuPopMSWord_Click();
-  Tick(3);
-  EXPECT_FALSE(watching);
-  EXPECT_EQ(BoxTexts(), (Texts{u"Erreur fichier temporaire", u"Erreur fichier temporaire"}));
+  Choose(kWord);
+  backend.Tick(3);
+  EXPECT_FALSE(Watching());
+  EXPECT_EQ(Boxes(), (Texts{u"Erreur fichier temporaire", u"Erreur fichier temporaire"}));
   EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.rtf"), "{\\rtf1 apr");
   sandbox.MakeParents(u"C:\\Documents\\x");
-  exchange->mnuPopMSWord_Click();
-  Tick(3);
+  Choose(kWord);
+  backend.Tick(3);
   EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.rtf"), "{\\rtf1 apr");
 }
 
 TEST_F(RoundTripTest, WithoutAPlaceForItWhatWasTypedStaysUnsaved) {
-  for (const bool rtf : {false, true}) {
-    Open(u"C:\\n\\a.txt");
-    sandbox.Remove(u"C:\\Documents");
-    std::ofstream(folder.Path() + "/state") << "no folder";
-    exchange->mnuPopMSWord_Click();
+  for (const std::u16string form : {u"txt", u"rtf"}) {
+    const std::u16string note = u"C:\\n\\a." + form;
+    LeaveNoPlace();
+    OpenFile(u"C:\\n\\a.txt", "avant");
+    Choose(kWord);
     FinishAfter([&] {
-      Editor().Document().SelText(u"d'");
-      EnregistrerNote(Editor());
-      disk.Write(rtf ? u"C:\\Temp\\Sava.rtf" : u"C:\\Temp\\Sava.sav", "{\\rtf1 retour}");
+      Type(u"d'");
+      Choose(&ContextMenu::mnuPopEnregistrer);
+      disk.Write(u"C:\\Temp\\Sava." + (form == u"rtf" ? form : u"sav"), "{\\rtf1 retour}");
     });
-    EXPECT_EQ(reloads, 0);
+    EXPECT_EQ(Shown(), u"d'avant");
     EXPECT_TRUE(Values().dirty);
-    EXPECT_EQ(Values().format, rtf ? u"rtf" : u"txt");
-    EXPECT_EQ(Values().documentPath, rtf ? u"C:\\n\\a.rtf" : u"C:\\n\\a.txt");
+    EXPECT_EQ(Values().format, form);
+    EXPECT_EQ(Values().documentPath, note);
     sandbox.MakeParents(u"C:\\Documents\\x");
     Editor().Unload();
-    EXPECT_EQ(disk.ReadAll(Values().documentPath).starts_with("{\\rtf1"), rtf);
-    EXPECT_NE(disk.ReadAll(Values().documentPath).find("d'avant"), std::string::npos);
+    EXPECT_EQ(disk.ReadAll(note).starts_with("{\\rtf1"), form == u"rtf");
+    EXPECT_NE(disk.ReadAll(note).find("d'avant"), std::string::npos);
   }
 }
 
-TEST_F(RoundTripTest, RefusalsNameTheProgram) {
-  Open(u"C:\\n\\a.txt");
-  disk.Delete(kWordPath, true);
-  exchange->mnuPopMSWord_Click();
-  exchange->EditerAvecWord();
-  EXPECT_EQ(exchange->TypeEditeur(), 3);
-  Values().readOnly = true;
-  exchange->mnuPopAtlantis_Click();
-  EXPECT_EQ(exchange->TypeEditeur(), 2);
-  EXPECT_EQ(BoxTexts(),
-            (Texts{u"MS WinWord Introuvable", u"MS Word introuvable\r\nEdition impossible",
-                   u"Fichier en 'lecture seule'\r\nAbandon de l'appel Atlantis"}));
-  EXPECT_FALSE(watching);
-}
-
-TEST_F(RoundTripTest, WithoutAWorkFileNothingStarts) {
-  Open(u"C:\\n\\a.odt", "{\\rtf1 avant}");
-  exchange->mnuPopQjot_Click();
-  Tick(50);
-  EXPECT_EQ(exchange->EtatWpd(), 30);
-  EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire"});
-  EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts());
-  EXPECT_EQ(reloads, 0);
-}
-
-TEST_F(RoundTripTest, AVanishedWorkFileLeavesTheSavedNote) {
-  Open(u"C:\\n\\a.txt");
-  Editor().Document().Text(u"neuf");
-  exchange->mnuPopAtlantis_Click();
-  FinishAfter([&] { disk.Delete(u"C:\\Temp\\Sava.txt", true); });
-  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "neuf");
-  EXPECT_EQ(Editor().Document().Text(), u"neuf");
-}
-
-TEST_F(RoundTripTest, ANoteThatCannotBeWrittenStaysInTheWindow) {
-  Open(u"C:\\n\\a.txt");
-  Editor().Document().Text(u"neuf");
-  sandbox.ReadOnly(u"C:\\n\\a.txt", true);
-  exchange->mnuPopQjot_Click();
-  FinishAfter();
-  EXPECT_EQ(reloads, 0);
-  EXPECT_EQ(Editor().Document().Text(), u"neuf");
+TEST_F(RoundTripTest, AReloadThatFailsLeavesTheNoteDirty) {
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Choose(kQjot);
+  backend.Tick(30);
+  disk.Write(u"C:\\Program Files\\qjot\\SavNotes.txt", "retour");
+  sandbox.Programs().Finish();
+  while (Watching() && !disk.ReadAll(u"C:\\n\\a.txt").starts_with("retour")) backend.Tick(1);
+  Fail("read", u"\\a.txt");
+  backend.Tick(2);
+  EXPECT_EQ(Boxes(), Texts{u"Impossible de Charger le fichier\r\nC:\\n\\a.txt"});
   EXPECT_TRUE(Values().dirty);
+  EXPECT_EQ(Shown(), u"avant");
+  Mend();
+  control->pStrOrchm();
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "avant");
+  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_a.txt"), "retour");
 }
 
-TEST_F(RoundTripTest, ATargetThatCannotBeReplacedKeepsBothFiles) {
-  Open(u"C:\\n\\a.txt");
-  disk.Write(u"C:\\n\\a.rtf", "{\\rtf1 autre}");
-  sandbox.ReadOnly(u"C:\\n\\a.rtf", true);
-  exchange->mnuPopMSWord_Click();
-  FinishAfter([&] { disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 retour}"); });
-  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.rtf"), "{\\rtf1 autre}");
-  EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.rtf"), "{\\rtf1 retour}");
-  EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_Sava.rtf"), "{\\rtf1 retour}");
-  EXPECT_EQ(BoxTexts(), Texts{u"Erreur fichier temporaire\r\nCopie de secours :\r\n"
-                              u"C:\\Documents\\Secours_Sava.rtf"});
-  EXPECT_EQ(Values().documentPath, u"C:\\n\\a.txt");
-}
+TEST_F(RoundTripTest, WithoutAWorkFileTheSavedNoteStays) {
+  OpenFile(u"C:\\n\\a.txt", "avant");
+  Type(u"d'");
+  Choose(kAtlantis);
+  FinishAfter([&] { disk.Delete(u"C:\\Temp\\Sava.txt", true); });
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "d'avant");
+  EXPECT_EQ(Shown(), u"d'avant");
+  sandbox.Programs().TakeStarted();
 
-TEST_F(RoundTripTest, AFailedStartIsAnErrorAndTheWatchGoesOn) {
-  Open(u"C:\\n\\a.txt");
-  exchange->mnuPopQjot_Click();
-  disk.Write(kQjotPath, "no program");
-  Tick(14);
-  EXPECT_EQ(ErrorOf([&] { Tick(1); }), 75);
-  Tick(14);
-  EXPECT_FALSE(watching);
-  EXPECT_EQ(reloads, 1);
+  control->pStrOrchm();
+  OpenFile(u"C:\\n\\a.odt", "{\\rtf1 avant}");
+  Choose(kQjot);
+  backend.Tick(50);
+  EXPECT_EQ(Member("EtatWpd"), Value(30));
+  EXPECT_EQ(Boxes(), Texts{u"Erreur fichier temporaire"});
+  EXPECT_EQ(sandbox.Programs().TakeStarted(), Texts());
 }
 
 }  // namespace

@@ -1,38 +1,22 @@
 // Hosts whose own events use the control while its editor waits or asks.
-#include <gtest/gtest.h>
-
-#include "Machine.h"
+#include "Host.h"
 #include "base/ErrorOf.h"
 
 namespace lumenote {
 namespace {
 
-class ReentryTest : public testing::Test {
+class ReentryTest : public HostTest {
  protected:
   void SetUp() override {
-    machine.sandbox.MakeParents(kOld);
-    Disk().Write(kOld, "ancienne");
-    Disk().Write(kNew, "nouvelle");
-    control->pCouleurFen(u"0");
+    control = MakeControl();
+    sandbox.MakeParents(kOld);
+    disk.Write(kOld, "ancienne");
+    disk.Write(kNew, "nouvelle");
     control->pNomAppli(u"Flore");
   }
-  Files& Disk() { return machine.sandbox.FileSystem(); }
-  Co_Rtf& Editor() { return *control->Parts().editor.Loaded(); }
-  void Open(std::u16string_view note) {
-    control->pStrOrchm(note);
-    control->ShowMicroEdit();
-  }
-  void Edit(std::u16string_view typed) {
-    Editor().Document().SelStart(0);
-    Editor().Document().SelText(typed);
-  }
-  void OnEvent(std::function<void()> event) { machine.backend.events.push_back(std::move(event)); }
 
   static constexpr std::u16string_view kOld = u"C:\\n\\ancienne.txt";
   static constexpr std::u16string_view kNew = u"C:\\n\\nouvelle.txt";
-
-  Machine machine;
-  std::unique_ptr<CoBxRtf> control = std::make_unique<CoBxRtf>(machine.platform);
 };
 
 /// What keeps the old editor on the stack.
@@ -69,7 +53,7 @@ const Act kActs[] = {
      [](Co_Rtf& editor) {
        editor.Timer1.Tick = [&editor] { editor.AskOver({.text = u"tic"}); };
        editor.Timer1.Interval(5);
-       dynamic_cast<EventfulBackend&>(editor.Machine().Windows()).Advance(5);
+       dynamic_cast<HostBackend&>(editor.Machine().Windows()).Advance(5);
      }},
 };
 
@@ -84,7 +68,7 @@ TEST_F(ReentryTest, TheNextNoteOpensWhileAnActOfTheOldEditorGoesOn) {
       OnEvent([&] {
         EXPECT_EQ(control->pStrOrchm(), kOld);
         control->pStrOrchm(kNew);
-        OnEvent([&] { Edit(u"bien "); });
+        OnEvent([&] { Type(u"bien "); });
         OnEvent([&] { Editor().UserClose(); });
         control->ShowMicroEdit(wait ? 1 : 0);
         if (!wait) Editor().SuspendreDessus();
@@ -95,14 +79,14 @@ TEST_F(ReentryTest, TheNextNoteOpensWhileAnActOfTheOldEditorGoesOn) {
         EXPECT_FALSE(session.onTop);
         EXPECT_FALSE(session.closed);
         EXPECT_EQ(session.note, kNew);
-        EXPECT_EQ(Editor().Document().Text(), u"nouvelle");
+        EXPECT_EQ(Shown(), u"nouvelle");
         EXPECT_FALSE(session.dirty);
-        machine.backend.RunUntil([&] { return machine.backend.events.empty(); });
+        backend.RunUntil([&] { return backend.events.empty(); });
       }
       EXPECT_EQ(control->pStrOrchm(), kNew);
-      EXPECT_EQ(Disk().ReadAll(kNew), "bien nouvelle");
+      EXPECT_EQ(disk.ReadAll(kNew), "bien nouvelle");
       EXPECT_TRUE(control->Parts().windows.Loaded().empty());
-      for (const std::u16string& box : machine.backend.boxes)
+      for (const std::u16string& box : Boxes())
         EXPECT_FALSE(box.starts_with(u"Erreur d'exécution"));
     }
 }
@@ -110,14 +94,13 @@ TEST_F(ReentryTest, TheNextNoteOpensWhileAnActOfTheOldEditorGoesOn) {
 TEST_F(ReentryTest, TheControlGoesWhileAnActOfItsEditorGoesOn) {
   for (const Act& act : kActs) {
     SCOPED_TRACE(act.name);
-    if (!control) control = std::make_unique<CoBxRtf>(machine.platform);
     SetUp();
     Open(kOld);
-    Edit(u"bien ");
+    Type(u"bien ");
     OnEvent([&] { control.reset(); });
     act.begin(Editor());
     EXPECT_EQ(control, nullptr);
-    EXPECT_TRUE(!Disk().Exists(kOld) || Disk().ReadAll(kOld) == "bien ancienne");
+    EXPECT_TRUE(!disk.Exists(kOld) || disk.ReadAll(kOld) == "bien ancienne");
   }
 }
 
@@ -126,7 +109,7 @@ TEST_F(ReentryTest, AWaitEndsWithItsOwnEditor) {
   OnEvent([&] {
     trace += u"lu " + control->pStrOrchm();
     control->pStrOrchm(u"deux");
-    OnEvent([&] { Edit(u"vingt-"); });
+    OnEvent([&] { Type(u"vingt-"); });
     OnEvent([&] { Editor().UserClose(); });
     control->ShowMicroEdit(1);
     trace += u", lu " + control->pStrOrchm();
@@ -136,7 +119,7 @@ TEST_F(ReentryTest, AWaitEndsWithItsOwnEditor) {
   control->pStrOrchm(u"un");
   control->ShowMicroEdit(1);
   EXPECT_EQ(trace, u"lu un, lu vingt-deux");
-  EXPECT_EQ(Editor().Document().Text(), u"trois");
+  EXPECT_EQ(Shown(), u"trois");
 }
 
 TEST_F(ReentryTest, AWaitInsideAWaitForTheSameEditorEndsFirst) {
@@ -153,7 +136,7 @@ TEST_F(ReentryTest, AWaitInsideAWaitForTheSameEditorEndsFirst) {
 
 TEST_F(ReentryTest, InsideTheClosingQuestionNothingCanBeWaitedFor) {
   Open(u"note");
-  Edit(u"ma ");
+  Type(u"ma ");
   OnEvent([&] {
     EXPECT_EQ(control->pStrOrchm(), u"note");
     EXPECT_EQ(ErrorOf([&] { control->ShowMicroEdit(1); }), 5);
@@ -169,22 +152,21 @@ TEST_F(ReentryTest, TheControlGoesInsideItsOwnWaitAndItsOwnClosingQuestion) {
   control->ShowMicroEdit(1);
   EXPECT_EQ(control, nullptr);
 
-  control = std::make_unique<CoBxRtf>(machine.platform);
   SetUp();
   Open(kOld);
-  Edit(u"bien ");
+  Type(u"bien ");
   OnEvent([&] { control.reset(); });
   Editor().UserClose();
-  EXPECT_EQ(Disk().ReadAll(kOld), "bien ancienne");
+  EXPECT_EQ(disk.ReadAll(kOld), "bien ancienne");
 }
 
 TEST_F(ReentryTest, ANoteWrittenWhileTheLoadingFailsIsTheNextOne) {
   OnEvent([&] { control->pStrOrchm(kNew); });
   Open(u"C:\\n\\absente.odt");
-  EXPECT_EQ(machine.backend.boxes.size(), 1U);
+  EXPECT_EQ(Boxes().size(), 1U);
   EXPECT_EQ(control->pStrOrchm(), kNew);
   control->ShowMicroEdit();
-  EXPECT_EQ(Editor().Document().Text(), u"nouvelle");
+  EXPECT_EQ(Shown(), u"nouvelle");
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace lumenote {
 
 /// Owns nothing; the parts outlive it.
-class PilotPlatform final : public Platform {
+class PilotPlatform : public Platform {
  public:
   PilotPlatform(Sandbox& sandbox, Backend& windows, const Fonts& fonts)
       : sandbox_(sandbox), windows_(windows), fonts_(fonts) {}
