@@ -1,8 +1,6 @@
 // Positions, paragraphs, limits and formats of the document.
-#include <gtest/gtest.h>
-
+#include "Model.h"
 #include "base/RuntimeError.h"
-#include "document/Document.h"
 
 namespace lumenote {
 namespace {
@@ -59,6 +57,25 @@ TEST(Document, MapsEachFormatOnceAndSharesTheText) {
   EXPECT_EQ(first(mapped->leaves).Visit(where), first(document.Leaves()).Visit(where));
   document.Replace(0, document.Length(), *mapped);
   EXPECT_FALSE(document.MapFormats(0, document.Length(), toTwo, {}, true));
+}
+
+TEST(Document, EditsLeaveNoCrumbs) {
+  Dice dice(7);
+  Document document;
+  Model piece;
+  document.Replace(0, 0, RandomFragment(dice, 1200000, piece));
+  std::u16string text = piece.text;
+  for (int i = 0; i < 3000; ++i) {
+    const Position from = document.Before(dice.UpTo(document.Length()));
+    const Position to = document.After(from + dice.Below(i % 10 == 0 ? 3000 : 300));
+    const Fragment inserted = RandomFragment(dice, dice.Below(50), piece);
+    document.Replace(from, to, inserted);
+    text.replace(from, to - from, piece.text);
+  }
+  ASSERT_EQ(document.Text(0, document.Length()), text);
+  Position leaves = 0;
+  for (LeafCursor leaf = document.Leaves().CursorAt(0); !leaf.AtEnd(); leaf.Next()) ++leaves;
+  EXPECT_LT(leaves, document.Length() / 512 + 32);
 }
 
 TEST(Document, RefusesToOutgrowAPosition) {

@@ -65,32 +65,11 @@ TEST_F(UndoTest, GivesBackSelectionsKindsAndExtents) {
   EXPECT_EQ(Text(), u"XYo");
 }
 
-TEST_F(UndoTest, ReopensNoStepAfterUndoAndRedo) {
-  Type(0, u"a");
-  history.Undo();
-  history.Redo();
-  Type(1, u"b");
-  EXPECT_EQ(UndoAll(), u"a||");
-}
-
 TEST_F(UndoTest, TakesEditsOutsideAGroupAsUnknown) {
   history.Apply(0, 0, PlainFragment(u"a", 0, 0));
   history.Apply(1, 1, PlainFragment(u"b", 0, 0));
   EXPECT_EQ(history.UndoType(), UndoKind::Unknown);
   EXPECT_EQ(UndoAll(), u"a||");
-}
-
-TEST_F(UndoTest, JoinedHalvesOfAPairComeApartAgain) {
-  Type(0,
-       u"\xD83C"
-       u"x"
-       u"\xDF3C");
-  Delete(1, 2);
-  history.Undo();
-  EXPECT_EQ(Text(),
-            u"\xD83C"
-            u"x"
-            u"\xDF3C");
 }
 
 }  // namespace

@@ -3,11 +3,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <fuzzer/FuzzedDataProvider.h>
 
 #include "document/Model.h"
 #include "rtf/Reading.h"
 #include "rtf/write/Writer.h"
+#include "surface/Choices.h"
 #include "surface/UserBench.h"
 
 namespace lumenote {
@@ -19,7 +19,7 @@ void Check(bool holds) {
 
 class Editor : UserBench {
  public:
-  Editor(const std::uint8_t* data, std::size_t size) : acts_(data, size) {
+  Editor(const std::uint8_t* data, std::size_t size) : acts_({data, size}) {
     files.files[u"note.rtf"] = {reinterpret_cast<const char*>(data), size};
     surface.OnChange([this] { changed_ = true; });
   }
@@ -32,7 +32,7 @@ class Editor : UserBench {
     }
     CheckSaved();
     const Model loaded = Held();
-    for (int acts = 0; acts < kMostActs && acts_.remaining_bytes() > 0; ++acts) {
+    for (int acts = 0; acts < kMostActs && !acts_.AtEnd(); ++acts) {
       Act();
       CheckSaved();
     }
@@ -49,14 +49,14 @@ class Editor : UserBench {
                                                   &Editor::Bold, &Editor::Paragraph, &Editor::Undo,
                                                   &Editor::Redo, &Editor::PutNote,   &Editor::Font};
     surface.UserSelect(Place(), Place());
-    (this->*acts_.PickValueInArray(kActs))();
+    (this->*acts_.Of(kActs))();
   }
 
   /// Mostly near the beginning or the end, where notes have most to say.
   Position Place() {
     const Position length = surface.TextLength();
-    const Position near = acts_.ConsumeIntegral<std::uint8_t>() % 16;
-    switch (acts_.ConsumeIntegral<std::uint8_t>() % 4) {
+    const Position near = acts_.Below(16);
+    switch (acts_.Below(4)) {
       case 0:
         return near;
       case 1:
@@ -64,21 +64,19 @@ class Editor : UserBench {
       case 2:
         return std::min(surface.Caret() + near, length);
       default:
-        return acts_.ConsumeIntegralInRange<Position>(0, length);
+        return acts_.UpTo(length);
     }
   }
   std::u16string_view Text() {
     static constexpr std::u16string_view kPieces[] = {
         u"", u"a", u"\r\n", u"\t", u"\v", u"a\r\nb\t", u"\u2640", u"\x01\x7F", u"\uFFFC", u"{\\}"};
-    return acts_.PickValueInArray(kPieces);
+    return acts_.Of(kPieces);
   }
 
   void Put() { surface.SelText(Text()); }
   void Type() { surface.UserType(Text()); }
-  void Erase() {
-    surface.UserKey({.name = acts_.ConsumeBool() ? KeyName::BackSpace : KeyName::Delete});
-  }
-  void Move() { surface.UserDrop(Place(), acts_.ConsumeBool()); }
+  void Erase() { surface.UserKey({.name = acts_.Coin() ? KeyName::BackSpace : KeyName::Delete}); }
+  void Move() { surface.UserDrop(Place(), acts_.Coin()); }
   void Carry() {
     surface.Cut();
     surface.UserSelect(Place(), Place());
@@ -88,13 +86,13 @@ class Editor : UserBench {
     static constexpr std::u16string_view kNotes[] = {
         uR"({\rtf1 a{\field{\*\fldinst X}{\fldrslt b}}c\par\ls1{\listtext 1.}d})",
         uR"({\rtf1\trowd\cellx9\intbl a\cell\row})", uR"({\rtf1{\pict 01}\sect\sectd\page a})"};
-    surface.SelRTF(acts_.PickValueInArray(kNotes));
+    surface.SelRTF(acts_.Of(kNotes));
   }
-  void Bold() { surface.SelBold(acts_.ConsumeBool()); }
-  void Font() { surface.SelFontName(acts_.ConsumeBool() ? u"Symbol" : u"Arial"); }
+  void Bold() { surface.SelBold(acts_.Coin()); }
+  void Font() { surface.SelFontName(acts_.Coin() ? u"Symbol" : u"Arial"); }
   void Paragraph() {
-    if (acts_.ConsumeBool()) return surface.SelBullet(acts_.ConsumeBool());
-    surface.SelAlignment(acts_.ConsumeIntegralInRange(0, 2));
+    if (acts_.Coin()) return surface.SelBullet(acts_.Coin());
+    surface.SelAlignment(acts_.UpTo(2));
   }
   void Undo() { surface.Undo(); }
   void Redo() { surface.Redo(); }
@@ -108,7 +106,7 @@ class Editor : UserBench {
   }
   Model Held() const { return ModelOf(surface.Content().Leaves(), surface.Content().Mark()); }
 
-  FuzzedDataProvider acts_;
+  Choices acts_;
   bool changed_ = false;
 };
 

@@ -1,25 +1,39 @@
 // Any bytes as RTF, as a note and as a part to put into one: both hold the same text, and no more
-// than there can be.
+// than there can be. Written and read again, whole and in part as the clipboard takes it, they keep
+// their text, and from then on their bytes.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 
 #include "rtf/Reading.h"
+#include "rtf/write/Writer.h"
 
 namespace {
 
-std::u16string TextOf(std::string_view rtf, lumenote::RtfTarget target) {
-  const lumenote::Document document = lumenote::Read(rtf, target);
-  return document.Text(0, document.Length());
+using namespace lumenote;
+
+void Check(bool holds) {
+  if (!holds) std::abort();
+}
+
+std::u16string UnitsOf(const Document& document) { return document.Text(0, document.Length()); }
+
+void CheckPart(const Document& document, Position from, Position to) {
+  const Selection part = document.Outwards(from, to);
+  const Document again = Read(WriteRtf(document, part.start, part.end), RtfTarget::Selection);
+  Check(UnitsOf(again) == document.Text(part.start, part.end));
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view rtf(reinterpret_cast<const char*>(data), size);
-  const std::u16string note = TextOf(rtf, lumenote::RtfTarget::Document);
-  const std::u16string part = TextOf(rtf, lumenote::RtfTarget::Selection);
-  if (part != note && part != note + u"\r\n") std::abort();
-  if (part.size() > 2 * size) std::abort();
+  const Document note = Read(rtf);
+  const std::u16string part = UnitsOf(Read(rtf, RtfTarget::Selection));
+  Check(part == UnitsOf(note) || part == UnitsOf(note) + u"\r\n");
+  Check(part.size() <= 2 * size);
+  Check(LossOf(note).empty());
+  const Position third = note.Length() / 3;
+  CheckPart(note, third, note.Length() - third);
   return 0;
 }

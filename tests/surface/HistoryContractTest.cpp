@@ -4,20 +4,6 @@
 namespace lumenote {
 namespace {
 
-TEST_F(SurfaceContract, UndoAndRedoNotifyAndStopAtTheEnds) {
-  Put(u"|");
-  s.SelText(u"a");
-  Changes();
-  s.Redo();
-  EXPECT_EQ(Changes(), 0);
-  s.Undo();
-  EXPECT_EQ(Changes(), 1);
-  s.Undo();
-  EXPECT_EQ(Changes(), 0);
-  s.SelText(u"b");
-  EXPECT_FALSE(s.CanRedo());
-}
-
 TEST_F(SurfaceContract, TextModeDecidesHowMuchIsKept) {
   Put(u"|");
   s.SelText(u"a");

@@ -21,25 +21,6 @@ TEST_F(SurfaceContract, SelectionIsTheTextBetween) {
     }
 }
 
-TEST_F(SurfaceContract, SelTextReplacesAndNormalisesBreaks) {
-  struct Row {
-    std::u16string_view before, text, after;
-  };
-  const Row rows[] = {{u"a^b|c", u"xy", u"axy|c"},      {u"a|c", u"\n", u"a¶|c"},
-                      {u"a|c", u"\r\r\n\n", u"a¶¶¶|c"}, {u"a^b¶|c", u"", u"a|c"},
-                      {u"^a¶b¶c|", u"é", u"é|"},        {u"|", u"\v", u"↓|"}};
-  for (const Row& row : rows) {
-    Put(row.before);
-    Changes();
-    s.SelText(row.text);
-    EXPECT_EQ(Shown(), row.after);
-    EXPECT_EQ(Changes(), 1);
-    EXPECT_EQ(s.UndoType(), UndoKind::Unknown);
-    s.Undo();
-    EXPECT_EQ(Shown(), row.before);
-  }
-}
-
 TEST_F(SurfaceContract, WhatChangesNothingIsSilent) {
   Put(u"un ^deux|¶");
   s.SelBold(true);
@@ -61,27 +42,6 @@ TEST_F(SurfaceContract, WhatChangesNothingIsSilent) {
   s.RightMargin(0);
   s.Paste();
   EXPECT_EQ(Changes(), 0);
-}
-
-TEST_F(SurfaceContract, FindSelectsTheMatch) {
-  Put(u"Été, étés ; l'ÉTÉ.¶fin ^été|");
-  struct Row {
-    std::u16string_view text;
-    Position start;
-    int options;
-    Position found;
-  };
-  const Row rows[] = {
-      {u"été", 0, 0, 0},  {u"été", 1, 0, 5},       {u"été", 1, kFindWholeWord | kFindMatchCase, 24},
-      {u"été", -5, 0, 0}, {u".\r\nfin", 0, 0, 17}, {u"été", 99, 0, -1},
-      {u"", 0, 0, -1}};
-  for (const Row& row : rows) {
-    s.SelStart(3);
-    EXPECT_EQ(s.Find(row.text, row.start, row.options), row.found);
-    const bool found = row.found >= 0;
-    EXPECT_EQ(s.SelStart(), found ? row.found : 3);
-    EXPECT_EQ(s.SelLength(), found ? static_cast<Position>(row.text.size()) : 0);
-  }
 }
 
 TEST_F(SurfaceContract, SpanAndUpTo) {

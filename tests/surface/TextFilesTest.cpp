@@ -1,4 +1,5 @@
 // Text files: every character and every form comes back, whatever is done to the text between.
+#include <array>
 #include <string>
 
 #include "base/TextForm.h"
@@ -98,23 +99,9 @@ TEST_F(TextFiles, AreWrittenSoThatTheyReadAsTheyWere) {
 }
 
 TEST_F(TextFiles, BitByBitAreWhatASaveWrites) {
-  const std::u16string_view nasty[] = {u"",
-                                       u"é\r\n€\x81",
-                                       u"é♀",
-                                       u"\x85",
-                                       u"Ã©",
-                                       u"Ã©é",
-                                       u"Ã",
-                                       u"Ã©Â…",
-                                       u"ï»¿",
-                                       u"ÿþ",
-                                       u"þÿ",
-                                       u"ð\u0178˜€",
-                                       u"\U0001F600",
-                                       u"\uFEFFé",
-                                       u"\xDC00\xD800",
-                                       u"\xD800é",
-                                       u"\xD83D\U0001F600"};
+  const auto nasty = std::to_array<std::u16string_view>(
+      {u"", u"é\r\n€\x81", u"é♀", u"\x85", u"Ã©", u"Ã©é", u"Ã", u"Ã©Â…", u"ï»¿", u"ÿþ", u"þÿ",
+       u"ð\u0178˜€", u"\U0001F600", u"\uFEFFé", u"\xDC00\xD800", u"\xD800é", u"\xD83D\U0001F600"});
   constexpr std::size_t kPiece = 1 << 14;
   for (const std::u16string_view text : nasty) {
     for (std::size_t before : {0, 1, 2, 3, 4}) {  // of what stands across the end of a piece

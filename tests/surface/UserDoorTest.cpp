@@ -34,6 +34,7 @@ TEST(UserDoor, RunsOfTypingAndDeletingAreSteps) {
                       {u"|", u"a b BackSpace", u"a| <2 ab| <1 |"},
                       {u"ab|c", u"BackSpace Delete", u"a| <2 ab|c"},
                       {u"|", u"Tab Space", u"\t | <1 |"},
+                      {u"|", u"a Ctrl+z Ctrl+y b", u"ab| <1 a| <1 |"},
                       {u"a^b|c", u"Ctrl+x Ctrl+v Ctrl+v", u"abb|c <5 ab|c <5 a|c <4 a^b|c"}};
   for (const Row& row : rows) {
     UserBench bench;
@@ -50,34 +51,6 @@ TEST(UserDoor, BreaksAndSavesEndARunOfTyping) {
   bench.surface.SaveFile(u"C:\\n.txt", FileType::Text);
   bench.surface.UserType(u"e");
   EXPECT_EQ(Steps(bench), u"ab¶c¶de| <1 ab¶c¶d| <1 ab¶c¶| <1 ab¶| <1 |");
-}
-
-TEST(UserDoor, DropsMoveOrCopy) {
-  struct Row {
-    std::u16string_view before;
-    Position target;
-    bool copy;
-    std::u16string_view after;
-  };
-  const Row rows[] = {{u"a^bc|def", 5, false, u"ade^bc|f"},  {u"abc^de|f", 1, false, u"a^de|bcf"},
-                      {u"a^bc|def", 5, true, u"abcde^bc|f"}, {u"a^bc|def", 1, true, u"a^bc|bcdef"},
-                      {u"a^bc|def", 2, false, u"a^bc|def"},  {u"a^bc|def", 3, false, u"a^bc|def"},
-                      {u"a^bc|def", 2, true, u"a^bc|def"},   {u"ab|cdef", 5, false, u"ab|cdef"},
-                      {u"^a¶|b¶c", 99, false, u"b¶c^a¶|"},   {u"a¶b^c|", 2, false, u"a^c|¶b"}};
-  for (const Row& row : rows) {
-    UserBench bench;
-    bench.Put(row.before);
-    bench.surface.UserDrop(row.target, row.copy);
-    EXPECT_EQ(bench.Shown(), row.after);
-    if (row.before == row.after) {
-      EXPECT_FALSE(bench.surface.CanUndo());
-      continue;
-    }
-    EXPECT_EQ(bench.surface.UndoType(), UndoKind::DragDrop);
-    bench.surface.Undo();
-    EXPECT_EQ(ToUtf8(bench.Shown()), ToUtf8(row.before));
-    EXPECT_FALSE(bench.surface.CanUndo());
-  }
 }
 
 TEST(UserDoor, DropKeepsFormats) {
@@ -135,13 +108,6 @@ TEST(UserDoor, ViewHearsOfEachActOnce) {
   EXPECT_EQ(bench.view.changes, (std::vector<DocumentChange>{{2, 2, 1}}));
   EXPECT_EQ(bench.view.selections, 1);
   EXPECT_GE(bench.view.reveals, 1);
-  bench.Put(u"a^b|cdef");
-  bench.surface.UserDrop(4, false);  // "b" goes in at 4 and out at 1
-  EXPECT_EQ(bench.view.changes, (std::vector<DocumentChange>{{1, 3, 3}}));
-  bench.surface.Undo();
-  EXPECT_EQ(bench.view.changes.back(), (DocumentChange{1, 3, 3}));
-  bench.surface.SelBold(true);
-  EXPECT_EQ(bench.view.changes.back(), (DocumentChange{1, 1, 1}));
   bench.surface.RightMargin(900);
   EXPECT_EQ(bench.view.widths, 1);
   const std::size_t before = bench.view.changes.size();
