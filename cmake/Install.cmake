@@ -9,7 +9,7 @@ endif()
 install(TARGETS ${targets} EXPORT LumenoteTargets)
 install(EXPORT LumenoteTargets NAMESPACE Lumenote::
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote)
-install(DIRECTORY src/ DESTINATION include/lumenote FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY include/lumenote DESTINATION include)
 
 configure_package_config_file(cmake/LumenoteConfig.cmake.in
   ${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfig.cmake

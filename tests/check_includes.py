@@ -2,7 +2,8 @@
 """Checks that includes point downwards only.   usage: check_includes.py SRC_FOLDER
 
 A layer may include itself and the layers below it. The rooms of a layer include each other in one
-direction only: no room comes back to itself through others. A system header of a toolkit or an
+direction only: no room comes back to itself through others. Public headers (include/lumenote, beside
+SRC_FOLDER) include nothing but each other. A system header of a toolkit or an
 operating system stays in backends/; only the sandboxes of the scripts know a backend.
 """
 import collections
@@ -32,8 +33,11 @@ def complaint(source, path, quote, target):
     layer = path.parts[0]
     if quote == "<":
         return "platform header" if layer != "backends" and FOREIGN.match(target) else None
-    if not (source / target).exists():
+    public = target.startswith("lumenote/")
+    if not (source.parent / "include" / target if public else source / target).exists():
         return "no such header"
+    if layer == "lumenote" or public:
+        return None if public else "private header in a public one"
     if target.startswith("backends/") and layer == "pilot" and path.parts[1] != "posix":
         return "backend from above"
     return "points up" if RANK[target.split("/")[0]] > RANK[layer] else None
@@ -58,8 +62,10 @@ def main():
     source = pathlib.Path(sys.argv[1])
     bad = []
     rooms = collections.defaultdict(set)
-    for file in sorted(source.rglob("*.[ch]*")):
-        path = file.relative_to(source)
+    public = source.parent / "include"
+    for folder, file in [(folder, file) for folder in (source, public)
+                         for file in sorted(folder.rglob("*.[ch]*"))]:
+        path = file.relative_to(folder)
         for number, quote, target in includes(file):
             why = complaint(source, path, quote, target)
             if why:

@@ -2,11 +2,9 @@
 // With an argument it opens the editor and closes it at once, as a check.
 #include <QApplication>
 #include <iostream>
-
-#include "backends/qt/QtPlatform.h"
-#include "base/RuntimeError.h"
-#include "base/Strings.h"
-#include "control/CoBxRtf.h"
+#include <lumenote/CoBxRtf.h>
+#include <lumenote/QtPlatform.h>
+#include <lumenote/Utf8.h>
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);

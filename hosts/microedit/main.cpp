@@ -7,16 +7,16 @@
 
 #include "SuddenEnds.h"
 #include "backends/qt/QtBackend.h"
-#include "backends/qt/QtPlatform.h"
 #include "backends/qt/QtUserActs.h"
 #include "backends/qt/windows/Shot.h"
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "base/TextForm.h"
-#include "control/CoBxRtf.h"
 #include "control/Component.h"
 #include "editor/DocumentStorage.h"
+#include "lumenote/CoBxRtf.h"
+#include "lumenote/QtPlatform.h"
 #include "pilot/RunPilot.h"
 #include "pilot/posix/PosixSandbox.h"
 #include "platform/Files.h"
@@ -97,7 +97,8 @@ void Describe(CoBxRtf& control, const CommandLine& line) {
 bool Capture(CoBxRtf& control, QtPlatform& platform, const std::string& png) {
   control.ShowMicroEdit();
   Form* editor = control.Parts().windows.Active();
-  return editor && platform.SaveShot(*editor, png);
+  auto& windows = static_cast<QtBackend&>(platform.Windows());
+  return editor && SaveWindowShot(windows.Widgets(), *editor, QString::fromStdString(png));
 }
 
 int Edit(const CommandLine& line) {

@@ -1,51 +1,10 @@
-// Run-time errors: the classic numbers of the platform with a French description.
+// Statements whose run-time errors are made or ignored.
 #pragma once
 #include <new>
-#include <stdexcept>
-#include <string>
-#include <string_view>
+
+#include "lumenote/RuntimeError.h"
 
 namespace lumenote {
-
-enum class ErrorNumber : int {
-  InvalidArgument = 5,
-  Overflow = 6,
-  OutOfMemory = 7,
-  TypeMismatch = 13,
-  Internal = 51,
-  FileNotFound = 53,
-  DiskFull = 61,
-  PermissionDenied = 70,
-  PathAccess = 75,
-  PathNotFound = 76,
-  NoSuchElement = 340,
-  InvalidPropertyValue = 380,
-  Printer = 482,
-};
-
-/// The one exception that crosses the component: a number and its French description. Raised by
-/// procedures, shown in a critical box at an event's edge, handed to the host by `CoBxRtf`.
-class RuntimeError : public std::runtime_error {
- public:
-  /// The number's own description.
-  explicit RuntimeError(ErrorNumber number);
-  RuntimeError(ErrorNumber number, std::u16string description);
-
-  int Number() const { return static_cast<int>(number_); }
-  const std::u16string& Description() const { return description_; }
-  /// Which member of the control the error is about ("pCouleurFen"); empty before it has reached
-  /// the control's edge.
-  const std::u16string& Member() const { return member_; }
-  /// The first name given stays.
-  void Member(std::u16string_view name) {
-    if (member_.empty()) member_ = name;
-  }
-
- private:
-  ErrorNumber number_;
-  std::u16string description_;
-  std::u16string member_;
-};
 
 /// Runs a statement and makes a run-time error of a failed allocation.
 template <class Statement>

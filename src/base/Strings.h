@@ -5,11 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "lumenote/Utf8.h"
+
 namespace lumenote {
 
-/// Invalid sequences become U+FFFD; never fails.
-std::string ToUtf8(std::u16string_view text);
-std::u16string FromUtf8(std::string_view bytes);
 /// Whether `bytes` holds nothing but well-formed sequences.
 bool IsUtf8(std::string_view bytes);
 

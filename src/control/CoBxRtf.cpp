@@ -1,4 +1,4 @@
-#include "control/CoBxRtf.h"
+#include "lumenote/CoBxRtf.h"
 
 #include <exception>
 #include <utility>
@@ -10,7 +10,7 @@
 #include "control/Component.h"
 #include "editor/Secours.h"
 #include "editor/SessionLife.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 
@@ -87,6 +87,15 @@ std::shared_ptr<Session> Open(Component& parts) {
   return session;
 }
 
+/// The note of the next opening, which is this one unless the editor is open.
+void PutNote(Component& parts, std::u16string_view note, NoteKind kind) {
+  Session& session = *parts.session;
+  if (!parts.editor.Loaded()) return PrendreNote(session, note, kind);
+  session.note = note;
+  session.noteKind = kind;
+  session.noteReplaced = true;
+}
+
 }  // namespace
 
 CoBxRtf::CoBxRtf(Platform& platform)
@@ -94,6 +103,7 @@ CoBxRtf::CoBxRtf(Platform& platform)
 
 CoBxRtf::~CoBxRtf() {
   const auto close = [&] {
+    parts_->closed = nullptr;
     Co_Rtf* editor = parts_->editor.Loaded();
     if (editor) editor->Values().noteReplaced = true;  // nobody reads it any more
     if (editor && !editor->Unload() && !editor->IsUnloading()) {
@@ -147,11 +157,18 @@ void CoBxRtf::pModelWord(std::u16string_view path) {
 }
 
 void CoBxRtf::pStrOrchm(std::u16string_view noteOrPath) {
-  Guarded(parts_, u"pStrOrchm", [&](Component& parts) {
-    Session& session = *parts.session;
-    if (!parts.editor.Loaded()) return PrendreNote(session, noteOrPath);
-    session.note = noteOrPath;
-    session.noteReplaced = true;
+  Guarded(parts_, u"pStrOrchm",
+          [&](Component& its) { PutNote(its, noteOrPath, NoteKind::AsItLooks); });
+}
+
+void CoBxRtf::NoteText(std::u16string_view note) {
+  Guarded(parts_, u"NoteText", [&](Component& its) { PutNote(its, note, NoteKind::Text); });
+}
+
+void CoBxRtf::NotePath(std::u16string_view path) {
+  Guarded(parts_, u"NotePath", [&](Component& its) {
+    if (!IsDrivePath(path)) throw RuntimeError(ErrorNumber::PathNotFound);
+    PutNote(its, path, NoteKind::Path);
   });
 }
 
@@ -171,6 +188,14 @@ void CoBxRtf::ShowMicroEdit(std::int32_t mode) {
     const std::shared_ptr<Session> session = Open(parts);
     if (wait) parts.windows.Machine().Windows().RunUntil([&] { return session->closed; });
   });
+}
+
+void CoBxRtf::Closed(std::function<void()> handler) {
+  Guarded(parts_, u"Closed", [&](Component& its) { its.closed = std::move(handler); });
+}
+
+void CoBxRtf::HostWindow(std::uintptr_t window) {
+  Guarded(parts_, u"HostWindow", [&](Component& its) { its.hostWindow = window; });
 }
 
 void CoBxRtf::KeepUnsaved() {

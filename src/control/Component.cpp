@@ -1,12 +1,22 @@
 #include "control/Component.h"
 
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 
 namespace lumenote {
 
 Component::Component(Platform& platform)
     : temp(platform.SpecialFolders().MakeTemp()),
       windows(platform),
-      editor([this] { return std::make_unique<Co_Rtf>(windows, session, *temp); }) {}
+      editor([this] { return MakeEditor(); }) {}
+
+std::unique_ptr<Co_Rtf> Component::MakeEditor() {
+  auto window = std::make_unique<Co_Rtf>(windows, session, *temp);
+  window->HostWindow(hostWindow);
+  window->Unloaded = [this] {
+    const auto handler = closed;  // the host may destroy the control in it
+    if (handler) handler();
+  };
+  return window;
+}
 
 }  // namespace lumenote

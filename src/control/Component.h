@@ -1,5 +1,7 @@
 // What stands behind one control: its session, its windows.
 #pragma once
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <thread>
 
@@ -25,6 +27,12 @@ struct Component {
   std::unique_ptr<TempFolder> temp;
   WindowList windows;
   Instance<Co_Rtf> editor;
+  /// The host's own, called when an editor has closed; empty for none.
+  std::function<void()> closed;
+  std::uintptr_t hostWindow = 0;  // which editors stay above; 0 for none
+
+ private:
+  std::unique_ptr<Co_Rtf> MakeEditor();
 };
 
 }  // namespace lumenote

@@ -11,7 +11,7 @@
 #include "format/FormatCommands.h"
 #include "format/Ruler.h"
 #include "format/StyleStore.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "ocr/OcrCommands.h"
 #include "platform/Settings.h"
 #include "selection/LetterCase.h"

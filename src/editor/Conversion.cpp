@@ -10,7 +10,7 @@
 #include "editor/DocumentStorage.h"
 #include "editor/FileState.h"
 #include "editor/Secours.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "session/Session.h"

@@ -10,7 +10,7 @@
 #include "base/Strings.h"
 #include "editor/FileState.h"
 #include "editor/Secours.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"

@@ -3,8 +3,8 @@
 #include <chrono>
 
 #include "base/RuntimeError.h"
-#include "forms/Platform.h"
 #include "forms/Timer.h"
+#include "lumenote/Platform.h"
 #include "platform/Paths.h"
 #include "session/Session.h"
 

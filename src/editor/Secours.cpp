@@ -11,7 +11,7 @@
 #include "editor/DocumentStorage.h"
 #include "extapps/WorkCopies.h"
 #include "forms/Backend.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"

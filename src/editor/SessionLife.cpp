@@ -3,7 +3,7 @@
 #include "base/RuntimeError.h"
 #include "editor/DocumentStorage.h"
 #include "editor/Secours.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "session/Session.h"
@@ -104,18 +104,19 @@ void CloreSession(Session& session) {
   session.closed = true;
   if (session.noteReplaced) {
     session.noteReplaced = false;
-    PrendreNote(session, session.note);
+    PrendreNote(session, session.note, session.noteKind);
   } else if (session.deleted) {
-    PrendreNote(session, {});
+    PrendreNote(session, {}, NoteKind::AsItLooks);
     session.deleted = true;
   }
 }
 
-void PrendreNote(Session& session, std::u16string_view noteOrPath) {
+void PrendreNote(Session& session, std::u16string_view noteOrPath, NoteKind kind) {
   const std::u16string value(noteOrPath);
   session.note = value;
+  session.noteKind = kind;
   session.deleted = false;
-  session.fileMode = IsDrivePath(value);
+  session.fileMode = kind == NoteKind::Path || (kind == NoteKind::AsItLooks && IsDrivePath(value));
   session.documentPath = session.fileMode ? value : std::u16string();
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/TextForm.h"
 #include "session/EditorWindow.h"
+#include "session/Session.h"
 
 namespace lumenote {
 
@@ -26,6 +27,6 @@ Fermeture TerminerEdition(EditorWindow& editor);
 /// deletion an empty one, so that the file is not created again.
 void CloreSession(Session& session);
 /// The host's note or path, and the mode that it means.
-void PrendreNote(Session& session, std::u16string_view noteOrPath);
+void PrendreNote(Session& session, std::u16string_view noteOrPath, NoteKind kind);
 
 }  // namespace lumenote

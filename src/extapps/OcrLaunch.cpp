@@ -1,6 +1,6 @@
 #include "extapps/OcrLaunch.h"
 
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Processes.h"
 #include "platform/ProgramCommand.h"

@@ -9,7 +9,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "extapps/WorkCopies.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"

@@ -8,7 +8,7 @@
 #include "format/FormatCommands.h"
 #include "format/Measures.h"
 #include "format/StyleStore.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "selection/TextUnits.h"
 #include "session/EditorWindow.h"
 #include "session/Session.h"

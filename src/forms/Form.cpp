@@ -7,8 +7,8 @@
 #include "base/Strings.h"
 #include "forms/Button.h"
 #include "forms/Menu.h"
-#include "forms/Platform.h"
 #include "forms/Timer.h"
+#include "lumenote/Platform.h"
 
 namespace lumenote {
 
@@ -170,8 +170,10 @@ bool Form::Unload() {
   Raise([&] { mayGo = Form_QueryUnload(); });
   if (mayGo) Raise([this] { Form_Unload(); });
   unloading_ = false;
-  if (mayGo) TakeDown();
-  return mayGo;
+  if (!mayGo) return false;
+  TakeDown();
+  if (Unloaded) Unloaded();
+  return true;
 }
 
 void Form::Discard() {

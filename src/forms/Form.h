@@ -69,6 +69,10 @@ class Form : public Element, public Container {
   void ShowModal();
   bool IsModal() const { return modal_; }
   Form* OwnerWindow() const { return ownerWindow_; }
+  /// A window of the host's own above which this one stays, as the window system numbers it; 0 for
+  /// none. Written before the form is shown.
+  std::uintptr_t HostWindow() const { return hostWindow_; }
+  void HostWindow(std::uintptr_t window) { hostWindow_ = window; }
   /// Raises QueryUnload, which may refuse, and Unload at once, then leaves the list of windows. A
   /// form that is not loaded, or is unloading already, is left alone. False when the window stays.
   bool Unload();
@@ -115,6 +119,8 @@ class Form : public Element, public Container {
   /// A key that its control had no use for; whether the window had.
   bool UserKey(const KeyStroke& key);
 
+  /// Called when the form has unloaded: its window has gone, and the next one is active.
+  std::function<void()> Unloaded;
   /// Called when the form may be destroyed; set by the keeper.
   std::function<void()> Released;
   /// The form that has this one as a part and stays as long as this one is in use; null for none.
@@ -171,6 +177,7 @@ class Form : public Element, public Container {
   Rect place_;
   std::int32_t backColor_ = -1;
   Form* ownerWindow_ = nullptr;
+  std::uintptr_t hostWindow_ = 0;
   Form* holder_ = nullptr;
   Control* activeControl_ = nullptr;
   Button* defaultButton_ = nullptr;

@@ -2,7 +2,7 @@
 
 #include "base/Numbers.h"
 #include "forms/Form.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 
 namespace lumenote {
 

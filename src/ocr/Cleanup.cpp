@@ -36,11 +36,16 @@ std::int16_t RemplacerTout(RichTextSurface& surface, std::u16string_view find,
   return count;
 }
 
+std::vector<std::int16_t> AppliquerPaires(RichTextSurface& surface, std::string_view list) {
+  std::vector<std::int16_t> counts;
+  CorrectionReader reader(list);
+  while (const auto pair = reader.Next())
+    counts.push_back(RemplacerTout(surface, pair->wrong, pair->right));
+  return counts;
+}
+
 void ApplyListCorr(RichTextSurface& surface, Files& files, std::u16string_view path) {
-  if (!files.Exists(path)) return;
-  const std::string bytes = files.ReadAll(path);
-  CorrectionReader reader(bytes);
-  while (const auto pair = reader.Next()) RemplacerTout(surface, pair->wrong, pair->right);
+  if (files.Exists(path)) AppliquerPaires(surface, files.ReadAll(path));
 }
 
 void NormaliserEspaces(RichTextSurface& surface) {

@@ -2,6 +2,7 @@
 #pragma once
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "platform/RichTextSurface.h"
 
@@ -16,9 +17,11 @@ class Files;
 std::int16_t RemplacerTout(RichTextSurface& surface, std::u16string_view find,
                            std::u16string_view replace);
 
-/// Applies every pair of the list in file order, each to what the pairs before it have left. A
-/// missing list has no pairs. Raises what `CorrectionReader` and `RemplacerTout` do, with the pairs
-/// before that one applied.
+/// Applies every pair of a list, given as the bytes of its file, in order, each to what the pairs
+/// before it have left; how often each was found. Raises what `CorrectionReader` and
+/// `RemplacerTout` do, with the pairs before that one applied.
+std::vector<std::int16_t> AppliquerPaires(RichTextSurface& surface, std::string_view list);
+/// The same with a list's file; a missing one has no pairs.
 void ApplyListCorr(RichTextSurface& surface, Files& files, std::u16string_view path);
 
 /// A blank after each comma and none before it, one on both sides of each semicolon, no two blanks

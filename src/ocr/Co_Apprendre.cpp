@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/RuntimeError.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "ocr/CorrectionList.h"
 #include "session/EditorWindow.h"
 #include "session/Session.h"

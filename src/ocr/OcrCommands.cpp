@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "ocr/Cleanup.h"
 #include "platform/Clipboard.h"
 #include "platform/Files.h"

@@ -34,6 +34,9 @@ struct FileState {
   std::int64_t time = 0;  // of its modification; 0 where a change might not show in it
 };
 
+/// How the host meant its note: as it looks, as a text whatever it looks like, or as a path.
+enum class NoteKind { AsItLooks, Text, Path };
+
 /// One set per control and opening. The host's values stay as written; the derived ones say how the
 /// open editor works.
 struct Session {
@@ -41,6 +44,7 @@ struct Session {
   std::u16string applicationName;
   std::u16string listCorrPath;
   std::u16string note;  // the note itself or its path; what the host reads back
+  NoteKind noteKind = NoteKind::AsItLooks;
   std::u16string windowTitle;
   std::u16string frameTitle;
   std::u16string colourText;

@@ -4,7 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Windows1252.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "platform/Clipboard.h"
 #include "platform/Fonts.h"
 #include "session/EditorWindow.h"

@@ -23,11 +23,11 @@
 #include <unistd.h>
 #include <vector>
 
-#include "backends/qt/QtPlatform.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "control/CoBxRtf.h"
 #include "control/Component.h"
+#include "lumenote/CoBxRtf.h"
+#include "lumenote/QtPlatform.h"
 
 using namespace lumenote;
 

@@ -14,8 +14,8 @@
 
 #include "backends/headless/HeadlessBackend.h"
 #include "base/RuntimeError.h"
-#include "control/CoBxRtf.h"
 #include "control/Component.h"
+#include "lumenote/CoBxRtf.h"
 #include "pilot/machine/PilotPlatform.h"
 #include "pilot/machine/ReportedFonts.h"
 #include "pilot/posix/PosixSandbox.h"

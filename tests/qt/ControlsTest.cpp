@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include "backends/posix/folders/TemporaryFolder.h"
-#include "backends/qt/QtPlatform.h"
-#include "control/CoBxRtf.h"
 #include "control/Component.h"
+#include "lumenote/CoBxRtf.h"
+#include "lumenote/QtPlatform.h"
 
 namespace lumenote {
 namespace {

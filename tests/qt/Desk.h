@@ -8,12 +8,12 @@
 #include "backends/qt/text/QtBreaker.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
-#include "forms/Platform.h"
 #include "forms/Timer.h"
 #include "forms/controls/Frame.h"
 #include "forms/controls/Label.h"
 #include "forms/controls/RichTextBox.h"
 #include "forms/controls/StatusBar.h"
+#include "lumenote/Platform.h"
 #include "surface/DocumentSurface.h"
 #include "surface/Fakes.h"
 

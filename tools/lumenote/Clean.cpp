@@ -8,7 +8,6 @@
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "ocr/Cleanup.h"
 
 namespace lumenote::tool {
 namespace {
@@ -23,37 +22,29 @@ void Check(const CommandLine& line) {
   if (line.Has("--dry-run")) throw CommandLineError("-o et --dry-run s'excluent");
 }
 
-/// Does `act` to the note `name`; a run-time error says that it cannot be cleaned up.
-template <class Act>
-auto Cleaning(const std::string& name, Act act) {
+/// Cleans the note up and returns a line for each pair with its count.
+std::string CleanUp(Note& note, const ListFile& list, const std::string& name) {
+  std::string lines;
   try {
-    return act();
+    const std::vector<std::int16_t> counts = note.Clean(list.Bytes());
+    for (std::size_t i = 0; i < counts.size(); ++i) {
+      const auto& [wrong, right] = list.Pairs()[i];
+      lines += ToUtf8(wrong + u'\t' + right + u'\t') + std::to_string(counts[i]) + '\n';
+    }
   } catch (const RuntimeError& error) {
     throw Failure(name + " : nettoyage impossible : " + error.what());
   }
-}
-
-/// A line for each pair. The blanks are set too, since the note may grow too long by them.
-std::string Foretell(RichTextSurface& surface, const ListFile& list) {
-  std::string lines;
-  for (const auto& [wrong, right] : list.Pairs()) {
-    const int count = RemplacerTout(surface, wrong, right);
-    lines += ToUtf8(wrong + u'\t' + right + u'\t') + std::to_string(count) + '\n';
-  }
-  NormaliserEspaces(surface);
   return lines;
 }
 
-void CleanOne(const CommandLine& line, ListFile& list, const std::string& name) {
-  Note note(name, ReadBytes(name));
-  if (note.Source() != Format::Rtf) throw Failure(name + " : pas une note RTF");
-  if (!line.Has("--dry-run")) {
-    Cleaning(name, [&] { NettoyerTexte(note.Surface(), list.Disk(), list.Path()); });
-    return WriteBytes(line.Value("-o").value_or(name), note.Bytes(Format::Rtf));
-  }
-  std::string lines = Cleaning(name, [&] { return Foretell(note.Surface(), list); });
-  if (line.Operands().size() > 1) lines.insert(0, "==> " + name + " <==\n");
-  WriteBytes("-", lines);
+void CleanOne(const CommandLine& line, const ListFile& list, const std::string& name) {
+  Note note = ReadNote(name);
+  if (note.Source() != Note::Format::Rtf) throw Failure(name + " : pas une note RTF");
+  const std::string lines = CleanUp(note, list, name);
+  if (!line.Has("--dry-run"))
+    return WriteBytes(line.Value("-o").value_or(name), note.Bytes(Note::Format::Rtf));
+  const bool several = line.Operands().size() > 1;
+  WriteBytes("-", several ? "==> " + name + " <==\n" + lines : lines);
 }
 
 }  // namespace
@@ -61,7 +52,7 @@ void CleanOne(const CommandLine& line, ListFile& list, const std::string& name) 
 int Clean(Arguments arguments) {
   const CommandLine line(arguments, kOptions);
   Check(line);
-  ListFile list(line.Value("--list").value_or(""));
+  const ListFile list(line.Value("--list").value_or(""));
   Progress progress(line.Operands().size());
   int status = 0;
   for (const std::string& name : line.Operands()) {

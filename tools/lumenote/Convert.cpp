@@ -9,30 +9,32 @@ namespace {
 constexpr OptionRule kOptions[] = {{"--to", true}};
 
 /// What --to or else the name says; nothing leaves the choice open.
-std::optional<Format> AskedFormat(const CommandLine& line) {
+std::optional<Note::Format> AskedFormat(const CommandLine& line) {
   const std::string& target = line.Operands()[1];
   if (const auto to = line.Value("--to")) {
-    if (*to == "rtf") return Format::Rtf;
-    if (*to == "txt") return Format::Text;
+    if (*to == "rtf") return Note::Format::Rtf;
+    if (*to == "txt") return Note::Format::Text;
     throw CommandLineError("--to attend rtf ou txt");
   }
-  const std::optional<Format> named = FormatOfName(target);
+  const std::optional<Note::Format> named = FormatOfName(target);
   if (!named && target != "-")
     throw CommandLineError(target + " : extension .rtf ou .txt attendue, ou --to");
   return named;
 }
 
-Format OtherThan(Format format) { return format == Format::Rtf ? Format::Text : Format::Rtf; }
+Note::Format OtherThan(Note::Format format) {
+  return format == Note::Format::Rtf ? Note::Format::Text : Note::Format::Rtf;
+}
 
 }  // namespace
 
 int Convert(Arguments arguments) {
   const CommandLine line(arguments, kOptions);
   if (line.Operands().size() != 2) throw CommandLineError("deux fichiers sont attendus");
-  const std::optional<Format> asked = AskedFormat(line);
+  const std::optional<Note::Format> asked = AskedFormat(line);
   const std::string& source = line.Operands()[0];
-  const Note note(source, ReadBytes(source));
-  const Format format = asked.value_or(OtherThan(note.Source()));
+  const Note note = ReadNote(source);
+  const Note::Format format = asked.value_or(OtherThan(note.Source()));
   WriteBytes(line.Operands()[1], note.Bytes(format));
   return 0;
 }

@@ -10,17 +10,8 @@ namespace lumenote::tool {
 
 ListFile::ListFile(const std::string& name) {
   if (name.empty()) return;
-  const std::string bytes = ReadBytes(name);
-  try {
-    path_ = DrivePaths{"/"}.ToDrivePath(Absolute(name));
-  } catch (const RuntimeError& error) {
-    throw Failure(name + " : " + error.what());
-  }
-  ReadPairs(name, bytes);
-}
-
-void ListFile::ReadPairs(const std::string& name, const std::string& bytes) {
-  CorrectionReader reader(bytes);
+  bytes_ = ReadBytes(name);
+  CorrectionReader reader(bytes_);
   try {
     while (const auto pair = reader.Next()) pairs_.push_back(*pair);
   } catch (const RuntimeError& error) {

@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "backends/posix/saving/PosixFiles.h"
 #include "ocr/CorrectionList.h"
 
 namespace lumenote::tool {
@@ -12,19 +11,14 @@ namespace lumenote::tool {
 /// end, so a list that cannot be is told before any note is touched.
 class ListFile {
  public:
-  /// `name` is a native path or empty. Raises `Failure`.
+  /// `name` is a native path, "-" for standard input, or empty. Raises `Failure`.
   explicit ListFile(const std::string& name);
 
+  const std::string& Bytes() const { return bytes_; }
   const std::vector<Correction>& Pairs() const { return pairs_; }
-  /// The list for procedures that read it themselves: `Path()` in `Disk()`.
-  Files& Disk() { return disk_; }
-  const std::u16string& Path() const { return path_; }
 
  private:
-  void ReadPairs(const std::string& name, const std::string& bytes);
-
-  PosixFiles disk_{DrivePaths{"/"}};
-  std::u16string path_;
+  std::string bytes_;
   std::vector<Correction> pairs_;
 };
 

@@ -13,21 +13,11 @@
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "rtf/read/Reader.h"
-#include "rtf/write/Writer.h"
-#include "surface/editing/TextBytes.h"
 
 namespace lumenote::tool {
 namespace {
 
 constexpr std::string_view kStream = "-";
-
-Format FormatOf(const std::string& name, std::string_view bytes) {
-  const std::optional<Format> named = FormatOfName(name);
-  const bool looksLikeRtf = LooksLikeRtf(bytes);
-  if (named == Format::Rtf && !looksLikeRtf) throw Failure(name + " : n'est pas un fichier RTF");
-  return named.value_or(looksLikeRtf ? Format::Rtf : Format::Text);
-}
 
 std::string ReadStandardInput() {
   std::string bytes{std::istreambuf_iterator<char>(std::cin), {}};
@@ -48,23 +38,19 @@ std::string Absolute(const std::string& name) {
   return error ? name : path.string();
 }
 
-std::optional<Format> FormatOfName(std::string_view name) {
+std::optional<Note::Format> FormatOfName(std::string_view name) {
   const std::u16string lower = Lower(FromUtf8(name));
-  if (lower.ends_with(u".rtf")) return Format::Rtf;
-  if (lower.ends_with(u".txt")) return Format::Text;
+  if (lower.ends_with(u".rtf")) return Note::Format::Rtf;
+  if (lower.ends_with(u".txt")) return Note::Format::Text;
   return {};
 }
 
-Note::Note(const std::string& name, std::string_view bytes) : source_(FormatOf(name, bytes)) {
-  if (source_ == Format::Text) form_ = FormOfText(bytes);
-  if (source_ == Format::Rtf)
-    surface_.TextRTF(UnitsOfBytes(bytes));
-  else
-    surface_.Text(DecodeText(bytes, form_));
-}
-
-std::string Note::Bytes(Format format) const {
-  return format == Format::Rtf ? WriteRtf(surface_.Content()) : EncodeTextFile(Text(), form_);
+Note ReadNote(const std::string& name) {
+  const std::string bytes = ReadBytes(name);
+  const auto named = FormatOfName(name);
+  if (named == Note::Format::Rtf && !Note::IsRtf(bytes))
+    throw Failure(name + " : n'est pas un fichier RTF");
+  return named ? Note(bytes, *named) : Note(bytes);
 }
 
 std::string ReadBytes(const std::string& name) {

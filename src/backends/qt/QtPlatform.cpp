@@ -1,4 +1,4 @@
-#include "backends/qt/QtPlatform.h"
+#include "lumenote/QtPlatform.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -18,9 +18,7 @@
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
 #include "backends/qt/QtFonts.h"
-#include "backends/qt/windows/Shot.h"
 #include "backends/qt/x11/X11Windows.h"
-#include "forms/Form.h"
 
 namespace lumenote {
 
@@ -144,10 +142,6 @@ Processes& QtPlatform::Programs() {
 
 std::u16string QtPlatform::ToDrivePath(std::string_view native) const {
   return parts_->drives.ToDrivePath(native);
-}
-
-bool QtPlatform::SaveShot(const Form& form, const std::string& path) {
-  return SaveWindowShot(OnDesktop().windows.Widgets(), form, QString::fromStdString(path));
 }
 
 }  // namespace lumenote

@@ -1,8 +1,8 @@
 #include "forms/controls/RichTextBox.h"
 
 #include "forms/Form.h"
-#include "forms/Platform.h"
 #include "forms/controls/SurfaceMembers.h"
+#include "lumenote/Platform.h"
 
 namespace lumenote {
 

@@ -1,7 +1,7 @@
 #include "forms/controls/TextBox.h"
 
 #include "forms/Form.h"
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 
 namespace lumenote {
 

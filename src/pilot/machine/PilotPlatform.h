@@ -1,6 +1,6 @@
 // The machine of a script: files, settings and programs of a sandbox, and windows.
 #pragma once
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 #include "pilot/machine/Sandbox.h"
 #include "pilot/machine/StandIns.h"
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "control/CoBxRtf.h"
 #include "control/Component.h"
 #include "forms/controls/UserActs.h"
+#include "lumenote/CoBxRtf.h"
 #include "pilot/language/Transcript.h"
 #include "pilot/machine/PilotBackend.h"
 #include "pilot/machine/ReportedFonts.h"

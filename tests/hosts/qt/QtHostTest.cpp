@@ -7,14 +7,15 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWindow>
 #include <gtest/gtest.h>
 #include <optional>
 #include <thread>
 
-#include "backends/qt/QtPlatform.h"
 #include "base/ErrorOf.h"
-#include "control/CoBxRtf.h"
 #include "control/Component.h"
+#include "lumenote/CoBxRtf.h"
+#include "lumenote/QtPlatform.h"
 
 namespace lumenote {
 namespace {
@@ -141,6 +142,21 @@ TEST(QtHostTest, TheNextNoteOpensWhileAModalWindowOrABoxOfTheOldOneIsUp) {
     EXPECT_EQ(control->pStrOrchm(), u"la suite");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   }
+}
+
+TEST(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
+  const Application application;
+  QtPlatform platform;
+  QWidget host;
+  host.show();
+  const auto control = MakeControl(platform);
+  const auto owner = [&] { return QApplication::topLevelWindows().constLast()->transientParent(); };
+  control->ShowMicroEdit();
+  EXPECT_EQ(owner(), nullptr);
+  control->pStrOrchm();
+  control->HostWindow(host.winId());
+  control->ShowMicroEdit();
+  EXPECT_EQ(owner(), host.windowHandle());
 }
 
 TEST(QtHostTest, TheControlGoesWhileItWaitsOrAsks) {

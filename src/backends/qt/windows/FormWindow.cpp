@@ -68,9 +68,18 @@ void FormWindow::ShowVisible(QWidget* owner) {
   ChooseKind();
   winId();
   windowHandle()->installEventFilter(this);
-  windowHandle()->setTransientParent(owner ? owner->windowHandle() : nullptr);
+  windowHandle()->setTransientParent(owner ? owner->windowHandle() : HostWindow());
   ShowGeometry();
   show();
+}
+
+/// The window of the host's own, which may be of another toolkit; null for none.
+QWindow* FormWindow::HostWindow() {
+  const auto number = static_cast<WId>(form_->HostWindow());
+  if (number == 0) return nullptr;
+  if (const QWidget* widget = QWidget::find(number)) return widget->window()->windowHandle();
+  hostWindow_.reset(QWindow::fromWinId(number));
+  return hostWindow_.get();
 }
 
 void FormWindow::ShowOnTop() {

@@ -2,6 +2,8 @@
 #pragma once
 #include <QMenuBar>
 #include <QWidget>
+#include <QWindow>
+#include <memory>
 #include <optional>
 
 #include "backends/qt/windows/WindowGeometry.h"
@@ -57,6 +59,7 @@ class FormWindow : public QWidget {
 
  private:
   void ChooseKind();
+  QWindow* HostWindow();
 
   Form* form_;
   ActivationListener& listener_;
@@ -64,6 +67,7 @@ class FormWindow : public QWidget {
   QWidget* content_;
   QWidget* docked_ = nullptr;
   WindowGeometry geometry_;
+  std::unique_ptr<QWindow> hostWindow_;  // one that is no widget of this program
 };
 
 }  // namespace lumenote

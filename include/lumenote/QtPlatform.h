@@ -4,11 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "forms/Platform.h"
+#include "lumenote/Platform.h"
 
 namespace lumenote {
-
-class Form;
 
 /// `QtPlatform platform; CoBxRtf control(platform);` is all a host needs. The windows, the
 /// clipboard, the fonts and the programs use the host's QApplication, which may be made after the
@@ -34,10 +32,6 @@ class QtPlatform final : public Platform {
   /// A native path, UTF-8, as the path that the control takes. Raises PathNotFound for one that no
   /// drive-letter path can name.
   std::u16string ToDrivePath(std::string_view native) const;
-
-  /// Draws the window of a form that is loaded, without the desktop's decorations, into a PNG file
-  /// of that native path; false when it cannot be written.
-  bool SaveShot(const Form& form, const std::string& path);
 
  private:
   struct Parts;

@@ -1,13 +1,16 @@
 // The public control: a host sets its properties, opens the editor, reads the note back.
 #pragma once
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include "lumenote/Platform.h"
+#include "lumenote/RuntimeError.h"
+
 namespace lumenote {
 
-class Platform;
 struct Component;
 
 /// Hosts speak drive-letter paths on every system; `ToDrivePath` of the platform makes one of a
@@ -61,6 +64,23 @@ class CoBxRtf {
   /// InvalidArgument (5): that wait could not end. What a platform without windows raises comes out
   /// here, too.
   void ShowMicroEdit(std::int32_t mode = 0);
+
+  // Comfort for hosts in C++. Without a call nothing changes in what the members above do.
+
+  /// The note itself, even where it looks like a path ("T:\\ 12 m, sous chênes"). As `pStrOrchm`
+  /// otherwise.
+  void NoteText(std::u16string_view note);
+  /// The path of the note's file, as `pStrOrchm` takes it. Raises PathNotFound (76) for a text that
+  /// is no such path.
+  void NotePath(std::u16string_view path);
+  /// `handler` is called each time an editor of this control has closed, whoever closed it, before
+  /// the wait of `ShowMicroEdit(1)` returns: of two notes open at once the first one closed is told
+  /// first, though its wait ends last. The note can be read then; every member may be used, the
+  /// destructor included. It must not throw. Empty for none; the control's own end tells nothing.
+  void Closed(std::function<void()> handler);
+  /// The host's window above which the editors that are opened from now on stay, as the window
+  /// system numbers it: a `QWidget::winId()`, an X window, an HWND. 0, as at first, for none.
+  void HostWindow(std::uintptr_t window);
 
   /// Brings the recovery copy of an edited note up to date at once, for a program that has to end
   /// now: by a signal, the session's end, a lost display. Nothing is asked and the editor stays as

@@ -1,0 +1,12 @@
+// The component's strings are UTF-16; these are the ways in and out for hosts that keep UTF-8.
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace lumenote {
+
+/// Invalid sequences become U+FFFD; never fails.
+std::string ToUtf8(std::u16string_view text);
+std::u16string FromUtf8(std::string_view bytes);
+
+}  // namespace lumenote
