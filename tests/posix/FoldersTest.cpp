@@ -14,10 +14,10 @@ class FoldersTest : public SandboxTest {
  protected:
   ScopedVariable home_{"HOME", folder_.Path().c_str()};
   ScopedVariable config_{"XDG_CONFIG_HOME", nullptr};
+  ScopedVariable temporary_{"TMPDIR", folder_.Path().c_str()};
 };
 
 TEST_F(FoldersTest, TempIsPrivateAndGoesWithItsOwner) {
-  const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
   PosixFolders folders(drives_);
   const std::unique_ptr<TempFolder> other = folders.MakeTemp();
   std::unique_ptr<TempFolder> temp = folders.MakeTemp();
@@ -31,7 +31,6 @@ TEST_F(FoldersTest, TempIsPrivateAndGoesWithItsOwner) {
 }
 
 TEST_F(FoldersTest, AProgramThatWorksInATemporaryFolderKeepsIt) {
-  const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
   for (const bool outlivesAll : {false, true}) {
     bool inUse = true;
     std::optional<PosixFolders> folders(std::in_place, drives_, [&] { return inUse; });
@@ -55,7 +54,6 @@ void Age(const std::filesystem::path& folder) {
 }
 
 TEST_F(FoldersTest, WhatWasKeptGoesAWeekAfterItsLastChange) {
-  const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
   std::string kept;
   {
     TemporaryFolder folder;
@@ -67,36 +65,31 @@ TEST_F(FoldersTest, WhatWasKeptGoesAWeekAfterItsLastChange) {
     EXPECT_TRUE(std::filesystem::exists(owned.Path()));
   }
   std::filesystem::create_directories(kept + "/in/depth");
-  std::ofstream(kept + "/in/depth/Sava.rtf") << "x";
-  Age(kept);
-  std::ofstream(kept + "/in/depth/Sava.rtf") << "in use";
-  { const TemporaryFolder another; }
-  EXPECT_TRUE(std::filesystem::exists(kept + "/in/depth/Sava.rtf"));
-  Age(kept);
-  const TemporaryFolder next;
+  for (const bool inUse : {true, false}) {
+    std::ofstream(kept + "/in/depth/Sava.rtf") << "x";
+    Age(kept);
+    if (inUse) std::ofstream(kept + "/in/depth/Sava.rtf") << "in use";
+    { const TemporaryFolder next; }
+    EXPECT_EQ(std::filesystem::exists(kept + "/in/depth/Sava.rtf"), inUse);
+  }
   EXPECT_FALSE(std::filesystem::exists(kept));
 }
 
 TEST_F(FoldersTest, WhatIsNotMarkedAsOursStays) {
-  const ScopedVariable temporary("TMPDIR", folder_.Path().c_str());
-  const auto mark = [this](const std::string& folder) {
-    return Native(folder + "/" + TemporaryFolder::kMarkName);
-  };
+  const std::string mark = std::string("/") + TemporaryFolder::kMarkName;
   TemporaryFolder ours;
   ours.Keep();
-  for (const char* name : {"lumenote-herbes", "lumenote-autres", "lumenote-copied"}) {
+  const std::string names[] = {"lumenote-herbes", "lumenote-autres", "lumenote-copied"};
+  for (const std::string& name : names) {
     std::filesystem::create_directory(Native(name));
-    Put(std::string(name) + "/note.rtf", "{\\rtf1}");
+    Put(name + "/note.rtf", "{\\rtf1}");
   }
-  Put(std::string("lumenote-autres/") + TemporaryFolder::kMarkName, "Temporary");
-  std::filesystem::create_symlink(ours.Path() + "/" + TemporaryFolder::kMarkName,
-                                  mark("lumenote-copied"));
-  for (const char* name : {"lumenote-herbes", "lumenote-autres", "lumenote-copied"})
-    Age(Native(name));
-  std::filesystem::create_directory_symlink("lumenote-herbes", Native("lumenote-linked"));
+  Put(names[1] + mark, "Temporary");
+  std::filesystem::create_symlink(ours.Path() + mark, Native(names[2] + mark));
+  for (const std::string& name : names) Age(Native(name));
+  std::filesystem::create_directory_symlink(names[0], Native("lumenote-linked"));
   { const TemporaryFolder next; }
-  for (const char* name : {"lumenote-herbes", "lumenote-autres", "lumenote-copied"})
-    EXPECT_EQ(Get(std::string(name) + "/note.rtf"), "{\\rtf1}");
+  for (const std::string& name : names) EXPECT_EQ(Get(name + "/note.rtf"), "{\\rtf1}");
   std::filesystem::remove_all(ours.Path());
 }
 

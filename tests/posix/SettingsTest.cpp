@@ -34,15 +34,6 @@ TEST_F(SettingsTest, AnyNameAndValueSurvives) {
   }
 }
 
-TEST_F(SettingsTest, WhatIsMissingReadsAsNothing) {
-  EXPECT_EQ(settings_.Read(u"a", u"s", u"k"), std::nullopt);
-  settings_.Write(u"a", u"s", u"k", u"");
-  EXPECT_EQ(settings_.Read(u"a", u"s", u"k"), u"");
-  EXPECT_EQ(settings_.Read(u"a", u"S", u"k"), std::nullopt);
-  std::filesystem::remove(path_);
-  EXPECT_EQ(settings_.Read(u"a", u"s", u"k"), std::nullopt);
-}
-
 TEST_F(SettingsTest, MalformedLinesMeanNothingAndStay) {
   const std::string before =
       "stray=1\n; note\n[App/Sec]\r\n key = first \r\nno "
@@ -91,34 +82,35 @@ TEST_F(SettingsTest, AnothersChangeIsSeen) {
     other.Write(u"a", u"s", u"k", value);
     EXPECT_EQ(settings_.Read(u"a", u"s", u"k"), value);
   }
+  EXPECT_EQ(settings_.Read(u"a", u"S", u"k"), std::nullopt);
   const auto past = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
   std::filesystem::last_write_time(path_, past);
   EXPECT_EQ(settings_.Read(u"a", u"s", u"k"), u"4");
   other.Write(u"a", u"s", u"k", u"5");
   EXPECT_EQ(settings_.Read(u"a", u"s", u"k"), u"5");
+  std::filesystem::remove(path_);
+  EXPECT_EQ(settings_.Read(u"a", u"s", u"k"), std::nullopt);
 }
 
 TEST_F(SettingsTest, FailingToWriteIsPathAccessAndHurtsNothing) {
   Put("blocked", "x");
-  IniSettings below(Native("blocked/settings.ini"));
-  EXPECT_EQ(ErrorOf([&] { below.Write(u"a", u"s", u"k", u"v"); }), 75);
-  EXPECT_EQ(below.Read(u"a", u"s", u"k"), std::nullopt);
   Put("locked.ini", "[a/s]\nk=old\n", 0444);
-  IniSettings locked(Native("locked.ini"));
-  EXPECT_EQ(ErrorOf([&] { locked.Write(u"a", u"s", u"k", u"v"); }), 75);
-  EXPECT_EQ(locked.Read(u"a", u"s", u"k"), u"old");
+  const std::pair<std::string, std::optional<std::u16string>> cases[] = {
+      {Native("blocked/settings.ini"), std::nullopt},
+      {Native("locked.ini"), u"old"},
+      {"", std::nullopt}};
+  for (const auto& [path, value] : cases) {
+    IniSettings settings(path);
+    EXPECT_EQ(ErrorOf([&] { settings.Write(u"a", u"s", u"k", u"v"); }), 75) << path;
+    EXPECT_EQ(settings.Read(u"a", u"s", u"k"), value) << path;
+  }
 }
 
-TEST_F(SettingsTest, TheUsersFileIsPrivateAndNeedsNoHome) {
-  {
-    const ScopedVariable config("XDG_CONFIG_HOME", Native("config").c_str());
-    IniSettings().Write(u"a", u"s", u"k", u"v");
-    EXPECT_EQ(Get("config/lumenote/settings.ini"), "[a/s]\nk=v\n");
-    EXPECT_EQ(ModeOf("config/lumenote/settings.ini"), 0600U);
-  }
-  IniSettings nowhere("");
-  EXPECT_EQ(nowhere.Read(u"a", u"s", u"k"), std::nullopt);
-  EXPECT_EQ(ErrorOf([&] { nowhere.Write(u"a", u"s", u"k", u"v"); }), 75);
+TEST_F(SettingsTest, TheUsersFileIsPrivate) {
+  const ScopedVariable config("XDG_CONFIG_HOME", Native("config").c_str());
+  IniSettings().Write(u"a", u"s", u"k", u"v");
+  EXPECT_EQ(Get("config/lumenote/settings.ini"), "[a/s]\nk=v\n");
+  EXPECT_EQ(ModeOf("config/lumenote/settings.ini"), 0600U);
 }
 
 }  // namespace
