@@ -22,12 +22,6 @@ class Life(Desktop):
         self.front(f"Note {len(notes)}")
         self.note = self.window("Note 1")
 
-    def test_quitting_closes_every_editor(self):
-        self.show("un", "deux")
-        self.host.tell("quit")
-        self.assertEqual(self.host.process.wait(timeout=60), 0)
-        self.assertEqual(self.host.lines()[-1], "ended")
-
     def test_quitting_ends_a_wait(self):
         self.show("un", "deux")
         self.host.tell("wait 1")
@@ -57,16 +51,6 @@ class Life(Desktop):
             self.keys(box, "Return")
             self.wait(lambda: sum("Note" in title for title in self.titles()) <= left, "the closing")
         self.assertEqual(self.host.process.wait(timeout=60), 0)
-
-    def test_two_notes_stay_apart(self):
-        self.show("un", "deux")
-        for number in (1, 2):
-            self.type(self.window(f"Note {number}"), "x")
-        for number, text in ((1, "xun"), (2, "xdeux")):
-            self.host.waits_for(f"text {number}", text)
-            self.host.tell(f"read {number}")
-            self.keys(self.front("notes_host"), "Return")
-            self.wait(lambda: self.host.lines()[-1] == text, "the note")
 
     def test_windows_that_change_quickly_are_all_activated(self):
         self.show("un deux\r\ntrois quatre")

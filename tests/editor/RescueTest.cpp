@@ -206,6 +206,9 @@ TEST_F(RescueTest, WhatComesTooLateOutlivesACloseInTheBox) {
     control->pStrOrchm();
     disk.Write(u"C:\\Temp\\Sava.rtf", "{\\rtf1 un}");
     disk.Write(u"C:\\Temp\\Sava.txt", "deux");
+    Open(u"C:\\n\\a.txt");
+    control->pStrOrchm();
+    EXPECT_EQ(Boxes(), Texts());  // the program still runs
     sandbox.Programs().Finish();
     if (!controlGoes) {
       Fail("read", u"Sava.txt");

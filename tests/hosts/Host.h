@@ -86,14 +86,6 @@ class DisturbedFiles final : public PosixFiles {
     before("delete", path);
     PosixFiles::Delete(path, force);
   }
-  void Copy(std::u16string_view from, std::u16string_view to) override {
-    before("write", to);
-    PosixFiles::Copy(from, to);
-  }
-  void Move(std::u16string_view from, std::u16string_view to) override {
-    before("write", to);
-    PosixFiles::Move(from, to);
-  }
 
   /// May raise, or change something on the disk.
   std::function<void(std::string_view operation, std::u16string_view path)> before =

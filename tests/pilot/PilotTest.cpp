@@ -94,7 +94,6 @@ class PilotTest : public testing::Test {
 };
 
 const std::string kError = "{\"error\":13,\"description\":\"Incompatibilité de type\"}\n";
-const std::string kDisabled = "{\"error\":\"pilot\",\"description\":\"disabled\"}\n";
 
 TEST_F(PilotTest, AnErrorAtAnEventsEdgeIsPrintedByItsCommandAndShownOnce) {
   first.Show();
@@ -107,18 +106,6 @@ TEST_F(PilotTest, AnErrorAtAnEventsEdgeIsPrintedByItsCommandAndShownOnce) {
                 "\"buttons\":\"OK\",\"icon\":\"critical\",\"answer\":\"OK\"}]\n" +
                 kError);
   EXPECT_EQ(backend.TakeBoxes().size(), 2U);
-}
-
-TEST_F(PilotTest, LinesRunInsideAModalWindowWhichLocksTheOthers) {
-  first.Show();
-  first.Clicked = [&] {
-    second.ShowModal();
-    throw RuntimeError(ErrorNumber::TypeMismatch);
-  };
-  EXPECT_EQ(Run("click Co_Trouver.lbl\n"
-                "get Co_Paragraph.Visible\nclick Co_Trouver.lbl\nclose Co_Trouver\n"
-                "click Co_Paragraph.lbl\nclose Co_Paragraph\nget Co_Trouver.Visible\n"),
-            "true\n" + kDisabled + kDisabled + kError + "true\n");
 }
 
 TEST_F(PilotTest, AWindowThatCannotBeClosedDoesNotHoldTheEndUp) {
@@ -190,16 +177,6 @@ TEST_F(PilotTest, DifferencesOfAWindowFailTheScript) {
   Run("get Co_Paragraph.Left\n");
   EXPECT_EQ(transcript.Close(), 1);
   EXPECT_EQ(err.str(), "line 1: get Co_Paragraph.Left\n  Co_Paragraph: caption\n");
-}
-
-TEST(HeadlessBackendTest, AWaitThatCannotEndIsRefused) {
-  HeadlessBackend backend;
-  EXPECT_THROW(backend.RunUntil([] { return false; }), RuntimeError);
-  EXPECT_NO_THROW(backend.RunUntil([] { return true; }));
-  MessageBox question;
-  question.buttons = MessageBox::Buttons::YesNo;
-  EXPECT_EQ(backend.Show(question, nullptr), MessageBox::Answer::Yes);
-  EXPECT_EQ(backend.Show({}, nullptr), MessageBox::Answer::Ok);
 }
 
 }  // namespace

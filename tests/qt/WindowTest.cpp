@@ -113,20 +113,6 @@ TEST_F(WindowTest, OnlyChangesBetweenWindowsActivate) {
   EXPECT_EQ(other.activations, 1);
 }
 
-// The desktop still thinks of the window before as the active one, and says nothing.
-TEST_F(WindowTest, AClickActivatesWhateverTheDesktopSays) {
-  TestForm other(windows, "Other");
-  other.Show();
-  acts.Activate(other);
-  form->Activate();
-  ASSERT_EQ(windows.Active(), form.get());
-  QWindow* native = platform.windows.Widgets().Find<FormWindow>(other)->windowHandle();
-  QMouseEvent press(QEvent::MouseButtonPress, {200, 200}, native->mapToGlobal(QPointF(200, 200)),
-                    Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(native, &press);
-  EXPECT_EQ(windows.Active(), &other);
-}
-
 TEST_F(WindowTest, AModalWindowLocksTheOthersUntilItHasUnloaded) {
   TestForm modal(windows, "Modal");
   bool locked = false;
@@ -156,18 +142,6 @@ TEST_F(WindowTest, AssistiveProgramsReadAndEdit) {
   EXPECT_EQ(start, 9);
   accessible->editableTextInterface()->replaceText(0, 2, QStringLiteral("une"));
   EXPECT_EQ(form->box.Surface().Text(), u"une deux\r\ntrois");
-}
-
-TEST_F(WindowTest, TimersTickWhileWaiting) {
-  int ticks = 0;
-  Timer& timer = form->timer;
-  timer.Tick = [&] {
-    if (++ticks == 3) timer.Enabled(false);
-  };
-  timer.Interval(1);
-  timer.Enabled(true);
-  platform.windows.RunUntil([&] { return ticks == 3; });
-  EXPECT_EQ(ticks, 3);
 }
 
 TEST_F(WindowTest, AHugeFormHasAWindowOfBoundedSize) {
