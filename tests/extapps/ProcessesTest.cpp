@@ -51,24 +51,17 @@ class ProcessesTest : public SandboxTest {
   PosixProcesses processes{drives_};
 };
 
-TEST_F(ProcessesTest, AnyFileNameIsOneArgument) {
+TEST_F(ProcessesTest, AnyFileNameIsOneNativeArgumentAndTheTemplateSwitchGoes) {
   for (const std::string name :
        {"a b", "a\"b", "\"", "\" \"", "\"\"a", "'$x", "a\tb\nc", " ", "é α"}) {
     std::filesystem::create_directory(Native(name));
     Script(name + "/p.exe", "printf '%s|' \"$@\" > \"${0%/*}/out\"\n");
     const std::u16string folder = u"C:\\" + FromUtf8(name) + u"\\";
     EXPECT_TRUE(EndsSoon(processes.Start(QuotedProgram(folder + u"p.exe") + u" " +
-                                         Quoted(folder + FromUtf8(name) + u".rtf") + u" x")));
+                                         Quoted(folder + FromUtf8(name) + u".rtf") +
+                                         u" x /l\"C:\\m.dot\"")));
     EXPECT_EQ(Get(name + "/out"), Native(name + "/" + name + ".rtf") + "|x|");
   }
-}
-
-TEST_F(ProcessesTest, ArgumentsBecomeNativeAndTheTemplateSwitchGoes) {
-  Script("p q.exe", "printf '%s|' \"$@\" > \"${0%/*}/out\"\n");
-  const ProcessId process =
-      processes.Start(u"\"C:\\p q.exe\" \"C:\\Temp\\Sav a.rtf\" x /l\"C:\\m.dot\"");
-  EXPECT_TRUE(EndsSoon(process));
-  EXPECT_EQ(Get("out"), Native("Temp/Sav a.rtf") + "|x|");
   EXPECT_FALSE(HasChildren());
 }
 
@@ -89,36 +82,33 @@ TEST_F(ProcessesTest, AProgramRunsWhileAnythingOfItsGroupDoes) {
   EXPECT_TRUE(EndsSoon(process));
 }
 
+/// Of a program the user's other instances end too; a script is only known by what was started
+/// here.
 TEST_F(ProcessesTest, OnlyTheProgramItselfIsEnded) {
-  std::filesystem::copy_file("/bin/sleep", Native("a.exe"));
-  std::filesystem::copy_file("/bin/sleep", Native("b.exe"));
-  PosixProcesses another(drives_);
-  const ProcessId own = processes.Start(u"C:\\a.exe 60");
-  const ProcessId foreign = another.Start(u"C:\\a.exe 60");
-  const ProcessId other = processes.Start(u"C:\\b.exe 60");
-  EXPECT_TRUE(processes.Lingering(u"C:\\a.exe"));
-  EXPECT_FALSE(processes.Terminate(u"C:\\a.exe"));
-  EXPECT_TRUE(EndsSoon(own));
-  EXPECT_TRUE(Soon([&] { return !another.IsRunning(foreign); }));
-  EXPECT_FALSE(processes.Lingering(u"C:\\a.exe"));
-  EXPECT_TRUE(processes.IsRunning(other));
-  processes.Terminate(u"C:\\b.exe");
-  EXPECT_TRUE(EndsSoon(other));
-}
-
-TEST_F(ProcessesTest, OtherScriptsOfTheInterpreterAreLeftAlone) {
-  Script("a.exe", "while :; do sleep 0.02; done\n");
-  std::filesystem::copy_file(Native("a.exe"), Native("b.exe"));
-  PosixProcesses another(drives_);
-  const ProcessId foreign = another.Start(u"C:\\a.exe");
-  const ProcessId other = another.Start(u"C:\\b.exe");
-  const ProcessId own = processes.Start(u"C:\\a.exe");
-  EXPECT_FALSE(processes.Terminate(u"C:\\a.exe"));
-  EXPECT_TRUE(EndsSoon(own));
-  EXPECT_TRUE(another.IsRunning(foreign) && another.IsRunning(other));
-  another.Terminate(u"C:\\a.exe");
-  another.Terminate(u"C:\\b.exe");
-  EXPECT_TRUE(Soon([&] { return !another.IsRunning(foreign) && !another.IsRunning(other); }));
+  for (const bool script : {false, true}) {
+    const auto install = [&](const std::string& name) {
+      if (script) return Script(name, "while :; do sleep 0.02; done\n");
+      std::filesystem::copy_file("/bin/sleep", Native(name));
+    };
+    std::filesystem::remove(Native("a.exe"));
+    std::filesystem::remove(Native("b.exe"));
+    install("a.exe");
+    install("b.exe");
+    PosixProcesses another(drives_);
+    const ProcessId own = processes.Start(u"C:\\a.exe 60");
+    const ProcessId foreign = another.Start(u"C:\\a.exe 60");
+    const ProcessId other = processes.Start(u"C:\\b.exe 60");
+    EXPECT_TRUE(processes.Lingering(u"C:\\a.exe"));
+    EXPECT_FALSE(processes.Terminate(u"C:\\a.exe"));
+    EXPECT_TRUE(EndsSoon(own));
+    EXPECT_TRUE(script || Soon([&] { return !another.IsRunning(foreign); }));
+    EXPECT_EQ(another.IsRunning(foreign), script);
+    EXPECT_FALSE(processes.Lingering(u"C:\\a.exe"));
+    EXPECT_TRUE(processes.IsRunning(other));
+    another.Terminate(u"C:\\a.exe");
+    processes.Terminate(u"C:\\b.exe");
+    EXPECT_TRUE(EndsSoon(other));
+  }
 }
 
 TEST_F(ProcessesTest, AProgramWithWindowsIsAskedThroughThem) {
