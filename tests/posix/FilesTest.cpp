@@ -53,7 +53,7 @@ int ErrorInChild(Act act) {
 
 TEST_F(FilesTest, WritesAndReadsBytes) {
   const mode_t mask = umask(027);
-  for (const std::string bytes : {std::string("a\0\r\n\xFF", 5), std::string()}) {
+  for (const std::string& bytes : {std::string("a\0\r\n\xFF", 5), std::string()}) {
     files_.Write(u"C:\\Été.rtf", bytes);
     EXPECT_EQ(Get("Été.rtf"), bytes);
     EXPECT_EQ(files_.ReadAll(u"C:\\Été.rtf"), bytes);
