@@ -4,7 +4,9 @@ if(LUMENOTE_WERROR)
   add_compile_options(-Werror)
 endif()
 if(LUMENOTE_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  # Assertions are on wherever faults are looked for.
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+    -UNDEBUG)
   add_link_options(-fsanitize=address,undefined)
 endif()
 # GCC 12 sees overlapping copies in plain string concatenations that it has inlined.

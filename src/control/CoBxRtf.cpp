@@ -47,8 +47,8 @@ auto Named(std::u16string_view member, Body body) {
 /// The same on the control's thread only. The parts outlive the call even when an event of the host
 /// destroys the control meanwhile.
 template <class Body>
-auto Guarded(std::shared_ptr<Component> parts, std::u16string_view member, Body body) {
-  return Named(member, [&] {
+auto Guarded(const std::shared_ptr<Component>& control, std::u16string_view member, Body body) {
+  return Named(member, [&, parts = control] {
     if (parts->thread != std::this_thread::get_id())
       throw RuntimeError(ErrorNumber::InvalidArgument,
                          u"Appel depuis un autre fil d'exécution que celui du contrôle");
@@ -72,7 +72,7 @@ std::int32_t ColourOf(const std::u16string& text) {
 
 /// Shows the editor and returns the session that it works on.
 std::shared_ptr<Session> Open(Component& parts) {
-  const std::shared_ptr<Session> session = parts.session;
+  std::shared_ptr<Session> session = parts.session;
   const bool open = parts.editor.Loaded() != nullptr;
   Co_Rtf& editor = parts.editor.Get();
   const Form::InUse use(editor);

@@ -1,6 +1,7 @@
 #include "document/text/Leaf.h"
 
 #include <algorithm>
+#include <cassert>
 #include <string_view>
 #include <type_traits>
 
@@ -47,9 +48,15 @@ void Leaf::Replace(Position at, Position removed, const Leaf& piece) {
   const Position before = gone > 0 || !piece.marks.empty() ? BreaksBetween(0, at) : 0;
   text.Replace(at, removed, piece.text.View());
   runs.Replace(at, removed, piece.runs);
-  if (gone == 0 && piece.marks.empty()) return;
-  const auto first = marks.begin() + before;
-  marks.insert(marks.erase(first, first + gone), piece.marks.begin(), piece.marks.end());
+  if (gone > 0 || !piece.marks.empty()) {
+    const auto first = marks.begin() + before;
+    marks.insert(marks.erase(first, first + gone), piece.marks.begin(), piece.marks.end());
+  }
+  assert(IsSound());
+}
+
+bool Leaf::IsSound() const {
+  return runs.Length() == Size() && static_cast<Position>(marks.size()) == CountBreaks(text.View());
 }
 
 Leaf Leaf::Part(Position from, Position to) const {

@@ -29,6 +29,8 @@ struct Leaf {
   /// when an allocation fails.
   void Replace(Position at, Position removed, const Leaf& piece);
   Leaf Part(Position from, Position to) const;
+  /// Whether the invariants hold, for assertions.
+  bool IsSound() const;
 };
 
 /// Leaves are shared between lists; a list copies one before it writes to it.

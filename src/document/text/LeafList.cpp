@@ -1,5 +1,6 @@
 #include "document/text/LeafList.h"
 
+#include <cassert>
 #include <new>
 #include <utility>
 
@@ -58,6 +59,7 @@ void LeafList::Append(LeafList tail) {
   const std::size_t leaf = groups_[seam - 1].Size();
   JoinGroups(seam);
   JoinLeaves(seam - 1, leaf);
+  assert(IsSound());
 }
 
 LeafList LeafList::Split(Position at) {
@@ -79,6 +81,7 @@ LeafList LeafList::Split(Position at) {
   const std::size_t last = groups_.Size() - 1;
   JoinLeaves(last, groups_[last].Size() - 1);
   JoinGroups(last);
+  assert(IsSound() && tail.IsSound());
   return tail;
 }
 
@@ -135,7 +138,18 @@ std::optional<LeafList> LeafList::ReplaceInLeaf(Position from, Position to, cons
     group.Change(place.leaf, [&](LeafPointer& own) { Own(own).Replace(at, to - from, inserted); });
   });
   if (size < kJoinedMost) Tidy(place);
+  assert(IsSound());
   return removed;
+}
+
+bool LeafList::IsSound() const {
+  for (std::size_t group = 0; group < groups_.Size(); ++group) {
+    const LeafGroup& leaves = groups_[group];
+    if (leaves.Empty() || leaves.Size() > kGroupMost) return false;
+    for (std::size_t leaf = 0; leaf < leaves.Size(); ++leaf)
+      if (leaves[leaf]->Size() == 0 || leaves[leaf]->Size() > Leaf::kCapacity) return false;
+  }
+  return true;
 }
 
 // The text is where it belongs already, so crumbs may lie there until there is memory again.

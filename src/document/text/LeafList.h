@@ -89,6 +89,10 @@ class LeafList {
   void ForEachMark(Position first, Position last, Visit visit) const;
 
  private:
+  /// Whether no leaf and no group is empty or too large, for assertions; crumbs may lie about after
+  /// a failed allocation.
+  bool IsSound() const;
+
   static constexpr Position kJoinedMost = Leaf::kCapacity / 2;
   static constexpr std::size_t kGroupMost = 128;
 

@@ -1,6 +1,7 @@
 #include "document/text/Runs.h"
 
 #include <algorithm>
+#include <cassert>
 #include <iterator>
 
 namespace lumenote {
@@ -36,6 +37,7 @@ void Runs::Replace(Position at, Position removed, const Runs& inserted) {
   length_ += inserted.length_ - removed;
   JoinBefore(first + count);
   JoinBefore(first);
+  assert(IsSound());
 }
 
 Runs Runs::Part(Position from, Position to) const {
@@ -48,6 +50,16 @@ Runs Runs::Part(Position from, Position to) const {
     part.Append(end - std::max(start, from), items_[i].format);
   }
   return part;
+}
+
+bool Runs::IsSound() const {
+  Position length = 0;
+  for (const Run run : items_) {
+    if (run.length == 0) return false;
+    length += static_cast<Position>(run.length);
+  }
+  const auto alike = [](Run one, Run other) { return one.format == other.format; };
+  return length == length_ && std::ranges::adjacent_find(items_, alike) == items_.end();
 }
 
 void Runs::Clear() {

@@ -39,6 +39,9 @@ class Runs {
     return result;
   }
   void Clear();
+  Position Length() const { return length_; }
+  /// Whether the invariants hold, for assertions.
+  bool IsSound() const;
 
  private:
   using Index = std::ptrdiff_t;

@@ -24,6 +24,7 @@ void UndoLog::Push(const UndoEdit& edit, const LeafList& removed) {
 }
 
 UndoLog::Taken UndoLog::Take() {
+  assert(StepHasEdits());
   const UndoEdit edit = edits_.back();
   Taken taken{edit, {removed_.Pop(edit.removed), edit.mark}};
   edits_.pop_back();

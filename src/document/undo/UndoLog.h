@@ -1,5 +1,6 @@
 // One direction of the undo history: a stack of steps.
 #pragma once
+#include <cassert>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -50,9 +51,15 @@ class UndoLog {
   bool StepHasEdits() const { return !Empty() && edits_.size() > steps_.back().firstEdit; }
   std::size_t CountOfEdits() const { return edits_.size(); }
   /// Makes the last edit forget that typing went on behind the first `inserted` units.
-  void Shorten(Position inserted) { edits_.back().inserted = inserted; }
+  void Shorten(Position inserted) {
+    assert(StepHasEdits() && inserted <= LastEdit().inserted);
+    edits_.back().inserted = inserted;
+  }
   /// Ends the last step, all of whose edits have been taken.
-  void Drop() { steps_.pop_back(); }
+  void Drop() {
+    assert(!StepHasEdits());
+    steps_.pop_back();
+  }
 
  private:
   struct Entry {

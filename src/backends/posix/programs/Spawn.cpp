@@ -36,14 +36,15 @@ class SpawnSettings {
   const posix_spawn_file_actions_t* Actions() const { return &actions_; }
 
  private:
-  posix_spawnattr_t attributes_;
-  posix_spawn_file_actions_t actions_;
+  posix_spawnattr_t attributes_{};
+  posix_spawn_file_actions_t actions_{};
 };
 
 }  // namespace
 
 pid_t Spawn(std::vector<std::string> words) {
   std::vector<char*> arguments;
+  arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   const SpawnSettings settings;

@@ -63,11 +63,11 @@ Stroke StrokeOf(Underline kind) {
 
 /// The part of a decoration in one line of the piece.
 struct Stretch {
-  int start;
-  int end;
+  int start = 0;
+  int end = 0;
   QTextLine line;
-  double baseline;  // of the decorated text, in the painter's coordinates
-  double left;      // of the text's edge
+  double baseline = 0;  // of the decorated text, in the painter's coordinates
+  double left = 0;      // of the text's edge
 
   double X(int index) const { return left + line.cursorToX(index); }
 };

@@ -10,8 +10,8 @@ namespace lumenote {
 namespace {
 
 struct NamedKey {
-  KeyName name;
-  Qt::Key key;
+  KeyName name{};
+  Qt::Key key{};
   char16_t text = 0;
 };
 
