@@ -3,7 +3,6 @@
 //
 //   show N          opens the editor of note N (from 1), whose title is "Note N"
 //   wait N          the same with ShowMicroEdit(1): answers when that editor has closed
-//   write N TEXT    hands note N another text or path
 //   read N          closes the editor of note N; answers with what the host gets back
 //   text N          the text on the surface; "rtf N" its source, "selected N" what is selected,
 //                   "undo N" the kind of the step that would be undone, "ontop N" whether the
@@ -59,12 +58,10 @@ class Host {
     std::istringstream words(line);
     std::string verb;
     std::size_t number = 0;
-    std::string rest;
-    words >> verb >> number >> std::ws;
-    std::getline(words, rest);
+    words >> verb >> number;
     std::string answer;
     try {
-      answer = Answer(verb, *controls_.at(number > 0 ? number - 1 : 0), rest);
+      answer = Answer(verb, *controls_.at(number > 0 ? number - 1 : 0));
     } catch (const RuntimeError& error) {
       answer = "error " + std::to_string(error.Number());
     }
@@ -72,11 +69,10 @@ class Host {
   }
 
  private:
-  static std::string Answer(const std::string& verb, CoBxRtf& control, const std::string& rest) {
+  static std::string Answer(const std::string& verb, CoBxRtf& control) {
     if (verb == "quit") QApplication::quit();
     if (verb == "show") control.ShowMicroEdit();
     if (verb == "wait") control.ShowMicroEdit(1);
-    if (verb == "write") control.pStrOrchm(FromUtf8(rest));
     if (verb == "read") return OnOneLine(control.pStrOrchm());
     Co_Rtf* editor = control.Parts().editor.Loaded();
     if (verb == "focus") return Focus(control.Parts().windows.Active());
