@@ -121,10 +121,17 @@ class Desk {
   CountingView view{surface, layouter, ViewDoors{}, nullptr};
 };
 
-void Measure(NoteShape shape, int bytes, const std::string& name) {
+/// A line on either side of one picture.
+std::string PictureNote(std::size_t bytes) {
+  const std::string line(100, 'x');
+  return "{\\rtf1 " + line + "{\\pict\\wmetafile8 " + std::string(bytes, '0') + "}" + line +
+         "\\par}";
+}
+
+void Measure(const std::string& rtf, const std::string& name) {
   Desk desk;
-  desk.ToFrame([&] { desk.Load(RtfNote(NoteShape::Plain, 1000)); });  // fonts
-  desk.Load(RtfNote(shape, bytes));
+  desk.ToFrame([&] { desk.Load(PictureNote(10)); });  // fonts
+  desk.Load(rtf);
   const double first = desk.ToFrame([] {});
   const Position length = desk.surface.Content().Length();
   const double top = desk.Typing(length < 200 ? 0 : 150);
@@ -165,5 +172,8 @@ int main(int argc, char** argv) {
   std::printf("clean-up of a page, 500 pairs, in a window: %.1f\n\n", Median(cleanUps));
   std::printf("%-12s %11s %15s %11s %8s %10s %8s %8s %8s\n", "note", "first frame",
               "key at the top", "the middle", "the end", "up key", "page up", "a slice", "its key");
-  ForEachNote(Measure);
+  ForEachNote([](NoteShape shape, int bytes, const std::string& name) {
+    Measure(RtfNote(shape, bytes), name);
+  });
+  Measure(PictureNote(20'000'000), "picture/20m");
 }

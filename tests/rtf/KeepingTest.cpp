@@ -207,6 +207,13 @@ TEST(Keeping, WhatAnEditLeavesOfANumberIsText) {
   }
 }
 
+TEST(Keeping, LongSourcesComeInTheirTurn) {
+  const std::string picture = "{\\pict\\wmetafile8 " + std::string(200'000, '0') + "}";
+  EXPECT_EQ(LossOf(Read("{\\rtf1{\\info{\\title " + std::string(100'000, 't') + "}}a" + picture +
+                        "b" + picture + picture + "c\\par d" + picture + "}")),
+            "");
+}
+
 TEST(Keeping, WhatIsKeptStaysInProportionToItsSource) {
   const std::string_view kUnits[] = {"{\\*\\x\\page}", "{\\fldrslt}", "\\trowd\\cell\\row"};
   for (const std::string_view unit : kUnits) {

@@ -132,6 +132,11 @@ void Output::Append(std::string_view source) {
 }
 
 void Output::AppendLong(std::string_view source) {
+  if (source.size() > kPiece) {
+    Flush();
+    waiting_.push_back({{}, source});
+    return;
+  }
   for (; source.size() > kShort; source.remove_prefix(kShort)) Append(source.substr(0, kShort));
   Append(source);
 }
@@ -142,8 +147,25 @@ void Output::Grow(std::size_t count) {
 }
 
 void Output::Flush() {
-  sink_({buffer_.data(), size_});
+  const std::string_view gathered(buffer_.data(), size_);
+  if (Waits())
+    waiting_.push_back({std::string(gathered), {}});
+  else
+    sink_(gathered);
   size_ = 0;
+}
+
+bool Output::HandOn() {
+  if (!Waits()) return false;
+  Waiting& next = waiting_.front();
+  if (next.lasting.empty()) {
+    sink_(next.gathered);
+  } else {
+    sink_(next.lasting.substr(0, kPiece));
+    next.lasting.remove_prefix(std::min(kPiece, next.lasting.size()));
+  }
+  if (next.lasting.empty()) waiting_.pop_front();
+  return true;
 }
 
 void Output::Word(std::string_view name) {

@@ -2,6 +2,8 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <deque>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,8 +15,10 @@ namespace lumenote {
 /// How the characters of a font are written.
 enum class Encoding : std::uint8_t { Windows, Symbols, UnicodeOnly };
 
-/// Gathers the output and hands it on in large pieces, the last one by `Flush`. Knows whether a
-/// control word still waits for something that ends it.
+/// Gathers the output and hands it on in pieces of about 64 KB, the last ones by `Flush`. A source
+/// that is longer, such as a picture, is not copied but waits for `HandOn`, and what comes behind
+/// it waits too; so it lasts until then. Knows whether a control word still waits for something
+/// that ends it.
 class Output {
  public:
   explicit Output(const ByteSink& sink);
@@ -37,8 +41,16 @@ class Output {
   /// length.
   std::size_t Text(TextView text, Encoding encoding);
   void Flush();
+  /// Hands on one piece of what waits; false when nothing does.
+  bool HandOn();
+  bool Waits() const { return !waiting_.empty(); }
 
  private:
+  struct Waiting {
+    std::string gathered;
+    std::string_view lasting;  // in its place
+  };
+
   static constexpr std::size_t kPiece = std::size_t{1} << 16;
   static constexpr std::size_t kShort = 256;  // there is always room for as many bytes
 
@@ -56,6 +68,7 @@ class Output {
   void Grow(std::size_t count);
 
   const ByteSink& sink_;
+  std::deque<Waiting> waiting_;
   std::vector<char> buffer_;
   std::size_t size_ = 0;
   bool openWord_ = false;

@@ -32,6 +32,7 @@ RtfWriting::RtfWriting(const Document& document, Selection range, std::optional<
       out_(sink) {}
 
 bool RtfWriting::Step(Position units) {
+  if (out_.HandOn()) return out_.Waits() || stage_ != Stage::Done;
   switch (stage_) {
     case Stage::Look:
       Look(Piece(units));
@@ -47,7 +48,7 @@ bool RtfWriting::Step(Position units) {
     case Stage::Done:
       break;
   }
-  return stage_ != Stage::Done;
+  return out_.Waits() || stage_ != Stage::Done;
 }
 
 Selection RtfWriting::Piece(Position units) {

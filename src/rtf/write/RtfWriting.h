@@ -22,7 +22,8 @@ class RtfWriting {
   RtfWriting(const RtfWriting&) = delete;
   RtfWriting& operator=(const RtfWriting&) = delete;
 
-  /// Goes on through about so many units of text, 1 at least; false when that was the end.
+  /// Goes on through about so many units of text, 1 at least, or hands on a part of a long source;
+  /// false when that was the end.
   bool Step(Position units);
 
  private:
