@@ -111,7 +111,7 @@ CoBxRtf::~CoBxRtf() {
       editor->Values().closed = true;
       editor->Discard();
     }
-    GarderRetours(parts_->windows.Machine(), parts_->session->workLeft);
+    GarderRetours(parts_->windows.Machine(), parts_->workLeft);
   };
   IgnoringErrors([&] { Named(u"~CoBxRtf", close); });
   parts_->editor.KeepAlive(parts_);

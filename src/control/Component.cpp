@@ -10,7 +10,7 @@ Component::Component(Platform& platform)
       editor([this] { return MakeEditor(); }) {}
 
 std::unique_ptr<Co_Rtf> Component::MakeEditor() {
-  auto window = std::make_unique<Co_Rtf>(windows, session, *temp);
+  auto window = std::make_unique<Co_Rtf>(windows, session, *temp, workLeft);
   window->HostWindow(hostWindow);
   window->Unloaded = [this] {
     const auto handler = closed;  // the host may destroy the control in it

@@ -4,8 +4,10 @@
 #include <functional>
 #include <memory>
 #include <thread>
+#include <vector>
 
 #include "editor/Co_Rtf.h"
+#include "extapps/WorkCopies.h"
 #include "forms/Instance.h"
 #include "forms/WindowList.h"
 #include "platform/Folders.h"
@@ -25,6 +27,8 @@ struct Component {
   /// what still returns there reaches neither the host's note nor the next editor.
   std::shared_ptr<Session> session = std::make_shared<Session>();
   std::unique_ptr<TempFolder> temp;
+  /// Work files that editors which have closed have left to programs.
+  std::vector<WorkSent> workLeft;
   WindowList windows;
   Instance<Co_Rtf> editor;
   /// The host's own, called when an editor has closed; empty for none.

@@ -20,17 +20,14 @@
 
 namespace lumenote {
 
-Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp)
+Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp,
+               std::vector<WorkSent>& workLeft)
     : Form(windows, "Co_Rtf", {5000, 3250, 5650, 4350}, u"MicroEditeur"),
       current_(session),
       own_(session),
       session_(*own_),
       temp_(temp),
-      paragraph_([this] { return std::make_unique<Co_Paragraph>(Windows(), *this); }, this),
-      find_([this] { return std::make_unique<Co_Trouver>(Windows(), *this); }, this),
-      symbols_([this] { return std::make_unique<Co_Symbols>(Windows(), *this); }, this),
-      learn_([this] { return std::make_unique<Co_Apprendre>(Windows(), *this); }, this),
-      exchange_(*this, *this, programs_, Machine().Programs()) {
+      exchange_(*this, *this, programs_, Machine().Programs(), workLeft) {
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 210, 5262, 45});
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 45});
   Bx_Règle.Locked(true);
@@ -76,18 +73,18 @@ void Co_Rtf::WireBar() {
   Bar.mnuEdtGauche.Click = [this] { Align(0); };
   Bar.mnuEdtCentre.Click = [this] { Align(2); };
   Bar.mnuEdtDroite.Click = [this] { Align(1); };
-  Bar.mnuEdtTrouver.Click = [this] { mnuEdtTrouver_Click(); };
-  Bar.mnuEdtSymboles.Click = [this] { mnuEdtSymboles_Click(); };
-  Bar.mnuEdtSuivantppp.Click = [this] { mnuEdtSuivantppp_Click(); };
+  Bar.mnuEdtTrouver.Click = [this] { dialogs_.Trouver(); };
+  Bar.mnuEdtSymboles.Click = [this] { dialogs_.Symboles(); };
+  Bar.mnuEdtSuivantppp.Click = [this] { dialogs_.Suivant(); };
 }
 
 void Co_Rtf::WireFormatMenu() {
   Bar.mnuFmtPolice.Click = [this] { FmtPolice(*this); };
-  Bar.mnuFmtParagraph.Click = [this] { ActFenFormat(); };
-  Bar.mnuFmtStyStandard.Click = [this] { ApplyStyFromName(kStandardSection); };
+  Bar.mnuFmtParagraph.Click = [this] { dialogs_.ActFenFormat(); };
+  Bar.mnuFmtStyStandard.Click = [this] { dialogs_.ApplyStyFromName(kStandardSection); };
   Menu* const styles[] = {&Bar.mnuFmtStyle1, &Bar.mnuFmtStyle2, &Bar.mnuFmtStyle3};
   for (std::size_t index = 0; index < std::size(styles); ++index)
-    styles[index]->Click = [this, index] { ApplyStyFromName(StyleNames[index + 1]); };
+    styles[index]->Click = [this, index] { dialogs_.ApplyStyFromName(StyleNames[index + 1]); };
   Bar.mnuFmtActRègle.Click = [this] { mnuFmtActRègle_Click(); };
   Bar.mnuFmtActBarMenu.Click = [this] { AfficheBarreMenu(3); };
 }
@@ -111,9 +108,7 @@ void Co_Rtf::WirePrograms() {
 
 void Co_Rtf::WireOcr() {
   Pop.mnuPopOcrNettoyer.Click = [this] { NettoyerNote(*this); };
-  Pop.mnuPopOcrApprendre.Click = [this] {
-    ApprendreCorrection(*this, [this] { learn_.Get().ShowModal(); });
-  };
+  Pop.mnuPopOcrApprendre.Click = [this] { dialogs_.Apprendre(); };
   Pop.mnuPopOcrListCorr.Click = [this] {
     EditerListCorr(*this, Machine().Programs(), programs_.Path(Program::Atlantis));
   };
@@ -206,10 +201,7 @@ void Co_Rtf::Form_Unload() {
   Timer1.Enabled(false);
   TimerWpd.Enabled(false);
   recovery_.Drop();
-  if (Co_Paragraph* dialog = paragraph_.Loaded()) dialog->Unload();
-  if (Co_Trouver* dialog = find_.Loaded()) dialog->Unload();
-  if (Co_Symbols* dialog = symbols_.Loaded()) dialog->Unload();
-  if (Co_Apprendre* dialog = learn_.Loaded()) dialog->Unload();
+  dialogs_.UnloadAll();
   exchange_.Leave();
   CloreSession(session_);
   current_ = std::make_shared<Session>(session_);
@@ -217,7 +209,7 @@ void Co_Rtf::Form_Unload() {
 
 bool Co_Rtf::Form_KeyDown(const KeyStroke& key) {
   if (key != KeyStroke{.character = u'f', .control = true}) return false;
-  mnuEdtTrouver_Click();
+  dialogs_.Trouver();
   return true;
 }
 
@@ -290,7 +282,7 @@ void Co_Rtf::SwitchZone(float x, float middleWidth) {
       mnuFmtActRègle_Click();
       break;
     case Zone::Right:
-      ActFenFormat();
+      dialogs_.ActFenFormat();
       break;
   }
 }
@@ -304,49 +296,6 @@ std::optional<FontChoice> Co_Rtf::ChooseFont(const FontChoice& shown, Form* dial
   auto chosen = Machine().Windows().ChooseFont(shown, dialog ? dialog : this);
   RetablirDessus();
   return chosen;
-}
-
-void Co_Rtf::ActFenFormat() {
-  if (Co_Paragraph* shown = paragraph_.Loaded(); shown && shown->Visible()) {
-    shown->Unload();
-    return;
-  }
-  IgnoringErrors([this] {
-    Co_Paragraph& dialog = paragraph_.Get();
-    dialog.SetPosFenPara();
-    dialog.Show(this);
-    dialog.RafraichirFenFmt();
-  });
-}
-
-// Styles belong to the dialog, which is loaded for them but not shown.
-void Co_Rtf::ApplyStyFromName(std::u16string_view section) {
-  Co_Paragraph& dialog = paragraph_.Get();
-  dialog.Load();
-  dialog.ApplyStyFromName(section);
-}
-
-void Co_Rtf::mnuEdtTrouver_Click() {
-  SuspendreDessus();
-  find_.Get().Show(this);
-}
-
-// The dialog's own button goes on with the search; this entry only reads the options, for which
-// the dialog is loaded.
-void Co_Rtf::mnuEdtSuivantppp_Click() {
-  try {
-    Co_Trouver& dialog = find_.Get();
-    dialog.Load();
-    dialog.Options();
-  } catch (const RuntimeError& error) {
-    AskOver({.text = error.Description()});
-  }
-}
-
-void Co_Rtf::mnuEdtSymboles_Click() {
-  SuspendreDessus();
-  symbols_.Get().ShowModal();
-  RetablirDessus();
 }
 
 // --- selection and formats

@@ -1,35 +1,31 @@
 // The editor window: its controls, and handlers that forward to the procedures.
 #pragma once
 #include "editor/ContextMenu.h"
+#include "editor/Dialogs.h"
 #include "editor/DocumentStorage.h"
 #include "editor/MenuBar.h"
 #include "editor/Recovery.h"
 #include "editor/Secours.h"
 #include "extapps/ProgramTable.h"
 #include "extapps/RoundTrip.h"
-#include "find/Co_Trouver.h"
-#include "format/Co_Paragraph.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
-#include "forms/Instance.h"
 #include "forms/Timer.h"
 #include "forms/controls/Frame.h"
 #include "forms/controls/Label.h"
 #include "forms/controls/RichTextBox.h"
 #include "forms/controls/StatusBar.h"
-#include "ocr/Co_Apprendre.h"
-#include "session/EditorWindow.h"
-#include "symbols/Co_Symbols.h"
 
 namespace lumenote {
 
 struct Session;
 
-class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
+class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
  public:
   /// Works on the session that stands there, and leaves a copy of it for the next editor when it
   /// has unloaded. All outlive the window.
-  Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp);
+  Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp,
+         std::vector<WorkSent>& workLeft);
   ~Co_Rtf() override;
 
   Frame Fr_Notes{*this, "Fr_Notes", {80, 84, 5376, 3560}};
@@ -44,11 +40,12 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   ContextMenu Pop{*this};
   MenuBar Bar{*this};
 
-  // EditorWindow
+  // NoteWindow
   RichTextSurface& Document() override { return Bx_RTF.Surface(); }
   Session& Values() override { return session_; }
   Platform& Services() override { return Machine(); }
   const TempFolder& Temp() override { return temp_; }
+  FileState& OnDisk() override { return onDisk_; }
   void SuspendreDessus() override;
   void RetablirDessus() override;
   MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
@@ -58,7 +55,6 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   void FocusDocument() override { Bx_RTF.SetFocus(); }
   void EnableSuivant(bool on) override { Bar.mnuEdtSuivantppp.Enabled(on); }
   void ShowStatus(int panel, std::u16string_view text) override { Bar_Etat.Panel(panel, text); }
-  std::u16string Status(int panel) const override { return Bar_Etat.Panel(panel); }
   void ShowFormat(std::u16string_view text) override { Lb_Format.Caption(text); }
 
   /// Brings the recovery copy of an edited note up to date, for a program that has to end.
@@ -105,12 +101,6 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   /// A click on the ruler or on one of the labels above and below the document.
   void SwitchZone(float x, float middleWidth);
   void mnuFmtActRègle_Click();
-  /// Opens the paragraph dialog, or closes it.
-  void ActFenFormat();
-  void ApplyStyFromName(std::u16string_view section);
-  void mnuEdtTrouver_Click();
-  void mnuEdtSuivantppp_Click();
-  void mnuEdtSymboles_Click();
   void mnuSelLigne_Click();
   /// The menu commands of alignment give the keyboard back to the document.
   void Align(int alignment);
@@ -124,11 +114,9 @@ class Co_Rtf : public Form, public EditorWindow, private RoundTripDesk {
   const std::shared_ptr<Session> own_;
   Session& session_;
   const TempFolder& temp_;
+  FileState onDisk_;
   bool firstActivation_ = true;
-  Instance<Co_Paragraph> paragraph_;
-  Instance<Co_Trouver> find_;
-  Instance<Co_Symbols> symbols_;
-  Instance<Co_Apprendre> learn_;
+  Dialogs dialogs_{*this, *this};
   ProgramTable programs_;
   RoundTrip exchange_;
   Recovery recovery_{*this, TimerSecours};

@@ -20,7 +20,7 @@ namespace {
 
 /// Writes the document to `path` and loads it from there; the file as it is then. Where the load
 /// fails, what stood there before is put back, and there is none.
-std::optional<FileState> Exchange(EditorWindow& editor, std::u16string_view path, FileType type) {
+std::optional<FileState> Exchange(NoteWindow& editor, std::u16string_view path, FileType type) {
   Files& files = editor.Services().FileSystem();
   std::optional<std::string> before;
   std::optional<FileState> state;
@@ -35,7 +35,7 @@ std::optional<FileState> Exchange(EditorWindow& editor, std::u16string_view path
   return state;
 }
 
-void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
+void Convert(NoteWindow& editor, std::u16string_view format, FileType type,
              std::u16string_view label) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
@@ -49,7 +49,7 @@ void Convert(EditorWindow& editor, std::u16string_view format, FileType type,
   std::vector<std::u16string> kept;
   if (!files.SameFile(old, path)) SupprimerFichier(editor, kept);
   session.documentPath = path;
-  session.onDisk = std::move(*state);
+  editor.OnDisk() = std::move(*state);
   editor.ShowStatus(1, EspDvtDer(path));
   AnnoncerSecours(editor, Cause::FichierModifie, kept);
 }
@@ -62,11 +62,11 @@ void UpdateConvertir(ContextMenu& menu, const Session& session) {
   menu.mnuPopTextRichText.Enabled(!rtf);
 }
 
-void ConvertirEnRtf(EditorWindow& editor) {
+void ConvertirEnRtf(NoteWindow& editor) {
   Convert(editor, u"rtf", FileType::Rtf, u"Format RichText (rtf)");
 }
 
-void ConvertirEnTexte(EditorWindow& editor) {
+void ConvertirEnTexte(NoteWindow& editor) {
   Convert(editor, u"txt", FileType::Text, u"Format Text (txt)");
 }
 

@@ -1,6 +1,6 @@
 // Turning the document from plain text into RTF and back, through its file.
 #pragma once
-#include "session/EditorWindow.h"
+#include "editor/NoteWindow.h"
 
 namespace lumenote {
 
@@ -10,8 +10,8 @@ struct ContextMenu;
 void UpdateConvertir(ContextMenu& menu, const Session& session);
 /// Writes the document under the other extension, loads it again and deletes the old file; a save
 /// or load that fails changes nothing at all. Undo does not lead back.
-void ConvertirEnRtf(EditorWindow& editor);
+void ConvertirEnRtf(NoteWindow& editor);
 /// The same; every format is lost.
-void ConvertirEnTexte(EditorWindow& editor);
+void ConvertirEnTexte(NoteWindow& editor);
 
 }  // namespace lumenote

@@ -34,22 +34,22 @@ void PutNote(Session& session, std::u16string value) {
 /// What another program has made of the document's file since this editor read or wrote it, kept as
 /// a rescue copy: its path, empty when there is no such thing. Raises PathAccess when there is no
 /// place for it, and what reading the file raises.
-std::optional<std::u16string> KeepOtherState(EditorWindow& editor) {
+std::optional<std::u16string> KeepOtherState(NoteWindow& editor) {
   Session& session = editor.Values();
   const std::u16string& path = session.documentPath;
   const Files& files = editor.Services().FileSystem();
-  if (!files.Exists(path) || IsUntouched(files, session.onDisk, path)) return std::nullopt;
+  if (!files.Exists(path) || IsUntouched(files, editor.OnDisk(), path)) return std::nullopt;
   const std::string bytes = files.ReadAll(path);
   FileState state = StateOf(path, bytes);
-  if (IsSameContent(state, session.onDisk)) return std::nullopt;
+  if (IsSameContent(state, editor.OnDisk())) return std::nullopt;
   auto copy = EcrireSecours(editor.Services(), path, bytes);
   if (!copy) throw RuntimeError(ErrorNumber::PathAccess);
-  session.onDisk = std::move(state);
+  editor.OnDisk() = std::move(state);
   return copy;
 }
 
 /// Status, format and label follow the document path.
-FileType ShowDocumentPath(EditorWindow& editor) {
+FileType ShowDocumentPath(NoteWindow& editor) {
   Session& session = editor.Values();
   editor.ShowStatus(1, EspDvtDer(session.documentPath));
   session.format = FormatDe(session.documentPath);
@@ -60,7 +60,7 @@ FileType ShowDocumentPath(EditorWindow& editor) {
 
 /// Lest another editor saves between a look at the document's file and what is done to it. A
 /// temporary file needs none.
-std::shared_ptr<void> TakeTurn(EditorWindow& editor) {
+std::shared_ptr<void> TakeTurn(NoteWindow& editor) {
   const Session& session = editor.Values();
   if (!session.fileMode) return nullptr;
   return editor.Services().FileSystem().TakeTurn(session.documentPath);
@@ -103,7 +103,7 @@ FileType TypeDe(std::u16string_view format) {
 
 bool EstNoteRtf(std::u16string_view note) { return Lower(note.substr(0, 5)) == u"{\\rtf"; }
 
-std::u16string ContenuNote(EditorWindow& editor) {
+std::u16string ContenuNote(NoteWindow& editor) {
   const Session& session = editor.Values();
   if (session.format != u"txt") return editor.Document().TextRTF();
   std::u16string text = editor.Document().Text();
@@ -115,29 +115,29 @@ void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16strin
   IgnoringErrors([&] { files.Delete(path, false); });
 }
 
-void DireEchecChargement(EditorWindow& editor) {
+void DireEchecChargement(NoteWindow& editor) {
   editor.AskOver({.text = u"Impossible de Charger le fichier\r\n" + editor.Values().documentPath,
                   .icon = MessageBox::Icon::Critical});
 }
 
-bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form) {
+bool LoadFilAndIni(NoteWindow& editor, std::optional<TextForm> form) {
   Session& session = editor.Values();
   const FileType type = ShowDocumentPath(editor);
   const std::u16string& path = session.documentPath;
   const FileTime time = SettledTime(editor.Services().FileSystem(), path);
   const bool loaded = IgnoringErrors(
-      [&] { session.onDisk = StateOf(path, editor.Document().LoadFile(path, type, form), time); });
+      [&] { editor.OnDisk() = StateOf(path, editor.Document().LoadFile(path, type, form), time); });
   session.dirty = session.loaded && !loaded;
   if (!loaded) DireEchecChargement(editor);
   return loaded;
 }
 
-void ContinuerSansRecharger(EditorWindow& editor) {
+void ContinuerSansRecharger(NoteWindow& editor) {
   ShowDocumentPath(editor);
   editor.Values().dirty = true;
 }
 
-Sauvegarde SauveFich(EditorWindow& editor, bool ask) {
+Sauvegarde SauveFich(NoteWindow& editor, bool ask) {
   Session& session = editor.Values();
   if (!session.dirty) return Sauvegarde::Inutile;
   if (ask && editor.AskOver({.text = u"Voulez-vous enregistrer les modifs en cours",
@@ -154,20 +154,20 @@ Sauvegarde SauveFich(EditorWindow& editor, bool ask) {
   return written ? Sauvegarde::Faite : Sauvegarde::Impossible;
 }
 
-bool EcrireDocument(EditorWindow& editor, std::vector<std::u16string>& kept) {
+bool EcrireDocument(NoteWindow& editor, std::vector<std::u16string>& kept) {
   Session& session = editor.Values();
   const auto turn = TakeTurn(editor);
   const bool written = IgnoringErrors([&] {
     if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
     const std::string bytes =
         editor.Document().SaveFile(session.documentPath, TypeDe(session.format));
-    session.onDisk = StateOf(session.documentPath, bytes);
+    editor.OnDisk() = StateOf(session.documentPath, bytes);
   });
   editor.ShowStatus(2, written ? u"" : u"Enregistrement impossible");
   return written;
 }
 
-void SupprimerFichier(EditorWindow& editor, std::vector<std::u16string>& kept) {
+void SupprimerFichier(NoteWindow& editor, std::vector<std::u16string>& kept) {
   const auto turn = TakeTurn(editor);
   IgnoringErrors([&] {
     if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
@@ -175,7 +175,7 @@ void SupprimerFichier(EditorWindow& editor, std::vector<std::u16string>& kept) {
   });
 }
 
-void SupprimerJumeaux(EditorWindow& editor) {
+void SupprimerJumeaux(NoteWindow& editor) {
   const Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
   const auto texts = EnTouteCasse(files, ChmExts(session.documentPath, u"txt"));
@@ -185,19 +185,19 @@ void SupprimerJumeaux(EditorWindow& editor) {
     SupprimerAutreFichier(files, twin, session.documentPath);
 }
 
-void Maj_StrOrChm(EditorWindow& editor) {
+void Maj_StrOrChm(NoteWindow& editor) {
   Session& session = editor.Values();
   if (session.fileMode || (session.format != u"txt" && session.format != u"rtf")) return;
   PutNote(session, ContenuNote(editor));
 }
 
-void EnregistrerNote(EditorWindow& editor) {
+void EnregistrerNote(NoteWindow& editor) {
   SauveFich(editor, false);
   Session& session = editor.Values();
   PutNote(session, session.fileMode ? session.documentPath : ContenuNote(editor));
 }
 
-bool SupprimerDocument(EditorWindow& editor) {
+bool SupprimerDocument(NoteWindow& editor) {
   Session& session = editor.Values();
   const std::u16string named = session.documentPath;
   editor.SuspendreDessus();

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/TextForm.h"
-#include "session/EditorWindow.h"
+#include "editor/NoteWindow.h"
 
 namespace lumenote {
 
@@ -36,7 +36,7 @@ bool EstNoteRtf(std::u16string_view note);
 
 /// The content of the document in the form that the host gets: plain for "txt", else RTF. A plain
 /// note that differs in its line ends alone is given back as it came.
-std::u16string ContenuNote(EditorWindow& editor);
+std::u16string ContenuNote(NoteWindow& editor);
 
 /// Deletes the file at `path` unless it is read-only, or the note's own file under another name.
 void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16string_view note);
@@ -44,35 +44,35 @@ void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16strin
 /// Loads the document path into the surface and sets status, format and label. A failure is told to
 /// the user and returned as false; a document that was in the surface before is dirty then. `form`
 /// is that of a plain text whose form is known.
-bool LoadFilAndIni(EditorWindow& editor, std::optional<TextForm> form = std::nullopt);
+bool LoadFilAndIni(NoteWindow& editor, std::optional<TextForm> form = std::nullopt);
 /// Goes on with the surface where the document path now holds something else: shows that path, and
 /// the note is unsaved in its format.
-void ContinuerSansRecharger(EditorWindow& editor);
+void ContinuerSansRecharger(NoteWindow& editor);
 /// Tells the user that the document path could not be loaded.
-void DireEchecChargement(EditorWindow& editor);
+void DireEchecChargement(NoteWindow& editor);
 
 /// Writes the document to its path. Where another program has changed the file, that state is first
 /// kept as a rescue copy, whose path is added to `kept` for the user to be told of when all is
 /// done. A failure, of the copy too, leaves the old file whole and stands in the second status
 /// panel.
-bool EcrireDocument(EditorWindow& editor, std::vector<std::u16string>& kept);
+bool EcrireDocument(NoteWindow& editor, std::vector<std::u16string>& kept);
 /// Deletes the file at the document path, read-only or not, after the same care; it stays where its
 /// state could not be kept.
-void SupprimerFichier(EditorWindow& editor, std::vector<std::u16string>& kept);
+void SupprimerFichier(NoteWindow& editor, std::vector<std::u16string>& kept);
 /// A note kept as x.txt leaves no x.rtf beside it, nor the reverse, in whatever letter case.
-void SupprimerJumeaux(EditorWindow& editor);
+void SupprimerJumeaux(NoteWindow& editor);
 
 enum class Sauvegarde { Inutile, Refusee, Faite, Impossible };
 /// Saves a dirty document, after a question when `ask`, and deletes its stale twin. A failure
 /// leaves the old file whole and the document dirty, and stands in the second status panel.
-Sauvegarde SauveFich(EditorWindow& editor, bool ask);
+Sauvegarde SauveFich(NoteWindow& editor, bool ask);
 /// String mode: copies the content into the note, for the formats "txt" and "rtf".
-void Maj_StrOrChm(EditorWindow& editor);
+void Maj_StrOrChm(NoteWindow& editor);
 /// Saves without asking and updates the note.
-void EnregistrerNote(EditorWindow& editor);
+void EnregistrerNote(NoteWindow& editor);
 /// Asks, deletes the file that the question named and empties the note; whether the window is to be
 /// closed. Nothing is deleted when the editor has closed meanwhile or edits another file by then.
 /// Raises PermissionDenied when the file stays.
-bool SupprimerDocument(EditorWindow& editor);
+bool SupprimerDocument(NoteWindow& editor);
 
 }  // namespace lumenote

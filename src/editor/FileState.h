@@ -1,11 +1,19 @@
 // The note's file as this editor has last read or written it.
 #pragma once
+#include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "platform/Files.h"
-#include "session/Session.h"
 
 namespace lumenote {
+
+struct FileState {
+  std::u16string path;
+  std::size_t size = 0;
+  std::size_t hash = 0;
+  FileTime time = 0;  // of its modification; 0 where a change might not show in it
+};
 
 /// `time` is 0, or a `SettledTime` from before the bytes were read.
 FileState StateOf(std::u16string_view path, std::string_view bytes, FileTime time = 0);

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "extapps/WorkCopies.h"
 #include "session/EditorWindow.h"
-#include "session/Session.h"
 
 namespace lumenote {
 

@@ -12,7 +12,7 @@ namespace lumenote {
 
 namespace {
 
-void PrepareFile(EditorWindow& editor) {
+void PrepareFile(NoteWindow& editor) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
   session.format = FormatDe(session.documentPath);
@@ -25,7 +25,7 @@ void PrepareFile(EditorWindow& editor) {
   IgnoringErrors([&] { session.readOnly = files.IsReadOnly(session.documentPath); });
 }
 
-TextForm PrepareString(EditorWindow& editor) {
+TextForm PrepareString(NoteWindow& editor) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
   const std::u16string leftOver = NomFichTemp(editor.Temp(), u"Str", u"rtf");
@@ -35,7 +35,7 @@ TextForm PrepareString(EditorWindow& editor) {
   return EcritNoteTemp(files, session.documentPath, session.note);
 }
 
-Fermeture CloseFile(EditorWindow& editor) {
+Fermeture CloseFile(NoteWindow& editor) {
   Session& session = editor.Values();
   const Sauvegarde outcome = SauveFich(editor, true);
   if (!session.noteReplaced) session.note = session.documentPath;
@@ -46,11 +46,11 @@ Fermeture CloseFile(EditorWindow& editor) {
   return Fermeture::Complete;
 }
 
-bool KeepUnreturned(EditorWindow& editor) {
+bool KeepUnreturned(NoteWindow& editor) {
   return !editor.Values().CannotReturn() || GarderNote(editor, Cause::EnregistrementImpossible);
 }
 
-Fermeture CloseString(EditorWindow& editor) {
+Fermeture CloseString(NoteWindow& editor) {
   Session& session = editor.Values();
   const bool asked = session.dirty;
   const bool accepted =
@@ -73,23 +73,22 @@ void CommencerSession(Session& session) {
   session.onTop = false;
   session.menuBarShown = false;
   session.changes = 0;
-  session.onDisk = {};
 }
 
-std::optional<TextForm> PreparerDocument(EditorWindow& editor) {
+std::optional<TextForm> PreparerDocument(NoteWindow& editor) {
   if (!editor.Values().fileMode) return PrepareString(editor);
   PrepareFile(editor);
   return {};
 }
 
-bool OuvrirDocument(EditorWindow& editor) {
+bool OuvrirDocument(NoteWindow& editor) {
   std::optional<TextForm> form;
   if (IgnoringErrors([&] { form = PreparerDocument(editor); })) return LoadFilAndIni(editor, form);
   DireEchecChargement(editor);
   return false;
 }
 
-Fermeture TerminerEdition(EditorWindow& editor) {
+Fermeture TerminerEdition(NoteWindow& editor) {
   const Session& session = editor.Values();
   if (session.readOnly && session.dirty) {
     editor.AskOver({.text = u"Attribut 'Lecture Seule'\r\nAbandon des modifications",

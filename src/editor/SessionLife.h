@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "base/TextForm.h"
-#include "session/EditorWindow.h"
+#include "editor/NoteWindow.h"
 #include "session/Session.h"
 
 namespace lumenote {
@@ -14,15 +14,15 @@ void CommencerSession(Session& session);
 /// File mode: creates a missing "txt" or "rtf" file and reads the read-only attribute. String
 /// mode: writes the note to its temporary file, which becomes the document path, and returns its
 /// form; raises what the file system does, since another note may be left over there.
-std::optional<TextForm> PreparerDocument(EditorWindow& editor);
+std::optional<TextForm> PreparerDocument(NoteWindow& editor);
 /// Prepares and loads the document. A failure is told to the user and returned as false.
-bool OuvrirDocument(EditorWindow& editor);
+bool OuvrirDocument(NoteWindow& editor);
 
 enum class Fermeture { Complete, SansGeometrie, Annulee };
 /// The closing decision: refuses the changes of a read-only note, asks whether to save, deletes the
 /// twin of the note's file. Says whether the geometry is to be stored, or that the window must
 /// stay, since the note could be kept nowhere else.
-Fermeture TerminerEdition(EditorWindow& editor);
+Fermeture TerminerEdition(NoteWindow& editor);
 /// Takes a note that the host wrote while the editor was open for the next opening; after a
 /// deletion an empty one, so that the file is not created again.
 void CloreSession(Session& session);

@@ -244,7 +244,7 @@ void RoundTrip::BringBack() {
   if (BringOnto(result)) return RememberOthers(std::move(sent));
   const auto copy = desk_.CopyFile(result);
   if (!copy) {
-    editor_.Values().workLeft.push_back(std::move(sent));
+    left_.push_back(std::move(sent));
     return ReportWorkFile();
   }
   sent.old.push_back(TraceDe(Disk(), result));
@@ -255,7 +255,7 @@ void RoundTrip::BringBack() {
 /// A program may have saved the note in several forms, of which one came back.
 void RoundTrip::RememberOthers(WorkSent sent) {
   sent.folder.clear();
-  if (!Reprendre(Disk(), sent).empty()) editor_.Values().workLeft.push_back(std::move(sent));
+  if (!Reprendre(Disk(), sent).empty()) left_.push_back(std::move(sent));
 }
 
 std::u16string RoundTrip::TargetOf(std::u16string_view result) {
@@ -298,13 +298,12 @@ bool RoundTrip::KeepTyped() {
 // --- what comes too late
 
 void RoundTrip::Leave() {
-  if (sent_) editor_.Values().workLeft.push_back(*std::exchange(sent_, std::nullopt));
+  if (sent_) left_.push_back(*std::exchange(sent_, std::nullopt));
 }
 
 // The host may close the editor in the box, and the next one takes the list as it is then.
 template <class Ready>
 bool RoundTrip::KeepLeft(Ready ready) {
-  std::vector<WorkSent>& left = editor_.Values().workLeft;
   std::vector<std::u16string> copies;
   const auto keep = [&](const std::u16string& result) {
     auto copy = desk_.CopyFile(result);
@@ -312,10 +311,10 @@ bool RoundTrip::KeepLeft(Ready ready) {
     return copy.has_value();
   };
   std::vector<WorkSent> still;
-  for (WorkSent& sent : left)
+  for (WorkSent& sent : left_)
     if (!ready(sent) || !ReprendreTout(Disk(), sent, keep)) still.push_back(sent);
-  left = std::move(still);
-  const bool all = left.empty();
+  left_ = std::move(still);
+  const bool all = left_.empty();
   desk_.TellOf(Cause::FichierModifie, copies);
   return all;
 }

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "extapps/ProgramTable.h"
+#include "extapps/WorkCopies.h"
 #include "platform/Processes.h"
 #include "session/EditorWindow.h"
-#include "session/Session.h"
 
 namespace lumenote {
 
@@ -46,10 +46,11 @@ class RoundTrip {
  public:
   static constexpr int kInterval = 20;  // milliseconds between two ticks
 
-  /// All outlive the exchange. `programs` may be filled again between two exchanges.
+  /// All outlive the exchange. `programs` may be filled again between two exchanges; `left` are the
+  /// work files that earlier editors of the control have left to programs.
   RoundTrip(EditorWindow& editor, RoundTripDesk& desk, const ProgramTable& programs,
-            Processes& processes)
-      : editor_(editor), desk_(desk), programs_(programs), processes_(processes) {}
+            Processes& processes, std::vector<WorkSent>& left)
+      : editor_(editor), desk_(desk), programs_(programs), processes_(processes), left_(left) {}
   RoundTrip(const RoundTrip&) = delete;
   RoundTrip& operator=(const RoundTrip&) = delete;
 
@@ -67,7 +68,7 @@ class RoundTrip {
   /// `Processes::Start` raises; the next tick goes on behind it.
   void TimerWpd_Timer();
 
-  /// The editor closes: the session remembers what a program still works on.
+  /// The editor closes: what a program still works on is left to it.
   void Leave();
   /// What programs that have ended saved for editors that had closed becomes a rescue copy.
   void CollectLeft();
@@ -124,6 +125,7 @@ class RoundTrip {
   RoundTripDesk& desk_;
   const ProgramTable& programs_;
   Processes& processes_;
+  std::vector<WorkSent>& left_;
 
   std::int32_t type_ = 0;     // as last chosen
   std::int32_t running_ = 0;  // of this exchange

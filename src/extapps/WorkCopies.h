@@ -1,14 +1,31 @@
 // The copies that go to an external program and come back from it.
 #pragma once
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
-
-#include "session/Session.h"
+#include <vector>
 
 namespace lumenote {
 
 class Files;
+
+/// A file as it was when somebody looked: its modification time.
+struct WorkTrace {
+  std::u16string path;
+  std::int64_t time = 0;
+  bool operator==(const WorkTrace&) const = default;
+};
+using WorkTraces = std::vector<WorkTrace>;
+
+/// A work file that a program was started on.
+struct WorkSent {
+  std::u16string path;
+  std::int64_t time = 0;  // of its modification, as it went out
+  std::u16string folder;  // where the program leaves copies of its own; empty for none
+  WorkTraces old;         // what lay about before and is no result
+  std::int64_t process = 0;
+};
 
 /// Deletes the copies of the note at `document`, and those under the common name, that an earlier
 /// exchange left in `folder`, whatever their form; never the note itself. Failures are ignored.

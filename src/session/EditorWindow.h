@@ -1,8 +1,6 @@
 // What dialogs and procedures need of the editor window.
 #pragma once
 #include <optional>
-#include <string>
-#include <string_view>
 
 #include "forms/Form.h"
 #include "forms/values/FontChoice.h"
@@ -13,7 +11,6 @@
 namespace lumenote {
 
 class Platform;
-class TempFolder;
 struct Session;
 
 /// Why a rescue copy is made; the box that names it begins with the cause.
@@ -31,8 +28,6 @@ class EditorWindow {
   virtual RichTextSurface& Document() = 0;
   virtual Session& Values() = 0;
   virtual Platform& Services() = 0;
-  /// The control's own temporary folder.
-  virtual const TempFolder& Temp() = 0;
 
   /// Drops the always-on-top state before a box, a dialog or a program comes up.
   virtual void SuspendreDessus() = 0;
@@ -59,12 +54,6 @@ class EditorWindow {
   virtual void FocusDocument() = 0;
   /// Whether the menu entry that goes on with a search can be chosen.
   virtual void EnableSuivant(bool on) = 0;
-
-  /// Text of a status panel, counted from 1.
-  virtual void ShowStatus(int panel, std::u16string_view text) = 0;
-  virtual std::u16string Status(int panel) const = 0;
-  /// Text of the label `Lb_Format`.
-  virtual void ShowFormat(std::u16string_view text) = 0;
 };
 
 }  // namespace lumenote

@@ -1,38 +1,11 @@
 // The values that one control and its windows share.
 #pragma once
-#include <cstddef>
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "session/DirtyFlag.h"
 
 namespace lumenote {
-
-/// A file as it was when somebody looked: its modification time.
-struct WorkTrace {
-  std::u16string path;
-  std::int64_t time = 0;
-  bool operator==(const WorkTrace&) const = default;
-};
-using WorkTraces = std::vector<WorkTrace>;
-
-/// A work file that a program was started on.
-struct WorkSent {
-  std::u16string path;
-  std::int64_t time = 0;  // of its modification, as it went out
-  std::u16string folder;  // where the program leaves copies of its own; empty for none
-  WorkTraces old;         // what lay about before and is no result
-  std::int64_t process = 0;
-};
-
-/// A file's content as this editor has last read or written it.
-struct FileState {
-  std::u16string path;
-  std::size_t size = 0;
-  std::size_t hash = 0;
-  std::int64_t time = 0;  // of its modification; 0 where a change might not show in it
-};
 
 /// How the host meant its note: as it looks, as a text whatever it looks like, or as a path.
 enum class NoteKind { AsItLooks, Text, Path };
@@ -71,14 +44,10 @@ struct Session {
   bool onTop = false;
   bool menuBarShown = false;
   std::uint64_t changes = 0;  // of the content since it came in
-  FileState onDisk;           // the file at the document path
 
   /// A string note was edited and cannot be given back; it may be clean, since a conversion or a
   /// reload clears the dirty flag.
   bool CannotReturn() const { return !fileMode && noteReplaced && changes > 0; }
-
-  /// Work files that editors which have closed have left to programs.
-  std::vector<WorkSent> workLeft;
 };
 
 }  // namespace lumenote

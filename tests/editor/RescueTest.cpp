@@ -106,7 +106,7 @@ TEST_F(RescueTest, AChangedFileThatCannotBeKeptIsNotReplaced) {
   Type(u"pas ");
   disk.Write(u"C:\\n\\a.txt", "leur");
   Choose(&ContextMenu::mnuPopEnregistrer);
-  EXPECT_EQ(Editor().Status(2), u"Enregistrement impossible");
+  EXPECT_EQ(Editor().Bar_Etat.Panel(2), u"Enregistrement impossible");
   EXPECT_TRUE(Values().dirty);
   EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.txt"), "leur");
   Choose(&ContextMenu::mnuPopTextRichText);
