@@ -14,8 +14,7 @@ import sys
 LAYERS = ["base", "document", "rtf", "platform", "surface", "forms", "session",
           ("selection", "extapps"), ("find", "symbols", "ocr", "format"),
           "editor", "control", "backends", "pilot"]
-# The kept source still asks the reader's table of words.
-OPEN = {("rtf/kept", "rtf/read")}
+APART = {"rtf/read", "rtf/write"}  # know nothing of each other
 FOREIGN = re.compile(r"^(Q[A-Z]|q[a-z]+/|sys/|X11/|unistd|fcntl|windows|dirent|spawn|pwd|grp)")
 RANK = {name: rank for rank, names in enumerate(LAYERS)
         for name in ([names] if isinstance(names, str) else names)}
@@ -71,8 +70,10 @@ def main():
             if why:
                 bad.append(f"{path}:{number}: {why}: {target}")
             room, other = str(path.parent), str(pathlib.Path(target).parent)
-            if quote == '"' and room != other and (room, other) not in OPEN:
+            if quote == '"' and room != other:
                 rooms[room].add(other)
+            if room != other and {room, other} == APART:
+                bad.append(f"{path}:{number}: reader and writer stand apart: {target}")
     for room in sorted(rooms):
         way = way_back(rooms, room)
         if way:

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "document/formats/Formats.h"
+#include "document/FormatTables.h"
 #include "document/text/Fragment.h"
 #include "document/text/LeafList.h"
 

@@ -30,6 +30,16 @@ void Colour(lumenote::Colour colour, const char* name, Words& words) {
   if (colour != kAutoColour) words.Next() << name << std::hex << colour << std::dec;
 }
 
+void AddKept(WordsId first, const FormatTables& tables, Words& words) {
+  std::string source;
+  tables.words.ForEach(first, [&](KeptWord word) {
+    if (word.kind != KeptWord::Kind::Numbering) source += '\\';
+    source += tables.names[word.name];
+    if (word.kind == KeptWord::Kind::Numbered) source += std::to_string(word.number);
+  });
+  words.Add(!source.empty(), source);
+}
+
 std::string Shown(const CharFormat& format, const FormatTables& tables) {
   static constexpr const char* kEffects[] = {"b",     "i",     "strike", "striked", "caps",
                                              "scaps", "v",     "outl",   "shad",    "embo",
@@ -50,11 +60,12 @@ std::string Shown(const CharFormat& format, const FormatTables& tables) {
   Colour(format.colour, "cf", words);
   Colour(format.highlight, "bg", words);
   const Kept& kept = tables.kept[format.kept];
-  words.Add(!kept.before.empty(), kept.before);
-  words.Add(!kept.instead.empty(), kept.instead);
+  const auto add = [&](const KeptItem& item) { words.Add(true, item.source); };
+  tables.items.ForEach(kept.before, add);
+  tables.items.ForEach(kept.self, add);
   for (FieldId id = kept.field; id != 0; id = tables.fields[id].outer)
     words.Add(true, tables.fields[id].opening);
-  words.Add(format.words != 0, tables.words[format.words].source);
+  AddKept(format.words, tables, words);
   return words.Text();
 }
 
@@ -75,7 +86,7 @@ std::string Shown(const ParaFormat& format, const FormatTables& tables) {
   words.Number(format.list, 0, "list");
   words.Number(format.level, 0, "level");
   words.Number(format.nesting, 0, "nesting");
-  words.Add(format.words != 0, tables.words[format.words].source);
+  AddKept(format.words, tables, words);
   for (const TabStop& tab : tables.tabs[format.tabs]) {
     words.Next() << 't' << "lrcdb"[static_cast<int>(tab.kind)] << tab.position;
     words.Number(tab.leader, 0, "leader");

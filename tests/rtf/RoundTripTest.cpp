@@ -46,7 +46,8 @@ class Generator {
   CharId Object(FormatTables& tables) {
     CharFormat format = Format(tables);
     format.kept =
-        tables.kept.Intern({.instead = "{\\pict\\wmetafile8 0102}", .kind = Kept::Kind::Embedded});
+        tables.kept.Intern({.self = tables.items.Chain({{.source = "{\\pict\\wmetafile8 0102}"}}),
+                            .kind = Kept::Kind::Embedded});
     return tables.characters.Intern(format);
   }
 

@@ -1,4 +1,4 @@
-// Character and paragraph formats, and the tables that give each distinct one a small number.
+// Character and paragraph formats.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -13,9 +13,12 @@ using FontId = std::uint32_t;
 using CharId = std::uint32_t;
 using ParaId = std::uint32_t;
 using TabsId = std::uint32_t;
+// Of what is kept beside formats; see document/kept/.
 using KeptId = std::uint32_t;
+using ItemId = std::uint32_t;
 using FieldId = std::uint32_t;
 using WordsId = std::uint32_t;
+using NameId = std::uint32_t;
 using HeadId = std::uint32_t;
 
 /// A font as notes name it; the machine need not have it.
@@ -123,83 +126,7 @@ struct TabStop {
 };
 using TabStops = std::vector<TabStop>;  // by rising position
 
-/// What a note's RTF source says at one character beyond what the editor can show. It goes where
-/// the character goes and is written back with it. Sources are pure ASCII with paired braces.
-struct Kept {
-  enum class Kind : std::uint8_t {
-    Character,  // is itself, or what `instead` says
-    Embedded,   // U+FFFC, which stands for the group in `instead`
-    Cell,       // the tab behind a table cell
-    Row,        // the break behind a table row, and so behind its last cell
-  };
-  std::string before{};   // words and groups in front of the character
-  std::string instead{};  // what the character is in the source; empty: as the writer knows it
-  FieldId field = 0;      // the innermost field that the character is in, 0 none
-  ParaId paragraph = 0;   // of Cell: its format; the last one of a row has the paragraph's
-  Kind kind = Kind::Character;
-  std::uint32_t serial = 0;  // tells characters apart that the same comes before
-  bool operator==(const Kept&) const = default;
-};
-
-/// A group around characters: the result of a field, or the visible number of a list paragraph.
-struct KeptField {
-  std::string opening{}, closing{};
-  FieldId outer = 0;         // the field around it, 0 none
-  std::uint32_t serial = 0;  // tells fields apart that follow each other and say the same
-  bool numbers = false;      // the text is a list number
-  bool operator==(const KeptField&) const = default;
-};
-
-/// Control words in the order of the source.
-struct KeptWords {
-  std::string source;
-  bool operator==(const KeptWords&) const = default;
-};
-
-/// What a source says ahead of its text and behind it. What is kept names fonts and colours by
-/// numbers, so their tables stay as they were, and what the note uses besides comes behind.
-struct KeptHead {
-  struct Font {
-    int number = 0;
-    FontId font = 0;
-    int page = 0;  // of its bytes; 0: the document's
-    bool operator==(const Font&) const = default;
-  };
-  std::string source{};           // words and groups, the tables excepted
-  std::string tail{};             // words and groups behind the text
-  bool tables = false;            // something kept names entries of the tables: they are kept too
-  std::string fontTable{};        // what stands in its group
-  std::vector<Font> fonts{};      // by rising number
-  std::vector<Colour> colours{};  // by their numbers
-  int page = 1252;                // of bytes under no font of another one
-  int defaultFont = 0;
-  bool operator==(const KeptHead&) const = default;
-};
-
 std::uint64_t HashOf(const FontFace& face);
 std::uint64_t HashOf(const TabStops& stops);
-std::uint64_t HashOf(const Kept& kept);
-std::uint64_t HashOf(const KeptField& field);
-std::uint64_t HashOf(const KeptWords& words);
-std::uint64_t HashOf(const KeptHead& head);
-
-/// The tables of one document. Number 0 of each is the default; numbers are never reused, so a
-/// fragment or an undo step may keep them as long as the document lives.
-struct FormatTables {
-  FormatTables();
-  /// A serial for what is kept. They come round again, so that hostile sources do not fill the
-  /// tables with the same again and again; by then what has the same serial is far away.
-  std::uint32_t NextSerial() { return serials++ % 16384; }
-
-  InternTable<FontFace> fonts;
-  InternTable<CharFormat> characters;
-  InternTable<ParaFormat> paragraphs;
-  InternTable<TabStops> tabs;
-  InternTable<Kept> kept;
-  InternTable<KeptField> fields;
-  InternTable<KeptWords> words;
-  InternTable<KeptHead> heads;
-  std::uint32_t serials = 0;
-};
 
 }  // namespace lumenote

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 #include <deque>
+#include <string>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -21,8 +22,11 @@ inline std::uint64_t HashBytes(const void* data, std::size_t size) {
     hash = (hash ^ word) * kFactor;
     hash ^= hash >> 29;
   }
-  return hash;
+  hash = (hash ^ hash >> 32) * kFactor;  // so that the last bytes reach the low bits
+  return hash ^ hash >> 32;
 }
+
+inline std::uint64_t HashOf(const std::string& text) { return HashBytes(text.data(), text.size()); }
 
 /// Hash of plain data without padding. Other types bring an overload of their own.
 template <class T>

@@ -4,7 +4,7 @@
 
 #include "document/formats/Formats.h"
 #include "rtf/codepages/CodePage.h"
-#include "rtf/read/Keeper.h"
+#include "rtf/read/ItemKeeper.h"
 
 namespace lumenote {
 
@@ -39,13 +39,13 @@ struct GroupState {
   CodePage page;     // of text bytes
   int fallback = 1;  // \uc: characters that follow a \u for readers without Unicode
 
-  FieldId field = 0;               // the innermost one, 0 none
-  KeptId inField = 0;              // what is kept with a character in that field
-  int openFields = 0;              // fields around each other
-  std::size_t fieldAt = kNowhere;  // offset of the \field whose result is still to come
-  bool fieldShown = false;         // it has come
-  std::size_t laidBefore = 0;      // what the reader had laid down when that field began
-  Keeper::Place keptBefore = 0;    // and where it stood in what is kept
+  FieldId field = 0;                 // the innermost one, 0 none
+  KeptId inField = 0;                // what is kept with a character in that field
+  int openFields = 0;                // fields around each other
+  std::size_t fieldAt = kNowhere;    // offset of the \field whose result is still to come
+  bool fieldShown = false;           // it has come
+  std::size_t laidBefore = 0;        // what the reader had laid down when that field began
+  ItemKeeper::Place keptBefore = 0;  // and where it stood in what is kept
 
   // Numbers of the formats in the document's tables, while they are known.
   bool characterKnown = false;

@@ -53,7 +53,7 @@ Interpreter::Interpreter(std::string_view source, RtfTarget target, FormatTables
       groups_(1),
       default_(base),
       tabsLeft_(source.size() / kBytesOfTab + kLeastTabs),
-      keeper_(formats, source.size()) {
+      words_(formats, source.size()) {
   State().character = base;
   groups_.resize(groups_.size() + opened, groups_.front());
 }
@@ -116,7 +116,7 @@ void Interpreter::TakeText() {
   if (swallow_ > 0 || starred_ || State().page.MultiByte() || !AtText()) return;
   opened_ = false;
   BeforeText();
-  if (keeper_.Pending()) {
+  if (items_.Pending()) {
     TakeSome(1, NextCharacter());
     if (!AtText()) return;
   }
@@ -180,7 +180,8 @@ void Interpreter::Close() {
 /// passed over: no break and no format is lost.
 void Interpreter::Word(const Token& word) {
   const Keyword* keyword = FindKeyword(word.text);
-  if (wasStarred_ && !(keyword && keyword->opensGroup)) return KeepAside(0, word);
+  if (wasStarred_ && !(keyword && keyword->opensGroup))
+    return KeepAside(static_cast<int>(KeptItem::Kind::Group), word);
   const bool swallowed = Swallowed();
   if (!keyword) return KeepUnknown(word);
   if (keyword->handler != &Interpreter::KeepWord) borderOf_ = WordScope::None;
@@ -232,7 +233,7 @@ void Interpreter::EndBytes() {
   decoded_.clear();
   DecodeCodePage(State().page.Number(), bytes, decoded_);
   const std::u16string_view text = decoded_;
-  const std::size_t first = keeper_.Pending() ? CharacterLength(text) : 0;
+  const std::size_t first = items_.Pending() ? CharacterLength(text) : 0;
   if (first > 0) body_.Append(text.substr(0, first), NextCharacter());
   body_.Append(text.substr(first), CharacterNumber());
 }
@@ -247,37 +248,6 @@ void Interpreter::BeforeText() {
   if (inHead_) BeginBody();
   if (!marker_.empty()) PlaceMarker();
   if (body_.Holds()) body_.Release();
-}
-
-/// Reads the marker as text, in a group of its own that it cannot leave. What numbers its paragraph
-/// does not end it.
-void Interpreter::PlaceMarker() {
-  const std::string_view marker = std::exchange(marker_, {});
-  if (HasBullet()) return;
-  const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
-  groups_.push_back(groups_.back());
-  State().fieldAt = GroupState::kNowhere;
-  State().fallback = markerFallback_;
-  numbering_ = IsNumbered();
-  if (numbering_ && target_ == RtfTarget::Document)
-    EnterField({.opening = "{\\" + std::string(markerWord_), .closing = "}", .numbers = true});
-  const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
-  const std::size_t outermost = std::exchange(outermost_, groups_.size());
-  const std::size_t uncounted = std::exchange(uncounted_, 0);
-  const std::string behind = keeper_.TakeSince(markerPlace_);
-  placingMarker_ = true;
-  Interpret();
-  placingMarker_ = false;
-  numbering_ = false;
-  keeper_.Keep(behind + keeper_.TakeSince(markerPlace_));
-  borderOf_ = WordScope::None;
-  keeper_.EndScripts();
-  tokens_ = tokens;
-  outermost_ = outermost;
-  uncounted_ = uncounted;
-  swallow_ = 0;
-  starred_ = false;
-  groups_.erase(groups_.begin() + depth, groups_.end());
 }
 
 CharFormat& Interpreter::EditCharacter() {

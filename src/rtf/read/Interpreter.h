@@ -6,14 +6,15 @@
 #include <vector>
 
 #include "document/text/Fragment.h"
-#include "rtf/kept/KeptWords.h"
 #include "rtf/read/BodyText.h"
 #include "rtf/read/ColourTable.h"
 #include "rtf/read/FontTable.h"
 #include "rtf/read/GroupState.h"
-#include "rtf/read/Keeper.h"
+#include "rtf/read/ItemKeeper.h"
 #include "rtf/read/ListTable.h"
 #include "rtf/read/Reader.h"
+#include "rtf/read/WordFamilies.h"
+#include "rtf/read/WordKeeper.h"
 #include "rtf/source/Tokenizer.h"
 
 namespace lumenote {
@@ -47,7 +48,10 @@ class Interpreter {
   void FieldResult(int value, const Token& word);
   void Generator(int value, const Token& word);
   void KeepWord(int value, const Token& word);
+  void KeepSection(int value, const Token& word);
+  void KeepRow(int value, const Token& word);
   void KeepStyle(int value, const Token& word);
+  void KeepMark(int value, const Token& word);
   void KeepAssociated(int value, const Token& word);
   void SkipAlternative(int value, const Token& word);
   void Marker(int value, const Token& word);
@@ -118,10 +122,10 @@ class Interpreter {
   bool IsNumbered() const;
 
   void KeepUnknown(const Token& word);
-  void KeepInHead(const std::string& source);
+  void KeepInHead(std::string source);
   std::string GroupSource(std::size_t from);
   void PassTable();
-  void EnterField(KeptField field);
+  void EnterField(KeptField::Kind kind, std::string opening);
   void EndField(const GroupState& group, const GroupState& around);
   void BeginBody();
   /// Takes note that text or a break is laid down.
@@ -132,6 +136,7 @@ class Interpreter {
   }
   bool ReachBreak();
   void BreakAs(Kept kept);
+  static std::string RowDefinition(const KeptItems& items);
   CharId CharacterWith(Kept kept);
   CharId NextCharacter();
   HeadId Head();
@@ -165,13 +170,16 @@ class Interpreter {
 
   std::size_t tabsLeft_;  // stops that paragraph formats may still have
 
-  Keeper keeper_;
-  std::string row_;       // the definition of the row at hand, if it came ahead of the cells
-  std::size_t laid_ = 0;  // pieces of text, breaks and tables so far
+  ItemKeeper items_;
+  WordKeeper words_;
+  bool needsTables_ = false;  // something kept names entries of the source's tables
+  std::string row_;           // the definition of the row at hand, if it came ahead of the cells
+  std::size_t laid_ = 0;      // pieces of text, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
   bool inHead_ = true;  // nothing of the body has come yet
   bool begun_ = false;  // text has come
   KeptHead head_;
+  KeptItems headItems_;
 
   int swallow_ = 0;          // characters still to pass over behind a \u
   bool opened_ = false;      // the last token was {
@@ -184,8 +192,8 @@ class Interpreter {
   bool numbering_ = false;   // the marker being placed is a list number
   std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
   std::string_view markerWord_;
-  Keeper::Place markerPlace_ = 0;  // in what is kept
-  int markerFallback_ = 1;         // \uc where it stands
+  ItemKeeper::Place markerPlace_ = 0;
+  int markerFallback_ = 1;  // \uc where it stands
 };
 
 }  // namespace lumenote

@@ -2,6 +2,7 @@
 #pragma once
 #include <string_view>
 
+#include "document/FormatTables.h"
 #include "document/text/Fragment.h"
 
 namespace lumenote {

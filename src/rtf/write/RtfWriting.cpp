@@ -7,14 +7,19 @@
 namespace lumenote {
 namespace {
 
-void WriteHead(const WrittenFormats& formats, const KeptHead& head, bool whole, Output& out) {
+void WriteItems(const ChainTable<KeptItem>& items, ItemId first, Output& out) {
+  items.ForEach(first, [&](const KeptItem& item) { out.Words(item.source); });
+}
+
+void WriteHead(const WrittenFormats& formats, const FormatTables& tables, const KeptHead& head,
+               bool whole, Output& out) {
   out.Raw("{\\rtf1\\ansi");
   out.Word("ansicpg", head.page);
   out.Word("deff", head.defaultFont);
   out.Words("\\deflang1036");
   formats.WriteFontTable(out);
   formats.WriteColourTable(out);
-  if (whole) out.Words(head.source);
+  if (whole) WriteItems(tables.items, head.items, out);
   if (head.tables) out.Raw("{\\*\\generator Lumenote;}");
   out.Words("\\viewkind4\\uc1");
 }
@@ -82,7 +87,7 @@ void RtfWriting::Begin() {
 void RtfWriting::Write(Selection piece) {
   const FormatTables& tables = document_.Formats();
   if (!body_) {
-    WriteHead(formats_, tables.heads[document_.Mark().head], mark_.has_value(), out_);
+    WriteHead(formats_, tables, tables.heads[document_.Mark().head], mark_.has_value(), out_);
     body_.emplace(tables, formats_, std::move(scan_.found), mark_.has_value(), out_);
   }
   document_.ForEachRun(piece.start, piece.end, [this](Position, TextView text, CharId format) {
@@ -92,7 +97,8 @@ void RtfWriting::Write(Selection piece) {
 
 void RtfWriting::Finish() {
   body_->Finish(mark_ ? &*mark_ : nullptr);
-  if (mark_) out_.Words(document_.Formats().heads[mark_->head].tail);
+  const FormatTables& tables = document_.Formats();
+  if (mark_) WriteItems(tables.items, tables.heads[mark_->head].tail, out_);
   out_.Raw("}\r\n");
   out_.Flush();
   stage_ = Stage::Done;

@@ -3,9 +3,16 @@
 #include <algorithm>
 #include <utility>
 
-#include "rtf/kept/KeptWords.h"
-
 namespace lumenote {
+namespace {
+
+bool IsNumbering(KeptWord word) { return word.kind == KeptWord::Kind::Numbering; }
+
+bool IsDefinition(const KeptItem& item) {
+  return item.kind == KeptItem::Kind::Section || item.kind == KeptItem::Kind::Row;
+}
+
+}  // namespace
 
 // --- paragraphs
 
@@ -14,16 +21,16 @@ void WrittenBody::BeginParagraph() {
   if (HasFormat()) Paragraph(Governing(), true);
   const std::vector<WrittenParagraphs::Lead>& leads = paragraphs_.leads;
   for (; lead_ < leads.size() && leads[lead_].paragraph <= index_; ++lead_)
-    out_.Words(tables_.kept[leads[lead_].kept].before);
+    Items(tables_.kept[leads[lead_].kept].before);
 }
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
-  const Told wanted{&Words(id), Nesting(id), tables_.paragraphs[id].bullet != 0};
+  const Known wanted{&Words(id), Nesting(id), tables_.paragraphs[id].bullet != 0};
   const bool sameWords =
-      wanted.words == told_.words || (told_.words && *wanted.words == *told_.words);
+      wanted.words == known_.words || (known_.words && *wanted.words == *known_.words);
   const bool changed =
-      !sameWords || wanted.nesting != told_.nesting || wanted.bullet != told_.bullet;
-  told_ = wanted;
+      !sameWords || wanted.nesting != known_.nesting || wanted.bullet != known_.bullet;
+  known_ = wanted;
   if (changed) out_.Word("pard");
   if (wanted.bullet) Bullet(id, changed, atStart);
   if (!changed) return;
@@ -94,7 +101,7 @@ ParaId WrittenBody::Governing() const {
 bool WrittenBody::IsList() const {
   if (!HasFormat()) return false;
   const ParaFormat format = WrittenOf(Governing());
-  const bool numbered = tables_.words[format.words].source.find("{\\*\\pn") != std::string::npos;
+  const bool numbered = tables_.words.Any(format.words, IsNumbering);
   return format.bullet == 0 && (format.list != 0 || numbered);
 }
 
@@ -104,41 +111,49 @@ bool WrittenBody::IsList() const {
 /// may have made a break of it, put text before it, or taken the paragraph out of the list. It is
 /// ordinary text then.
 bool WrittenBody::IsNumber(FieldId number, char16_t unit) const {
-  const bool open = std::ranges::find(fields_, number, &OpenField::id) != fields_.end();
+  const bool open = std::ranges::find(fields_, number, &Open::id) != fields_.end();
   return unit != u'\r' && (open || !begun_) && IsList();
 }
 
-/// Leaves the fields that the next character is not in, and enters those that it is in. Of what
-/// comes `before` that character, definitions stay outside the field, and so does all that comes
+bool WrittenBody::IsListNumber(FieldId field) const {
+  return tables_.fields[field].kind == KeptField::Kind::ListNumber;
+}
+
+/// Leaves the fields that the next character is not in, and enters those that it is in. Of the
+/// items `before` that character, definitions stay outside the field, and so does all that comes
 /// before a list number: readers number the paragraph where its number stands. Returns what is
-/// still to be written of it.
-std::string_view WrittenBody::Field(FieldId wanted, char16_t unit, std::string_view before) {
+/// still to be written of them.
+ItemId WrittenBody::EnterFields(FieldId wanted, char16_t unit, ItemId before) {
   if (fields_.empty() && wanted == 0 && begun_) return before;
   chain_.clear();
   for (FieldId id = wanted; id != 0; id = tables_.fields[id].outer)
-    if (!tables_.fields[id].numbers || IsNumber(id, unit)) chain_.insert(chain_.begin(), id);
-  const auto differs = std::ranges::mismatch(fields_, chain_, {}, &OpenField::id).in2;
+    if (!IsListNumber(id) || IsNumber(id, unit)) chain_.insert(chain_.begin(), id);
+  const auto differs = std::ranges::mismatch(fields_, chain_, {}, &Open::id).in2;
   const auto common = static_cast<std::size_t>(differs - chain_.begin());
   while (fields_.size() > common) CloseField();
   if (!begun_) BeginParagraph();
   while (fields_.size() < chain_.size()) {
     const FieldId id = chain_[fields_.size()];
-    const bool numbers = tables_.fields[id].numbers;
-    if (numbers || DefinesPlace(before)) out_.Words(std::exchange(before, {}));
-    fields_.push_back({id, told_, format_});
-    out_.Words(tables_.fields[id].opening);
-    if (!numbers) continue;
-    out_.Word("plain");
-    format_ = {};
+    if (IsListNumber(id) || tables_.items.Any(before, IsDefinition))
+      Items(std::exchange(before, 0));
+    OpenField(id);
   }
   return before;
 }
 
+void WrittenBody::OpenField(FieldId id) {
+  fields_.push_back({id, known_, format_});
+  out_.Words(tables_.fields[id].opening);
+  if (!IsListNumber(id)) return;
+  out_.Word("plain");
+  format_ = {};
+}
+
 void WrittenBody::CloseField() {
-  const OpenField field = fields_.back();
+  const Open field = fields_.back();
   fields_.pop_back();
-  out_.Raw(tables_.fields[field.id].closing);
-  told_ = field.told;
+  out_.Raw(IsListNumber(field.id) ? "}" : "}}");
+  known_ = field.known;
   format_ = field.format;
   if (begun_ && HasFormat()) Paragraph(Governing(), false);
 }
@@ -161,36 +176,40 @@ void WrittenBody::Text(TextView text, CharId format) {
   while (!text.Empty()) text.RemovePrefix(Step(text));
 }
 
-/// What an edit has made of one character is one still: what stands before it comes once. A cell
-/// that is part of no row is text that ends in a tab.
+/// Items are written once, even before a character that an edit has made several of. A cell that is
+/// part of no row is text that ends in a tab.
 void WrittenBody::KeptText(TextView text, CharId format, const Kept& kept, bool again) {
   while (!text.Empty()) {
     const char16_t unit = text.Front();
-    const bool stands = Stands(kept, unit);
-    Ahead(kept, format, unit, again);
+    const bool valid = IsValid(kept, unit);
+    Before(kept, format, unit, again);
     again = true;
-    const bool lostCell = !stands && kept.kind == Kept::Kind::Cell && unit == u'\t';
-    text.RemovePrefix(stands ? Instead(kept, unit) : Step(text));
+    const bool lostCell = !valid && kept.kind == Kept::Kind::Cell && unit == u'\t';
+    text.RemovePrefix(valid ? KeptCharacter(kept, unit) : Step(text));
     if (lostCell) ++cell_;
   }
 }
 
-/// What comes ahead of a character.
-void WrittenBody::Ahead(const Kept& kept, CharId format, char16_t unit, bool again) {
-  const bool told = again || BeginsParagraph(kept.before);
-  const std::string_view rest = Field(kept.field, unit, told ? std::string_view() : kept.before);
-  if (EndsNothing(kept, unit)) {
-    out_.Words(rest);
-    out_.Words(kept.instead);
+void WrittenBody::Items(ItemId first) {
+  tables_.items.ForEach(first, [this](const KeptItem& item) { out_.Words(item.source); });
+}
+
+/// What comes before a character: items, and changes of fields and format.
+void WrittenBody::Before(const Kept& kept, CharId format, char16_t unit, bool again) {
+  const bool written = again || tables_.items.Any(kept.before, IsBreak);
+  const ItemId rest = EnterFields(kept.field, unit, written ? 0 : kept.before);
+  if (IsEmptyBreak(kept, unit)) {
+    Items(rest);
+    Items(kept.self);
     Format(format);
   } else {
     Format(format);
-    out_.Words(rest);
+    Items(rest);
   }
 }
 
 /// Whether the character is still what the source said.
-bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
+bool WrittenBody::IsValid(const Kept& kept, char16_t unit) const {
   switch (kept.kind) {
     case Kept::Kind::Embedded:
       return unit == u'\uFFFC';
@@ -198,31 +217,56 @@ bool WrittenBody::Stands(const Kept& kept, char16_t unit) const {
       return unit == u'\t' && InRow();
     case Kept::Kind::Row:
       return unit == u'\r' && InRow();
+    case Kept::Kind::Break:
+      return unit == u'\r' && filled_;
     default:
-      return unit == u'\r' && filled_ && !kept.instead.empty();
+      return false;
   }
 }
 
 /// Whether the end of a page, column or section has lost the text before it: readers then make no
 /// paragraph of it.
-bool WrittenBody::EndsNothing(const Kept& kept, char16_t unit) const {
-  return kept.kind == Kept::Kind::Character && !kept.instead.empty() && unit == u'\r' && !filled_;
+bool WrittenBody::IsEmptyBreak(const Kept& kept, char16_t unit) const {
+  return kept.kind == Kept::Kind::Break && unit == u'\r' && !filled_;
 }
 
-std::size_t WrittenBody::Instead(const Kept& kept, char16_t unit) {
-  const bool endsCell = kept.kind == Kept::Kind::Cell || kept.kind == Kept::Kind::Row;
-  if (endsCell) Paragraph(Governing(), false);
-  out_.Words(kept.instead);
-  if (endsCell) {
-    ++cell_;
-    begun_ = false;
-    if (kept.instead.find("\\pard") != std::string::npos) told_ = {};
-  }
+/// Writes the character as the source said it; returns its length.
+std::size_t WrittenBody::KeptCharacter(const Kept& kept, char16_t unit) {
+  if (kept.kind == Kept::Kind::Cell || kept.kind == Kept::Kind::Row)
+    EndCell(kept);
+  else
+    Items(kept.self);
   filled_ = true;
   if (unit != u'\r') return 1;
   out_.Raw("\r\n");
   EndParagraph();
   return 2;
+}
+
+void WrittenBody::EndCell(const Kept& kept) {
+  Paragraph(Governing(), false);
+  out_.Word(kept.nested != 0 ? "nestcell" : "cell");
+  if (kept.kind == Kept::Kind::Row && kept.nested != 0)
+    EndNestedRow(kept.self);
+  else if (kept.kind == Kept::Kind::Row)
+    EndRow(kept.self);
+  ++cell_;
+  begun_ = false;
+}
+
+void WrittenBody::EndRow(ItemId definition) {
+  Items(definition);
+  out_.Word("row");
+}
+
+/// Readers want the table told anew before the end of a nested row.
+void WrittenBody::EndNestedRow(ItemId definition) {
+  out_.Words("\\pard\\intbl");
+  out_.Word("itap", Cell()->rowDepth);
+  out_.Raw("{\\*\\nesttableprops");
+  Items(definition);
+  out_.Raw("\\nestrow}{\\nonesttables\\par}");
+  known_ = {};
 }
 
 /// Writes some of the text and returns how much.
@@ -253,16 +297,16 @@ void WrittenBody::Finish(const FinalMark* mark) {
   if (mark) {
     const KeptId id = tables_.characters[mark->character].kept;
     const Kept& kept = tables_.kept[id];
-    Ahead(kept, mark->character, u'\r', lastKept_ == id);
-    if (Stands(kept, u'\r')) {
-      Instead(kept, u'\r');
+    Before(kept, mark->character, u'\r', lastKept_ == id);
+    if (IsValid(kept, u'\r')) {
+      KeptCharacter(kept, u'\r');
     } else {
       Paragraph(mark->paragraph, false);
       out_.Raw("\\par ");
       begun_ = false;
     }
   }
-  if (!told_.words && !paragraphs_.formats.empty()) BeginParagraph();
+  if (!known_.words && !paragraphs_.formats.empty()) BeginParagraph();
   while (!fields_.empty()) CloseField();
 }
 

@@ -32,15 +32,15 @@ class WrittenBody {
 
  private:
   /// What a reader knows of the paragraph at hand.
-  struct Told {
+  struct Known {
     const std::string* words = nullptr;  // in `knownWords_`; null: nothing yet
     int nesting = 0;
     bool bullet = false;
   };
   /// An open field, and what holds again behind it.
-  struct OpenField {
+  struct Open {
     FieldId id;
-    Told told;
+    Known known;
     WrittenFormat format;
   };
 
@@ -53,7 +53,7 @@ class WrittenBody {
   /// The cell at hand; null where the rest of the paragraph holds none.
   const WrittenParagraphs::Cell* Cell() const;
   /// Whether the cell at hand is part of a whole row.
-  bool InRow() const { return Cell() && Cell()->stands; }
+  bool InRow() const { return Cell() && Cell()->whole; }
   /// Nesting of the whole row that is being written.
   int RowDepth() const;
   int Nesting(ParaId paragraph) const;
@@ -63,15 +63,21 @@ class WrittenBody {
   bool IsList() const;
 
   bool IsNumber(FieldId number, char16_t unit) const;
-  std::string_view Field(FieldId wanted, char16_t unit, std::string_view before);
+  bool IsListNumber(FieldId field) const;
+  ItemId EnterFields(FieldId wanted, char16_t unit, ItemId before);
+  void OpenField(FieldId id);
   void CloseField();
 
   void Format(CharId format);
   void KeptText(TextView text, CharId format, const Kept& kept, bool again);
-  void Ahead(const Kept& kept, CharId format, char16_t unit, bool again);
-  bool Stands(const Kept& kept, char16_t unit) const;
-  bool EndsNothing(const Kept& kept, char16_t unit) const;
-  std::size_t Instead(const Kept& kept, char16_t unit);
+  void Items(ItemId first);
+  void Before(const Kept& kept, CharId format, char16_t unit, bool again);
+  bool IsValid(const Kept& kept, char16_t unit) const;
+  bool IsEmptyBreak(const Kept& kept, char16_t unit) const;
+  std::size_t KeptCharacter(const Kept& kept, char16_t unit);
+  void EndCell(const Kept& kept);
+  void EndRow(ItemId definition);
+  void EndNestedRow(ItemId definition);
   std::size_t Step(TextView text);
   std::size_t Special(char16_t unit);
   void EndParagraph();
@@ -87,10 +93,10 @@ class WrittenBody {
   std::size_t lead_ = 0;   // the next one to be written
   bool begun_ = false;     // whether anything of the paragraph, or of its cell, is written
   bool filled_ = false;    // whether the paragraph has text
-  Told told_;
+  Known known_;
   std::vector<std::optional<std::string>> knownWords_;  // by ParaId
   WrittenFormat format_;
-  std::vector<OpenField> fields_;
+  std::vector<Open> fields_;
   std::vector<FieldId> chain_;
   KeptId lastKept_;
 };

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "rtf/kept/KeptWords.h"
+#include "document/KeptEdits.h"
 
 namespace lumenote {
 int OpenRows::End(int nesting) {
@@ -32,7 +32,7 @@ ParagraphScan::ParagraphScan(const Document& document, Position from, const Fina
     : document_(document), mark_(mark), first_(document.ParagraphOf(from)) {
   const FormatTables& tables = document.Formats();
   const KeptId opening = tables.characters[document.CharFormatAt(from)].kept;
-  if (!mark && BeginsPlace(tables.kept[opening].before)) found.outside = opening;
+  if (!mark && BeginsPlace(tables, opening)) found.outside = opening;
   last_ = found.outside;
 }
 
@@ -68,7 +68,7 @@ void ParagraphScan::FindKept(Position at, TextView text, CharId format) {
   const auto paragraph = [&](std::size_t i) {
     return static_cast<std::size_t>(document_.ParagraphOf(at + static_cast<Position>(i)) - first_);
   };
-  if (!again && BeginsParagraph(kept.before)) found.leads.push_back({paragraph(0), id});
+  if (!again && tables.items.Any(kept.before, IsBreak)) found.leads.push_back({paragraph(0), id});
   const bool endsRow = kept.kind == Kept::Kind::Row;
   if (!endsRow && kept.kind != Kept::Kind::Cell) return;
   const char end = endsRow ? '\r' : '\t';
@@ -76,8 +76,8 @@ void ParagraphScan::FindKept(Position at, TextView text, CharId format) {
     const std::size_t index = paragraph(i);
     const ParaId own = endsRow ? found.formats[index] : kept.paragraph;
     const int told = tables.paragraphs[own].nesting;
-    const bool nested = kept.instead.starts_with("\\nestcell");
-    found.cells.push_back({index, own, nested ? std::max(told, 2) : std::min(told, 1), endsRow});
+    found.cells.push_back(
+        {index, own, kept.nested ? std::max(told, 2) : std::min(told, 1), endsRow});
   }
 }
 
@@ -96,8 +96,8 @@ void ParagraphScan::FindRow(std::size_t i) {
   for (; here(); --cells_) {
     WrittenParagraphs::Cell& cell = found.cells[cells_ - 1];
     const int own = cell.endsRow ? depth : open_.Cell(cell.nesting);
-    cell.stands = own != WrittenParagraphs::kNoRow;
-    if (cell.stands) {
+    cell.whole = own != WrittenParagraphs::kNoRow;
+    if (cell.whole) {
       format = cell.format;
       depth = own;
     }

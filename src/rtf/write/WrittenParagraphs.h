@@ -19,7 +19,7 @@ struct WrittenParagraphs {
     bool endsRow;
     /// Whether it is part of a whole row; else its text is part of what follows, whose format and
     /// depth it has here.
-    bool stands = true;
+    bool whole = true;
     int rowDepth = kNoRow;  // nesting of that row
   };
 

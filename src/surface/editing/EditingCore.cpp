@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
+#include "document/KeptEdits.h"
 #include "surface/editing/ChangeSpan.h"
 
 namespace lumenote {
@@ -77,25 +78,12 @@ void EditingCore::Select(Position anchor, Position caret) {
   Tell();
 }
 
-/// What is typed between two characters of a field belongs to it.
-KeptId EditingCore::TypedInside(Position position) const {
-  if (HasSelection() || position == 0) return 0;
-  const auto keptAt = [&](Position at) { return CharacterFormat(document_.CharFormatAt(at)).kept; };
-  const auto& table = document_.Formats().kept;
-  const KeptId before = keptAt(position - 1);
-  const KeptId behind = keptAt(position);
-  const Kept inField{.field = table[before].field};
-  if (table[behind].field != inField.field) return 0;
-  if (table[before] == inField) return before;
-  return table[behind] == inField ? behind : 0;
-}
-
 CharFormat EditingCore::InsertionFormat() const {
   if (chosenFormat_) return *chosenFormat_;
   const Position start = Selected().start;
   const bool behind = HasSelection() || start == 0 || document_.At(start - 1) == u'\n';
   CharFormat format = CharacterFormat(document_.CharFormatAt(behind ? start : start - 1));
-  format.kept = TypedInside(start);
+  format.kept = HasSelection() ? 0 : KeptOfTyping(document_, start);
   return format;
 }
 

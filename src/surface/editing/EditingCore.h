@@ -73,7 +73,6 @@ class EditingCore {
   void RequireQuiet() const;
 
  private:
-  KeptId TypedInside(Position position) const;
   void Note(const DocumentChange& edit);
   bool Move(Position anchor, Position caret);
   void BackTo(const UndoMark& mark, Selection selected);

@@ -1,7 +1,7 @@
 #include "surface/editing/ParagraphFormats.h"
 
 #include "base/RuntimeError.h"
-#include "rtf/kept/KeptWords.h"
+#include "document/KeptEdits.h"
 
 namespace lumenote {
 
@@ -35,14 +35,7 @@ void ParagraphFormats::Apply(UndoKind kind, Set set) {
     return core_.Formats().paragraphs.Intern(format);
   };
   // A table row is one paragraph here, whose cells have their formats at their ends.
-  const auto mapCell = [&](CharId id) {
-    CharFormat format = core_.CharacterFormat(id);
-    Kept kept = core_.Formats().kept[format.kept];
-    if (kept.kind != Kept::Kind::Cell) return id;
-    kept.paragraph = map(kept.paragraph);
-    format.kept = core_.Formats().kept.Intern(kept);
-    return core_.Formats().characters.Intern(format);
-  };
+  const auto mapCell = [&](CharId id) { return WithCellFormat(id, core_.Formats(), map); };
   const Document& document = core_.Content();
   const Position start = core_.Selected().start;
   const Position first = document.ParagraphOf(start);
@@ -63,9 +56,7 @@ void ParagraphFormats::Bullet(UndoKind kind, bool on) {
   Apply(kind, [this, on](ParaFormat& format) {
     if ((format.bullet != 0) == on) return;
     format.bullet = on;
-    format.list = 0;
-    auto& words = core_.Formats().words;
-    format.words = words.Intern({WithoutNumbering(words[format.words].source)});
+    LeaveList(format, core_.Formats());
   });
 }
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/Strings.h"
-#include "rtf/kept/Beginnings.h"
+#include "document/KeptEdits.h"
 
 namespace lumenote {
 

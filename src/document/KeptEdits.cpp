@@ -1,14 +1,18 @@
-#include "rtf/kept/Beginnings.h"
+#include "document/KeptEdits.h"
 
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "base/Strings.h"
-#include "rtf/kept/KeptWords.h"
 
 namespace lumenote {
 namespace {
+
+using Kind = KeptItem::Kind;
+
+bool IsSection(const KeptItem& item) { return item.kind == Kind::Section; }
+bool Begins(const KeptItem& item) { return IsBreak(item) || IsSection(item); }
 
 CharId WithKept(CharId format, const Kept& kept, FormatTables& tables) {
   CharFormat changed = tables.characters[format];
@@ -16,12 +20,30 @@ CharId WithKept(CharId format, const Kept& kept, FormatTables& tables) {
   return tables.characters.Intern(changed);
 }
 
+/// The items of `source` that begin a page, column or section: all but those of table rows, and
+/// groups other than headers. No break when `there`, where they are to go, has one, and nothing
+/// else when that begins a section.
+KeptItems BeginningIn(const ChainTable<KeptItem>& items, ItemId source, ItemId there) {
+  const bool breaks = !items.Any(there, IsBreak);
+  const bool section = !items.Any(there, IsSection);
+  KeptItems beginning;
+  bool ofRow = false;
+  items.ForEach(source, [&](const KeptItem& item) {
+    if (item.kind == Kind::Row) ofRow = true;
+    if (Begins(item)) ofRow = false;
+    const bool format =
+        IsSection(item) || item.kind == Kind::PageHeader || (item.kind == Kind::Words && !ofRow);
+    if (IsBreak(item) ? breaks : format && section) beginning.push_back(item);
+  });
+  return beginning;
+}
+
 CharId WithBeginning(CharId format, FormatTables& tables, KeptId beginning) {
   const Kept& from = tables.kept[beginning];
   Kept kept = tables.kept[tables.characters[format].kept];
-  const std::string added = BeginningIn(from.before, kept.before);
+  KeptItems added = BeginningIn(tables.items, from.before, kept.before);
   if (added.empty()) return format;
-  kept.before.insert(0, added);
+  kept.before = tables.items.Chain(std::move(added), kept.before);
   kept.serial = from.serial;
   return WithKept(format, kept, tables);
 }
@@ -43,13 +65,17 @@ Fragment Mapped(Fragment fragment, Position length, Map map) {
 
 }  // namespace
 
+bool BeginsPlace(const FormatTables& tables, KeptId kept) {
+  return tables.items.Any(tables.kept[kept].before, Begins);
+}
+
 KeptId BeginningAt(const Document& document, Position position) {
   const FormatTables& tables = document.Formats();
   const auto keptAt = [&](Position at) {
     return tables.characters[document.CharFormatAt(at)].kept;
   };
   const KeptId kept = keptAt(position);
-  if (kept == 0 || !BeginsPlace(tables.kept[kept].before)) return 0;
+  if (!BeginsPlace(tables, kept)) return 0;
   return position > 0 && keptAt(position - 1) == kept ? 0 : kept;
 }
 
@@ -67,7 +93,7 @@ Fragment WithBeginning(Fragment fragment, FormatTables& tables, KeptId beginning
 Fragment WithoutBeginning(Fragment fragment, FormatTables& tables) {
   const auto keptOf = [&](CharId format) { return tables.characters[format].kept; };
   const KeptId kept = keptOf(fragment.leaves.CursorAt(0)->runs.FormatAt(0));
-  if (!BeginsPlace(tables.kept[kept].before)) return fragment;
+  if (!BeginsPlace(tables, kept)) return fragment;
   Position length = 0;
   fragment.leaves.ForEachRun(0, fragment.Length(), [&](Position at, TextView text, CharId format) {
     const bool goesOn = at == length && keptOf(format) == kept;
@@ -78,11 +104,40 @@ Fragment WithoutBeginning(Fragment fragment, FormatTables& tables) {
 }
 
 CharId WithoutBeginning(CharId format, FormatTables& tables) {
-  Kept kept = tables.kept[tables.characters[format].kept];
-  if (!BeginsPlace(kept.before)) return format;
-  kept.before.clear();
+  const KeptId id = tables.characters[format].kept;
+  if (!BeginsPlace(tables, id)) return format;
+  Kept kept = tables.kept[id];
+  kept.before = 0;
   kept.serial = 0;
   return WithKept(format, kept, tables);
+}
+
+KeptId KeptOfTyping(const Document& document, Position position) {
+  if (position == 0) return 0;
+  const FormatTables& tables = document.Formats();
+  const auto keptAt = [&](Position at) {
+    return tables.characters[document.CharFormatAt(at)].kept;
+  };
+  const KeptId before = keptAt(position - 1);
+  const KeptId behind = keptAt(position);
+  const Kept inField{.field = tables.kept[before].field};
+  if (tables.kept[behind].field != inField.field) return 0;
+  if (tables.kept[before] == inField) return before;
+  return tables.kept[behind] == inField ? behind : 0;
+}
+
+CharId WithCellFormat(CharId format, FormatTables& tables, const Document::ParaMap& map) {
+  Kept kept = tables.kept[tables.characters[format].kept];
+  if (kept.kind != Kept::Kind::Cell) return format;
+  kept.paragraph = map(kept.paragraph);
+  return WithKept(format, kept, tables);
+}
+
+void LeaveList(ParaFormat& format, FormatTables& tables) {
+  format.list = 0;
+  std::vector<KeptWord> words = tables.words.List(format.words);
+  std::erase_if(words, [](KeptWord word) { return word.kind == KeptWord::Kind::Numbering; });
+  format.words = tables.words.Chain(std::move(words));
 }
 
 }  // namespace lumenote

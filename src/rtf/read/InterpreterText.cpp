@@ -2,22 +2,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "rtf/kept/KeptSource.h"
 #include "rtf/read/Interpreter.h"
+#include "rtf/read/KeptSource.h"
 
 namespace lumenote {
-namespace {
-
-std::string EndOfCell(int nested) { return nested != 0 ? "\\nestcell" : "\\cell"; }
-
-/// The end of a nested row, behind its last cell. Readers want the table told anew before it.
-std::string NestedRow(const std::string& definition, int nesting) {
-  return "\\pard\\intbl\\itap" + std::to_string(nesting) + "{\\*\\nesttableprops" + definition +
-         "\\nestrow}{\\nonesttables\\par}";
-}
-
-}  // namespace
-
 void Interpreter::Character(int value, const Token&) { Put(static_cast<char16_t>(value)); }
 
 void Interpreter::Unicode(int, const Token& word) {
@@ -50,46 +38,49 @@ bool Interpreter::ReachBreak() {
 void Interpreter::BreakAs(Kept kept) {
   if (!ReachBreak()) return;
   Lay();
-  const bool plain = !keeper_.Pending() && kept == Kept();
+  const bool plain = !items_.Pending() && kept == Kept();
   body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
 }
 
 /// The end of a page, column or section ends a paragraph that has begun.
-void Interpreter::EndParagraph(int, const Token& word) {
+void Interpreter::EndParagraph(int value, const Token& word) {
   if (!ReachBreak()) return;
-  if (!body_.Started()) return keeper_.Keep(SourceOf(word));
-  BreakAs({.instead = SourceOf(word)});
+  const auto kind = static_cast<KeptItem::Kind>(value);
+  if (!body_.Started()) return items_.Keep(kind, SourceOf(word));
+  const ItemId self = formats_.items.Chain({{.kind = kind, .source = SourceOf(word)}});
+  BreakAs({.self = self, .kind = Kept::Kind::Break});
 }
 
 void Interpreter::Cell(int nested, const Token&) {
   if (!ReachBreak()) return;
   Lay();
-  body_.Cell(CharacterWith(
-      {.instead = EndOfCell(nested), .paragraph = ParagraphNumber(), .kind = Kept::Kind::Cell}));
+  body_.Cell(CharacterWith({.paragraph = ParagraphNumber(),
+                            .kind = Kept::Kind::Cell,
+                            .nested = static_cast<std::uint8_t>(nested)}));
 }
 
 /// The row's break stands for the end of its last cell too, whose format the paragraph has, as deep
-/// as the row is. A row that holds nothing is none. A definition that came ahead of the first cell
-/// alone would be lost with the first character of that, so the break has it too.
+/// as the row is. Empty rows are ignored. A definition that came ahead of the first cell alone
+/// would be lost with the first character of that, so the break has it too.
 void Interpreter::Row(int nested, const Token&) {
   if (!ReachBreak() || !body_.Started()) return;
   Lay();
-  Kept kept{.instead = EndOfCell(nested)};
+  Kept row{.kind = Kept::Kind::Row, .nested = static_cast<std::uint8_t>(nested)};
+  KeptItems items = items_.Take();
+  const bool defined = nested != 0 || row_.empty() || !RowDefinition(items).empty();
+  if (!defined) items.insert(items.begin(), {.kind = KeptItem::Kind::Row, .source = row_});
+  row.self = formats_.items.Chain(std::move(items));
   ParaId paragraph = ParagraphNumber();
-  std::string definition = keeper_.Take();
-  if (nested == 0 && RowDefinition(definition).empty()) definition.insert(0, row_);
   if (const auto cell = body_.LastCell()) {
-    kept = formats_.kept[formats_.characters[*cell].kept];
-    paragraph = std::exchange(kept.paragraph, 0);
-    keeper_.Keep(std::exchange(kept.before, {}));
+    const Kept& last = formats_.kept[formats_.characters[*cell].kept];
+    row.before = last.before;
+    paragraph = last.paragraph;
   }
-  kept.kind = Kept::Kind::Row;
   ParaFormat format = formats_.paragraphs[paragraph];
   const int told = format.nesting;
   const int deep = std::clamp(std::max(told, State().paragraph.nesting), 2, 0xFF);
   format.nesting = static_cast<std::uint8_t>(nested ? deep : std::min(told, 1));
-  kept.instead += nested ? NestedRow(definition, deep) : definition + "\\row";
-  body_.Row({CharacterWith(std::move(kept)), formats_.paragraphs.Intern(format)});
+  body_.Row({CharacterWith(row), formats_.paragraphs.Intern(format)});
   if (nested == 0) row_.clear();
 }
 

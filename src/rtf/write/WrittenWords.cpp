@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <iterator>
 
-#include "rtf/kept/KeptWords.h"
 #include "rtf/write/WrittenFormats.h"
 
 namespace lumenote {
@@ -73,10 +72,28 @@ LineWords WordsOf(LineRule rule, int spacing) {
   }
 }
 
+/// Where the last part begins if it is that of \hich, else the end.
+WordsId HighPart(WordsId words, const FormatTables& tables) {
+  WordsId last = 0;
+  for (WordsId id = words; id != 0; id = tables.words[id].next)
+    if (IsMark(tables.words[id])) last = id;
+  return tables.words[last].kind == KeptWord::Kind::HighScript ? last : 0;
+}
+
+/// Those of a run, up to `end`.
+void WriteWords(WordsId first, WordsId end, const FormatTables& tables, Output& out) {
+  tables.words.ForEach(first, end, [&](KeptWord word) {
+    const std::string& name = tables.names[word.name];
+    word.kind == KeptWord::Kind::Numbered ? out.Word(name, word.number) : out.Word(name);
+  });
+}
+
 class ParagraphWriter {
  public:
   /// With `whole`, what has its default is told too.
-  ParagraphWriter(std::string kept, bool whole) : words_(std::move(kept)), whole_(whole) {}
+  explicit ParagraphWriter(bool whole) : whole_(whole) {}
+
+  void Kept(KeptWord word, const FormatTables& tables);
 
   void Word(std::string_view name) { words_.append("\\").append(name); }
   void Number(std::string_view name, std::int64_t number) {
@@ -102,6 +119,13 @@ class ParagraphWriter {
   bool whole_;
 };
 
+void ParagraphWriter::Kept(KeptWord word, const FormatTables& tables) {
+  const std::string& name = tables.names[word.name];
+  if (word.kind == KeptWord::Kind::Numbering) return void(words_ += name);
+  Word(name);
+  if (word.kind == KeptWord::Kind::Numbered) words_ += std::to_string(word.number);
+}
+
 void ParagraphWriter::Tab(const TabStop& tab) {
   static constexpr std::string_view kLeaders[] = {"", "tldot", "tlhyph", "tlul", "tlth", "tleq"};
   static constexpr std::string_view kKinds[] = {"", "tqr", "tqc", "tqdec", ""};
@@ -117,14 +141,12 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
                  Output& out) {
   static constexpr WrittenFormat kNothing;
-  const std::string& kept = tables.words[to.words].source;
-  const std::string_view words = kept;
-  const std::size_t high = kept.empty() ? 0 : HighPart(kept);
-  const bool anew = told.words != to.words || high < words.size();
+  const WordsId high = HighPart(to.words, tables);
+  const bool anew = told.words != to.words || high != 0;
   const WrittenFormat& from = anew && told.words != 0 ? kNothing : told;
   if (anew) {
     if (told.words != 0) out.Word("plain");
-    out.Words(words.substr(0, high));
+    WriteWords(to.words, high, tables, out);
   }
   if (from.effects != to.effects) WriteEffects(from.effects, to.effects, out);
   if (from.underline != to.underline) out.Word(kUnderlines[static_cast<std::size_t>(to.underline)]);
@@ -136,10 +158,10 @@ void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const Forma
   if (from.colour != to.colour) out.Word("cf", to.colour);
   if (from.highlight != to.highlight) out.Word("highlight", to.highlight);
   if (from.language != to.language) out.Word("lang", to.language);
-  if (high == words.size() && from.font != to.font) out.Word("f", to.font);
+  if (high == 0 && from.font != to.font) out.Word("f", to.font);
   if (from.size != to.size) out.Word("fs", to.size);
-  if (high == words.size()) return;
-  out.Words(words.substr(high));
+  if (high == 0) return;
+  WriteWords(high, 0, tables, out);
   out.Word("f", to.font);
 }
 
@@ -149,7 +171,8 @@ std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables,
   const std::string_view alignment = kAlignments[static_cast<std::size_t>(format.alignment)];
   // Styles and lists have formats of their own for paragraphs that tell none.
   const bool whole = styled || format.list != 0;
-  ParagraphWriter words(tables.words[format.words].source, whole);
+  ParagraphWriter words(whole);
+  tables.words.ForEach(format.words, [&](KeptWord word) { words.Kept(word, tables); });
   if (format.rightToLeft != 0) words.Word("rtlpar");
   if (format.list != 0) words.Number("ls", format.list - 1);
   if (format.list != 0) words.Number("ilvl", format.level);

@@ -1,9 +1,9 @@
-#include "rtf/kept/KeptSource.h"
+#include "rtf/read/KeptSource.h"
 
 #include <algorithm>
 
-#include "rtf/kept/KeptWords.h"
 #include "rtf/read/Keywords.h"
+#include "rtf/read/WordFamilies.h"
 
 namespace lumenote {
 namespace {

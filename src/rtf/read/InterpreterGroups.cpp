@@ -1,6 +1,6 @@
 // Words that say what their group is: tables, lists, things skipped and things kept.
-#include "rtf/kept/KeptSource.h"
 #include "rtf/read/Interpreter.h"
+#include "rtf/read/KeptSource.h"
 
 namespace lumenote {
 /// The group's text is text as any other.
@@ -15,17 +15,6 @@ void Interpreter::SkipAlternative(int, const Token&) {
   tokens_.Next();
 }
 
-void Interpreter::Marker(int, const Token& word) {
-  const std::size_t from = tokens_.At();
-  tokens_.SkipGroup();
-  ++laid_;
-  if (!marker_.empty() || placingMarker_) return;
-  marker_ = tokens_.Source(from, tokens_.At());
-  markerPlace_ = keeper_.Here();
-  markerFallback_ = State().fallback;
-  markerWord_ = word.text;
-}
-
 /// The first group says what the paragraph is.
 void Interpreter::Numbering(int, const Token&) {
   const std::size_t from = tokens_.Start();
@@ -38,7 +27,7 @@ void Interpreter::Numbering(int, const Token&) {
   paragraph.bullet = bullet;
   paragraph.numbered = !bullet;
   if (!bullet && target_ == RtfTarget::Document)
-    paragraph.words = keeper_.WithGroup(GroupSource(from), paragraph.words);
+    paragraph.words = words_.WithNumbering(GroupSource(from), paragraph.words);
   Outer().paragraph = paragraph;
   Outer().paragraphKnown = false;
 }

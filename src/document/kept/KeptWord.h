@@ -1,0 +1,32 @@
+// The control words of a run or paragraph format that the editor cannot show.
+#pragma once
+#include <cstdint>
+#include <type_traits>
+
+#include "document/formats/Formats.h"
+
+namespace lumenote {
+
+/// One control word of a chain, by the number of its name.
+struct KeptWord {
+  enum class Kind : std::uint8_t {
+    Bare,        // \name
+    Numbered,    // \name12
+    Direction,   // a mark behind which words tell of text of one direction: \rtlch, \ltrch
+    Script,      // the same of scripts: \loch, \dbch
+    HighScript,  // \hich
+    Numbering,   // no word but the group that numbers the paragraph
+  };
+  NameId name : 24 = 0;
+  Kind kind : 8 = Kind::Bare;
+  std::int32_t number = 0;
+  WordsId next = 0;
+  bool operator==(const KeptWord&) const = default;
+};
+static_assert(std::has_unique_object_representations_v<KeptWord>);
+
+inline bool IsMark(KeptWord word) {
+  return word.kind >= KeptWord::Kind::Direction && word.kind <= KeptWord::Kind::HighScript;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,185 @@
+// What the editor shows nothing of, but keeps: words, groups, and the head of the source.
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "rtf/read/Interpreter.h"
+#include "rtf/read/KeptSource.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::u16string_view kObjectCharacter = u"\uFFFC";
+constexpr std::string_view kOwnName = "Lumenote";
+
+/// Words of the head that the writer gives itself.
+bool IsWrittenAnyway(std::string_view word) {
+  return word == "rtf" || word == "urtf" || word == "viewkind";
+}
+
+}  // namespace
+
+// --- words
+
+void Interpreter::KeepWord(int value, const Token& word) {
+  WordScope scope = static_cast<WordScope>(value);
+  if (scope == WordScope::Border)
+    scope = borderOf_;
+  else
+    borderOf_ = NamesBorder(word.text) ? scope : WordScope::None;
+  if (scope == WordScope::None) return;
+  const bool namesEntry = NamesTableEntry(word.text);
+  if (target_ == RtfTarget::Selection && namesEntry) return;
+  needsTables_ |= namesEntry;
+  if (scope == WordScope::Character) {
+    EditCharacter().words = words_.With(word, State().character.words);
+  } else if (scope == WordScope::Paragraph) {
+    EditParagraph().words = words_.With(word, State().paragraph.words);
+  } else {
+    items_.Keep(KeptItem::Kind::Words, SourceOf(word));
+  }
+}
+
+/// A style is a label: how text of it looks, the words behind it say.
+void Interpreter::KeepStyle(int, const Token& word) {
+  BeginBody();
+  KeepWord(static_cast<int>(WordScope::Paragraph), word);
+}
+
+void Interpreter::KeepMark(int value, const Token& word) {
+  if (target_ == RtfTarget::Selection) return;
+  const auto kind = static_cast<KeptWord::Kind>(value);
+  EditCharacter().words = words_.WithMark(word, kind, State().character.words);
+}
+
+void Interpreter::KeepAssociated(int, const Token& word) {
+  if (target_ == RtfTarget::Selection) return;
+  needsTables_ |= NamesTableEntry(word.text);
+  EditCharacter().words = words_.WithAssociated(word, State().character.words);
+}
+
+/// Words of unknown meaning are the document's as long as they stand at its head.
+void Interpreter::KeepUnknown(const Token& word) {
+  const WordScope scope = FamilyScope(word.text);
+  const bool ofDocument = inHead_ && groups_.size() == outermost_ && !IsWrittenAnyway(word.text);
+  if (scope == WordScope::None && !ofDocument) return;
+  KeepWord(static_cast<int>(scope == WordScope::None ? WordScope::Place : scope), word);
+}
+
+void Interpreter::KeepSection(int, const Token& word) {
+  items_.Keep(KeptItem::Kind::Section, SourceOf(word));
+}
+
+void Interpreter::KeepRow(int, const Token& word) {
+  BeginBody();
+  items_.Keep(KeptItem::Kind::Row, SourceOf(word));
+}
+
+// --- groups
+
+/// The group from the word at `from` on, which opens it, to where the reader stands.
+std::string Interpreter::GroupSource(std::size_t from) {
+  KeptSource kept(tokens_.Source(from, tokens_.At()), State().fallback);
+  needsTables_ |= kept.needsHead;
+  std::string source = std::move(kept).Closed();
+  source.insert(0, wasStarred_ ? "{\\*" : "{");
+  return source += '}';
+}
+
+/// What stands for itself in the text.
+void Interpreter::KeepGroup(int value, const Token&) {
+  const std::size_t from = tokens_.Start();
+  tokens_.SkipGroup();
+  const auto kind = static_cast<KeptItem::Kind>(value);
+  const ItemId self = formats_.items.Chain({{.kind = kind, .source = GroupSource(from)}});
+  BeforeText();
+  body_.Append(kObjectCharacter, CharacterWith({.self = self, .kind = Kept::Kind::Embedded}));
+}
+
+/// What is not seen in the text.
+void Interpreter::KeepAside(int value, const Token&) {
+  const std::size_t from = tokens_.Start();
+  tokens_.SkipGroup();
+  items_.Keep(static_cast<KeptItem::Kind>(value), GroupSource(from));
+}
+
+/// The same for a table of the head.
+void Interpreter::KeepTable(int, const Token&) {
+  const std::size_t from = tokens_.Start();
+  PassTable();
+  items_.Keep(KeptItem::Kind::Group, GroupSource(from));
+}
+
+/// A table of the head that has been read, be it behind the first words of the body.
+void Interpreter::KeepInHead(std::string source) {
+  ++laid_;
+  if (inHead_)
+    items_.Keep(KeptItem::Kind::Group, source);
+  else if (target_ == RtfTarget::Document)
+    headItems_.push_back({.source = std::move(source)});
+}
+
+// --- characters
+
+/// The words of the last table row that the items define; empty when they define none.
+std::string Interpreter::RowDefinition(const KeptItems& items) {
+  using Kind = KeptItem::Kind;
+  std::string row;
+  for (const KeptItem& item : items) {
+    if (item.kind == Kind::Row) row.clear();
+    if (item.kind == Kind::Row || (item.kind == Kind::Words && !row.empty())) row += item.source;
+  }
+  return row;
+}
+
+/// With all that is kept before the character.
+CharId Interpreter::CharacterWith(Kept kept) {
+  KeptItems before = items_.Take();
+  if (std::string row = RowDefinition(before); !row.empty()) row_ = std::move(row);
+  kept.before = formats_.items.Chain(std::move(before), kept.before);
+  kept.field = State().field;
+  if (kept.before != 0) kept.serial = formats_.NextSerial();
+  CharFormat format = State().character;
+  format.kept = formats_.kept.Intern(kept);
+  return formats_.characters.Intern(format);
+}
+
+CharId Interpreter::NextCharacter() {
+  return items_.Pending() ? CharacterWith({}) : CharacterNumber();
+}
+
+// --- the head
+
+/// The tables that this component wrote are to stay as they are.
+void Interpreter::Generator(int, const Token&) {
+  const std::size_t from = tokens_.At();
+  tokens_.SkipGroup();
+  needsTables_ |= tokens_.Source(from, tokens_.At()).starts_with(kOwnName);
+}
+
+/// What came before goes with the note; a selection leaves it behind.
+void Interpreter::BeginBody() {
+  if (!inHead_) return;
+  inHead_ = false;
+  KeptItems items = items_.Take();
+  if (target_ == RtfTarget::Document) headItems_ = std::move(items);
+}
+
+HeadId Interpreter::Head() {
+  if (needsTables_) {
+    for (const auto& [number, font] : fonts_.All())
+      head_.fonts.push_back({number, font.font, font.page});
+    std::ranges::sort(head_.fonts, {}, &KeptHead::Font::number);
+    head_.colours = colours_.All();
+    if (head_.fontTable.empty()) head_.page = documentPage_;
+    head_.defaultFont = std::max(defaultFont_, 0);
+  } else {
+    head_ = {};
+  }
+  head_.tables = needsTables_;
+  head_.items = formats_.items.Chain(std::move(headItems_));
+  head_.tail = formats_.items.Chain(items_.Take());
+  return formats_.heads.Intern(std::move(head_));
+}
+
+}  // namespace lumenote

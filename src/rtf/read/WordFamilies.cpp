@@ -1,0 +1,46 @@
+#include "rtf/read/WordFamilies.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace lumenote {
+namespace {
+
+using Names = std::string_view;
+
+// Families of words: rows, cells, tables, section breaks, page numbers, page borders.
+constexpr Names kPlaceBeginnings[] = {"tr",     "cl",          "tbl",      "sbk",  "pgn",  "pgbrdr",
+                                      "vertal", "sectdefault", "sectline", "sftn", "saftn"};
+constexpr Names kShadings = "bg";  // patterns of paragraphs
+constexpr Names kBorders[] = {"brdr", "brsp"};
+constexpr Names kBorderOwners[] = {"box", "brdr", "trbrdr", "clbrdr", "pgbrdr", "chbrdr"};
+
+constexpr Names kTableWords[] = {"af",    "brdrcf",    "cb",        "cbpat",     "cf",
+                                 "cfpat", "chcbpat",   "chcfpat",   "clcbpat",   "clcfpat",
+                                 "cs",    "f",         "highlight", "ls",        "pnf",
+                                 "s",     "trcbpat",   "trcfpat",   "ts",        "ulc",
+                                 "adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
+
+template <std::size_t Size>
+bool BeginsLike(const Names (&beginnings)[Size], Names word) {
+  return std::ranges::any_of(beginnings,
+                             [&](Names beginning) { return word.starts_with(beginning); });
+}
+
+}  // namespace
+
+WordScope FamilyScope(std::string_view word) {
+  if (BeginsLike(kPlaceBeginnings, word)) return WordScope::Place;
+  if (BeginsLike(kBorders, word)) return WordScope::Border;
+  return word.starts_with(kShadings) ? WordScope::Paragraph : WordScope::None;
+}
+
+bool NamesBorder(std::string_view word) { return BeginsLike(kBorderOwners, word); }
+
+bool MayRepeat(std::string_view word) { return BeginsLike(kBorders, word); }
+
+bool NamesTableEntry(std::string_view word) {
+  return std::ranges::find(kTableWords, word) != std::end(kTableWords);
+}
+
+}  // namespace lumenote

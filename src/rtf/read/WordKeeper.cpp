@@ -1,0 +1,98 @@
+#include "rtf/read/WordKeeper.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "rtf/read/WordFamilies.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::size_t kMostWords = 64;        // of one format
+constexpr std::size_t kLongestName = 32;      // letters, more than any word has
+constexpr std::size_t kLongestGroup = 512;    // bytes
+constexpr std::size_t kLeastWords = 1 << 13;  // of all formats together
+
+using Kind = KeptWord::Kind;
+using Words = std::vector<KeptWord>;
+using Place = Words::iterator;
+
+bool IsScript(KeptWord word) { return word.kind == Kind::Script || word.kind == Kind::HighScript; }
+
+struct Part {
+  Place begin, end;
+};
+
+/// The part of a mark; empty, at the end, when there is none.
+Part PartOf(NameId mark, Words& words) {
+  const Place begin = std::ranges::find_if(words, [=](KeptWord word) { return word.name == mark; });
+  if (begin == words.end()) return {begin, begin};
+  return {begin, std::find_if(begin + 1, words.end(), IsMark)};
+}
+
+KeptWord Numbered(NameId name, const Token& word) {
+  if (!word.hasNumber) return {.name = name};
+  return {.name = name, .kind = Kind::Numbered, .number = word.number};
+}
+
+}  // namespace
+
+WordKeeper::WordKeeper(FormatTables& formats, std::size_t sourceLength)
+    : formats_(formats), wordsLeft_(sourceLength / sizeof(KeptWord) + kLeastWords) {}
+
+WordsId WordKeeper::With(const Token& word, WordsId words) {
+  const NameId name = Name(word);
+  if (name == 0) return words;
+  Words all = formats_.words.List(words);
+  if (!MayRepeat(word.text)) std::erase_if(all, [=](KeptWord w) { return w.name == name; });
+  all.push_back(Numbered(name, word));
+  return Number(std::move(all), words);
+}
+
+WordsId WordKeeper::WithNumbering(const std::string& group, WordsId words) {
+  const NameId name = group.size() > kLongestGroup ? 0 : formats_.names.Intern(group);
+  if (name == 0) return words;
+  Words all = formats_.words.List(words);
+  all.push_back({.name = name, .kind = Kind::Numbering});
+  return Number(std::move(all), words);
+}
+
+WordsId WordKeeper::WithMark(const Token& mark, KeptWord::Kind kind, WordsId words) {
+  mark_ = Name(mark);
+  if (mark_ == 0) return words;
+  Words all = formats_.words.List(words);
+  const Part part = PartOf(mark_, all);
+  Words moved(part.begin, part.end);
+  if (moved.empty()) moved.push_back({.name = mark_, .kind = kind});
+  all.erase(part.begin, part.end);
+  const bool last = IsScript(moved.front());
+  const Place to = last ? all.end() : std::ranges::find_if(all, IsScript);
+  all.insert(to, moved.begin(), moved.end());
+  return Number(std::move(all), words);
+}
+
+WordsId WordKeeper::WithAssociated(const Token& word, WordsId words) {
+  const NameId name = Name(word);
+  Words all = formats_.words.List(words);
+  Part part = PartOf(mark_, all);
+  if (mark_ == 0 || name == 0 || part.begin == part.end) return words;
+  const Place same = std::find_if(part.begin, part.end, [=](KeptWord w) { return w.name == name; });
+  if (same != part.end) part.end = all.erase(same) + (part.end - same - 1);
+  all.insert(part.end, Numbered(name, word));
+  return Number(std::move(all), words);
+}
+
+/// 0 for a word that is none, or that no table has room for.
+NameId WordKeeper::Name(const Token& word) {
+  return word.text.size() > kLongestName ? 0 : formats_.names.Intern(std::string(word.text));
+}
+
+WordsId WordKeeper::Number(std::vector<KeptWord> words, WordsId otherwise) {
+  if (words.size() > std::min(kMostWords, wordsLeft_)) return otherwise;
+  const std::uint32_t known = formats_.words.Size();
+  const WordsId number = formats_.words.Chain(std::move(words));
+  wordsLeft_ -= formats_.words.Size() - known;
+  return number;
+}
+
+}  // namespace lumenote
