@@ -25,12 +25,13 @@ INSTANTIATE_TEST_SUITE_P(
              "<up60>a<up-30>b<up60>c<>d<up-32768>e|<>"},
         Case{R"({\rtf1\fs20 a\fs0 b\fs-4 c\fs999999 d})", "<fs20>abc<fs65535>d|<>"},
         Case{R"({\rtf1\lang1036 a\expnd2 b\expndtw-7 c\charscalex150 d})",
-             "<lang1036>a<lang1036 expnd10>b<lang1036 expnd-7>c<lang1036 expnd-7 scale150>d|<>"},
+             "<lang1036>a<expndtw10 lang1036>b<expndtw-7 lang1036>c<expndtw-7 charscalex150 "
+             "lang1036>d|<>"},
         Case{
             R"({\rtf1{\colortbl;\red1\green2\blue3;\red255;}\cf1 a\highlight2 b\cf0 c\highlight0\cf9 d})",
-            "<cf30201>a<cf30201 bgff>b<bgff>c<>d|<>"},
+            "<cf30201>a<cf30201 highlightff>b<highlightff>c<>d|<>"},
         Case{R"({\rtf1{\colortbl\red1\green999\blue-4;\red16}\cf0 a\cf1\cb0\chcbpat1 b})",
-             "<cfff01>a<cf10 bg10>b|<>"}));
+             "<cfff01>a<cf10 highlight10>b|<>"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Fonts, ReaderFormat,
@@ -55,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{R"({\rtf1\qc a\par\qr b\par\qj c\par\ql d\par})", "a|<qc>b|<qr>c|<qj>d|<>"},
         Case{R"({\rtf1\pard\fi-200\li-200\f1 Test\par})", "Test|<first-400 hanging200>"},
         Case{R"({\rtf1\li720\fi360\ri100\sb60\sa80 a\par\pard b})",
-             "a|<first1080 hanging-360 right100 before60 after80>b|<>"},
+             "a|<first1080 hanging-360 ri100 sb60 sa80>b|<>"},
         Case{R"({\rtf1\fi100\li200\rtlpar\qr a\par\ltrpar b})",
              "a|<qr first300 hanging-100 rtl>b|<qr first300 hanging-100>"},
         Case{R"({\rtf1\sl360\slmult1 a\par\sl480 b\par\sl240 c\par\sl276 d\par\sl0 e})",

@@ -3,6 +3,8 @@
 #include <sstream>
 
 #include "base/Strings.h"
+#include "rtf/words/CharacterWords.h"
+#include "rtf/words/ParagraphWords.h"
 #include "rtf/write/RtfWriting.h"
 #include "rtf/write/Writer.h"
 
@@ -16,7 +18,7 @@ class Words {
   void Add(bool present, std::string_view word) {
     if (present) Next() << word;
   }
-  void Number(std::int64_t value, std::int64_t standard, const char* name) {
+  void Number(std::int64_t value, std::int64_t standard, std::string_view name) {
     if (value != standard) Next() << name << value;
   }
   std::string Text() const { return text_.str() + '>'; }
@@ -25,10 +27,6 @@ class Words {
   std::ostringstream text_{"<", std::ios::ate};
   bool first_ = true;
 };
-
-void Colour(lumenote::Colour colour, const char* name, Words& words) {
-  if (colour != kAutoColour) words.Next() << name << std::hex << colour << std::dec;
-}
 
 void AddKept(WordsId first, const FormatTables& tables, Words& words) {
   std::string source;
@@ -41,24 +39,25 @@ void AddKept(WordsId first, const FormatTables& tables, Words& words) {
 }
 
 std::string Shown(const CharFormat& format, const FormatTables& tables) {
-  static constexpr const char* kEffects[] = {"b",     "i",     "strike", "striked", "caps",
-                                             "scaps", "v",     "outl",   "shad",    "embo",
-                                             "impr",  "super", "sub",    "deleted"};
   Words words;
   const FontFace& face = tables.fonts[format.font];
   words.Add(!face.name.empty(), ToUtf8(face.name));
   words.Number(face.charset, 0, "charset");
   words.Number(face.family, 0, "family");
   words.Number(face.pitch, 0, "pitch");
-  for (int bit = 0; bit < 14; ++bit) words.Add((format.effects >> bit & 1) != 0, kEffects[bit]);
+  for (const EffectWord& word : kEffectWords)
+    words.Add((format.effects & word.effect) != 0, word.name);
+  words.Add((format.effects & kSuperscript) != 0, "super");
+  words.Add((format.effects & kSubscript) != 0, "sub");
   words.Number(static_cast<int>(format.underline), 0, "ul");
   words.Number(format.size, 24, "fs");
   words.Number(format.offset, 0, "up");
-  words.Number(format.language, 0, "lang");
-  words.Number(format.spacing, 0, "expnd");
-  words.Number(format.scale, 100, "scale");
-  Colour(format.colour, "cf", words);
-  Colour(format.highlight, "bg", words);
+  for (const NumberWord& word : kNumberWords) {
+    const std::int64_t number = word.get(format);
+    if (number == word.get(CharFormat())) continue;
+    words.Next() << word.name << (word.kind == NumberWord::Kind::Number ? std::dec : std::hex)
+                 << number << std::dec;
+  }
   const Kept& kept = tables.kept[format.kept];
   const auto add = [&](const KeptItem& item) { words.Add(true, item.source); };
   tables.items.ForEach(kept.before, add);
@@ -72,13 +71,11 @@ std::string Shown(const CharFormat& format, const FormatTables& tables) {
 std::string Shown(const ParaFormat& format, const FormatTables& tables) {
   static constexpr const char* kRules[] = {"", "1.5", "2", "atleast", "exact", "multiple"};
   Words words;
-  static constexpr const char* kAlignments[] = {"", "qr", "qc", "qj"};
-  words.Add(format.alignment != Alignment::Left, kAlignments[static_cast<int>(format.alignment)]);
+  words.Add(format.alignment != Alignment::Left,
+            kAlignmentWords[static_cast<int>(format.alignment)]);
   words.Number(format.firstIndent, 0, "first");
   words.Number(format.hangingIndent, 0, "hanging");
-  words.Number(format.rightIndent, 0, "right");
-  words.Number(format.spaceBefore, 0, "before");
-  words.Number(format.spaceAfter, 0, "after");
+  for (const LengthWord& word : kLengthWords) words.Number(format.*word.length, 0, word.name);
   words.Add(format.lineRule != LineRule::Single, kRules[static_cast<int>(format.lineRule)]);
   words.Number(format.lineSpacing, 0, "");
   words.Add(format.bullet != 0, "bullet");

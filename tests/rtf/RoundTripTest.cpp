@@ -4,6 +4,8 @@
 #include <random>
 
 #include "Reading.h"
+#include "rtf/words/CharacterWords.h"
+#include "rtf/words/ParagraphWords.h"
 #include "rtf/write/Writer.h"
 
 namespace lumenote {
@@ -62,11 +64,8 @@ class Generator {
     if (Seldom()) format.underline = static_cast<Underline>(Below(18));
     format.size = static_cast<std::uint16_t>(1 + Below(80));
     if (Seldom()) format.offset = static_cast<std::int16_t>((Below(400) - 200) * 10);
-    if (Seldom()) format.colour = static_cast<Colour>(Below(1 << 24));
-    if (Seldom()) format.highlight = static_cast<Colour>(Below(3));
-    if (Seldom()) format.language = static_cast<std::uint16_t>(1030 + Below(9));
-    if (Seldom()) format.spacing = static_cast<std::int16_t>(Below(99) - 50);
-    if (Seldom()) format.scale = static_cast<std::uint16_t>(1 + Below(300));
+    for (const NumberWord& word : kNumberWords)
+      if (Seldom()) word.set(format, Below(300));
     return format;
   }
 
@@ -74,9 +73,8 @@ class Generator {
     ParaFormat format;
     if (Seldom()) format.firstIndent = Below(4000) - 2000;
     if (Seldom()) format.hangingIndent = Below(4000) - 2000;
-    if (Seldom()) format.rightIndent = Below(2000);
-    if (Seldom()) format.spaceBefore = Below(300);
-    if (Seldom()) format.spaceAfter = Below(300);
+    for (const LengthWord& word : kLengthWords)
+      if (Seldom()) format.*word.length = Below(2000);
     format.lineRule = static_cast<LineRule>(Below(6));
     if (format.lineRule >= LineRule::AtLeast) format.lineSpacing = 41 + Below(100);
     format.alignment = static_cast<Alignment>(Below(4));

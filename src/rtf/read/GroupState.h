@@ -8,20 +8,19 @@
 
 namespace lumenote {
 
-/// A paragraph's format in RTF's own terms; `Resolved` says what it amounts to.
+/// A paragraph's format, some of it still in RTF's own terms; `Resolved` says what they amount to.
 struct ParagraphState {
-  enum Length { kLeft, kFirst, kRight, kBefore, kAfter, kLine, kLengths };
-  int lengths[kLengths] = {};  // twips; kLine as \sl has it
+  ParaFormat format;
+  int left = 0;                // twips, \li
+  int first = 0;               // from there, \fi
+  int line = 0;                // \sl
   bool multipleLines = false;  // \slmult
-  Alignment alignment = Alignment::Left;
-  bool rightToLeft = false;
-  bool bullet = false;    // by a \pn group
-  int list = -1;          // \ls; -1 none
-  int level = 0;          // \ilvl
-  bool numbered = false;  // by a \pn group
-  bool inTable = false;   // \intbl
-  int nesting = 0;        // \itap
-  WordsId words = 0;      // kept
+  bool bullet = false;         // by a \pn group
+  int list = -1;               // \ls; -1 none
+  int level = 0;               // \ilvl
+  bool numbered = false;       // by a \pn group
+  bool inTable = false;        // \intbl
+  int nesting = 0;             // \itap
   std::shared_ptr<const TabStops> tabs;
   TabStop nextTab;  // kind and leader given for the next \tx
 

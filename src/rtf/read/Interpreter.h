@@ -28,7 +28,8 @@ class Interpreter {
               const CharFormat& base, std::size_t opened);
   Fragment Read();
 
-  // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it.
+  // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it, or the
+  // row of a word in the tables of rtf/words/.
 
   // Text.
   void Character(int value, const Token& word);
@@ -75,17 +76,17 @@ class Interpreter {
   void Effect(int value, const Token& word);
   void Script(int value, const Token& word);
   void UnderlineAs(int value, const Token& word);
-  void TextColour(int value, const Token& word);
-  void Highlight(int value, const Token& word);
+  void Number(int row, const Token& word);
   void Raise(int value, const Token& word);
-  void Language(int value, const Token& word);
-  void Spacing(int value, const Token& word);
-  void Scale(int value, const Token& word);
+  void SpacingInQuarterPoints(int value, const Token& word);
 
   // Paragraphs.
   void DefaultParagraph(int value, const Token& word);
   void Align(int value, const Token& word);
-  void Length(int value, const Token& word);
+  void Length(int row, const Token& word);
+  void LeftIndent(int value, const Token& word);
+  void FirstIndent(int value, const Token& word);
+  void LineSpacing(int value, const Token& word);
   void MultipleLines(int value, const Token& word);
   void Tab(int value, const Token& word);
   void TabKindIs(int value, const Token& word);

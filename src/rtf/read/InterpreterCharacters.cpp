@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "rtf/read/Interpreter.h"
+#include "rtf/words/CharacterWords.h"
 
 namespace lumenote {
 namespace {
@@ -85,12 +86,13 @@ void Interpreter::UnderlineAs(int value, const Token& word) {
   EditCharacter().underline = On(word) ? static_cast<Underline>(value) : Underline::None;
 }
 
-void Interpreter::TextColour(int, const Token& word) {
-  EditCharacter().colour = colours_[word.number];
-}
-
-void Interpreter::Highlight(int, const Token& word) {
-  EditCharacter().highlight = word.number == 0 ? kAutoColour : colours_[word.number];
+void Interpreter::Number(int row, const Token& word) {
+  using Kind = NumberWord::Kind;
+  const NumberWord& attribute = kNumberWords[row];
+  std::int64_t number = word.number;
+  if (attribute.kind != Kind::Number) number = colours_[word.number];
+  if (attribute.kind == Kind::Background && word.number == 0) number = kAutoColour;
+  attribute.set(EditCharacter(), number);
 }
 
 void Interpreter::Raise(int value, const Token& word) {
@@ -98,16 +100,8 @@ void Interpreter::Raise(int value, const Token& word) {
   EditCharacter().offset = Clipped<std::int16_t>(halfPoints * value * 10);
 }
 
-void Interpreter::Language(int, const Token& word) {
-  EditCharacter().language = Clipped<std::uint16_t>(word.number);
-}
-
-void Interpreter::Spacing(int value, const Token& word) {
-  EditCharacter().spacing = Clipped<std::int16_t>(std::int64_t{word.number} * value);
-}
-
-void Interpreter::Scale(int, const Token& word) {
-  EditCharacter().scale = Clipped<std::uint16_t>(std::max(word.number, 1));
+void Interpreter::SpacingInQuarterPoints(int, const Token& word) {
+  EditCharacter().spacing = Clipped<std::int16_t>(std::int64_t{word.number} * 5);
 }
 
 }  // namespace lumenote

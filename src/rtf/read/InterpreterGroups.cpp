@@ -27,7 +27,7 @@ void Interpreter::Numbering(int, const Token&) {
   paragraph.bullet = bullet;
   paragraph.numbered = !bullet;
   if (!bullet && target_ == RtfTarget::Document)
-    paragraph.words = words_.WithNumbering(GroupSource(from), paragraph.words);
+    paragraph.format.words = words_.WithNumbering(GroupSource(from), paragraph.format.words);
   Outer().paragraph = paragraph;
   Outer().paragraphKnown = false;
 }

@@ -34,7 +34,7 @@ void Interpreter::KeepWord(int value, const Token& word) {
   if (scope == WordScope::Character) {
     EditCharacter().words = words_.With(word, State().character.words);
   } else if (scope == WordScope::Paragraph) {
-    EditParagraph().words = words_.With(word, State().paragraph.words);
+    EditParagraph().format.words = words_.With(word, State().paragraph.format.words);
   } else {
     items_.Keep(KeptItem::Kind::Words, SourceOf(word));
   }

@@ -3,13 +3,12 @@
 #include <cstdlib>
 
 #include "rtf/read/Interpreter.h"
+#include "rtf/words/ParagraphWords.h"
 
 namespace lumenote {
 namespace {
 
-constexpr int kMostLength = 1'000'000;  // twips; far beyond any paper
 constexpr std::size_t kMostTabs = 64;
-constexpr int kUnitsOfTwentieth = 12;  // \sl counts 240 units a line, the format 20
 
 int Clipped(int length) { return std::clamp(length, -kMostLength, kMostLength); }
 
@@ -55,19 +54,13 @@ void ParagraphState::AddTab(int position) {
 }
 
 ParaFormat ParagraphState::Resolved() const {
-  ParaFormat format;
-  format.firstIndent = lengths[kLeft] + lengths[kFirst];
-  format.hangingIndent = -lengths[kFirst];
-  format.rightIndent = lengths[kRight];
-  format.spaceBefore = lengths[kBefore];
-  format.spaceAfter = lengths[kAfter];
-  SetLineSpacing(lengths[kLine], multipleLines, format);
-  format.alignment = alignment;
-  format.rightToLeft = rightToLeft;
-  format.words = words;
+  ParaFormat resolved = format;
+  resolved.firstIndent = left + first;
+  resolved.hangingIndent = -first;
+  SetLineSpacing(line, multipleLines, resolved);
   const int depth = std::max(nesting, inTable ? 1 : 0);
-  format.nesting = static_cast<std::uint8_t>(std::clamp(depth, 0, 255));
-  return format;
+  resolved.nesting = static_cast<std::uint8_t>(std::clamp(depth, 0, 255));
+  return resolved;
 }
 
 void Interpreter::DefaultParagraph(int, const Token&) {
@@ -76,11 +69,23 @@ void Interpreter::DefaultParagraph(int, const Token&) {
 }
 
 void Interpreter::Align(int value, const Token&) {
-  EditParagraph().alignment = static_cast<Alignment>(value);
+  EditParagraph().format.alignment = static_cast<Alignment>(value);
 }
 
-void Interpreter::Length(int value, const Token& word) {
-  EditParagraph().lengths[value] = Clipped(word.number);
+void Interpreter::Length(int row, const Token& word) {
+  EditParagraph().format.*kLengthWords[row].length = Clipped(word.number);
+}
+
+void Interpreter::LeftIndent(int, const Token& word) {
+  EditParagraph().left = Clipped(word.number);
+}
+
+void Interpreter::FirstIndent(int, const Token& word) {
+  EditParagraph().first = Clipped(word.number);
+}
+
+void Interpreter::LineSpacing(int, const Token& word) {
+  EditParagraph().line = Clipped(word.number);
 }
 
 void Interpreter::MultipleLines(int, const Token& word) {
@@ -101,7 +106,9 @@ void Interpreter::TabLeaderIs(int value, const Token&) {
   EditParagraph().nextTab.leader = static_cast<std::uint8_t>(value);
 }
 
-void Interpreter::RightToLeft(int value, const Token&) { EditParagraph().rightToLeft = value != 0; }
+void Interpreter::RightToLeft(int value, const Token&) {
+  EditParagraph().format.rightToLeft = value != 0;
+}
 
 void Interpreter::InTable(int, const Token& word) {
   EditParagraph().inTable = !word.hasNumber || word.number != 0;

@@ -6,19 +6,21 @@
 #include <cstdint>
 #include <iterator>
 
+#include "rtf/words/CharacterWords.h"
+#include "rtf/words/ParagraphWords.h"
+
 namespace lumenote {
 namespace {
 
 using I = Interpreter;
 using Item = KeptItem::Kind;
-using P = ParagraphState;
 
 template <class Enum>
 constexpr int Of(Enum value) {
   return static_cast<int>(value);
 }
 
-constexpr Keyword kKeywords[] = {
+constexpr Keyword kOwnWords[] = {
     // The document.
     {"ansi", &I::DocumentPage, 1252},
     {"mac", &I::DocumentPage, 10000},
@@ -120,65 +122,23 @@ constexpr Keyword kKeywords[] = {
     {"plain", &I::Plain},
     {"f", &I::Font},
     {"fs", &I::Size},
-    {"b", &I::Effect, kBold},
-    {"i", &I::Effect, kItalic},
-    {"strike", &I::Effect, kStrike},
-    {"striked", &I::Effect, kDoubleStrike},
-    {"caps", &I::Effect, kAllCaps},
-    {"scaps", &I::Effect, kSmallCaps},
-    {"v", &I::Effect, kHidden},
-    {"outl", &I::Effect, kOutline},
-    {"shad", &I::Effect, kShadow},
-    {"embo", &I::Effect, kEmboss},
-    {"impr", &I::Effect, kEngrave},
-    {"deleted", &I::Effect, kDeleted},
     {"super", &I::Script, kSuperscript},
     {"sub", &I::Script, kSubscript},
     {"nosupersub", &I::Script},
-    {"ul", &I::UnderlineAs, Of(Underline::Single)},
-    {"ulnone", &I::UnderlineAs, Of(Underline::None)},
-    {"ulw", &I::UnderlineAs, Of(Underline::Words)},
-    {"uldb", &I::UnderlineAs, Of(Underline::Double)},
-    {"uld", &I::UnderlineAs, Of(Underline::Dotted)},
-    {"uldash", &I::UnderlineAs, Of(Underline::Dash)},
-    {"uldashd", &I::UnderlineAs, Of(Underline::DashDot)},
-    {"uldashdd", &I::UnderlineAs, Of(Underline::DashDotDot)},
-    {"ulth", &I::UnderlineAs, Of(Underline::Thick)},
-    {"ulwave", &I::UnderlineAs, Of(Underline::Wave)},
-    {"ululdbwave", &I::UnderlineAs, Of(Underline::DoubleWave)},
-    {"ulhwave", &I::UnderlineAs, Of(Underline::HeavyWave)},
-    {"ulldash", &I::UnderlineAs, Of(Underline::LongDash)},
-    {"ulthd", &I::UnderlineAs, Of(Underline::ThickDotted)},
-    {"ulthdash", &I::UnderlineAs, Of(Underline::ThickDash)},
-    {"ulthdashd", &I::UnderlineAs, Of(Underline::ThickDashDot)},
-    {"ulthdashdd", &I::UnderlineAs, Of(Underline::ThickDashDotDot)},
-    {"ulthldash", &I::UnderlineAs, Of(Underline::ThickLongDash)},
-    {"cf", &I::TextColour},
-    {"highlight", &I::Highlight},
-    {"cb", &I::Highlight},
-    {"chcbpat", &I::Highlight},
+    {"cb", &I::Number, NumberWordCalled("highlight")},
+    {"chcbpat", &I::Number, NumberWordCalled("highlight")},
     {"up", &I::Raise, 1},
     {"dn", &I::Raise, -1},
-    {"lang", &I::Language},
-    {"expnd", &I::Spacing, 5},
-    {"expndtw", &I::Spacing, 1},
-    {"charscalex", &I::Scale},
+    {"expnd", &I::SpacingInQuarterPoints},
 
     // Paragraphs.
     {"pard", &I::DefaultParagraph},
-    {"ql", &I::Align, Of(Alignment::Left)},
-    {"qr", &I::Align, Of(Alignment::Right)},
-    {"qc", &I::Align, Of(Alignment::Centre)},
-    {"qj", &I::Align, Of(Alignment::Justify)},
     {"qd", &I::Align, Of(Alignment::Justify)},
-    {"li", &I::Length, P::kLeft},
-    {"lin", &I::Length, P::kLeft},
-    {"fi", &I::Length, P::kFirst},
-    {"ri", &I::Length, P::kRight},
-    {"rin", &I::Length, P::kRight},
-    {"sb", &I::Length, P::kBefore},
-    {"sa", &I::Length, P::kAfter},
-    {"sl", &I::Length, P::kLine},
+    {"li", &I::LeftIndent},
+    {"lin", &I::LeftIndent},
+    {"fi", &I::FirstIndent},
+    {"rin", &I::Length, LengthWordCalled("ri")},
+    {"sl", &I::LineSpacing},
     {"slmult", &I::MultipleLines},
     {"tx", &I::Tab, Of(TabKind::Left)},
     {"tb", &I::Tab, Of(TabKind::Bar)},
@@ -200,131 +160,7 @@ constexpr Keyword kKeywords[] = {
 
     // Kept, and shown nowhere.
     {"s", &I::KeepStyle},
-    {"cs", &I::KeepWord, Of(WordScope::Character)},
-    {"acccircle", &I::KeepWord, Of(WordScope::Character)},
-    {"acccomma", &I::KeepWord, Of(WordScope::Character)},
-    {"accdot", &I::KeepWord, Of(WordScope::Character)},
-    {"accunderdot", &I::KeepWord, Of(WordScope::Character)},
-    {"animtext", &I::KeepWord, Of(WordScope::Character)},
-    {"chbrdr", &I::KeepWord, Of(WordScope::Character)},
-    {"chcfpat", &I::KeepWord, Of(WordScope::Character)},
-    {"chshdng", &I::KeepWord, Of(WordScope::Character)},
-    {"crauth", &I::KeepWord, Of(WordScope::Character)},
-    {"crdate", &I::KeepWord, Of(WordScope::Character)},
-    {"kerning", &I::KeepWord, Of(WordScope::Character)},
-    {"langfe", &I::KeepWord, Of(WordScope::Character)},
-    {"revauth", &I::KeepWord, Of(WordScope::Character)},
-    {"revauthdel", &I::KeepWord, Of(WordScope::Character)},
-    {"revdttm", &I::KeepWord, Of(WordScope::Character)},
-    {"revdttmdel", &I::KeepWord, Of(WordScope::Character)},
-    {"revised", &I::KeepWord, Of(WordScope::Character)},
-    {"ulc", &I::KeepWord, Of(WordScope::Character)},
-    {"webhidden", &I::KeepWord, Of(WordScope::Character)},
-    {"absh", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"absw", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"box", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"brdrb", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"brdrbar", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"brdrbtw", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"brdrl", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"brdrr", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"brdrt", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"cbpat", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"cfpat", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"contextualspace", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"cufi", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"culi", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"curi", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"dfrmtxtx", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"dfrmtxty", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"dropcapli", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"dropcapt", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"dxfrtext", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"frmtxbtlr", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"frmtxlrtb", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"frmtxlrtbv", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"frmtxtbrl", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"frmtxtbrlv", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"hyphpar", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"indmirror", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"keep", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"keepn", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"level", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"lisa", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"lisb", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"noline", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"nooverflow", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"nowidctlpar", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"nowrap", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"outlinelevel", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"overlay", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"pagebb", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"phcol", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"phmrg", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"phpg", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posnegx", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posnegy", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posx", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posxc", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posxi", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posxl", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posxo", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posxr", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posy", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posyb", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posyc", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posyil", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posyin", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posyout", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"posyt", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"pvmrg", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"pvpara", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"pvpg", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"saauto", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"sbauto", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"sbys", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"shading", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"widctlpar", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"wraparound", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"wrapdefault", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"wrapthrough", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"wraptight", &I::KeepWord, Of(WordScope::Paragraph)},
-    {"binfsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"cellx", &I::KeepWord, Of(WordScope::Place)},
-    {"chatn", &I::KeepWord, Of(WordScope::Place)},
-    {"chdate", &I::KeepWord, Of(WordScope::Place)},
-    {"chftn", &I::KeepWord, Of(WordScope::Place)},
-    {"chpgn", &I::KeepWord, Of(WordScope::Place)},
-    {"chtime", &I::KeepWord, Of(WordScope::Place)},
-    {"colno", &I::KeepWord, Of(WordScope::Place)},
-    {"cols", &I::KeepWord, Of(WordScope::Place)},
-    {"colsr", &I::KeepWord, Of(WordScope::Place)},
-    {"colsx", &I::KeepWord, Of(WordScope::Place)},
-    {"colw", &I::KeepWord, Of(WordScope::Place)},
-    {"endnhere", &I::KeepWord, Of(WordScope::Place)},
-    {"footery", &I::KeepWord, Of(WordScope::Place)},
-    {"guttersxn", &I::KeepWord, Of(WordScope::Place)},
-    {"headery", &I::KeepWord, Of(WordScope::Place)},
-    {"htmlrtf", &I::KeepWord, Of(WordScope::Place)},
-    {"irow", &I::KeepWord, Of(WordScope::Place)},
-    {"irowband", &I::KeepWord, Of(WordScope::Place)},
-    {"lastrow", &I::KeepWord, Of(WordScope::Place)},
-    {"linebetcol", &I::KeepWord, Of(WordScope::Place)},
-    {"lndscpsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"ltrrow", &I::KeepWord, Of(WordScope::Place)},
-    {"ltrsect", &I::KeepWord, Of(WordScope::Place)},
-    {"margbsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"marglsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"margrsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"margtsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"pghsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"pgwsxn", &I::KeepWord, Of(WordScope::Place)},
-    {"rtlrow", &I::KeepWord, Of(WordScope::Place)},
-    {"rtlsect", &I::KeepWord, Of(WordScope::Place)},
     {"sectd", &I::KeepSection},
-    {"sectnum", &I::KeepWord, Of(WordScope::Place)},
-    {"titlepg", &I::KeepWord, Of(WordScope::Place)},
-    {"ts", &I::KeepWord, Of(WordScope::Place)},
     {"trowd", &I::KeepRow},
     {"rtlch", &I::KeepMark, Of(KeptWord::Kind::Direction)},
     {"ltrch", &I::KeepMark, Of(KeptWord::Kind::Direction)},
@@ -338,6 +174,62 @@ constexpr Keyword kKeywords[] = {
     {"alang", &I::KeepAssociated},
     {"fcs", &I::KeepAssociated},
 };
+
+// Kept words by what makes them go.
+constexpr std::string_view kKeptOfRuns[] = {
+    "cs",         "acccircle", "acccomma",   "accdot",  "accunderdot", "animtext", "chbrdr",
+    "chcfpat",    "chshdng",   "crauth",     "crdate",  "kerning",     "langfe",   "revauth",
+    "revauthdel", "revdttm",   "revdttmdel", "revised", "ulc",         "webhidden"};
+constexpr std::string_view kKeptOfParagraphs[] = {
+    "absh",         "absw",        "box",       "brdrb",      "brdrbar",     "brdrbtw",
+    "brdrl",        "brdrr",       "brdrt",     "cbpat",      "cfpat",       "contextualspace",
+    "cufi",         "culi",        "curi",      "dfrmtxtx",   "dfrmtxty",    "dropcapli",
+    "dropcapt",     "dxfrtext",    "frmtxbtlr", "frmtxlrtb",  "frmtxlrtbv",  "frmtxtbrl",
+    "frmtxtbrlv",   "hyphpar",     "indmirror", "keep",       "keepn",       "level",
+    "lisa",         "lisb",        "noline",    "nooverflow", "nowidctlpar", "nowrap",
+    "outlinelevel", "overlay",     "pagebb",    "phcol",      "phmrg",       "phpg",
+    "posnegx",      "posnegy",     "posx",      "posxc",      "posxi",       "posxl",
+    "posxo",        "posxr",       "posy",      "posyb",      "posyc",       "posyil",
+    "posyin",       "posyout",     "posyt",     "pvmrg",      "pvpara",      "pvpg",
+    "saauto",       "sbauto",      "sbys",      "shading",    "widctlpar",   "wraparound",
+    "wrapdefault",  "wrapthrough", "wraptight"};
+constexpr std::string_view kKeptOfPlaces[] = {
+    "binfsxn",   "cellx",   "chatn",   "chdate",   "chftn",    "chpgn",    "chtime",
+    "colno",     "cols",    "colsr",   "colsx",    "colw",     "endnhere", "footery",
+    "guttersxn", "headery", "htmlrtf", "irow",     "irowband", "lastrow",  "linebetcol",
+    "lndscpsxn", "ltrrow",  "ltrsect", "margbsxn", "marglsxn", "margrsxn", "margtsxn",
+    "pghsxn",    "pgwsxn",  "rtlrow",  "rtlsect",  "sectnum",  "titlepg",  "ts"};
+
+constexpr std::string_view NameOf(std::string_view name) { return name; }
+template <class Word>
+constexpr std::string_view NameOf(const Word& word) {
+  return word.name;
+}
+
+constexpr std::size_t kCount =
+    std::size(kOwnWords) + std::size(kEffectWords) + std::size(kUnderlineWords) +
+    std::size(kNumberWords) + std::size(kAlignmentWords) + std::size(kLengthWords) +
+    std::size(kKeptOfRuns) + std::size(kKeptOfParagraphs) + std::size(kKeptOfPlaces);
+
+/// The words of all tables; the value of one that the writer knows too is its row.
+constexpr std::array<Keyword, kCount> kKeywords = [] {
+  std::array<Keyword, kCount> all{};
+  auto out = std::ranges::copy(kOwnWords, all.begin()).out;
+  const auto add = [&](const auto& words, auto handler, auto value) {
+    for (int row = 0; row < static_cast<int>(std::size(words)); ++row)
+      *out++ = {NameOf(words[row]), handler, value(row)};
+  };
+  const auto own = [](int row) { return row; };
+  add(kEffectWords, &I::Effect, [](int row) { return kEffectWords[row].effect; });
+  add(kUnderlineWords, &I::UnderlineAs, own);
+  add(kNumberWords, &I::Number, own);
+  add(kAlignmentWords, &I::Align, own);
+  add(kLengthWords, &I::Length, own);
+  add(kKeptOfRuns, &I::KeepWord, [](int) { return Of(WordScope::Character); });
+  add(kKeptOfParagraphs, &I::KeepWord, [](int) { return Of(WordScope::Paragraph); });
+  add(kKeptOfPlaces, &I::KeepWord, [](int) { return Of(WordScope::Place); });
+  return all;
+}();
 
 constexpr std::uint32_t Hash(std::string_view name) {
   std::uint32_t hash = 2166136261u;

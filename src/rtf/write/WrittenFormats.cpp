@@ -95,15 +95,18 @@ WrittenFormat WrittenFormats::Written(const CharFormat& format) {
   written.encoding = font.encoding;
   written.words = format.words;
   written.size = std::max<int>(format.size, 1);
-  written.colour = ColourNumber(format.colour);
-  written.highlight = ColourNumber(format.highlight);
   written.halfPoints = HalfPoints(format.offset);
-  written.language = format.language;
-  written.spacing = format.spacing;
-  written.scale = std::max<int>(format.scale, 1);
+  for (std::size_t i = 0; i < written.numbers.size(); ++i)
+    written.numbers[i] = Number(kNumberWords[i], format);
   written.effects = WrittenEffects(format.effects);
   written.underline = format.underline;
   return written;
+}
+
+std::int32_t WrittenFormats::Number(const NumberWord& word, const CharFormat& format) {
+  const std::int64_t number = word.get(format);
+  if (word.kind != NumberWord::Kind::Number) return ColourNumber(static_cast<Colour>(number));
+  return static_cast<std::int32_t>(number);
 }
 
 int WrittenFormats::ColourNumber(Colour colour) {

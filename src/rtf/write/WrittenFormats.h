@@ -1,26 +1,37 @@
 // The formats of a text in the terms in which they are written.
 #pragma once
+#include <array>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "document/Document.h"
+#include "rtf/words/CharacterWords.h"
 #include "rtf/write/Output.h"
 
 namespace lumenote {
+
+/// The numbers of `kNumberWords`; those of colours are their places in the table, 0 automatic.
+using WrittenNumbers = std::array<std::int32_t, std::size(kNumberWords)>;
+inline constexpr WrittenNumbers kDefaultNumbers = [] {
+  WrittenNumbers numbers{};
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const NumberWord& word = kNumberWords[i];
+    if (word.kind == NumberWord::Kind::Number)
+      numbers[i] = static_cast<std::int32_t>(word.get(CharFormat()));
+  }
+  return numbers;
+}();
 
 /// A character format as the words of RTF can tell it: two formats that are written alike are
 /// equal here. The fields are the words' own numbers.
 struct WrittenFormat {
   int font = -1;  // -1 and size 0: not yet told
   int size = 0;
-  int colour = 0;     // in the colour table, 0 automatic
-  int highlight = 0;  // likewise
   int halfPoints = 0;
-  int language = 0;
-  int spacing = 0;
-  int scale = 100;
+  WrittenNumbers numbers = kDefaultNumbers;
   std::uint16_t effects = 0;
   Underline underline = Underline::None;
   Encoding encoding = Encoding::Windows;  // that of the font
@@ -57,6 +68,7 @@ class WrittenFormats {
   WrittenFormat Written(const CharFormat& format);
   std::uint32_t FontIndex(const FontFace& face);
   int ColourNumber(Colour colour);
+  std::int32_t Number(const NumberWord& word, const CharFormat& format);
 
   const FormatTables& tables_;
   InternTable<WrittenFormat> written_;  // number 0: nothing told

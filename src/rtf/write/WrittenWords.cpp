@@ -3,35 +3,11 @@
 #include <cstdint>
 #include <iterator>
 
+#include "rtf/words/ParagraphWords.h"
 #include "rtf/write/WrittenFormats.h"
 
 namespace lumenote {
 namespace {
-
-struct EffectWords {
-  std::uint16_t effect;
-  std::string_view on, off;
-};
-constexpr EffectWords kEffects[] = {
-    {kBold, "b", "b0"},
-    {kItalic, "i", "i0"},
-    {kStrike, "strike", "strike0"},
-    {kDoubleStrike, "striked1", "striked0"},
-    {kAllCaps, "caps", "caps0"},
-    {kSmallCaps, "scaps", "scaps0"},
-    {kHidden, "v", "v0"},
-    {kOutline, "outl", "outl0"},
-    {kShadow, "shad", "shad0"},
-    {kEmboss, "embo", "embo0"},
-    {kEngrave, "impr", "impr0"},
-    {kDeleted, "deleted", "deleted0"},
-};
-
-// By Underline.
-constexpr std::string_view kUnderlines[] = {
-    "ulnone",  "ul",       "ulw",      "uldb",      "uld",        "uldash",
-    "uldashd", "uldashdd", "ulth",     "ulwave",    "ululdbwave", "ulhwave",
-    "ulldash", "ulthd",    "ulthdash", "ulthdashd", "ulthdashdd", "ulthldash"};
 
 std::string_view ScriptWord(int effects) {
   if ((effects & kSuperscript) != 0) return "super";
@@ -40,14 +16,11 @@ std::string_view ScriptWord(int effects) {
 
 void WriteEffects(int from, int to, Output& out) {
   const int changed = from ^ to;
-  for (const EffectWords& words : kEffects) {
-    if ((changed & words.effect) != 0) out.Word((to & words.effect) != 0 ? words.on : words.off);
+  for (const EffectWord& word : kEffectWords) {
+    if ((changed & word.effect) != 0) out.Word((to & word.effect) != 0 ? word.on : word.off);
   }
   if ((changed & (kSuperscript | kSubscript)) != 0) out.Word(ScriptWord(to));
 }
-
-constexpr int kMostLength = 1'000'000;  // twips; the reader's limit
-constexpr int kUnitsOfTwentieth = 12;   // \sl counts 240 units a line, the format 20
 
 struct LineWords {
   int spacing = 0;
@@ -149,15 +122,13 @@ void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const Forma
     WriteWords(to.words, high, tables, out);
   }
   if (from.effects != to.effects) WriteEffects(from.effects, to.effects, out);
-  if (from.underline != to.underline) out.Word(kUnderlines[static_cast<std::size_t>(to.underline)]);
+  if (from.underline != to.underline)
+    out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
   if (from.halfPoints != to.halfPoints) {
     out.Word(to.halfPoints < 0 ? "dn" : "up", std::abs(to.halfPoints));
   }
-  if (from.spacing != to.spacing) out.Word("expndtw", to.spacing);
-  if (from.scale != to.scale) out.Word("charscalex", to.scale);
-  if (from.colour != to.colour) out.Word("cf", to.colour);
-  if (from.highlight != to.highlight) out.Word("highlight", to.highlight);
-  if (from.language != to.language) out.Word("lang", to.language);
+  for (std::size_t i = 0; i < to.numbers.size(); ++i)
+    if (from.numbers[i] != to.numbers[i]) out.Word(kNumberWords[i].name, to.numbers[i]);
   if (high == 0 && from.font != to.font) out.Word("f", to.font);
   if (from.size != to.size) out.Word("fs", to.size);
   if (high == 0) return;
@@ -166,9 +137,8 @@ void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const Forma
 }
 
 std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled) {
-  static constexpr std::string_view kAlignments[] = {"ql", "qr", "qc", "qj"};
   const std::int64_t hanging = format.hangingIndent;
-  const std::string_view alignment = kAlignments[static_cast<std::size_t>(format.alignment)];
+  const std::string_view alignment = kAlignmentWords[static_cast<std::size_t>(format.alignment)];
   // Styles and lists have formats of their own for paragraphs that tell none.
   const bool whole = styled || format.list != 0;
   ParagraphWriter words(whole);
@@ -178,9 +148,7 @@ std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables,
   if (format.list != 0) words.Number("ilvl", format.level);
   words.Length("fi", -hanging);
   words.Length("li", format.firstIndent + hanging);
-  words.Length("ri", format.rightIndent);
-  words.Length("sb", format.spaceBefore);
-  words.Length("sa", format.spaceAfter);
+  for (const LengthWord& word : kLengthWords) words.Length(word.name, format.*word.length);
   words.LineSpacing(WordsOf(format.lineRule, format.lineSpacing));
   for (const TabStop& tab : tables.tabs[format.tabs]) words.Tab(tab);
   if (whole || format.alignment != Alignment::Left) words.Word(alignment);
