@@ -162,6 +162,15 @@ void Co_Rtf::Form_Load() {
 void Co_Rtf::Form_Activate() {
   if (!firstActivation_) return;
   firstActivation_ = false;
+  try {
+    OpenNote();
+  } catch (...) {
+    if (!session_.loaded) Unload();  // what is typed into it would be nobody's
+    throw;
+  }
+}
+
+void Co_Rtf::OpenNote() {
   const Rect place = LireGeometrie(Machine().UserSettings(), session_.settingsKey);
   IgnoringErrors([&] { Height(place.height); });
   IgnoringErrors([&] { Width(place.width); });
@@ -186,7 +195,15 @@ void Co_Rtf::Form_Resize() {
            Height(), session_.menuBarShown);
 }
 
+// The session of the next editor is made here, where a lack of memory keeps the window open.
 bool Co_Rtf::Form_QueryUnload() {
+  if (!EndNote()) return false;
+  next_ = std::make_shared<Session>(session_);
+  CloreSession(*next_);
+  return true;
+}
+
+bool Co_Rtf::EndNote() {
   if (session_.deleted || !session_.loaded) return true;
   SuspendreDessus();
   const Fermeture decision = TerminerEdition(*this);
@@ -198,13 +215,13 @@ bool Co_Rtf::Form_QueryUnload() {
 }
 
 void Co_Rtf::Form_Unload() {
+  session_.closed = true;
+  current_ = std::move(next_);
   Timer1.Enabled(false);
   TimerWpd.Enabled(false);
   recovery_.Drop();
   dialogs_.UnloadAll();
   exchange_.Leave();
-  CloreSession(session_);
-  current_ = std::make_shared<Session>(session_);
 }
 
 bool Co_Rtf::Form_KeyDown(const KeyStroke& key) {

@@ -73,6 +73,10 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
   void Form_Unload() override;
   bool Form_KeyDown(const KeyStroke& key) override;
 
+  void OpenNote();
+  /// Saves or hands back the note; whether the window may go.
+  bool EndNote();
+
   void WirePopup();
   void WireBar();
   void WireFormatMenu();
@@ -112,6 +116,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
 
   std::shared_ptr<Session>& current_;
   const std::shared_ptr<Session> own_;
+  std::shared_ptr<Session> next_;  // the next editor's, once this one may go
   Session& session_;
   const TempFolder& temp_;
   FileState onDisk_;

@@ -18,39 +18,60 @@
 namespace lumenote {
 namespace {
 
-/// Writes the document to `path` and loads it from there; the file as it is then. Where the load
-/// fails, what stood there before is put back, and there is none.
-std::optional<FileState> Exchange(NoteWindow& editor, std::u16string_view path, FileType type) {
+/// Writes the document to `path` and loads it from there; the file as it is then. Where that fails,
+/// what stood there before is put back.
+FileState Exchange(NoteWindow& editor, std::u16string_view path, FileType type) {
   Files& files = editor.Services().FileSystem();
   std::optional<std::string> before;
-  std::optional<FileState> state;
-  const bool written = IgnoringErrors([&] {
-    if (files.Exists(path)) before = files.ReadAll(path);
+  if (files.Exists(path)) before = files.ReadAll(path);
+  try {
     editor.Document().SaveFile(path, type);
-  });
-  if (!written) return state;
-  IgnoringErrors([&] { state = StateOf(path, editor.Document().LoadFile(path, type)); });
-  if (!state)
+    return StateOf(path, editor.Document().LoadFile(path, type));
+  } catch (...) {
     IgnoringErrors([&] { before ? files.Write(path, *before) : files.Delete(path, true); });
-  return state;
+    throw;
+  }
 }
+
+/// The same, or nothing when it fails, which only a lack of memory says aloud.
+std::optional<FileState> TryExchange(NoteWindow& editor, std::u16string_view path, FileType type) {
+  try {
+    return Exchange(editor, path, type);
+  } catch (const RuntimeError& error) {
+    if (error.Number() == static_cast<int>(ErrorNumber::OutOfMemory)) throw;
+    return std::nullopt;
+  }
+}
+
+/// Makes the new file the document's at its end, whatever becomes of the old one.
+struct Renaming {
+  ~Renaming() {
+    editor.Values().documentPath.swap(path);
+    std::swap(editor.OnDisk(), state);
+  }
+  NoteWindow& editor;
+  std::u16string& path;
+  FileState& state;
+};
 
 void Convert(NoteWindow& editor, std::u16string_view format, FileType type,
              std::u16string_view label) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
   const std::u16string old = session.documentPath;
-  const std::u16string path = ChmExts(old, format);
-  std::optional<FileState> state = Exchange(editor, path, type);
+  std::u16string path = ChmExts(old, format);
+  const std::u16string shown = EspDvtDer(path);
+  std::optional<FileState> state = TryExchange(editor, path, type);
   if (!state) return;
-  session.format = format;
+  std::vector<std::u16string> kept;
+  {
+    const Renaming renaming{editor, path, *state};
+    session.format = format;
+    if (!files.SameFile(old, path)) SupprimerFichier(editor, kept);
+  }
   session.dirty = false;
   editor.ShowFormat(label);
-  std::vector<std::u16string> kept;
-  if (!files.SameFile(old, path)) SupprimerFichier(editor, kept);
-  session.documentPath = path;
-  editor.OnDisk() = std::move(*state);
-  editor.ShowStatus(1, EspDvtDer(path));
+  editor.ShowStatus(1, shown);
   AnnoncerSecours(editor, Cause::FichierModifie, kept);
 }
 

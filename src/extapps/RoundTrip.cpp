@@ -298,7 +298,9 @@ bool RoundTrip::KeepTyped() {
 // --- what comes too late
 
 void RoundTrip::Leave() {
-  if (sent_) left_.push_back(*std::exchange(sent_, std::nullopt));
+  if (!sent_) return;
+  left_.push_back(*sent_);
+  sent_.reset();
 }
 
 // The host may close the editor in the box, and the next one takes the list as it is then.

@@ -75,18 +75,19 @@ void LoadStyle(const Settings& settings, std::u16string_view application,
 }
 
 void ApplyStyleRecord(RichTextSurface& surface, StyleRecord& style) {
-  const EditGroup group(surface);
-  SetLineSpacing(surface, style.LineSpacing);
-  IgnoringErrors([&] { surface.SelAlignment(style.Alignment); });
-  surface.SelIndent(style.LeftIndent);
-  surface.SelRightIndent(style.RightIndent);
-  surface.SelHangingIndent(style.HangingIndent);
-  IgnoringErrors([&] { style.LeftFront = Sum32(style.LeftIndent, style.HangingIndent); });
-  SetSpaceBefore(surface, style.SpaceBefore);
-  SetSpaceAfter(surface, style.SpaceAfter);
-  IgnoringErrors([&] { surface.RightMargin(static_cast<float>(StyleRightMargin)); });
-  surface.SelFontName(style.FontName);
-  IgnoringErrors([&] { surface.SelFontSize(ParseSingle(style.FontSize)); });
+  AsOneStep(surface, [&] {
+    SetLineSpacing(surface, style.LineSpacing);
+    IgnoringErrors([&] { surface.SelAlignment(style.Alignment); });
+    surface.SelIndent(style.LeftIndent);
+    surface.SelRightIndent(style.RightIndent);
+    surface.SelHangingIndent(style.HangingIndent);
+    IgnoringErrors([&] { style.LeftFront = Sum32(style.LeftIndent, style.HangingIndent); });
+    SetSpaceBefore(surface, style.SpaceBefore);
+    SetSpaceAfter(surface, style.SpaceAfter);
+    IgnoringErrors([&] { surface.RightMargin(static_cast<float>(StyleRightMargin)); });
+    surface.SelFontName(style.FontName);
+    IgnoringErrors([&] { surface.SelFontSize(ParseSingle(style.FontSize)); });
+  });
 }
 
 }  // namespace lumenote

@@ -107,11 +107,16 @@ bool Form::UserKey(const KeyStroke& key) {
 
 void Form::Load() {
   if (loaded_) return;
+  windows_.Enter(*this);
   loaded_ = true;
   unloaded_ = false;
-  windows_.Enter(*this);
-  peer_ = Machine().Windows().Realise(*this);
-  RearmTimers();
+  try {
+    peer_ = Machine().Windows().Realise(*this);
+    RearmTimers();
+  } catch (...) {
+    TakeDown();
+    throw;
+  }
   Raise([this] { Form_Load(); });
 }
 
@@ -122,6 +127,7 @@ void Form::RearmTimers() {
 void Form::Show(Form* owner) {
   const InUse use(*this);
   Load();
+  if (!loaded_) return;
   ownerWindow_ = owner;
   if (!visible_) {
     visible_ = true;
