@@ -3,10 +3,12 @@
 
 usage: mutate.py FOLDER... [--number N] [--seed N] [--limit SECONDS] [--tests REGEX] [--work DIR]
 
-FOLDER is below the checkout (src/format), or one file. Works on a copy of the checkout in DIR
-(build/mutate), which is built there without Qt; the checkout itself is only read. A fault that does
-not compile, or that leaves the object file as it was, is not counted and another one is drawn. The
-same seed on the same source draws the same faults.
+FOLDER is below the checkout (src/format), or one file; each gets N faults. Works on a copy of the
+checkout in DIR (build/mutate), which is built there without Qt; the checkout itself is only read. A
+fault goes to the tests of its own folder first, then to the pilot scripts, then to all others, and
+no further than the first that fails; only what those tests need is built. A fault that does not
+compile, or that leaves the object file as it was, is not counted and another one is drawn. The same
+seed on the same source draws the same faults.
 """
 import argparse
 import os
@@ -99,85 +101,124 @@ def copy_checkout(target):
 class Bench:
     """The copy's build and its tests."""
 
-    def __init__(self, source, tests, patience):
-        self.source, self.tests, self.patience = source, tests, patience
+    def __init__(self, source, tests):
+        self.source, self.tests = source, tests
         self.build_folder = source / "build" / "test"
-        launcher = shutil.which("ccache")
+        launcher, linker = shutil.which("ccache"), shutil.which("ld.lld")  # quicker with them
         subprocess.run(["cmake", "-S", source, "-B", self.build_folder, "-G", "Ninja",
                         "-DLUMENOTE_QT=OFF", "-DCMAKE_BUILD_TYPE=Release",
+                        *(["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if linker else []),
                         *([f"-DCMAKE_CXX_COMPILER_LAUNCHER={launcher}"] if launcher else [])],
                        check=True, stdout=subprocess.DEVNULL)
 
-    def compiles(self):
-        return subprocess.run(["ninja", "-C", self.build_folder, "-j", "1"],
+    def compiles(self, target="all"):
+        return subprocess.run(["ninja", "-C", self.build_folder, target],
                               capture_output=True).returncode == 0
 
-    def objects(self, path):
-        name = str(path.relative_to(self.source / "src")) + ".o" if path.suffix == ".cpp" else ""
-        return [file.read_bytes() for file in self.build_folder.rglob("*.o")
-                if name and str(file).endswith("/" + name)]
+    def object_of(self, path):
+        """The bytes that the file compiles to, None when it does not; b"" for a header."""
+        if path.suffix != ".cpp":
+            return b"" if self.compiles("lumenote") else None
+        name = str(path.relative_to(self.source / "src")) + ".o"
+        if not self.compiles(f"{path}^"):
+            return None
+        return next(file.read_bytes() for file in self.build_folder.rglob(path.name + ".o")
+                    if str(file).endswith("/" + name))
 
-    def failures(self):
-        command = ["ctest", "--test-dir", self.build_folder, "-j2", "--timeout", "20"]
-        command += ["-R", self.tests] if self.tests else []
+    def stages(self, folders):
+        """Targets, each with what tests it, the tests of the folders first."""
+        if self.tests:
+            return [("all", self.ctest("-R", self.tests))]
+        names = sorted(file.parent.name for file in self.source.glob("tests/*/*Test.cpp"))
+        programs = {name: (f"test_{name}", [self.build_folder / "tests" / f"test_{name}",
+                                            "--gtest_fail_fast", "--gtest_brief=1"])
+                    for name in names if name not in ("pilot", "qt")}
+        own = [programs.pop(folder) for folder in folders if folder in programs]
+        scripts = "|".join(file.stem for file in self.source.glob("tests/pilot/*.pilot"))
+        return [*own, ("lumenote_tool", self.ctest("-R", rf"^pilot\.({scripts})$")),
+                *programs.values(), ("all", self.ctest("-R", r"^(pilot|faults)\."))]
+
+    def ctest(self, *selection):
+        return ["ctest", "--test-dir", self.build_folder, "-j2", "--timeout", "120",
+                "--stop-on-failure", *selection]
+
+    @staticmethod
+    def failure(command):
+        """The first test of the command that fails, "" when none does."""
         try:
-            out = subprocess.run(command, capture_output=True, timeout=self.patience).stdout
+            done = subprocess.run(command, capture_output=True, timeout=600)
         except subprocess.TimeoutExpired:
-            return ["(no end)"]
-        return re.findall(r"^\s*\d+ - (\S+) \(", out.decode(errors="replace"), re.M)
+            return f"{command[0]} (no end)"
+        out = done.stdout.decode(errors="replace")
+        failed = re.search(r"^\[  FAILED  \] ([^\s,]+)|^\s*\d+ - (.+) \(", out, re.M)
+        if failed:
+            return failed.group(1) or failed.group(2)
+        return f"{command[0]} (no success)" if done.returncode else ""
+
+    def catcher(self, folders=()):
+        """The first test that fails, "" when none does; None when some target cannot be built."""
+        for target, command in self.stages(folders):
+            if not self.compiles(target):
+                return None
+            if test := self.failure(command):
+                return test
+        return ""
 
 
 def judge(bench, fault):
-    """The tests that catch it; None when it is no fault at all."""
+    """The test that catches it, "" when none does; None when it is no fault at all."""
     original = fault.path.read_text(encoding="utf-8")
-    before = bench.objects(fault.path)
+    before = bench.object_of(fault.path)
     lines = original.split("\n")
     lines[fault.number - 1] = fault.line
     try:
         fault.path.write_text("\n".join(lines), encoding="utf-8")
-        if not bench.compiles() or (before and bench.objects(fault.path) == before):
+        after = bench.object_of(fault.path)
+        if after is None or (after and after == before):
             return None
-        return bench.failures()
+        return bench.catcher(fault.path.relative_to(bench.source / "src").parts)
     finally:
         fault.path.write_text(original, encoding="utf-8")
+
+
+def check_folder(bench, folder, options, end):
+    """Puts faults into the folder until there are enough; prints each and how many were caught."""
+    files = [folder] if folder.is_file() else sorted(folder.rglob("*.[ch]*"))
+    drawn = [fault for file in files for fault in faults_of(file)]
+    random.Random(options.seed).shuffle(drawn)
+    verdicts = []
+    for fault in drawn:
+        if len(verdicts) == options.number or time.monotonic() > end:
+            break
+        caught = judge(bench, fault)
+        if caught is None:
+            continue
+        verdicts.append(caught)
+        print(f"{fault.path.relative_to(bench.source)}:{fault.number} {fault.kind}: "
+              f"{fault.line.strip()}\n    {'caught by ' + caught if caught else 'SURVIVED'}",
+              flush=True)
+    print(f"{folder.relative_to(bench.source)}: {sum(map(bool, verdicts))} of {len(verdicts)} faults "
+          f"caught ({len(drawn)} are possible)", flush=True)
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("folder", nargs="+")
-    parser.add_argument("--number", type=int, default=20, help="faults to put in")
+    parser.add_argument("--number", type=int, default=20, help="faults to put into each")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--limit", type=float, default=3600, help="seconds for all of it")
     parser.add_argument("--tests", default="", help="regular expression, as ctest -R takes it")
     parser.add_argument("--work", type=pathlib.Path, default=TOP / "build" / "mutate")
     options = parser.parse_args()
     os.nice(15)
-    start = time.monotonic()
+    end = time.monotonic() + options.limit
     source = (options.work / "source").resolve()
     copy_checkout(source)
-    bench = Bench(source, options.tests, 300)
-    if not bench.compiles() or bench.failures():
-        sys.exit("the checkout itself does not build, or fails its tests")
-    files = sorted(file for folder in options.folder for file in
-                   ([source / folder] if (source / folder).is_file() else
-                    (source / folder).rglob("*.[ch]*")))
-    drawn = [fault for file in files for fault in faults_of(file)]
-    print(f"{len(drawn)} possible faults in {len(files)} files")
-    random.Random(options.seed).shuffle(drawn)
-    survived = counted = 0
-    for fault in drawn:
-        if counted == options.number or time.monotonic() - start > options.limit:
-            break
-        caught = judge(bench, fault)
-        if caught is None:
-            continue
-        counted += 1
-        survived += not caught
-        verdict = ", ".join(caught[:4]) + (f" and {len(caught) - 4} more" if caught[4:] else "")
-        print(f"{fault.path.relative_to(source)}:{fault.number} {fault.kind}: {fault.line.strip()}"
-              f"\n    {'caught by ' + verdict if caught else 'SURVIVED'}", flush=True)
-    bench.compiles()
-    print(f"{counted - survived} of {counted} faults caught")
+    bench = Bench(source, options.tests)
+    if (failed := bench.catcher()) != "":
+        sys.exit(f"the checkout itself does not build, or fails its tests: {failed}")
+    for folder in options.folder:
+        check_folder(bench, source / folder, options, end)
 
 
 main()

@@ -41,7 +41,9 @@ class Desk : public HostTest {
     }
     return failing.HasFailed();
   }
-  bool IsTold() { return raised_ || !Boxes().empty() || (IsOpen() && !Editor().Status(2).empty()); }
+  bool IsTold() {
+    return raised_ || !Boxes().empty() || (IsOpen() && !Editor().Bar_Etat.Panel(2).empty());
+  }
   /// Closes what is open; whether what was typed is the host's or on the disk.
   bool KeepsTyped() {
     const std::u16string note = control->pStrOrchm();
