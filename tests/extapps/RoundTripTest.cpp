@@ -1,7 +1,6 @@
 // The exchange of the editor with an external program, tick by tick, among stand-in programs.
 #include <optional>
 
-#include "editor/Secours.h"
 #include "hosts/Host.h"
 #include "platform/Paths.h"
 

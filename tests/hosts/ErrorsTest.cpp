@@ -1,4 +1,5 @@
-// What reaches a host when it goes wrong: run-time errors only, each with the member it is about.
+// What a host hands over, and what reaches it when that goes wrong: run-time errors only, each with
+// the member it is about.
 #include <stdexcept>
 #include <thread>
 
