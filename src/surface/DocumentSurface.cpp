@@ -129,8 +129,6 @@ bool DocumentSurface::UserKey(const KeyStroke& key) {
 }
 
 // Keys and searches show the caret even where it did not move.
-void DocumentSurface::Reveal() {
-  if (core_.View()) core_.View()->RevealCaret();
-}
+void DocumentSurface::Reveal() { core_.Reveal(); }
 
 }  // namespace lumenote

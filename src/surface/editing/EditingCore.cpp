@@ -45,6 +45,20 @@ class OpenStep {
 
 }  // namespace
 
+/// Many edits and moves, of which the view hears once.
+class EditingCore::Batch {
+ public:
+  explicit Batch(EditingCore& core) : core_(core) { ++core_.batches_; }
+  ~Batch() {
+    if (--core_.batches_ == 0) core_.TellView();
+  }
+  Batch(const Batch&) = delete;
+  Batch& operator=(const Batch&) = delete;
+
+ private:
+  EditingCore& core_;
+};
+
 EditingCore::EditingCore(LineBreaker& breaker) : history_(document_), lines_(document_, breaker) {
   history_.MultiLevel(false);
 }
@@ -91,12 +105,27 @@ void EditingCore::Edit(UndoKind kind, const std::function<void()>& make) {
   RequireQuiet();
   {
     const OpenStep step(history_, kind, *this);
-    Atomically(make);
+    Undoable(make);
   }
   Tell();
 }
 
+void EditingCore::BeginGroup() {
+  history_.Begin(UndoKind::Unknown, Selected());
+  ++batches_;
+}
+
+void EditingCore::EndGroup() {
+  history_.End(Selected());
+  if (--batches_ == 0) TellView();
+}
+
 void EditingCore::Atomically(const std::function<void()>& command) {
+  const Batch batch(*this);
+  Undoable(command);
+}
+
+void EditingCore::Undoable(const std::function<void()>& command) {
   if (!reserve_) reserve_.reset(new (std::nothrow) char[kReserve]);
   const UndoMark mark = history_.Mark();
   const Selection selected{anchor_, caret_};
@@ -126,6 +155,7 @@ void EditingCore::Replace(Position from, Position to, const Fragment& fragment) 
 void EditingCore::Note(const DocumentChange& edit) {
   lines_.Edited(edit.at);
   Widen(change_, edit);
+  changed_ = true;
 }
 
 void EditingCore::Place(Position anchor, Position caret, std::optional<CharFormat> typing) {
@@ -163,6 +193,7 @@ void EditingCore::Load(const Fragment& whole) {
   lines_.Reset();
   chosenFormat_.reset();
   Widen(change_, {0, before, document_.Length()});
+  changed_ = true;
   Move(0, 0);
   Tell();
 }
@@ -177,24 +208,38 @@ void EditingCore::RequireQuiet() const {
   if (telling_) throw RuntimeError(ErrorNumber::InvalidArgument);
 }
 
+SurfaceView* EditingCore::View() {
+  TellView();
+  return view_;
+}
+
+void EditingCore::Reveal() {
+  revealing_ = true;
+  if (batches_ == 0) TellView();
+}
+
 // A view that could not follow for want of memory lays everything out anew.
-void EditingCore::TellView(const std::optional<DocumentChange>& change, bool moved) {
+void EditingCore::TellView() {
+  const std::optional<DocumentChange> change = std::exchange(change_, std::nullopt);
+  const bool moved = std::exchange(moved_, false);
+  const bool reveal = std::exchange(revealing_, false) || moved;
+  if (!view_) return;
+  const Raised telling(telling_);
   try {
     if (change) view_->DocumentChanged(*change);
     if (moved) view_->SelectionChanged();
-    if (moved) view_->RevealCaret();
+    if (reveal) view_->RevealCaret();
   } catch (const std::bad_alloc&) {
     view_->WrapWidthChanged();
   }
 }
 
 void EditingCore::Tell() {
-  const std::optional<DocumentChange> change = std::exchange(change_, std::nullopt);
-  const bool moved = std::exchange(moved_, false);
+  const bool changed = std::exchange(changed_, false);
   const Raised telling(telling_);
-  if (view_) TellView(change, moved);
+  if (batches_ == 0) TellView();
   const std::function<void()> onChange = onChange_;
-  if (change && onChange) onChange();
+  if (changed && onChange) onChange();
 }
 
 }  // namespace lumenote

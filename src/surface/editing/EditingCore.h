@@ -43,8 +43,8 @@ class EditingCore {
   /// Chooses one, until the caret moves or something is typed.
   void InsertionFormat(const CharFormat& format) { chosenFormat_ = format; }
 
-  /// Runs a command of several edits. When an allocation fails in it, all that it has edited is
-  /// taken back, and the failure goes on.
+  /// Runs a command of several edits, of which the view hears at its end. When an allocation fails
+  /// in it, all that it has edited is taken back, and the failure goes on.
   void Atomically(const std::function<void()>& command);
 
   /// Runs `make`, which calls `Replace` and `Place`, as one undo step and then tells about it.
@@ -55,8 +55,9 @@ class EditingCore {
   /// what is typed there next, where that should differ from the text around.
   void Place(Position anchor, Position caret, std::optional<CharFormat> typing = {});
 
-  void BeginGroup() { history_.Begin(UndoKind::Unknown, Selected()); }
-  void EndGroup() { history_.End(Selected()); }
+  /// The edits between them are one undo step, of which the view hears at its end.
+  void BeginGroup();
+  void EndGroup();
   void CloseStep() { history_.Close(); }
   void MultiLevelUndo(bool on) { history_.MultiLevel(on); }
   void Undo();
@@ -65,20 +66,26 @@ class EditingCore {
   void Load(const Fragment& whole);
 
   void View(SurfaceView* view) { view_ = view; }
-  SurfaceView* View() const { return view_; }
+  /// The view, which has been told of everything so far.
+  SurfaceView* View();
   void OnChange(std::function<void()> handler) { onChange_ = std::move(handler); }
   /// Tells the view that lines wrap elsewhere.
   void TellWrapWidth();
+  /// Has the view show the caret even where it did not move.
+  void Reveal();
   /// Raises InvalidArgument while a notification runs.
   void RequireQuiet() const;
 
  private:
+  class Batch;
+
+  void Undoable(const std::function<void()>& command);
   void Note(const DocumentChange& edit);
   bool Move(Position anchor, Position caret);
   void BackTo(const UndoMark& mark, Selection selected);
   void Travel(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&));
   void Tell();
-  void TellView(const std::optional<DocumentChange>& change, bool moved);
+  void TellView();
 
   Document document_;
   UndoHistory history_;
@@ -91,9 +98,12 @@ class EditingCore {
   std::function<void()> onChange_;
   /// Let go when memory runs out, for the way back.
   std::unique_ptr<char[]> reserve_;
-  // What `Tell` has still to say.
+  // What the view has still to hear.
   std::optional<DocumentChange> change_;
   bool moved_ = false;
+  bool revealing_ = false;
+  int batches_ = 0;       // around this; the view hears at the end of the outermost one
+  bool changed_ = false;  // the document, since the handler was called
   bool telling_ = false;
 };
 
