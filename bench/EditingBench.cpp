@@ -3,7 +3,7 @@
 
 #include "Notes.h"
 #include "ScannedPage.h"
-#include "backends/headless/FixedBreaker.h"
+#include "backends/headless/FixedLayouter.h"
 #include "base/Strings.h"
 #include "ocr/Cleanup.h"
 #include "surface/DocumentSurface.h"

@@ -115,8 +115,8 @@ class Desk {
 
   MemoryClipboard clipboard;
   MemoryFiles files;
-  TextLayouter layouter;
-  QtBreaker breaker{layouter};
+  QtLayouter layouter;
+  PieceBreaker breaker{layouter};
   DocumentSurface surface{clipboard, files, breaker};
   CountingView view{surface, layouter, ViewDoors{}, nullptr};
 };

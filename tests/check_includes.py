@@ -11,7 +11,7 @@ import pathlib
 import re
 import sys
 
-LAYERS = ["base", "document", "rtf", "platform", "surface", "forms", "session",
+LAYERS = ["base", "document", "rtf", "platform", "surface", "view", "forms", "session",
           ("selection", "extapps"), ("find", "symbols", "ocr", "format"),
           "editor", "control", "backends", "pilot"]
 APART = {"rtf/read", "rtf/write"}  # know nothing of each other

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "backends/headless/FixedBreaker.h"
+#include "backends/headless/FixedLayouter.h"
 #include "base/Strings.h"
 #include "base/TextForm.h"
 #include "surface/DocumentSurface.h"

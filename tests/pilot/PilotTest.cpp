@@ -76,7 +76,7 @@ class PilotTest : public testing::Test {
   PosixSandbox sandbox;
   ReportedFonts fonts;
   SkewedBackend inner;
-  HeadlessActs acts;
+  HeadlessActs acts{inner};
   PilotBackend backend{inner};
   Transcript transcript{out, err};
   PilotPlatform machine{sandbox, backend, fonts};

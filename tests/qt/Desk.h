@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "backends/qt/QtBackend.h"
-#include "backends/qt/text/QtBreaker.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
 #include "forms/Timer.h"
@@ -25,8 +24,8 @@ struct TestSurface {
 
   MemoryClipboard clipboard;
   MemoryFiles files;
-  TextLayouter layouter;
-  QtBreaker breaker{layouter};
+  QtLayouter layouter;
+  PieceBreaker breaker{layouter};
   DocumentSurface surface{clipboard, files, breaker};
 };
 
@@ -76,14 +75,5 @@ class TestForm final : public Form {
   void Form_Activate() override { ++activations; }
   void Form_Resize() override { ++resizes; }
 };
-
-/// French-looking words, so many characters of them.
-inline std::u16string Words(std::size_t length) {
-  static constexpr std::u16string_view kWords[] = {u"plante ", u"de ",       u"lisière ", u"à ",
-                                                   u"fleurs ", u"pourpres ", u"été, "};
-  std::u16string text;
-  for (std::size_t i = 0; text.size() < length; ++i) text += kWords[(i * 5 + i / 3) % 7];
-  return text.substr(0, length);
-}
 
 }  // namespace lumenote

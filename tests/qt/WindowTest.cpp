@@ -8,6 +8,7 @@
 
 #include "Desk.h"
 #include "backends/qt/QtUserActs.h"
+#include "backends/qt/toolkit/Pixels.h"
 #include "backends/qt/view/RichTextView.h"
 #include "backends/qt/windows/FormWindow.h"
 
@@ -52,7 +53,7 @@ TEST_F(WindowTest, ClickAndShiftClickSelect) {
   form->box.Surface().Text(u"abc def");
   auto& view = *platform.windows.Widgets().Find<RichTextView>(form->box);
   const auto click = [&](Position at, Qt::KeyboardModifiers modifiers, QEvent::Type type) {
-    const QPointF point = view.Pane().CaretAt(at)->center();
+    const QPointF point = ToQRect(*view.Pane().CaretAt(at)).center();
     QMouseEvent press(type, point, view.viewport()->mapToGlobal(point), Qt::LeftButton,
                       Qt::LeftButton, modifiers);
     QApplication::sendEvent(view.viewport(), &press);
@@ -73,7 +74,8 @@ TEST_F(WindowTest, ComposedTextIsShownAndThenTyped) {
   form->box.Surface().SelStart(1);
   QInputMethodEvent composing(QStringLiteral("^"), {});
   QApplication::sendEvent(&view, &composing);
-  EXPECT_EQ(view.Pane().Cache().At(0).layout.text(), QStringLiteral("a^b"));
+  const auto& piece = static_cast<const QtPiece&>(view.Pane().Cache().At(0));
+  EXPECT_EQ(piece.layout.text(), QStringLiteral("a^b"));
   QInputMethodEvent done;
   done.setCommitString(QStringLiteral("ê"));
   QApplication::sendEvent(&view, &done);

@@ -5,7 +5,7 @@
 
 #include "FailingNew.h"
 #include "Fakes.h"
-#include "backends/headless/FixedBreaker.h"
+#include "backends/headless/FixedLayouter.h"
 #include "base/RuntimeError.h"
 #include "ocr/Cleanup.h"
 #include "surface/DocumentSurface.h"

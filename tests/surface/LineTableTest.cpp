@@ -1,7 +1,7 @@
-// The line table against a layout of everything, and the breaker that both use.
+// The line table against a layout of everything.
 #include <gtest/gtest.h>
 
-#include "backends/headless/FixedBreaker.h"
+#include "backends/headless/FixedLayouter.h"
 #include "base/Strings.h"
 #include "document/LineTable.h"
 #include "document/Model.h"
@@ -103,52 +103,6 @@ TEST(LineTable, AgreesWithAFullLayoutAfterRandomEdits) {
       table.Edited(note.Edit());
     }
   }
-}
-
-TEST(FixedBreaker, Wraps) {
-  struct Row {
-    std::u16string_view text;
-    int width;  // in characters
-    std::u16string_view lines;
-  };
-  const Row rows[] = {{u"un deux trois", 7, u"un deux |trois"},
-                      {u"un    deux", 4, u"un    |deux"},
-                      {u"porte-avions", 8, u"porte-|avions"},
-                      {u"abcdefgh", 3, u"abc|def|gh"},
-                      {u"a abcdefgh", 3, u"a |abc|def|gh"},
-                      {u"a𝄞𝄞b", 2, u"a𝄞|𝄞b"},
-                      {u"𝄞𝄞", 0, u"𝄞|𝄞"},
-                      {u"a\tb", 8, u"a\t|b"},
-                      {u"a\vb\v", 9, u"a\v|b\v|"},
-                      {u"", 5, u""}};
-  for (const Row& row : rows) {
-    Document document;
-    document.Replace(0, 0, PlainFragment(row.text, 0, 0));
-    FixedBreaker breaker(static_cast<float>(row.width) * 100);
-    std::u16string lines(row.text);
-    std::vector<Position> starts = breaker.Break(document, 0, document.Length());
-    for (auto at = starts.rbegin(); at != starts.rend(); ++at)
-      lines.insert(static_cast<std::size_t>(*at), 1, u'|');
-    EXPECT_EQ(ToUtf8(lines), ToUtf8(row.lines));
-  }
-}
-
-TEST(FixedBreaker, IndentsNarrowTheLinesAndShiftX) {
-  Document document;
-  ParaFormat format;
-  format.firstIndent = 200;
-  format.hangingIndent = -100;
-  format.rightIndent = 300;
-  Fragment text = PlainFragment(u"abcdefghij", 0, 0);
-  text.mark = FinalMark{0, document.Formats().paragraphs.Intern(format)};
-  document.Replace(0, 0, text);
-  FixedBreaker breaker(1000);
-  EXPECT_EQ(breaker.Break(document, 0, 10), (std::vector<Position>{5}));
-  EXPECT_EQ(breaker.XOf(document, 0, 2), 400);
-  EXPECT_EQ(breaker.XOf(document, 5, 5), 100);
-  EXPECT_EQ(breaker.AtX(document, 0, 5, 349), 1);
-  EXPECT_EQ(breaker.AtX(document, 0, 5, 351), 2);
-  EXPECT_EQ(breaker.AtX(document, 5, 10, 9999), 10);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "backends/headless/FixedBreaker.h"
+#include "backends/headless/FixedLayouter.h"
 #include "base/Strings.h"
 #include "surface/DocumentSurface.h"
 #include "surface/Fakes.h"

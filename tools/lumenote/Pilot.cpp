@@ -34,7 +34,7 @@ int Pilot(Arguments arguments) {
   if (!file) throw CommandLineError(name + " : lecture impossible");
   const std::unique_ptr<PosixSandbox> sandbox = MakeSandbox(line.Value("--root"));
   HeadlessBackend backend;
-  HeadlessActs acts;
+  HeadlessActs acts(backend);
   return RunPilot({name == "-" ? std::cin : file, std::cout, std::cerr, *sandbox, backend, acts});
 }
 

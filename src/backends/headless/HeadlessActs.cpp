@@ -3,20 +3,17 @@
 
 #include <algorithm>
 
+#include "backends/headless/HeadlessBackend.h"
 #include "base/Strings.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
 #include "forms/controls/ComboBox.h"
-#include "forms/controls/RichTextBox.h"
 #include "forms/controls/UpDown.h"
-#include "surface/DocumentSurface.h"
 
 namespace lumenote {
 namespace {
 
-DocumentSurface& SurfaceOf(RichTextBox& box) {
-  return dynamic_cast<DocumentSurface&>(box.Surface());
-}
+PixelPoint PixelsOf(Point twips) { return {twips.x / kTwipsInPixel, twips.y / kTwipsInPixel}; }
 
 /// Length of the key at the start of the text: CR LF and a surrogate pair are one.
 std::size_t KeyLength(std::u16string_view text) {
@@ -39,33 +36,32 @@ class StillLoaded {
   const Form* form_;
 };
 
-void SelectIn(RichTextBox& box, Position start, Position length) {
-  DocumentSurface& surface = SurfaceOf(box);
-  const Position end = surface.Content().Length();
-  start = std::min(start, end);
-  surface.UserSelect(start, start + std::min(length, end - start));
-}
-
-/// The window takes the keys that a control has no use for.
-void PressKey(Control& control, const KeyStroke& key) {
-  Form& form = control.Owner();
-  auto* box = dynamic_cast<RichTextBox*>(&control);
-  const bool reaches = !box || !box->Locked() || OnlyLooks(key);
-  const bool used = reaches && (box ? SurfaceOf(*box).UserKey(key) : control.UserKey(key));
-  if (!used) form.UserKey(key);
-}
-
-void TypeKey(Control& control, std::u16string_view key) {
-  auto* box = dynamic_cast<RichTextBox*>(&control);
-  if (box && !box->Locked())
-    SurfaceOf(*box).UserType(key);
-  else if (!box && key == u"\r\n")
-    PressKey(control, {.name = KeyName::Return});
-  else if (!box)
-    control.UserType(key);
+void MouseIn(HeadlessView& view, UserActs::MouseAct act, const MouseEvent& event) {
+  const PixelPoint at = PixelsOf(event.at);
+  const bool left = event.button == MouseButton::Left;
+  if (act == UserActs::MouseAct::Move) view.Mouse().Move(at, left);
+  if (act == UserActs::MouseAct::Down && left) view.Mouse().Down({.at = at});
+  if (act == UserActs::MouseAct::Up && left) view.Mouse().Up(at);
 }
 
 }  // namespace
+
+/// The window takes the keys that a control has no use for.
+void HeadlessActs::PressKey(Control& control, const KeyStroke& key) {
+  Form& form = control.Owner();
+  const auto view = backend_.ViewOf(control);
+  const bool used = view ? view->Keys().Press(key, {}) : control.UserKey(key);
+  if (!used) form.UserKey(key);
+}
+
+void HeadlessActs::TypeKey(Control& control, std::u16string_view key) {
+  if (const auto view = backend_.ViewOf(control))
+    view->Text().Type(key);
+  else if (key == u"\r\n")
+    PressKey(control, {.name = KeyName::Return});
+  else
+    control.UserType(key);
+}
 
 void HeadlessActs::Click(Control& control) {
   const StillLoaded loaded(control.Owner());
@@ -78,7 +74,11 @@ void HeadlessActs::Click(Control& control) {
 void HeadlessActs::DoubleClick(Control& control) {
   const StillLoaded loaded(control.Owner());
   Click(control);
-  if (loaded) control.UserDoubleClick();
+  if (!loaded) return;
+  const Point middle{control.Width() / 2, control.Height() / 2};
+  if (const auto view = backend_.ViewOf(control))
+    view->Mouse().DoubleClick({.at = PixelsOf(middle)});
+  control.UserDoubleClick();
 }
 
 void HeadlessActs::Choose(Menu& entry) { entry.UserClick(); }
@@ -103,18 +103,30 @@ void HeadlessActs::Key(Control& control, const KeyStroke& key) {
 
 void HeadlessActs::Select(RichTextBox& box, Position start, Position length) {
   box.SetFocus();
-  SelectIn(box, start, length);
+  const auto shown = backend_.ViewOf(box);
+  NoteView& view = shown->Text();
+  const Position end = view.Surface().Content().Length();
+  start = std::min(start, end);
+  view.Select(start, start + std::min(length, end - start));
 }
 
 void HeadlessActs::Mouse(Control& control, MouseAct act, const MouseEvent& event) {
   if (act == MouseAct::Down) control.SetFocus();
+  const StillLoaded loaded(control.Owner());
+  if (const auto view = backend_.ViewOf(control)) MouseIn(*view, act, event);
+  if (!loaded) return;
   if (act == MouseAct::Move) control.UserMouseMove(event);
   if (act == MouseAct::Up) control.UserMouseUp(event);
 }
 
 void HeadlessActs::Drag(RichTextBox& box, Position start, Position length, Position to) {
   Select(box, start, length);
-  if (!box.Locked()) SurfaceOf(box).UserDrop(to, false);
+  const auto shown = backend_.ViewOf(box);
+  HeadlessView& view = *shown;
+  view.Text().Pane().Reveal(to);
+  const std::optional<PixelRect> caret = view.Text().Pane().CaretAt(to);
+  if (!box.Locked() && caret)
+    view.Drop().DropOwn({caret->left, (caret->top + caret->bottom) / 2}, false);
 }
 
 void HeadlessActs::Spin(UpDown& spinner, bool up) {

@@ -5,9 +5,14 @@
 
 namespace lumenote {
 
+class HeadlessBackend;
+
 /// Performs each act through the elements' doors, on windows of a `HeadlessBackend`.
 class HeadlessActs final : public UserActs {
  public:
+  /// `backend` outlives the acts.
+  explicit HeadlessActs(const HeadlessBackend& backend) : backend_(backend) {}
+
   void Click(Control& control) override;
   void DoubleClick(Control& control) override;
   void Choose(Menu& entry) override;
@@ -23,6 +28,12 @@ class HeadlessActs final : public UserActs {
   void Resize(Form& form, float width, float height) override;
   void Activate(Form& form) override;
   void Close(Form& form) override;
+
+ private:
+  void PressKey(Control& control, const KeyStroke& key);
+  void TypeKey(Control& control, std::u16string_view key);
+
+  const HeadlessBackend& backend_;
 };
 
 }  // namespace lumenote

@@ -1,9 +1,8 @@
 // A backend without a window system: windows are their state, and nobody sits before them.
 #pragma once
-#include <map>
 #include <memory>
 
-#include "backends/headless/BoxLayout.h"
+#include "backends/headless/HeadlessPeer.h"
 #include "forms/Backend.h"
 #include "forms/ManualClock.h"
 
@@ -26,12 +25,14 @@ class HeadlessBackend : public Backend {
   void Arm(Timer& timer) override { clock_.Arm(timer); }
   void Disarm(Timer& timer) override { clock_.Disarm(timer); }
 
+  /// The view of a box; null unless its window is loaded.
+  std::shared_ptr<HeadlessView> ViewOf(const Control& box) const;
+
   void Advance(int milliseconds) { clock_.Advance(milliseconds); }
 
  private:
   ManualClock clock_;
-  /// A box that is gone leaves its layout behind, until another one takes its place.
-  std::map<const RichTextBox*, std::unique_ptr<BoxLayout>> layouts_;
+  HeadlessBoxes boxes_;
 };
 
 }  // namespace lumenote

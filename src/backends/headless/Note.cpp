@@ -1,6 +1,6 @@
 #include "lumenote/Note.h"
 
-#include "backends/headless/FixedBreaker.h"
+#include "backends/headless/FixedLayouter.h"
 #include "backends/headless/MemoryClipboard.h"
 #include "backends/headless/NoFiles.h"
 #include "base/TextForm.h"

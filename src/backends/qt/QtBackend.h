@@ -6,10 +6,11 @@
 #include <vector>
 
 #include "backends/qt/QtTimers.h"
-#include "backends/qt/text/QtBreaker.h"
+#include "backends/qt/text/QtLayouter.h"
 #include "backends/qt/toolkit/WidgetRegistry.h"
 #include "backends/qt/windows/QtFormPeer.h"
 #include "forms/Backend.h"
+#include "view/layout/PieceBreaker.h"
 
 namespace lumenote {
 
@@ -37,11 +38,11 @@ class QtBackend final : public Backend, private PeerServices {
 
  private:
   struct SurfaceLayout {
-    TextLayouter layouter;
-    QtBreaker breaker{layouter};
+    QtLayouter layouter;
+    PieceBreaker breaker{layouter};
   };
 
-  TextLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
+  QtLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
   /// The window that a box asked for by `over` belongs to; null for none.
   QWidget* Asking(const Form* over) const;
   void NativelyActive(Form& form) override;

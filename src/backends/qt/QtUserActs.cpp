@@ -137,7 +137,7 @@ void QtUserActs::Select(RichTextBox& box, Position start, Position length) {
   box.SetFocus();
   RichTextView& view = ViewOf(box);
   const Position end = start + std::min(length, view.Surface().Content().Length());
-  view.Act([&] { view.Surface().UserSelect(start, end); });
+  view.Text().Select(start, end);
 }
 
 void QtUserActs::Mouse(Control& control, MouseAct act, const MouseEvent& event) {
@@ -153,11 +153,11 @@ void QtUserActs::Drag(RichTextBox& box, Position start, Position length, Positio
   RichTextView& view = ViewOf(box);
   view.Pane().Reveal(to);
   view.Settle();
-  const std::optional<QRectF> caret = view.Pane().CaretAt(to);
+  const std::optional<PixelRect> caret = view.Pane().CaretAt(to);
   if (!caret) return;
   const SelectionMime content(view, SelectionMime::Of::Now);
   const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
-  const QPointF at(caret->left(), caret->center().y());
+  const QPointF at(caret->left, (caret->top + caret->bottom) / 2);
   QDragEnterEvent enter(at.toPoint(), actions, &content, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(view.viewport(), &enter);
   QDropEvent drop(at, actions, &content, Qt::LeftButton, Qt::NoModifier);

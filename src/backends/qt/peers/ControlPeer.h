@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "backends/qt/text/TextLayouter.h"
+#include "backends/qt/text/QtLayouter.h"
 #include "backends/qt/toolkit/Differences.h"
 #include "forms/Control.h"
 
@@ -48,7 +48,7 @@ class LayouterSource {
  public:
   virtual ~LayouterSource() = default;
   /// What lays out the text of the box's surface.
-  virtual TextLayouter& LayouterOf(const Control& box) = 0;
+  virtual QtLayouter& LayouterOf(const Control& box) = 0;
 };
 
 /// The peer for a control of any kind, its widget a child of `parent`, all of its state taken on.

@@ -74,7 +74,7 @@ struct Stretch {
 
 class DecorationPainter {
  public:
-  DecorationPainter(QPainter& painter, const Piece& piece, const Decoration& decoration,
+  DecorationPainter(QPainter& painter, const QtPiece& piece, const Decoration& decoration,
                     const QColor& ink)
       : painter_(painter),
         text_(piece.layout.text()),
@@ -163,7 +163,7 @@ void DecorationPainter::PaintObjects(const Stretch& stretch) {
 
 }  // namespace
 
-void PaintDecorations(QPainter& painter, const Piece& piece, QPointF origin, const QColor& ink) {
+void PaintDecorations(QPainter& painter, const QtPiece& piece, QPointF origin, const QColor& ink) {
   for (const Decoration& decoration : piece.decorations) {
     DecorationPainter decorator(painter, piece, decoration, ink);
     for (std::size_t i = 0; i < piece.lines.size(); ++i) {

@@ -2,11 +2,11 @@
 #pragma once
 #include <QPainter>
 
-#include "backends/qt/text/Piece.h"
+#include "backends/qt/text/QtPiece.h"
 
 namespace lumenote {
 
 /// `origin` is where the text's left edge meets the piece's top; `ink` the automatic colour.
-void PaintDecorations(QPainter& painter, const Piece& piece, QPointF origin, const QColor& ink);
+void PaintDecorations(QPainter& painter, const QtPiece& piece, QPointF origin, const QColor& ink);
 
 }  // namespace lumenote

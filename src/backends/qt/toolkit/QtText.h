@@ -16,6 +16,11 @@ inline std::u16string FromQString(QStringView text) {
   return {text.utf16(), static_cast<std::size_t>(text.size())};
 }
 
+/// Valid as long as `text` is.
+inline std::u16string_view Utf16(const QString& text) {
+  return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
+}
+
 /// Text for a widget: each CR LF a line feed.
 inline QString ToLines(std::u16string_view text) {
   return ToQString(ReplaceEvery(text, u"\r\n", u"\n"));

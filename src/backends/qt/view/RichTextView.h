@@ -2,21 +2,23 @@
 #pragma once
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
+#include <QElapsedTimer>
 #include <QMimeData>
 #include <QPointer>
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "backends/qt/text/TextPane.h"
+#include "backends/qt/text/QtLayouter.h"
+#include "backends/qt/view/DragOut.h"
+#include "backends/qt/view/DropEvents.h"
 #include "backends/qt/view/ViewBars.h"
-#include "backends/qt/view/ViewDamage.h"
-#include "backends/qt/view/ViewDrop.h"
-#include "backends/qt/view/ViewInput.h"
-#include "backends/qt/view/ViewKeys.h"
-#include "backends/qt/view/ViewMouse.h"
+#include "backends/qt/view/ViewPainter.h"
 #include "forms/Control.h"
-#include "surface/editing/SurfaceView.h"
+#include "view/acts/ViewInput.h"
+#include "view/acts/ViewKeys.h"
+#include "view/acts/ViewMouse.h"
+#include "view/pane/NoteView.h"
 
 namespace lumenote {
 
@@ -30,39 +32,24 @@ struct ViewDoors {
   std::function<bool()> locked{};
 };
 
-/// A view: it owns no text. What the surface tells it is gathered and shown in one go, just before
-/// the next painting. The surface may go first, after `Detach`; then the view does nothing.
-class RichTextView : public QAbstractScrollArea, private SurfaceView {
+/// A `NoteView` on the desktop: events go in, painting comes out. The surface may go first, after
+/// `Detach`; then the widget does nothing.
+class RichTextView : public QAbstractScrollArea, private ViewHost {
  public:
   /// `layouter` outlives the view; the surface's breaker uses the same.
-  RichTextView(DocumentSurface& surface, TextLayouter& layouter, ViewDoors doors, QWidget* parent);
-  ~RichTextView() override;
+  RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewDoors doors, QWidget* parent);
 
   void Detach();
-  bool IsAttached() const { return attached_; }
-  DocumentSurface& Surface() const { return pane_.Surface(); }
-  TextPane& Pane() { return pane_; }
-  bool IsLocked() const { return doors_.locked && doors_.locked(); }
+  bool IsAttached() const { return text_.IsAttached(); }
+  bool IsLocked() const override { return doors_.locked && doors_.locked(); }
+  NoteView& Text() { return text_; }
+  DocumentSurface& Surface() const { return text_.Surface(); }
+  TextPane& Pane() { return text_.Pane(); }
+  QtLayouter& Layouter() { return layouter_; }
+  ViewInput& Input() { return input_; }
 
-  /// How many times the document has changed under this view.
-  int Edits() const { return edits_; }
-
-  /// Runs an act of the user; the view may be detached when it returns.
-  void Act(const std::function<void()>& act);
-  /// Types, unless the box is locked.
-  void Type(const QString& text);
-  void ReleaseMouse(MouseButton button, QPointF at);
-  /// Scrolls by pixels, as the user does.
-  void ScrollBy(double pixels);
-  void Zoom(double factor);
-  /// Shows where a drop would go; empty for none.
-  void DropCaret(std::optional<Position> position);
-  void Composing(const Preedit& preedit);
-
-  /// Brings scroll bars and screen up to what the surface has told.
-  void Settle();
-  /// Where what is laid out is not what the document holds; for tests.
-  std::vector<std::string> Differences();
+  void Settle() { text_.Settle(); }
+  std::vector<std::string> Differences() { return text_.Differences(); }
 
  protected:
   bool event(QEvent* event) override;
@@ -71,6 +58,7 @@ class RichTextView : public QAbstractScrollArea, private SurfaceView {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
@@ -92,36 +80,40 @@ class RichTextView : public QAbstractScrollArea, private SurfaceView {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void DocumentChanged(const DocumentChange& change) override;
-  void SelectionChanged() override;
-  void WrapWidthChanged() override;
-  void RevealCaret() override;
-  int LinesPerPage() const override;
-  std::optional<Line> ShownLine(Position position) override { return pane_.ShownLine(position); }
+  // ViewHost
+  void Act(const std::function<void()>& act) override;
+  PointerManners Pointer() const override;
+  void SettleSoon() override;
+  void ShowScrolling() override { bars_.Sync(); }
+  void ShowDamage(const Damage& damage) override;
+  void Changed(const DocumentChange& change) override;
+  void SelectionMoved() override;
+  void ShowArrow(bool arrow) override;
+  void ScrollTimer(bool on) override;
+  void Drag() override { drag_.Run(); }
+  void OpenMenu(PixelPoint at) override { ReleaseMouse(MouseButton::Right, {at.x, at.y}); }
 
-  void SettleSoon();
+  void ReleaseMouse(MouseButton button, QPointF at);
+  void PasteSelection(QPointF at);
   void OfferSelection();
   void ShowGround();
   void ChooseFrame();
   PaintState State();
-  void RestartBlinking();
+  ViewMouse::Press PressOf(const QMouseEvent& event) const;
 
-  mutable TextPane pane_;
+  QtLayouter& layouter_;
   ViewDoors doors_;
-  ViewDamage damage_{pane_};
+  mutable NoteView text_;
+  ViewKeys keys_{text_};
+  ViewMouse mouse_{text_};
+  mutable ViewInput input_{text_};
   ViewBars bars_{*this};
-  ViewKeys keys_{*this};
-  ViewMouse mouse_{*this};
-  ViewDrop drop_{*this};
-  ViewInput input_{*this};
+  DragOut drag_{*this};
+  DropEvents drop_{*this};
   QBasicTimer blinking_;
-  std::optional<Position> dropCaret_;
+  QBasicTimer scrolling_;
+  QElapsedTimer clock_;
   QPointer<const QMimeData> offered_;  // what the desktop's selection is as long as it is ours
-  int edits_ = 0;
-  bool attached_ = true;
-  bool caretLit_ = false;
-  bool revealing_ = false;   // the caret is to be brought into view
-  bool settleSoon_ = false;  // an event that settles is on its way
 };
 
 }  // namespace lumenote

@@ -2,26 +2,24 @@
 
 #include "backends/qt/toolkit/MimeContent.h"
 #include "backends/qt/toolkit/QtText.h"
-#include "rtf/write/Writer.h"
+#include "backends/qt/view/RichTextView.h"
 
 namespace lumenote {
 
-SelectionMime::SelectionMime(RichTextView& view, Of when) : view_(&view), edits_(view.Edits()) {
-  if (when == Of::Now) taken_ = Selected(view);
+SelectionMime::SelectionMime(RichTextView& view, Of when)
+    : view_(&view), edits_(view.Text().Edits()) {
+  if (when == Of::Now) taken_.emplace(view.Surface());
 }
 
 RichTextView* SelectionMime::Source() const {
-  return view_ && view_->IsAttached() && view_->Edits() == edits_ ? view_ : nullptr;
+  const bool same = view_ && view_->IsAttached() && view_->Text().Edits() == edits_;
+  return same ? view_ : nullptr;
 }
 
-SelectionMime::Part SelectionMime::Selected(const RichTextView& view) {
-  return {view.Surface().Content(), view.Surface().Selected()};
-}
-
-std::optional<SelectionMime::Part> SelectionMime::Content() const {
+std::optional<TextExcerpt> SelectionMime::Content() const {
   if (taken_) return taken_;
   if (!view_ || !view_->IsAttached()) return std::nullopt;
-  return Selected(*view_);
+  return TextExcerpt(view_->Surface());
 }
 
 QStringList SelectionMime::formats() const {
@@ -32,12 +30,10 @@ QStringList SelectionMime::formats() const {
 }
 
 QVariant SelectionMime::retrieveData(const QString& format, QMetaType type) const {
-  const std::optional<Part> part = hasFormat(format) ? Content() : std::nullopt;
-  if (!part) return {};
-  const auto& [document, range] = *part;
-  if (format != QLatin1String("text/plain"))
-    return QByteArray::fromStdString(WriteRtf(document, range.start, range.end));
-  const QString text = ToLines(document.Text(range.start, range.end));
+  const std::optional<TextExcerpt> content = hasFormat(format) ? Content() : std::nullopt;
+  if (!content) return {};
+  if (format != QLatin1String("text/plain")) return QByteArray::fromStdString(content->Rtf());
+  const QString text = ToLines(content->Text());
   return type.id() == QMetaType::QByteArray ? QVariant(text.toUtf8()) : QVariant(text);
 }
 

@@ -4,12 +4,14 @@
 #include <QPointer>
 #include <optional>
 
-#include "backends/qt/view/RichTextView.h"
+#include "view/acts/TextDrag.h"
 
 namespace lumenote {
 
+class RichTextView;
+
 /// Text and RTF are written when they are asked for, however large: either of what is selected
-/// then, or of what was selected when this was made, which later edits do not reach.
+/// then, or of what was selected when this was made.
 class SelectionMime : public QMimeData {
  public:
   enum class Of { Then, Now };
@@ -25,15 +27,10 @@ class SelectionMime : public QMimeData {
   QVariant retrieveData(const QString& format, QMetaType type) const override;
 
  private:
-  struct Part {
-    Document document;  // shares its leaves with the surface's
-    Selection range;
-  };
-  static Part Selected(const RichTextView& view);
-  std::optional<Part> Content() const;
+  std::optional<TextExcerpt> Content() const;
 
   QPointer<RichTextView> view_;
-  std::optional<Part> taken_;
+  std::optional<TextExcerpt> taken_;
   int edits_;  // that the view had seen
 };
 

@@ -4,20 +4,57 @@
 #include <QTextBoundaryFinder>
 #include <algorithm>
 
+#include "backends/qt/toolkit/Pixels.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/view/RichTextView.h"
+#include "view/acts/AccessibleText.h"
 
 namespace lumenote {
 
 namespace {
 
-/// Offsets are positions of the document.
+TextUnit UnitOf(QAccessible::TextBoundaryType type) {
+  switch (type) {
+    case QAccessible::CharBoundary:
+      return TextUnit::Character;
+    case QAccessible::WordBoundary:
+      return TextUnit::Word;
+    case QAccessible::SentenceBoundary:
+      return TextUnit::Sentence;
+    case QAccessible::LineBoundary:
+      return TextUnit::Line;
+    case QAccessible::ParagraphBoundary:
+      return TextUnit::Paragraph;
+    case QAccessible::NoBoundary:
+      return TextUnit::All;
+  }
+  return TextUnit::All;
+}
+
+Selection FindBoundaries(TextUnit unit, std::u16string_view text, int index) {
+  const auto kind = unit == TextUnit::Word       ? QTextBoundaryFinder::Word
+                    : unit == TextUnit::Sentence ? QTextBoundaryFinder::Sentence
+                                                 : QTextBoundaryFinder::Grapheme;
+  QTextBoundaryFinder finder(kind, ToQString(text));
+  finder.setPosition(index);
+  const auto start = finder.isAtBoundary() ? index : finder.toPreviousBoundary();
+  finder.setPosition(index);
+  const auto end = finder.toNextBoundary();
+  return {static_cast<Position>(std::max<qsizetype>(start, 0)),
+          static_cast<Position>(end < 0 ? std::ssize(text) : end)};
+}
+
+/// The toolkit's names for what `AccessibleText` does.
 class AccessibleView final : public QAccessibleWidget,
                              public QAccessibleTextInterface,
                              public QAccessibleEditableTextInterface {
  public:
+  using Boundary = QAccessible::TextBoundaryType;
+
   explicit AccessibleView(RichTextView& view)
-      : QAccessibleWidget(&view, QAccessible::EditableText), view_(view) {}
+      : QAccessibleWidget(&view, QAccessible::EditableText),
+        view_(view),
+        text_(view.Text(), FindBoundaries) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override;
   QAccessible::State state() const override;
@@ -26,38 +63,40 @@ class AccessibleView final : public QAccessibleWidget,
   // QAccessibleTextInterface
   void selection(int index, int* start, int* end) const override;
   int selectionCount() const override { return Surface().Selected().Length() > 0 ? 1 : 0; }
-  void addSelection(int start, int end) override { Select(start, end); }
-  void removeSelection(int) override { Select(Surface().Caret(), Surface().Caret()); }
-  void setSelection(int, int start, int end) override { Select(start, end); }
+  void addSelection(int start, int end) override { text_.Select(start, end); }
+  void removeSelection(int) override { text_.Select(Surface().Caret(), Surface().Caret()); }
+  void setSelection(int, int start, int end) override { text_.Select(start, end); }
   int cursorPosition() const override { return Surface().Caret(); }
-  void setCursorPosition(int position) override { Select(position, position); }
-  QString text(int start, int end) const override;
-  QString textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start,
-                           int* end) const override;
-  QString textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start,
-                          int* end) const override;
-  QString textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start,
-                       int* end) const override;
+  void setCursorPosition(int position) override { text_.Select(position, position); }
+  QString text(int start, int end) const override { return ToQString(text_.Text({start, end})); }
+  QString textBeforeOffset(int offset, Boundary type, int* start, int* end) const override {
+    return Told(text_.Before(offset, UnitOf(type)), start, end);
+  }
+  QString textAfterOffset(int offset, Boundary type, int* start, int* end) const override {
+    return Told(text_.Behind(offset, UnitOf(type)), start, end);
+  }
+  QString textAtOffset(int offset, Boundary type, int* start, int* end) const override {
+    return Told(text_.At(offset, UnitOf(type)), start, end);
+  }
   int characterCount() const override { return Surface().Content().Length(); }
   QRect characterRect(int offset) const override;
   int offsetAtPoint(const QPoint& point) const override;
-  void scrollToSubstring(int start, int end) override;
+  void scrollToSubstring(int start, int end) override { text_.Reveal({start, end}); }
   QString attributes(int offset, int* start, int* end) const override;
 
   // QAccessibleEditableTextInterface
-  void deleteText(int start, int end) override { Put(start, end, {}); }
-  void insertText(int offset, const QString& text) override { Put(offset, offset, text); }
-  void replaceText(int start, int end, const QString& text) override { Put(start, end, text); }
+  void deleteText(int start, int end) override { text_.Replace({start, end}, {}); }
+  void insertText(int offset, const QString& text) override { replaceText(offset, offset, text); }
+  void replaceText(int start, int end, const QString& text) override {
+    text_.Replace({start, end}, FromQString(text));
+  }
 
  private:
   DocumentSurface& Surface() const { return view_.Surface(); }
-  void Select(Position anchor, Position caret);
-  void Put(Position start, Position end, const QString& text);
-  Selection Unit(Position offset, QAccessible::TextBoundaryType type) const;
-  Selection UnitIn(Selection paragraph, Position offset, QAccessible::TextBoundaryType type) const;
   QString Told(Selection range, int* start, int* end) const;
 
   RichTextView& view_;
+  AccessibleText text_;
 };
 
 void* AccessibleView::interface_cast(QAccessible::InterfaceType type) {
@@ -89,124 +128,33 @@ void AccessibleView::selection(int index, int* start, int* end) const {
   *end = selected.end;
 }
 
-void AccessibleView::Select(Position anchor, Position caret) {
-  view_.Act([&] { Surface().UserSelect(anchor, caret); });
-}
-
-void AccessibleView::Put(Position start, Position end, const QString& text) {
-  if (view_.IsLocked()) return;
-  view_.Act([&] {
-    Surface().UserSelect(start, end);
-    if (text.isEmpty())
-      Surface().Clear();
-    else
-      Surface().UserType(WithCrLf(FromQString(text)));
-  });
-}
-
-QString AccessibleView::text(int start, int end) const {
-  return ToQString(Surface().Content().Text(std::max(start, 0), std::max(end, 0)));
-}
-
 QString AccessibleView::Told(Selection range, int* start, int* end) const {
   *start = range.start;
   *end = range.end;
   return text(range.start, range.end);
 }
 
-Selection AccessibleView::UnitIn(Selection paragraph, Position offset,
-                                 QAccessible::TextBoundaryType type) const {
-  const auto kind = type == QAccessible::WordBoundary       ? QTextBoundaryFinder::Word
-                    : type == QAccessible::SentenceBoundary ? QTextBoundaryFinder::Sentence
-                                                            : QTextBoundaryFinder::Grapheme;
-  constexpr Position kReach = 2'000;  // in long paragraphs
-  const Position from = std::max(paragraph.start, offset - kReach);
-  const QString text = this->text(from, std::min(paragraph.end, offset + kReach));
-  QTextBoundaryFinder finder(kind, text);
-  finder.setPosition(offset - from);
-  const bool atStart = finder.isAtBoundary();
-  const auto start = atStart ? offset - from : finder.toPreviousBoundary();
-  finder.setPosition(offset - from);
-  const auto end = finder.toNextBoundary();
-  return {from + static_cast<Position>(std::max<qsizetype>(start, 0)),
-          from + static_cast<Position>(end < 0 ? text.size() : end)};
-}
-
-Selection AccessibleView::Unit(Position offset, QAccessible::TextBoundaryType type) const {
-  const Document& document = Surface().Content();
-  offset = std::clamp(offset, 0, document.Length());
-  if (type == QAccessible::NoBoundary) return {0, document.Length()};
-  const Position number = document.ParagraphOf(offset);
-  const Selection paragraph{document.ParagraphStart(number),
-                            std::min(document.ParagraphEnd(number) + 2, document.Length())};
-  if (type == QAccessible::ParagraphBoundary) return paragraph;
-  if (type != QAccessible::LineBoundary) return UnitIn(paragraph, offset, type);
-  const Piece& piece = view_.Pane().Cache().At(offset);
-  const int line = piece.LineOf(std::min(offset, piece.to));
-  const bool last = line + 1 == std::ssize(piece.lines);
-  return {piece.LineStart(line), !last          ? piece.LineStart(line + 1)
-                                 : piece.closes ? paragraph.end
-                                                : piece.to};
-}
-
-QString AccessibleView::textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start,
-                                     int* end) const {
-  return Told(Unit(offset, type), start, end);
-}
-
-QString AccessibleView::textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start,
-                                         int* end) const {
-  const Selection here = Unit(offset, type);
-  return Told(here.start > 0 ? Unit(here.start - 1, type) : Selection{}, start, end);
-}
-
-QString AccessibleView::textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start,
-                                        int* end) const {
-  const Selection here = Unit(offset, type);
-  const Position length = Surface().Content().Length();
-  return Told(here.end < length ? Unit(here.end, type) : Selection{length, length}, start, end);
-}
-
 QRect AccessibleView::characterRect(int offset) const {
-  TextPane& pane = view_.Pane();
-  const std::optional<QRectF> line = pane.LineAt(offset);
-  const std::optional<QRectF> left = pane.CaretAt(offset);
-  const std::optional<QRectF> right = pane.CaretAt(offset + 1);
-  if (!line || !left) return {};
-  QRectF box(left->left(), line->top(), 1, line->height());
-  if (right && right->top() == left->top()) box.setRight(right->left());
-  return box.toAlignedRect().translated(view_.viewport()->mapToGlobal(QPoint()));
+  const std::optional<PixelRect> box = text_.BoxOf(offset);
+  if (!box) return {};
+  return ToQRect(*box).toAlignedRect().translated(view_.viewport()->mapToGlobal(QPoint()));
 }
 
 int AccessibleView::offsetAtPoint(const QPoint& point) const {
-  return view_.Pane().PositionAt(view_.viewport()->mapFromGlobal(QPointF(point)));
-}
-
-void AccessibleView::scrollToSubstring(int start, int end) {
-  view_.Pane().Reveal(end);
-  view_.Pane().Reveal(start);
-  view_.Settle();
+  return text_.OffsetAt(ToPoint(view_.viewport()->mapFromGlobal(QPointF(point))));
 }
 
 QString AccessibleView::attributes(int offset, int* start, int* end) const {
-  const Selection paragraph = Unit(offset, QAccessible::ParagraphBoundary);
-  QString told;
-  *start = *end = offset;
-  const Document& document = Surface().Content();
-  document.ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView run, CharId id) {
-    const auto behind = at + static_cast<Position>(run.Size());
-    if (offset < at || offset >= behind) return;
-    const CharFormat& format = document.Formats().characters[id];
-    const QString family = ToQString(document.Formats().fonts[format.font].name);
-    told = QStringLiteral("font-family:\"%1\";font-size:%2pt;font-weight:%3;font-style:%4;")
-               .arg(family)
-               .arg(format.size / 2.0)
-               .arg(QLatin1String(format.effects & kBold ? "bold" : "normal"))
-               .arg(QLatin1String(format.effects & kItalic ? "italic" : "normal"));
-    *start = at;
-    *end = behind;
-  });
-  return told;
+  const std::optional<AccessibleText::Run> run = text_.RunAt(offset);
+  *start = run ? run->range.start : offset;
+  *end = run ? run->range.end : offset;
+  if (!run) return {};
+  const FontFace& font = Surface().Content().Formats().fonts[run->format.font];
+  return QStringLiteral("font-family:\"%1\";font-size:%2pt;font-weight:%3;font-style:%4;")
+      .arg(ToQString(font.name))
+      .arg(run->format.size / 2.0)
+      .arg(QLatin1String(run->format.effects & kBold ? "bold" : "normal"))
+      .arg(QLatin1String(run->format.effects & kItalic ? "italic" : "normal"));
 }
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {

@@ -67,16 +67,16 @@ void ViewBars::Step(int action) {
   const double page = std::max<double>(kLineStep, view_.viewport()->height() - kLineStep);
   switch (action) {
     case QAbstractSlider::SliderSingleStepAdd:
-      view_.ScrollBy(kLineStep);
+      view_.Text().ScrollBy(kLineStep);
       break;
     case QAbstractSlider::SliderSingleStepSub:
-      view_.ScrollBy(-kLineStep);
+      view_.Text().ScrollBy(-kLineStep);
       break;
     case QAbstractSlider::SliderPageStepAdd:
-      view_.ScrollBy(page);
+      view_.Text().ScrollBy(page);
       break;
     case QAbstractSlider::SliderPageStepSub:
-      view_.ScrollBy(-page);
+      view_.Text().ScrollBy(-page);
       break;
     default:
       return;
@@ -87,7 +87,7 @@ void ViewBars::Step(int action) {
 void ViewBars::Turn(double x, double y) {
   QScrollBar* across = view_.horizontalScrollBar();
   if (x != 0) across->setValue(across->value() - static_cast<int>(std::lround(x)));
-  if (y != 0) view_.ScrollBy(-y);
+  if (y != 0) view_.Text().ScrollBy(-y);
 }
 
 }  // namespace lumenote

@@ -4,12 +4,16 @@
 #include <cmath>
 
 #include "backends/qt/text/Decorations.h"
+#include "backends/qt/toolkit/Pixels.h"
 
 namespace lumenote {
 
 namespace {
 constexpr double kSelectedBreakWidth = 5;
 constexpr char16_t kBullet[] = u"\u2022";
+
+const QtPiece& PieceOf(const ShownPiece& item) { return static_cast<const QtPiece&>(*item.piece); }
+
 }  // namespace
 
 void ViewPainter::Paint(QPainter& painter, const QRectF& area) {
@@ -17,8 +21,8 @@ void ViewPainter::Paint(QPainter& painter, const QRectF& area) {
   for (const ShownPiece& item : pane_.Visible())
     if (item.y < area.bottom() && item.y + item.piece->height > area.top())
       PaintPiece(painter, item, area);
-  if (state_.caret) painter.fillRect(*state_.caret, state_.palette.text());
-  if (state_.dropCaret) painter.fillRect(*state_.dropCaret, state_.palette.text());
+  for (const auto& caret : {state_.marks.caret, state_.marks.dropCaret})
+    if (caret) painter.fillRect(ToQRect(*caret), state_.palette.text());
 }
 
 void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area) {
@@ -26,16 +30,16 @@ void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QR
   painter.setPen(state_.palette.color(QPalette::Text));
   PaintSelectedBreak(painter, item);
   PaintBullet(painter, item);
-  item.piece->layout.draw(&painter, origin, {}, area);
+  PieceOf(item).layout.draw(&painter, origin, {}, area);
   PaintSelection(painter, item);
-  PaintDecorations(painter, *item.piece, origin, state_.palette.color(QPalette::Text));
+  PaintDecorations(painter, PieceOf(item), origin, state_.palette.color(QPalette::Text));
 }
 
 // The toolkit's own painting of selections cuts off raised and lowered text.
 void ViewPainter::PaintSelection(QPainter& painter, const ShownPiece& item) {
-  const Piece& piece = *item.piece;
-  const int start = piece.ToIndex(std::max(state_.selection.start, piece.from));
-  const int end = piece.ToIndex(std::min(state_.selection.end, piece.to));
+  const QtPiece& piece = PieceOf(item);
+  const int start = piece.ToIndex(std::max(state_.marks.selection.start, piece.from));
+  const int end = piece.ToIndex(std::min(state_.marks.selection.end, piece.to));
   const QPointF origin(pane_.TextLeft(), item.y);
   for (int i = 0; i < std::ssize(piece.lines); ++i) {
     const PieceLine& line = piece.lines[static_cast<std::size_t>(i)];
@@ -50,8 +54,8 @@ void ViewPainter::PaintSelection(QPainter& painter, const ShownPiece& item) {
   }
 }
 
-void ViewPainter::PaintSelectedText(QPainter& painter, const Piece& piece, QPointF origin, int line,
-                                    int start, int end) {
+void ViewPainter::PaintSelectedText(QPainter& painter, const QtPiece& piece, QPointF origin,
+                                    int line, int start, int end) {
   painter.setPen(state_.palette.color(QPalette::HighlightedText));
   const QTextLine text = piece.layout.lineAt(line);
   for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
@@ -59,7 +63,7 @@ void ViewPainter::PaintSelectedText(QPainter& painter, const Piece& piece, QPoin
     const int from = std::max(run->start, start);
     const int to = next == piece.runs.end() ? end : std::min(next->start, end);
     if (from >= to) continue;
-    const CharStyle& style = pane_.Layouter().styles.Of(pane_.Content(), run->format);
+    const CharStyle& style = layouter_.styles.Of(pane_.Content(), run->format);
     if (style.object) continue;
     for (const QGlyphRun& glyphs : text.glyphRuns(from, to - from))
       painter.drawGlyphRun(origin - QPointF(0, style.raise), glyphs);
@@ -68,8 +72,9 @@ void ViewPainter::PaintSelectedText(QPainter& painter, const Piece& piece, QPoin
 
 // A selected paragraph break shows as a narrow stripe behind the last line.
 void ViewPainter::PaintSelectedBreak(QPainter& painter, const ShownPiece& item) {
-  const Piece& piece = *item.piece;
-  if (!piece.closes || state_.selection.start > piece.to || state_.selection.end <= piece.to)
+  const QtPiece& piece = PieceOf(item);
+  if (!piece.closes || state_.marks.selection.start > piece.to ||
+      state_.marks.selection.end <= piece.to)
     return;
   const PieceLine& line = piece.lines.back();
   const double x = pane_.TextLeft() + piece.XOf(piece.to);
@@ -78,7 +83,7 @@ void ViewPainter::PaintSelectedBreak(QPainter& painter, const ShownPiece& item) 
 }
 
 void ViewPainter::PaintBullet(QPainter& painter, const ShownPiece& item) {
-  const Piece& piece = *item.piece;
+  const QtPiece& piece = PieceOf(item);
   if (piece.bulletX < 0) return;
   const PieceLine& line = piece.lines.front();
   painter.setFont(piece.layout.font());

@@ -3,21 +3,22 @@
 #include <QPainter>
 #include <QPalette>
 
-#include "backends/qt/text/TextPane.h"
+#include "backends/qt/text/QtLayouter.h"
+#include "view/pane/ViewDamage.h"
 
 namespace lumenote {
 
 /// What is painted besides the document itself.
 struct PaintState {
-  Selection selection;
-  std::optional<QRectF> caret;  // not at all while it blinks
-  std::optional<QRectF> dropCaret;
+  ViewMarks marks;
   QPalette palette;  // in the group that shows the selection as it should be
 };
 
 class ViewPainter {
  public:
-  ViewPainter(TextPane& pane, const PaintState& state) : pane_(pane), state_(state) {}
+  /// `layouter` is the pane's.
+  ViewPainter(TextPane& pane, QtLayouter& layouter, const PaintState& state)
+      : pane_(pane), layouter_(layouter), state_(state) {}
 
   /// Paints `area` wholly, ground included.
   void Paint(QPainter& painter, const QRectF& area);
@@ -27,10 +28,11 @@ class ViewPainter {
   void PaintSelectedBreak(QPainter& painter, const ShownPiece& item);
   void PaintBullet(QPainter& painter, const ShownPiece& item);
   void PaintSelection(QPainter& painter, const ShownPiece& item);
-  void PaintSelectedText(QPainter& painter, const Piece& piece, QPointF origin, int line, int start,
-                         int end);
+  void PaintSelectedText(QPainter& painter, const QtPiece& piece, QPointF origin, int line,
+                         int start, int end);
 
   TextPane& pane_;
+  QtLayouter& layouter_;
   const PaintState& state_;
 };
 

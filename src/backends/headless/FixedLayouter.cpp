@@ -1,0 +1,260 @@
+#include "backends/headless/FixedLayouter.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/Strings.h"
+#include "view/layout/LineStack.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr double kAdvance = 5;  // twips for each half-point of the size
+constexpr double kAscent = 9.6;
+constexpr double kDescent = 2.4;
+constexpr double kTolerance = 1e-6;  // pixels
+constexpr char16_t kLineBreak = u'\v';
+
+bool AllowsBreakBehind(char16_t c) {
+  return std::u16string_view(u" \t-\u2010\u2013\u2014").find(c) != std::u16string_view::npos;
+}
+
+/// One unit of the text.
+struct Glyph {
+  char16_t unit;
+  double advance;  // pixels; 0 for the second half of a surrogate pair
+  double ascent;
+  double descent;
+};
+
+class FixedPiece final : public Piece {
+ public:
+  std::vector<Glyph> glyphs;
+  std::vector<double> lefts;   // of each line
+  std::vector<double> rights;  // of each unit in its line
+
+  double CaretX(int line, int index) const override {
+    const auto at = static_cast<std::size_t>(line);
+    return index <= lines[at].start ? lefts[at] : rights[static_cast<std::size_t>(index) - 1];
+  }
+
+ protected:
+  int CaretAt(int line, double x) const override {
+    const PieceLine& box = lines[static_cast<std::size_t>(line)];
+    for (int i = box.start; i < box.end; ++i) {
+      const double left = CaretX(line, i);
+      const double right = CaretX(line, i + 1);
+      if (right > left && x < (left + right) / 2) return i;
+    }
+    return box.end;
+  }
+  int UnitAt(int line, double x) const override {
+    const PieceLine& box = lines[static_cast<std::size_t>(line)];
+    if (x < CaretX(line, box.start)) return -1;
+    for (int i = box.start; i < box.end; ++i)
+      if (x < CaretX(line, i + 1)) return i;
+    return -1;
+  }
+  int CaretBefore(int index) const override {
+    return index - (IsLowSurrogate(glyphs[static_cast<std::size_t>(index) - 1].unit) ? 2 : 1);
+  }
+};
+
+/// Fills a piece.
+class PieceBuilder {
+ public:
+  PieceBuilder(const FixedLayouter& layouter, const Document& document, FixedPiece& piece)
+      : layouter_(layouter),
+        document_(document),
+        piece_(piece),
+        end_(document.ParagraphEnd(document.ParagraphOf(piece.from))),
+        tabStep_(layouter.Pixels(kDefaultTabStep)) {}
+
+  /// Returns false when an incomplete span gave no whole line.
+  bool BuildLines(const PieceSpan& span);
+  /// A row of cells, wholly, whatever the span; false where the paragraph is none.
+  bool BuildRow();
+
+ private:
+  const Kept& KeptOf(CharId format) const;
+  Glyph GlyphOf(char16_t unit, CharId format) const;
+  void AddText(Position from, Position to);
+  void AddComposed();
+  double Behind(int index, double x) const;
+  int LineEnd(int start, int limit, double left, double room) const;
+  void AddLine(int start, int end, double left);
+  void Place(LineStack& stack, std::size_t line);
+  int EndCell(int start);
+  char16_t UnitAt(int index) const { return piece_.glyphs[static_cast<std::size_t>(index)].unit; }
+  std::u16string Text() const;
+
+  const FixedLayouter& layouter_;
+  const Document& document_;
+  FixedPiece& piece_;
+  const Position end_;
+  const double tabStep_;
+};
+
+const Kept& PieceBuilder::KeptOf(CharId format) const {
+  const FormatTables& tables = document_.Formats();
+  return tables.kept[tables.characters[format].kept];
+}
+
+Glyph PieceBuilder::GlyphOf(char16_t unit, CharId format) const {
+  const double size = document_.Formats().characters[format].size;
+  const double advance = IsLowSurrogate(unit) ? 0 : layouter_.Pixels(size * kAdvance);
+  return {unit, advance, layouter_.Pixels(size * kAscent), layouter_.Pixels(size * kDescent)};
+}
+
+void PieceBuilder::AddText(Position from, Position to) {
+  document_.ForEachRun(from, to, [&](Position, TextView text, CharId format) {
+    const int start = static_cast<int>(piece_.glyphs.size());
+    if (piece_.runs.empty() || piece_.runs.back().format != format)
+      piece_.runs.push_back({start, format});
+    for (const char16_t c : text.String()) piece_.glyphs.push_back(GlyphOf(c, format));
+    if (!layouter_.boxOf || KeptOf(format).kind != Kept::Kind::Embedded) return;
+    const PixelSize size = layouter_.boxOf(KeptOf(format));
+    for (int i = start; i < static_cast<int>(piece_.glyphs.size()); ++i) {
+      piece_.boxes.push_back({i, size});
+      Glyph& glyph = piece_.glyphs[static_cast<std::size_t>(i)];
+      glyph.advance = size.width;
+      glyph.ascent = std::max(glyph.ascent, size.height);
+    }
+  });
+  if (piece_.composedLength > 0) AddComposed();
+}
+
+// It looks like the character at its place.
+void PieceBuilder::AddComposed() {
+  const CharId format = document_.CharFormatAt(piece_.from + piece_.composedAt);
+  std::vector<Glyph> glyphs;
+  for (const char16_t c : layouter_.Composed().text) glyphs.push_back(GlyphOf(c, format));
+  piece_.glyphs.insert(piece_.glyphs.begin() + piece_.composedAt, glyphs.begin(), glyphs.end());
+  for (PieceRun& run : piece_.runs)
+    if (run.start > piece_.composedAt) run.start += piece_.composedLength;
+  for (InlineBox& box : piece_.boxes)
+    if (box.index >= piece_.composedAt) box.index += piece_.composedLength;
+}
+
+double PieceBuilder::Behind(int index, double x) const {
+  const Glyph& glyph = piece_.glyphs[static_cast<std::size_t>(index)];
+  if (glyph.unit != u'\t') return x + glyph.advance;
+  return (std::floor(x / tabStep_ + kTolerance) + 1) * tabStep_;
+}
+
+// Where the line that begins at `start` ends: at `limit` when all of that fits.
+int PieceBuilder::LineEnd(int start, int limit, double left, double room) const {
+  int breakAt = start;
+  double x = left;
+  for (int i = start; i < limit; ++i) {
+    const Glyph& glyph = piece_.glyphs[static_cast<std::size_t>(i)];
+    if (glyph.unit == kLineBreak) return i + 1;
+    const double behind = Behind(i, x);
+    const bool mayStay = glyph.unit == u' ' || glyph.advance == 0 || i == start;
+    if (behind > left + room + kTolerance && !mayStay) return breakAt > start ? breakAt : i;
+    x = behind;
+    if (AllowsBreakBehind(glyph.unit)) breakAt = i + 1;
+  }
+  return limit;
+}
+
+void PieceBuilder::AddLine(int start, int end, double left) {
+  piece_.lines.push_back({.start = start, .end = end});
+  piece_.lefts.push_back(left);
+  for (int i = start; i < end; ++i) piece_.rights.push_back(left = Behind(i, left));
+}
+
+void PieceBuilder::Place(LineStack& stack, std::size_t index) {
+  PieceLine& line = piece_.lines[index];
+  const Position at = piece_.ToPosition(line.start);
+  const Glyph none = GlyphOf(0, document_.CharFormatAt(at));
+  double ascent = line.start == line.end ? none.ascent : 0;
+  double descent = line.start == line.end ? none.descent : 0;
+  for (int i = line.start; i < line.end; ++i) {
+    ascent = std::max(ascent, piece_.glyphs[static_cast<std::size_t>(i)].ascent);
+    descent = std::max(descent, piece_.glyphs[static_cast<std::size_t>(i)].descent);
+  }
+  stack.Place(line, ascent, descent);
+}
+
+std::u16string PieceBuilder::Text() const {
+  std::u16string text;
+  for (const Glyph& glyph : piece_.glyphs) text += glyph.unit;
+  return text;
+}
+
+bool PieceBuilder::BuildLines(const PieceSpan& span) {
+  AddText(span.from, span.to);
+  LineStack stack(layouter_, document_, piece_);
+  const int count = static_cast<int>(piece_.glyphs.size());
+  const int known = span.nextKnown < 0 ? count : piece_.ToIndex(span.nextKnown);
+  for (int start = 0, end = -1; end != count && end != known; start = end) {
+    const double left = stack.Edges().Left(piece_.opens && start == 0);
+    end = LineEnd(start, count, left, stack.Edges().Room(left));
+    if (end == count && !span.complete) break;
+    AddLine(start, end, left);
+  }
+  if (piece_.lines.empty()) return false;
+  piece_.to = piece_.ToPosition(piece_.lines.back().end);
+  piece_.closes = piece_.closes && piece_.to == span.to;
+  if (piece_.closes && count > 0 && UnitAt(count - 1) == kLineBreak)
+    AddLine(count, count, stack.Edges().following);
+  for (std::size_t i = 0; i < piece_.lines.size(); ++i) Place(stack, i);
+  stack.Finish(Text());
+  return true;
+}
+
+// A cell ends with a tab, which takes no room; the last one has what is left of the paragraph.
+bool PieceBuilder::BuildRow() {
+  const Kept& row = KeptOf(document_.CharFormatAt(end_));
+  const bool isRow = layouter_.cellsOf && row.kind == Kept::Kind::Row;
+  const std::vector<double> edges = isRow ? layouter_.cellsOf(row) : std::vector<double>();
+  if (edges.empty()) return false;
+  AddText(piece_.from, end_);
+  LineStack stack(layouter_, document_, piece_);
+  const int count = static_cast<int>(piece_.glyphs.size());
+  int start = 0;
+  for (std::size_t cell = 0; cell < edges.size(); ++cell) {
+    const double left = cell == 0 ? 0 : edges[cell - 1];
+    const int limit = cell + 1 < edges.size() ? EndCell(start) : count;
+    stack.BeginCell(left, edges[cell]);
+    for (int end = -1; end != limit; start = end) {
+      end = LineEnd(start, limit, left, edges[cell] - left);
+      AddLine(start, end, left);
+      Place(stack, piece_.lines.size() - 1);
+    }
+  }
+  stack.Finish(Text());
+  return true;
+}
+
+int PieceBuilder::EndCell(int start) {
+  const auto tab = std::find_if(piece_.glyphs.begin() + start, piece_.glyphs.end(),
+                                [](const Glyph& glyph) { return glyph.unit == u'\t'; });
+  if (tab == piece_.glyphs.end()) return static_cast<int>(piece_.glyphs.size());
+  *tab = {.unit = 0, .advance = 0, .ascent = tab->ascent, .descent = tab->descent};
+  return static_cast<int>(tab - piece_.glyphs.begin()) + 1;
+}
+
+}  // namespace
+
+FontExtent FixedLayouter::ExtentOf(const Document&, const CharFormat& format) {
+  return {Pixels(format.size * kAscent), Pixels(format.size * kDescent), 0};
+}
+
+std::unique_ptr<Piece> FixedLayouter::LayOut(const Document& document, const PieceSpan& span) {
+  if (cellsOf) {
+    const Position paragraph = document.ParagraphOf(span.from);
+    auto row = std::make_unique<FixedPiece>();
+    Open(*row, document,
+         {.from = document.ParagraphStart(paragraph), .to = document.ParagraphEnd(paragraph)});
+    if (PieceBuilder(*this, document, *row).BuildRow()) return row;
+  }
+  auto piece = std::make_unique<FixedPiece>();
+  Open(*piece, document, span);
+  if (!PieceBuilder(*this, document, *piece).BuildLines(span)) return nullptr;
+  return piece;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,57 @@
+#include "backends/headless/HeadlessPeer.h"
+
+#include "forms/Form.h"
+
+namespace lumenote {
+
+HeadlessPeer::HeadlessPeer(Form& form, HeadlessBoxes& boxes) : boxes_(boxes) { AddAll(form); }
+
+HeadlessPeer::~HeadlessPeer() {
+  while (!mine_.empty()) {
+    boxes_.at(mine_.back())->Hide();
+    mine_.pop_back();
+  }
+}
+
+void HeadlessPeer::AddAll(Container& container) {
+  for (Control* control : container.Controls()) {
+    Add(*control);
+    if (auto* inner = dynamic_cast<Container*>(control)) AddAll(*inner);
+  }
+}
+
+HeadlessView* HeadlessPeer::ViewOf(const Control& control) const {
+  const auto box = boxes_.find(&control);
+  return box == boxes_.end() ? nullptr : box->second->view.get();
+}
+
+void HeadlessPeer::Add(Control& control) {
+  auto* box = dynamic_cast<RichTextBox*>(&control);
+  if (!box) return;
+  boxes_.at(box)->Show(*box);
+  mine_.push_back(box);
+}
+
+void HeadlessPeer::Remove(Control& control) {
+  if (std::erase(mine_, &control) > 0) boxes_.at(&control)->Hide();
+}
+
+void HeadlessPeer::Update(Element& element, Property property) {
+  const auto* control = dynamic_cast<const Control*>(&element);
+  HeadlessView* view = control ? ViewOf(*control) : nullptr;
+  if (view && property == Property::Geometry) view->Resize();
+}
+
+void HeadlessPeer::Focus(Control& control) {
+  for (const Control* box : mine_) ViewOf(*box)->Text().Focus(box == &control);
+}
+
+std::vector<std::string> HeadlessPeer::Differences() const {
+  std::vector<std::string> differences;
+  for (const Control* box : mine_)
+    for (const std::string& difference : ViewOf(*box)->Text().Differences())
+      differences.push_back(box->Name() + ": " + difference);
+  return differences;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,38 @@
+// Windows that nobody sees: only their rich-text boxes are realised.
+#pragma once
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "backends/headless/HeadlessView.h"
+#include "forms/Backend.h"
+
+namespace lumenote {
+
+/// The layouts of boxes, made with their surfaces, and the views of those on a window that is
+/// loaded. A box that is gone leaves its layout behind, until another one takes its place.
+using HeadlessBoxes = std::map<const Control*, std::unique_ptr<HeadlessBox>>;
+
+class HeadlessPeer final : public FormPeer {
+ public:
+  /// `boxes` outlives the peer.
+  HeadlessPeer(Form& form, HeadlessBoxes& boxes);
+  ~HeadlessPeer() override;
+
+  void Update(Element& element, Property property) override;
+  void Focus(Control& control) override;
+  void Activate() override {}
+  void Add(Control& control) override;
+  void Remove(Control& control) override;
+  void PopUp(Menu&, Point) override {}
+  std::vector<std::string> Differences() const override;
+
+ private:
+  void AddAll(Container& container);
+  HeadlessView* ViewOf(const Control& control) const;
+
+  HeadlessBoxes& boxes_;
+  std::vector<const Control*> mine_;
+};
+
+}  // namespace lumenote

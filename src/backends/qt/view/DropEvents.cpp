@@ -1,0 +1,47 @@
+#include "backends/qt/view/DropEvents.h"
+
+#include "backends/qt/toolkit/MimeContent.h"
+#include "backends/qt/toolkit/Pixels.h"
+#include "backends/qt/view/RichTextView.h"
+#include "backends/qt/view/SelectionMime.h"
+
+namespace lumenote {
+
+namespace {
+
+bool IsCopy(const QDropEvent& event) { return event.modifiers() & Qt::ControlModifier; }
+
+}  // namespace
+
+DropEvents::DropEvents(RichTextView& view) : view_(view), rules_(view.Text()) {}
+
+bool DropEvents::Accepts(const QDropEvent& event) const {
+  return !view_.IsLocked() && event.mimeData() && HasMimeContent(*event.mimeData());
+}
+
+bool DropEvents::IsOwn(const QDropEvent& event) const {
+  const auto* selection = dynamic_cast<const SelectionMime*>(event.mimeData());
+  return selection && selection->Source() == &view_;
+}
+
+void DropEvents::Move(QDropEvent& event) {
+  event.setAccepted(Accepts(event));
+  if (!event.isAccepted()) return;
+  event.setDropAction(IsOwn(event) && !IsCopy(event) ? Qt::MoveAction : event.proposedAction());
+  rules_.Move(ToPoint(event.position()));
+}
+
+void DropEvents::Drop(QDropEvent& event) {
+  rules_.Leave();
+  event.setAccepted(Accepts(event));
+  if (!event.isAccepted()) return;
+  const PixelPoint at = ToPoint(event.position());
+  if (IsOwn(event)) {
+    event.setDropAction(IsCopy(event) ? Qt::CopyAction : Qt::MoveAction);
+    rules_.DropOwn(at, IsCopy(event));
+  } else {
+    event.setAccepted(rules_.Drop(at, ReadMime(*event.mimeData())));
+  }
+}
+
+}  // namespace lumenote

@@ -1,0 +1,27 @@
+// Drags over a view as the toolkit tells of them.
+#pragma once
+#include <QDropEvent>
+
+#include "view/acts/ViewDrop.h"
+
+namespace lumenote {
+
+class RichTextView;
+
+class DropEvents {
+ public:
+  explicit DropEvents(RichTextView& view);
+
+  ViewDrop& Rules() { return rules_; }
+  void Move(QDropEvent& event);
+  void Drop(QDropEvent& event);
+
+ private:
+  bool Accepts(const QDropEvent& event) const;
+  bool IsOwn(const QDropEvent& event) const;
+
+  RichTextView& view_;
+  ViewDrop rules_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,89 @@
+#include "view/acts/AccessibleText.h"
+
+#include <algorithm>
+
+#include "base/Strings.h"
+
+namespace lumenote {
+
+std::u16string AccessibleText::Text(Selection range) const {
+  return Content().Text(std::max(range.start, 0), std::max(range.end, 0));
+}
+
+Selection AccessibleText::ParagraphAt(Position offset) const {
+  const Position number = Content().ParagraphOf(offset);
+  return {Content().ParagraphStart(number),
+          std::min(Content().ParagraphEnd(number) + 2, Content().Length())};
+}
+
+Selection AccessibleText::LineAt(Position offset) const {
+  const Line line = view_.Pane().ShownLine(offset);
+  return {line.start, line.next < 0 ? line.end : line.next};
+}
+
+Selection AccessibleText::UnitIn(Selection paragraph, Position offset, TextUnit unit) const {
+  constexpr Position kReach = 2'000;  // in long paragraphs
+  const Position from = std::max(paragraph.start, offset - kReach);
+  const Selection found =
+      boundaries_(unit, Text({from, std::min(paragraph.end, offset + kReach)}), offset - from);
+  return {from + found.start, from + found.end};
+}
+
+Selection AccessibleText::At(Position offset, TextUnit unit) const {
+  offset = std::clamp(offset, 0, Content().Length());
+  if (unit == TextUnit::All) return {0, Content().Length()};
+  if (unit == TextUnit::Line) return LineAt(offset);
+  const Selection paragraph = ParagraphAt(offset);
+  return unit == TextUnit::Paragraph ? paragraph : UnitIn(paragraph, offset, unit);
+}
+
+Selection AccessibleText::Before(Position offset, TextUnit unit) const {
+  const Selection here = At(offset, unit);
+  return here.start > 0 ? At(here.start - 1, unit) : Selection{};
+}
+
+Selection AccessibleText::Behind(Position offset, TextUnit unit) const {
+  const Selection here = At(offset, unit);
+  const Position length = Content().Length();
+  return here.end < length ? At(here.end, unit) : Selection{length, length};
+}
+
+void AccessibleText::Replace(Selection range, std::u16string_view text) {
+  if (view_.IsLocked()) return;
+  view_.Act([&] {
+    view_.Surface().UserSelect(range.start, range.end);
+    if (text.empty())
+      view_.Surface().Clear();
+    else
+      view_.Surface().UserType(WithCrLf(text));
+  });
+}
+
+std::optional<PixelRect> AccessibleText::BoxOf(Position offset) const {
+  TextPane& pane = view_.Pane();
+  const std::optional<PixelRect> line = pane.LineAt(offset);
+  const std::optional<PixelRect> left = pane.CaretAt(offset);
+  const std::optional<PixelRect> right = pane.CaretAt(offset + 1);
+  if (!line || !left) return std::nullopt;
+  const bool sameLine = right && right->top == left->top;
+  return PixelRect{left->left, line->top, sameLine ? right->left : left->left + 1, line->bottom};
+}
+
+void AccessibleText::Reveal(Selection range) {
+  view_.Pane().Reveal(range.end);
+  view_.Pane().Reveal(range.start);
+  view_.Settle();
+}
+
+std::optional<AccessibleText::Run> AccessibleText::RunAt(Position offset) const {
+  const Selection paragraph = ParagraphAt(std::clamp(offset, 0, Content().Length()));
+  std::optional<Run> found;
+  Content().ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView run, CharId id) {
+    const Position behind = at + static_cast<Position>(run.Size());
+    if (offset >= at && offset < behind)
+      found = Run{{at, behind}, Content().Formats().characters[id]};
+  });
+  return found;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,99 @@
+#include "view/acts/ViewMouse.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "surface/keys/Words.h"
+
+namespace lumenote {
+
+bool ViewMouse::InSelection(PixelPoint point) const {
+  const Selection selection = view_.Surface().Selected();
+  if (selection.Length() == 0) return false;
+  const Position character = view_.Pane().CharacterAt(point);
+  return character >= selection.start && character < selection.end;
+}
+
+Selection ViewMouse::Around(Position position) const {
+  const Document& document = view_.Surface().Content();
+  if (unit_ == Unit::Word) return WordAt(document, position);
+  if (unit_ == Unit::Character) return {position, position};
+  const Position paragraph = document.ParagraphOf(position);
+  return {document.ParagraphStart(paragraph),
+          std::min(document.ParagraphEnd(paragraph) + 2, document.Length())};
+}
+
+void ViewMouse::Begin(Unit unit, Position position, bool extend) {
+  state_ = State::Selecting;
+  unit_ = unit;
+  const Position anchor = view_.Surface().Anchor();
+  origin_ = extend ? Selection{anchor, anchor} : Around(position);
+  ExtendTo(position);
+}
+
+void ViewMouse::ExtendTo(Position position) {
+  const Selection here = Around(position);
+  const bool backwards = position < origin_.start;
+  view_.Select(backwards ? origin_.end : origin_.start,
+               backwards ? here.start : std::max(here.end, origin_.end));
+}
+
+void ViewMouse::Down(const Press& press) {
+  pressed_ = last_ = press.at;
+  const Position position = view_.Pane().PositionAt(press.at);
+  const auto before = std::exchange(doubleClick_, std::nullopt);
+  if (before && static_cast<double>(press.time - *before) < view_.Host().Pointer().doubleClickTime)
+    Begin(Unit::Paragraph, position, false);
+  else if (!press.extend && InSelection(press.at))
+    state_ = State::MayDrag;
+  else
+    Begin(Unit::Character, position, press.extend);
+}
+
+void ViewMouse::DoubleClick(const Press& press) {
+  last_ = press.at;
+  doubleClick_ = press.time;
+  Begin(Unit::Word, view_.Pane().PositionAt(press.at), false);
+}
+
+bool ViewMouse::MayBeginDrag() const {
+  const double far = std::abs(last_.x - pressed_.x) + std::abs(last_.y - pressed_.y);
+  return state_ == State::MayDrag && far >= view_.Host().Pointer().dragDistance;
+}
+
+void ViewMouse::Move(PixelPoint at, bool held) {
+  last_ = at;
+  if (!held) return view_.Host().ShowArrow(InSelection(at));
+  if (MayBeginDrag()) {
+    state_ = State::Idle;
+    return view_.Host().Drag();
+  }
+  if (state_ != State::Selecting) return;
+  const bool outside = at.y < 0 || at.y > view_.Pane().Size().height;
+  if (std::exchange(scrolling_, outside) != outside) view_.Host().ScrollTimer(outside);
+  ExtendTo(view_.Pane().PositionAt(at));
+}
+
+// The further outside the mouse is, the faster.
+void ViewMouse::ScrollOn() {
+  const double height = view_.Pane().Size().height;
+  const double beyond = last_.y < 0 ? last_.y : std::max(0.0, last_.y - height);
+  if (state_ != State::Selecting || beyond == 0) return Cancel();
+  view_.ScrollBy(beyond);
+  ExtendTo(view_.Pane().PositionAt({last_.x, std::clamp(last_.y, 0.0, height - 1)}));
+}
+
+void ViewMouse::Up(PixelPoint at) {
+  const bool clicked = state_ == State::MayDrag;
+  Cancel();
+  if (clicked) Begin(Unit::Character, view_.Pane().PositionAt(at), false);
+  state_ = State::Idle;
+}
+
+void ViewMouse::Cancel() {
+  state_ = State::Idle;
+  if (std::exchange(scrolling_, false)) view_.Host().ScrollTimer(false);
+}
+
+}  // namespace lumenote

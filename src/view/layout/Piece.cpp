@@ -1,0 +1,69 @@
+#include "view/layout/Piece.h"
+
+#include <algorithm>
+
+namespace lumenote {
+
+int Piece::ToIndex(Position position) const {
+  const int index = position - from;
+  if (composedLength == 0 || index < composedAt) return index;
+  return index == composedAt ? index + composedCaret : index + composedLength;
+}
+
+Position Piece::ToPosition(int index) const {
+  if (index <= composedAt) return from + index;
+  return from + std::max(composedAt, index - composedLength);
+}
+
+int Piece::LineOf(Position position) const {
+  const int index = ToIndex(position);
+  const auto behind =
+      std::upper_bound(lines.begin() + 1, lines.end(), index,
+                       [](int value, const PieceLine& line) { return value < line.start; });
+  return static_cast<int>(behind - lines.begin()) - 1;
+}
+
+double Piece::XOf(Position position) const { return CaretX(LineOf(position), ToIndex(position)); }
+
+// Behind the last character of a line that goes on is where the next line begins, so the caret
+// would be shown there.
+Position Piece::PositionAt(int line, double x) const {
+  const PieceLine& box = lines[Index(line)];
+  int index = CaretAt(line, x);
+  const bool goesOn = !closes || Index(line) + 1 < lines.size();
+  if (goesOn && index >= box.end && box.end > box.start) index = CaretBefore(box.end);
+  return ToPosition(index);
+}
+
+Position Piece::CharacterAt(int line, double x) const {
+  const int unit = UnitAt(line, x);
+  return unit < 0 ? -1 : ToPosition(unit);
+}
+
+int Piece::LineAt(double y, double x) const {
+  const auto right = std::find_if(cells.begin(), cells.end(),
+                                  [&](const PieceCell& cell) { return x < cell.right; });
+  const auto cell = right == cells.end() && !cells.empty() ? std::prev(right) : right;
+  const bool last = cell == cells.end() || std::next(cell) == cells.end();
+  const auto first = lines.begin() + (cell == cells.end() ? 0 : cell->firstLine);
+  const auto end = last ? lines.end() : lines.begin() + std::next(cell)->firstLine;
+  const auto below =
+      std::find_if(first, end, [&](const PieceLine& line) { return y < line.top + line.height; });
+  return static_cast<int>((below == end ? std::prev(end) : below) - lines.begin());
+}
+
+PieceLine Piece::Row() const {
+  PieceLine row{.start = lines.front().start, .end = lines.back().end, .top = lines.front().top};
+  for (const PieceLine& line : lines) {
+    row.top = std::min(row.top, line.top);
+    row.height = std::max(row.height, line.top + line.height);
+    row.look = row.look * 31 + line.look;
+  }
+  for (const PieceCell& cell : cells)
+    row.look = row.look * 31 + static_cast<std::size_t>(cell.left + 7 * cell.right);
+  row.height -= row.top;
+  row.baseline = lines.front().baseline;
+  return row;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,34 @@
+#include "view/layout/TextLayouter.h"
+
+#include <algorithm>
+
+namespace lumenote {
+
+namespace {
+constexpr double kMostTwips = 31680;  // 22 inches
+}  // namespace
+
+void TextLayouter::Zoom(double factor) {
+  zoom_ = factor;
+  Zoomed();
+}
+
+double TextLayouter::Pixels(double twips) const {
+  return std::clamp(twips, -kMostTwips, kMostTwips) / kTwipsInPixel * zoom_;
+}
+
+bool TextLayouter::Open(Piece& piece, const Document& document, const PieceSpan& span) const {
+  const Position paragraph = document.ParagraphOf(span.from);
+  piece.from = span.from;
+  piece.to = span.to;
+  piece.opens = document.ParagraphStart(paragraph) == span.from;
+  piece.closes = span.complete && span.to == document.ParagraphEnd(paragraph);
+  piece.format = document.ParaFormatAt(span.from);
+  if (composed_.text.empty() || composed_.at < span.from || composed_.at > span.to) return false;
+  piece.composedAt = composed_.at - span.from;
+  piece.composedLength = static_cast<int>(composed_.text.size());
+  piece.composedCaret = composed_.caret;
+  return true;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,188 @@
+#include "view/pane/ScrollModel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace lumenote {
+
+namespace {
+
+// Documents up to these sizes are laid out wholly for the scroll bar.
+constexpr Position kSmallLength = 20'000;
+constexpr Position kSmallCount = 300;
+
+/// Characters that a piece stands for, its break included.
+double Span(const Piece& piece) { return piece.to - piece.from + (piece.closes ? 2 : 0); }
+
+}  // namespace
+
+ScrollModel::Spot ScrollModel::Top() {
+  const Piece& piece = cache_.At(std::min(line_, document_.Length()));
+  const int line = piece.LineOf(std::clamp(line_, piece.from, piece.to));
+  return {&piece, piece.lines[static_cast<std::size_t>(line)].top + hidden_};
+}
+
+// Whole pixels keep the text crisp.
+void ScrollModel::Top(Spot spot) {
+  spot.offset = std::round(spot.offset);
+  const int line = spot.piece->LineAt(spot.offset);
+  line_ = spot.piece->LineStart(line);
+  hidden_ = spot.offset - spot.piece->lines[static_cast<std::size_t>(line)].top;
+}
+
+ScrollModel::Spot ScrollModel::Moved(Spot spot, double pixels) {
+  double offset = spot.offset + pixels;
+  const Piece* piece = spot.piece;
+  while (offset >= piece->height) {
+    const Piece* next = cache_.After(*piece);
+    if (!next) break;
+    offset -= piece->height;
+    piece = next;
+  }
+  while (offset < 0) {
+    const Piece* previous = cache_.Before(*piece);
+    if (!previous) return {piece, 0};
+    offset += previous->height;
+    piece = previous;
+  }
+  return {piece, offset};
+}
+
+double ScrollModel::RoomBelow(Spot spot) {
+  double filled = -spot.offset;
+  for (const Piece* piece = spot.piece; piece; piece = cache_.After(*piece)) {
+    filled += piece->height;
+    if (filled >= paneHeight_) return 0;
+  }
+  return paneHeight_ - filled;
+}
+
+std::vector<ShownPiece> ScrollModel::Visible() {
+  Spot top = Top();
+  if (const double room = RoomBelow(top); room > 0) {
+    top = Moved(top, -room);
+    Top(top);
+  }
+  std::vector<ShownPiece> shown;
+  double y = -top.offset;
+  for (const Piece* piece = top.piece; piece; piece = cache_.After(*piece)) {
+    shown.push_back({piece, y});
+    y += piece->height;
+    if (y >= paneHeight_) break;
+  }
+  return shown;
+}
+
+std::optional<double> ScrollModel::YNear(const Piece& piece) {
+  const std::vector<ShownPiece> shown = Visible();
+  for (const ShownPiece& item : shown)
+    if (item.piece == &piece) return item.y;
+  const ShownPiece& first = shown.front();
+  if (piece.to <= first.piece->from && cache_.Before(*first.piece) == &piece)
+    return first.y - piece.height;
+  const ShownPiece& last = shown.back();
+  if (piece.from >= last.piece->to && cache_.After(*last.piece) == &piece)
+    return last.y + last.piece->height;
+  return std::nullopt;
+}
+
+void ScrollModel::By(double pixels) {
+  Top(Moved(Top(), pixels));
+  Visible();
+}
+
+void ScrollModel::ToStart() {
+  line_ = 0;
+  hidden_ = -cache_.At(0).lines.front().top;
+}
+
+void ScrollModel::Reveal(Position position) {
+  const Piece& piece = cache_.At(position);
+  const PieceLine& line = piece.lines[static_cast<std::size_t>(piece.LineOf(position))];
+  const std::optional<double> y = YNear(piece);
+  if (!y) {
+    Top(Moved({&piece, line.top}, -(paneHeight_ - line.height) / 2));
+    return;
+  }
+  const double top = *y + line.top;
+  const double below = top + line.height - paneHeight_;
+  if (top < 0)
+    By(top);
+  else if (below > 0)
+    By(std::min(below, top));
+}
+
+// The line at the top stays there as long as it exists.
+void ScrollModel::Changed(const DocumentChange& change) {
+  if (change.at >= line_) return;
+  const Position end = change.at + change.removed;
+  if (end <= line_)
+    line_ += change.inserted - change.removed;
+  else
+    line_ = std::min(line_, change.at + change.inserted);
+}
+
+// --- the scale
+
+bool ScrollModel::IsSmall() const {
+  return document_.Length() <= kSmallLength && document_.ParagraphCount() <= kSmallCount;
+}
+
+double ScrollModel::CharacterHeight() {
+  if (heightOfCharacter_ > 0) return heightOfCharacter_;
+  double height = 0;
+  double characters = 0;
+  for (const ShownPiece& item : Visible()) {
+    height += item.piece->height;
+    characters += Span(*item.piece);
+  }
+  return heightOfCharacter_ = height / std::max(characters, 1.0);
+}
+
+ScrollModel::Scale ScrollModel::Read() {
+  const Spot top{Visible().front().piece, Top().offset};
+  return IsSmall() ? ReadExactly(top) : Estimate(top);
+}
+
+ScrollModel::Scale ScrollModel::ReadExactly(Spot top) {
+  Scale scale;
+  for (const Piece* piece = &cache_.At(0); piece; piece = cache_.After(*piece)) {
+    if (piece == top.piece) scale.value = scale.total + top.offset;
+    scale.total += piece->height;
+  }
+  return scale;
+}
+
+// The end of the scale is reached exactly when the last line is, whatever the estimate.
+ScrollModel::Scale ScrollModel::Estimate(Spot top) {
+  const double unit = CharacterHeight();
+  const double share = top.offset / top.piece->height;
+  Scale scale;
+  scale.total = std::max((document_.Length() + 2.0) * unit, 2 * paneHeight_);
+  const double most = scale.total - paneHeight_;
+  scale.value = (top.piece->from + share * Span(*top.piece)) * unit;
+  const ShownPiece last = Visible().back();
+  const bool atEnd = last.piece->closes && last.piece->to == document_.Length() &&
+                     last.y + last.piece->height <= paneHeight_ + 0.5;
+  scale.value = atEnd ? most : std::min(scale.value, most - 1);
+  return scale;
+}
+
+void ScrollModel::To(double value) {
+  if (IsSmall()) {
+    ToStart();
+    By(value);
+    return;
+  }
+  const double unit = CharacterHeight();
+  const double most = Read().total - paneHeight_;
+  const double characters = value >= most ? document_.Length() : std::max(value, 0.0) / unit;
+  const auto position = static_cast<Position>(std::min<double>(characters, document_.Length()));
+  const Piece& piece = cache_.At(document_.Before(position));
+  const double share = (characters - piece.from) / std::max(Span(piece), 1.0);
+  Top({&piece, std::clamp(share, 0.0, 1.0) * piece.height});
+  Visible();
+}
+
+}  // namespace lumenote

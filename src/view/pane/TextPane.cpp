@@ -1,0 +1,128 @@
+#include "view/pane/TextPane.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace lumenote {
+
+namespace {
+
+const PieceLine& LineOf(const Piece& piece, Position position) {
+  return piece.lines[static_cast<std::size_t>(piece.LineOf(position))];
+}
+
+}  // namespace
+
+double TextPane::WrapWidth() const {
+  const double margin = surface_.RightMargin();
+  return margin > 0 ? layouter_.Pixels(margin) : size_.width - 2 * margin_;
+}
+
+void TextPane::Resize(PixelSize size) {
+  size_ = size;
+  scroll_.PaneHeight(size.height);
+  if (WrapWidth() != layouter_.Width()) Rewrap();
+  scrolledRight_ = std::min(scrolledRight_, MostRight());
+}
+
+void TextPane::Rewrap() {
+  layouter_.Width(WrapWidth());
+  cache_.Clear();
+  scroll_.Relaid();
+  surface_.Lines().Reset();
+}
+
+void TextPane::Zoom(double factor) {
+  layouter_.Zoom(factor);
+  Rewrap();
+}
+
+void TextPane::Compose(Composition text) {
+  for (const Position at : {layouter_.Composed().at, text.at})
+    if (at >= 0) cache_.Changed({at, 0, 0});
+  layouter_.Composed(std::move(text));
+}
+
+double TextPane::MostRight() const {
+  return std::max(0.0, std::ceil(WrapWidth() + 2 * margin_ - size_.width));
+}
+
+TextPane::LineSpot TextPane::LineNear(PixelPoint point) {
+  const std::vector<ShownPiece> shown = Visible();
+  const auto below = std::find_if(shown.begin(), shown.end(), [&](const ShownPiece& item) {
+    return point.y < item.y + item.piece->height;
+  });
+  const ShownPiece& item = below == shown.end() ? shown.back() : *below;
+  return {item.piece, item.piece->LineAt(point.y - item.y, point.x - TextLeft())};
+}
+
+Position TextPane::PositionAt(PixelPoint point) {
+  const LineSpot spot = LineNear(point);
+  return Content().Before(spot.piece->PositionAt(spot.line, point.x - TextLeft()));
+}
+
+Position TextPane::CharacterAt(PixelPoint point) {
+  const LineSpot spot = LineNear(point);
+  return spot.piece->CharacterAt(spot.line, point.x - TextLeft());
+}
+
+Line TextPane::ShownLine(Position position) {
+  const Position length = Content().Length();
+  const Piece& piece = cache_.At(std::clamp(position, 0, length));
+  const int line = piece.LineOf(std::min(position, piece.to));
+  const Position start = piece.LineStart(line);
+  const bool last = line + 1 == std::ssize(piece.lines);
+  if (last && piece.closes) return {start, piece.to, piece.to < length ? piece.to + 2 : -1};
+  const Position next = last ? piece.to : piece.LineStart(line + 1);
+  return {start, Content().At(next - 1) == u'\v' ? next - 1 : next, next};
+}
+
+std::optional<PixelRect> TextPane::LineAt(Position position) {
+  const Piece& piece = cache_.At(position);
+  const std::optional<double> y = scroll_.YNear(piece);
+  if (!y) return std::nullopt;
+  const PieceLine& line = LineOf(piece, position);
+  const double top = *y + line.top;
+  return PixelRect{0, top, size_.width, top + line.height};
+}
+
+std::optional<PixelRect> TextPane::CaretAt(Position position) {
+  const std::optional<PixelRect> box = LineAt(position);
+  if (!box) return std::nullopt;
+  const Piece& piece = cache_.At(position);
+  const PieceLine& line = LineOf(piece, position);
+  const FontExtent font = layouter_.ExtentOf(Content(), surface_.InsertionFormat());
+  const double baseline = box->top - line.top + line.baseline;
+  const double left = std::round(TextLeft() + piece.XOf(position));
+  const double top = std::round(baseline - font.raise - font.ascent);
+  return PixelRect{left, top, left + kCaretWidth, top + std::ceil(font.ascent + font.descent)};
+}
+
+void TextPane::Reveal(Position position) {
+  scroll_.Reveal(position);
+  RevealAcross(position);
+}
+
+void TextPane::RevealAcross(Position position) {
+  const double most = MostRight();
+  if (most == 0) return;
+  const std::optional<PixelRect> caret = CaretAt(position);
+  if (!caret) return;
+  const double room = size_.width / 8;
+  if (caret->left < margin_) scrolledRight_ += caret->left - room;
+  if (caret->right > size_.width - margin_) scrolledRight_ += caret->right - size_.width + room;
+  scrolledRight_ = std::clamp(std::round(scrolledRight_), 0.0, most);
+}
+
+int TextPane::LinesPerPage() {
+  int lines = 0;
+  for (const ShownPiece& item : Visible())
+    for (const PieceLine& line : item.piece->lines) {
+      const double top = item.y + line.top;
+      if (top >= 0 && top + line.height <= size_.height) ++lines;
+    }
+  return std::max(1, lines - 1);
+}
+
+}  // namespace lumenote

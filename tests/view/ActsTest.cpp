@@ -1,0 +1,234 @@
+// What the user does in a view: mouse, keys, drags, input methods, assistive programs.
+#include <gtest/gtest.h>
+#include <sstream>
+
+#include "view/Window.h"
+#include "view/acts/AccessibleText.h"
+#include "view/acts/TextDrag.h"
+#include "view/acts/ViewDrop.h"
+#include "view/acts/ViewInput.h"
+#include "view/acts/ViewKeys.h"
+#include "view/acts/ViewMouse.h"
+
+namespace lumenote {
+namespace {
+
+/// Twelve columns and four rows.
+constexpr PixelSize kSize{120, 100};
+
+struct User : Window {
+  User() : Window(kSize) {}
+
+  /// Just behind the left edge of a column, in the middle of a row.
+  static PixelPoint At(double column, double row) { return {column * 10 + 1, row * 25 + 12}; }
+  /// "D 3 0" presses at column 3 of row 0; S with Shift; W is a double click, T presses soon after;
+  /// M moves with the button held, N without; U releases, X cancels; O is the scroll timer.
+  void Do(const std::string& acts) {
+    std::istringstream words(acts);
+    char act = 0;
+    double column = 0;
+    double row = 0;
+    while (words >> act >> column >> row) {
+      now += act == 'T' ? 100 : 1000;
+      const ViewMouse::Press press{At(column, row), now, act == 'S'};
+      if (act == 'D' || act == 'S' || act == 'T') mouse.Down(press);
+      if (act == 'W') mouse.DoubleClick(press);
+      if (act == 'M' || act == 'N') mouse.Move(press.at, act == 'M');
+      if (act == 'U') mouse.Up(press.at);
+      if (act == 'X') mouse.Cancel();
+      if (act == 'O') mouse.ScrollOn();
+      view.Settle();
+    }
+  }
+
+  ViewMouse mouse{view};
+  ViewKeys keys{view};
+  ViewDrop drop{view};
+  ViewInput input{view};
+  std::int64_t now = 0;
+};
+
+struct Row {
+  std::u16string_view text;
+  std::string acts;
+  std::u16string_view shown;
+};
+
+TEST(Mouse, Selects) {
+  const Row rows[] = {
+      {u"|un deux", "D 3 0 U 3 0", u"un |deux"},
+      {u"|un deux", "D 3.6 0 U 3.6 0", u"un d|eux"},
+      {u"|un deux", "D 30 0", u"un deux|"},
+      {u"un¶deux|", "D 9 0", u"un|¶deux"},
+      {u"|un¶deux", "D 1 9", u"un¶d|eux"},
+      {u"|un deux trois", "D 11 0", u"un deux| trois"},  // the next line begins behind the blank
+      {u"un |deux", "S 5 0", u"un ^de|ux"},
+      {u"u^n d|eux", "S 0 0", u"|u^n deux"},
+      {u"|un deux", "D 1 0 M 5 0 U 5 0", u"u^n de|ux"},
+      {u"|un deux", "D 5 0 M 1 0 U 1 0", u"u|n de^ux"},
+      {u"|un deux trois", "W 4 0", u"un ^deux| trois"},
+      {u"|un deux trois", "W 4 0 M 1 0", u"|un deux^ trois"},
+      {u"|un deux trois", "W 4 0 M 2 1", u"un ^deux trois|"},
+      {u"|un¶deux¶trois", "W 1 1 T 1 1", u"un¶^deux¶|trois"},
+      {u"|un¶deux¶trois", "W 1 1 T 1 1 M 1 2", u"un¶^deux¶trois|"},
+      {u"|un¶deux", "W 1 1 D 1 1 U 1 1", u"un¶d|eux"},  // long after the double click
+      {u"^un| deux", "D 1 0 U 1 0", u"u|n deux"},       // no drag: a click
+      {u"^un| deux", "D 1 0 M 1.5 0 U 1.5 0", u"un| deux"},
+      {u"^un| deux", "S 5 0", u"^un de|ux"},
+      {u"|un deux", "D 1 0 X 0 0 M 5 0", u"u|n deux"},
+  };
+  for (const Row& row : rows) {
+    User user;
+    user.Type(row.text);
+    user.Do(row.acts);
+    EXPECT_EQ(ToUtf8(user.Shown()), ToUtf8(row.shown)) << ToUtf8(row.text) << ' ' << row.acts;
+    EXPECT_TRUE(user.screen == user.Fresh());
+  }
+}
+
+TEST(Mouse, DragsWhatIsSelectedAndScrollsOutside) {
+  User user;
+  user.Type(u"^un| deux");
+  user.Do("N 1 0");
+  EXPECT_TRUE(user.arrow);
+  user.Do("N 5 0");
+  EXPECT_FALSE(user.arrow);
+  user.Do("D 1 0 M 5 0 M 6 0 U 6 0");
+  EXPECT_EQ(user.drags, 1);
+  EXPECT_EQ(user.Shown(), u"^un| deux");
+  user.Type(u"|a¶b¶c¶d¶e¶f¶g");
+  user.Do("D 0 0 M 0 5");
+  EXPECT_TRUE(user.timer);
+  user.Do("O 0 0 O 0 0 O 0 0 O 0 0");
+  EXPECT_EQ(user.Shown(), u"^a¶b¶c¶d¶e¶f¶|g");
+  user.Do("M 0 2");
+  EXPECT_FALSE(user.timer);
+  user.Do("M 0 -1");
+  EXPECT_TRUE(user.timer);
+  user.Do("U 0 0 O 0 0");
+  EXPECT_FALSE(user.timer);
+}
+
+TEST(Keys, AreTheViewsOrTheWindows) {
+  struct KeyRow {
+    std::u16string_view key, typed, shown;
+    bool used, usedLocked;
+  };
+  const KeyRow rows[] = {
+      {u"Down", u"", u"un¶d|eux", true, true},      {u"A", u"é", u"ué|n¶deux", true, false},
+      {u"Delete", u"", u"u|¶deux", true, false},    {u"Ctrl+0", u"", u"u|n¶deux", true, true},
+      {u"Shift+F10", u"", u"u|n¶deux", true, true}, {u"F3", u"", u"u|n¶deux", false, false}};
+  for (const KeyRow& row : rows)
+    for (const bool locked : {false, true}) {
+      User user;
+      user.Type(u"u|n¶deux");
+      user.locked = locked;
+      EXPECT_EQ(user.keys.Press(ParseKey(row.key), row.typed), locked ? row.usedLocked : row.used);
+      const bool done = !locked || row.usedLocked;
+      EXPECT_EQ(user.Shown(), done ? row.shown : u"u|n¶deux") << ToUtf8(row.key);
+      const bool menu = row.key == u"Shift+F10";
+      EXPECT_EQ(user.menu.x, menu ? 10 : 0);
+      EXPECT_EQ(user.pane.Zoom(), row.key == u"Ctrl+0" ? 1 : 1.5);
+    }
+}
+
+TEST(Drags, TakeTheirTextWhenTheyBegin) {
+  User user;
+  user.Type(u"un ^deux| trois");
+  TextDrag moved(user.view);
+  moved.Moved();
+  EXPECT_EQ(user.Shown(), u"un | trois");
+  user.Type(u"un ^deux| trois");
+  TextDrag stale(user.view);
+  user.view.Type(u"x");
+  EXPECT_EQ(stale.Text().Text(), u"deux");
+  EXPECT_NE(stale.Text().Rtf().find("deux"), std::string::npos);
+  stale.Moved();
+  EXPECT_EQ(user.Shown(), u"un x| trois");
+}
+
+TEST(Drops, MoveCopyAndPutIn) {
+  User user;
+  user.Type(u"^un |deux");
+  user.drop.Move(User::At(7, 0));
+  user.view.Settle();
+  EXPECT_EQ(user.view.Marks().dropCaret->left, 70);
+  EXPECT_TRUE(user.screen == user.Fresh());
+  user.drop.Leave();
+  user.drop.DropOwn(User::At(7, 0), false);
+  EXPECT_EQ(user.Shown(), u"deux^un |");
+  user.drop.DropOwn(User::At(0, 0), true);
+  EXPECT_EQ(user.Shown(), u"^un |deuxun ");
+  EXPECT_TRUE(user.drop.Drop(User::At(3, 0), {u"et ", {}}));
+  EXPECT_EQ(user.Shown(), u"un ^et |deuxun ");
+  EXPECT_FALSE(user.drop.Drop(User::At(3, 0), {}));
+  user.drop.Paste(User::At(0, 0), {u"a", {}});
+  EXPECT_EQ(user.Shown(), u"a|un et deuxun ");
+  user.surface.Text(Words(600));
+  user.view.Settle();
+  user.drop.Move(User::At(1, 3.9));
+  EXPECT_GT(user.pane.Scroll().Read().value, 0);
+}
+
+TEST(InputMethods, ComposeReplaceAndCommit) {
+  User user;
+  user.Type(u"ab|c");
+  user.input.Take({.composed = u"^^", .caret = 1});
+  user.view.Settle();
+  EXPECT_EQ(user.view.Marks().caret->left, 30);
+  EXPECT_EQ(user.pane.CaretAt(3)->left, 50);
+  EXPECT_EQ(user.surface.Text(), u"abc");
+  EXPECT_TRUE(user.screen == user.Fresh());
+  user.input.Take({.replaceFrom = -1, .replaceLength = 1, .committed = u"ê"});
+  EXPECT_EQ(user.Shown(), u"aê|c");
+  user.input.Take({.replaceFrom = -1, .replaceLength = 2});
+  EXPECT_EQ(user.Shown(), u"a|");
+  user.surface.Text(Words(2000));
+  user.surface.UserSelect(1000, 1000);
+  EXPECT_EQ(user.input.Surroundings(), (Selection{500, 1500}));
+  user.surface.UserSelect(0, 2000);
+  EXPECT_EQ(user.input.ToldSelection(), (Selection{0, 500}));
+  user.locked = true;
+  user.input.Take({.committed = u"x"});
+  EXPECT_EQ(user.surface.Content().Length(), 2000);
+}
+
+TEST(AccessibleTexts, TellUnitsAndEdit) {
+  User user;
+  user.Type(u"|un deux trois¶quatre");
+  AccessibleText text(user.view, [](TextUnit, std::u16string_view within, int index) {
+    const auto before = within.substr(0, static_cast<std::size_t>(index)).rfind(u' ');
+    const auto behind = within.find(u' ', static_cast<std::size_t>(index));
+    return Selection{before == within.npos ? 0 : static_cast<Position>(before) + 1,
+                     static_cast<Position>(std::min(behind, within.size()))};
+  });
+  struct UnitRow {
+    Position offset;
+    TextUnit unit;
+    std::u16string_view before, at, behind;
+  };
+  const UnitRow rows[] = {{4, TextUnit::Line, u"", u"un deux ", u"trois\r\n"},
+                          {9, TextUnit::Line, u"un deux ", u"trois\r\n", u"quatre"},
+                          {4, TextUnit::Paragraph, u"", u"un deux trois\r\n", u"quatre"},
+                          {99, TextUnit::Paragraph, u"un deux trois\r\n", u"quatre", u""},
+                          {4, TextUnit::Word, u"un", u"deux", u"deux"},
+                          {-5, TextUnit::All, u"", u"un deux trois\r\nquatre", u""}};
+  for (const UnitRow& row : rows) {
+    EXPECT_EQ(text.Text(text.Before(row.offset, row.unit)), row.before) << row.offset;
+    EXPECT_EQ(text.Text(text.At(row.offset, row.unit)), row.at) << row.offset;
+    if (row.unit != TextUnit::Word) {
+      EXPECT_EQ(text.Text(text.Behind(row.offset, row.unit)), row.behind) << row.offset;
+    }
+  }
+  EXPECT_EQ(text.BoxOf(9), (PixelRect{10, 25, 20, 50}));
+  EXPECT_EQ(text.OffsetAt(User::At(1, 1)), 9);
+  EXPECT_EQ(text.RunAt(3)->range, (Selection{0, 15}));
+  EXPECT_FALSE(text.RunAt(21));
+  text.Replace({0, 2}, u"une");
+  EXPECT_EQ(user.Shown(), u"une| deux trois¶quatre");
+  text.Replace({0, 4}, u"");
+  EXPECT_EQ(user.Shown(), u"|deux trois¶quatre");
+}
+
+}  // namespace
+}  // namespace lumenote

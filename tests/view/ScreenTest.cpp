@@ -1,0 +1,191 @@
+// Whatever is done, the screen shows what a naive layout of the whole note says.
+#include <gtest/gtest.h>
+
+#include "view/Window.h"
+#include "view/acts/ViewDrop.h"
+
+namespace lumenote {
+namespace {
+
+constexpr PixelSize kSize{300, 200};
+
+/// Something that changes what is shown.
+void ActAtRandom(Window& window, std::mt19937& random) {
+  const Position length = window.surface.Content().Length();
+  switch (Below(random, 12)) {
+    case 0:
+      return window.view.ScrollBy(Below(random, 400) - 200);
+    case 1:
+      return window.view.Select(Below(random, length + 1), Below(random, length + 1));
+    case 2:
+      return window.view.DropCaret(Below(random, length + 1));
+    case 3:
+      return window.view.Compose({window.surface.Caret(), u"composé", Below(random, 8)});
+    case 4:
+      return window.pane.Scroll().To(Below(random, 20'000));
+    case 5:
+      return window.view.Blink();
+    case 6:
+      return window.view.Resize({200.0 + Below(random, 100), 200});
+    case 7:
+      return window.surface.RightMargin(static_cast<float>(6000 * Below(random, 2)));
+    case 8:
+      return window.surface.SetParaFormat({.mask = ParagraphRecord::kLineSpacing,
+                                           .lineSpacingRule = LineSpacingRule::Exact,
+                                           .lineSpacing = 150 + 50 * Below(random, 6)});
+    default:
+      return EditAtRandom(window.surface, random);
+  }
+}
+
+/// Lines, places and points as in a layout of everything. Where a paragraph has several pieces an
+/// edit in one of them need not move the lines of another at once.
+void CompareWithWhole(Window& window, std::mt19937& random) {
+  TextPane& pane = window.pane;
+  const WholeLayout whole(window.surface.Content(), window.layouter);
+  if (whole.LongestParagraph() > 1000) return;
+  const ShownPiece top = pane.Visible().front();
+  const double offset = whole.PlaceOf(top.piece->from).y - top.piece->lines.front().top - top.y;
+  for (int look = 0; look < 8; ++look) {
+    const Line& line = whole.Lines()[random() % whole.Lines().size()];
+    if (window.layouter.Composed().text.empty()) {
+      ASSERT_EQ(window.surface.Lines().LineAt(line.start), line);
+    }
+    ASSERT_EQ(pane.ShownLine(line.start), line);
+    const PixelPoint point{1.0 * Below(random, 300), 1.0 * Below(random, 200)};
+    const Position at = whole.At({point.x - pane.TextLeft(), point.y + offset});
+    ASSERT_EQ(pane.PositionAt(point), window.surface.Content().Before(at));
+    const PixelPoint place = whole.PlaceOf(pane.PositionAt(point));
+    const std::optional<PixelRect> caret = pane.CaretAt(pane.PositionAt(point));
+    ASSERT_TRUE(caret);
+    ASSERT_EQ(caret->left, std::round(pane.TextLeft() + place.x));
+    ASSERT_EQ(pane.LineAt(pane.PositionAt(point))->top, place.y - offset);
+  }
+}
+
+TEST(Screen, ShowsWhatAWholeLayoutSaysAfterAnyActs) {
+  int shifts = 0;
+  for (unsigned seed = 1; seed <= 6; ++seed) {
+    std::mt19937 random(seed);
+    Window window(kSize);
+    window.surface.Text(seed % 2 ? ShortParagraphs() : RandomNote());
+    for (int i = 0; i < 120; ++i) {
+      ActAtRandom(window, random);
+      window.view.Settle();
+      ASSERT_EQ(window.view.Differences(), std::vector<std::string>{}) << seed << ' ' << i;
+      ASSERT_TRUE(window.screen == window.Fresh()) << seed << ' ' << i;
+      CompareWithWhole(window, random);
+      if (testing::Test::HasFatalFailure()) FAIL() << seed << ' ' << i;
+    }
+    shifts += window.shifts;
+  }
+  EXPECT_GT(shifts, 10);
+}
+
+struct Cost {
+  const char* name;
+  void (*act)(Window&);
+  double lines;  // of 24 pixels that may be painted for it at most
+};
+
+TEST(Screen, PaintsNoMoreThanAnActChanges) {
+  const Cost rows[] = {{"typing", [](Window& window) { window.view.Type(u"x"); }, 1.1},
+                       {"a break", [](Window& window) { window.view.Type(u"\n"); }, 4},
+                       {"scrolling down", [](Window& window) { window.view.ScrollBy(60); }, 4.6},
+                       {"scrolling up", [](Window& window) { window.view.ScrollBy(-60); }, 4.6},
+                       {"blinking", [](Window& window) { window.view.Blink(); }, 0.1},
+                       {"selecting", [](Window& window) { window.view.Select(3000, 3010); }, 2.1},
+                       {"nothing", [](Window& window) { window.view.Compose({}); }, 0}};
+  for (const Cost& row : rows) {
+    Window window({300, 240});
+    std::u16string text;
+    for (int i = 0; i < 300; ++i) text += Words(20) + u"\r\n";
+    window.surface.Text(text);
+    window.surface.UserSelect(3003, 3003);
+    window.view.Settle();
+    window.painted = 0;
+    row.act(window);
+    window.view.Settle();
+    EXPECT_LE(window.painted / (300 * 24), row.lines) << row.name;
+    EXPECT_TRUE(window.screen == window.Fresh()) << row.name;
+  }
+}
+
+// A view hears of a batch once, an input method of many moves once.
+TEST(Screen, TellsOfABatchOnce) {
+  Window window(kSize);
+  window.Type(u"un deux trois|");
+  window.changes = window.moves = 0;
+  window.surface.Atomically([&] {
+    for (const Position at : {0, 3, 8}) {
+      window.surface.UserSelect(at, at + 2);
+      window.surface.SelText(u"x");
+    }
+  });
+  EXPECT_EQ(window.changes, 1);
+  for (const Position at : {0, 3, 8}) window.view.Select(at, at);
+  window.view.Settle();
+  EXPECT_EQ(window.moves, 1);
+  EXPECT_EQ(window.surface.Text(), u"x dxx trxs");
+  EXPECT_TRUE(window.screen == window.Fresh());
+}
+
+// --- scrolling
+
+TEST(Scrolling, KeepsTheTopLineWhenTextAboveChangesAndWhenTheWidthDoes) {
+  Window window(kSize);
+  window.surface.Text(Words(30'000) + u"\r\n" + Words(30'000));
+  const auto top = [&] {
+    const ShownPiece first = window.pane.Visible().front();
+    return first.piece->LineStart(first.piece->LineAt(-first.y));
+  };
+  window.view.Show(false);  // so that the caret is not revealed
+  window.pane.Scroll().To(20'000);
+  const Position line = top();
+  ASSERT_GT(line, 1000);
+  window.surface.UserSelect(10, 500);
+  window.view.Type(u"x");
+  EXPECT_EQ(top(), line - 489);
+  window.view.Resize({200, 200});
+  EXPECT_TRUE(window.pane.Visible().front().piece->Holds(line - 489));
+}
+
+TEST(Scrolling, ReachesBothEndsOfTheScaleExactlyAndRevealsWithLittleMovement) {
+  Window window(kSize);
+  window.surface.Text(Words(60'000));
+  ScrollModel& scroll = window.pane.Scroll();
+  const double most = scroll.Read().total - 200;
+  scroll.To(most * 0.9);
+  EXPECT_LT(scroll.Read().value, most);
+  scroll.To(most);
+  const ShownPiece last = window.pane.Visible().back();
+  EXPECT_EQ(last.piece->to, 60'000);
+  EXPECT_NEAR(last.y + last.piece->height, 200, 0.01);
+  EXPECT_EQ(scroll.Read().value, most);
+  scroll.By(-1e6);
+  EXPECT_EQ(scroll.Read().value, 0);
+  const Position below = window.pane.PositionAt({0, 205}) + 30;
+  window.pane.Reveal(below);
+  EXPECT_NEAR(window.pane.LineAt(below)->bottom, 200, 0.01);
+  window.pane.Reveal(40'000);
+  EXPECT_TRUE((PixelRect{0, 0, 300, 200}).Holds(*window.pane.LineAt(40'000)));
+}
+
+// Every character lies in exactly one piece, whichever way the text is walked through.
+TEST(LayoutCache, CoversOneHugeParagraphBothWays) {
+  Window window(kSize);
+  window.surface.Text(Words(300'000));
+  LayoutCache& cache = window.pane.Cache();
+  const Piece* piece = &cache.At(150'000);  // far from any known line start
+  for (Position from = piece->from; piece && from > 100'000; from = piece->from) {
+    piece = cache.Before(*piece);
+    ASSERT_EQ(piece->to, from);
+  }
+  for (Position to = piece->to; to < 200'000; to = piece->to) {
+    piece = cache.After(*piece);
+    ASSERT_EQ(piece->from, to);
+  }
+}
+
+}  // namespace
+}  // namespace lumenote
