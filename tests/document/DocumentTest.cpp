@@ -94,15 +94,6 @@ TEST(Document, RefusesToOutgrowAPosition) {
   EXPECT_THROW(document.Replace(0, 0, PlainFragment(u"x", 0, 0)), RuntimeError);
 }
 
-TEST(InternTable, AnswersTheDefaultWhenFull) {
-  InternTable<std::uint32_t> table;
-  const std::uint32_t most = InternTable<std::uint32_t>::kMost;
-  for (std::uint32_t i = 0; i < most; ++i) ASSERT_EQ(table.Intern(i * 7), i);
-  EXPECT_EQ(table.Intern(1), 0u);
-  EXPECT_EQ(table.Intern(7 * 5), 5u);
-  EXPECT_EQ(table.Size(), most);
-}
-
 TEST(LeafText, HoldsBytesUntilOneIsMissing) {
   const auto unitSize = [](const LeafText& text) {
     return text.View().Visit([](auto own) { return sizeof(own[0]); });
@@ -118,26 +109,6 @@ TEST(LeafText, HoldsBytesUntilOneIsMissing) {
   EXPECT_EQ(unitSize(text), 2u);
   EXPECT_EQ(unitSize(LeafText(text.View())), 1u);
   EXPECT_EQ(unitSize(LeafText(std::u16string_view(u"a\0b", 3))), 2u);
-}
-
-TEST(FragmentBuilder, KeepsPairsInOneLeaf) {
-  for (Position before : {1982, 1983, 1984, 1985, 2014, 2015, 2016}) {
-    for (std::u16string_view pair : {u"\r\n", u"\U0001F33C"}) {
-      FragmentBuilder builder;
-      for (Position i = 0; i < before; ++i) {
-        builder.UnitRoom().front() = u'x';
-        builder.Commit(1, 0);
-      }
-      const ParaId mark = 3;
-      builder.Append(std::u16string(pair) + std::u16string(4000, u'y'), 1, &mark);
-      const Fragment fragment = builder.Finish();
-      EXPECT_EQ(fragment.Length(), before + 4002);
-      const LeafCursor leaf = fragment.leaves.CursorAt(before);
-      const LeafCursor next = fragment.leaves.CursorAt(before + 1);
-      EXPECT_EQ(leaf.Start(), next.Start()) << before;
-      EXPECT_EQ(fragment.leaves.Breaks(), pair == u"\r\n" ? 1 : 0);
-    }
-  }
 }
 
 }  // namespace

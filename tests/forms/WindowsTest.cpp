@@ -13,6 +13,27 @@
 namespace lumenote {
 namespace {
 
+/// Counts what peers are told.
+class CountingBackend final : public HeadlessBackend {
+ public:
+  std::unique_ptr<FormPeer> Realise(Form&) override { return std::make_unique<Peer>(updates); }
+
+  int updates = 0;
+
+ private:
+  struct Peer final : FormPeer {
+    explicit Peer(int& updates) : updates_(updates) {}
+    void Update(Element&, Property) override { ++updates_; }
+    void Focus(Control&) override {}
+    void Activate() override {}
+    void Add(Control&) override {}
+    void Remove(Control&) override {}
+    void PopUp(Menu&, Point) override {}
+    std::vector<std::string> Differences() const override { return {}; }
+    int& updates_;
+  };
+};
+
 class Window : public Form {
  public:
   Window(WindowList& windows, std::string name)
@@ -34,6 +55,7 @@ class Window : public Form {
  private:
   void Form_Activate() override { ++activations; }
   void Form_Resize() override { ++resizes; }
+  bool Form_KeyDown(const KeyStroke& key) override { return key.name == KeyName::Home; }
   bool Form_QueryUnload() override {
     Asking();
     return mayGo;
@@ -43,7 +65,7 @@ class Window : public Form {
 class WindowsTest : public testing::Test {
  protected:
   PosixSandbox sandbox;
-  HeadlessBackend backend;
+  CountingBackend backend;
   ReportedFonts fonts;
   PilotPlatform platform{sandbox, backend, fonts};
   WindowList windows{platform};
@@ -93,6 +115,7 @@ TEST_F(WindowsTest, AWindowThatMayNotGoStaysAsItWas) {
 TEST_F(WindowsTest, ReturnAndEscapeClickTheirButtonsWhileThoseCanBeClicked) {
   const KeyStroke enter{.name = KeyName::Return}, escape{.name = KeyName::Escape};
   first.Show();
+  EXPECT_TRUE(first.UserKey({.name = KeyName::Home}));
   EXPECT_FALSE(first.UserKey(escape));
   first.CancelButton(&first.escape);
   EXPECT_TRUE(first.UserKey(escape));
@@ -109,6 +132,21 @@ TEST_F(WindowsTest, ReturnAndEscapeClickTheirButtonsWhileThoseCanBeClicked) {
   second.EscapeCloses(true);
   EXPECT_TRUE(second.UserKey(escape));
   EXPECT_FALSE(second.IsLoaded());
+}
+
+TEST_F(WindowsTest, APeerHearsOfWhatChangesAlone) {
+  const std::function<void()> assignments[] = {
+      [&] { first.Caption(u"x"); },        [&] { first.BackColor(5); },
+      [&] { first.OnTop(true); },          [&] { first.Left(7); },
+      [&] { first.close.Caption(u"x"); },  [&] { first.close.Enabled(false); },
+      [&] { first.close.Visible(false); }, [&] { first.close.Top(7); },
+  };
+  first.Load();
+  for (const auto& assign : assignments)
+    for (const int told : {1, 0}) {
+      assign();
+      EXPECT_EQ(std::exchange(backend.updates, 0), told) << &assign - assignments;
+    }
 }
 
 TEST_F(WindowsTest, SizesResizeOnceAndNegativeOnesAreRefused) {
@@ -139,9 +177,21 @@ TEST_F(WindowsTest, ATimerTicksWhileItsWindowIsLoadedOnly) {
   first.timer.Enabled(false);
   backend.Advance(10);
   first.timer.Enabled(true);
+  backend.Advance(4);
+  first.timer.Interval(5);  // as it was, so it counts on
+  backend.Advance(1);
+  EXPECT_EQ(ticks, 4);
   first.Unload();
   backend.Advance(10);
-  EXPECT_EQ(ticks, 3);
+  EXPECT_EQ(ticks, 4);
+  auto fourth = std::make_unique<Window>(windows, "fourth");
+  fourth->timer.Tick = first.timer.Tick;
+  fourth->timer.Interval(10);
+  fourth->timer.Enabled(true);
+  fourth->Load();
+  fourth.reset();
+  backend.Advance(10);
+  EXPECT_EQ(ticks, 4);
 }
 
 TEST_F(WindowsTest, AWindowInUseOutlivesItsUnloadBesideTheNextOne) {

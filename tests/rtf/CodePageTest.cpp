@@ -53,13 +53,5 @@ TEST(CodePage, EveryTableIsWhole) {
   EXPECT_EQ(tables, 32);
 }
 
-TEST(CodePage, KnowsTheCharsetsOfFonts) {
-  EXPECT_EQ(CodePageOfCharset(0), 1252);
-  EXPECT_EQ(CodePageOfCharset(1), 0);
-  EXPECT_EQ(CodePageOfCharset(2), 42);
-  EXPECT_EQ(CodePageOfCharset(204), 1251);
-  EXPECT_EQ(CodePageOfCharset(-7), 0);
-}
-
 }  // namespace
 }  // namespace lumenote
