@@ -272,6 +272,8 @@ bool RoundTrip::BringOnto(const std::u16string& result) {
   const bool text = Lower(target).ends_with(u"txt");
   const bool mayBeEmpty = editor_.Document().TextLength() == 0;
   if (!EstEntier(Disk(), result, text, mayBeEmpty)) return false;
+  // Under the name of the other form the note could not be saved as what it is.
+  if (target != editor_.Values().documentPath && !KeepTyped()) return false;
   return IgnoringErrors([&] {
     Remplacer(Disk(), result, target);
     editor_.Values().documentPath = target;
@@ -292,7 +294,11 @@ void RoundTrip::Finish() {
 bool RoundTrip::KeepTyped() {
   const Session& session = editor_.Values();
   const bool typed = session.changes != changesWritten_ && (session.dirty || broughtBack_);
-  return !typed || desk_.KeepNote();
+  if (!typed) return true;
+  const std::uint64_t changes = session.changes;
+  const bool kept = desk_.KeepNote();
+  if (kept) changesWritten_ = changes;
+  return kept;
 }
 
 // --- what comes too late

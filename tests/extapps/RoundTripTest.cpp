@@ -285,6 +285,22 @@ TEST_F(RoundTripTest, WithoutAPlaceForItWhatWasTypedStaysUnsaved) {
   }
 }
 
+TEST_F(RoundTripTest, AResultInAFormWithoutFormatsWaitsForWhatWasTyped) {
+  LeaveNoPlace();
+  OpenFile(u"C:\\n\\a.rtf", "{\\rtf1 \\b avant}");
+  Choose(kWord);
+  FinishAfter([&] {
+    Type(u"d'");
+    disk.Write(u"C:\\Temp\\Sava.txt", "retour");
+  });
+  EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.txt"), "retour");
+  sandbox.MakeParents(u"C:\\Documents\\x");
+  Editor().Unload();
+  EXPECT_NE(disk.ReadAll(u"C:\\n\\a.rtf").find("\\b\\lang1036\\f0\\fs20 d'avant"),
+            std::string::npos)
+      << disk.ReadAll(u"C:\\n\\a.rtf");
+}
+
 TEST_F(RoundTripTest, AReloadThatFailsLeavesTheNoteDirty) {
   OpenFile(u"C:\\n\\a.txt", "avant");
   Choose(kQjot);
