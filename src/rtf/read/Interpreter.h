@@ -27,6 +27,7 @@ class Interpreter {
   Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
               const CharFormat& base, std::size_t opened);
   Fragment Read();
+  FontId PlainFont() const { return default_.font; }
 
   // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it, or the
   // row of a word in the tables of rtf/words/.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <limits>
 #include <optional>
+#include <utility>
 
 #include "rtf/read/Interpreter.h"
 
@@ -37,16 +38,28 @@ std::optional<std::string_view> Body(std::string_view bytes) {
   return {};
 }
 
+/// What reads the bytes.
+Interpreter InterpreterOf(std::string_view bytes, FormatTables& formats, RtfTarget target,
+                          const CharFormat& base) {
+  // No token yields more units than it has bytes, so this keeps every position in range.
+  constexpr std::size_t kMost = std::numeric_limits<Position>::max();
+  const std::optional<std::string_view> body = Body(bytes);
+  const std::string_view source = body.value_or(bytes).substr(0, kMost);
+  return Interpreter(source, target, formats, base, body ? 1 : 0);
+}
+
 }  // namespace
 
 bool LooksLikeRtf(std::string_view bytes) { return Body(bytes).has_value(); }
 
 Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target, CharFormat base) {
-  // No token yields more units than it has bytes, so this keeps every position in range.
-  constexpr std::size_t kMost = std::numeric_limits<Position>::max();
-  const std::optional<std::string_view> body = Body(bytes);
-  const std::string_view source = body.value_or(bytes).substr(0, kMost);
-  return Interpreter(source, target, formats, base, body ? 1 : 0).Read();
+  return InterpreterOf(bytes, formats, target, base).Read();
+}
+
+RtfNote ReadRtfNote(std::string_view bytes, FormatTables& formats, CharFormat base) {
+  Interpreter interpreter = InterpreterOf(bytes, formats, RtfTarget::Document, base);
+  Fragment content = interpreter.Read();
+  return {std::move(content), interpreter.PlainFont()};
 }
 
 }  // namespace lumenote

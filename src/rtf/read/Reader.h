@@ -24,4 +24,11 @@ enum class RtfTarget {
 Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target,
                  CharFormat base = {.size = 24});
 
+/// The same for a whole note.
+struct RtfNote {
+  Fragment content;
+  FontId plainFont = 0;  // of text that names none: that of \deff, else the base's
+};
+RtfNote ReadRtfNote(std::string_view bytes, FormatTables& formats, CharFormat base);
+
 }  // namespace lumenote

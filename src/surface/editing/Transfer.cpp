@@ -24,34 +24,6 @@ CharFormat DefaultFormat(FormatTables& formats) {
   return format;
 }
 
-/// Length of the group that begins with the first byte, braces included; 0 when it has no end.
-std::size_t GroupLength(std::string_view group) {
-  int depth = 0;
-  for (std::size_t i = 0; i < group.size(); ++i) {
-    if (group[i] == '\\')
-      ++i;
-    else if (group[i] == '{')
-      ++depth;
-    else if (group[i] == '}' && --depth == 0)
-      return i + 1;
-  }
-  return 0;
-}
-
-/// The font that plain text has in an RTF source: that of a letter put behind its font table.
-FontId DefaultFontOf(std::string_view rtf, FormatTables& formats, const CharFormat& base) {
-  const std::size_t table = rtf.find("{\\fonttbl");
-  if (table == std::string_view::npos) return base.font;
-  std::string probe(rtf.substr(0, table + GroupLength(rtf.substr(table))));
-  probe += "\\plain x}";
-  const Fragment letter = ReadRtf(probe, formats, RtfTarget::Selection, base);
-  FontId font = base.font;
-  letter.leaves.ForEachRun(0, letter.Length(), [&](Position, TextView, CharId id) {
-    font = formats.characters[id].font;
-  });
-  return font;
-}
-
 }  // namespace
 
 Transfer::Transfer(EditingCore& core, TextEditing& text, Clipboard& clipboard, Files& files)
@@ -75,9 +47,9 @@ void Transfer::Text(std::u16string_view text) {
 
 void Transfer::LoadRtf(std::string_view bytes) {
   FormatTables& formats = core_.Formats();
-  const Fragment whole = ReadRtf(bytes, formats, RtfTarget::Document, defaultFormat_);
-  std::u16string font = formats.fonts[DefaultFontOf(bytes, formats, defaultFormat_)].name;
-  core_.Load(whole);
+  const RtfNote note = ReadRtfNote(bytes, formats, defaultFormat_);
+  std::u16string font = formats.fonts[note.plainFont].name;
+  core_.Load(note.content);
   baseFontName_ = std::move(font);
 }
 
