@@ -39,7 +39,7 @@ void Interpreter::BreakAs(Kept kept) {
   if (!ReachBreak()) return;
   Lay();
   const bool plain = !items_.Pending() && kept == Kept();
-  body_.Break({plain ? CharacterNumber() : CharacterWith(std::move(kept)), ParagraphNumber()});
+  body_.Break({plain ? CharacterNumber() : CharacterWith(kept), ParagraphNumber()});
 }
 
 /// The end of a page, column or section ends a paragraph that has begun.

@@ -39,7 +39,7 @@ class WrittenBody {
   };
   /// An open field, and what holds again behind it.
   struct Open {
-    FieldId id;
+    FieldId id = 0;
     Known known;
     WrittenFormat format;
   };

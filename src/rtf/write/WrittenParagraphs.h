@@ -13,10 +13,10 @@ struct WrittenParagraphs {
   /// one, is ordinary text.
   static constexpr int kNoRow = -1;
   struct Cell {
-    std::size_t paragraph;  // that it ends in
-    ParaId format;
-    int nesting;  // that it tells of itself
-    bool endsRow;
+    std::size_t paragraph = 0;  // that it ends in
+    ParaId format = 0;
+    int nesting = 0;  // that it tells of itself
+    bool endsRow = false;
     /// Whether it is part of a whole row; else its text is part of what follows, whose format and
     /// depth it has here.
     bool whole = true;
