@@ -214,8 +214,9 @@ void Form::Raise(const std::function<void()>& event) {
 void Form::TellFailure(const RuntimeError* error) {
   try {
     Machine().Windows().EventFailed(error ? *error : RuntimeError(ErrorNumber::OutOfMemory), this);
+  } catch (const RuntimeError&) {
+    // Where no box can be shown the window lives on without a word.
   } catch (const std::bad_alloc&) {
-    // Without memory for a box the window lives on without a word.
   }
 }
 
