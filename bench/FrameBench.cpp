@@ -3,6 +3,7 @@
 // page in a window.
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
@@ -89,6 +90,17 @@ class Desk {
     return longest;
   }
 
+  /// The median over steps of the scroll bar, as turns of the wheel are.
+  double Scrolling(Position at) {
+    PutCaret(at);
+    std::vector<double> times;
+    for (int i = 0; i < 40; ++i)
+      times.push_back(ToFrame([&] {
+        view.verticalScrollBar()->triggerAction(i % 2 ? QAbstractSlider::SliderSingleStepAdd
+                                                      : QAbstractSlider::SliderSingleStepSub);
+      }));
+    return Median(times);
+  }
   /// A copy of the note is written to a file in slices, as the recovery copy is, with a key after
   /// each: the longest slice, beginning and end included, and the longest time of a key.
   std::pair<double, double> KeysWhileCopying(Position at) {
@@ -139,9 +151,10 @@ void Measure(const std::string& rtf, const std::string& name) {
   const double end = desk.Typing(desk.surface.Content().Length());
   const double up = desk.CaretKey(Qt::Key_Up);
   const double page = desk.CaretKey(Qt::Key_PageUp);
+  const double scroll = length > 5000 ? desk.Scrolling(length / 3) : 0;
   const auto [slice, key] = desk.KeysWhileCopying(length / 2);
-  std::printf("%-12s %11.2f %15.3f %11.3f %8.3f %10.2f %8.2f %8.2f %8.2f\n", name.c_str(), first,
-              top, middle, end, up, page, slice, key);
+  std::printf("%-12s %11.2f %15.3f %11.3f %8.3f %10.2f %8.2f %8.3f %8.2f %8.2f\n", name.c_str(),
+              first, top, middle, end, up, page, scroll, slice, key);
 }
 
 /// On a window that is shown, up to the frame that shows the page as it is then.
@@ -170,8 +183,9 @@ int main(int argc, char** argv) {
       "milliseconds of processor time: medians, of the caret keys, and of a copy's slices\nand the "
       "keys between them, the longest\n");
   std::printf("clean-up of a page, 500 pairs, in a window: %.1f\n\n", Median(cleanUps));
-  std::printf("%-12s %11s %15s %11s %8s %10s %8s %8s %8s\n", "note", "first frame",
-              "key at the top", "the middle", "the end", "up key", "page up", "a slice", "its key");
+  std::printf("%-12s %11s %15s %11s %8s %10s %8s %8s %8s %8s\n", "note", "first frame",
+              "key at the top", "the middle", "the end", "up key", "page up", "scroll", "a slice",
+              "its key");
   ForEachNote([](NoteShape shape, int bytes, const std::string& name) {
     Measure(RtfNote(shape, bytes), name);
   });

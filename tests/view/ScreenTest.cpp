@@ -168,7 +168,8 @@ TEST(Scrolling, ReachesBothEndsOfTheScaleExactlyAndRevealsWithLittleMovement) {
   window.pane.Reveal(below);
   EXPECT_NEAR(window.pane.LineAt(below)->bottom, 200, 0.01);
   window.pane.Reveal(40'000);
-  EXPECT_TRUE((PixelRect{0, 0, 300, 200}).Holds(*window.pane.LineAt(40'000)));
+  EXPECT_GE(window.pane.LineAt(40'000)->top, 0);
+  EXPECT_LE(window.pane.LineAt(40'000)->bottom, 200);
 }
 
 // Every character lies in exactly one piece, whichever way the text is walked through.

@@ -27,9 +27,6 @@ struct PixelRect {
   double Width() const { return right - left; }
   double Height() const { return bottom - top; }
   bool IsEmpty() const { return left >= right || top >= bottom; }
-  bool Holds(const PixelRect& other) const {
-    return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom;
-  }
   PixelRect MovedBy(double x, double y) const { return {left + x, top + y, right + x, bottom + y}; }
   /// The smallest rectangle that holds both.
   PixelRect United(const PixelRect& other) const {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <numeric>
 #include <utility>
 
 namespace lumenote {
@@ -22,6 +24,16 @@ Selection SelectedIn(const Piece& piece, const PieceLine& line, Selection select
   const Position to = piece.ToPosition(line.end) + (ends ? 1 : 0);
   const Selection part{std::clamp(selection.start, from, to), std::clamp(selection.end, from, to)};
   return part.Length() == 0 ? Selection{} : Selection{part.start - from, part.end - from};
+}
+
+/// Whether all lines but one or two are where they were, as after a character typed.
+template <class Lines>
+bool MostlyStay(const Lines& before, const Lines& now) {
+  if (before.size() != now.size()) return false;
+  const int stay = std::transform_reduce(
+      before.begin(), before.end(), now.begin(), 0, std::plus(),
+      [](const auto& one, const auto& other) { return one == other ? 1 : 0; });
+  return stay + 2 >= std::ssize(now);
 }
 
 }  // namespace
@@ -71,9 +83,8 @@ Damage ViewDamage::Take(const ViewMarks& marks) {
 
 // --- pixels that have only moved
 
-// Nothing moves where the first and the last line stay.
 std::optional<PixelShift> ViewDamage::FindShift(const Lines& now) const {
-  if (now.front() == shown_.front() && now.back() == shown_.back()) return std::nullopt;
+  if (MostlyStay(shown_, now)) return std::nullopt;
   PixelShift best;
   for (auto ahead = 1 - std::ssize(now); ahead < std::ssize(shown_); ++ahead) {
     const PixelShift run = LongestRun(now, ahead);

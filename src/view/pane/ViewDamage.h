@@ -30,7 +30,6 @@ struct Damage {
   std::optional<PixelShift> shift;
   std::vector<PixelRect> areas;
 
-  bool IsEmpty() const { return !shift && areas.empty(); }
   /// Joins what lies just below the area before.
   void Add(const PixelRect& area);
 };
