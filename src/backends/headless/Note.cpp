@@ -8,7 +8,6 @@
 #include "rtf/read/Reader.h"
 #include "rtf/write/Writer.h"
 #include "surface/DocumentSurface.h"
-#include "surface/editing/TextBytes.h"
 
 namespace lumenote {
 
@@ -27,7 +26,7 @@ Note::Note(std::string_view bytes, Format format) : parts_(std::make_unique<Part
   parts_->source = format;
   if (format == Format::Rtf) {
     if (!IsRtf(bytes)) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-    parts_->surface.TextRTF(UnitsOfBytes(bytes));
+    parts_->surface.LoadSource(bytes);
   } else {
     parts_->form = FormOfText(bytes);
     parts_->surface.Text(DecodeText(bytes, parts_->form));

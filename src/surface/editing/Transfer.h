@@ -24,6 +24,8 @@ class Transfer {
   std::u16string SelectedRtf() const;
   void SelectedRtf(std::u16string_view rtf);
 
+  /// RTF as it stands in a file.
+  void LoadSource(std::string_view bytes);
   std::string Load(std::u16string_view path, FileType type, std::optional<TextForm> form);
   std::string Save(std::u16string_view path, FileType type);
   /// What `Save` writes.
@@ -40,7 +42,6 @@ class Transfer {
 
  private:
   void LoadRtf(std::string_view bytes);
-  void LoadSource(std::string_view bytes);
   void LoadText(const std::string& bytes, std::optional<TextForm> form);
   std::string PlainBytes() const;
   Fragment FragmentOf(const ClipboardContent& content);
