@@ -10,11 +10,13 @@
 #include "base/Strings.h"
 #include "editor/DocumentStorage.h"
 #include "extapps/WorkCopies.h"
+#include "extapps/WorkRecord.h"
 #include "forms/Backend.h"
 #include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"
+#include "platform/Processes.h"
 #include "platform/StateFolder.h"
 #include "session/Session.h"
 
@@ -84,6 +86,29 @@ bool IsStored(const Files& files, const LeftCopy& copy) {
          bytes == copy.bytes;
 }
 
+/// A program that goes on may save yet: its record waits for another start, after the results that
+/// were kept now.
+void LeaveRecord(Platform& machine, WorkSent& sent) {
+  bool running = true;
+  IgnoringErrors([&] { running = machine.Programs().IsRunning(sent.process); });
+  if (!running) return;
+  Record(machine.State(), sent);
+  if (sent.record) sent.record->Leave();
+}
+
+/// Keeps what a program has saved for an editor that died. False when the record has to wait, for
+/// the program's end or for a place.
+bool KeepLate(Platform& machine, const LeftCopy& record, std::vector<std::u16string>& paths) {
+  auto sent = SentOf(record);
+  if (!sent) return true;
+  if (machine.Programs().Lingering(sent->program)) return false;
+  return ReprendreTout(machine.FileSystem(), *sent, [&](const std::u16string& result) {
+    auto copy = CopierFichier(machine, result);
+    if (copy) paths.push_back(*copy);
+    return copy.has_value();
+  });
+}
+
 }  // namespace
 
 std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_view name,
@@ -126,7 +151,10 @@ void GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
     if (copy) paths.push_back(*copy);
     return true;  // the next form may find a place
   };
-  for (WorkSent sent : left) ReprendreTout(machine.FileSystem(), sent, keep);
+  for (WorkSent sent : left) {
+    ReprendreTout(machine.FileSystem(), sent, keep);
+    LeaveRecord(machine, sent);
+  }
   if (!paths.empty()) machine.Windows().Show(BoxFor(Cause::FichierModifie, paths), nullptr);
 }
 
@@ -134,6 +162,7 @@ void RetrouverNotes(EditorWindow& editor) {
   Platform& machine = editor.Services();
   std::vector<std::u16string> paths;
   machine.State().HandOverLeft([&](const LeftCopy& left) {
+    if (IsRecord(left)) return KeepLate(machine, left, paths);
     if (IsStored(machine.FileSystem(), left)) return true;
     const auto path = EcrireSecours(machine, left.origin, left.bytes);
     if (path) paths.push_back(*path);

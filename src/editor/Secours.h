@@ -30,8 +30,9 @@ bool GarderNote(EditorWindow& editor, Cause cause);
 /// goes, and tells of them in one box.
 void GarderRetours(Platform& machine, const std::vector<WorkSent>& left);
 
-/// Makes rescue copies of the notes that dead programs left, and tells of them in one box. One that
-/// its file holds already is none; one that can be written nowhere stays for the next start.
+/// Makes rescue copies of the notes that dead programs left, and of what other programs have saved
+/// for them since, and tells of them in one box. A note that its file holds already is none; what
+/// can be written nowhere stays for the next start.
 void RetrouverNotes(EditorWindow& editor);
 
 }  // namespace lumenote

@@ -9,6 +9,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "extapps/WorkCopies.h"
+#include "extapps/WorkRecord.h"
 #include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -214,9 +215,13 @@ void RoundTrip::StartProgram() {
   if (!workWritten_ || !Disk().Exists(workFile_)) return GiveUp();
   editor_.SuspendreDessus();
   const WorkTrace out = TraceDe(Disk(), workFile_);
-  sent_ = WorkSent{
-      .path = workFile_, .time = out.time, .folder = ProgramCopies(), .old = old_, .process = 0};
+  sent_ = WorkSent{.program = ProgramPath(),
+                   .path = workFile_,
+                   .time = out.time,
+                   .folder = ProgramCopies(),
+                   .old = old_};
   sent_->old.push_back(out);
+  Record(editor_.Services().State(), *sent_);
   process_ = processes_.Start(CommandLine());
   sent_->process = process_;
 }

@@ -2,6 +2,7 @@
 #pragma once
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,7 @@
 namespace lumenote {
 
 class Files;
+class NoteCopy;
 
 /// A file as it was when somebody looked: its modification time.
 struct WorkTrace {
@@ -20,11 +22,13 @@ using WorkTraces = std::vector<WorkTrace>;
 
 /// A work file that a program was started on.
 struct WorkSent {
+  std::u16string program = {};
   std::u16string path;
   std::int64_t time = 0;  // of its modification, as it went out
   std::u16string folder;  // where the program leaves copies of its own; empty for none
-  WorkTraces old;         // what lay about before and is no result
+  WorkTraces old = {};    // what lay about before and is no result
   std::int64_t process = 0;
+  std::shared_ptr<NoteCopy> record = {};  // of all this, for the next start; null for none
 };
 
 /// Deletes the copies of the note at `document`, and those under the common name, that an earlier

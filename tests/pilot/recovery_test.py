@@ -72,6 +72,26 @@ class Recovery(SandboxTest):
         self.assertEqual(self.found(), [])
         self.assertEqual((self.documents(), self.copies()), (copies, []))
 
+    def send_out(self):
+        """An editor that has died while another program works on its note: the work file."""
+        (self.root / "c/n").mkdir(parents=True, exist_ok=True)
+        program = self.start()
+        program.tell('program "C:\\\\Program Files\\\\qjot\\\\qjot.exe"')
+        program.open("C:\\n\\a.txt")
+        program.do("click Co_Rtf.mnuPopQjot", "tick 1000", "started")
+        program.kill()
+        return self.root / "c/Temp/Sava.txt"
+
+    def test_what_a_program_saves_for_a_dead_editor_is_found(self):
+        work = self.send_out()
+        self.assertEqual(self.found(), [])
+        self.send_out()
+        work.write_bytes(b"retour")
+        self.assertEqual(self.found(), [["Note retrouv\u00e9e apr\u00e8s un arr\u00eat",
+                                         "Copie de secours :", "C:\\Documents\\Secours_Sava.txt"]])
+        self.assertEqual(self.documents()["Secours_Sava.txt"], b"retour")
+        self.assertEqual((self.found(), self.copies()), ([], []))
+
     def test_two_starts_at_once_share_what_was_left(self):
         (self.root / "c/n").mkdir(parents=True)
         names = [f"C:\\n\\{letter}.txt" for letter in "abcdefgh"]
