@@ -1,6 +1,7 @@
 #include "SuddenEnds.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -35,11 +36,18 @@ void EndBySignal() {
   std::raise(number);
 }
 
-// The session is not kept waiting by questions.
-void EndWithSession() {
-  Keep();
-  std::_Exit(0);
-}
+/// Nobody but the desktop asks this program to quit, at the session's end, which questions would
+/// keep waiting.
+class QuitFilter final : public QObject {
+ public:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (object == qGuiApp && event->type() == QEvent::Quit) {
+      Keep();
+      std::_Exit(0);
+    }
+    return false;
+  }
+};
 
 /// What the program was started to ignore stays ignored.
 void Handle(void (*handler)(int)) {
@@ -60,13 +68,12 @@ SuddenEnds::SuddenEnds(std::function<void()> keep) {
   theKeep = std::move(keep);
   signals_ = std::make_unique<QSocketNotifier>(thePipe[0], QSocketNotifier::Read);
   QObject::connect(signals_.get(), &QSocketNotifier::activated, &EndBySignal);
-  session_ = QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp,
-                              &EndWithSession, Qt::DirectConnection);
+  session_ = std::make_unique<QuitFilter>();
+  qGuiApp->installEventFilter(session_.get());
   Handle(&TellSignal);
 }
 
 SuddenEnds::~SuddenEnds() {
   Handle(SIG_DFL);
-  QObject::disconnect(session_);
   theKeep = nullptr;
 }

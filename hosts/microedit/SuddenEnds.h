@@ -16,5 +16,5 @@ class SuddenEnds {
 
  private:
   std::unique_ptr<QSocketNotifier> signals_;
-  QMetaObject::Connection session_;
+  std::unique_ptr<QObject> session_;
 };

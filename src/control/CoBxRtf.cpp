@@ -106,11 +106,7 @@ CoBxRtf::~CoBxRtf() {
     parts_->closed = nullptr;
     Co_Rtf* editor = parts_->editor.Loaded();
     if (editor) editor->Values().noteReplaced = true;  // nobody reads it any more
-    if (editor && !editor->Unload() && !editor->IsUnloading()) {
-      editor->KeepUnsaved();
-      editor->Values().closed = true;
-      editor->Discard();
-    }
+    if (editor && !editor->Unload()) editor->Abandon();
     GarderRetours(parts_->windows.Machine(), parts_->workLeft);
   };
   IgnoringErrors([&] { Named(u"~CoBxRtf", close); });
@@ -199,7 +195,7 @@ void CoBxRtf::HostWindow(std::uintptr_t window) {
 }
 
 void CoBxRtf::KeepUnsaved() {
-  if (Co_Rtf* editor = parts_->editor.Loaded()) editor->KeepUnsaved();
+  if (Co_Rtf* editor = parts_->editor.Loaded()) editor->Keep();
 }
 
 }  // namespace lumenote

@@ -13,6 +13,7 @@ std::unique_ptr<Co_Rtf> Component::MakeEditor() {
   auto window = std::make_unique<Co_Rtf>(windows, session, *temp, workLeft);
   window->HostWindow(hostWindow);
   window->Unloaded = [this] {
+    session->closed = true;       // one that was abandoned has not said so
     const auto handler = closed;  // the host may destroy the control in it
     if (handler) handler();
   };

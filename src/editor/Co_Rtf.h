@@ -57,9 +57,6 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
   void ShowStatus(int panel, std::u16string_view text) override { Bar_Etat.Panel(panel, text); }
   void ShowFormat(std::u16string_view text) override { Lb_Format.Caption(text); }
 
-  /// Brings the recovery copy of an edited note up to date, for a program that has to end.
-  void KeepUnsaved() { recovery_.WriteNow(); }
-
   /// Mode 1 shows the menu bar, 2 hides it, 3 toggles it; then the layout follows.
   void AfficheBarreMenu(int mode);
 
@@ -71,6 +68,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
   void Form_Resize() override;
   bool Form_QueryUnload() override;
   void Form_Unload() override;
+  void Form_Keep() override { recovery_.WriteNow(); }
   bool Form_KeyDown(const KeyStroke& key) override;
 
   void OpenNote();

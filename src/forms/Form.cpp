@@ -182,9 +182,16 @@ bool Form::Unload() {
   return true;
 }
 
-void Form::Discard() {
+void Form::Keep() {
+  Raise([this] { Form_Keep(); });
+}
+
+void Form::Abandon() {
+  if (!loaded_ || unloading_) return;
   const InUse use(*this);
+  Keep();
   TakeDown();
+  if (Unloaded) Unloaded();
 }
 
 void Form::TakeDown() {

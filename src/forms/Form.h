@@ -76,9 +76,11 @@ class Form : public Element, public Container {
   /// Raises QueryUnload, which may refuse, and Unload at once, then leaves the list of windows. A
   /// form that is not loaded, or is unloading already, is left alone. False when the window stays.
   bool Unload();
-  /// Takes the window down without its events, for a keeper that goes whatever the window says. Not
-  /// while the form is unloading.
-  void Discard();
+  /// Keeps what the window holds for the next start, since the program may end at any moment.
+  void Keep();
+  /// Takes the window down whatever it says to that, once what it holds is kept. One that is
+  /// unloading is left alone.
+  void Abandon();
 
   /// What Return and Escape click, where the control with the keyboard has no use for them; null
   /// for none. A button that is disabled or hidden is not clicked.
@@ -152,6 +154,7 @@ class Form : public Element, public Container {
   /// Whether the window may go.
   virtual bool Form_QueryUnload() { return true; }
   virtual void Form_Unload() {}
+  virtual void Form_Keep() {}
 
  private:
   friend class Element;

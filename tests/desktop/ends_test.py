@@ -1,19 +1,22 @@
 #!/usr/bin/env python3
 """Ends of the program that nobody asks the user about: the text is there at the next start.
 
-usage: ends_test.py MICROEDIT    status 77 when the desktop cannot be had
+usage: ends_test.py MICROEDIT NOTES_HOST    status 77 when the desktop cannot be had
 """
 import os
 import signal
 import sys
 
-from rig import Desktop, main
+from rig import Desktop, Host, main
+from session import Session
 
-MICROEDIT = os.path.abspath(sys.argv.pop(1))
+MICROEDIT, NOTES_HOST = map(os.path.abspath, (sys.argv.pop(1), sys.argv.pop(1)))
 COPIES = ".local/state/lumenote/owner-*/*.note"
 
 
 class Ends(Desktop):
+    session = None
+
     def setUp(self):
         super().setUp()
         (self.home / "Documents").mkdir()
@@ -81,6 +84,36 @@ class Ends(Desktop):
         program.kill()
         program.wait()
         self.starts_again()
+
+    def join_session(self):
+        Ends.session = Ends.session or Session()
+        self.env["SESSION_MANAGER"] = self.session.address
+
+    def end_session(self):
+        self.wait(lambda: self.session.programs, "the program in the session")
+        self.session.ending.set()
+
+    def test_the_end_of_the_session(self):
+        self.join_session()
+        program = self.edit()
+        self.end_session()
+        self.assertEqual(program.wait(60), 0)
+        del self.env["SESSION_MANAGER"]
+        self.starts_again()
+
+    def test_a_host_without_a_place_for_its_note_does_not_hold_the_session_up(self):
+        self.join_session()
+        folder = self.home / "c" / "notes"
+        folder.mkdir(parents=True)
+        host = Host(self, NOTES_HOST, "C:\\notes\\note.rtf")
+        host.tell("wait 1")
+        self.type(self.front("Note 1"), "x")
+        host.waits_for("text 1", "x")
+        self.leave_no_place(folder)
+        self.end_session()
+        self.keys(self.front("notes_host"), "Return")
+        self.assertEqual(host.process.wait(60), 0)
+        self.assertEqual(host.lines()[-2:], ["ok", "ended"])
 
     def test_a_lost_display(self):
         program = self.edit()

@@ -98,6 +98,14 @@ class Desktop(unittest.TestCase):
         for desktop in ("1", "0"):
             self.wait(lambda: self.switch_to(desktop), "the window manager")
 
+    def leave_no_place(self, folder):
+        """From now on neither the note in `folder` nor a rescue copy can be written."""
+        shutil.rmtree(folder)
+        (self.home / ".config").mkdir(exist_ok=True)
+        (self.home / ".config" / "user-dirs.dirs").write_text('XDG_DOCUMENTS_DIR="/proc"\n')
+        shutil.rmtree(self.home / ".local", ignore_errors=True)
+        (self.home / ".local").touch()
+
     def switch_to(self, desktop):
         self.run_x("xdotool", "set_desktop", desktop)
         return self.run_x("xdotool", "get_desktop").strip() == desktop

@@ -1,7 +1,7 @@
 #include "backends/qt/QtBackend.h"
 
-#include <QCoreApplication>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <algorithm>
 #include <utility>
 
@@ -27,7 +27,8 @@ std::unique_ptr<FormPeer> QtBackend::Realise(Form& form) {
 void QtBackend::CloseForms() {
   const std::vector<Form*> open = forms_;
   for (auto form = open.rbegin(); form != open.rend(); ++form)
-    if (std::find(forms_.begin(), forms_.end(), *form) != forms_.end()) (*form)->Unload();
+    if (std::find(forms_.begin(), forms_.end(), *form) != forms_.end() && !(*form)->Unload())
+      (*form)->Abandon();
 }
 
 std::unique_ptr<RichTextSurface> QtBackend::MakeSurface(RichTextBox& box, Clipboard& clipboard,
@@ -68,6 +69,8 @@ QtBackend::QtBackend() {
   awaiting_.setSingleShot(true);
   awaiting_.setInterval(kActivationTime);
   QObject::connect(&awaiting_, &QTimer::timeout, [this] { EndAwaiting(); });
+  QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &awaiting_,
+                   [this] { SessionEnds(); });
 }
 
 // What the desktop still has to say about windows that were activated before is no news: it would
@@ -97,9 +100,23 @@ void QtBackend::EndAwaiting() {
 
 // Whoever uses a window has it in front of him, whatever the desktop still has to say.
 void QtBackend::Used(Form& form) {
+  sessionEnds_ = false;  // it goes on after all
   if (form.Windows().Active() == &form) return;
   Activating(form);
   form.UserActivate();
+}
+
+// --- the session's end
+
+// The windows are asked to close a moment later, unless the user calls it off.
+void QtBackend::SessionEnds() {
+  sessionEnds_ = true;
+  for (Form* form : forms_) form->Keep();
+}
+
+// A note that can be kept nowhere holds its window, but not the system.
+void QtBackend::Refused(Form& form) {
+  if (sessionEnds_) form.Abandon();
 }
 
 void QtBackend::Gone(Form& form) {

@@ -33,7 +33,8 @@ class QtBackend final : public Backend, private PeerServices {
   WidgetRegistry& Widgets() override { return widgets_; }
   void Used(Form& form) override;
 
-  /// Closes the windows that are still there as the user would, the latest first.
+  /// Closes the windows that are still there as the user would, the latest first; what refuses goes
+  /// all the same.
   void CloseForms();
 
  private:
@@ -48,6 +49,8 @@ class QtBackend final : public Backend, private PeerServices {
   void NativelyActive(Form& form) override;
   void Activating(Form& form) override;
   void EndAwaiting();
+  void SessionEnds();
+  void Refused(Form& form) override;
   void Gone(Form& form) override;
 
   WidgetRegistry widgets_;
@@ -58,6 +61,7 @@ class QtBackend final : public Backend, private PeerServices {
   Form* awaited_ = nullptr;     // told to become active, not so yet
   Form* passedOver_ = nullptr;  // the latest that has become active meanwhile
   QTimer awaiting_;
+  bool sessionEnds_ = false;  // the desktop has asked for what is unsaved
 };
 
 }  // namespace lumenote

@@ -136,6 +136,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 // of the session wait for.
 void FormWindow::closeEvent(QCloseEvent* event) {
   if (form_) form_->UserClose();
+  if (form_) listener_.Refused(*form_);
   event->setAccepted(!form_);
 }
 

@@ -18,6 +18,8 @@ class ActivationListener {
   virtual void NativelyActive(Form& form) = 0;
   /// A button or key is about to go down in the window.
   virtual void Used(Form& form) = 0;
+  /// The window was asked to close, and the form stays.
+  virtual void Refused(Form& form) = 0;
 };
 
 /// Does nothing any more after `Detach`, since the form may be gone while the widget's own events
