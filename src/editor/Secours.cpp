@@ -86,27 +86,34 @@ bool IsStored(const Files& files, const LeftCopy& copy) {
          bytes == copy.bytes;
 }
 
-/// A program that goes on may save yet: its record waits for another start, after the results that
-/// were kept now.
+/// Leaves the record for the next start, less the results that have been kept by now.
 void LeaveRecord(Platform& machine, WorkSent& sent) {
-  bool running = true;
-  IgnoringErrors([&] { running = machine.Programs().IsRunning(sent.process); });
-  if (!running) return;
   Record(machine.State(), sent);
   if (sent.record) sent.record->Leave();
 }
 
-/// Keeps what a program has saved for an editor that died. False when the record has to wait, for
-/// the program's end or for a place.
-bool KeepLate(Platform& machine, const LeftCopy& record, std::vector<std::u16string>& paths) {
-  auto sent = SentOf(record);
-  if (!sent) return true;
-  if (machine.Programs().Lingering(sent->program)) return false;
-  return ReprendreTout(machine.FileSystem(), *sent, [&](const std::u16string& result) {
+/// Whether the program may save yet.
+bool GoesOn(Platform& machine, const WorkSent& sent) {
+  bool running = true;
+  IgnoringErrors([&] { running = machine.Programs().IsRunning(sent.process); });
+  return running;
+}
+
+/// Adds the paths of rescue copies of what a program has saved; false when one could not be made.
+bool KeepResults(Platform& machine, WorkSent& sent, std::vector<std::u16string>& paths) {
+  return ReprendreTout(machine.FileSystem(), sent, [&](const std::u16string& result) {
     auto copy = CopierFichier(machine, result);
     if (copy) paths.push_back(*copy);
     return copy.has_value();
   });
+}
+
+/// The same for an editor that died. False when the record has to wait, for the program's end or
+/// for a place.
+bool KeepLate(Platform& machine, const LeftCopy& record, std::vector<std::u16string>& paths) {
+  auto sent = SentOf(record);
+  if (!sent) return true;
+  return !machine.Programs().Lingering(sent->program) && KeepResults(machine, *sent, paths);
 }
 
 }  // namespace
@@ -144,18 +151,16 @@ bool GarderNote(EditorWindow& editor, Cause cause) {
   return path.has_value();
 }
 
-void GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
+bool GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
   std::vector<std::u16string> paths;
-  const auto keep = [&](const std::u16string& result) {
-    auto copy = CopierFichier(machine, result);
-    if (copy) paths.push_back(*copy);
-    return true;  // the next form may find a place
-  };
+  bool all = true;
   for (WorkSent sent : left) {
-    ReprendreTout(machine.FileSystem(), sent, keep);
-    LeaveRecord(machine, sent);
+    const bool kept = KeepResults(machine, sent, paths);
+    if (!kept || GoesOn(machine, sent)) LeaveRecord(machine, sent);
+    all = all && kept;
   }
   if (!paths.empty()) machine.Windows().Show(BoxFor(Cause::FichierModifie, paths), nullptr);
+  return all;
 }
 
 void RetrouverNotes(EditorWindow& editor) {

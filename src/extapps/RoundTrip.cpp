@@ -308,6 +308,10 @@ bool RoundTrip::KeepTyped() {
 
 // --- what comes too late
 
+RoundTrip::~RoundTrip() {
+  IgnoringErrors([this] { WithMemoryErrors([this] { Leave(); }); });
+}
+
 void RoundTrip::Leave() {
   if (!sent_) return;
   left_.push_back(*sent_);

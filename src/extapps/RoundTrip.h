@@ -51,6 +51,8 @@ class RoundTrip {
   RoundTrip(EditorWindow& editor, RoundTripDesk& desk, const ProgramTable& programs,
             Processes& processes, std::vector<WorkSent>& left)
       : editor_(editor), desk_(desk), programs_(programs), processes_(processes), left_(left) {}
+  /// An editor that never closed leaves it all the same.
+  ~RoundTrip();
   RoundTrip(const RoundTrip&) = delete;
   RoundTrip& operator=(const RoundTrip&) = delete;
 

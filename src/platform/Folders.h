@@ -13,6 +13,8 @@ class TempFolder {
   /// A drive-letter path as the platform reports it, ending in a backslash; empty while there can
   /// be none.
   virtual std::u16string Path() const = 0;
+  /// Leaves the folder behind for a while, since the next start will look for something in it.
+  virtual void Keep() = 0;
 };
 
 class Folders {

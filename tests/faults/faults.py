@@ -94,7 +94,9 @@ class Sandbox:
         return self.texts("c/Documents/Secours_*", "state/rescue/*")
 
     def backups(self):
-        return self.texts("state/owner-*/*.note")
+        """Not the records of work files, whose origin is "*"."""
+        return [copy.read_text("cp1252") for copy in self.root.glob("state/owner-*/*.note")
+                if copy.with_suffix(".origin").read_text() != "*"]
 
 
 def require(holds, what):
@@ -155,9 +157,11 @@ def check_kill(sandbox):
     torn = note not in (OLD, NEW, RESULT)
     require(not torn or OLD in sandbox.backups(), f"torn: {note!r}")
     backup = bool(sandbox.backups())
+    result = note != RESULT and RESULT in sandbox.texts("c/Temp/Sav*")
     done, lines = sandbox.run(SAVE)
     require(done.returncode == 0 and sandbox.note() == "nouveau " + note, "not usable again")
     require(not backup or note == OLD or OLD in sandbox.rescued(), "no rescue copy of the backup")
+    require(not result or RESULT in sandbox.rescued(), "result lost")
     return "torn, rescue copy" if torn else "old" if note == OLD else "new"
 
 

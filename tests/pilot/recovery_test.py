@@ -73,24 +73,38 @@ class Recovery(SandboxTest):
         self.assertEqual((self.documents(), self.copies()), (copies, []))
 
     def send_out(self):
-        """An editor that has died while another program works on its note: the work file."""
+        """An editor whose note another program works on, and the work file."""
         (self.root / "c/n").mkdir(parents=True, exist_ok=True)
         program = self.start()
         program.tell('program "C:\\\\Program Files\\\\qjot\\\\qjot.exe"')
         program.open("C:\\n\\a.txt")
         program.do("click Co_Rtf.mnuPopQjot", "tick 1000", "started")
-        program.kill()
-        return self.root / "c/Temp/Sava.txt"
+        return program, self.root / "c/Temp/Sava.txt"
 
-    def test_what_a_program_saves_for_a_dead_editor_is_found(self):
-        work = self.send_out()
-        self.assertEqual(self.found(), [])
-        self.send_out()
-        work.write_bytes(b"retour")
+    def finds_the_result(self):
         self.assertEqual(self.found(), [["Note retrouv\u00e9e apr\u00e8s un arr\u00eat",
                                          "Copie de secours :", "C:\\Documents\\Secours_Sava.txt"]])
-        self.assertEqual(self.documents()["Secours_Sava.txt"], b"retour")
+        self.assertEqual(self.documents(), {"Secours_Sava.txt": b"retour"})
         self.assertEqual((self.found(), self.copies()), ([], []))
+
+    def test_what_a_program_saves_for_a_dead_editor_is_found(self):
+        program, work = self.send_out()
+        program.kill()
+        self.assertEqual(self.found(), [])
+        program, work = self.send_out()
+        program.kill()
+        work.write_bytes(b"retour")
+        self.finds_the_result()
+
+    def test_a_result_that_finds_no_place_waits_for_another_start(self):
+        program, work = self.send_out()
+        program.do("click Co_Rtf.mnuPopQuitter", "forms")
+        work.write_bytes(b"retour")
+        self.obstruct()
+        program.do("finish", "forms")
+        program.end()
+        self.clear()
+        self.finds_the_result()
 
     def test_two_starts_at_once_share_what_was_left(self):
         (self.root / "c/n").mkdir(parents=True)
@@ -109,19 +123,25 @@ class Recovery(SandboxTest):
         self.assertEqual(self.copies(), [b"z"])
         living.kill()
 
+    def places(self):
+        return [self.root / place for place in ("c/Documents", "state/rescue")]
+
+    def obstruct(self):
+        """Leaves no place for rescue copies."""
+        for place in self.places():
+            shutil.rmtree(place, ignore_errors=True)
+            place.write_text("in the way")
+
+    def clear(self):
+        for place in self.places():
+            place.unlink()
+        self.places()[0].mkdir()
+
     def test_what_cannot_be_rescued_stays_for_another_start(self):
         self.edit("abc").kill()
-        places = [self.root / place for place in ("c/Documents", "state/rescue")]
-
-        def obstruct():
-            for place in places:
-                shutil.rmtree(place, ignore_errors=True)
-                place.write_text("in the way")
-
-        self.assertEqual(self.found(obstruct), [])
+        self.assertEqual(self.found(self.obstruct), [])
         self.assertEqual(self.copies(), [b"xabc"])
-        for place in places:
-            place.unlink()
+        self.clear()
         self.assertEqual(len(self.found()), 1)
 
 

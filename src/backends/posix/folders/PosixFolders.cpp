@@ -27,6 +27,9 @@ class PosixFolders::Temp final : public TempFolder {
     const std::u16string path = DrivePathOrNone(owner_.drives_, folder_->Path());
     return path.empty() ? path : path + u"\\";
   }
+  void Keep() override {
+    if (folder_) folder_->Keep();
+  }
 
  private:
   PosixFolders& owner_;

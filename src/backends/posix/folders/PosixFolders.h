@@ -52,6 +52,7 @@ class FixedFolders : public Folders {
    public:
     explicit Temp(std::u16string path) : path_(std::move(path)) {}
     std::u16string Path() const override { return path_; }
+    void Keep() override {}
 
    private:
     std::u16string path_;
