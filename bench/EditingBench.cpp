@@ -24,7 +24,7 @@ struct Desk {
 };
 
 void LoadLargeNote(Desk& desk) {
-  desk.surface.TextRTF(UnitsOfBytes(RtfNote(NoteShape::Rich, kLargeNote)));
+  desk.surface.TextRTF(UnitsOfBytes(NoteSource(NoteShape::Rich, kLargeNote)));
 }
 
 /// To the end of the note, in vain, case ignored.

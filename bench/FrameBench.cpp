@@ -187,7 +187,7 @@ int main(int argc, char** argv) {
               "key at the top", "the middle", "the end", "up key", "page up", "scroll", "a slice",
               "its key");
   ForEachNote([](NoteShape shape, int bytes, const std::string& name) {
-    Measure(RtfNote(shape, bytes), name);
+    Measure(NoteSource(shape, bytes), name);
   });
   Measure(PictureNote(20'000'000), "picture/20m");
 }

@@ -225,7 +225,7 @@ const Note& NoteOf(NoteShape shape, int bytes) {
 
 }  // namespace
 
-const std::string& RtfNote(NoteShape shape, int bytes) { return NoteOf(shape, bytes).rtf; }
+const std::string& NoteSource(NoteShape shape, int bytes) { return NoteOf(shape, bytes).rtf; }
 
 Document NoteDocument(NoteShape shape, int bytes) {
   const Note& note = NoteOf(shape, bytes);

@@ -14,7 +14,7 @@ enum class NoteShape {
 };
 
 /// The note as RTF, about `bytes` long. The note made last is kept: ask for one after another.
-const std::string& RtfNote(NoteShape shape, int bytes);
+const std::string& NoteSource(NoteShape shape, int bytes);
 
 /// A new document with the same content; no leaf of it is shared.
 Document NoteDocument(NoteShape shape, int bytes);

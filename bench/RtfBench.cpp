@@ -16,7 +16,7 @@ void CountBytes(benchmark::State& state, std::size_t bytes) {
 }
 
 void ScanRtf(benchmark::State& state, NoteShape shape, int bytes) {
-  const std::string& rtf = RtfNote(shape, bytes);
+  const std::string& rtf = NoteSource(shape, bytes);
   for (auto _ : state) benchmark::DoNotOptimize(CountBackslashes(rtf));
   CountBytes(state, rtf.size());
 }
@@ -27,7 +27,7 @@ void CompareWithScan(benchmark::State& state, const std::string& rtf) {
 }
 
 void LoadRtf(benchmark::State& state, NoteShape shape, int bytes) {
-  const std::string& rtf = RtfNote(shape, bytes);
+  const std::string& rtf = NoteSource(shape, bytes);
   for (auto _ : state) {
     FormatTables formats;
     benchmark::DoNotOptimize(ReadRtf(rtf, formats, RtfTarget::Document));
@@ -41,7 +41,7 @@ std::size_t BytesInUse() {
 }
 
 void Memory(benchmark::State& state, NoteShape shape, int bytes) {
-  const std::string& rtf = RtfNote(shape, bytes);
+  const std::string& rtf = NoteSource(shape, bytes);
   for (auto _ : state) {
     const std::size_t before = BytesInUse();
     FormatTables formats;
