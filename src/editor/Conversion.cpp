@@ -25,8 +25,9 @@ FileState Exchange(NoteWindow& editor, std::u16string_view path, FileType type) 
   std::optional<std::string> before;
   if (files.Exists(path)) before = files.ReadAll(path);
   try {
-    editor.Document().SaveFile(path, type);
-    return StateOf(path, editor.Document().LoadFile(path, type));
+    FileState state = StateOf(path, editor.Document().SaveFile(path, type));
+    editor.Document().LoadFile(path, type);  // the last step that can fail
+    return state;
   } catch (...) {
     IgnoringErrors([&] { before ? files.Write(path, *before) : files.Delete(path, true); });
     throw;

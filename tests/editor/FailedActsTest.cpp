@@ -29,7 +29,7 @@ class Desk : public HostTest {
 
   /// What the user and the host have of the note.
   std::u16string State() {
-    return IsOpen() ? Values().documentPath + Editor().Document().TextRTF() : u"closed";
+    return control && IsOpen() ? Values().documentPath + Editor().Document().TextRTF() : u"closed";
   }
   /// Runs the act with one allocation failing; whether there are so many.
   bool FailsAt(long number, const Act& act) {
@@ -41,12 +41,17 @@ class Desk : public HostTest {
     }
     return failing.HasFailed();
   }
+  CoBxRtf& Control() {
+    if (!control) control = MakeControl();
+    return *control;
+  }
   bool IsTold() {
-    return raised_ || !Boxes().empty() || (IsOpen() && !Editor().Bar_Etat.Panel(2).empty());
+    return raised_ || !Boxes().empty() ||
+           (control && IsOpen() && !Editor().Bar_Etat.Panel(2).empty());
   }
   /// Closes what is open; whether what was typed is the host's or on the disk.
   bool KeepsTyped() {
-    const std::u16string note = control->pStrOrchm();
+    const std::u16string note = Control().pStrOrchm();
     bool kept = note.find(u"SAISI") != note.npos;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {
       if (!entry.is_regular_file()) continue;
@@ -88,7 +93,7 @@ const Desk::Act Desk::kActs[] = {
     {"quit", [](Desk& d) { d.Choose(&ContextMenu::mnuPopQuitter); }},
     {"close box", [](Desk& d) { d.Editor().UserClose(); }},
     {"note", [](Desk& d) { d.control->pStrOrchm(); }},
-    {"control goes", [](Desk& d) { d.control.reset(), d.control = d.MakeControl(); }},
+    {"control goes", [](Desk& d) { d.control.reset(); }},
     {"context menu",
      [](Desk& d) {
        d.Editor().Bx_RTF.UserMouseUp({MouseButton::Right, {9, 9}});
