@@ -112,10 +112,10 @@ class Desk {
       std::fwrite(bytes.data(), 1, bytes.size(), file.get());
     };
     std::pair<double, double> longest;
-    std::unique_ptr<ContentWriting> writing;
+    std::unique_ptr<SnapshotWriter> writing;
     for (bool more = true; more;) {
       const std::clock_t start = std::clock();
-      if (!writing) writing = surface.WriteContent(FileType::Rtf, sink);
+      if (!writing) writing = surface.WriteSnapshot(FileType::Rtf, sink);
       while (more && Milliseconds(start) < kSlice) more = writing->Step();
       if (!more) writing.reset();
       longest.first = std::max(longest.first, Milliseconds(start));

@@ -12,7 +12,7 @@
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "control/Component.h"
 #include "editor/DocumentStorage.h"
 #include "lumenote/CoBxRtf.h"
@@ -79,7 +79,7 @@ void HandOver(CoBxRtf& control, const Files& files, const std::u16string& path, 
   control.pAttribut(u"readonly");
   const std::string bytes = files.ReadAll(path);
   const bool text = FormatDe(path) == u"txt";
-  control.pStrOrchm(DecodeText(bytes, text ? FormOfText(bytes) : TextForm::Windows1252));
+  control.pStrOrchm(DecodeText(bytes, text ? DetectEncoding(bytes) : TextEncoding::Windows1252));
 }
 
 void Describe(CoBxRtf& control, const CommandLine& line) {

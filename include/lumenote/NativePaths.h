@@ -1,19 +1,17 @@
-// The paths of the system and the drive-letter paths that the control speaks everywhere.
+// Converts between native paths and the drive-letter paths that the control uses everywhere.
 #pragma once
 #include <string>
 #include <string_view>
 
 namespace lumenote {
 
-// On POSIX systems Z: is the root folder and C: a folder of the user's own: `$LUMENOTE_DRIVE_C`,
-// else lumenote/drive_c in the user's data folder, which is made when it is missing.
+// On POSIX systems Z: is the root folder and C: is a folder of the user's own: `$LUMENOTE_DRIVE_C`,
+// else lumenote/drive_c in the user's data folder, created when missing.
 
-/// The path that `CoBxRtf` takes for a native one, UTF-8, which may be relative. Raises
-/// PathNotFound (76) for one that no drive-letter path can name: not UTF-8, or with a backslash in
-/// a name.
+/// The drive-letter path of `native` (UTF-8, may be relative). Raises PathNotFound (76) when no
+/// drive-letter path can express it: not UTF-8, or a backslash in a name.
 std::u16string ToDrivePath(std::string_view native);
-/// The native path, UTF-8, of a drive-letter path. Raises PathNotFound (76) where there is no such
-/// drive.
+/// The native path (UTF-8) of a drive-letter path. Raises PathNotFound (76) for an unknown drive.
 std::string ToNativePath(std::u16string_view drivePath);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// A note without a window: read, convert, clean up and write it, in the memory of the program.
+// A note without a window: read, convert, clean up and write it in memory.
 #pragma once
 #include <cstdint>
 #include <memory>
@@ -10,38 +10,38 @@
 
 namespace lumenote {
 
-/// For programs that work on many notes, or on a server. Each note may be used on any thread, by
-/// one at a time. A failed allocation throws std::bad_alloc.
+/// For programs that process many notes, or run on a server. A note may be used on any thread, but
+/// by one thread at a time. A failed allocation throws std::bad_alloc.
 class Note {
  public:
   enum class Format { Rtf, Text };
 
-  /// Whether the bytes of a file begin as RTF does.
+  /// Whether a file with these bytes is RTF.
   static bool IsRtf(std::string_view bytes);
 
-  /// The bytes of a note's file. Plain text is UTF-8, UTF-16 with a mark or code page 1252, as the
-  /// bytes tell. Raises InvalidPropertyValue (380) for `Rtf` where the bytes are no RTF; what is
-  /// damaged behind its beginning is read as far as it goes.
+  /// Reads the bytes of a note's file. Plain text may be UTF-8, UTF-16 with a byte order mark, or
+  /// code page 1252; the encoding is detected. `Rtf` raises InvalidPropertyValue (380) when the
+  /// bytes are not RTF; damaged RTF is read as far as possible.
   Note(std::string_view bytes, Format format);
-  /// The same in the format that the bytes look like.
+  /// Detects the format, too.
   explicit Note(std::string_view bytes) : Note(bytes, IsRtf(bytes) ? Format::Rtf : Format::Text) {}
   ~Note();
   Note(Note&&) noexcept;
   Note& operator=(Note&&) noexcept;
 
-  /// The format it was read in.
+  /// The format that the note was read in.
   Format Source() const;
-  /// Paragraphs end with CR LF, lines within them with VT; what is no text is U+FFFC.
+  /// Paragraphs end with CR LF, lines within them with VT; an embedded object is U+FFFC.
   std::u16string Text() const;
-  /// The note as a file: RTF, or text with CR LF in the form of UTF-8 that it was read in, else in
-  /// code page 1252, as UTF-8 with a mark where that does not go.
+  /// The note as a file: RTF, or text with CR LF line ends in the UTF-8 form it was read in, else
+  /// in code page 1252, or as UTF-8 with a byte order mark if page 1252 lacks a character.
   std::string Bytes(Format format) const;
 
-  /// Cleans up recognised text as the editor does: the pairs of a correction list, given as the
-  /// bytes of its file (code page 1252, a pair `wrong=:=right` a line), then blanks, then one
-  /// format for the whole note. Returns how often each pair was found, in the list's order. Raises
-  /// InvalidArgument (5) at a line of the list without `=:=`, Overflow (6) where the text is, or
-  /// becomes, longer than 32,767 characters; what was replaced before stays so.
+  /// Cleans up recognised text as the editor does: applies the correction list, then tidies spaces,
+  /// then gives the whole note one format. `correctionList` is the list's file: code page 1252, one
+  /// `wrong=:=right` pair per line. Returns how often each pair was found, in list order. Raises
+  /// InvalidArgument (5) for a line without `=:=`, and Overflow (6) if the text is, or becomes,
+  /// longer than 32,767 characters; replacements made before the error remain.
   std::vector<std::int16_t> Clean(std::string_view correctionList);
 
  private:

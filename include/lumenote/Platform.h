@@ -1,4 +1,4 @@
-// Everything the component asks of the machine, in one bundle that a program constructs.
+// Everything the component needs from the machine, in one bundle that a program constructs.
 #pragma once
 
 namespace lumenote {
@@ -14,7 +14,7 @@ class Registry;
 class Settings;
 class StateFolder;
 
-/// Outlives every control made with it.
+/// Must outlive every control created with it.
 class Platform {
  public:
   virtual ~Platform() = default;
@@ -22,11 +22,11 @@ class Platform {
   virtual Settings& UserSettings() = 0;
   virtual Files& FileSystem() = 0;
   virtual Folders& SpecialFolders() = 0;
-  /// What has to outlive a program that dies.
+  /// Storage for what must survive a crash.
   virtual StateFolder& State() = 0;
   virtual Clipboard& SystemClipboard() = 0;
   virtual const Fonts& SystemFonts() = 0;
-  /// Other programs: where they are registered and installed, and running them.
+  /// Other programs: how to find, start and watch them.
   virtual const Registry& MachineRegistry() = 0;
   virtual const ProgramFolders& InstalledPrograms() = 0;
   virtual Processes& Programs() = 0;

@@ -1,4 +1,4 @@
-// The desktop as a program's platform: Qt windows, the user's files, settings and clipboard.
+// The desktop platform: Qt windows, the user's files, settings and clipboard.
 #pragma once
 #include <memory>
 #include <string>
@@ -8,11 +8,11 @@
 
 namespace lumenote {
 
-/// `QtPlatform platform; CoBxRtf control(platform);` is all a host needs. The windows, the
-/// clipboard, the fonts and the programs use the host's QApplication, which may be made after the
-/// platform and go before it: then the editors close as the user would close them. Where there is
-/// none at the first use the platform makes one. They raise InvalidArgument (5) where the
-/// application object is of another kind, or gone, and on another thread than the QApplication's.
+/// `QtPlatform platform; CoBxRtf control(platform);` is all a host needs. Windows, clipboard, fonts
+/// and programs use the host's QApplication, which may be created after the platform and destroyed
+/// before it; the editors then close as the user would close them. If there is none at the first
+/// use, the platform creates one. These members raise InvalidArgument (5) if the application object
+/// is of another kind or already gone, or on any thread but the QApplication's.
 class QtPlatform final : public Platform {
  public:
   QtPlatform();
@@ -29,8 +29,8 @@ class QtPlatform final : public Platform {
   const ProgramFolders& InstalledPrograms() override;
   Processes& Programs() override;
 
-  /// A native path, UTF-8, as the path that the control takes. Raises PathNotFound for one that no
-  /// drive-letter path can name.
+  /// The drive-letter path of a native path (UTF-8). Raises PathNotFound when no drive-letter path
+  /// can express it.
   std::u16string ToDrivePath(std::string_view native) const;
 
  private:
@@ -39,7 +39,7 @@ class QtPlatform final : public Platform {
   Desktop& OnDesktop();
 
   std::unique_ptr<Parts> parts_;
-  std::unique_ptr<Desktop> desktop_;  // made at the first use
+  std::unique_ptr<Desktop> desktop_;  // created at the first use
 };
 
 }  // namespace lumenote

@@ -22,21 +22,21 @@ enum class ErrorNumber : int {
   Printer = 482,
 };
 
-/// The one exception that crosses the component: a number and its French description. Raised by
-/// procedures, shown in a critical box at an event's edge, handed to the host by `CoBxRtf`.
-/// `what()` is the description in UTF-8.
+/// The component's only exception: a number and its French description (`what()` is the same in
+/// UTF-8). Procedures raise it; an event's edge shows it in a critical box; `CoBxRtf` passes it to
+/// the host.
 class RuntimeError : public std::runtime_error {
  public:
-  /// The number's own description.
+  /// Uses the number's standard description.
   explicit RuntimeError(ErrorNumber number);
   RuntimeError(ErrorNumber number, std::u16string description);
 
   int Number() const { return static_cast<int>(number_); }
   const std::u16string& Description() const { return description_; }
-  /// Which member of the control the error is about ("pCouleurFen"); empty before it has reached
-  /// the control's edge.
+  /// The control's member that raised the error ("pCouleurFen"); empty until the error reaches the
+  /// control's edge.
   const std::u16string& Member() const { return member_; }
-  /// The first name given stays.
+  /// The first name set wins.
   void Member(std::u16string_view name) {
     if (member_.empty()) member_ = name;
   }

@@ -1,4 +1,4 @@
-// The component's strings are UTF-16; these are the ways in and out for hosts that keep UTF-8.
+// Conversions for hosts that keep UTF-8; the component's strings are UTF-16.
 #pragma once
 #include <string>
 #include <string_view>

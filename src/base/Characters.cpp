@@ -1,4 +1,4 @@
-// The tables behind letters and cases.
+// Tables of letters and their other case.
 #include "base/Characters.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 namespace lumenote {
 namespace {
 
-/// Capitals `first`, `first + stride`, ..., `last`, each with its small letter `toSmall` further.
+/// Capitals `first`, `first + stride`, ..., `last`; each small letter is `toSmall` further on.
 struct CasePairs {
   char16_t first;
   char16_t last;
@@ -54,7 +54,7 @@ constexpr CasePairs kCasePairs[] = {
     {0x1FE8, 0x1FE9, 1, -8},   {0x1FEA, 0x1FEB, 1, -112}, {0x1FEC, 0x1FEC, 1, -7},
     {0x1FF8, 0x1FF9, 1, -128}, {0x1FFA, 0x1FFB, 1, -126}, {0x1FFC, 0x1FFC, 1, -9}};
 
-/// One-way mappings: other forms of a letter whose small or capital letter has another partner.
+/// One-way mappings: variants of a letter whose other case maps to another partner.
 struct OneWay {
   char16_t from;
   char16_t to;
@@ -65,7 +65,8 @@ constexpr OneWay kOnlyToSmall[] = {
     {u'ǲ', u'ǳ'}, {u'ϴ', u'θ'}, {u'ẞ', u'ß'},
 };
 
-// The micro sign stays: its capital Greek letter would leave the unit, and the Latin code pages.
+// The micro sign keeps its form: its Greek capital would change the unit of measure, and is in no
+// Latin code page.
 constexpr OneWay kOnlyToCapital[] = {
     {u'ı', u'I'}, {u'ſ', u'S'}, {u'ǅ', u'Ǆ'}, {u'ǈ', u'Ǉ'}, {u'ǋ', u'Ǌ'},
     {u'ǲ', u'Ǳ'}, {u'ς', u'Σ'}, {u'ϐ', u'Β'}, {u'ϑ', u'Θ'}, {u'ϕ', u'Φ'},

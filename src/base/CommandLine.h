@@ -1,4 +1,4 @@
-// Command lines: options by name, operands in order.
+// Parses command lines: options by name, operands in order.
 #pragma once
 #include <map>
 #include <optional>
@@ -10,8 +10,8 @@
 
 namespace lumenote {
 
-/// An option as the user writes it ("--title"); with a value it takes the next argument or what
-/// follows "=".
+/// An option as the user types it ("--title"). If it takes a value, that is the next argument or
+/// whatever follows "=".
 struct OptionRule {
   std::string_view name;
   bool takesValue = false;
@@ -23,17 +23,17 @@ class CommandLineError : public std::runtime_error {
 
 class CommandLine {
  public:
-  /// `arguments` without the program's name. "--" ends the options, "-" is an operand. Raises
+  /// `arguments` excludes the program's name. "--" ends the options; "-" is an operand. Raises
   /// CommandLineError, with a French description, for an unknown option or a missing value.
   CommandLine(std::span<const std::string_view> arguments, std::span<const OptionRule> rules);
 
   bool Has(std::string_view option) const { return options_.contains(option); }
-  /// The option's last value.
+  /// The last value given for the option.
   std::optional<std::string> Value(std::string_view option) const;
   const std::vector<std::string>& Operands() const { return operands_; }
 
  private:
-  /// Takes the option `argument` and, where it wants one, its value from the front of `rest`.
+  /// Consumes the option `argument` and, if it takes a value, that value from the front of `rest`.
   void TakeOption(std::string_view argument, std::span<const std::string_view>& rest,
                   std::span<const OptionRule> rules);
 

@@ -1,4 +1,4 @@
-// Reader and compact writer of JSON.
+// JSON reader and compact JSON writer.
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -13,7 +13,7 @@
 namespace lumenote {
 namespace {
 
-/// Recursive descent over the text; `text_` always starts at what is not read yet.
+/// Recursive descent; `text_` is always the unread rest.
 class JsonReader {
  public:
   explicit JsonReader(std::string_view& text) : text_(text) {}
@@ -45,14 +45,14 @@ class JsonReader {
 
   [[noreturn]] static void Fail(const char* what) { throw JsonError(what); }
 
-  /// The next character that is no blank, NUL at the end of the text.
+  /// The next character that is not white space; NUL at the end of the text.
   char Peek() {
     const std::size_t start = text_.find_first_not_of(" \t\r\n");
     text_.remove_prefix(std::min(start, text_.size()));
     return text_.empty() ? '\0' : text_[0];
   }
 
-  /// Whether `c` comes next, blanks before it allowed; it is then read.
+  /// Consumes `c` if it comes next, after optional white space.
   bool Take(char c) {
     if (Peek() != c) return false;
     text_.remove_prefix(1);
@@ -113,7 +113,7 @@ class JsonReader {
     }
   }
 
-  /// Count of the bytes before the next quote, backslash or control character.
+  /// Number of bytes before the next quote, backslash or control character.
   std::size_t PlainLength() const {
     std::size_t length = 0;
     while (length < text_.size() && text_[length] != '"' && text_[length] != '\\' &&
@@ -135,7 +135,7 @@ class JsonReader {
     return kMeanings[which];
   }
 
-  /// The four hexadecimal digits of an escaped UTF-16 unit; halves of a pair come one by one.
+  /// Reads the four hexadecimal digits of \uXXXX; a surrogate pair takes two calls.
   char16_t ReadUnit() {
     const std::optional<char16_t> unit = UnitFromHex(text_);
     if (!unit) Fail("bad \\u escape");
@@ -148,7 +148,7 @@ class JsonReader {
     return std::min(end, text_.size());
   }
 
-  /// Where the number at the start of the text ends, by JSON's own grammar.
+  /// Length of the number at the start of the text, by JSON's grammar.
   std::size_t NumberLength() const {
     const auto at = [&](std::size_t i) { return i < text_.size() ? text_[i] : '\0'; };
     const auto digits = [&](std::size_t i) {
@@ -180,7 +180,7 @@ class JsonReader {
   std::string_view& text_;
 };
 
-/// Appends the compact form of values to `out`.
+/// Appends values to `out` in compact form.
 class JsonWriter {
  public:
   explicit JsonWriter(std::string& out) : out_(out) {}
@@ -255,7 +255,7 @@ class JsonWriter {
     out_ += '"';
   }
 
-  /// A surrogate is asked about only when it stands alone.
+  /// Called for a surrogate only when it is unpaired.
   static bool MustEscape(char16_t c) {
     return c < 0x20 || c == u'"' || c == u'\\' || IsSurrogate(c);
   }

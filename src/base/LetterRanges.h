@@ -1,6 +1,5 @@
-// Ranges of the Basic Multilingual Plane by kind of character, after the Unicode Character
-// Database, version 14. Only characters that are not assigned lie between the parts that one range
-// joins.
+// Character ranges of the Basic Multilingual Plane, from the Unicode Character Database, version
+// 14. A range may span unassigned characters, so that neighbouring ranges join.
 #pragma once
 
 namespace lumenote {
@@ -59,7 +58,7 @@ inline constexpr CharacterRange kLetterRanges[] = {
     {0xFBD3, 0xFD3D}, {0xFD50, 0xFDC7}, {0xFDF0, 0xFDFB}, {0xFE70, 0xFEFC}, {0xFF21, 0xFF3A},
     {0xFF41, 0xFF5A}, {0xFF66, 0xFFDC}};
 
-/// The same with M (marks, which combine with a letter) and Nd (decimal digits).
+/// The above plus M (combining marks) and Nd (decimal digits).
 inline constexpr CharacterRange kWordRanges[] = {
     {0x0030, 0x0039}, {0x0041, 0x005A}, {0x0061, 0x007A}, {0x00AA, 0x00AA}, {0x00B5, 0x00B5},
     {0x00BA, 0x00BA}, {0x00C0, 0x00D6}, {0x00D8, 0x00F6}, {0x00F8, 0x02C1}, {0x02C6, 0x02D1},

@@ -1,4 +1,4 @@
-// Checked number conversions and the text forms of numbers.
+// Checked number conversions and numbers as text.
 #include "base/Numbers.h"
 
 #include <algorithm>
@@ -31,14 +31,14 @@ std::u16string_view Trimmed(std::u16string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-/// What lies outside ASCII becomes a '?', which no number holds.
+/// Non-ASCII characters become '?', which no number contains.
 std::string Ascii(std::u16string_view text) {
   std::string ascii;
   for (const char16_t c : text) ascii += c < 0x80 ? static_cast<char>(c) : '?';
   return ascii;
 }
 
-/// The text in the form that `ParseDecimal` takes.
+/// Rewrites the text in the syntax that `ParseDecimal` takes.
 std::string Numeral(std::u16string_view text) {
   std::string numeral = Ascii(text);
   for (char& c : numeral) {
@@ -48,8 +48,8 @@ std::string Numeral(std::u16string_view text) {
   return numeral;
 }
 
-/// The power of ten of the first digit other than zero, roughly: only its sign counts, to tell a
-/// numeral too large for a double from one too small.
+/// Approximate power of ten of the first nonzero digit. Only its sign matters: it tells a numeral
+/// too large for a double from one too small.
 std::int64_t Magnitude(std::string_view numeral) {
   const std::size_t exponentMark = std::min(numeral.find_first_of("eE"), numeral.size());
   const std::string_view mantissa = numeral.substr(0, exponentMark);
@@ -67,7 +67,7 @@ std::int64_t Magnitude(std::string_view numeral) {
   return point - lead + power;
 }
 
-/// The 32 bits behind "&H".
+/// The 32 bits written after "&H".
 double ParseHexadecimal(std::u16string_view text) {
   const std::string ascii = Ascii(text);
   std::string_view digits = ascii;
@@ -102,7 +102,7 @@ std::int32_t Sum32(std::int32_t one, std::int32_t other) {
 
 double ParseDecimal(std::string_view numeral) {
   const std::size_t first = numeral.starts_with('-') ? 1 : 0;
-  // Names of infinity and of no number are none of ours.
+  // from_chars would accept "inf" and "nan".
   if (numeral.size() == first || (!IsDigit(numeral[first]) && numeral[first] != '.')) {
     throw RuntimeError(ErrorNumber::TypeMismatch);
   }

@@ -4,10 +4,10 @@
 
 namespace lumenote {
 
-/// A count of UTF-16 units from the start of the text; a paragraph break counts two.
+/// Counts UTF-16 units from the start of the text; a paragraph break counts as two.
 using Position = std::int32_t;
 
-/// A selection: `start` <= `end`.
+/// A selection or range: `start` <= `end`.
 struct Selection {
   Position start = 0;
   Position end = 0;

@@ -1,4 +1,4 @@
-// French descriptions of the run-time errors, as the platform words them.
+// French descriptions of the run-time errors, in the platform's wording.
 #include "base/RuntimeError.h"
 
 #include <utility>

@@ -1,4 +1,4 @@
-// Statements whose run-time errors are made or ignored.
+// Wrappers that translate or ignore the run-time errors of a statement.
 #pragma once
 #include <new>
 
@@ -6,9 +6,9 @@
 
 namespace lumenote {
 
-/// Runs a statement and makes a run-time error of a failed allocation.
+/// Runs a statement; a failed allocation becomes a run-time error.
 template <class Statement>
-void WithMemoryErrors(Statement statement) {
+void TranslateBadAlloc(Statement statement) {
   try {
     statement();
   } catch (const std::bad_alloc&) {
@@ -16,8 +16,8 @@ void WithMemoryErrors(Statement statement) {
   }
 }
 
-/// Runs one statement whose run-time error is ignored; the caller goes on with its next one.
-/// Returns whether the statement went through.
+/// Runs a statement and ignores its run-time error, so that the caller goes on with the next
+/// statement. Returns whether the statement succeeded.
 template <class Statement>
 bool IgnoringErrors(Statement statement) {
   try {

@@ -1,4 +1,4 @@
-// Conversions between UTF-16 and UTF-8, and small text helpers.
+// UTF-8 and UTF-16 conversions, and small text helpers.
 #include "base/Strings.h"
 
 #include <charconv>
@@ -11,8 +11,8 @@ namespace {
 
 constexpr char32_t kReplacement = 0xFFFD;
 
-/// The character at the start of a text, and the count of its units. An ill-formed sequence is as
-/// long as the part of it that could have begun a character, and at least one unit.
+/// The first character of a text and its length in units. For an ill-formed sequence the length is
+/// its longest valid prefix, at least one unit, as Unicode recommends.
 struct Decoded {
   char32_t character;
   std::size_t length;
@@ -28,8 +28,8 @@ Decoded DecodeUtf16(std::u16string_view text) {
   return {first, 1, true};
 }
 
-/// What may follow a lead byte: its count of further bytes and the range of the first of them,
-/// which shuts out overlong forms, surrogates and numbers past U+10FFFF.
+/// What a lead byte requires: the number of trailing bytes, and the range of the first of them,
+/// which excludes overlong forms, surrogates and values above U+10FFFF.
 struct Utf8Lead {
   std::size_t trailing;
   std::uint8_t low;
@@ -115,7 +115,7 @@ bool IsUtf8(std::string_view bytes) {
   return true;
 }
 
-std::u16string_view TrimBlanks(std::u16string_view text) {
+std::u16string_view TrimSpaces(std::u16string_view text) {
   const std::size_t first = text.find_first_not_of(u' ');
   if (first == std::u16string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(u' ') - first + 1);

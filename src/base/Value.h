@@ -1,4 +1,4 @@
-// A JSON value: how members of windows are read and written by name.
+// A JSON value; members of windows are read and written by name in this form.
 #pragma once
 #include <cstddef>
 #include <stdexcept>
@@ -10,7 +10,8 @@
 
 namespace lumenote {
 
-/// Null, boolean, number, string (UTF-16), array, or object with its keys in insertion order.
+/// Null, boolean, number, string (UTF-16), array, or object that keeps the insertion order of its
+/// keys.
 class Value {
  public:
   using Array = std::vector<Value>;
@@ -24,7 +25,7 @@ class Value {
   Value(std::u16string s) : data_(std::move(s)) {}
   Value(std::u16string_view s) : data_(std::u16string(s)) {}
   Value(const char16_t* s) : data_(std::u16string(s)) {}
-  Value(const void*) = delete;  // a pointer, a UTF-8 literal above all, is not a boolean
+  Value(const void*) = delete;  // no pointer, a UTF-8 literal above all, converts to a boolean
   Value(Array a) : data_(std::move(a)) {}
   Value(Object o) : data_(std::move(o)) {}
 
@@ -34,10 +35,10 @@ class Value {
   const std::u16string* AsString() const { return std::get_if<std::u16string>(&data_); }
   const Array* AsArray() const { return std::get_if<Array>(&data_); }
   const Object* AsObject() const { return std::get_if<Object>(&data_); }
-  /// The value under `key` of an object; null when this is no object or has no such key.
+  /// The value of `key`; null if this is not an object or lacks the key.
   const Value* Find(std::string_view key) const;
 
-  /// Structural equality: the order of an object's keys has no meaning, numbers go by value.
+  /// Structural equality: the order of keys is ignored, numbers compare by value.
   bool operator==(const Value& other) const;
 
  private:
@@ -48,12 +49,11 @@ class JsonError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Reads one JSON value from the start of `text` (UTF-8), blanks before it allowed, and moves
-/// `text` behind it. Raises `JsonError`, also for a key given twice; nesting is limited to 100
-/// levels.
+/// Reads one JSON value (UTF-8), after optional white space, and advances `text` past it. Raises
+/// `JsonError`, also for a duplicate key and for nesting beyond 100 levels.
 Value ReadJson(std::string_view& text);
-/// The compact form: no blanks, UTF-8 not escaped, CR LF as \r\n, whole numbers without a point,
-/// a lone surrogate as \uXXXX, an infinite number as null.
+/// Compact form: no white space, non-ASCII as UTF-8, CR LF as \r\n, integers without a point, an
+/// unpaired surrogate as \uXXXX, infinity as null.
 std::string WriteJson(const Value& value);
 
 }  // namespace lumenote

@@ -78,7 +78,7 @@ std::shared_ptr<Session> Open(Component& parts) {
   const Form::InUse use(editor);
   editor.Fr_Notes.Caption(session->frameTitle);
   if (!open) session->readOnly = IsReadOnlyAccess(session->access);
-  if (TrimBlanks(session->windowTitle).empty()) session->windowTitle.clear();
+  if (TrimSpaces(session->windowTitle).empty()) session->windowTitle.clear();
   editor.Caption(session->windowTitle);
   editor.Load();
   editor.BackColor(session->colour);

@@ -15,7 +15,7 @@
 #include "platform/Folders.h"
 #include "platform/Paths.h"
 #include "session/Session.h"
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 namespace lumenote {
 
@@ -60,10 +60,10 @@ FileType ShowDocumentPath(NoteWindow& editor) {
 
 /// Lest another editor saves between a look at the document's file and what is done to it. A
 /// temporary file needs none.
-std::shared_ptr<void> TakeTurn(NoteWindow& editor) {
+std::shared_ptr<void> LockFolder(NoteWindow& editor) {
   const Session& session = editor.Values();
   if (!session.fileMode) return nullptr;
-  return editor.Services().FileSystem().TakeTurn(session.documentPath);
+  return editor.Services().FileSystem().LockFolder(session.documentPath);
 }
 
 }  // namespace
@@ -79,14 +79,14 @@ std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
   return CheminTemp(temp) + u"\\TmpFl" + std::u16string(prefix) + u"." + std::u16string(extension);
 }
 
-TextForm EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note) {
-  const TextForm form = EstNoteRtf(note) ? TextForm::Windows1252 : FormFor(note);
-  files.Write(path, EstNoteRtf(note) ? BytesOfSource(note) : EncodeText(note, form));
+TextEncoding EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note) {
+  const TextEncoding form = EstNoteRtf(note) ? TextEncoding::Windows1252 : EncodingFor(note);
+  files.Write(path, EstNoteRtf(note) ? EncodeSource(note) : EncodeText(note, form));
   return form;
 }
 
 void CreFVideRtf(Files& files, std::u16string_view path) {
-  files.WriteNew(path, kEmptyRtf, Readers::AsUsual);
+  files.WriteNew(path, kEmptyRtf, Permissions::Default);
 }
 
 std::u16string EspDvtDer(std::u16string_view path) {
@@ -120,7 +120,7 @@ void DireEchecChargement(NoteWindow& editor) {
                   .icon = MessageBox::Icon::Critical});
 }
 
-bool LoadFilAndIni(NoteWindow& editor, std::optional<TextForm> form) {
+bool LoadFilAndIni(NoteWindow& editor, std::optional<TextEncoding> form) {
   Session& session = editor.Values();
   const FileType type = ShowDocumentPath(editor);
   const std::u16string& path = session.documentPath;
@@ -156,7 +156,7 @@ Sauvegarde SauveFich(NoteWindow& editor, bool ask) {
 
 bool EcrireDocument(NoteWindow& editor, std::vector<std::u16string>& kept) {
   Session& session = editor.Values();
-  const auto turn = TakeTurn(editor);
+  const auto turn = LockFolder(editor);
   const bool written = IgnoringErrors([&] {
     if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
     const std::string bytes =
@@ -168,7 +168,7 @@ bool EcrireDocument(NoteWindow& editor, std::vector<std::u16string>& kept) {
 }
 
 void SupprimerFichier(NoteWindow& editor, std::vector<std::u16string>& kept) {
-  const auto turn = TakeTurn(editor);
+  const auto turn = LockFolder(editor);
   IgnoringErrors([&] {
     if (auto copy = KeepOtherState(editor)) kept.push_back(std::move(*copy));
     editor.Services().FileSystem().Delete(editor.Values().documentPath, true);

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "editor/NoteWindow.h"
 
 namespace lumenote {
@@ -19,9 +19,9 @@ std::u16string CheminTemp(const TempFolder& temp);
 std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
                            std::u16string_view extension);
 /// Writes the note as it stands, without a line end of its own, and returns the form: code page
-/// 1252 or what `FormFor` finds; RTF source has escapes for the characters that are not in that
+/// 1252 or what `EncodingFor` finds; RTF source has escapes for the characters that are not in that
 /// page.
-TextForm EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
+TextEncoding EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
 /// Creates the empty RTF document. A file that another program has made there meanwhile is left
 /// alone (PermissionDenied).
 void CreFVideRtf(Files& files, std::u16string_view path);
@@ -44,7 +44,7 @@ void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16strin
 /// Loads the document path into the surface and sets status, format and label. A failure is told to
 /// the user and returned as false; a document that was in the surface before is dirty then. `form`
 /// is that of a plain text whose form is known.
-bool LoadFilAndIni(NoteWindow& editor, std::optional<TextForm> form = std::nullopt);
+bool LoadFilAndIni(NoteWindow& editor, std::optional<TextEncoding> form = std::nullopt);
 /// Goes on with the surface where the document path now holds something else: shows that path, and
 /// the note is unsaved in its format.
 void ContinuerSansRecharger(NoteWindow& editor);

@@ -47,7 +47,7 @@ void Recovery::Schedule() {
 
 void Recovery::Tick() {
   const bool written =
-      IgnoringErrors([this] { WithMemoryErrors([this] { writing_ ? WriteSlice() : Begin(); }); });
+      IgnoringErrors([this] { TranslateBadAlloc([this] { writing_ ? WriteSlice() : Begin(); }); });
   if (!written) {
     writing_.reset();
     due_ = true;
@@ -59,7 +59,7 @@ void Recovery::Begin() {
   const Session& session = editor_.Values();
   if (!copy_) copy_ = editor_.Services().State().MakeCopy();
   copy_->Begin(session.fileMode ? session.documentPath : FileName(session.documentPath));
-  writing_ = editor_.Document().WriteContent(
+  writing_ = editor_.Document().WriteSnapshot(
       session.format == u"txt" ? FileType::Text : FileType::Rtf,
       [copy = copy_.get()](std::string_view bytes) { copy->Append(bytes); });
   due_ = false;
@@ -82,7 +82,7 @@ void Recovery::WriteNow() {
   const Session& session = editor_.Values();
   if (!session.dirty && !session.CannotReturn()) return;
   IgnoringErrors([this] {
-    WithMemoryErrors([this] {
+    TranslateBadAlloc([this] {
       Begin();
       while (writing_->Step()) continue;
       Commit();

@@ -40,7 +40,7 @@ class Recovery {
   EditorWindow& editor_;
   Timer& clock_;
   std::unique_ptr<NoteCopy> copy_;
-  std::unique_ptr<ContentWriting> writing_;  // null between copies
+  std::unique_ptr<SnapshotWriter> writing_;  // null between copies
   bool due_ = false;                         // edited since the last copy began
 };
 

@@ -18,14 +18,14 @@ void PrepareFile(NoteWindow& editor) {
   session.format = FormatDe(session.documentPath);
   if (!files.Exists(session.documentPath)) {
     if (session.format == u"txt")
-      IgnoringErrors([&] { files.WriteNew(session.documentPath, "", Readers::AsUsual); });
+      IgnoringErrors([&] { files.WriteNew(session.documentPath, "", Permissions::Default); });
     else if (session.format == u"rtf")
       IgnoringErrors([&] { CreFVideRtf(files, session.documentPath); });
   }
   IgnoringErrors([&] { session.readOnly = files.IsReadOnly(session.documentPath); });
 }
 
-TextForm PrepareString(NoteWindow& editor) {
+TextEncoding PrepareString(NoteWindow& editor) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
   const std::u16string leftOver = NomFichTemp(editor.Temp(), u"Str", u"rtf");
@@ -75,14 +75,14 @@ void CommencerSession(Session& session) {
   session.changes = 0;
 }
 
-std::optional<TextForm> PreparerDocument(NoteWindow& editor) {
+std::optional<TextEncoding> PreparerDocument(NoteWindow& editor) {
   if (!editor.Values().fileMode) return PrepareString(editor);
   PrepareFile(editor);
   return {};
 }
 
 bool OuvrirDocument(NoteWindow& editor) {
-  std::optional<TextForm> form;
+  std::optional<TextEncoding> form;
   if (IgnoringErrors([&] { form = PreparerDocument(editor); })) return LoadFilAndIni(editor, form);
   DireEchecChargement(editor);
   return false;

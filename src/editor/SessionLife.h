@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "editor/NoteWindow.h"
 #include "session/Session.h"
 
@@ -14,7 +14,7 @@ void CommencerSession(Session& session);
 /// File mode: creates a missing "txt" or "rtf" file and reads the read-only attribute. String
 /// mode: writes the note to its temporary file, which becomes the document path, and returns its
 /// form; raises what the file system does, since another note may be left over there.
-std::optional<TextForm> PreparerDocument(NoteWindow& editor);
+std::optional<TextEncoding> PreparerDocument(NoteWindow& editor);
 /// Prepares and loads the document. A failure is told to the user and returned as false.
 bool OuvrirDocument(NoteWindow& editor);
 

@@ -156,7 +156,7 @@ void RoundTrip::Report(const SystemError& error) {
 std::optional<SystemError> RoundTrip::Lingering() {
   for (const Program program : kToTerminate) {
     const std::u16string& path = programs_.Path(program);
-    const auto error = path.empty() ? std::nullopt : processes_.Lingering(path);
+    const auto error = path.empty() ? std::nullopt : processes_.StillRunning(path);
     if (error) return error;
   }
   return std::nullopt;

@@ -58,7 +58,7 @@ bool IsNumericText(std::u16string_view text, bool minusAllowed) {
 }
 
 std::u16string NormalisedNumber(std::u16string_view text) {
-  std::u16string number(TrimBlanks(text));
+  std::u16string number(TrimSpaces(text));
   std::replace(number.begin(), number.end(), u'.', u',');
   if (number.empty() || IsNumericText(number, false)) return number;
   return u"0";

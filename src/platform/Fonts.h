@@ -1,4 +1,4 @@
-// The fonts of the machine.
+// The fonts installed on the machine.
 #pragma once
 #include <string>
 #include <vector>
@@ -8,9 +8,9 @@ namespace lumenote {
 class Fonts {
  public:
   virtual ~Fonts() = default;
-  /// Names of the fonts on the screen, in the system's order.
+  /// Names of the screen fonts, in the system's order.
   virtual std::vector<std::u16string> ScreenFonts() const = 0;
-  /// How many fonts the default printer has. Raises Printer (482) without a printer.
+  /// The number of fonts of the default printer. Raises Printer (482) without a printer.
   virtual int PrinterFontCount() const = 0;
 };
 

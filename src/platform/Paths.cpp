@@ -1,4 +1,4 @@
-// Drive-letter paths taken apart.
+// Taking drive-letter paths apart.
 #include "platform/Paths.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Drive-letter paths taken apart, as plain text arithmetic.
+// Taking drive-letter paths apart, as text: nothing here but `EnTouteCasse` looks at the disk.
 #pragma once
 #include <string>
 #include <string_view>
@@ -8,22 +8,22 @@ namespace lumenote {
 
 class Files;
 
-/// Longer than 7 characters and ":\" as second and third: what counts as a path, not a note.
+/// Whether a text counts as a path rather than a note: over 7 characters, with ":\" second.
 bool IsDrivePath(std::u16string_view text);
-/// The path minus its last component and the separator before it; a drive root keeps its backslash.
-/// Empty for a text without a backslash.
+/// The path without its last component and the separator before it; a drive root keeps its
+/// backslash. Empty for a text without a backslash.
 std::u16string ParentFolder(std::u16string_view path);
-/// What follows the last backslash; all of a text without one.
+/// The part after the last backslash, or all of a text without one.
 std::u16string FileName(std::u16string_view path);
-/// The file name without its extension, the part from its last point on.
+/// The file name up to its last point.
 std::u16string BaseName(std::u16string_view path);
-/// Every doubled backslash made single, in one pass.
+/// Makes every doubled backslash single, in one pass.
 std::u16string FoldBackslashes(std::u16string_view path);
 
-/// The path with its last three characters replaced by `extension`; empty when it is shorter.
+/// Replaces the last three characters by `extension`; empty if the path is shorter.
 std::u16string ChmExts(std::u16string_view path, std::u16string_view extension);
-/// The files that there are under `path` with its last three characters in whatever letter case,
-/// the exact name first. One file may be told more than once where the case of names means nothing.
+/// The existing files that match `path` with its last three characters in any letter case, the
+/// exact name first. A case-insensitive file system may yield the same file several times.
 std::vector<std::u16string> EnTouteCasse(const Files& files, std::u16string_view path);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Splitting and putting together command lines.
+// Splitting and quoting command lines.
 #include "platform/ProgramCommand.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ void SkipBlanks(std::u16string_view& line) {
   line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
 }
 
-/// What stands before the quote that closes a program's word, a doubled one being literal.
+/// Consumes the program's word up to its closing quote; a doubled quote is literal.
 std::u16string TakeQuotedProgram(std::u16string_view& line) {
   std::u16string word;
   while (!line.empty()) {
@@ -29,7 +29,7 @@ std::u16string TakeQuotedProgram(std::u16string_view& line) {
   return word;
 }
 
-/// The program's own word: no backslash has a meaning in it.
+/// In the program's own word a backslash is always literal.
 std::u16string TakeProgram(std::u16string_view& line) {
   if (line.starts_with(u'"')) {
     line.remove_prefix(1);
@@ -40,7 +40,7 @@ std::u16string TakeProgram(std::u16string_view& line) {
   return word;
 }
 
-/// Takes the backslashes at the start of `line`, and a quote that they make literal, into `word`.
+/// Moves the backslashes at the start of `line`, and a quote that they escape, to `word`.
 void TakeBackslashes(std::u16string_view& line, std::u16string& word) {
   const std::size_t count = std::min(line.find_first_not_of(u'\\'), line.size());
   line.remove_prefix(count);

@@ -1,4 +1,4 @@
-// Command lines of programs.
+// Splitting and quoting the command lines of programs.
 #pragma once
 #include <string>
 #include <string_view>
@@ -6,14 +6,14 @@
 
 namespace lumenote {
 
-/// The words of a command line, the program first, as programs of the drive-letter world split it:
-/// blanks and tabs separate outside quotes; behind the program a quote is literal after an odd
-/// number of backslashes, and of the backslashes before a quote every second one counts. In the
-/// program's own word between quotes backslashes have no meaning and a doubled quote is literal.
+/// Splits a command line into words, the program first, by the rules of the drive-letter world:
+/// spaces and tabs separate words outside quotes. In arguments an odd number of backslashes escapes
+/// the quote that follows, and a pair of backslashes before a quote stands for one. In the quoted
+/// program word a backslash is literal and a doubled quote stands for one.
 std::vector<std::u16string> SplitCommandLine(std::u16string_view line);
-/// A path between double quotes, its doubled backslashes made single, as one word of a command line
-/// whatever it holds: at the start of the line and behind it. Only where the path has quotes itself
-/// are these, and backslashes before a quote, escaped.
+/// Quotes a path, whatever it holds, as one word of a command line: as the program word, or as an
+/// argument. Doubled backslashes become single. Only a path that contains quotes gets escapes: for
+/// these and for backslashes before them.
 std::u16string QuotedProgram(std::u16string_view path);
 std::u16string Quoted(std::u16string_view path);
 

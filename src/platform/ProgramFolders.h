@@ -4,13 +4,13 @@
 
 namespace lumenote {
 
-/// Drive-letter paths without a trailing backslash, but for a drive's root; empty when there is
+/// Drive-letter paths without a trailing backslash, except for a drive's root; empty if there is
 /// none.
 class ProgramFolders {
  public:
   virtual ~ProgramFolders() = default;
   virtual std::u16string Programs() const = 0;
-  /// The folder that the component itself was loaded from.
+  /// The folder that the component was loaded from.
   virtual std::u16string Component() const = 0;
 };
 

@@ -1,4 +1,4 @@
-// The machine-wide registry, for looking up where programs are installed.
+// The machine-wide registry, used to find installed programs.
 #pragma once
 #include <optional>
 #include <string>
@@ -9,8 +9,8 @@ namespace lumenote {
 class Registry {
  public:
   virtual ~Registry() = default;
-  /// A string value of a key below the local machine's root. The letter case of `key` is ignored;
-  /// an empty `name` is the key's default value. Empty when there is no such key or value.
+  /// A string value of a key under the local-machine root. The letter case of `key` is ignored; an
+  /// empty `name` is the key's default value. Empty if there is no such key or value.
   virtual std::optional<std::u16string> Read(std::u16string_view key,
                                              std::u16string_view name) const = 0;
 };

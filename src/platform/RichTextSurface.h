@@ -1,4 +1,4 @@
-// The rich-text surface: every operation that windows and procedures may ask of a document box.
+// The rich-text surface: every operation that windows and procedures may ask of a text box.
 #pragma once
 #include <cstdint>
 #include <functional>
@@ -8,14 +8,14 @@
 #include <string_view>
 
 #include "base/Position.h"
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "document/undo/UndoKind.h"
 
 namespace lumenote {
 
 enum class FileType { Rtf = 0, Text = 1 };
 
-/// Options of `Find`, to be added.
+/// Options of `Find`; combine them by addition.
 enum FindOption : int { kFindWholeWord = 2, kFindMatchCase = 4 };
 
 enum class LineSpacingRule {
@@ -27,7 +27,7 @@ enum class LineSpacingRule {
   Multiple = 5
 };
 
-/// The paragraph-format record: only the members named by `mask` are read or written.
+/// The paragraph-format record: only the members selected by `mask` are read or written.
 struct ParagraphRecord {
   enum Member : unsigned { kLineSpacing = 0x100, kSpaceBefore = 0x40, kSpaceAfter = 0x80 };
   unsigned mask = 0;
@@ -37,37 +37,36 @@ struct ParagraphRecord {
   std::int32_t spaceAfter = 0;   // twips
 };
 
-/// What the text mode switches on: rich text, multi-level undo, multi-code-page text.
+/// The text-mode flags: rich text, multi-level undo, multi-code-page text.
 inline constexpr int kTextModeRichMultilevel = 42;
 
-/// The content of a surface as it was when this was made, on its way out bit by bit; edits
-/// meanwhile do not show in it. Used on the surface's thread; the surface may go first.
-class ContentWriting {
+/// Writes a snapshot of a surface's content in steps; later edits do not show in it. Used on the
+/// surface's thread, but may outlive the surface.
+class SnapshotWriter {
  public:
-  virtual ~ContentWriting() = default;
-  /// Goes on for a small part of a millisecond; false when that was the end.
+  virtual ~SnapshotWriter() = default;
+  /// Writes on for a fraction of a millisecond; false once all is written.
   virtual bool Step() = 0;
 };
 
-/// Text, formats, selection, undo and clipboard of one box. Accessors come in pairs: without an
-/// argument they read, with one they write. A character or paragraph attribute of the selection
-/// that is mixed reads as an empty optional; on an empty selection the attribute is that of the
-/// text typed next. A position or length beyond the end is clipped, a negative one raises
-/// InvalidPropertyValue (380) and leaves the selection as it is. An assignment that changes nothing
-/// makes no undo step and no notification, but a new whole content always notifies. What the
-/// program assigns is undo kind Unknown; an edit made from inside a notification raises
-/// InvalidArgument (5).
+/// Text, formats, selection, undo and clipboard of one text box. Accessors come in pairs: without
+/// an argument they read, with one they write. A character or paragraph attribute that is mixed in
+/// the selection reads as an empty optional; with an empty selection it is that of the text typed
+/// next. A position or length beyond the end is clipped; a negative one raises InvalidPropertyValue
+/// (380) and leaves the selection alone. An assignment that changes nothing makes no undo step and
+/// no notification, but replacing the whole content always notifies. Edits by the program have undo
+/// kind Unknown. Editing inside a notification raises InvalidArgument (5).
 class RichTextSurface {
  public:
   virtual ~RichTextSurface() = default;
 
-  /// The whole content, paragraphs separated by CR LF. Writing it replaces everything, formats
+  /// The whole content, paragraphs separated by CR LF. Writing replaces everything, formats
   /// included, and clears the undo history.
   virtual std::u16string Text() const = 0;
   virtual void Text(std::u16string_view text) = 0;
-  /// Of the whole content, without copying it.
+  /// The length of the whole content, without copying it.
   virtual Position TextLength() const = 0;
-  /// The whole content as RTF source, one byte a unit. Writing a text that is not RTF loads it as
+  /// The whole content as RTF source, one byte per unit. Writing a text that is not RTF loads it as
   /// plain text.
   virtual std::u16string TextRTF() const = 0;
   virtual void TextRTF(std::u16string_view rtf) = 0;
@@ -77,14 +76,14 @@ class RichTextSurface {
   virtual Position SelLength() const = 0;
   virtual void SelLength(Position length) = 0;
   virtual std::u16string SelText() const = 0;
-  /// The new text takes the format of the first character replaced; the caret ends behind it, with
+  /// Inserted text takes the format of the first character replaced; the caret ends after it, with
   /// nothing selected. A lone CR or LF becomes CR LF.
   virtual void SelText(std::u16string_view text) = 0;
   virtual std::u16string SelRTF() const = 0;
   virtual void SelRTF(std::u16string_view rtf) = 0;
 
-  /// A selection that reaches the end of the document takes in the final mark, so that text typed
-  /// there later looks alike.
+  /// A selection up to the end of the document includes the final mark, so that text typed there
+  /// later looks the same.
   virtual std::optional<bool> SelBold() const = 0;
   virtual void SelBold(bool on) = 0;
   virtual std::optional<bool> SelItalic() const = 0;
@@ -95,7 +94,7 @@ class RichTextSurface {
   virtual void SelStrikeThru(bool on) = 0;
   virtual std::optional<int> SelCharOffset() const = 0;  // twips, positive above the line
   virtual void SelCharOffset(int twips) = 0;             // 16 bits, else Overflow (6)
-  /// The document's default font, whatever the text has.
+  /// The document's default font, whatever fonts its text uses.
   virtual std::u16string BaseFontName() const = 0;
   virtual std::optional<std::u16string> SelFontName() const = 0;
   virtual void SelFontName(std::u16string_view name) = 0;  // an empty name changes nothing
@@ -104,8 +103,8 @@ class RichTextSurface {
   virtual std::optional<std::int32_t> SelColor() const = 0;  // 0xBBGGRR; automatic reads as black
   virtual void SelColor(std::int32_t colour) = 0;  // other bits raise InvalidPropertyValue (380)
 
-  /// Of every paragraph that the selection touches; one that ends just before a paragraph's first
-  /// character does not touch it.
+  /// Paragraph attributes cover every paragraph that the selection touches; a selection that ends
+  /// just before a paragraph's first character does not touch that paragraph.
   virtual std::optional<bool> SelBullet() const = 0;
   virtual void SelBullet(bool on) = 0;
   virtual std::optional<int> SelAlignment() const = 0;  // 0 left (or justified), 1 right, 2 centre
@@ -116,40 +115,41 @@ class RichTextSurface {
   virtual void SelRightIndent(int twips) = 0;
   virtual std::optional<int> SelHangingIndent() const = 0;  // twips, following lines from the first
   virtual void SelHangingIndent(int twips) = 0;
-  /// The width lines wrap at, in twips from the left edge; 0 wraps at the visible width, a negative
-  /// one raises InvalidPropertyValue (380). No part of the document, nor of undo.
+  /// The wrap width in twips from the left edge; 0 wraps at the visible width, a negative value
+  /// raises InvalidPropertyValue (380). Neither part of the document nor undoable.
   virtual float RightMargin() const = 0;
   virtual void RightMargin(float twips) = 0;
 
-  /// Replaces everything and clears the undo history. A file that is no RTF behind `FileType::Rtf`
-  /// raises InvalidArgument (5); a failure leaves the content as it is. Plain text is read in
-  /// `form`, without it in the one that the bytes tell of (`FormOfText`). Returns what it has read.
+  /// Replaces everything and clears the undo history. `FileType::Rtf` raises InvalidArgument (5)
+  /// for a file that is not RTF; a failure leaves the content unchanged. Plain text is read in
+  /// `encoding` or, if empty, in the detected encoding (`DetectEncoding`). Returns the bytes read.
   virtual std::string LoadFile(std::u16string_view path, FileType type,
-                               std::optional<TextForm> form = std::nullopt) = 0;
-  /// Plain text is written in the form of UTF-8 that it was loaded in, else in page 1252, and as
-  /// UTF-8 with a mark where that cannot be (`EncodeTextFile`), its breaks as CR LF. The very text
-  /// that was loaded goes back byte for byte. Returns what it has written.
+                               std::optional<TextEncoding> encoding = std::nullopt) = 0;
+  /// Plain text is written in the form of UTF-8 that it was loaded in, else in page 1252, else as
+  /// UTF-8 with a byte order mark (`EncodeTextFile`), with CR LF breaks. Text that is exactly as
+  /// loaded is written back byte for byte. Returns the bytes written.
   virtual std::string SaveFile(std::u16string_view path, FileType type) = 0;
   /// What `SaveFile` would write.
   virtual std::string FileBytes(FileType type) const = 0;
-  /// The same, handed to `sink` bit by bit; plain text as though no file had been loaded.
+  /// Writes the same to `sink` in steps, but plain text as though it had not been loaded from a
+  /// file.
   using ContentSink = std::function<void(std::string_view)>;
-  virtual std::unique_ptr<ContentWriting> WriteContent(FileType type, ContentSink sink) const = 0;
+  virtual std::unique_ptr<SnapshotWriter> WriteSnapshot(FileType type, ContentSink sink) const = 0;
 
-  /// Searches from `start` to the end of the document, selects the match and returns its position;
-  /// -1, with the selection left alone, when there is none or `text` is empty. A negative start
+  /// Searches from `start` to the end of the document, selects the match and returns its position.
+  /// Returns -1, leaving the selection alone, if there is none or `text` is empty. A negative start
   /// searches from the beginning.
   virtual Position Find(std::u16string_view text, Position start, int options) = 0;
-  /// Extends the selection's end (or, backward, its start) over the characters of `set`, with
-  /// `negate` over those outside it. A set that holds CR or LF holds the paragraph break, which is
-  /// passed as one character.
+  /// Extends the selection's end (backward: its start) over characters in `set`, or with `negate`
+  /// over characters not in it. A set that contains CR or LF contains the paragraph break, which
+  /// counts as one character.
   virtual void Span(std::u16string_view set, bool forward, bool negate) = 0;
-  /// Moves the caret, selecting nothing, forward to (or backward to just after) the next character
-  /// of `set`, with `negate` the next one outside it; does nothing when there is none.
+  /// Moves the caret, selecting nothing, forward to (backward: to just after) the next character in
+  /// `set`, or with `negate` the next one not in it; does nothing if there is none.
   virtual void UpTo(std::u16string_view set, bool forward, bool negate) = 0;
 
-  /// Switches multi-level undo (8) on or off, off at first; the other flags are what this surface
-  /// is anyway. Raises InvalidPropertyValue (380) unless the surface is empty.
+  /// Switches multi-level undo (8), off at first; the other flags are always on. Raises
+  /// InvalidPropertyValue (380) unless the surface is empty.
   virtual void TextMode(int mode) = 0;
   virtual UndoKind UndoType() const = 0;
   virtual UndoKind RedoType() const = 0;
@@ -158,11 +158,11 @@ class RichTextSurface {
   virtual bool CanRedo() const = 0;
   virtual void Undo() = 0;
   virtual void Redo() = 0;
-  /// What is done between the two is one undo step of kind Unknown; see `EditGroup`.
+  /// Brackets edits that become one undo step of kind Unknown; see `EditGroup`.
   virtual void BeginGroup() = 0;
   virtual void EndGroup() = 0;
-  /// Runs a command of several edits. When an allocation fails in it, all that it has edited is
-  /// taken back, and the failure goes on.
+  /// Runs a command that makes several edits. If an allocation fails in it, its edits are rolled
+  /// back and the failure propagates.
   virtual void Atomically(const std::function<void()>& command) = 0;
   virtual void Cut() = 0;
   virtual void Copy() = 0;
@@ -182,11 +182,11 @@ class RichTextSurface {
   /// On every selected paragraph.
   virtual void SetParaFormat(const ParagraphRecord& record) = 0;
 
-  /// Called after the content (text or formats) has changed, whoever changed it.
+  /// Called after the content (text or formats) has changed, whatever changed it.
   virtual void OnChange(std::function<void()> handler) = 0;
 };
 
-/// Makes one undo step of everything that is done while it lives; groups nest.
+/// Groups all edits made during its lifetime into one undo step; groups nest.
 class EditGroup {
  public:
   explicit EditGroup(RichTextSurface& surface) : surface_(surface) { surface_.BeginGroup(); }
@@ -198,7 +198,7 @@ class EditGroup {
   RichTextSurface& surface_;
 };
 
-/// Runs a command as one undo step, which is taken back when an allocation fails in it.
+/// Runs a command as one undo step, rolled back if an allocation fails in it.
 inline void AsOneStep(RichTextSurface& surface, const std::function<void()>& command) {
   const EditGroup group(surface);
   surface.Atomically(command);

@@ -6,15 +6,15 @@
 
 namespace lumenote {
 
-/// Values are strings with any characters, names too; an empty name is a name.
+/// Names and values may contain any characters; an empty name is valid.
 class Settings {
  public:
   virtual ~Settings() = default;
-  /// Empty when nothing is stored.
+  /// Empty if nothing is stored.
   virtual std::optional<std::u16string> Read(std::u16string_view application,
                                              std::u16string_view section,
                                              std::u16string_view key) const = 0;
-  /// Stored at once, safely beside other writers. Raises PathAccess when it cannot be.
+  /// Stored at once, safely with concurrent writers. Raises PathAccess on failure.
   virtual void Write(std::u16string_view application, std::u16string_view section,
                      std::u16string_view key, std::u16string_view value) = 0;
 };

@@ -2,7 +2,7 @@
 #pragma once
 #include "base/RuntimeError.h"
 #include "platform/RichTextSurface.h"
-#include "surface/ContentWritings.h"
+#include "surface/SnapshotWriters.h"
 #include "surface/editing/CharacterFormats.h"
 #include "surface/editing/EditingCore.h"
 #include "surface/editing/ParagraphFormats.h"
@@ -14,12 +14,12 @@
 
 namespace lumenote {
 
-/// Implements `RichTextSurface`; adds the user's door (typing, keys, mouse selection, drops), which
-/// gives undo steps their kinds, and what a view needs to paint. Its parts share the document
-/// through `EditingCore`; the members here only say which part does what.
+/// Implements `RichTextSurface`, and adds user input (typing, keys, mouse selection, drops), which
+/// gives undo steps their kinds, and what a view needs for painting. Its parts share the document
+/// through `EditingCore`; the members here only delegate.
 class DocumentSurface final : public RichTextSurface {
  public:
-  /// `breaker` lays out lines for the line queries and the vertical caret keys. All three outlive
+  /// `breaker` lays out lines for line queries and vertical caret movement. All three must outlive
   /// the surface.
   DocumentSurface(Clipboard& clipboard, Files& files, LineBreaker& breaker);
 
@@ -72,20 +72,20 @@ class DocumentSurface final : public RichTextSurface {
   void RightMargin(float twips) override;
 
   std::string LoadFile(std::u16string_view path, FileType type,
-                       std::optional<TextForm> form) override {
+                       std::optional<TextEncoding> encoding) override {
     std::string bytes;
-    WithMemoryErrors([&] { bytes = transfer_.Load(path, type, form); });
+    TranslateBadAlloc([&] { bytes = transfer_.Load(path, type, encoding); });
     return bytes;
   }
   std::string SaveFile(std::u16string_view path, FileType type) override {
     std::string bytes;
-    WithMemoryErrors([&] { bytes = transfer_.Save(path, type); });
+    TranslateBadAlloc([&] { bytes = transfer_.Save(path, type); });
     return bytes;
   }
   std::string FileBytes(FileType type) const override { return transfer_.Bytes(type); }
 
-  std::unique_ptr<ContentWriting> WriteContent(FileType type, ContentSink sink) const override {
-    return MakeContentWriting(Content(), type, std::move(sink));
+  std::unique_ptr<SnapshotWriter> WriteSnapshot(FileType type, ContentSink sink) const override {
+    return MakeSnapshotWriter(Content(), type, std::move(sink));
   }
 
   Position Find(std::u16string_view text, Position start, int options) override;
@@ -123,23 +123,22 @@ class DocumentSurface final : public RichTextSurface {
   Position Caret() const { return core_.Caret(); }
   Position Anchor() const { return core_.Anchor(); }
   Selection Selected() const { return core_.Selected(); }
-  /// The format that a character typed now would take.
+  /// The format that a character typed now would get.
   CharFormat InsertionFormat() const { return core_.InsertionFormat(); }
   /// The document's default font.
   std::u16string BaseFontName() const override { return transfer_.BaseFontName(); }
   /// Not owned; null for none.
   void View(SurfaceView* view) { core_.View(view); }
 
-  // The user's door.
-  /// Types one character or composed text, replacing the selection; CR LF is the Return key.
+  // User input. Types a character or composed text over the selection; CR LF is the Return key.
   void UserType(std::u16string_view text);
-  /// Whether the key did something here; the others are the window's to use.
+  /// Handles a key; false if it means nothing here and the window may use it.
   bool UserKey(const KeyStroke& key);
-  /// Sets the selection, its moving end at `caret`.
+  /// Sets the selection; `caret` is its moving end.
   void UserSelect(Position anchor, Position caret) { core_.Select(anchor, caret); }
-  /// Moves (or copies) the selected text to `target`, undo kind 3; the dropped text stays selected.
+  /// Moves (or copies) the selected text to `target`, undo kind 3, and selects it there.
   void UserDrop(Position target, bool copy) { text_.MoveSelection(target, copy); }
-  /// Drops content from elsewhere at `target`, undo kind 3; it stays selected.
+  /// Drops foreign content at `target`, undo kind 3, and selects it.
   void UserDropContent(const ClipboardContent& content, Position target) {
     transfer_.Drop(content, target);
   }
@@ -147,7 +146,7 @@ class DocumentSurface final : public RichTextSurface {
  private:
   void Reveal();
 
-  // Line look-ups fill the line table, which no caller can tell.
+  // Mutable because line look-ups fill the line table, which callers cannot observe.
   mutable EditingCore core_;
   TextEditing text_{core_};
   CharacterFormats characters_{core_};

@@ -1,7 +1,7 @@
 #include "surface/Scan.h"
 
 #include "base/Strings.h"
-#include "surface/keys/TextWindow.h"
+#include "surface/keys/CharacterReader.h"
 
 namespace lumenote {
 
@@ -21,14 +21,14 @@ bool CharacterSet::Has(char32_t character) const {
 
 Position ScanForward(const Document& document, Position from, const CharacterSet& set,
                      bool negate) {
-  TextWindow text(document);
+  CharacterReader text(document);
   while (from < text.Length() && set.Has(text.Character(from)) != negate) from = text.Next(from);
   return from;
 }
 
 Position ScanBackward(const Document& document, Position from, const CharacterSet& set,
                       bool negate) {
-  TextWindow text(document);
+  CharacterReader text(document);
   while (from > 0) {
     const Position before = text.Previous(from);
     if (set.Has(text.Character(before)) == negate) break;

@@ -1,4 +1,4 @@
-// Passing over the characters of a set.
+// Scanning over characters of a set.
 #pragma once
 #include <string>
 #include <string_view>
@@ -7,7 +7,8 @@
 
 namespace lumenote {
 
-/// A set of characters; one that holds CR or LF holds the paragraph break, which is one character.
+/// A set of characters. A set with CR or LF contains the paragraph break, which counts as one
+/// character.
 class CharacterSet {
  public:
   explicit CharacterSet(std::u16string_view members);
@@ -17,9 +18,10 @@ class CharacterSet {
   std::u32string members_;
 };
 
-/// Behind the characters from `from` on that are in the set, or with `negate` outside it.
+/// The position after the run of characters from `from` on that are in the set, or with `negate`
+/// not in it.
 Position ScanForward(const Document& document, Position from, const CharacterSet& set, bool negate);
-/// The same before `from`, backwards.
+/// The same, backwards: the start of the run that ends at `from`.
 Position ScanBackward(const Document& document, Position from, const CharacterSet& set,
                       bool negate);
 

@@ -34,9 +34,9 @@ TEST(Strings, IllFormedUtf8BecomesReplacements) {
 }
 
 TEST(Strings, Helpers) {
-  EXPECT_EQ(TrimBlanks(u"  a b  "), u"a b");
-  EXPECT_EQ(TrimBlanks(u"\ta\u00A0"), u"\ta\u00A0");
-  EXPECT_EQ(TrimBlanks(u"   "), u"");
+  EXPECT_EQ(TrimSpaces(u"  a b  "), u"a b");
+  EXPECT_EQ(TrimSpaces(u"\ta\u00A0"), u"\ta\u00A0");
+  EXPECT_EQ(TrimSpaces(u"   "), u"");
   EXPECT_EQ(ReplaceEvery(u"a\\\\\\\\b\\\\\\", u"\\\\", u"\\"), u"a\\\\b\\\\");
   EXPECT_EQ(ReplaceEvery(u"aaa", u"a", u"aa"), u"aaaaaa");
   EXPECT_EQ(ReplaceEvery(u"xax", u"x", u""), u"a");

@@ -46,21 +46,21 @@ TEST_F(UndoTest, GivesBackSelectionsKindsAndExtents) {
   Edit(UndoKind::Paste, 0, 0, u"hello");
   history.Begin(UndoKind::Cut, {1, 4});
   history.Begin(UndoKind::Typing, {});
-  EXPECT_EQ(history.Apply(1, 4, {}), (EditExtent{1, 3, 0}));
+  EXPECT_EQ(history.Apply(1, 4, {}), (EditRange{1, 3, 0}));
   history.End({});
   history.Apply(0, 1, PlainFragment(u"XY", 0, 0));
   history.End({2, 2});
   EXPECT_EQ(Text(), u"XYo");
   EXPECT_EQ(history.UndoType(), UndoKind::Cut);
   EXPECT_EQ(history.RedoType(), UndoKind::Unknown);
-  std::vector<EditExtent> edits;
+  std::vector<EditRange> edits;
   const auto visit = [&](Position at, Position removed, Position inserted) {
     edits.push_back({at, removed, inserted});
   };
   EXPECT_EQ(history.Undo(visit), (Selection{1, 4}));
   EXPECT_EQ(history.RedoType(), UndoKind::Cut);
   EXPECT_EQ(history.Redo(visit), (Selection{2, 2}));
-  const std::vector<EditExtent> expected{{0, 2, 1}, {1, 0, 3}, {0, 4, 2}};
+  const std::vector<EditRange> expected{{0, 2, 1}, {1, 0, 3}, {0, 4, 2}};
   EXPECT_EQ(edits, expected);
   EXPECT_EQ(Text(), u"XYo");
 }

@@ -98,12 +98,12 @@ TEST_F(ProcessesTest, OnlyTheProgramItselfIsEnded) {
     const ProcessId own = processes.Start(u"C:\\a.exe 60");
     const ProcessId foreign = another.Start(u"C:\\a.exe 60");
     const ProcessId other = processes.Start(u"C:\\b.exe 60");
-    EXPECT_TRUE(processes.Lingering(u"C:\\a.exe"));
+    EXPECT_TRUE(processes.StillRunning(u"C:\\a.exe"));
     EXPECT_FALSE(processes.Terminate(u"C:\\a.exe"));
     EXPECT_TRUE(EndsSoon(own));
     EXPECT_TRUE(script || Soon([&] { return !another.IsRunning(foreign); }));
     EXPECT_EQ(another.IsRunning(foreign), script);
-    EXPECT_FALSE(processes.Lingering(u"C:\\a.exe"));
+    EXPECT_FALSE(processes.StillRunning(u"C:\\a.exe"));
     EXPECT_TRUE(processes.IsRunning(other));
     another.Terminate(u"C:\\a.exe");
     processes.Terminate(u"C:\\b.exe");
@@ -123,7 +123,7 @@ TEST_F(ProcessesTest, AProgramWithWindowsIsAskedThroughThem) {
     return windows.asked == 2;
   }));
   EXPECT_TRUE(desktop.IsRunning(own) && processes.IsRunning(foreign));
-  EXPECT_TRUE(desktop.Lingering(u"C:\\a.exe"));
+  EXPECT_TRUE(desktop.StillRunning(u"C:\\a.exe"));
   windows.hasWindows = false;
   EXPECT_FALSE(desktop.Terminate(u"C:\\a.exe"));
   EXPECT_TRUE(Soon([&] { return !desktop.IsRunning(own) && !processes.IsRunning(foreign); }));
@@ -148,7 +148,7 @@ TEST_F(ProcessesTest, AProgramThatRefusesLingers) {
   const ProcessId process = processes.Start(u"C:\\p.exe");
   EXPECT_TRUE(Soon([&] { return Get("up").empty(); }));
   EXPECT_FALSE(processes.Terminate(u"C:\\p.exe"));
-  const auto error = processes.Lingering(u"C:\\p.exe");
+  const auto error = processes.StillRunning(u"C:\\p.exe");
   ASSERT_TRUE(error);
   EXPECT_EQ(error->number, ETIMEDOUT);
   EXPECT_FALSE(error->description.empty());

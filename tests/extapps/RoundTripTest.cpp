@@ -19,7 +19,7 @@ struct Stubborn : Processes {
   ProcessId Start(std::u16string_view) override { return ++started; }
   bool IsRunning(ProcessId) override { return true; }
   std::optional<SystemError> Terminate(std::u16string_view) override { return std::nullopt; }
-  std::optional<SystemError> Lingering(std::u16string_view path) override {
+  std::optional<SystemError> StillRunning(std::u16string_view path) override {
     if (path != kAtlantisPath) return std::nullopt;
     return SystemError{110, u"too late"};
   }

@@ -7,10 +7,10 @@
 
 #include "backends/headless/FixedLayouter.h"
 #include "base/Strings.h"
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "surface/DocumentSurface.h"
 #include "surface/Fakes.h"
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 namespace {
 
@@ -44,10 +44,10 @@ void CheckFile(std::string_view bytes) {
 }
 
 void CheckNote(const std::u16string& note) {
-  const TextForm form = FormFor(note);
+  const TextEncoding form = EncodingFor(note);
   Check(DecodeText(EncodeText(note, form), form) == note);
-  const std::string file = EncodeTextFile(note, TextForm::Utf8);
-  Check(DecodeText(file, FormOfText(file)) == note);
+  const std::string file = EncodeTextFile(note, TextEncoding::Utf8);
+  Check(DecodeText(file, DetectEncoding(file)) == note);
 }
 
 /// In RTF source each character beyond page 1252 is itself.
@@ -55,7 +55,7 @@ void CheckSource(const std::u16string& note) {
   std::u16string text;
   for (const char16_t unit : note) text += static_cast<char16_t>(unit | 0x4000);
   Desk desk;
-  desk.surface.TextRTF(UnitsOfBytes(BytesOfSource(u"{\\rtf1 " + text + u"}")));
+  desk.surface.TextRTF(WidenSource(EncodeSource(u"{\\rtf1 " + text + u"}")));
   Check(desk.surface.Text() == text);
 }
 
@@ -63,7 +63,7 @@ void CheckSource(const std::u16string& note) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  const std::u16string units = DecodeText(bytes, TextForm::LittleUtf16);
+  const std::u16string units = DecodeText(bytes, TextEncoding::Utf16Le);
   CheckFile(bytes);
   CheckNote(units);
   CheckSource(units);

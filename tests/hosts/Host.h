@@ -78,9 +78,10 @@ class DisturbedFiles final : public PosixFiles {
     before("write", path);
     PosixFiles::Write(path, bytes);
   }
-  void WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) override {
+  void WriteNew(std::u16string_view path, std::string_view bytes,
+                Permissions permissions) override {
     before("write", path);
-    PosixFiles::WriteNew(path, bytes, readers);
+    PosixFiles::WriteNew(path, bytes, permissions);
   }
   void Delete(std::u16string_view path, bool force) override {
     before("delete", path);

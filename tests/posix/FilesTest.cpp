@@ -24,7 +24,7 @@ class FilesTest : public SandboxTest {
   /// What dead saves have left, as the next start of the component finds it.
   std::map<std::u16string, std::string> Left() {
     std::map<std::u16string, std::string> left;
-    PosixStateFolder(Native("state"), drives_).HandOverLeft([&](const LeftCopy& copy) {
+    PosixStateFolder(Native("state"), drives_).ClaimOrphans([&](const OrphanedCopy& copy) {
       left.emplace(copy.origin, copy.bytes);
       return false;
     });

@@ -18,7 +18,7 @@ class StateFolderTest : public SandboxTest {
   /// "origin=content" of each copy handed over, in any order sorted by the set.
   std::set<std::string> Left(bool rescued = true) const {
     std::set<std::string> left;
-    Start().HandOverLeft([&](const LeftCopy& copy) {
+    Start().ClaimOrphans([&](const OrphanedCopy& copy) {
       left.insert(ToUtf8(copy.origin) + "=" + copy.bytes);
       return rescued;
     });
@@ -112,7 +112,7 @@ TEST_F(StateFolderTest, WithoutAFolderNothingIsKept) {
     PosixStateFolder state(path, drives_);
     EXPECT_EQ(ErrorOf([&] { state.MakeCopy()->Begin(u"a"); }), 75) << path;
     EXPECT_EQ(ErrorOf([&] { state.KeepForGood(u"a", ""); }), 75) << path;
-    state.HandOverLeft([](const LeftCopy&) { return ADD_FAILURE(), true; });
+    state.ClaimOrphans([](const OrphanedCopy&) { return ADD_FAILURE(), true; });
   }
   const ScopedVariable chosen("XDG_STATE_HOME", "/chosen/");
   EXPECT_EQ(PosixStateFolder::OfUser(), "/chosen/lumenote");

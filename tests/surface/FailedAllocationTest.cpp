@@ -9,7 +9,7 @@
 #include "base/RuntimeError.h"
 #include "ocr/Cleanup.h"
 #include "surface/DocumentSurface.h"
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 namespace lumenote {
 namespace {
@@ -25,7 +25,7 @@ std::u16string Note() {
   rtf +=
       "\\trowd\\cellx9\\cellx99 a\\cell b\\cell\\row\\pard "
       "{\\field{\\*\\fldinst HYPERLINK x}{\\fldrslt lien}} fin\\par}";
-  return UnitsOfBytes(rtf);
+  return WidenSource(rtf);
 }
 
 struct Desk {
@@ -107,7 +107,7 @@ const Command kCommands[] = {
     {"write bit by bit",
      [](Desk& d) {
        std::size_t size = 0;
-       const auto writing = d.surface.WriteContent(
+       const auto writing = d.surface.WriteSnapshot(
            FileType::Rtf, [&](std::string_view bytes) { size += bytes.size(); });
        while (writing->Step()) continue;
      }},

@@ -27,12 +27,12 @@ class MemoryFiles final : public Files {
   bool SameFile(std::u16string_view one, std::u16string_view other) const override {
     return one == other;
   }
-  std::shared_ptr<void> TakeTurn(std::u16string_view) const override { return nullptr; }
+  std::shared_ptr<void> LockFolder(std::u16string_view) const override { return nullptr; }
   void Write(std::u16string_view path, std::string_view bytes) override {
     if (broken) throw RuntimeError(ErrorNumber::PathAccess);
     files[std::u16string(path)] = bytes;
   }
-  void WriteNew(std::u16string_view path, std::string_view bytes, Readers) override {
+  void WriteNew(std::u16string_view path, std::string_view bytes, Permissions) override {
     Write(path, bytes);
   }
   void AppendLines(std::u16string_view path, std::string_view lines) override {

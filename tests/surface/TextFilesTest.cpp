@@ -2,9 +2,9 @@
 #include <array>
 #include <string>
 
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "surface/SurfaceContract.h"
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 namespace lumenote {
 namespace {
@@ -94,7 +94,7 @@ TEST_F(TextFiles, AreWrittenSoThatTheyReadAsTheyWere) {
   s.LoadFile(u"C:\\n.rtf", FileType::Rtf);
   EXPECT_EQ(Saved(), "\xE9");  // what was RTF has no form of its own
   files.files[std::u16string(kPath)] = "\xC3\xA9";
-  s.LoadFile(kPath, FileType::Text, TextForm::Windows1252);
+  s.LoadFile(kPath, FileType::Text, TextEncoding::Windows1252);
   EXPECT_EQ(s.Text(), u"Ã©");
 }
 
@@ -112,9 +112,9 @@ TEST_F(TextFiles, BitByBitAreWhatASaveWrites) {
       s.Text(whole);
       std::string bytes;
       const auto writing =
-          s.WriteContent(FileType::Text, [&](std::string_view more) { bytes += more; });
+          s.WriteSnapshot(FileType::Text, [&](std::string_view more) { bytes += more; });
       while (writing->Step()) continue;
-      EXPECT_TRUE(DecodeText(bytes, FormOfText(bytes)) == whole);
+      EXPECT_TRUE(DecodeText(bytes, DetectEncoding(bytes)) == whole);
       EXPECT_TRUE(bytes == s.FileBytes(FileType::Text));
     }
   }
@@ -145,11 +145,11 @@ TEST_F(TextFiles, SourceOfRtfMayHoldAnyCharacter) {
   for (const auto& row : rows) {
     s.TextRTF(u"{\\rtf1\\ansi " + row.source + u"}");
     EXPECT_EQ(s.Text(), row.text) << testing::PrintToString(row.source);
-    s.TextRTF(UnitsOfBytes(BytesOfSource(u"{\\rtf1 " + row.source + u"}")));
+    s.TextRTF(WidenSource(EncodeSource(u"{\\rtf1 " + row.source + u"}")));
     EXPECT_EQ(s.Text(), row.text);
   }
-  EXPECT_EQ(BytesOfSource(u"\x85\u2026é"), "\\u133{}\x85\xE9");
-  EXPECT_EQ(BytesOfUnits(u"\x85\u2026é"), "\x85\x85\xE9");
+  EXPECT_EQ(EncodeSource(u"\x85\u2026é"), "\\u133{}\x85\xE9");
+  EXPECT_EQ(NarrowSource(u"\x85\u2026é"), "\x85\x85\xE9");
   s.TextRTF(u"{\\rtf1{\\fonttbl{\\f0 αβx;}}\\f0 z}");
   EXPECT_EQ(s.SelFontName(), u"αβx");
 }

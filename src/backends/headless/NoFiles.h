@@ -14,9 +14,9 @@ class NoFiles final : public Files {
   std::uint64_t Size(std::u16string_view) const override { Refuse(); }
   std::string ReadAll(std::u16string_view) const override { Refuse(); }
   bool SameFile(std::u16string_view, std::u16string_view) const override { return false; }
-  std::shared_ptr<void> TakeTurn(std::u16string_view) const override { return {}; }
+  std::shared_ptr<void> LockFolder(std::u16string_view) const override { return {}; }
   void Write(std::u16string_view, std::string_view) override { Refuse(); }
-  void WriteNew(std::u16string_view, std::string_view, Readers) override { Refuse(); }
+  void WriteNew(std::u16string_view, std::string_view, Permissions) override { Refuse(); }
   void AppendLines(std::u16string_view, std::string_view) override { Refuse(); }
   void Delete(std::u16string_view, bool) override { Refuse(); }
   void Copy(std::u16string_view, std::u16string_view) override { Refuse(); }

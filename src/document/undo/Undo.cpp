@@ -32,9 +32,9 @@ class UndoHistory::Alone {
   bool alone_;
 };
 
-EditExtent UndoHistory::Apply(Position from, Position to, Fragment inserted) {
+EditRange UndoHistory::Apply(Position from, Position to, Fragment inserted) {
   const Selection range = document_.Outwards(from, to);
-  const EditExtent edit{range.start, range.Length(), inserted.Length()};
+  const EditRange edit{range.start, range.Length(), inserted.Length()};
   if (inserted.mark == document_.Mark()) inserted.mark.reset();
   if (edit.removed == 0 && edit.inserted == 0 && !inserted.mark) return edit;
   const bool closing = inserted.leaves.Breaks() > 0;
@@ -96,7 +96,7 @@ std::optional<Selection> UndoHistory::Redo(const EditVisitor& visit) {
   return step->after;
 }
 
-void UndoHistory::Remember(const EditExtent& edit, const Fragment& removed) {
+void UndoHistory::Remember(const EditRange& edit, const Fragment& removed) {
   const UndoEdit entry{edit.at, edit.removed, edit.inserted, removed.mark};
   if (started_ || Continues(edit)) {
     undo_.Push(entry, removed.leaves);
@@ -116,7 +116,7 @@ void UndoHistory::Remember(const EditExtent& edit, const Fragment& removed) {
   started_ = true;
 }
 
-bool UndoHistory::Continues(const EditExtent& edit) const {
+bool UndoHistory::Continues(const EditRange& edit) const {
   if (!open_ || undo_.Empty() || undo_.Last().kind != kind_) return false;
   const UndoEdit& last = undo_.LastEdit();
   if (kind_ == UndoKind::Typing) return edit.at == last.at + last.inserted;

@@ -11,11 +11,11 @@
 namespace lumenote {
 
 /// Where an edit took place: `removed` units at `at` became `inserted` ones.
-struct EditExtent {
+struct EditRange {
   Position at = 0;
   Position removed = 0;
   Position inserted = 0;
-  bool operator==(const EditExtent&) const = default;
+  bool operator==(const EditRange&) const = default;
 };
 
 /// Called after each edit of an undone or redone step, in the order they are applied.
@@ -37,7 +37,7 @@ class UndoHistory {
   void Begin(UndoKind kind, Selection before);
   /// Replaces `from`..`to` as `Document::Replace` does, and tells what that came to. An edit that
   /// removes and inserts nothing is not remembered. Outside a group, one of kind Unknown is made.
-  EditExtent Apply(Position from, Position to, Fragment inserted);
+  EditRange Apply(Position from, Position to, Fragment inserted);
   void End(Selection after);
 
   /// Where the history stands; `BackTo` takes back every edit since then, which cannot be redone.
@@ -66,8 +66,8 @@ class UndoHistory {
   /// Exchanges a range for a fragment, which `keep` is then told to keep; all or nothing.
   template <class Keeping>
   void Exchange(Selection range, Fragment inserted, Keeping keep);
-  void Remember(const EditExtent& edit, const Fragment& removed);
-  bool Continues(const EditExtent& edit) const;
+  void Remember(const EditRange& edit, const Fragment& removed);
+  bool Continues(const EditRange& edit) const;
   std::optional<UndoStep> Revert(UndoLog& from, UndoLog& to, const EditVisitor& visit);
   /// Carries all edits of one log's last step to the last step of the other, or none.
   void CarryStep(UndoLog& from, UndoLog& to, const EditVisitor& visit);

@@ -34,7 +34,7 @@ std::optional<SystemError> StandIns::Terminate(std::u16string_view path) {
   return std::nullopt;
 }
 
-std::optional<SystemError> StandIns::Lingering(std::u16string_view) { return std::nullopt; }
+std::optional<SystemError> StandIns::StillRunning(std::u16string_view) { return std::nullopt; }
 
 void StandIns::Put(std::u16string_view path) { files_.Write(path, kContent); }
 

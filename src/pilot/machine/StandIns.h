@@ -20,7 +20,7 @@ class StandIns final : public Processes {
   ProcessId Start(std::u16string_view commandLine) override;
   bool IsRunning(ProcessId process) override;
   std::optional<SystemError> Terminate(std::u16string_view path) override;
-  std::optional<SystemError> Lingering(std::u16string_view path) override;
+  std::optional<SystemError> StillRunning(std::u16string_view path) override;
 
   /// Puts a stand-in at `path`, whose folder is there.
   void Put(std::u16string_view path);

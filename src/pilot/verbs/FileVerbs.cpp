@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/Strings.h"
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "base/Windows1252.h"
 #include "pilot/language/Arguments.h"
 #include "pilot/language/ScriptError.h"
@@ -25,8 +25,8 @@ std::optional<std::string> ContentOf(const Files& files, std::u16string_view pat
 }
 
 std::u16string Decoded(std::string_view bytes) {
-  const bool marked = FormOfText(bytes) == TextForm::MarkedUtf8;
-  return DecodeText(bytes, marked ? TextForm::MarkedUtf8 : TextForm::Windows1252);
+  const bool marked = DetectEncoding(bytes) == TextEncoding::Utf8WithBom;
+  return DecodeText(bytes, marked ? TextEncoding::Utf8WithBom : TextEncoding::Windows1252);
 }
 
 std::string BytesOfHex(std::string_view hex) {

@@ -8,7 +8,7 @@
 #include "platform/Clipboard.h"
 #include "platform/Registry.h"
 #include "platform/Settings.h"
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 namespace lumenote::verbs {
 namespace {
@@ -20,7 +20,7 @@ Value ValueOrNull(const std::optional<Text>& text) {
 
 Value ClipboardValue(const ClipboardContent& content) {
   return Value::Object{{"text", ValueOrNull(content.text)},
-                       {"rtf", content.rtf ? Value(UnitsOfBytes(*content.rtf)) : Value()}};
+                       {"rtf", content.rtf ? Value(WidenSource(*content.rtf)) : Value()}};
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ Answer Clip(Stage& stage, Arguments& arguments) {
 }
 
 Answer ClipRtf(Stage& stage, Arguments& arguments) {
-  const std::string rtf = BytesOfUnits(arguments.Text());
+  const std::string rtf = NarrowSource(arguments.Text());
   arguments.End();
   stage.sandbox.SystemClipboard().Set({std::nullopt, rtf});
   return {};

@@ -45,7 +45,7 @@ class Entry {
 
 FontFace Entry::Face() const {
   FontFace face = face_;
-  face.name = TrimBlanks(face_.name);
+  face.name = TrimSpaces(face_.name);
   return face;
 }
 

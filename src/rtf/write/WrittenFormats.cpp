@@ -88,7 +88,7 @@ std::uint32_t WrittenFormats::FontIndex(const FontFace& face) {
 
 WrittenFormat WrittenFormats::Written(const CharFormat& format) {
   FontFace face = tables_.fonts[format.font];
-  face.name = TrimBlanks(face.name);
+  face.name = TrimSpaces(face.name);
   WrittenFormat written;
   const Font& font = fonts_[FontIndex(face)];
   written.font = font.number;

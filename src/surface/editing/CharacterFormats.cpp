@@ -49,10 +49,10 @@ auto CharacterFormats::Common(Get get) const -> std::optional<decltype(get(CharF
   return value;
 }
 
-// Lets `set` change the formats of which `differs` is true.
+// Changes with `set` the formats for which `differs` is true.
 template <class Differs, class Set>
 void CharacterFormats::Apply(Differs differs, Set set) {
-  core_.RequireQuiet();
+  core_.RefuseWhileNotifying();
   if (!core_.HasSelection()) {
     CharFormat format = core_.InsertionFormat();
     if (!differs(format)) return;
@@ -94,7 +94,7 @@ std::optional<int> CharacterFormats::Offset() const {
   return Common([](const CharFormat& format) { return int{format.offset}; });
 }
 
-// An offset in twips takes the place of the font's own superscript or subscript.
+// An explicit offset replaces the font's own superscript or subscript.
 void CharacterFormats::Offset(int twips) {
   const std::int16_t offset = ToInt16(std::int64_t{twips});
   Apply(

@@ -10,8 +10,8 @@
 
 namespace lumenote {
 
-/// Reads attributes common to the selection and writes them on the runs that differ; on an empty
-/// selection they are those of the text typed next. Ranges and errors: see `RichTextSurface`.
+/// Reads the attributes common to the selection and writes them to the runs that differ. With an
+/// empty selection they apply to the text typed next. Ranges and errors: see `RichTextSurface`.
 class CharacterFormats {
  public:
   explicit CharacterFormats(EditingCore& core) : core_(core) {}

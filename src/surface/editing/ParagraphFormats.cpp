@@ -28,7 +28,7 @@ auto ParagraphFormats::Common(Get get) const -> std::optional<decltype(get(ParaF
 // Lets `set` make the new formats; equal ones stay as they are.
 template <class Set>
 void ParagraphFormats::Apply(UndoKind kind, Set set) {
-  core_.RequireQuiet();
+  core_.RefuseWhileNotifying();
   const auto map = [&](ParaId id) {
     ParaFormat format = core_.ParagraphFormat(id);
     set(format);

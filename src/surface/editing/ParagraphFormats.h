@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-/// Reads attributes common to the paragraphs that the selection touches and writes them on those
-/// that differ. Values and errors: see `RichTextSurface`.
+/// Reads the attributes common to the paragraphs that the selection touches and writes them to
+/// those that differ. Values and errors: see `RichTextSurface`.
 class ParagraphFormats {
  public:
   explicit ParagraphFormats(EditingCore& core) : core_(core) {}

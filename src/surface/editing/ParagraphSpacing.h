@@ -1,17 +1,16 @@
-// Line spacing and the space around paragraphs, as the numbers that windows show and keep.
+// Line and paragraph spacing in the numbers that windows show and store.
 #pragma once
 #include "platform/RichTextSurface.h"
 
 namespace lumenote {
 
-/// Of the selection's first paragraph: 20, 30 and 40 for single, one and a half and double spacing,
+/// Of the selection's first paragraph: 20, 30 or 40 for single, one-and-a-half or double spacing,
 /// else the stored value.
 int LineSpacing(const RichTextSurface& surface);
-/// Up to 100 a multiple of the line, in twentieths of a line; from 101 on an exact spacing in
-/// twips.
+/// Up to 100: a multiple, in twentieths of a line. From 101 on: an exact spacing in twips.
 void SetLineSpacing(RichTextSurface& surface, int value);
 
-/// In twips; may be negative.
+/// Twips; may be negative.
 int SpaceBefore(const RichTextSurface& surface);
 void SetSpaceBefore(RichTextSurface& surface, int twips);
 int SpaceAfter(const RichTextSurface& surface);

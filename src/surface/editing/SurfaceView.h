@@ -1,4 +1,4 @@
-// What a surface tells the view that shows it.
+// The notifications that a surface sends to the view that shows it.
 #pragma once
 #include <optional>
 
@@ -7,25 +7,25 @@
 
 namespace lumenote {
 
-/// One change of the document, after which it is consistent: `removed` units at `at` became
-/// `inserted` ones. A format-only change has both equal. The paragraphs it touches may look
-/// different from their beginning on.
-using DocumentChange = EditExtent;
+/// One change of the document: `removed` units at `at` became `inserted` ones; both are equal for a
+/// format-only change. Affected paragraphs may need layout from their first character on.
+using DocumentChange = EditRange;
 
-/// What a view wants to know; called after the fact. An edit made from inside one is refused.
+/// Called after the fact, when the document is consistent again. An edit made from inside is
+/// refused.
 class SurfaceView {
  public:
   virtual ~SurfaceView() = default;
   virtual void DocumentChanged(const DocumentChange& change) = 0;
   virtual void SelectionChanged() = 0;
   virtual void WrapWidthChanged() = 0;
-  /// Scrolls so that the caret can be seen; called at every move, so best done when next painting.
+  /// Scrolls the caret into view. Called for every move, so best deferred to the next paint.
   virtual void RevealCaret() = 0;
-  /// How many lines a page key moves.
+  /// Number of lines that a page key moves by.
   virtual int LinesPerPage() const = 0;
-  /// The line that holds `position`, as the view shows it or would; empty when the view has no
-  /// lines of its own. Far inside a very long paragraph a view need not begin lines where a layout
-  /// of the whole paragraph would.
+  /// The line that holds `position`, as the view shows it or would; empty if the view lays out no
+  /// lines. Deep inside a very long paragraph the lines may begin elsewhere than in a layout of the
+  /// whole paragraph.
   virtual std::optional<Line> ShownLine(Position) { return std::nullopt; }
 };
 

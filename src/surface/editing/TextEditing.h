@@ -1,4 +1,4 @@
-// Changes of the text: replacing, deleting, typing, moving.
+// Edits of the text: replacing, deleting, typing, moving.
 #pragma once
 #include <string_view>
 
@@ -6,29 +6,30 @@
 
 namespace lumenote {
 
-/// Each member is one act on the document and one undo step of its kind. Where an act joins
-/// paragraphs, the result keeps the format of the first one, unless that one went as a whole.
+/// Each member is one command and one undo step of its kind. A paragraph that results from joining
+/// keeps the format of the first one, unless that was removed entirely.
 class TextEditing {
  public:
   explicit TextEditing(EditingCore& core) : core_(core) {}
 
-  /// Puts the text, in the insertion format, in the place of the selection, caret behind it.
+  /// Replaces the selection by `text` in the insertion format; the caret ends after it.
   void ReplaceSelection(UndoKind kind, std::u16string_view text);
   void ReplaceSelection(UndoKind kind, const Fragment& fragment);
-  /// What is typed next looks like the first character deleted.
+  /// Text typed next takes the format of the first character deleted.
   void DeleteSelection(UndoKind kind);
   void Delete(UndoKind kind, Position from, Position to);
 
-  /// A run of typing; each CR LF begins a paragraph in the same formats and ends the run.
+  /// Extends the current run of typing. Each CR LF starts a paragraph with the same formats and
+  /// ends the run.
   void Type(std::u16string_view text);
 
-  /// Moves, or copies, the selected text to `target` and selects it there; does nothing when
-  /// `target` lies inside it.
+  /// Moves or copies the selected text to `target` and selects it there. Does nothing if `target`
+  /// lies inside the selection.
   void MoveSelection(Position target, bool copy);
-  /// Puts `fragment` at `target` and selects it.
+  /// Inserts `fragment` at `target` and selects it.
   void Drop(const Fragment& fragment, Position target);
 
-  /// Text as if it were typed over the selection.
+  /// The text as typing it over the selection would format it.
   Fragment Plain(std::u16string_view text) const;
 
  private:

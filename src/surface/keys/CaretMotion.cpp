@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kPageWithoutView = 20;
 
-/// The last place of the caret in a line. Behind the last character of a wrapped line it would
-/// already stand in the following one.
+/// The last caret position in a line. After the last character of a wrapped line the caret would
+/// already be on the next line.
 Position LastCaret(const Document& document, const Line& line) {
   if (line.end != line.next) return line.end;
   return std::max(line.start, document.Before(line.end - 1));
@@ -42,7 +42,7 @@ std::optional<Position> CaretMotion::Target(const KeyStroke& key) {
   }
 }
 
-// How many lines the key moves; 0 when it is none of the keys that do.
+// Number of lines that the key moves by; 0 for a key that does not move vertically.
 int CaretMotion::LinesOf(const KeyStroke& key) const {
   if (key.control) return 0;
   const SurfaceView* view = core_.View();
@@ -61,7 +61,8 @@ int CaretMotion::LinesOf(const KeyStroke& key) const {
   }
 }
 
-// The user goes by the lines seen, which cost nothing more; without a view, by the line table's.
+// Vertical movement follows the lines on screen, at no extra cost; without a view, those of the
+// line table.
 Line CaretMotion::LineAt(Position position) const {
   std::optional<Line> shown;
   if (core_.View()) shown = core_.View()->ShownLine(position);

@@ -1,4 +1,4 @@
-// Where the caret keys lead.
+// Where the caret keys move the caret.
 #pragma once
 #include <optional>
 
@@ -7,13 +7,13 @@
 
 namespace lumenote {
 
-/// Keeps, over a series of moves up and down, the distance from the left edge that it began with,
-/// so that the caret comes back to it behind shorter lines.
+/// Vertical moves in a row share one goal: the distance from the left edge at which the first
+/// began, so that the caret returns there after shorter lines.
 class CaretMotion {
  public:
   CaretMotion(EditingCore& core, LineBreaker& breaker) : core_(core), breaker_(breaker) {}
 
-  /// The new caret position, the old one at the document's edge; empty when `key` is no caret key.
+  /// The new caret position, unchanged at the document's edge; empty if `key` is not a caret key.
   std::optional<Position> Target(const KeyStroke& key);
 
  private:
@@ -25,7 +25,7 @@ class CaretMotion {
 
   EditingCore& core_;
   LineBreaker& breaker_;
-  std::optional<float> goal_;  // holds while the caret stands at `goalCaret_`
+  std::optional<float> goal_;  // valid while the caret is at `goalCaret_`
   Position goalCaret_ = 0;
 };
 

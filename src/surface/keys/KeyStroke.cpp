@@ -47,7 +47,7 @@ void TakeModifiers(std::u16string_view& text, KeyStroke& key) {
   }
 }
 
-/// The number in "F1" to "F24"; 0 for anything else.
+/// The number of "F1" to "F24"; 0 for anything else.
 int FunctionNumber(std::u16string_view text) {
   if (text.size() < 2 || text.size() > 3 || text[0] != u'F' || text[1] == u'0') return 0;
   int number = 0;
@@ -60,7 +60,7 @@ int FunctionNumber(std::u16string_view text) {
 
 }  // namespace
 
-bool OnlyLooks(const KeyStroke& key) {
+bool IsNonEditing(const KeyStroke& key) {
   if (key.name >= KeyName::Left && key.name <= KeyName::PageDown) return true;
   if (!key.control || key.alt) return false;
   return key.name == KeyName::Insert ||

@@ -1,4 +1,4 @@
-// A key as the user presses it, without a toolkit.
+// A key press, independent of the toolkit.
 #pragma once
 #include <optional>
 #include <string_view>
@@ -25,7 +25,7 @@ enum class KeyName {
   Function
 };
 
-/// `character` is meaningful for `KeyName::Character` (the letter of Ctrl+Z, lower case) and
+/// `character` is set for `KeyName::Character` (the letter of Ctrl+Z, lower case) and
 /// `KeyName::Function` (the number of the function key).
 struct KeyStroke {
   KeyName name = KeyName::Character;
@@ -36,10 +36,10 @@ struct KeyStroke {
   bool operator==(const KeyStroke&) const = default;
 };
 
-/// Whether the key moves the caret, selects or copies, but never changes the text.
-bool OnlyLooks(const KeyStroke& key);
+/// Whether the key may move the caret, select or copy, but never changes the text.
+bool IsNonEditing(const KeyStroke& key);
 
-/// Reads "Delete", "Shift+End", "Ctrl+Z", "Ctrl+Shift+Left"; empty when it is no key's name.
+/// Parses "Delete", "Shift+End", "Ctrl+Z", "Ctrl+Shift+Left"; empty if it names no key.
 std::optional<KeyStroke> ParseKey(std::u16string_view name);
 
 }  // namespace lumenote

@@ -76,7 +76,7 @@ bool UserKeys::Press(const KeyStroke& key) {
   return true;
 }
 
-// At the start of a paragraph with a bullet the key takes the bullet off first.
+// At the start of a bulleted paragraph the key removes the bullet first.
 void UserKeys::BackSpace() {
   const Document& document = core_.Content();
   const Position caret = core_.Caret();
@@ -95,7 +95,7 @@ void UserKeys::DeleteNext() {
 
 void UserKeys::DeleteNextWord() { Erase(NextWord(core_.Content(), core_.Caret())); }
 
-// Deletes the selection, else what lies between the caret and `to`.
+// Deletes the selection or, if empty, the range between the caret and `to`.
 void UserKeys::Erase(Position to) {
   if (core_.HasSelection()) return text_.DeleteSelection(UndoKind::Delete);
   text_.Delete(UndoKind::Delete, std::min(core_.Caret(), to), std::max(core_.Caret(), to));

@@ -1,4 +1,4 @@
-// What the keys do that change the document or act on the clipboard and the history.
+// Keys that edit the document or act on the clipboard and the history.
 #pragma once
 #include "surface/editing/CharacterFormats.h"
 #include "surface/editing/ParagraphFormats.h"
@@ -9,13 +9,13 @@
 
 namespace lumenote {
 
-/// The keyboard of a surface: caret keys, and a table of all the others.
+/// A surface's keyboard: caret keys, and a table of all others.
 class UserKeys {
  public:
   UserKeys(EditingCore& core, CaretMotion& motion, TextEditing& text, CharacterFormats& characters,
            ParagraphFormats& paragraphs, Transfer& transfer);
 
-  /// Whether the key does something here; one that finds nothing to do has still been used.
+  /// Handles a key; false if it means nothing here. A key with nothing to do counts as handled.
   bool Press(const KeyStroke& key);
 
  private:

@@ -1,7 +1,7 @@
 #include "surface/keys/Words.h"
 
 #include "base/Characters.h"
-#include "surface/keys/TextWindow.h"
+#include "surface/keys/CharacterReader.h"
 
 namespace lumenote {
 
@@ -19,7 +19,7 @@ Class ClassOf(char16_t c) {
 
 bool IsApostrophe(char16_t c) { return c == u'\'' || c == u'\u2019'; }
 
-/// Moves over a document's text by runs of one class.
+/// Moves through a document by runs of one character class.
 class Walk {
  public:
   Walk(const Document& document, Position position) : text_(document), position_(position) {}
@@ -37,7 +37,7 @@ class Walk {
   void PassBack(Class c) {
     while (!AtStart() && Behind() == c) StepBack();
   }
-  /// Whether an apostrophe between two letters begins at, or ends at, this position.
+  /// Whether an apostrophe between two letters begins (ends) at this position.
   bool ElisionAhead() { return ElisionAt(position_); }
   bool ElisionBehind() { return ElisionAt(position_ - 1); }
 
@@ -47,7 +47,7 @@ class Walk {
            ClassOf(text_[at - 1]) == Class::Word && ClassOf(text_[at + 1]) == Class::Word;
   }
 
-  TextWindow text_;
+  CharacterReader text_;
   Position position_;
 };
 

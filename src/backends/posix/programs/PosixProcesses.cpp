@@ -96,7 +96,7 @@ std::optional<SystemError> PosixProcesses::Terminate(std::u16string_view path) {
   return ErrorOf(failure);
 }
 
-std::optional<SystemError> PosixProcesses::Lingering(std::u16string_view path) {
+std::optional<SystemError> PosixProcesses::StillRunning(std::u16string_view path) {
   Collect();
   if (InstancesOf(drives_.ToNative(path)).empty()) return std::nullopt;
   return ErrorOf(ETIMEDOUT);

@@ -31,7 +31,7 @@ class PosixProcesses : public Processes {
   /// Through its windows a program that has some, which may ask its user first; any other with the
   /// signal that it may heed in its own way.
   std::optional<SystemError> Terminate(std::u16string_view path) override;
-  std::optional<SystemError> Lingering(std::u16string_view path) override;
+  std::optional<SystemError> StillRunning(std::u16string_view path) override;
 
   /// Takes notice of what has ended meanwhile.
   void Collect();

@@ -82,7 +82,7 @@ bool PosixFiles::SameFile(std::u16string_view one, std::u16string_view other) co
   return same;
 }
 
-std::shared_ptr<void> PosixFiles::TakeTurn(std::u16string_view path) const {
+std::shared_ptr<void> PosixFiles::LockFolder(std::u16string_view path) const {
   std::shared_ptr<Descriptor> folder;
   IgnoringErrors([&] {
     const std::filesystem::path note = FollowLinks(drives_.ToNative(path));
@@ -97,8 +97,9 @@ void PosixFiles::Write(std::u16string_view path, std::string_view bytes) {
   SaveFile(drives_.ToNative(path), bytes, kNewFileMode, backups_);
 }
 
-void PosixFiles::WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) {
-  const mode_t mode = readers == Readers::UserOnly ? S_IRUSR | S_IWUSR : kNewFileMode;
+void PosixFiles::WriteNew(std::u16string_view path, std::string_view bytes,
+                          Permissions permissions) {
+  const mode_t mode = permissions == Permissions::UserOnly ? S_IRUSR | S_IWUSR : kNewFileMode;
   AtomicFile file(FollowLinks(drives_.ToNative(path)), mode);
   file.Write(bytes);
   file.CommitAsNew();

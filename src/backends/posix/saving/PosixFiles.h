@@ -23,12 +23,12 @@ class PosixFiles : public Files {
   std::string ReadAll(std::u16string_view path) const override;
   bool SameFile(std::u16string_view one, std::u16string_view other) const override;
 
-  std::shared_ptr<void> TakeTurn(std::u16string_view path) const override;
+  std::shared_ptr<void> LockFolder(std::u16string_view path) const override;
 
   /// Writes through a symbolic link: the link stays, the file behind it is replaced. May be called
   /// on any thread.
   void Write(std::u16string_view path, std::string_view bytes) override;
-  void WriteNew(std::u16string_view path, std::string_view bytes, Readers readers) override;
+  void WriteNew(std::u16string_view path, std::string_view bytes, Permissions permissions) override;
   void AppendLines(std::u16string_view path, std::string_view lines) override;
   /// Removes a symbolic link itself.
   void Delete(std::u16string_view path, bool force) override;

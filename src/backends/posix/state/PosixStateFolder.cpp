@@ -44,10 +44,10 @@ std::unique_ptr<StateCopy> PosixStateFolder::MakeStateCopy() {
   return std::make_unique<StateCopy>([this] { return Own(); }, ++copies_);
 }
 
-void PosixStateFolder::HandOverLeft(const std::function<bool(const LeftCopy&)>& rescue) {
+void PosixStateFolder::ClaimOrphans(const std::function<bool(const OrphanedCopy&)>& rescue) {
   // A copy of the backend's own tells a native path.
-  const auto translated = [&](const LeftCopy& copy) {
-    LeftCopy shown = copy;
+  const auto translated = [&](const OrphanedCopy& copy) {
+    OrphanedCopy shown = copy;
     if (copy.origin.starts_with(u'/'))
       IgnoringErrors([&] { shown.origin = drives_.ToDrivePath(ToUtf8(copy.origin)); });
     return rescue(shown);

@@ -27,7 +27,7 @@ class PosixStateFolder final : public StateFolder {
   std::unique_ptr<NoteCopy> MakeCopy() override { return MakeStateCopy(); }
   /// The same for code of this backend.
   std::unique_ptr<StateCopy> MakeStateCopy();
-  void HandOverLeft(const std::function<bool(const LeftCopy&)>& rescue) override;
+  void ClaimOrphans(const std::function<bool(const OrphanedCopy&)>& rescue) override;
   std::u16string KeepForGood(std::u16string_view name, std::string_view bytes) override;
 
  private:

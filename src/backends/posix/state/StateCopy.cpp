@@ -51,8 +51,8 @@ std::set<std::string> BasesIn(const std::string& folder) {
 }
 
 /// Empty when there is none that can be read.
-std::optional<LeftCopy> Read(const std::string& base) {
-  LeftCopy copy;
+std::optional<OrphanedCopy> Read(const std::string& base) {
+  OrphanedCopy copy;
   IgnoringErrors([&] { copy.origin = FromUtf8(ReadWholeFile(base + kOrigin)); });
   if (!IgnoringErrors([&] { copy.bytes = ReadWholeFile(base + kContent); })) return std::nullopt;
   return copy;
@@ -121,11 +121,11 @@ void StateCopy::Remove() {
 }
 
 void StateCopy::HandOver(const std::string& folder,
-                         const std::function<bool(const LeftCopy&)>& rescue) {
+                         const std::function<bool(const OrphanedCopy&)>& rescue) {
   for (const std::string& base : BasesIn(folder)) {
     std::error_code ignored;
     const bool finished = std::filesystem::exists(base + kContent, ignored);
-    const std::optional<LeftCopy> copy = finished ? Read(base) : std::nullopt;
+    const std::optional<OrphanedCopy> copy = finished ? Read(base) : std::nullopt;
     if (!finished || (copy && rescue(*copy))) RemoveAll(base);
   }
 }

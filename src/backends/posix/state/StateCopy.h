@@ -33,9 +33,9 @@ class StateCopy final : public NoteCopy {
   /// Native path of the content.
   std::string Path() const { return base_ + ".note"; }
 
-  /// The copies in a folder of a dead owner; see `StateFolder::HandOverLeft`.
+  /// The copies in a folder of a dead owner; see `StateFolder::ClaimOrphans`.
   static void HandOver(const std::string& folder,
-                       const std::function<bool(const LeftCopy&)>& rescue);
+                       const std::function<bool(const OrphanedCopy&)>& rescue);
 
  private:
   void Drop();

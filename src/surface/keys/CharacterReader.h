@@ -1,4 +1,4 @@
-// Characters of a document one at a time, in either direction, without a look-up for each.
+// Reads a document character by character, in either direction, without a look-up for each.
 #pragma once
 #include <string>
 
@@ -6,24 +6,23 @@
 
 namespace lumenote {
 
-/// The character that a surrogate pair stands for.
+/// The code point of a surrogate pair.
 constexpr char32_t PairCode(char16_t high, char16_t low) {
   return static_cast<char32_t>(0x10000 + ((high & 0x3FF) << 10) + (low & 0x3FF));
 }
 
-/// A piece of the document's text that follows the positions asked for. Valid until the document
-/// changes.
-class TextWindow {
+/// Keeps a copy of the text around the last position read. Valid until the document changes.
+class CharacterReader {
  public:
-  explicit TextWindow(const Document& document);
+  explicit CharacterReader(const Document& document);
 
   Position Length() const { return length_; }
-  /// The unit at `position`, which lies in the document.
+  /// The unit at `position`, which must lie in the document.
   char16_t operator[](Position position);
   /// The character at `position`, a surrogate pair as its code point.
   char32_t Character(Position position);
-  /// The positions behind and before a character, CR LF and a surrogate pair counting as one; the
-  /// document's ends stay where they are.
+  /// The positions after and before a character; CR LF and a surrogate pair each count as one
+  /// character. Stops at the document's ends.
   Position Next(Position position);
   Position Previous(Position position);
 

@@ -1,4 +1,4 @@
-// Several edits told as one change.
+// Merges several edits into one change.
 #pragma once
 #include <algorithm>
 #include <optional>
@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-/// Adds an edit, whose positions count in the document that the change so far has left.
-inline void Widen(std::optional<DocumentChange>& change, const DocumentChange& edit) {
+/// Extends `change` to cover `edit`, whose positions refer to the document after `change`.
+inline void MergeEdit(std::optional<DocumentChange>& change, const DocumentChange& edit) {
   if (!change) {
     change = edit;
     return;

@@ -1,4 +1,4 @@
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -20,8 +20,8 @@ std::string Narrow(std::u16string_view units) {
   return bytes;
 }
 
-/// RTF source as bytes; `byteOf` gives the one of a unit, or -1. The braces behind an escape shut
-/// out that what follows is taken for its fallback, however many characters (\uc) those are.
+/// RTF source as bytes; `byteOf` returns the byte of a unit, or -1. The braces after an escape end
+/// it, whatever the current \uc count: what follows cannot be taken for its fallback.
 template <class ByteOf>
 std::string SourceBytes(std::u16string_view source, ByteOf byteOf) {
   std::string bytes;
@@ -42,18 +42,18 @@ std::string SourceBytes(std::u16string_view source, ByteOf byteOf) {
 
 }  // namespace
 
-std::u16string UnitsOfBytes(std::string_view bytes) {
+std::u16string WidenSource(std::string_view bytes) {
   std::u16string units(bytes.size(), u'\0');
   std::ranges::transform(bytes, units.begin(),
                          [](char c) { return static_cast<unsigned char>(c); });
   return units;
 }
 
-std::string BytesOfUnits(std::u16string_view units) {
+std::string NarrowSource(std::u16string_view units) {
   if (AreBytes(units)) return Narrow(units);
   return SourceBytes(units, [](char16_t unit) { return unit <= 0xFF ? unit : ByteIn1252(unit); });
 }
 
-std::string BytesOfSource(std::u16string_view source) { return SourceBytes(source, ByteIn1252); }
+std::string EncodeSource(std::u16string_view source) { return SourceBytes(source, ByteIn1252); }
 
 }  // namespace lumenote
