@@ -17,11 +17,9 @@ struct Component;
 /// path. Set the descriptive properties, then `pStrOrchm`, call `ShowMicroEdit(1)` and read
 /// `pStrOrchm`.
 ///
-///
 /// Members raise `RuntimeError` and nothing else; its `Member()` names the member concerned. Any
 /// other exception becomes Internal (51). A control belongs to the thread that created it: on
 /// another thread every member raises InvalidArgument (5) at once and does nothing.
-///
 ///
 /// While the editor waits or asks a question, the host's event handlers run and may call any
 /// member, even destroy this control; each member says what happens then.

@@ -1,4 +1,4 @@
-// Changing formats over a range: each format is mapped once, each leaf copied at most once.
+// Changes formats over a range: maps each format once and copies each leaf at most once.
 #include <algorithm>
 #include <vector>
 
@@ -7,8 +7,7 @@
 namespace lumenote {
 namespace {
 
-/// A map from format number to format number that asks its function once for each; without one it
-/// changes nothing.
+/// A map between format numbers that calls its function once per format; the identity without one.
 class MemoMap {
  public:
   MemoMap(const std::function<std::uint32_t(std::uint32_t)>& map, std::uint32_t formats)
@@ -29,7 +28,7 @@ class MemoMap {
   std::vector<std::uint32_t> known_;
 };
 
-/// The leaf with its formats mapped: itself when that changes none.
+/// The leaf with its formats mapped, or the leaf itself if that changes none.
 LeafPointer MapLeaf(const LeafPointer& leaf, MemoMap& characters, MemoMap& paragraphs) {
   const auto changesRun = [&](Run run) { return characters.Changes(run.format); };
   const auto changesMark = [&](ParaId mark) { return paragraphs.Changes(mark); };

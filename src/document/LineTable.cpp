@@ -7,9 +7,9 @@ namespace lumenote {
 namespace {
 
 constexpr char16_t kLineBreak = u'\v';
-// A word cut over more lines than this is not looked at again from its beginning.
+// A word broken over more lines than this is not laid out again from its start.
 constexpr int kMostCutLines = 16;
-// The first piece laid out behind an edit; each further one is twice as long.
+// The first piece laid out after an edit; each further one is twice as long.
 constexpr Position kFirstPiece = LineTable::kPiece / 16;
 
 }  // namespace
@@ -31,8 +31,8 @@ bool LineRun::Reaches(Position position) const {
   return document_.ParagraphOf(position) == document_.ParagraphOf(starts_.back().at);
 }
 
-// Lays out one more piece behind the last line known. A piece without a line start in it (all of
-// it fits on one line) is tried again twice as long, so that even endless lines cost little.
+// Lays out one more piece after the last known line. A piece without a line start in it (it fits on
+// one line) is retried at twice the length, so that even endless lines cost little.
 bool LineRun::Extend() {
   if (complete_) return false;
   const auto [from, format] = starts_.back();
@@ -86,9 +86,9 @@ bool LineRun::BehindBlank(Position start) const {
   return before == u' ' || before == u'\t' || before == kLineBreak;
 }
 
-// The line edited may begin elsewhere now, since its first word may fit on the line before; when
-// that word was cut over several lines, the first of them may. Another paragraph format moves all
-// lines of the paragraph.
+// The edited line may now begin elsewhere, since its first word may fit on the line before; if that
+// word was broken over several lines, even the first of them may. A change of the paragraph format
+// moves all its lines.
 void LineRun::Edited(Position at) {
   std::size_t line = LastUpTo(at);
   const bool reformatted = document_.ParaFormatAt(starts_[line].at) != starts_[line].format;
@@ -130,7 +130,7 @@ Line LineTable::LineAt(Position position) {
 
 void LineTable::Edited(Position at) {
   all_.Edited(at);
-  if (near_.First() == 0) return;  // not in use: `all_` begins there
+  if (near_.First() == 0) return;  // unused: `all_` starts there
   if (near_.First() <= at)
     near_.Edited(at);
   else

@@ -1,4 +1,4 @@
-// Where the lines of the laid-out text begin, filled on demand.
+// Where the lines of the laid-out text begin; computed on demand.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -12,13 +12,13 @@ namespace lumenote {
 class LineBreaker {
  public:
   virtual ~LineBreaker() = default;
-  /// Lays out one paragraph, or a piece of one, from `from` (a line's first character) to `to`
-  /// (the paragraph's end or a limit inside it), and returns the position where each line after
-  /// the first begins. A line takes at least one character; the text behind a limit may still
-  /// belong to the piece's last line, so a line begins only where something did not fit.
+  /// Lays out a paragraph, or a piece of one, from `from` (a line start) to `to` (the paragraph's
+  /// end or a limit inside it), and returns the start of each line after the first. A line has at
+  /// least one character. Text beyond a limit may still belong to the piece's last line, so a line
+  /// starts only where something did not fit.
   virtual std::vector<Position> Break(const Document& document, Position from, Position to) = 0;
-  /// Distance, in the breaker's own unit, of `position` from the left edge in the line that begins
-  /// at `lineStart`.
+  /// The x-coordinate of `position` in the line that starts at `lineStart`, in the breaker's own
+  /// unit from the left edge.
   virtual float XOf(const Document& document, Position lineStart, Position position) = 0;
   /// The caret position nearest to `x` in the line `lineStart`..`lineEnd`.
   virtual Position AtX(const Document& document, Position lineStart, Position lineEnd, float x) = 0;
@@ -27,34 +27,34 @@ class LineBreaker {
 /// One line of the layout.
 struct Line {
   Position start = 0;
-  Position end = 0;    // just behind the last character, a paragraph's or line's break not included
-  Position next = -1;  // where the following line begins; -1 behind the last one
+  Position end = 0;    // after the last character, excluding the paragraph's or line's break
+  Position next = -1;  // start of the next line; -1 for the last one
   bool operator==(const Line&) const = default;
 };
 
-/// The lines from one paragraph's start on, known up to the furthest asked for. Invariant: every
-/// start is where a layout of the whole document would begin a line.
+/// The line starts from one paragraph on, as far as they were asked for. Invariant: each is a line
+/// start of the whole document's layout.
 class LineRun {
  public:
   LineRun(const Document& document, LineBreaker& breaker);
 
-  /// Forgets everything and begins at a paragraph's start.
+  /// Discards everything and restarts at a paragraph's start.
   void Restart(Position paragraphStart);
   Position First() const { return starts_.front().at; }
-  /// Whether `position` lies in the lines known or in the paragraph of the last one.
+  /// Whether `position` lies in the known lines or in the last one's paragraph.
   bool Reaches(Position position) const;
-  /// Number of the line that holds `position`, counted from the first of the run.
+  /// Index of the line that holds `position`, relative to the first line here.
   std::size_t IndexOf(Position position);
-  /// Whether there is such a line.
+  /// Whether line `line` exists; lays out up to it.
   bool Has(std::size_t line);
   Line At(std::size_t line);
-  /// After an edit at `at`, not before the run's first line.
+  /// Invalidates what an edit at `at`, not before the first line, may have moved.
   void Edited(Position at);
 
  private:
   struct Start {
     Position at = 0;
-    ParaId format = 0;  // of its paragraph, as it was laid out
+    ParaId format = 0;  // the paragraph's format when it was laid out
   };
 
   bool Extend();
@@ -66,13 +66,13 @@ class LineRun {
   LineBreaker& breaker_;
   std::vector<Start> starts_;
   Position piece_ = 0;     // how much to lay out next
-  bool complete_ = false;  // the last start is the document's last line
+  bool complete_ = false;  // the last start is that of the document's last line
 };
 
-/// Line starts of a document. A look-up by number lays out what lies before it; a look-up of the
-/// lines around a position lays out its paragraph alone; an edit drops what it may have moved. A
-/// long paragraph is broken in pieces of at most about `kPiece` characters, shorter ones just
-/// behind an edit, each from a line's first character on.
+/// A document's line starts. A look-up by number lays out everything before it; a look-up around a
+/// position lays out only its paragraph; an edit discards what it may have moved. A long paragraph
+/// is broken in pieces of at most about `kPiece` characters (shorter ones right after an edit),
+/// each starting at a line start.
 class LineTable {
  public:
   static constexpr Position kPiece = 4000;
@@ -81,23 +81,23 @@ class LineTable {
 
   /// Number, from 0, of the line that holds `position`.
   std::int32_t LineOf(Position position);
-  /// First position of a line, or -1 when there is no such line.
+  /// First position of a line, or -1 if there is no such line.
   Position LineStart(std::int32_t line);
-  /// Just behind the last character of the line, its break not included; -1 as above.
+  /// The position after the line's last character, excluding its break; -1 as above.
   Position LineEnd(std::int32_t line);
 
-  /// The line that holds `position`; costs no more than its paragraph, wherever it lies.
+  /// The line that holds `position`; never costs more than its paragraph.
   Line LineAt(Position position);
 
-  /// After an edit of text or formats at `at`: forgets the lines it may have moved.
+  /// Invalidates the lines that an edit of text or formats at `at` may have moved.
   void Edited(Position at);
-  /// After a change of width or fonts.
+  /// Discards everything, after a change of width or fonts.
   void Reset();
 
  private:
   const Document& document_;
-  LineRun all_;   // from the start of the document, so its numbers are the document's
-  LineRun near_;  // around the last position asked for beyond the lines of `all_`
+  LineRun all_;   // from the start of the document, so its indices are line numbers
+  LineRun near_;  // around the last position looked up beyond `all_`
 };
 
 }  // namespace lumenote

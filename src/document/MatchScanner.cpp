@@ -10,8 +10,8 @@
 namespace lumenote {
 namespace {
 
-/// The first of `at`..`end` - 1 for which `hit` holds, else `end`. Goes by whole blocks first, in a
-/// form and of a size that compilers turn into vector instructions.
+/// The first index of `at`..`end` - 1 that satisfies `hit`, else `end`. Scans whole blocks first,
+/// in a form that compilers vectorise.
 template <class Hit>
 std::size_t FirstHit(std::size_t at, std::size_t end, Hit hit) {
   constexpr std::size_t kBlock = 32;
@@ -83,11 +83,11 @@ MatchScanner::Opening<Unit> MatchScanner::OpeningIn() const {
 template <class Unit>
 std::size_t MatchScanner::NextCandidate(std::basic_string_view<Unit> text, std::size_t at) const {
   const auto opening = std::get<Opening<Unit>>(openings_);
-  using Hits = std::make_unsigned_t<Unit>;  // as wide as the text, for vectors of them
+  using Hits = std::make_unsigned_t<Unit>;  // as wide as the text, so that both vectorise alike
   const Unit* units = text.data();
   const auto begins = [=](std::size_t i) { return Hits{opening.first.Has(units[i])}; };
   if (needle_.size() == 1 || at >= text.size()) return FirstHit(at, text.size(), begins);
-  // Of the leaf's last unit the next one lies elsewhere.
+  // The unit after the leaf's last one is in the next leaf.
   const std::size_t last = text.size() - 1;
   at = FirstHit(at, last, [=](std::size_t i) {
     return static_cast<Hits>(begins(i) & Hits{opening.second.Has(units[i + 1])});

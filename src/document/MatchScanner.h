@@ -1,4 +1,4 @@
-// Finding one match after another in a list of leaves.
+// Finds one match after another in a list of leaves.
 #pragma once
 #include <string>
 #include <string_view>
@@ -9,38 +9,39 @@
 
 namespace lumenote {
 
-/// Goes once through the leaves, which must stay as they are meanwhile; a match may cross leaves.
+/// Makes one pass over the leaves, which must not change meanwhile. Matches may span leaves.
 class MatchScanner {
  public:
-  /// Starts at `from`, which lies in 0..the list's length.
+  /// Starts at `from`, which must lie in 0..the list's length.
   MatchScanner(const LeafList& leaves, std::u16string_view needle, SearchOptions options,
                Position from);
 
-  /// Position of the next match that ends at `to` at the latest, behind the one before; -1 when
-  /// there is none.
+  /// Position of the next match that ends at or before `to`, after the previous one; -1 if there is
+  /// none.
   Position Next(Position to);
 
  private:
-  /// Both forms of a character, the same twice when case matters. A form that has no byte is 0
-  /// among bytes, which no text holds.
+  /// Both cases of a character, equal if case matters. Among bytes, 0 stands for a case without a
+  /// byte; no text contains it.
   template <class Unit>
   struct Cases {
     Unit small = 0;
     Unit capital = 0;
     bool Has(Unit c) const { return (c == small) | (c == capital); }
   };
-  /// How the needle begins.
+  /// The first two characters of the needle.
   template <class Unit>
   struct Opening {
     Cases<Unit> first;
-    Cases<Unit> second;  // if it has one
+    Cases<Unit> second;  // if the needle has one
   };
 
   bool CanMatch() const;
   char16_t Fold(char16_t c) const;
   template <class Unit>
   Opening<Unit> OpeningIn() const;
-  /// Where the needle may begin in `text`, at `at` or behind it; the text's end when nowhere.
+  /// The first possible start of a match in `text` at or after `at`; the text's end if there is
+  /// none.
   template <class Unit>
   std::size_t NextCandidate(std::basic_string_view<Unit> text, std::size_t at) const;
   bool MatchesAt(std::size_t at) const;
@@ -48,7 +49,7 @@ class MatchScanner {
   void NextLeaf();
 
   SearchOptions options_;
-  std::u16string needle_;  // folded, unless case matters
+  std::u16string needle_;  // case-folded, unless case matters
   std::tuple<Opening<char>, Opening<char16_t>> openings_;
   LeafCursor leaf_;
   std::size_t at_ = 0;     // in the leaf

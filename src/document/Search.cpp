@@ -10,7 +10,7 @@
 namespace lumenote {
 namespace {
 
-/// Reads a list of leaves from front to back, copying or skipping as it goes.
+/// Reads a list of leaves front to back, copying or skipping.
 class LeafReader {
  public:
   explicit LeafReader(const LeafList& leaves) : leaf_(leaves.CursorAt(0)) { Enter(); }
@@ -34,12 +34,12 @@ class LeafReader {
       Advance(text);
     }
   }
-  /// Of the next unit, which there must be.
+  /// Format of the next unit, which must exist.
   CharId Format() const { return run_->format; }
 
  private:
   Position Here() const { return leaf_.Start() + at_; }
-  /// What is left of the present run, up to `to`.
+  /// The rest of the current run, up to `to`.
   TextView Piece(Position to) const {
     return leaf_->Text(at_, std::min(runEnd_, to - leaf_.Start()));
   }

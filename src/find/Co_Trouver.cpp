@@ -131,7 +131,7 @@ void Co_Trouver::cmdReplaceAll_Click() {
   const int options = Options();
   std::int16_t count = 0;
   Position start = 0;
-  // The search goes on at the match's old end, whatever the replacement's length.
+  // Resumes where the match ended before the replacement, whatever the replacement's length.
   AsOneStep(surface, [&] {
     while (surface.Find(cboFind.Text(), start, options) != -1) {
       start = surface.SelStart() + surface.SelLength();

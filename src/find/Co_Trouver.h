@@ -11,11 +11,11 @@ namespace lumenote {
 
 class EditorWindow;
 
-/// Opens compact, for finding only; "&Remplace..." expands it for as long as it lives. The captions
-/// of `cmdFind` and `cmdReplace` are its whole state.
+/// Opens in a compact form for finding only; "&Remplace..." expands it for its lifetime. The
+/// captions of `cmdFind` and `cmdReplace` are its only state.
 class Co_Trouver : public Form {
  public:
-  /// `editor` outlives the dialog.
+  /// `editor` must outlive the dialog.
   Co_Trouver(WindowList& windows, EditorWindow& editor);
 
   Label lblFind{*this, "lblFind", {120, 165, 840, 240}, u"Trouver:"};
@@ -30,7 +30,7 @@ class Co_Trouver : public Form {
   Button cmdReplace{*this, "cmdReplace", {3960, 945, 1215, 330}, u"&Remplace..."};
   Button cmdReplaceAll{*this, "cmdReplaceAll", {3960, 1305, 1215, 330}, u"Rpl. &Tout"};
 
-  /// The options of the surface's `Find` as the two boxes stand.
+  /// The surface's `Find` options according to the two check boxes.
   int Options() const;
 
  private:
@@ -41,13 +41,13 @@ class Co_Trouver : public Form {
   void cmdReplace_Click();
   void cmdReplaceAll_Click();
 
-  /// Runs a command; what goes wrong in it is told by its description alone.
+  /// Runs a command; an error is shown by its description alone.
   void Command(void (Co_Trouver::*command)());
   void FirstSearch();
   void NextSearch();
   void Expand();
   void ReplaceAndFind();
-  /// Searches on behind the selection; a match has the document take the keyboard.
+  /// Searches from the end of the selection; a match moves the focus to the document.
   bool FindOn();
   void TellNotFound();
   void ReplaceButtons(bool on);

@@ -19,16 +19,16 @@ namespace lumenote {
 namespace {
 
 constexpr int kSpaceStep = 15;  // twips
-/// The spinners rest between their two arrows.
+/// The spinners' idle value, between their two arrows.
 constexpr int kAtRest = 1;
 /// Alignment codes of the option buttons, from left to right.
 constexpr int kAlignments[] = {0, 2, 1};
-/// Line-spacing codes of the option buttons, and what they write into the box.
+/// Line-spacing codes of the option buttons, and the texts that these put in the box.
 constexpr int kSpacings[] = {20, 25, 30, 40};
 constexpr std::u16string_view kSpacingTexts[] = {u"1,00", u"1,25", u"1,50", u"2,00"};
 
-/// +1 for the upper arrow, -1 for the lower one, 0 at rest. The spinner rests again, whatever
-/// becomes of the step.
+/// +1 for the upper arrow, -1 for the lower one, 0 if idle. Resets the spinner first, so that a
+/// failing step cannot leave it displaced.
 int TakeArrow(UpDown& spinner) {
   const int arrow = spinner.Value() - kAtRest;
   spinner.Value(kAtRest);
@@ -99,7 +99,7 @@ void Co_Paragraph::WireSpinners() {
 
 RichTextSurface& Co_Paragraph::Surface() { return editor_.Document(); }
 
-// --- life
+// --- lifetime
 
 void Co_Paragraph::Form_Load() {
   for (ComboBox* combo : {&cboSetStyleReg, &CboSaveStyleReg}) {

@@ -1,4 +1,4 @@
-// The paragraph dialog: shows the format of the selected paragraphs and changes it in place.
+// The paragraph dialog: shows the format of the selected paragraphs and changes it directly.
 #pragma once
 #include "forms/Button.h"
 #include "forms/ControlArray.h"
@@ -15,11 +15,11 @@ namespace lumenote {
 
 class EditorWindow;
 
-/// Works on `CurrentStyle` and `StyleRightMargin`, in twips, and shows millimetres. While it
-/// refreshes itself from the selection its boxes change neither the surface nor the style.
+/// Edits `CurrentStyle` and `StyleRightMargin`, in twips, and shows millimetres. While it refreshes
+/// from the selection, its boxes change neither the surface nor the style.
 class Co_Paragraph : public Form {
  public:
-  /// `editor` outlives the dialog.
+  /// `editor` must outlive the dialog.
   Co_Paragraph(WindowList& windows, EditorWindow& editor);
 
   Frame Fr_Styles{*this, "Fr_Styles", {60, 30, 5340, 645}, u"Styles"};
@@ -64,11 +64,11 @@ class Co_Paragraph : public Form {
   TextBox Bx_FontSize{Fr_Fonte, "Bx_FontSize", {1935, 225, 585, 300}};
   Button Bt_Rafraichir{*this, "Bt_Rafraichir", {2040, 4140, 1380, 360}, u"Rafraichir"};
 
-  /// Loads a style by its section, applies it to the selection and shows it.
+  /// Loads a style from its section, applies it to the selection and shows it.
   void ApplyStyFromName(std::u16string_view section);
   /// Shows the selection's format and extends the selection to whole paragraphs.
   void RafraichirFenFmt();
-  /// Places the dialog over the lower right of the editor.
+  /// Moves the dialog over the lower right of the editor.
   void SetPosFenPara();
 
  private:

@@ -6,8 +6,8 @@ namespace lumenote {
 class EditorWindow;
 class Form;
 
-/// Opens the desktop's font dialog on the selection's font; what it answers is one undo step. The
-/// font dialog belongs to the dialog that asks for it, or to the editor.
+/// Opens the desktop's font dialog for the selection; the answer is applied as one undo step. The
+/// owner is the dialog that asks for it, or the editor.
 void FmtPolice(EditorWindow& editor, Form* dialog = nullptr);
 
 }  // namespace lumenote

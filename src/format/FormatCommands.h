@@ -1,22 +1,22 @@
-// The character and paragraph commands of the menus; each acts at once on the selection.
+// The menus' character and paragraph commands, applied to the selection at once.
 #pragma once
 #include "platform/RichTextSurface.h"
 
 namespace lumenote {
 
-/// Turn the attribute off when the whole selection has it, else on.
+/// Clears the attribute if the whole selection has it, else sets it.
 void BasculerGras(RichTextSurface& surface);
 void BasculerItalique(RichTextSurface& surface);
 void BasculerSouligné(RichTextSurface& surface);
 void BasculerBarré(RichTextSurface& surface);
-/// Bold, italic, underline and strike off.
+/// Clears bold, italic, underline and strike-through.
 void MettreNormal(RichTextSurface& surface);
-/// Bullets off also takes the hanging indent back to 0.
+/// Removing bullets also resets the hanging indent to 0.
 void BasculerPuces(RichTextSurface& surface);
 
-/// The step of indents, in twips.
+/// Indent step, in twips.
 inline constexpr int kIndentStep = 150;
-/// Moves the indent by so many twips, without bounds; a mixed one stays.
+/// Changes the indent by `twips`, without bounds; a mixed indent stays.
 void DécalerRetrait(RichTextSurface& surface, int twips);
 
 }  // namespace lumenote

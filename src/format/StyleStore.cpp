@@ -35,7 +35,7 @@ constexpr NumberKey kRead[] = {{u"Alignment", &StyleRecord::Alignment, u"0"},
                                {u"LeftIndent", &StyleRecord::LeftIndent, u"165"},
                                {u"LineSpacing", &StyleRecord::LineSpacing, u"20"}};
 
-/// Whether the host's name is the path of its program.
+/// Whether the host's name is its program's path.
 bool IsPath(std::u16string_view application) {
   return application.size() >= 3 && application.substr(1, 2) == u":\\";
 }

@@ -1,4 +1,4 @@
-// The paragraph styles: one record in use, four names, the store behind them.
+// Paragraph styles: the current record, the four names, and their storage.
 #pragma once
 #include <array>
 #include <cstdint>
@@ -10,8 +10,8 @@
 
 namespace lumenote {
 
-/// One style; lengths in twips. A line spacing up to 100 counts twentieths of a line, above it is
-/// an exact spacing in twips. The font size is kept as text, in points.
+/// One style; lengths in twips. A line spacing up to 100 is in twentieths of a line, above that an
+/// exact spacing in twips. The font size is stored as text, in points.
 struct StyleRecord {
   std::int32_t RightIndent = 0;
   std::int32_t LeftIndent = 0;
@@ -25,25 +25,25 @@ struct StyleRecord {
   std::u16string FontSize;
 };
 
-/// The style in use and the right margin that travels with it: one for the process, never reset.
+/// The current style and the right margin that goes with it: one for the process, never reset.
 extern StyleRecord CurrentStyle;
 extern std::int32_t StyleRightMargin;
 
 /// Index 0 is the Standard style.
 inline constexpr std::array<std::u16string_view, 4> StyleNames = {u"Standard", u"Para 1", u"Para 2",
                                                                   u"Para 3"};
-/// A section that is never written: loading it gives the defaults, which are the Standard style.
+/// Never written, so loading it gives the defaults: the Standard style.
 inline constexpr std::u16string_view kStandardSection = u"xyzxyz";
 
-/// Writes the record and `StyleRightMargin` under "MicroEdtSty" and the digit.
+/// Writes the record and `StyleRightMargin` to the section "MicroEdtSty" plus the digit.
 void SaveStyle(Settings& settings, std::u16string_view application, std::u16string_view digit,
                const StyleRecord& style);
-/// Fills the record and `StyleRightMargin` from a section of that name; an application given as a
-/// path counts by its base name. The first value that is no number ends the loading.
+/// Fills the record and `StyleRightMargin` from the section; an application given as a path is
+/// reduced to its base name. Loading stops at the first value that is not a number.
 void LoadStyle(const Settings& settings, std::u16string_view application,
                std::u16string_view section, StyleRecord& style);
-/// Gives the selection the format of the record, and the surface its right margin. A value that
-/// cannot be is passed over.
+/// Applies the record to the selection, and the right margin to the surface. Attributes that fail
+/// are skipped.
 void ApplyStyleRecord(RichTextSurface& surface, StyleRecord& style);
 
 }  // namespace lumenote

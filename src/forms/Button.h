@@ -10,7 +10,7 @@ class Button : public CaptionedControl {
 
   bool TakesFocus() const override { return true; }
 
-  /// Return and the blank click it.
+  /// Return and Space click it.
   bool UserKey(const KeyStroke& key) override {
     if (key.name != KeyName::Return && key.name != KeyName::Space) return false;
     UserClick();

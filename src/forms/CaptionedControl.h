@@ -7,7 +7,7 @@
 
 namespace lumenote {
 
-/// An ampersand in the caption marks the mnemonic, the key that reaches the control with Alt.
+/// An ampersand in the caption marks the mnemonic: Alt and that key focus the control.
 class CaptionedControl : public Control {
  public:
   CaptionedControl(Container& container, std::string name, Rect place, std::u16string caption);

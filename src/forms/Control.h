@@ -1,4 +1,4 @@
-// Controls: the parts of a window that have a place on it.
+// Controls: the visible parts of a window.
 #pragma once
 #include <functional>
 #include <string>
@@ -12,7 +12,7 @@ namespace lumenote {
 
 class Control;
 
-/// A form or a frame: what controls are placed on. Places are relative to its inner corner.
+/// A parent of controls: a form or a frame. Positions are relative to its client corner.
 class Container {
  public:
   virtual ~Container() = default;
@@ -27,13 +27,13 @@ class Container {
 /// Buttons of a mouse event.
 enum class MouseButton { None = 0, Left = 1, Right = 2, Middle = 4 };
 
-/// A mouse event over a control; the point is relative to the control's corner, in twips.
+/// A mouse event over a control; the point is in twips from the control's corner.
 struct MouseEvent {
   MouseButton button = MouseButton::None;
   Point at;
 };
 
-/// A control with its place, visibility and enabled state. Assigning what already stands is silent.
+/// A control: bounds, visibility and enabled state. Assigning an equal value is silent.
 class Control : public ShownElement {
  public:
   Control(Container& container, std::string name, Rect place);
@@ -46,42 +46,42 @@ class Control : public ShownElement {
   void Left(float twips);
   float Top() const { return place_.top; }
   void Top(float twips);
-  /// A negative width or height raises InvalidPropertyValue (380) and changes nothing.
+  /// A negative size raises InvalidPropertyValue (380) and changes nothing.
   float Width() const { return place_.width; }
   void Width(float twips);
   float Height() const { return place_.height; }
   void Height(float twips);
 
-  /// The font of the control's text; an empty name or a size of 0 points is the window's own.
+  /// The font of the control's text. An empty name or a size of 0 points means the window's own.
   const std::u16string& FontName() const { return fontName_; }
   void FontName(std::u16string_view name);
   float FontSize() const { return fontSize_; }
   void FontSize(float points);
-  /// Above the other controls of its container.
+  /// Raises it above its siblings.
   void BringToFront() { Changed(Property::Order); }
-  /// Tells a window that exists already of a control that is new.
+  /// Announces a control that was created after its window.
   void Arrive();
 
-  /// Whether the keyboard can reach the control.
+  /// Whether the control can have the keyboard focus.
   virtual bool TakesFocus() const { return false; }
-  /// Gives the control the keyboard, and its window, once shown, the foreground; one that takes
-  /// none is left alone.
+  /// Focuses the control and brings its window, once shown, to the front. Does nothing for a
+  /// control that cannot have the focus.
   void SetFocus();
 
-  /// Events, wired by the form.
+  /// Events, connected by the form.
   std::function<void(const MouseEvent&)> MouseUp;
   std::function<void(const MouseEvent&)> MouseMove;
   std::function<void()> Click;
   std::function<void()> DblClick;
 
-  /// The user's door: acts as the peer reports them.
+  /// User input, reported by the peer.
   void UserMouseUp(const MouseEvent& event);
   void UserMouseMove(const MouseEvent& event);
   virtual void UserClick();
   void UserDoubleClick();
-  /// Keys of characters; a control without text takes none.
+  /// Character keys; ignored by controls without text.
   virtual void UserType(std::u16string_view) {}
-  /// Whether the key did something here.
+  /// Handles a key; false if it means nothing here.
   virtual bool UserKey(const KeyStroke&) { return false; }
 
   void Describe(MemberTable& members) override;

@@ -1,4 +1,4 @@
-// Controls of one name told apart by an index.
+// Controls that share a name and differ in their index.
 #pragma once
 #include <memory>
 #include <string>
@@ -15,7 +15,7 @@ class ControlArray {
  public:
   explicit ControlArray(std::string name) : name_(std::move(name)) {}
 
-  /// Appends the next element, made with these arguments behind its name.
+  /// Constructs the next element; its name precedes `arguments`.
   template <class... Arguments>
   C& Add(Container& container, Arguments&&... arguments) {
     std::string name = name_ + "(" + std::to_string(controls_.size()) + ")";
@@ -28,7 +28,7 @@ class ControlArray {
   void Truncate(int count) { controls_.resize(static_cast<std::size_t>(count)); }
 
   int Count() const { return static_cast<int>(controls_.size()); }
-  /// Raises NoSuchElement (340) for an index that is not there.
+  /// Raises NoSuchElement (340) for a missing index.
   C& operator()(int index) const {
     if (index < 0 || index >= Count()) throw RuntimeError(ErrorNumber::NoSuchElement);
     return *controls_[static_cast<std::size_t>(index)];

@@ -1,4 +1,4 @@
-// What every part of a window has: a name, its form, members by name.
+// The base of every part of a window: a name, its form, members by name.
 #pragma once
 #include <string>
 
@@ -8,7 +8,7 @@ namespace lumenote {
 
 class Form;
 
-/// What of an element has changed; a peer reads the new state from the element.
+/// Which state of an element has changed; the peer reads the new value from the element.
 enum class Property {
   Geometry,
   Caption,
@@ -26,10 +26,10 @@ enum class Property {
   Order,
 };
 
-/// A window, control, menu entry or timer. Lives as long as its form, which it is a member of.
+/// A window, control, menu entry or timer. A member of its form, so both have one lifetime.
 class Element {
  public:
-  /// `name` is the element's own, with its index in parentheses for one of an array.
+  /// `name` includes the index in parentheses for an element of an array.
   Element(Form& form, std::string name);
   virtual ~Element();
   Element(const Element&) = delete;
@@ -41,9 +41,9 @@ class Element {
   virtual void Describe(MemberTable& members);
 
  protected:
-  /// Enters the form's list of elements; called once, by the constructors of a form's parts.
+  /// Adds it to the form's list of elements; called once, by the constructors of derived classes.
   void Enlist();
-  /// Leaves it again, where the part goes before its form does.
+  /// Removes it again, for an element that is destroyed before its form.
   void Delist();
   /// Pushes the change to the form's peer, if there is one.
   void Changed(Property property);

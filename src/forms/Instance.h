@@ -1,4 +1,4 @@
-// The instance of a window class: made on first use, gone after it has unloaded.
+// The single instance of a window class: created on first use, destroyed after it has unloaded.
 #pragma once
 #include <algorithm>
 #include <functional>
@@ -9,32 +9,32 @@
 
 namespace lumenote {
 
-/// One window at a time. One that has been taken down while its own events run waits for them to
-/// return, beside the next one.
+/// At most one window is current. A closed one whose events have not returned yet is kept beside it
+/// until they have.
 template <class Window>
 class Instance {
  public:
-  /// `holder`: the form that the instance is a part of; null for none.
+  /// `holder` is the form that the instance is a part of, or null.
   explicit Instance(std::function<std::unique_ptr<Window>()> make, Form* holder = nullptr)
       : make_(std::move(make)), holder_(holder) {}
-  /// Closes the window as the user would if it is still open.
+  /// Closes an open window as the user would.
   ~Instance() {
     if (Window* window = Loaded()) window->Unload();
   }
   Instance(const Instance&) = delete;
   Instance& operator=(const Instance&) = delete;
 
-  /// The window, made when there is none; it may not be loaded yet.
+  /// The current window, created if needed; it may not be loaded yet.
   Window& Get() {
     if (windows_.empty() || windows_.back()->IsUnloaded()) Make();
     return *windows_.back();
   }
-  /// Null unless the window is loaded.
+  /// Null unless the current window is loaded.
   Window* Loaded() const {
     return !windows_.empty() && windows_.back()->IsLoaded() ? windows_.back().get() : nullptr;
   }
 
-  /// `owner`, of which this is a part, stays until the windows that are still there have gone.
+  /// Keeps `owner`, which this is a part of, alive until all remaining windows are destroyed.
   void KeepAlive(const std::shared_ptr<void>& owner) {
     for (const auto& window : windows_)
       window->Released = [owner, released = std::move(window->Released)] { released(); };
@@ -55,7 +55,7 @@ class Instance {
 
   std::function<std::unique_ptr<Window>()> make_;
   Form* holder_;
-  std::vector<std::unique_ptr<Window>> windows_;  // the last one is the current one
+  std::vector<std::unique_ptr<Window>> windows_;  // the last one is current
 };
 
 }  // namespace lumenote

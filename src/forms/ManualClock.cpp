@@ -1,4 +1,4 @@
-// Which timer ticks next.
+// Choosing the timer that ticks next.
 #include "forms/ManualClock.h"
 
 #include <algorithm>

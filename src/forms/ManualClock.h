@@ -1,4 +1,4 @@
-// Timers whose time passes only when it is told to.
+// Timers on a clock that advances only on request.
 #pragma once
 #include <cstdint>
 #include <vector>
@@ -7,14 +7,14 @@ namespace lumenote {
 
 class Timer;
 
-/// For backends without a clock of their own. The timers outlive it or are disarmed before.
+/// For backends without a real clock. Timers must outlive it or be disarmed first.
 class ManualClock {
  public:
   void Arm(Timer& timer);
   void Disarm(Timer& timer);
-  /// Lets that time pass, the last millisecond included: each timer ticks whenever its interval has
-  /// passed, in the order of time, then of arming. A timer that is armed anew by a tick counts from
-  /// then. A tick may let time pass too; both calls end no earlier than they said.
+  /// Advances the clock, the last millisecond included. Each timer ticks whenever its interval has
+  /// elapsed, ordered by time, then by arming. A timer that a tick rearms counts from then. A tick
+  /// may itself advance the clock; neither call ends before its own time.
   void Advance(std::int64_t milliseconds);
 
  private:
@@ -22,10 +22,10 @@ class ManualClock {
     Timer* timer;
     std::int64_t due;
   };
-  /// The next one that is due by then; null when there is none.
+  /// The next timer due by then; null if there is none.
   Armed* Next(std::int64_t until);
 
-  std::vector<Armed> armed_;  // in the order of arming
+  std::vector<Armed> armed_;  // in order of arming
   std::int64_t now_ = 0;
 };
 

@@ -1,4 +1,4 @@
-// Menu entries: those of the menu bar, of popup menus, and their submenus.
+// Menu entries of menu bars, popup menus and submenus.
 #pragma once
 #include <functional>
 #include <string>
@@ -8,13 +8,13 @@
 
 namespace lumenote {
 
-/// An entry; with children it is a submenu, with the caption "-" a separator. A top-level menu that
-/// is not visible stays out of the bar and can still be popped up.
+/// An entry; one with children is a submenu, and one with the caption "-" a separator. An invisible
+/// top-level menu is not in the bar but can be opened as a popup.
 class Menu : public ShownElement {
  public:
-  /// A top-level menu of the form.
+  /// Creates a top-level menu.
   Menu(Form& form, std::string name, std::u16string caption, bool visible = true);
-  /// An entry of another menu.
+  /// Creates an entry of another menu.
   Menu(Menu& parent, std::string name, std::u16string caption);
 
   const std::vector<Menu*>& Entries() const { return entries_; }
@@ -25,12 +25,12 @@ class Menu : public ShownElement {
   bool Checked() const { return checked_; }
   void Checked(bool on);
 
-  /// The entry was chosen, or, for a menu with entries, is about to open.
+  /// The entry was chosen, or a menu with entries is about to open.
   std::function<void()> Click;
 
-  /// The user's door; an entry that is disabled or hidden does nothing.
+  /// User input; ignored if the entry is disabled or hidden.
   void UserClick();
-  /// Runs the opening event.
+  /// Raises the opening event.
   void UserOpen();
 
   void Describe(MemberTable& members) override;

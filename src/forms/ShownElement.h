@@ -1,10 +1,10 @@
-// What controls and menu entries share: each can be hidden and disabled.
+// The common base of controls and menu entries: both can be hidden and disabled.
 #pragma once
 #include "forms/Element.h"
 
 namespace lumenote {
 
-/// Assigning what already stands is silent.
+/// Assigning an equal value is silent.
 class ShownElement : public Element {
  public:
   using Element::Element;

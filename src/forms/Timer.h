@@ -1,4 +1,4 @@
-// A timer of a window; ticks in the event loop, never in parallel.
+// A window's timer; it ticks in the event loop, never concurrently.
 #pragma once
 #include <functional>
 
@@ -19,9 +19,9 @@ class Timer : public Element {
 
   std::function<void()> Tick;
 
-  /// The backend's door: the interval has passed.
+  /// Called by the backend when the interval has elapsed.
   void Elapsed();
-  /// Arms or disarms by the rule above; called by the form when it is loaded or unloaded.
+  /// Arms or disarms it by the rule above; the form calls this when it is loaded or unloaded.
   void Rearm();
 
   void Describe(MemberTable& members) override;

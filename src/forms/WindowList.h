@@ -7,8 +7,8 @@ namespace lumenote {
 class Form;
 class Platform;
 
-/// Knows which windows are loaded, in the order of loading, and which one is active. Owned by the
-/// control; forms enter and leave by themselves.
+/// Tracks the loaded windows, in order of loading, and the active one. Owned by the control; forms
+/// add and remove themselves.
 class WindowList {
  public:
   explicit WindowList(Platform& platform) : platform_(platform) {}
@@ -16,17 +16,17 @@ class WindowList {
   Platform& Machine() const { return platform_; }
   const std::vector<Form*>& Loaded() const { return loaded_; }
   Form* Active() const { return active_; }
-  /// The modal window on top, which locks the others; null when there is none.
+  /// The topmost modal window, which locks the others; null if there is none.
   Form* TopModal() const;
 
  private:
   friend class Form;
   void Enter(Form& form) { loaded_.push_back(&form); }
   void Leave(Form& form);
-  /// Whether the active window has changed by this.
+  /// Returns whether this changed the active window.
   bool Activate(Form& form);
-  /// The window to activate when `form` goes out of sight: its owner, else the latest one shown;
-  /// null when `form` was not active or nothing is left.
+  /// The window to activate when `form` is hidden or closed: its owner, else the one shown last;
+  /// null if `form` was not active or no window is left.
   Form* Deactivate(const Form& form);
 
   Platform& platform_;

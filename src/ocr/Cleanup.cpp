@@ -25,7 +25,7 @@ constexpr int kSpaceBefore = 60;       // twips
 std::int16_t RemplacerTout(RichTextSurface& surface, std::u16string_view find,
                            std::u16string_view replace) {
   ToInt16(std::int64_t{surface.TextLength()});
-  // Each round moves the start on by one at least, so the count stays within 16 bits with it.
+  // Each round advances the start by at least one, so the count cannot overflow before it.
   std::int16_t count = 0;
   std::int16_t start = 0;
   while (surface.Find(find, start, 0) != -1) {

@@ -1,4 +1,4 @@
-// Cleaning up recognised text: the pairs of the correction list, blanks, one format for the note.
+// Cleaning up recognised text: the correction list's pairs, spaces, one format for the note.
 #pragma once
 #include <cstdint>
 #include <string_view>
@@ -10,29 +10,29 @@ namespace lumenote {
 
 class Files;
 
-/// Replaces every `find`, in any letter case, from left to right, and returns how many there were.
-/// The search goes on one character behind what was put in, so a match that begins right there
-/// stays. Positions have 16 bits: a longer text, or one that grows beyond, raises Overflow, what
-/// was replaced until then stays replaced. An empty `find` finds nothing.
+/// Replaces every `find`, in any letter case, from left to right, and returns the count. The search
+/// resumes one character after each replacement, so a match beginning directly after it is skipped.
+/// Positions have 16 bits: a text that is or grows longer raises Overflow, with the replacements
+/// made so far left in. An empty `find` matches nothing.
 std::int16_t RemplacerTout(RichTextSurface& surface, std::u16string_view find,
                            std::u16string_view replace);
 
-/// Applies every pair of a list, given as the bytes of its file, in order, each to what the pairs
-/// before it have left; how often each was found. Raises what `CorrectionReader` and
-/// `RemplacerTout` do, with the pairs before that one applied.
+/// Applies every pair of a list (the bytes of its file) in order, each to the result of the pairs
+/// before it; returns how often each was found. Raises what `CorrectionReader` and `RemplacerTout`
+/// raise, with the earlier pairs applied.
 std::vector<std::int16_t> AppliquerPaires(RichTextSurface& surface, std::string_view list);
-/// The same with a list's file; a missing one has no pairs.
+/// Applies the list of a file; a missing file has no pairs.
 void ApplyListCorr(RichTextSurface& surface, Files& files, std::u16string_view path);
 
-/// A blank after each comma and none before it, one on both sides of each semicolon, no two blanks
-/// together; where the replacements undo each other, the order decides.
+/// Puts a space after each comma and none before it, one on both sides of each semicolon, and
+/// collapses double spaces. Where the replacements undo each other, their order decides.
 void NormaliserEspaces(RichTextSurface& surface);
 
-/// Selects the whole note and gives it the format of clean text. A step that fails is left out.
+/// Selects the whole note and formats it as clean text. Steps that fail are skipped.
 void MettreAuPropre(RichTextSurface& surface);
 
-/// All three, in this order: the clean-up of a note. Each replacement and each format is an undo
-/// step of its own unless the caller groups them.
+/// Cleans up a note: all three of the above, in this order. Each replacement and format change is
+/// its own undo step unless the caller groups them.
 void NettoyerTexte(RichTextSurface& surface, Files& files, std::u16string_view listPath);
 
 }  // namespace lumenote

@@ -34,7 +34,7 @@ void Co_Apprendre::Form_Load() {
   Top(std::max(0.0F, editor.top + (editor.height - Height()) / 2));
 }
 
-// Boxes that are filled again start empty, so that the text never stands there twice.
+// Clears the boxes first, so that filling them again does not double the text.
 void Co_Apprendre::Form_Activate() {
   filling_ = true;
   for (RichTextBox* box : {&Bx_TextErroné, &Bx_Saisircorr}) {

@@ -10,10 +10,10 @@ namespace lumenote {
 
 class EditorWindow;
 
-/// Modal. Takes the text from the clipboard each time it is activated.
+/// Modal. Takes the text from the clipboard at each activation.
 class Co_Apprendre : public Form {
  public:
-  /// `editor` outlives the dialog.
+  /// `editor` must outlive the dialog.
   Co_Apprendre(WindowList& windows, EditorWindow& editor);
 
   Label Lb_TextErro{*this, "Lb_TextErro", {120, 90, 5040, 240}, u"Texte erroné"};
@@ -27,8 +27,8 @@ class Co_Apprendre : public Form {
   Menu mnuSCopier{mnuSaisi, "mnuSCopier", u"Copier"};
   Menu mnuSColler{mnuSaisi, "mnuSColler", u"Coller"};
 
-  /// Whether the user has edited the wrong text: the pair is then no longer about the selection,
-  /// and "Appliquer" does nothing.
+  /// Whether the user has edited the wrong text: it no longer matches the selection, and
+  /// "Appliquer" does nothing.
   bool ErronModifie() const { return erronModifie_; }
 
   void ErrCopy() { Bx_TextErroné.Surface().Copy(); }

@@ -15,7 +15,7 @@ constexpr std::u16string_view kPrefix = u"$$";
 constexpr std::size_t kSlice = 3;
 constexpr std::u16string_view kCharsetEnd = u"HARSET0 ";
 
-/// Whether `text` has `capitals` (ASCII) at `at`, in any letter case.
+/// Whether `capitals` (ASCII) occurs at `at`, in any letter case.
 bool StandsAt(std::u16string_view text, std::size_t at, std::u16string_view capitals) {
   return std::ranges::equal(text.substr(at, capitals.size()), capitals, [](char16_t c, char16_t d) {
     return c == d || (c >= u'a' && c <= u'z' && c - u'a' + u'A' == d);
@@ -44,7 +44,7 @@ class Rewriter {
       Copy(1);
   }
 
-  /// Keeps the slice and puts `value` in the place of what follows, up to and with `end`.
+  /// Copies the slice, then writes `value` instead of everything up to and including `end`.
   void Rewrite(char16_t end, std::u16string_view value) {
     Copy(kSlice);
     SkipPast(end, value);

@@ -1,4 +1,4 @@
-// Changing the case of the selected text, and raising or lowering it.
+// Changing the selection's letter case; superscript and subscript offsets.
 #pragma once
 #include <string>
 #include <string_view>
@@ -8,17 +8,17 @@
 
 namespace lumenote {
 
-/// The text in proper case: lower case, but for each letter that begins the text or follows a
-/// blank, a tab, a line end or a NUL.
+/// Proper case: lower case, except letters at the start or after a space, a tab, a line end or a
+/// NUL.
 std::u16string ProperCase(std::u16string_view text);
 
-/// Rewrite the selection, which takes the format of its first character.
+/// The rewritten selection takes the format of its first character.
 void MettreEnMajuscules(RichTextSurface& surface);
 void MettreEnMinuscules(RichTextSurface& surface);
-/// Goes through the clipboard, which is empty afterwards.
+/// Works through the clipboard and leaves it empty.
 void MettreEnTitre(RichTextSurface& surface, Clipboard& clipboard);
 
-/// Offsets of the script commands, in twips above the line.
+/// Offsets of the superscript and subscript commands, in twips above the line.
 inline constexpr int kExposant = 55;
 inline constexpr int kIndice = -55;
 

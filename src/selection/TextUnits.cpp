@@ -30,7 +30,7 @@ void SelectParagraphe(RichTextSurface& surface) {
   surface.Span(kParagraphEnds, false, true);
   const Position behindStart = surface.SelStart() + 1;
   surface.Span(kParagraphEnds, true, true);
-  // The length comes out as -1, which the surface refuses: the two spans have done the work.
+  // The length is -1, which the surface refuses; the two spans above have done the work already.
   IgnoringErrors([&] { surface.SelLength(surface.SelStart() - behindStart); });
 }
 

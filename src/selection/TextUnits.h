@@ -4,14 +4,14 @@
 
 namespace lumenote {
 
-/// Widen the selection at both ends to the delimiters of words, or of sentences; the delimiters
-/// stay outside.
+/// Extend both ends of the selection to the delimiters of words or of sentences, excluding these.
 void SelectMot(RichTextSurface& surface);
 void SelectPhrase(RichTextSurface& surface);
-/// Widens the selection to the paragraph's text, without its break.
+/// Extends the selection to the paragraph's text, without its break.
 void SelectParagraphe(RichTextSurface& surface);
-/// Selects the line on screen that holds the caret, without a break. A line number or length beyond
-/// 16 bits raises Overflow and leaves the selection; `failed` is set when there is no such line.
+/// Selects the displayed line that holds the caret, without its break. A line number or length
+/// beyond 16 bits raises Overflow and leaves the selection alone; `failed` is set if there is no
+/// such line.
 void SelectLigne(RichTextSurface& surface, bool& failed);
 void SelectTout(RichTextSurface& surface);
 

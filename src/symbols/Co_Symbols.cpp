@@ -111,7 +111,7 @@ void Co_Symbols::lblsymbols_MouseMove(int index) {
 
 // --- the font
 
-// As many names as the printer has fonts, taken from the screen's.
+// Lists as many screen fonts as the printer has fonts.
 void Co_Symbols::cboFonts_DropDown() {
   if (fontsListed_) return;
   const Fonts& fonts = Machine().SystemFonts();

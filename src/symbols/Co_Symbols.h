@@ -16,11 +16,11 @@ namespace lumenote {
 
 class EditorWindow;
 
-/// Shows the characters 33 to 255 of code page 1252 in a font of the user's choice; what is
-/// collected goes into the note in that font, or onto the clipboard as plain text.
+/// Shows the characters 33 to 255 of code page 1252 in a font of the user's choice. Collected
+/// characters go into the note in that font, or to the clipboard as plain text.
 class Co_Symbols : public Form {
  public:
-  /// `editor` outlives the picker.
+  /// `editor` must outlive the picker.
   Co_Symbols(WindowList& windows, EditorWindow& editor);
 
   Label lblMessage{*this, "lblMessage", {120, 165, 1350, 240}, u"Choisir la fonte"};
@@ -28,7 +28,7 @@ class Co_Symbols : public Form {
   Label lblStatus{*this, "lblStatus", {4950, 165, 1770, 240}};
   PictureBox picHolder{*this, "picHolder", {120, 540, 6300, 3300}};
   ScrollBar VScroll1{*this, "VScroll1", {6435, 540, 255, 3300}};
-  /// Above the cells that it enlarges.
+  /// In front of the cell that it magnifies.
   Label lblBigDisplay{picHolder, "lblBigDisplay", {0, 0, 720, 720}, u"", LabelStyle::Cell};
   ControlArray<Label> lblsymbols{"lblsymbols"};
   Label lblLabel{*this, "lblLabel", {120, 3990, 2400, 240}, u"Symboles sélectionnés"};
@@ -44,7 +44,7 @@ class Co_Symbols : public Form {
   void Form_MouseMove(const MouseEvent&) override { HideBigDisplay(); }
 
   void WireHiding();
-  /// Builds the grid anew, `offset` codes behind the first symbol.
+  /// Rebuilds the grid, starting `offset` codes after the first symbol.
   void FillSymbols(std::int16_t offset);
   void AddCell(int code, Point at);
   void cboFonts_DropDown();

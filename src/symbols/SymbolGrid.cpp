@@ -4,9 +4,9 @@ namespace lumenote {
 
 namespace {
 
-constexpr float kOverlap = 20;  // neighbours share their borders
+constexpr float kOverlap = 20;  // neighbours share a border
 constexpr float kLeftEdge = 100;
-constexpr float kTopShare = 0.7F;  // of a row that lies above the first one
+constexpr float kTopShare = 0.7F;  // of a row scrolled above the top edge
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-// The arithmetic of the symbol grid.
+// Layout of the symbol grid.
 #pragma once
 #include <cstdint>
 #include <vector>
@@ -8,7 +8,7 @@ namespace lumenote {
 inline constexpr int kFirstSymbol = 33;
 inline constexpr int kLastSymbol = 255;
 
-/// Where one cell stands, in twips of the box that holds the grid.
+/// One cell; its position is in twips from the corner of the enclosing box.
 struct SymbolCell {
   int code = 0;
   float left = 0;
@@ -17,8 +17,8 @@ struct SymbolCell {
 
 struct SymbolGrid {
   std::vector<SymbolCell> cells;
-  std::int16_t columns = 0;     // cells of the first row when it is full, else 0
-  std::int16_t hiddenRows = 0;  // rows that reach below the box
+  std::int16_t columns = 0;     // cells in the first row if it is full, else 0
+  std::int16_t hiddenRows = 0;  // rows that extend below the box
 };
 
 /// Sizes in twips.
@@ -29,7 +29,8 @@ struct GridMeasures {
   float boxHeight;
 };
 
-/// The grid that starts `offset` codes behind the first symbol. Cells are wider than they overlap.
+/// Lays out the grid from `offset` codes after the first symbol on. Cells must be wider than their
+/// overlap.
 SymbolGrid LayOutSymbols(int offset, const GridMeasures& measures);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// A piece of a document: what an edit removes or inserts, and how one is built.
+// A piece of a document, as inserted or removed by an edit, and its builder.
 #pragma once
 #include <optional>
 #include <span>
@@ -9,8 +9,8 @@
 
 namespace lumenote {
 
-/// The hidden mark behind the last paragraph: its formats, which an empty note starts with, and
-/// what goes with the note as a whole.
+/// The hidden mark after the last paragraph. It carries that paragraph's formats, which an empty
+/// note starts with, and what belongs to the note as a whole.
 struct FinalMark {
   CharId character = 0;
   ParaId paragraph = 0;
@@ -18,46 +18,46 @@ struct FinalMark {
   bool operator==(const FinalMark&) const = default;
 };
 
-/// Text with formats, sharing leaves with the document it came from. Its numbers are those of that
-/// document's format tables.
+/// Formatted text that shares leaves with its document. Format numbers refer to that document's
+/// format tables.
 struct Fragment {
   LeafList leaves;
-  /// Set when the final mark is part of the edit; see `Document::Replace`.
+  /// Set if the edit includes the final mark; see `Document::Replace`.
   std::optional<FinalMark> mark;
 
   Position Length() const { return leaves.Length(); }
 };
 
-/// Fills a fragment from front to back: a leaf gathers here and joins the list when it is full. No
-/// CR LF and no surrogate pair comes to lie in two leaves. More text than a list can hold raises
-/// Overflow.
-// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the text is written before it is read.
+/// Builds a fragment front to back; a leaf fills up here, then joins the list. Never splits a CR LF
+/// or a surrogate pair between leaves. Raises Overflow when a list cannot hold the text.
+///
+/// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the text is written before it is read.
 class FragmentBuilder {
  public:
-  /// Appends text that holds no CR or LF.
+  /// Appends text without CR or LF.
   void Append(TextView text, CharId format) { Append(text, format, nullptr); }
-  /// Appends a paragraph break that ends a paragraph of format `paragraph`.
+  /// Appends a break that ends a paragraph of format `paragraph`.
   void AppendBreak(CharId format, ParaId paragraph) { Append(u"\r\n", format, &paragraph); }
-  /// Appends text of one format; each CR LF in it takes its paragraph's format from `marks`.
-  /// Returns the first of these that was not needed.
+  /// Appends text of one character format; each CR LF takes its paragraph format from `marks`.
+  /// Returns the first unused mark.
   const ParaId* Append(TextView text, CharId format, const ParaId* marks);
-  /// Appends a leaf as it is, shared rather than copied unless that left a small leaf behind.
+  /// Appends a whole leaf, shared unless that would leave a small leaf before it.
   void Append(const LeafPointer& leaf);
 
-  /// For scanners: some room, for `kLeastRoom` units at least, to write text without CR or LF to;
-  /// `Commit` keeps the first `count`. Text gathers as bytes of code page 1252 until there are
-  /// units that have none: there is no room for bytes then.
+  /// For scanners: buffer space for at least `kLeastRoom` units of text without CR or LF; `Commit`
+  /// keeps the first `count`. Text is collected as bytes of code page 1252 until a unit has none;
+  /// after that no byte space is offered.
   static constexpr int kLeastRoom = 32;
   std::span<char> ByteRoom();
   std::span<char16_t> UnitRoom();
   void Commit(int count, CharId format);
 
   Position Length() const { return leaves_.Length() + size_; }
-  /// What was built, without a mark; the builder is empty again.
+  /// Returns the fragment, without a mark, and resets the builder.
   Fragment Finish();
 
  private:
-  /// Leaves keep a little room to type in; one is full when what it has beyond that is not enough
+  /// Leaves keep a little space for typing. A leaf is full if what it has beyond that is too small
   /// for a scanner.
   static constexpr Position kTypingRoom = 32;
   static constexpr Position kFilled = Leaf::kCapacity - kTypingRoom;
@@ -78,8 +78,8 @@ class FragmentBuilder {
   char16_t units_[Leaf::kCapacity];
 };
 
-/// Plain text as a fragment: lone CR and LF become breaks, every character and paragraph takes the
-/// given formats.
+/// Plain text as a fragment: lone CR and LF become breaks; all text and paragraphs get the given
+/// formats.
 Fragment PlainFragment(std::u16string_view text, CharId format, ParaId paragraph);
 
 }  // namespace lumenote

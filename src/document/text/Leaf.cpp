@@ -8,7 +8,7 @@
 namespace lumenote {
 namespace {
 
-/// Counts are as narrow as the text, to be added many at once, over pieces that cannot overflow
+/// Counts in units of the text's own width, for vectorisation, over blocks too short to overflow
 /// them.
 template <class Unit>
 Position CountBreaks(std::basic_string_view<Unit> text) {
@@ -41,7 +41,7 @@ Position Leaf::BreakAt(Position index) const {
 }
 
 void Leaf::Replace(Position at, Position removed, const Leaf& piece) {
-  // Whatever needs memory comes before the first change.
+  // Allocate everything before changing anything.
   MakeRoom(marks, piece.marks.size());
   runs.MakeRoomFor(piece.runs);
   const Position gone = BreaksBetween(at, at + removed);

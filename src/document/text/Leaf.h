@@ -1,4 +1,4 @@
-// A leaf: about two thousand units of text with their formats.
+// A leaf: about two thousand units of formatted text.
 #pragma once
 #include <memory>
 #include <vector>
@@ -8,8 +8,8 @@
 
 namespace lumenote {
 
-/// Invariants: the runs cover the text; there is one mark, the ended paragraph's format, for each
-/// CR LF of the text, and no CR or LF stands alone.
+/// Invariants: the runs cover the text; each CR LF has one mark, the format of the paragraph that
+/// it ends; no CR or LF is unpaired.
 struct Leaf {
   static constexpr Position kCapacity = LeafText::kCapacity;
 
@@ -21,22 +21,22 @@ struct Leaf {
   TextView Text(Position from, Position to) const {
     return text.View().Part(static_cast<std::size_t>(from), static_cast<std::size_t>(to - from));
   }
-  /// Count of the breaks in a part of the text.
+  /// Count of the breaks in `from`..`to`.
   Position BreaksBetween(Position from, Position to) const;
-  /// Where the break number `index` (from 0) begins.
+  /// Start of the break with index `index`, from 0.
   Position BreakAt(Position index) const;
-  /// Puts `piece` in the place of `removed` units at `at`; the result must fit. Nothing has changed
-  /// when an allocation fails.
+  /// Replaces `removed` units at `at` by `piece`; the result must fit. A failed allocation changes
+  /// nothing.
   void Replace(Position at, Position removed, const Leaf& piece);
   Leaf Part(Position from, Position to) const;
   /// Whether the invariants hold, for assertions.
   bool IsSound() const;
 };
 
-/// Leaves are shared between lists; a list copies one before it writes to it.
+/// Leaves are shared between lists; a list copies a shared leaf before writing to it.
 using LeafPointer = std::shared_ptr<Leaf>;
 
-/// Count of the breaks in `text`, which cuts none.
+/// Count of the breaks in `text`, which must not split any.
 Position CountBreaks(TextView text);
 
 }  // namespace lumenote

@@ -9,7 +9,7 @@
 namespace lumenote {
 namespace {
 
-/// The leaf, for writing: a copy of its own when others share it.
+/// The leaf for writing: copies a shared one first.
 Leaf& Own(LeafPointer& leaf) {
   if (leaf.use_count() > 1) leaf = std::make_shared<Leaf>(*leaf);
   return *leaf;
@@ -126,7 +126,7 @@ std::optional<LeafList> LeafList::ReplaceInLeaf(Position from, Position to, cons
   static const Leaf kNothing;
   const Leaf& inserted = piece.Empty() ? kNothing : *piece.groups_[0][0];
   if (inserted.Size() != piece.Length()) return std::nullopt;
-  // Text put in between two leaves goes to the end of the first, where typing goes on.
+  // Text inserted between two leaves goes to the end of the first, where typing continues.
   const Place place = Holding(from == to && from > 0 ? from - 1 : from);
   const Leaf& leaf = *LeafAt(place);
   const Position at = from - place.before.length;
@@ -152,7 +152,7 @@ bool LeafList::IsSound() const {
   return true;
 }
 
-// The text is where it belongs already, so crumbs may lie there until there is memory again.
+// The edit is done already: without memory to merge, small leaves may remain until the next edit.
 void LeafList::Tidy(const Place& place) {
   try {
     JoinLeaves(place.group, place.leaf);

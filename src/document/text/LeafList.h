@@ -1,4 +1,4 @@
-// The leaves that hold a document's text and formats, in two levels with sums.
+// The leaves of a document's text and formats, in two levels with sums.
 #pragma once
 #include <algorithm>
 #include <limits>
@@ -14,10 +14,10 @@ inline Extent ExtentOf(const LeafPointer& leaf) {
 }
 using LeafGroup = Row<LeafPointer>;
 
-/// Goes through the leaves of a list from one on; the list must stay as it is meanwhile.
+/// Iterates over the leaves of a list, which must not change meanwhile.
 class LeafCursor {
  public:
-  /// At a leaf, whose first unit is at `start`, or at the end: behind the last group.
+  /// At the leaf whose first unit is at `start`, or at the end: after the last group.
   LeafCursor(const Row<LeafGroup>& groups, std::size_t group, std::size_t leaf, Position start)
       : groups_(&groups), group_(group), leaf_(leaf), start_(start) {}
 
@@ -25,7 +25,7 @@ class LeafCursor {
   const LeafPointer& Pointer() const { return (*groups_)[group_][leaf_]; }
   const Leaf& operator*() const { return *Pointer(); }
   const Leaf* operator->() const { return Pointer().get(); }
-  /// Position in the list of the leaf's first unit.
+  /// Position of the leaf's first unit in the list.
   Position Start() const { return start_; }
   void Next();
 
@@ -36,20 +36,20 @@ class LeafCursor {
   Position start_;
 };
 
-/// Two levels: groups of leaves. An edit touches one leaf and the two sums above it; a larger one
-/// costs by leaves, not by units. Copies of a list share its leaves.
+/// Two levels: groups of leaves. An edit inside a leaf touches that leaf and the two sums above it;
+/// a larger one costs in leaves, not in units. Copies of a list share its leaves.
 ///
-/// Invariants: no leaf and no group is empty; a group has at most `kGroupMost` leaves; two leaves
-/// side by side in a group hold more than `kJoinedMost` units together, and two groups side by side
-/// more than half of `kGroupMost` leaves, so that no series of edits leaves crumbs.
+/// Invariants: no leaf and no group is empty; a group has at most `kGroupMost` leaves; two
+/// neighbouring leaves of a group hold more than `kJoinedMost` units together, and two neighbouring
+/// groups more than `kGroupMost` leaves, so that no sequence of edits fragments the list.
 ///
-/// The leaf found last is remembered, so that what comes next in the same one need not look for it;
-/// therefore even reading one list from two threads at once is not safe (two copies are).
+/// The last leaf looked up is cached, so one list must not even be read on two threads at once (two
+/// copies may).
 ///
-/// A change that fails for want of memory leaves the list as it was.
+/// A change that fails to allocate leaves the list unchanged.
 ///
-/// Ranges must lie in 0..`Length()` and cut no break. What would make a list longer than `kMost`
-/// raises Overflow before anything is changed.
+/// Ranges must lie in 0..`Length()` and split no break. A list that would exceed `kMost` raises
+/// Overflow before anything changes.
 class LeafList {
  public:
   static constexpr Position kMost = std::numeric_limits<Position>::max();
@@ -58,33 +58,33 @@ class LeafList {
   Position Length() const { return groups_.Total().length; }
   Position Breaks() const { return groups_.Total().breaks; }
 
-  /// Appends a leaf, which is not empty, as it is.
+  /// Appends a leaf, which must not be empty.
   void Add(LeafPointer leaf);
   void Append(LeafList tail);
-  /// Cuts off what stands from `at` on.
+  /// Cuts off and returns everything from `at` on.
   LeafList Split(Position at);
   LeafList Slice(Position from, Position to) const;
-  /// Puts `piece` in the place of `from`..`to` and returns what stood there.
+  /// Replaces `from`..`to` by `piece` and returns what was there.
   LeafList Replace(Position from, Position to, LeafList piece);
 
   /// At the leaf that holds the unit at `position`, or at the end.
   LeafCursor CursorAt(Position position) const;
-  /// Count of the breaks that begin before `position`.
+  /// Count of the breaks that start before `position`.
   Position BreaksBefore(Position position) const;
-  /// Where the break number `index` (from 0) begins.
+  /// Start of the break with index `index`, from 0.
   Position BreakAt(Position index) const;
-  /// The paragraph format that the break number `index` carries.
+  /// The paragraph format carried by the break with index `index`.
   ParaId MarkAt(Position index) const;
 
-  /// Calls `visit(const Leaf&, Position start, Position from, Position to)` for each leaf between
-  /// `from` and `to`: its start in the list and the part of it that lies in between.
+  /// Calls `visit(const Leaf&, Position start, Position from, Position to)` for each leaf that
+  /// overlaps `from`..`to`, with its start in the list and the overlap relative to it.
   template <class Visit>
   void ForEachLeaf(Position from, Position to, Visit visit) const;
-  /// Calls `visit(Position start, TextView text, CharId format)` for each piece of one
-  /// format between `from` and `to`; a piece never crosses a leaf.
+  /// Calls `visit(Position start, TextView text, CharId format)` for each run in `from`..`to`; a
+  /// run that spans leaves is visited leaf by leaf.
   template <class Visit>
   void ForEachRun(Position from, Position to, Visit visit) const;
-  /// Calls `visit(ParaId)` for the marks of the breaks number `first` to `last` - 1.
+  /// Calls `visit(ParaId)` for the breaks with index `first` to `last` - 1.
   template <class Visit>
   void ForEachMark(Position first, Position last, Visit visit) const;
 
@@ -98,7 +98,7 @@ class LeafList {
 
   static constexpr std::size_t kNowhere = std::numeric_limits<std::size_t>::max();
 
-  /// A leaf's group, its place there, and the extent of the leaves before it.
+  /// A leaf's indices, and the size of everything before it.
   struct Place {
     std::size_t group = kNowhere;
     std::size_t leaf = 0;
@@ -108,21 +108,21 @@ class LeafList {
   Place Holding(Position unit) const;
   Place HoldingBreak(Position index) const;
   const LeafPointer& LeafAt(const Place& place) const { return groups_[place.group][place.leaf]; }
-  /// `Replace` when it is a matter of one leaf; nothing otherwise.
+  /// Does `Replace` within a single leaf, or returns empty if that is impossible.
   std::optional<LeafList> ReplaceInLeaf(Position from, Position to, const LeafList& piece);
   void CutLeaf(const Place& place, Position at);
   LeafList ReplaceAcrossLeaves(Position from, Position to, LeafList piece);
-  /// Restore the invariants around a leaf or group that has become smaller.
+  /// Restore the invariants around a leaf or group that has shrunk.
   void JoinLeaves(std::size_t group, std::size_t leaf);
   void JoinGroups(std::size_t group);
 
   void Tidy(const Place& place);
 
-  /// After any change by which leaves come to lie elsewhere.
+  /// To be called after any change that moves leaves.
   void ForgetPlace() { last_ = {}; }
 
   Row<LeafGroup> groups_;
-  mutable Place last_;  // of the leaf found last
+  mutable Place last_;  // of the last leaf looked up
 };
 
 template <class Visit>

@@ -1,4 +1,4 @@
-// A stack of removed pieces of text.
+// A stack of removed text.
 #pragma once
 #include <vector>
 
@@ -6,17 +6,17 @@
 
 namespace lumenote {
 
-/// Pieces are packed end to end, so thousands of small ones cost little more than their units and a
-/// large one no more than its list of leaves. What was pushed last is popped first, by its length.
+/// Entries are packed end to end: thousands of small ones cost little more than their units, a
+/// large one no more than its list of leaves. An entry is popped by its length, last in, first out.
 class LeafStack {
  public:
-  /// Both leave the stack as it was when an allocation fails.
+  /// On a failed allocation both leave the stack unchanged.
   void Push(const LeafList& piece);
   LeafList Pop(Position length);
   void Clear() { lists_.clear(); }
 
  private:
-  std::vector<LeafList> lists_;  // none is empty; more than one when a list would become too long
+  std::vector<LeafList> lists_;  // none is empty; more than one if a single list would be too long
 };
 
 }  // namespace lumenote

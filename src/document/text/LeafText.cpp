@@ -6,15 +6,15 @@
 namespace lumenote {
 namespace {
 
-/// Small texts take a power of two, so that they grow in few steps; from half a leaf on a text has
-/// the room of a whole one.
+/// Small texts get a power of two, to grow in few steps; from half a leaf on, the capacity of a
+/// whole one.
 Position RoomFor(Position size) {
   constexpr unsigned kLeast = 8;
   const unsigned room = std::bit_ceil(std::max(static_cast<unsigned>(size), kLeast));
   return std::min(static_cast<Position>(room), LeafText::kCapacity);
 }
 
-/// Storage for so many bytes or units.
+/// Storage for `room` bytes or units.
 template <class Unit>
 std::shared_ptr<char16_t[]> Storage(Position room) {
   const std::size_t bytes = static_cast<std::size_t>(room) * sizeof(Unit);

@@ -1,4 +1,4 @@
-// The text of a leaf: a small buffer, copied on write.
+// The text of a leaf: a small copy-on-write buffer.
 #pragma once
 #include <memory>
 #include <string_view>
@@ -8,9 +8,8 @@
 
 namespace lumenote {
 
-/// At most `kCapacity` units, as bytes of code page 1252 until one comes in that has no byte.
-/// Copies share the buffer until one of them writes, so that leaves which differ in their formats
-/// alone hold one text.
+/// At most `kCapacity` units, stored as bytes of code page 1252 until a unit has none. Copies share
+/// the buffer until one writes, so leaves that differ only in formats share their text.
 class LeafText {
  public:
   static constexpr Position kCapacity = 2048;
@@ -24,7 +23,7 @@ class LeafText {
     if (wide_) return std::u16string_view(Data<char16_t>(), size);
     return TextView(std::string_view(Data<char>(), size));
   }
-  /// Puts `inserted` in the place of `removed` units at `at`; the result must fit.
+  /// Replaces `removed` units at `at` by `inserted`; the result must fit.
   void Replace(Position at, Position removed, TextView inserted);
 
  private:
@@ -34,15 +33,15 @@ class LeafText {
   }
   template <class Unit>
   void Splice(Position at, Position removed, std::basic_string_view<Unit> inserted);
-  /// Moves the text into a buffer of its own, leaving out `removed` units at `at` and leaving room
-  /// for `inserted` ones there.
+  /// Moves the text to a buffer of its own, without `removed` units at `at` and with a gap of
+  /// `inserted` units there.
   template <class Unit>
   void Reopen(Position at, Position removed, Position inserted);
-  /// Turns the bytes into units.
+  /// Converts the bytes to units.
   void Widen();
 
-  std::shared_ptr<char16_t[]> storage_;  // of units, or of bytes two by two
-  std::int16_t size_ = 0;                // both in units of text
+  std::shared_ptr<char16_t[]> storage_;  // of units, or of bytes in pairs
+  std::int16_t size_ = 0;                // like the capacity, in units of text
   std::int16_t capacity_ = 0;
   bool wide_ = false;
 };

@@ -1,4 +1,4 @@
-// Taking memory before a change begins.
+// Allocates before a change begins.
 #pragma once
 #include <algorithm>
 #include <cstddef>
@@ -6,8 +6,7 @@
 
 namespace lumenote {
 
-/// Room for `more` elements behind those there are, so that putting them in cannot fail; grows in
-/// few steps.
+/// Reserves space for `more` elements, so that inserting them cannot fail; grows geometrically.
 template <class Element>
 void MakeRoom(std::vector<Element>& elements, std::size_t more) {
   const std::size_t size = elements.size() + more;

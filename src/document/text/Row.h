@@ -1,4 +1,4 @@
-// Items in a row, each with its extent, and what they come to together.
+// A list of items whose sizes are summed.
 #pragma once
 #include <cstddef>
 #include <iterator>
@@ -10,7 +10,7 @@
 
 namespace lumenote {
 
-/// How much text something holds: UTF-16 units, and paragraph breaks among them.
+/// The size of some text: its UTF-16 units, and the paragraph breaks among them.
 struct Extent {
   Position length = 0;
   Position breaks = 0;
@@ -27,13 +27,13 @@ struct Extent {
   }
 };
 
-/// One level of a list. The extents, which a search runs through, lie apart from the items. An item
-/// is changed through `Change`, which keeps its extent and the total true; `ExtentOf(item)` says
-/// how much an item holds.
+/// One level of a tree of sums. Sizes, which searches scan, are stored apart from the items.
+/// `Change` modifies an item and updates its size and the total; `ExtentOf(item)` gives an item's
+/// size.
 template <class Item>
 class Row {
  public:
-  /// An item's index, and the extent of those before it.
+  /// An item's index, and the size of all items before it.
   struct Spot {
     std::size_t index = 0;
     Extent before;
@@ -44,9 +44,9 @@ class Row {
   const Item& operator[](std::size_t index) const { return items_[index]; }
   Extent Total() const { return total_; }
 
-  /// The item that holds unit number `unit`, which there must be.
+  /// The item that holds unit number `unit`, which must exist.
   Spot HoldingUnit(Position unit) const { return Holding<&Extent::length>(unit); }
-  /// The item that holds break number `index`, which there must be.
+  /// The item that holds break number `index`, which must exist.
   Spot HoldingBreak(Position index) const { return Holding<&Extent::breaks>(index); }
 
   void Insert(std::size_t index, Item item) {
@@ -71,7 +71,7 @@ class Row {
     extents_[index] = ExtentOf(items_[index]);
     total_ += extents_[index];
   }
-  /// Cuts off the items from `index` on.
+  /// Cuts off and returns the items from `index` on.
   Row Cut(std::size_t index) {
     Row tail;
     if (index == 0) std::swap(tail, *this);

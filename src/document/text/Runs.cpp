@@ -99,7 +99,7 @@ void Runs::JoinBefore(Index index) {
 
 bool Runs::Resize(Position at, Position removed, const Runs& inserted) {
   if (inserted.items_.size() > 1 || items_.empty()) return false;
-  // Text put in between two runs may go on with the first.
+  // Text inserted between two runs may extend the first.
   const Spot spot = Holding(removed == 0 && at > 0 ? at - 1 : at);
   const CharId format = items_[spot.index].format;
   const Position change = inserted.length_ - removed;

@@ -1,4 +1,4 @@
-// The runs of one format in a leaf.
+// The format runs of a leaf.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -10,27 +10,27 @@
 
 namespace lumenote {
 
-/// So many units of one format; both numbers in 32 bits.
+/// A length and a format number, packed in 32 bits.
 struct Run {
   std::uint32_t length : 12;
   std::uint32_t format : 20;
 };
 
-/// Runs in a row: none is empty, neighbours differ in format.
+/// Invariants: no run is empty; neighbours differ in format.
 class Runs {
  public:
   auto begin() const { return items_.begin(); }
   auto end() const { return items_.end(); }
-  /// Format of the unit at `at`, which lies inside.
+  /// Format of the unit at `at`, which must lie inside.
   CharId FormatAt(Position at) const;
 
   void Append(Position length, CharId format);
-  /// Takes the memory that `Replace` by `inserted` may need, so that it cannot fail.
+  /// Allocates what `Replace` by `inserted` may need, so that it cannot fail.
   void MakeRoomFor(const Runs& inserted) { MakeRoom(items_, inserted.items_.size() + 2); }
-  /// Puts `inserted` in the place of `removed` units at `at`.
+  /// Replaces `removed` units at `at` by `inserted`.
   void Replace(Position at, Position removed, const Runs& inserted);
   Runs Part(Position from, Position to) const;
-  /// The same lengths with each format replaced by `map(format)`.
+  /// A copy with each format replaced by `map(format)`.
   template <class Map>
   Runs Mapped(Map map) const {
     Runs result;
@@ -45,24 +45,24 @@ class Runs {
 
  private:
   using Index = std::ptrdiff_t;
-  /// A run's index, and where it begins.
+  /// A run's index and start.
   struct Spot {
     Index index = 0;
     Position start = 0;
   };
 
-  /// The run of the unit at `at`, which lies inside; looked for from the nearer end.
+  /// The run of the unit at `at`, which must lie inside; searched from the nearer end.
   Spot Holding(Position at) const;
   Position LengthOf(Index index) const { return static_cast<Position>(items_[index].length); }
-  /// Index of the run that begins at `at`; a run with `at` inside is cut in two there.
+  /// Index of the run that starts at `at`; splits the run that contains `at`.
   Index CutAt(Position at);
-  /// Makes one run of `index` and the one before when their formats are the same.
+  /// Merges run `index` with the one before if their formats are equal.
   void JoinBefore(Index index);
-  /// `Replace` when it only makes a run longer or shorter; returns whether it was so.
+  /// Does `Replace` if it only changes the length of one run; returns whether it did.
   bool Resize(Position at, Position removed, const Runs& inserted);
 
   std::vector<Run> items_;
-  Position length_ = 0;  // of all together
+  Position length_ = 0;  // sum of all runs
 };
 
 }  // namespace lumenote

@@ -23,7 +23,7 @@ void Copy(std::string_view bytes, char16_t* to) {
 void Copy(std::u16string_view units, char16_t* to) { std::copy(units.begin(), units.end(), to); }
 
 void Append(std::string_view bytes, std::u16string& to) {
-  // By way of a small buffer, since a string can only grow by units that are known already.
+  // Goes through a small buffer: appending needs the units converted first.
   constexpr std::size_t kPiece = 512;
   char16_t units[kPiece];
   while (!bytes.empty()) {

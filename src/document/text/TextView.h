@@ -1,4 +1,4 @@
-// A view of text, whichever way it lies in memory.
+// A view of text in either of its encodings.
 #pragma once
 #include <algorithm>
 #include <concepts>
@@ -11,8 +11,8 @@
 
 namespace lumenote {
 
-/// Text that lies as bytes of code page 1252 or as UTF-16 units; lengths and places are the same in
-/// both, since each byte is one unit. NUL has no byte here.
+/// Text stored as bytes of code page 1252 or as UTF-16 units. Lengths and positions are the same in
+/// both, since each byte is one unit. NUL is never stored as a byte.
 class TextView {
  public:
   TextView() = default;
@@ -32,28 +32,27 @@ class TextView {
   char16_t Front() const { return (*this)[0]; }
   char16_t Back() const { return (*this)[size_ - 1]; }
 
-  /// Calls `visit` with the text as it lies, a `std::string_view` of bytes or a
-  /// `std::u16string_view`.
+  /// Calls `visit` with a `std::string_view` of bytes or a `std::u16string_view`.
   template <class Visitor>
   auto Visit(Visitor visit) const {
     return wide_ ? visit(Units()) : visit(Bytes());
   }
 
-  /// At most `count` units from `from` on, which is not beyond the end.
+  /// At most `count` units from `from` on, which must not be beyond the end.
   TextView Part(std::size_t from, std::size_t count) const {
     return Visit([=](auto text) { return TextView(text.substr(from, count)); });
   }
   void RemovePrefix(std::size_t count) { *this = Part(count, size_); }
 
-  /// Where the ASCII character `c` next stands from `from` on; the text's end when nowhere.
+  /// The next ASCII character `c` at or after `from`; the text's end if there is none.
   std::size_t Find(char c, std::size_t from) const {
     return std::min(Size(), Visit([=](auto text) { return text.find(c, from); }));
   }
 
-  /// Copies the text, which `to` has room for, as bytes; false when some unit has none, and then
-  /// what `to` holds does not matter.
+  /// Copies the text to `to` as bytes. Returns false if some unit has none; the content of `to` is
+  /// then unspecified.
   [[nodiscard]] bool CopyTo(char* to) const;
-  /// The same as units, which always goes.
+  /// Copies the text to `to` as units.
   void CopyTo(char16_t* to) const;
   void AppendTo(std::u16string& text) const;
   std::u16string String() const;
@@ -62,7 +61,7 @@ class TextView {
   std::string_view Bytes() const { return {static_cast<const char*>(text_), Size()}; }
   std::u16string_view Units() const { return {static_cast<const char16_t*>(text_), Size()}; }
 
-  // Two words in all, so that a view goes in registers.
+  // Two words, so that views are passed in registers.
   const void* text_ = nullptr;
   std::size_t size_ : std::numeric_limits<std::size_t>::digits - 1 = 0;
   std::size_t wide_ : 1 = 0;

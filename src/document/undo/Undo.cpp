@@ -13,7 +13,7 @@ void UndoHistory::Begin(UndoKind kind, Selection before) {
   closing_ = false;
 }
 
-/// A group around an edit that is in none.
+/// An implicit group for an edit made outside any group.
 class UndoHistory::Alone {
  public:
   Alone(UndoHistory& history, Selection range, Selection after)
@@ -170,7 +170,7 @@ void UndoHistory::PutBack(UndoLog& log, const UndoLog::Taken& taken) {
   }
 }
 
-// --- taking back
+// --- rolling back
 
 UndoMark UndoHistory::Mark() const {
   const std::size_t edits = undo_.CountOfEdits();

@@ -1,4 +1,4 @@
-// The undo history: steps of edits, each with its kind and the selection around it.
+// The undo history: steps of edits, each with its kind and the selections before and after.
 #pragma once
 #include <functional>
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace lumenote {
 
-/// Where an edit took place: `removed` units at `at` became `inserted` ones.
+/// The range of an edit: `removed` units at `at` became `inserted` ones.
 struct EditRange {
   Position at = 0;
   Position removed = 0;
@@ -18,58 +18,62 @@ struct EditRange {
   bool operator==(const EditRange&) const = default;
 };
 
-/// Called after each edit of an undone or redone step, in the order they are applied.
+/// Called after each edit of an undone or redone step, in the order of application.
 using EditVisitor = std::function<void(Position at, Position removed, Position inserted)>;
 
-/// Applies edits to a document, which outlives it, and remembers them. Steps merge only when both
-/// are typing or both deletion, their edits touch, and the last one is still open; `Close`, another
-/// kind, undo, redo and a paragraph break typed close it. A new edit forgets what could be redone.
+/// Applies edits to a document, which must outlive it, and records them. Steps merge only if both
+/// are typing or both deletion, their edits are adjacent, and the last step is still open; `Close`,
+/// a step of another kind, undo, redo and a typed paragraph break close it. A new edit clears the
+/// redo stack.
 ///
-/// An edit, undo or redo that fails for want of memory has changed nothing. Should there not even
-/// be memory to put back what it had begun, the history forgets everything, so that it never
-/// disagrees with the document.
+/// An edit, undo or redo that fails to allocate changes nothing. If there is not even memory to
+/// restore the document, the history is cleared, so that it always matches the document.
 class UndoHistory {
  public:
   explicit UndoHistory(Document& document) : document_(document) {}
 
-  /// Between `Begin` and `End` every `Apply` joins one step; groups nest, the outermost counts. A
-  /// group without an edit leaves no step. Each `Begin` needs its `End`, even when an edit raises.
+  /// Every `Apply` between `Begin` and `End` joins one step; groups nest, the outermost determines
+  /// the step. An empty group leaves no step. Each `Begin` needs its `End`, even after an
+  /// exception.
   void Begin(UndoKind kind, Selection before);
-  /// Replaces `from`..`to` as `Document::Replace` does, and tells what that came to. An edit that
-  /// removes and inserts nothing is not remembered. Outside a group, one of kind Unknown is made.
+  /// Replaces `from`..`to` like `Document::Replace` and returns the actual range. An edit that
+  /// changes no text and no mark is not recorded. Outside a group it becomes a step of kind
+  /// Unknown.
   EditRange Apply(Position from, Position to, Fragment inserted);
   void End(Selection after);
 
-  /// Where the history stands; `BackTo` takes back every edit since then, which cannot be redone.
-  /// It does nothing where the mark is no longer good.
+  /// A savepoint; `BackTo` rolls back every edit since, without redo. Does nothing if the savepoint
+  /// has become invalid.
   UndoMark Mark() const;
   void BackTo(const UndoMark& mark, const EditVisitor& visit);
 
   void Close() { open_ = false; }
   void Clear();
-  /// Without multi-level undo each new step forgets the one before.
+  /// Without multi-level undo each new step replaces the last one.
   void MultiLevel(bool on) { multiLevel_ = on; }
 
   bool CanUndo() const { return !undo_.Empty(); }
   bool CanRedo() const { return !redo_.Empty(); }
-  /// The kind of the step that would be undone (redone); Unknown when there is none.
+  /// The kind of the step that would be undone (redone); Unknown if there is none.
   UndoKind UndoType() const;
   UndoKind RedoType() const;
-  /// Undoes (redoes) one step and returns the selection to set; empty when there is none, or
-  /// between `Begin` and `End`.
+  /// Undoes (redoes) one step and returns the selection to restore; empty if there is no step, or
+  /// inside a group.
   std::optional<Selection> Undo(const EditVisitor& visit = {});
   std::optional<Selection> Redo(const EditVisitor& visit = {});
 
  private:
   class Alone;
 
-  /// Exchanges a range for a fragment, which `keep` is then told to keep; all or nothing.
+  /// Replaces a range and passes the removed fragment to `keep`; rolls back if that fails to
+  /// allocate.
   template <class Keeping>
   void Exchange(Selection range, Fragment inserted, Keeping keep);
   void Remember(const EditRange& edit, const Fragment& removed);
   bool Continues(const EditRange& edit) const;
   std::optional<UndoStep> Revert(UndoLog& from, UndoLog& to, const EditVisitor& visit);
-  /// Carries all edits of one log's last step to the last step of the other, or none.
+  /// Moves all edits of one log's last step to the other log's last step, applying them; all or
+  /// nothing.
   void CarryStep(UndoLog& from, UndoLog& to, const EditVisitor& visit);
   void CarryEdit(UndoLog& from, UndoLog& to, const EditVisitor& visit);
   void PutBack(UndoLog& log, const UndoLog::Taken& taken);
@@ -82,10 +86,10 @@ class UndoHistory {
   std::uint64_t age_ = 0;
   std::size_t stepsBegun_ = 0;
   bool multiLevel_ = true;
-  bool open_ = false;     // the last step may go on
-  int depth_ = 0;         // of groups
-  bool started_ = false;  // the outermost group has its step
-  bool closing_ = false;  // the outermost group put in a paragraph break
+  bool open_ = false;     // the last step may be extended
+  int depth_ = 0;         // nesting depth of groups
+  bool started_ = false;  // the outermost group has recorded its step
+  bool closing_ = false;  // the outermost group has inserted a paragraph break
   UndoKind kind_ = UndoKind::Unknown;
   Selection before_;
 };

@@ -11,8 +11,8 @@
 
 namespace lumenote {
 
-/// An edit as it is remembered: `inserted` units at `at` stand where `removed` ones stood. The
-/// removed text lies in the log; the inserted one is in the document when the edit's turn comes.
+/// A recorded edit: `inserted` units at `at` replaced `removed` ones. The log holds the removed
+/// text; the inserted text is in the document when the edit is undone.
 struct UndoEdit {
   Position at = 0;
   Position removed = 0;
@@ -26,23 +26,23 @@ struct UndoStep {
   Selection after;
 };
 
-/// Steps, their edits and what these removed, each in one stack. Text typed on extends the edit
-/// before it, so a run of typing is one edit however long.
+/// Steps, their edits and the text these removed: a stack each. Continued typing extends the last
+/// edit, so that a run of typing is one edit of any length.
 class UndoLog {
  public:
   bool Empty() const { return steps_.empty(); }
   void Clear();
 
-  /// Starts a step; what is pushed from now on belongs to it.
+  /// Starts a step; subsequent `Push` calls add to it.
   void Start(const UndoStep& step);
   UndoStep& Last() { return steps_.back().step; }
   const UndoStep& Last() const { return steps_.back().step; }
-  /// The last edit of the last step, which has one.
+  /// The last edit of the last step, which must have one.
   const UndoEdit& LastEdit() const { return edits_.back(); }
 
-  /// This and `Take` leave the log as it was when an allocation fails.
+  /// On a failed allocation this and `Take` leave the log unchanged.
   void Push(const UndoEdit& edit, const LeafList& removed);
-  /// Takes the last step's last edit, which there is, with what it removed.
+  /// Pops the last edit of the last step, which must have one, with the text it removed.
   struct Taken {
     UndoEdit edit;
     Fragment removed;
@@ -50,12 +50,12 @@ class UndoLog {
   Taken Take();
   bool StepHasEdits() const { return !Empty() && edits_.size() > steps_.back().firstEdit; }
   std::size_t CountOfEdits() const { return edits_.size(); }
-  /// Makes the last edit forget that typing went on behind the first `inserted` units.
+  /// Truncates the last edit to its first `inserted` units.
   void Shorten(Position inserted) {
     assert(StepHasEdits() && inserted <= LastEdit().inserted);
     edits_.back().inserted = inserted;
   }
-  /// Ends the last step, all of whose edits have been taken.
+  /// Pops the last step, whose edits must all have been taken.
   void Drop() {
     assert(!StepHasEdits());
     steps_.pop_back();

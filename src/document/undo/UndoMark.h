@@ -1,4 +1,4 @@
-// A point in the undo history that a command can be taken back to.
+// A savepoint in the undo history.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -7,12 +7,12 @@
 
 namespace lumenote {
 
-/// Good until something is undone, redone or cleared.
+/// Valid until something is undone or redone, or the history is cleared.
 struct UndoMark {
-  std::uint64_t age = 0;      // changes at every undo, redo and clearing
-  std::size_t steps = 0;      // begun so far
+  std::uint64_t age = 0;      // changes at each undo, redo and clearing
+  std::size_t steps = 0;      // started so far
   std::size_t edits = 0;      // in the log
-  Position lastInserted = 0;  // by the last of them, which typing extends
+  Position lastInserted = 0;  // by the last edit, which typing extends
 };
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// A box to tick.
+// A check box.
 #pragma once
 #include "forms/CaptionedControl.h"
 
@@ -15,7 +15,7 @@ class CheckBox : public CaptionedControl {
   void Value(int value);
   bool TakesFocus() const override { return true; }
 
-  /// The user's door.
+  /// User input.
   void UserClick() override;
   bool UserKey(const KeyStroke& key) override;
 

@@ -1,4 +1,4 @@
-// A drop-down list with the chosen entry, or a typed text, in its box.
+// A drop-down list; its box shows the chosen entry or typed text.
 #pragma once
 #include <functional>
 #include <optional>
@@ -12,10 +12,10 @@ namespace lumenote {
 
 enum class ComboStyle { Editable, ListOnly };
 
-/// `ListIndex` is -1 while the text is no entry's choice. A real change of the index raises Click,
-/// whoever made it; assigning the text chooses nothing and is silent,
-/// but in a list that cannot be edited it chooses the entry. Of the keys Up and Down drop the list
-/// down, where the text's entry is marked, and move the mark; Return chooses, Escape does not.
+/// `ListIndex` is -1 while no entry is chosen. A real change of the index raises Click, whatever
+/// changed it. Assigning the text is silent and chooses nothing, except in a list without editing,
+/// where it chooses the entry. Up and Down open the list with the text's entry highlighted and move
+/// the highlight; Return chooses it, Escape cancels.
 class ComboBox : public Control {
  public:
   ComboBox(Container& container, std::string name, Rect place,
@@ -24,21 +24,21 @@ class ComboBox : public Control {
 
   ComboStyle Style() const { return style_; }
   const std::vector<std::u16string>& List() const { return list_; }
-  /// Replaces the entries; nothing is chosen, a text that can be edited stays.
+  /// Replaces the entries and clears the choice; editable text stays.
   void List(std::vector<std::u16string> entries);
   void AddItem(std::u16string entry);
   int ListIndex() const { return index_; }
-  /// Raises InvalidPropertyValue (380) for an index that is neither -1 nor an entry's.
+  /// Raises InvalidPropertyValue (380) for an index other than -1 or an entry's.
   void ListIndex(int index);
   const std::u16string& Text() const { return line_.Text(); }
-  /// Raises InvalidPropertyValue (380) for no entry of a list that cannot be edited.
+  /// In a list without editing raises InvalidPropertyValue (380) for a text that is no entry.
   void Text(std::u16string_view text);
   bool TakesFocus() const override { return true; }
 
   std::function<void()> DropDown;
 
-  /// The user's door: the chosen entry (Click comes even for the one already shown), the list
-  /// dropped down, a text typed.
+  /// User input: an entry chosen (raises Click even for the current one), the list opened, a text
+  /// typed.
   void UserPick(int index);
   void UserDrop();
   void UserType(std::u16string_view text) override;
@@ -56,7 +56,7 @@ class ComboBox : public Control {
   std::vector<std::u16string> list_;
   LineText line_;
   int index_ = -1;
-  std::optional<int> marked_;  // in the list that a key has dropped down
+  std::optional<int> marked_;  // highlighted in the list that a key opened
 };
 
 }  // namespace lumenote

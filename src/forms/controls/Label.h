@@ -1,10 +1,10 @@
-// A line of text on a window.
+// A static line of text.
 #pragma once
 #include "forms/CaptionedControl.h"
 
 namespace lumenote {
 
-/// A cell is framed, its text centred and taken literally, ampersands too.
+/// A cell has a frame and centres its text, with ampersands taken literally.
 enum class LabelStyle { Text, Cell };
 
 class Label : public CaptionedControl {

@@ -1,4 +1,4 @@
-// The text of a one-line box with its caret, as the user edits it.
+// The text of a one-line edit box, with its caret and selection.
 #pragma once
 #include <string>
 #include <string_view>
@@ -10,18 +10,18 @@ namespace lumenote {
 
 class Clipboard;
 
-/// Line breaks and other controls never enter. The caret is the selection's moving end.
+/// Line breaks and other control characters are dropped. The caret is the selection's moving end.
 class LineText {
  public:
   const std::u16string& Text() const { return text_; }
-  /// Puts the caret at the end of another text.
+  /// Replaces the text and puts the caret at its end.
   void Text(std::u16string_view text);
   Selection Selected() const;
   void Select(Position anchor, Position caret);
 
   /// Replaces the selection.
   void Type(std::u16string_view text);
-  /// Caret and editing keys, and the clipboard's; whether the key did something here.
+  /// Handles caret, editing and clipboard keys; false if the key means nothing here.
   bool Key(const KeyStroke& key, Clipboard& clipboard);
 
  private:

@@ -1,11 +1,10 @@
-// One choice of several.
+// A radio button.
 #pragma once
 #include "forms/CaptionedControl.h"
 
 namespace lumenote {
 
-/// Of the option buttons in one container at most one is chosen. Only the user's click raises
-/// Click.
+/// At most one option button of a container is chosen. Only the user's click raises Click.
 class OptionButton : public CaptionedControl {
  public:
   OptionButton(Container& container, std::string name, Rect place, std::u16string caption)
@@ -15,7 +14,7 @@ class OptionButton : public CaptionedControl {
   void Value(bool on);
   bool TakesFocus() const override { return true; }
 
-  /// The user's door; a click on the chosen one is a click too.
+  /// User input; clicking the chosen button raises Click, too.
   void UserClick() override;
   bool UserKey(const KeyStroke& key) override;
 

@@ -1,10 +1,10 @@
-// A sunken area that holds other controls.
+// A sunken container of controls.
 #pragma once
 #include "forms/Control.h"
 
 namespace lumenote {
 
-/// What reaches over its edges is cut off. Takes the keyboard and has no use for any key.
+/// Clips its children. Can have the focus but handles no key.
 class PictureBox : public Control, public Container {
  public:
   using Control::Control;

@@ -1,4 +1,4 @@
-// A box of rich text on a window.
+// The rich-text control of a window.
 #pragma once
 #include <functional>
 #include <memory>
@@ -8,8 +8,7 @@
 
 namespace lumenote {
 
-/// A control around a surface that the backend makes. `Locked` keeps the user from editing; the
-/// program still can.
+/// Wraps a surface that the backend creates. `Locked` blocks edits by the user, not by the program.
 class RichTextBox : public Control {
  public:
   RichTextBox(Container& container, std::string name, Rect place);
@@ -22,7 +21,7 @@ class RichTextBox : public Control {
   void Locked(bool on) { locked_ = on; }
   bool TakesFocus() const override { return true; }
 
-  /// The content has changed, whoever changed it.
+  /// The content has changed, whatever changed it.
   std::function<void()> Change;
 
   void Describe(MemberTable& members) override;

@@ -6,15 +6,14 @@
 
 namespace lumenote {
 
-/// `Value` stays within `Min`..`Max`; a real change of it raises Change, whoever made it.
+/// `Value` stays within `Min`..`Max`; a real change raises Change, whatever caused it.
 class ScrollBar : public Control {
  public:
   using Control::Control;
 
   int Min() const { return min_; }
   int Max() const { return max_; }
-  /// A value outside the new range is clipped to it. An end on the wrong side of the other takes it
-  /// along.
+  /// Clips the value to the new range. A bound that crosses the other one moves it along.
   void Min(int least);
   void Max(int most);
   int Value() const { return value_; }
@@ -24,7 +23,7 @@ class ScrollBar : public Control {
 
   std::function<void()> Change;
 
-  /// The user's door: dragged or stepped to a value; one outside the range is clipped.
+  /// User input: dragged or stepped to a value, which is clipped to the range.
   void UserScroll(int value);
 
   void Describe(MemberTable& members) override;

@@ -1,17 +1,17 @@
-// The bar of text panels at a window's lower edge.
+// The row of text panels at a window's lower edge.
 #pragma once
 #include "forms/Control.h"
 
 namespace lumenote {
 
-/// Panels are counted from 1; each is as wide as its text. Its place is the backend's to choose, at
-/// most 300 twips high.
+/// Panels count from 1; each is as wide as its text. The backend chooses the bar's bounds, at most
+/// 300 twips high.
 class StatusBar : public Control {
  public:
   StatusBar(Container& container, std::string name, int panels);
 
   int Count() const { return static_cast<int>(panels_.size()); }
-  /// Raise NoSuchElement (340) for a panel that is not there.
+  /// Raises NoSuchElement (340) for a missing panel.
   const std::u16string& Panel(int number) const;
   void Panel(int number, std::u16string_view text);
 

@@ -20,7 +20,7 @@ Value ToValue(const std::optional<T>& value) {
   return value ? Value(*value) : Value();
 }
 
-/// A JSON value as the type that a surface member is assigned.
+/// Converts a JSON value to the type of a surface member.
 template <class T>
 T FromValue(const Value& value) {
   if constexpr (std::is_same_v<T, bool>)

@@ -5,8 +5,8 @@
 
 namespace lumenote {
 
-/// Adds the content, selection, attribute, undo and spacing members; a mixed attribute is null.
-/// The surface outlives the table.
+/// Adds the members for content, selection, attributes, undo and spacing; a mixed attribute is
+/// null. The surface must outlive the table.
 void DescribeSurface(RichTextSurface& surface, MemberTable& members);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// A box for one line of text.
+// A one-line edit box.
 #pragma once
 #include <functional>
 
@@ -7,7 +7,7 @@
 
 namespace lumenote {
 
-/// A real change of the text raises Change, whoever made it. `Locked` keeps the user from editing.
+/// A real change of the text raises Change, whatever caused it. `Locked` blocks edits by the user.
 class TextBox : public Control {
  public:
   TextBox(Container& container, std::string name, Rect place, std::u16string_view text = {});
@@ -21,8 +21,8 @@ class TextBox : public Control {
 
   std::function<void()> Change;
 
-  /// The user's door. Typing comes one key a character; a native box reports its whole text and
-  /// where its selection stands.
+  /// User input. Typed keys arrive character by character; a native box reports its whole text and
+  /// its selection.
   void UserType(std::u16string_view text) override;
   bool UserKey(const KeyStroke& key) override;
   void UserEdited(std::u16string_view text, Selection selected);
@@ -30,7 +30,7 @@ class TextBox : public Control {
   void Describe(MemberTable& members) override;
 
  private:
-  /// Tells of the change since the text was `before`.
+  /// Raises Change if the text is no longer `before`.
   void Settle(const std::u16string& before);
 
   LineText line_;

@@ -1,4 +1,4 @@
-// A pair of small arrows that steps a number.
+// A spinner: a pair of arrows that step a number.
 #pragma once
 #include <functional>
 
@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// `Value` stays within `Min`..`Max`; a real change raises Change, whoever made it.
+/// `Value` stays within `Min`..`Max`; a real change raises Change, whatever caused it.
 class UpDown : public Control {
  public:
   UpDown(Container& container, std::string name, Rect place, int least, int most, int value)
@@ -17,13 +17,13 @@ class UpDown : public Control {
   int Value() const { return value_; }
   /// Raises InvalidPropertyValue (380) outside the range.
   void Value(int value);
-  /// Sets the value, clipped to the range, without an event.
+  /// Sets the value, clipped to the range, without raising Change.
   void Preset(int value);
   bool TakesFocus() const override { return true; }
 
   std::function<void()> Change;
 
-  /// The user's door: one click on an arrow; at the end of the range it does nothing.
+  /// User input: one click on an arrow; ignored at the end of the range.
   void UserSpin(bool up);
 
   void Describe(MemberTable& members) override;

@@ -1,4 +1,4 @@
-// What the desktop's font dialog shows and answers.
+// What the font dialog shows and returns.
 #pragma once
 #include <cstdint>
 #include <optional>
@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// Empty members are mixed in the selection, or left as they are by the answer.
+/// An empty member is mixed in the selection, or left unchanged by the user.
 struct FontChoice {
   std::optional<std::u16string> name;
   std::optional<float> size;  // points

@@ -1,4 +1,4 @@
-// Lengths and places on a window, in twips.
+// Points and rectangles on a window, in twips.
 #pragma once
 
 namespace lumenote {

@@ -1,4 +1,4 @@
-// Members of windows and controls by name: how scripts read and write them.
+// Members of windows and controls by name, for scripts.
 #pragma once
 #include <functional>
 #include <string>
@@ -9,15 +9,15 @@
 
 namespace lumenote {
 
-/// One member; without `set` it can only be read. Reading may need the text between parentheses
-/// ("Panels(1)"), which is handed on as `index`, -1 when there is none.
+/// One member; read-only without `set`. `index` is the text between parentheses ("Panels(1)") as a
+/// number, or -1.
 struct Member {
   std::string_view name;
   std::function<Value(int index)> get;
   std::function<void(const Value& value, int index)> set;
 };
 
-/// Filled by each class from its base to itself; a later entry of the same name prevails.
+/// Each class adds its members after its base's; a later entry of the same name wins.
 class MemberTable {
  public:
   using Reader = std::function<Value()>;
@@ -32,10 +32,10 @@ class MemberTable {
   std::vector<Member> members_;
 };
 
-/// A value as the type that a member wants; raise TypeMismatch (13) when it is none.
+/// Converts a value to the member's type; raises TypeMismatch (13).
 std::u16string_view TextOf(const Value& value);
 double NumberOf(const Value& value);
-/// True and false, or a number (0 is false).
+/// Booleans, or numbers (0 is false).
 bool BooleanOf(const Value& value);
 
 }  // namespace lumenote

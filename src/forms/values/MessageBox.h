@@ -4,7 +4,7 @@
 
 namespace lumenote {
 
-/// A message box; an empty title stands for the application's.
+/// An empty title means the application's.
 struct MessageBox {
   enum class Buttons { Ok, YesNo };
   enum class Icon { None, Critical, Question, Exclamation, Information };
@@ -16,7 +16,7 @@ struct MessageBox {
   Icon icon = Icon::None;
 };
 
-/// What a user who only presses Return answers.
+/// The answer of pressing Return.
 inline MessageBox::Answer DefaultAnswer(const MessageBox& box) {
   return box.buttons == MessageBox::Buttons::Ok ? MessageBox::Answer::Ok : MessageBox::Answer::Yes;
 }
