@@ -1,5 +1,5 @@
-// The smallest host: edits one taxon's note and prints what comes back.
-// With an argument it opens the editor and closes it at once, as a check.
+// A minimal host: edits one taxon's note and prints the result. With an argument it opens the
+// editor and closes it at once, as a self-check.
 #include <QApplication>
 #include <iostream>
 #include <lumenote/CoBxRtf.h>

@@ -1,12 +1,12 @@
-// Ends of the program that the user is not asked about.
+// Program ends that give the user no chance to save.
 #pragma once
 #include <QSocketNotifier>
 #include <functional>
 #include <memory>
 
 /// Calls `keep` before the program ends by SIGTERM, SIGHUP, SIGINT, the session's end or a lost
-/// display. The end itself is the usual one: of the signal, of the connection. One at a time, on
-/// the thread of the application object, which outlives it.
+/// display; the end then takes its usual course. At most one instance, on the thread of the
+/// application object, which must outlive it.
 class SuddenEnds {
  public:
   explicit SuddenEnds(std::function<void()> keep);

@@ -56,7 +56,7 @@ int Fail(const std::string& message, int status) {
   return status;
 }
 
-/// Why the note cannot be opened; empty when it can. A note that is missing can be created.
+/// Why the note cannot be opened; empty if it can. A missing note can be created.
 std::string Obstacle(const Files& files, std::u16string_view path) {
   const std::u16string format = FormatDe(path);
   try {
@@ -69,7 +69,7 @@ std::string Obstacle(const Files& files, std::u16string_view path) {
   }
 }
 
-/// A read-only note is handed over as a text, so that its file is out of reach whatever its own
+/// A read-only note is passed as text, so that its file cannot be written whatever its own
 /// attribute says.
 void HandOver(CoBxRtf& control, const Files& files, const std::u16string& path, bool readOnly) {
   if (!readOnly) {
@@ -93,7 +93,7 @@ void Describe(CoBxRtf& control, const CommandLine& line) {
   control.pSScléReg(text("--key", "microedit"));
 }
 
-/// Opens the editor, draws it into a file and closes it again.
+/// Opens the editor, renders it to a file and closes it.
 bool Capture(CoBxRtf& control, QtPlatform& platform, const std::string& png) {
   control.ShowMicroEdit();
   Form* editor = control.Parts().windows.Active();
@@ -119,7 +119,7 @@ int Edit(const CommandLine& line) {
   return control.Parts().session->loaded ? 0 : 1;
 }
 
-/// A script conducts the editor on real widgets, in a sandbox.
+/// Runs a script in a sandbox, on real widgets.
 int DrivePilot(const CommandLine& line) {
   std::ifstream script(*line.Value("--pilot"), std::ios::binary);
   if (!script) return Fail(*line.Value("--pilot") + " : lecture impossible", 2);

@@ -1,4 +1,4 @@
-// Putting a run together.
+// Assembles a script run.
 #include "pilot/RunPilot.h"
 
 #include "pilot/ScriptRunner.h"

@@ -1,4 +1,4 @@
-// Driving the component from a script.
+// Drives the component from a script.
 #pragma once
 #include <functional>
 #include <iosfwd>
@@ -10,22 +10,22 @@ class Form;
 class Sandbox;
 class UserActs;
 
-/// Everything a run needs; all of it outlives the run.
+/// The parts of a run; all must outlive it.
 struct PilotRun {
-  std::istream& script;  // UTF-8, one command a line
-  std::ostream& out;     // the answers
-  std::ostream& err;     // what went wrong
+  std::istream& script;  // UTF-8, one command per line
+  std::ostream& out;     // results
+  std::ostream& err;     // errors
   Sandbox& sandbox;
   Backend& backend;  // realises the windows
-  UserActs& acts;    // performs the user's acts on them
-  /// Called with the active window behind the last command, while everything is still open; not
-  /// when there is none. May be empty.
+  UserActs& acts;    // simulates user input
+  /// Called with the active window, if any, after the last command while everything is still open.
+  /// May be empty.
   std::function<void(const Form&)> atEnd = {};
 };
 
-/// Runs the script on a control of its own and returns the exit status: 0; 1 when an expectation
-/// failed, a window differed from its state or queued answers were left over; 2 when a line could
-/// not be understood.
+/// Runs the script on a control of its own. Returns the exit status: 0; 1 if an expectation failed,
+/// a native window differed from its form, or queued answers were left over; 2 if a line was
+/// invalid.
 int RunPilot(const PilotRun& run);
 
 }  // namespace lumenote

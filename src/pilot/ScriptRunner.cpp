@@ -1,4 +1,4 @@
-// Reading lines, carrying them out, printing what they answer.
+// Reads lines, executes them and prints their results.
 #include "pilot/ScriptRunner.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Carries out a script line by line.
+// Executes a script line by line.
 #pragma once
 #include <functional>
 #include <iosfwd>
@@ -10,14 +10,14 @@
 
 namespace lumenote {
 
-/// Lines may nest: while one waits for a window, the following ones are carried out inside it. The
-/// stream and the stage outlive it.
+/// Execution nests: while a line waits for a window, the following lines run inside it. Stream and
+/// stage must outlive this object.
 class ScriptRunner final : public ScriptLines {
  public:
-  /// `atEnd` is called once, behind the last line and before anything is closed.
+  /// `atEnd` is called once, after the last line and before anything is closed.
   ScriptRunner(std::istream& script, Stage& stage, std::function<void()> atEnd);
 
-  /// Runs the whole script, then closes what is open.
+  /// Runs the whole script, then closes all open windows.
   void Run();
 
   bool RunLine() override;
@@ -26,9 +26,9 @@ class ScriptRunner final : public ScriptLines {
  private:
   bool ReadLine();
   void CarryOut(std::string_view line);
-  /// Prints what `act` answers or what stopped it.
+  /// Prints the result of `act`, or its error.
   void Guarded(const std::function<Answer()>& act);
-  /// Windows that do not look as their state says.
+  /// Reports native windows that differ from their forms.
   void CompareWindows();
 
   std::istream& script_;

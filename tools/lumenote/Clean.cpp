@@ -1,4 +1,4 @@
-// lumenote clean: recognised text cleaned up, many notes at a time.
+// lumenote clean: cleans up recognised text in many notes.
 #include <iostream>
 
 #include "Command.h"
@@ -22,7 +22,7 @@ void Check(const CommandLine& line) {
   if (line.Has("--dry-run")) throw CommandLineError("-o et --dry-run s'excluent");
 }
 
-/// Cleans the note up and returns a line for each pair with its count.
+/// Cleans up the note and returns one line per pair with its count.
 std::string CleanUp(Note& note, const ListFile& list, const std::string& name) {
   std::string lines;
   try {

@@ -1,4 +1,4 @@
-// The commands of the tool.
+// The tool's commands.
 #pragma once
 #include <span>
 #include <stdexcept>
@@ -8,14 +8,13 @@ namespace lumenote::tool {
 
 using Arguments = std::span<const std::string_view>;
 
-/// What kept a command from doing its work: one line in French, told on standard error; exit
-/// status 1.
+/// Why a command failed: one line in French, printed on standard error; exit status 1.
 class Failure : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Each gets what follows its name and returns the exit status. Raises `CommandLineError` for
-/// arguments that cannot be understood.
+/// Each takes the arguments after its name and returns the exit status. Raises `CommandLineError`
+/// for invalid arguments.
 int Text(Arguments arguments);
 int Convert(Arguments arguments);
 int Pilot(Arguments arguments);

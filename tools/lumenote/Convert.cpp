@@ -1,4 +1,4 @@
-// lumenote convert: a note as RTF or plain text, either way.
+// lumenote convert: converts a note between RTF and plain text.
 #include "Command.h"
 #include "NoteFile.h"
 #include "base/CommandLine.h"
@@ -8,7 +8,7 @@ namespace {
 
 constexpr OptionRule kOptions[] = {{"--to", true}};
 
-/// What --to or else the name says; nothing leaves the choice open.
+/// The format given by --to, else by the file name; empty if neither tells.
 std::optional<Note::Format> AskedFormat(const CommandLine& line) {
   const std::string& target = line.Operands()[1];
   if (const auto to = line.Value("--to")) {

@@ -1,4 +1,4 @@
-// lumenote link: a program of the system under the name that the editor knows.
+// lumenote link: links a system program under a name that the editor knows.
 #include <algorithm>
 #include <system_error>
 
@@ -32,7 +32,7 @@ void CheckProgram(const std::string& program) {
     throw Failure(program + " : pas un programme");
 }
 
-/// The new link is made beside the place and renamed onto it, so that an old one is never missing.
+/// Creates the new link beside the old one and renames it, so that a link is never missing.
 void PutLink(const fs::path& target, const fs::path& link) {
   const fs::path fresh = link.string() + ".new";
   fs::create_directories(link.parent_path());

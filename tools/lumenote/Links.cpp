@@ -1,4 +1,4 @@
-// lumenote links: where each external program is.
+// lumenote links: lists the external programs.
 #include <system_error>
 
 #include "Command.h"
@@ -10,7 +10,7 @@
 namespace lumenote::tool {
 namespace {
 
-/// The program itself, behind every link; "-" for one that is missing.
+/// The program behind all links; "-" if it is missing.
 std::string Target(const DrivePaths& drives, const std::u16string& path) {
   if (path.empty()) return "-";
   const std::filesystem::path native = NativePath(drives, path);

@@ -1,4 +1,4 @@
-// Finding and reading a correction list.
+// Finds and reads a correction list.
 #include "ListFile.h"
 
 #include "Command.h"
@@ -15,7 +15,7 @@ ListFile::ListFile(const std::string& name) {
   try {
     while (const auto pair = reader.Next()) pairs_.push_back(*pair);
   } catch (const RuntimeError& error) {
-    // The description names the line behind a line end.
+    // The description names the line on a line of its own; print it all on one.
     throw Failure(name + " : " + ToUtf8(ReplaceEvery(error.Description(), u"\r\n", u" : ")));
   }
 }

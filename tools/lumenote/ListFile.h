@@ -7,8 +7,8 @@
 
 namespace lumenote::tool {
 
-/// The list that a command was given; without a name one that has no pairs. It has been read to its
-/// end, so a list that cannot be is told before any note is touched.
+/// A command's correction list; without a name it is empty. Parsed completely on construction, so
+/// that an invalid list is reported before any note is changed.
 class ListFile {
  public:
   /// `name` is a native path, "-" for standard input, or empty. Raises `Failure`.

@@ -1,4 +1,4 @@
-// Reading, recognising and writing notes.
+// Reads and writes notes and detects their format.
 #include "NoteFile.h"
 
 #include <filesystem>

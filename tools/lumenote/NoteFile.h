@@ -8,19 +8,19 @@
 
 namespace lumenote::tool {
 
-/// What a file name's extension says, in any letter case; nothing for another one.
+/// The format of a file name's extension, in any letter case; empty for an unknown one.
 std::optional<Note::Format> FormatOfName(std::string_view name);
 
-/// The note that stands at `name`, in the format that its extension says, else in the one that it
-/// looks like. Raises `Failure` when it ends in .rtf and its content is not RTF.
+/// Reads the note in the format of its extension or, for an unknown one, the detected format.
+/// Raises `Failure` for a file named .rtf whose content is not RTF.
 Note ReadNote(const std::string& name);
 
-/// Absolute, so that the folder above it can be looked at when it is missing.
+/// Absolute, so that errors can tell whether the parent folder is missing.
 std::string Absolute(const std::string& name);
 
-/// `name` is a native path, or "-" for a standard stream. Raise `Failure`.
+/// `name` is a native path, or "-" for a standard stream. Both raise `Failure`.
 std::string ReadBytes(const std::string& name);
-/// A file is replaced at once or not at all.
+/// Replaces a file atomically.
 void WriteBytes(const std::string& name, std::string_view bytes);
 
 }  // namespace lumenote::tool

@@ -1,4 +1,4 @@
-// lumenote pilot: a script on windows that nobody sees.
+// lumenote pilot: runs a script on headless windows.
 #include <fstream>
 #include <iostream>
 #include <memory>

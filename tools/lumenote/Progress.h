@@ -1,11 +1,11 @@
-// How far a command on many files has come.
+// Progress of a command over many files.
 #pragma once
 #include <cstddef>
 #include <string_view>
 
 namespace lumenote::tool {
 
-/// Tells on standard error which file is next, when a terminal is there to see it.
+/// Prints the next file on standard error if that is a terminal.
 class Progress {
  public:
   explicit Progress(std::size_t total);

@@ -1,4 +1,4 @@
-// lumenote text: the plain text of a note.
+// lumenote text: prints a note's plain text.
 #include <algorithm>
 
 #include "Command.h"

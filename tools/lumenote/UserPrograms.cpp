@@ -1,4 +1,4 @@
-// Looking up programs as the editor does.
+// Looks up programs as the editor does.
 #include "UserPrograms.h"
 
 #include "Command.h"
@@ -11,7 +11,7 @@
 namespace lumenote::tool {
 namespace {
 
-/// Files as they would be if every program stood at its first place.
+/// A file system in which every program exists at the first place searched.
 class EveryFile : public PosixFiles {
  public:
   using PosixFiles::PosixFiles;

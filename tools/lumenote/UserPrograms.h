@@ -1,4 +1,4 @@
-// The external programs of this user.
+// The user's external programs.
 #pragma once
 #include <filesystem>
 
@@ -7,11 +7,11 @@
 
 namespace lumenote::tool {
 
-/// What the editor finds now.
+/// The programs that the editor would find now.
 ProgramTable InstalledPrograms(const DrivePaths& drives);
-/// Where the editor looks for each program first, whether it stands there or not.
+/// The first place where the editor would look for each program, whether or not it exists.
 ProgramTable FirstPlaces(const DrivePaths& drives);
-/// A path of a table as a native one. Raises `Failure` when there is no such drive.
+/// The native form of a path in a table. Raises `Failure` for an unknown drive.
 std::filesystem::path NativePath(const DrivePaths& drives, std::u16string_view path);
 
 }  // namespace lumenote::tool

@@ -1,4 +1,4 @@
-// The toolkit tells a plain function, which tells the objects.
+// Qt calls a plain function, which notifies the objects.
 #include "backends/qt/ApplicationEnd.h"
 
 #include <QCoreApplication>
@@ -10,7 +10,7 @@ namespace lumenote {
 
 namespace {
 
-// Never destroyed: a platform may be a global object that goes later than this file's own.
+// Never destroyed, because a platform may be a global object that outlives this file's statics.
 std::vector<ApplicationEnd*>& Waiting() {
   static auto& waiting = *new std::vector<ApplicationEnd*>;
   return waiting;
@@ -28,7 +28,7 @@ ApplicationEnd::~ApplicationEnd() {
   if (Waiting().empty()) qRemovePostRoutine(&ApplicationEnd::Reached);
 }
 
-// What goes later has to go now: no event loop comes any more.
+// Deferred deletions happen now: no event loop will run again.
 void ApplicationEnd::Reached() {
   while (!Waiting().empty()) {
     ApplicationEnd* const next = Waiting().back();

@@ -1,11 +1,11 @@
-// The end of the program's application object.
+// The destruction of the program's application object.
 #pragma once
 #include <functional>
 
 namespace lumenote {
 
-/// Calls `end` when the QApplication begins to go, while windows can still be used. Made while
-/// there is one; a later one is not waited for.
+/// Calls `end` when the QApplication begins its destruction, while windows can still be used. Must
+/// be created while there is one; later ones are not watched.
 class ApplicationEnd {
  public:
   explicit ApplicationEnd(std::function<void()> end);

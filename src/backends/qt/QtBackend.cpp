@@ -38,7 +38,7 @@ std::unique_ptr<RichTextSurface> QtBackend::MakeSurface(RichTextBox& box, Clipbo
   return std::make_unique<DocumentSurface>(clipboard, files, layout->breaker);
 }
 
-// A modal window would lock whatever stands over another one.
+// A modal parent elsewhere would lock windows above another one.
 QWidget* QtBackend::Asking(const Form* over) const {
   if (!over) return nullptr;
   const Form* modal = over->Windows().TopModal();
@@ -73,8 +73,8 @@ QtBackend::QtBackend() {
                    [this] { SessionEnds(); });
 }
 
-// What the desktop still has to say about windows that were activated before is no news: it would
-// make them active again for a moment.
+// Pending activation events for windows activated earlier are stale: they would make those windows
+// active again for a moment.
 void QtBackend::Activating(Form& form) {
   awaited_ = &form;
   passedOver_ = nullptr;
@@ -90,7 +90,7 @@ void QtBackend::NativelyActive(Form& form) {
   form.UserActivate();
 }
 
-// It was news after all: the desktop has settled on another window than the awaited one.
+// The events were not stale: the desktop has settled on another window than the awaited one.
 void QtBackend::EndAwaiting() {
   awaited_ = nullptr;
   Form* form = std::exchange(passedOver_, nullptr);
@@ -98,7 +98,7 @@ void QtBackend::EndAwaiting() {
   if (window && window->isActiveWindow()) form->UserActivate();
 }
 
-// Whoever uses a window has it in front of him, whatever the desktop still has to say.
+// A window in use is the active one, whatever pending events say.
 void QtBackend::Used(Form& form) {
   sessionEnds_ = false;  // it goes on after all
   if (form.Windows().Active() == &form) return;

@@ -1,4 +1,4 @@
-// The fonts that the toolkit finds.
+// The fonts known to Qt.
 #pragma once
 #include "platform/Fonts.h"
 
@@ -7,7 +7,7 @@ namespace lumenote {
 class QtFonts final : public Fonts {
  public:
   std::vector<std::u16string> ScreenFonts() const override;
-  /// The desktop prints with the fonts of the screen.
+  /// Printers use the screen's fonts.
   int PrinterFontCount() const override;
 };
 

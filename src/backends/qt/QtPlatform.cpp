@@ -24,7 +24,7 @@ namespace lumenote {
 
 namespace {
 
-/// Raises InvalidArgument where windows cannot be used.
+/// Raises InvalidArgument if windows cannot be used.
 void CheckApplication() {
   const auto* application = qobject_cast<QApplication*>(QCoreApplication::instance());
   if (!application)
@@ -34,7 +34,7 @@ void CheckApplication() {
                        u"Appel depuis un autre fil d'exécution que celui de QApplication");
 }
 
-/// The program's application object, made when the host has none.
+/// The program's application object, created if the host has none.
 class OwnApplication {
  public:
   OwnApplication() {
@@ -47,7 +47,7 @@ class OwnApplication {
  private:
   void Make() {
     application_ = std::make_unique<QApplication>(count_, names_);
-    // The toolkit's own dialogs speak French as the editor does.
+    // Translates Qt's own dialogs to French.
     if (french_.load(QStringLiteral("qtbase_fr"),
                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
       QCoreApplication::installTranslator(&french_);
@@ -60,7 +60,7 @@ class OwnApplication {
   std::unique_ptr<QApplication> application_;
 };
 
-/// Programs that nobody asks after are collected from time to time, lest they stay as zombies.
+/// Reaps programs from time to time even if nobody asks about them, so that none stays a zombie.
 class CollectedProcesses final : public PosixProcesses {
  public:
   CollectedProcesses(DrivePaths drives, ProgramWindows& windows)
@@ -84,7 +84,7 @@ class CollectedProcesses final : public PosixProcesses {
 
 }  // namespace
 
-/// What can be made before the application object.
+/// The parts that need no application object.
 struct QtPlatform::Parts {
   DrivePaths drives = DrivePaths::OfUser();
   PosixStateFolder state{PosixStateFolder::OfUser(), drives};

@@ -1,4 +1,4 @@
-// The forms' timers in the desktop's event loop.
+// The forms' timers in Qt's event loop.
 #pragma once
 #include <QTimer>
 #include <memory>
@@ -8,7 +8,7 @@
 
 namespace lumenote {
 
-/// A timer does not tick again while its own tick is running.
+/// A timer never ticks during its own tick.
 class QtTimers {
  public:
   void Arm(Timer& timer);

@@ -30,7 +30,7 @@ Kind& Shown(const WidgetRegistry& widgets, const Element& element) {
   throw std::logic_error(element.Name() + " is not on screen");
 }
 
-/// A mouse over a control: its events go to the innermost widget at the point.
+/// The mouse at a point of a control; events go to the innermost widget there.
 class Hand {
  public:
   Hand(QWidget& widget, QPointF at) {
@@ -39,7 +39,7 @@ class Hand {
     at_ = target_->mapFrom(&widget, at);
   }
 
-  /// The widget may be gone after any event.
+  /// Any event may destroy the widget.
   void Send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
     if (!target_) return;
     QMouseEvent event(type, at_, target_->mapToGlobal(at_), button, held, Qt::NoModifier);
@@ -56,7 +56,7 @@ class Hand {
   QPointF at_;
 };
 
-/// A list that is open over the window has the keyboard.
+/// An open drop-down list has the keyboard.
 QWidget& WithKeyboard(QWidget& widget) {
   QWidget* popup = QApplication::activePopupWidget();
   if (!popup) return widget;

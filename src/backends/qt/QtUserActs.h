@@ -1,4 +1,4 @@
-// The user's hands on the widgets: real mouse, key and drop events.
+// Simulated user input: posts real mouse, key and drop events to the widgets.
 #pragma once
 #include <QEvent>
 #include <QPointF>
@@ -13,11 +13,11 @@ namespace lumenote {
 class QtBackend;
 class RichTextView;
 
-/// For scripts and tests. Events reach the widgets as those of the desktop do; the window need not
-/// be on a screen.
+/// For scripts and tests. Events reach the widgets as the desktop's do; the window need not be on a
+/// screen.
 class QtUserActs final : public UserActs {
  public:
-  /// `backend` has realised the windows.
+  /// `backend` must have realised the windows.
   explicit QtUserActs(QtBackend& backend);
 
   void Click(Control& control) override;

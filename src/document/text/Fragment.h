@@ -30,8 +30,7 @@ struct Fragment {
 
 /// Builds a fragment front to back; a leaf fills up here, then joins the list. Never splits a CR LF
 /// or a surrogate pair between leaves. Raises Overflow when a list cannot hold the text.
-///
-/// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the text is written before it is read.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the text is written before it is read.
 class FragmentBuilder {
  public:
   /// Appends text without CR or LF.

@@ -1,4 +1,4 @@
-// Taking words and JSON values off a line.
+// Consumes words and JSON values from a line.
 #include "pilot/language/Arguments.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ Value ReadJsonArgument(std::string_view& text) {
   }
 }
 
-/// A word that is a JSON literal stands for it, any other one for itself.
+/// A word that is a JSON literal is that value; any other word is a string.
 Value WordValue(std::string_view word) {
   std::string_view rest = word;
   try {

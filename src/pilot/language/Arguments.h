@@ -1,4 +1,4 @@
-// The arguments of a script's line, read one after the other.
+// Reads the arguments of a script line in order.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -8,11 +8,11 @@
 
 namespace lumenote {
 
-/// Reads what follows the verb: bare words and JSON values separated by blanks, up to the end of
-/// the line or a comment. Anything else than what is asked for raises `ScriptError`.
+/// Parses what follows the verb: bare words and JSON values separated by spaces, up to the end of
+/// the line or a comment. Anything but the requested kind raises `ScriptError`.
 class Arguments {
  public:
-  /// `text` is UTF-8 and outlives the reader.
+  /// `text` is UTF-8 and must outlive the reader.
   explicit Arguments(std::string_view text) : text_(text) {}
 
   bool AtEnd();
@@ -21,18 +21,18 @@ class Arguments {
 
   /// A JSON value, or a bare word as a string.
   Value Any();
-  /// A JSON value and nothing else.
+  /// A JSON value only.
   Value Json();
-  /// A string, a bare word, or a number as it is written.
+  /// A string, a bare word, or a number as written.
   std::u16string Text();
-  /// The same as UTF-8: a name.
+  /// The same as UTF-8; for names.
   std::string Name();
-  /// A whole number in that range.
+  /// An integer in the range.
   std::int32_t Whole(std::int32_t least, std::int32_t most);
-  /// A number in that range.
+  /// A number in the range.
   double Number(double least, double most);
   bool Flag();
-  /// Whatever stands behind the blanks, comments too.
+  /// The raw rest of the line after spaces, comments included.
   std::string_view Rest();
 
  private:
@@ -46,7 +46,7 @@ class Arguments {
   std::string_view text_;
 };
 
-/// Takes the first word off `line`, for the verb; empty on a line without one.
+/// Removes the first word, the verb, from `line`; empty if there is none.
 std::string_view TakeVerb(std::string_view& line);
 
 }  // namespace lumenote

@@ -1,7 +1,7 @@
-// Matching by the standard library, without its deep recursion.
+// Regular expressions of the standard library, without its deep recursion.
 #include "pilot/language/Pattern.h"
 
-// GCC 12 wrongly warns inside the standard header when sanitizers are on.
+// GCC 12 warns wrongly inside the standard header when sanitizers are on.
 #ifdef __GNUC__
 #pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
 #endif
@@ -16,14 +16,14 @@ namespace {
 
 using Syntax = std::regex_constants::syntax_option_type;
 
-/// Matching that does not recurse once a character; it knows no back-references.
+/// A matcher that does not recurse for each character; it has no back-references.
 #ifdef __GLIBCXX__
 constexpr Syntax kFlat = std::regex::ECMAScript | std::regex_constants::__polynomial;
 #else
 constexpr Syntax kFlat = std::regex::ECMAScript;
 #endif
 
-/// What recursion can take on any stack.
+/// A recursion depth that fits any stack.
 constexpr std::size_t kLongestRecursion = 1000;
 
 std::wstring Widen(std::string_view utf8) {

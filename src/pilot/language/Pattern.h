@@ -4,8 +4,8 @@
 
 namespace lumenote {
 
-/// Whether the ECMAScript regular expression matches somewhere in the line; both are UTF-8, and a
-/// character is one whatever its bytes. Raises `ScriptError` for what is no regular expression.
+/// Whether the ECMAScript regular expression matches anywhere in the line. Both are UTF-8 and
+/// matched by character. Raises `ScriptError` for an invalid expression.
 bool Occurs(std::string_view regex, std::string_view line);
 
 }  // namespace lumenote

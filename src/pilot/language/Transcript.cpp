@@ -1,4 +1,4 @@
-// Printing, comparing and counting.
+// Prints, compares and counts.
 #include "pilot/language/Transcript.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ bool HasMembers(const Value& actual, const Value::Object& wanted) {
   });
 }
 
-/// Equality, but that objects of `actual` may hold further keys.
+/// Equality, except that objects in `actual` may have further keys.
 bool Has(const Value& actual, const Value& wanted) {
   if (wanted.AsObject()) return actual.AsObject() && HasMembers(actual, *wanted.AsObject());
   if (wanted.AsArray()) return actual.AsArray() && HasItems(*actual.AsArray(), *wanted.AsArray());

@@ -1,4 +1,4 @@
-// What a script has printed, and what it expected of it.
+// The output of a script and its expectations.
 #pragma once
 #include <iosfwd>
 #include <map>
@@ -9,32 +9,32 @@
 
 namespace lumenote {
 
-/// Prints one line a value to `out`; what went wrong is told on `err`. Both outlive it.
+/// Prints one line per value to `out`, and errors to `err`; both must outlive it.
 class Transcript {
  public:
   Transcript(std::ostream& out, std::ostream& err) : out_(out), err_(err) {}
 
-  /// The script's line that is being carried out, for what is told on `err`.
+  /// Sets the current script line, for messages on `err`.
   void At(int number, std::string_view line);
 
   void Print(const Value& value);
-  /// The line cannot be understood: prints why.
+  /// Reports an invalid line.
   void NotUnderstood(std::string_view why);
 
   /// Each compares the last line printed, and counts.
   void Expect(const Value& wanted);
   void ExpectHas(const Value& wanted);
-  /// Raises `ScriptError` for what is no regular expression.
+  /// Raises `ScriptError` for an invalid expression.
   void ExpectLike(std::string_view regex);
-  /// Raises `ScriptError` when nothing is kept under the name.
+  /// Raises `ScriptError` if nothing was kept under the name.
   void ExpectKept(const std::string& name);
   void Keep(const std::string& name) { kept_[name] = last_; }
 
-  /// Something beside the expectations went wrong; the script has failed.
+  /// Fails the script for a reason other than an expectation.
   void Fault(std::string_view what);
 
-  /// Prints the count of the expectations, if there were any, and returns the exit status: 2 when a
-  /// line was not understood, 1 when the script has failed, else 0.
+  /// Prints the count of expectations, if any, and returns the exit status: 2 if a line was
+  /// invalid, 1 if the script failed, else 0.
   int Close();
 
  private:
@@ -53,7 +53,7 @@ class Transcript {
   bool notUnderstood_ = false;
 };
 
-/// An error as it is printed.
+/// An error in its printed form.
 Value ErrorValue(Value number, std::u16string_view description);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Answering boxes, closing popups and waiting as the script says.
+// Answers boxes, dismisses popups and waits as the script says.
 #include "pilot/machine/PilotBackend.h"
 
 #include <utility>
@@ -8,7 +8,7 @@
 namespace lumenote {
 namespace {
 
-/// The peer behind it, but for popup menus: they close at once.
+/// Forwards to the real peer, except that popup menus close at once.
 class PilotPeer final : public FormPeer {
  public:
   PilotPeer(std::unique_ptr<FormPeer> inner, std::optional<std::string>& popUp)

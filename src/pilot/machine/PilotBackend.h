@@ -1,4 +1,4 @@
-// A backend under a script: the user at it is the script's next line.
+// A backend under script control: the script's next line acts as the user.
 #pragma once
 #include <deque>
 #include <functional>
@@ -11,30 +11,30 @@
 
 namespace lumenote {
 
-/// What a wait needs of the script.
+/// What a wait needs from the script.
 class ScriptLines {
  public:
   virtual ~ScriptLines() = default;
-  /// Carries out the next line; false when the script is over.
+  /// Executes the next line; false at the end of the script.
   virtual bool RunLine() = 0;
-  /// Closes the topmost window that lets itself be closed; false when there is none.
+  /// Closes the topmost window that can be closed; false if there is none.
   virtual bool CloseTop() = 0;
 };
 
-/// A message box that was shown, and the answer it got.
+/// A message box that was shown, with its answer.
 struct ShownBox {
   MessageBox box;
   MessageBox::Answer answer;
 };
 
-/// Windows and surfaces are those of the backend behind it; boxes are answered by the script, popup
-/// menus close with nothing chosen, timers tick as the script says, and a wait carries out the
-/// lines that follow. Outlives the windows.
+/// Windows and surfaces come from the wrapped backend. The script answers boxes; popup menus close
+/// with nothing chosen; timers tick as the script says; a wait executes the lines that follow. Must
+/// outlive the windows.
 class PilotBackend final : public Backend {
  public:
   explicit PilotBackend(Backend& inner) : inner_(inner) {}
 
-  /// Set before anything waits; outlives the waits.
+  /// Must be set before any wait, and outlive it.
   void Script(ScriptLines& lines) { lines_ = &lines; }
 
   std::unique_ptr<FormPeer> Realise(Form& form) override;
@@ -42,26 +42,26 @@ class PilotBackend final : public Backend {
                                                Files& files) override;
   MessageBox::Answer Show(const MessageBox& box, Form* over) override;
   std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* over) override;
-  /// Ends, too, when the script is over and nothing is left that could be closed.
+  /// Also ends when the script is over and no window is left to close.
   void RunUntil(const std::function<bool()>& done) override;
   bool IsTopmost(const Form& form) override { return inner_.IsTopmost(form); }
   void Arm(Timer& timer) override { clock_.Arm(timer); }
   void Disarm(Timer& timer) override { clock_.Disarm(timer); }
   void EventFailed(const RuntimeError& error, Form* form) override;
 
-  /// Queues an answer. The next box that has such a button takes it; a box that finds none at the
-  /// head of the queue gets its default button.
+  /// Queues an answer. The next box takes the first queued answer if it has such a button, else its
+  /// default button.
   void Answer(MessageBox::Answer answer) { answers_.push_back(answer); }
   bool HasAnswers() const { return !answers_.empty(); }
-  /// What the next font dialog answers; without an answer it is cancelled.
+  /// Sets the next font dialog's answer; without one it is cancelled.
   void FontAnswer(std::optional<FontChoice> choice) { fontAnswer_ = std::move(choice); }
-  /// The boxes shown since the last call.
+  /// Returns the boxes shown since the last call.
   std::vector<ShownBox> TakeBoxes();
-  /// Name of the menu popped up last since the last call.
+  /// Returns the name of the last menu popped up since the last call.
   std::optional<std::string> TakePopUp();
   void Tick(std::int64_t milliseconds) { clock_.Advance(milliseconds); }
 
-  /// Catches the first error that reaches an event's edge while it stands; they nest.
+  /// Catches the first error that reaches an event's edge during its lifetime; traps nest.
   class FailureTrap {
    public:
     explicit FailureTrap(PilotBackend& backend);

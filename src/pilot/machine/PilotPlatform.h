@@ -1,4 +1,4 @@
-// The machine of a script: files, settings and programs of a sandbox, and windows.
+// A script's machine: files, settings and programs of a sandbox, and windows.
 #pragma once
 #include "lumenote/Platform.h"
 #include "pilot/machine/Sandbox.h"
@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// Owns nothing; the parts outlive it.
+/// Owns nothing; its parts must outlive it.
 class PilotPlatform : public Platform {
  public:
   PilotPlatform(Sandbox& sandbox, Backend& windows, const Fonts& fonts)

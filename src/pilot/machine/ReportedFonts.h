@@ -1,4 +1,4 @@
-// The fonts of the machine that a script runs on.
+// The fonts that a script's machine reports.
 #pragma once
 #include <optional>
 
@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-/// What scripts let the machine report. It has a few fonts of its own, and a printer with all of
-/// them, so that a script means the same everywhere.
+/// Scripts may set them. The defaults are a few fixed fonts and a printer with all of them, so that
+/// a script behaves the same everywhere.
 struct ReportedFonts final : Fonts {
   std::vector<std::u16string> ScreenFonts() const override { return screen; }
   int PrinterFontCount() const override {
@@ -17,7 +17,7 @@ struct ReportedFonts final : Fonts {
   }
 
   std::vector<std::u16string> screen{u"Arial", u"Courier New", u"Symbol", u"Times New Roman"};
-  std::optional<int> printer = 4;  // empty without a printer
+  std::optional<int> printer = 4;  // empty: no printer
 };
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// The machine that a script runs on: the component's side of it, and the script's.
+// The machine that a script runs on, as the component and as the script see it.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -18,8 +18,8 @@ class StateFolder;
 
 enum class LinkKind { Hard, Symbolic };
 
-/// A machine of its own: drive C: in a folder, settings and a machine-wide registry in files, a
-/// private clipboard. Nothing outside is read or written. Outlives the run.
+/// A machine of its own: drive C: in a folder, settings and registry in files, a private clipboard.
+/// Nothing outside is read or written. Must outlive the run.
 class Sandbox {
  public:
   virtual ~Sandbox() = default;
@@ -32,25 +32,24 @@ class Sandbox {
 
   virtual const Registry& MachineRegistry() const = 0;
   virtual const ProgramFolders& InstalledPrograms() const = 0;
-  /// The only programs that run on this machine.
+  /// The only programs of this machine.
   virtual StandIns& Programs() = 0;
 
-  /// One string by key (its case ignored) and name ("" for the key's default value).
+  /// Writes one string by key (case ignored) and name ("" for the key's default value).
   virtual void WriteRegistry(std::u16string_view key, std::u16string_view name,
                              std::u16string_view value) = 0;
 
-  // What happens to the files behind the component's back. Paths are drive-letter paths; failures
-  // are run-time errors.
-  /// Makes the folders above `path` that are missing.
+  // File operations behind the component's back. Paths are drive-letter paths; failures are
+  // run-time errors. This one creates the missing parent folders of `path`.
   virtual void MakeParents(std::u16string_view path) = 0;
-  /// Names of the files and folders in a folder, sorted by UTF-16 unit.
+  /// Names of a folder's files and folders, sorted by UTF-16 unit.
   virtual std::vector<std::u16string> List(std::u16string_view folder) const = 0;
-  /// Removes a file, or a folder with all it holds, read-only or not.
+  /// Removes a file, or a folder with its content, even if read-only.
   virtual void Remove(std::u16string_view path) = 0;
   virtual void ReadOnly(std::u16string_view path, bool on) = 0;
-  /// Makes a second name of the file at `path`.
+  /// Creates another name for the file at `path`.
   virtual void Link(std::u16string_view name, std::u16string_view path, LinkKind kind) = 0;
-  /// Moves the file's modification time.
+  /// Shifts the file's modification time.
   virtual void Age(std::u16string_view path, std::int64_t seconds) = 0;
 };
 

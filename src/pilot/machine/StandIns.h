@@ -1,4 +1,4 @@
-// Programs that only seem to run: what scripts watch the component start and end.
+// Fake programs: scripts watch the component start and end them.
 #pragma once
 #include <string>
 #include <string_view>
@@ -10,11 +10,11 @@ namespace lumenote {
 
 class Files;
 
-/// A stand-in is a file with a content of its own. Once started it runs until it is finished or
-/// terminated, even when its file goes; any other file cannot be started.
+/// A fake program is a file with special content. Once started it runs until it is finished or
+/// terminated, even if its file is deleted; other files cannot be started.
 class StandIns final : public Processes {
  public:
-  /// `files` outlives it.
+  /// `files` must outlive it.
   explicit StandIns(Files& files) : files_(files) {}
 
   ProcessId Start(std::u16string_view commandLine) override;
@@ -22,11 +22,11 @@ class StandIns final : public Processes {
   std::optional<SystemError> Terminate(std::u16string_view path) override;
   std::optional<SystemError> StillRunning(std::u16string_view path) override;
 
-  /// Puts a stand-in at `path`, whose folder is there.
+  /// Creates a fake program at `path`, whose folder must exist.
   void Put(std::u16string_view path);
-  /// Ends everything that runs.
+  /// Ends all running programs.
   void Finish() { running_.clear(); }
-  /// The command lines started, and the paths of the programs terminated, since the last call.
+  /// The command lines started (paths of programs terminated) since the last call.
   std::vector<std::u16string> TakeStarted();
   std::vector<std::u16string> TakeKilled();
 

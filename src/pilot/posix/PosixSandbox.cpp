@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 constexpr std::u16string_view kRegistry = u"Machine";
 
-/// Makes the drive with its folders and returns its native path.
+/// Creates the drive with its folders and returns its native path.
 std::string MakeDrive(const std::string& root) {
   constexpr std::array kFolders{"Temp", "Documents", "Program Files", "Lumenote"};
   if (root.empty()) throw RuntimeError(ErrorNumber::PathAccess);

@@ -1,4 +1,4 @@
-// A machine for scripts in one folder of the file system.
+// A sandbox in one folder of the file system.
 #pragma once
 #include <memory>
 #include <string>
@@ -16,15 +16,15 @@
 
 namespace lumenote {
 
-/// Drive C: is the folder c below the root, beside settings.ini, registry.ini and the state folder.
-/// The folders C:\Temp, C:\Documents, C:\Program Files and C:\Lumenote are there from the start.
+/// Drive C: is the folder c of the root, beside settings.ini, registry.ini and the state folder.
+/// C:\Temp, C:\Documents, C:\Program Files and C:\Lumenote exist from the start.
 class PosixSandbox final : public Sandbox {
  public:
-  /// A fresh one in the system's temporary folder, removed at the end. Raises PathAccess when there
-  /// can be none.
+  /// A new one in the system's temporary folder, removed at the end. Raises PathAccess if it cannot
+  /// be created.
   PosixSandbox();
-  /// In the native folder `root`, which is made when it is missing and stays. Raises PathAccess
-  /// when it cannot be made.
+  /// In the native folder `root`, which is created if missing and stays. Raises PathAccess if it
+  /// cannot be created.
   explicit PosixSandbox(const std::string& root);
 
   Settings& UserSettings() override { return settings_; }
@@ -50,7 +50,7 @@ class PosixSandbox final : public Sandbox {
  private:
   explicit PosixSandbox(std::unique_ptr<TemporaryFolder> own);
 
-  std::unique_ptr<TemporaryFolder> own_;  // the root of a fresh one, else null
+  std::unique_ptr<TemporaryFolder> own_;  // the root if it is temporary, else null
   DrivePaths drives_;
   PosixStateFolder state_;
   PosixFiles files_;

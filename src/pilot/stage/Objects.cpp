@@ -1,4 +1,4 @@
-// Look-up of windows, parts and members by name.
+// Looks up windows, elements and members by name.
 #include "pilot/stage/Objects.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ constexpr std::string_view kStyle = "CurrentStyle";
   throw ScriptError("unknown " + std::string(kind) + " " + std::string(name));
 }
 
-/// The name before the parentheses; empty when there are none.
+/// The name before the parentheses; empty without any.
 std::string_view ArrayName(std::string_view name) {
   const std::size_t open = name.find('(');
   return open == std::string_view::npos ? std::string_view() : name.substr(0, open);
@@ -36,7 +36,7 @@ bool HasArray(const Form& form, std::string_view array) {
                      [&](const Element* element) { return ArrayName(element->Name()) == array; });
 }
 
-/// A member as a path names it: "Panels(1)" is the member Panels with the index 1.
+/// A member name in a path: "Panels(1)" is the member Panels with index 1.
 struct MemberName {
   std::string_view name;
   int index = -1;
@@ -52,7 +52,7 @@ MemberName ParseMember(std::string_view text) {
   return {text.substr(0, open), index};
 }
 
-/// The two sides of the last point.
+/// The parts before and after the last point.
 std::pair<std::string_view, std::string_view> SplitMember(std::string_view path) {
   const std::size_t point = path.rfind('.');
   if (point == std::string_view::npos) throw ScriptError("OBJECT.MEMBER expected");

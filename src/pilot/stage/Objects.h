@@ -1,4 +1,4 @@
-// Windows, their parts and members by the names that scripts give them.
+// Windows, their elements and members, by the names that scripts use.
 #pragma once
 #include <string_view>
 
@@ -12,11 +12,10 @@ class WindowList;
 struct Session;
 struct Stage;
 
-/// A loaded window. Raises `Refusal` for one that is not loaded, `ScriptError` for a name that no
-/// window has.
+/// A loaded window. Raises `Refusal` if it is not loaded, `ScriptError` if no window has that name.
 Form& FindForm(const WindowList& windows, std::string_view name);
-/// "FORM" or "FORM.CONTROL", an index in parentheses belonging to the name. Raises, further,
-/// `ScriptError` for an unknown name and NoSuchElement (340) for an index that an array lacks.
+/// "FORM" or "FORM.CONTROL", with an index in parentheses if any. Also raises `ScriptError` for an
+/// unknown name and NoSuchElement (340) for a missing index of an array.
 Element& FindElement(const WindowList& windows, std::string_view path);
 
 /// "OBJECT.MEMBER" or "Session.NAME".
@@ -26,7 +25,7 @@ void WriteMember(Stage& stage, std::string_view path, const Value& value);
 /// One of the session's values; raises `ScriptError` for an unknown name.
 Value ReadSession(const Session& session, std::string_view name);
 
-/// One field of the paragraph style in use, or its right margin; the same.
+/// One field of the current paragraph style, or its right margin; raises likewise.
 Value ReadStyle(std::string_view name);
 void WriteStyle(std::string_view name, const Value& value);
 

@@ -1,4 +1,4 @@
-// Which windows and controls the user can use now.
+// Which windows and controls the user can operate now.
 #include "pilot/stage/Reach.h"
 
 #include <string>
@@ -29,8 +29,8 @@ bool IsReachable(const Control& control) {
   return true;
 }
 
-/// The element as a `Part`, its window activated. `pick` raises when it cannot be used; it is asked
-/// again after the activation, which may have changed everything.
+/// The element as a `Part`, after activating its window. `pick` raises if the element cannot be
+/// used; it is called again after the activation, which may have changed anything.
 template <class Pick>
 auto& Reach(Stage& stage, std::string_view path, Pick pick) {
   const auto find = [&]() -> auto& {

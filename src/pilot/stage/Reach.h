@@ -1,4 +1,4 @@
-// What the user's hand can reach, brought to the front as a click would.
+// Elements that the user could operate now; their window is activated as by a click.
 #pragma once
 #include <string_view>
 
@@ -11,17 +11,17 @@ class Menu;
 class RichTextBox;
 struct Stage;
 
-/// Each raises what `FindElement` does, `ScriptError` for an element of another kind, and `Refusal`
-/// when it, or its window, is hidden, disabled, or locked by a modal window. The window is active
-/// afterwards.
+/// Each raises what `FindElement` raises, `ScriptError` for an element of the wrong kind, and
+/// `Refusal` if the element or its window is hidden, disabled, or locked by a modal window. The
+/// window is active on return.
 Form& ReachForm(Stage& stage, std::string_view path);
-/// A control, or a menu entry that could be clicked whatever menu holds it.
+/// A control, or a menu entry that could be clicked, whichever menu contains it.
 Element& ReachPart(Stage& stage, std::string_view path);
 Control& ReachControl(Stage& stage, std::string_view path);
-/// A control that takes the keyboard, or for a window the one that has it.
+/// A control that can have the focus; for a window, the one that has it.
 Control& ReachKeyboard(Stage& stage, std::string_view path);
 RichTextBox& ReachSurface(Stage& stage, std::string_view path);
-/// A menu that is enabled; hidden ones can be opened as popups.
+/// An enabled menu, even a hidden one, which can be opened as a popup.
 Menu& ReachMenu(Stage& stage, std::string_view path);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// What the verbs of a script work on.
+// The context that a script's verbs work in.
 #pragma once
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-// The paragraph style in use by the names of its fields.
+// The fields of the current paragraph style by name.
 #include <array>
 #include <string>
 
@@ -27,7 +27,7 @@ constexpr std::array<StyleNumber, 8> kNumbers{{
     {"Alignment", &StyleRecord::Alignment},
 }};
 
-/// The field of that name, handed to one of the two.
+/// Passes the field of that name to one of the two functions, by its type.
 template <class OfNumber, class OfText>
 auto WithField(std::string_view name, OfNumber ofNumber, OfText ofText) {
   for (const StyleNumber& number : kNumbers)

@@ -1,4 +1,4 @@
-// What the user does to controls and menus.
+// User input on controls and menus.
 #include <array>
 #include <limits>
 
@@ -45,7 +45,7 @@ MouseEvent ReadMouseEvent(Arguments& arguments) {
   return event;
 }
 
-/// A control of one kind that the user can reach.
+/// A control of one kind that the user can operate.
 template <class Kind>
 Kind& ReachKind(Stage& stage, std::string_view path) {
   if (auto* control = dynamic_cast<Kind*>(&ReachControl(stage, path))) return *control;

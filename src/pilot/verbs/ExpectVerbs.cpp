@@ -1,4 +1,4 @@
-// What the script expects of the last line printed.
+// Expectations about the last line printed.
 #include "pilot/language/Arguments.h"
 #include "pilot/stage/Stage.h"
 #include "pilot/verbs/Verbs.h"

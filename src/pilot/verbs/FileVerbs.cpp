@@ -1,4 +1,4 @@
-// The files of the sandbox, as scripts lay them out and look at them.
+// Preparing and inspecting the sandbox's files.
 #include <optional>
 #include <string>
 

@@ -1,4 +1,4 @@
-// What the host program does: it writes the control's properties and opens the editor.
+// The host program's part: writing the control's properties and opening the editor.
 #include <array>
 #include <limits>
 

@@ -10,14 +10,14 @@ namespace lumenote {
 class Arguments;
 struct Stage;
 
-/// What a line prints; nothing for a verb that does not answer.
+/// The value that a line prints; empty for a verb without result.
 using Answer = std::optional<Value>;
 
-/// Reads all its arguments before it does anything. Raises `ScriptError` for what it cannot
-/// understand, `Refusal` for what cannot be done now, `RuntimeError` for what went wrong.
+/// Reads all arguments before acting. Raises `ScriptError` for an invalid line, `Refusal` for what
+/// cannot be done now, `RuntimeError` for failures of the component.
 using Verb = Answer (*)(Stage& stage, Arguments& arguments);
 
-/// Null when there is no such verb.
+/// Null if there is no such verb.
 Verb FindVerb(std::string_view name);
 
 namespace verbs {
@@ -30,7 +30,7 @@ Answer Show(Stage& stage, Arguments& arguments);
 Answer Get(Stage& stage, Arguments& arguments);
 Answer Set(Stage& stage, Arguments& arguments);
 
-// ActVerbs.cpp: what the user does to controls and menus
+// ActVerbs.cpp: user input on controls and menus
 Answer Click(Stage& stage, Arguments& arguments);
 Answer DoubleClick(Stage& stage, Arguments& arguments);
 Answer Open(Stage& stage, Arguments& arguments);

@@ -72,7 +72,7 @@ BoxAnswer ReadAnswer(Arguments& arguments) {
   throw ScriptError("Yes, No or OK expected");
 }
 
-/// One key of an object, when it is there; `read` raises where it is of another type.
+/// The value of a key, if the object has it; `read` raises for a wrong type.
 template <class Read>
 auto Optional(const Value& object, std::string_view key, Read read)
     -> std::optional<std::decay_t<decltype(read(object))>> {

@@ -1,4 +1,4 @@
-// Writing beside the target, flushing, renaming.
+// Writes beside the target, flushes, renames.
 #include "backends/posix/files/AtomicFile.h"
 
 #include <cerrno>
@@ -67,7 +67,7 @@ void AtomicFile::CommitAsNew() {
 
 void AtomicFile::Committed() {
   name_.clear();
-  SyncToDisk(FolderOf(target_));  // the rename has happened: a failure is nothing to report
+  SyncToDisk(FolderOf(target_));  // the rename is done: nothing useful to report
 }
 
 int RenameWithoutReplacing(const std::string& from, const std::string& to) {
@@ -75,7 +75,7 @@ int RenameWithoutReplacing(const std::string& from, const std::string& to) {
   if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
   if (errno != EINVAL && errno != ENOSYS) return errno;
 #endif
-  // Not every file system knows that rename: a second link is refused where something stands.
+  // Not every file system supports that rename; a hard link never replaces an existing file.
   if (link(from.c_str(), to.c_str()) != 0) return errno;
   if (unlink(from.c_str()) == 0) return 0;
   const int error = errno;

@@ -1,4 +1,4 @@
-// Replacing a file's content at once or not at all.
+// Replaces a file's content atomically.
 #pragma once
 #include <string>
 #include <string_view>
@@ -10,13 +10,13 @@
 
 namespace lumenote {
 
-/// A new file that stands beside its target under a name of its own until it is committed; one that
-/// never is, is removed, at the next save of the target if the program dies. All paths are native.
-/// Failures are run-time errors.
+/// A new file beside its target, under a name of its own until it is committed. An uncommitted file
+/// is removed at the end or, if the program dies, by the next save of the same target. All paths
+/// are native. Failures are run-time errors.
 class AtomicFile {
  public:
-  /// `mode` is the new file's, less the process's mask. A folder that refuses new files raises
-  /// PathAccess only when the file is written.
+  /// `mode` applies to the new file, less the umask. A folder that refuses new files raises
+  /// PathAccess only on `Write`.
   AtomicFile(std::string target, mode_t mode);
   AtomicFile(const AtomicFile&) = delete;
   AtomicFile& operator=(const AtomicFile&) = delete;
@@ -26,14 +26,14 @@ class AtomicFile {
 
   /// See `CopyAttributes`.
   bool TakeAttributes(const Descriptor& old) { return CopyAttributes(old, file_); }
-  /// Gives the new file the modification time of `old`; to be called after the last `Write`.
+  /// Sets the new file's modification time to that of `old`; call after the last `Write`.
   void TakeModificationTime(const struct stat& old);
   void Write(std::string_view bytes);
-  /// Brings the content to the disk and renames the file onto its target.
+  /// Flushes the content to the disk and renames the file to its target.
   void Commit();
-  /// The same, but returns false when the folder refuses the rename.
+  /// The same, but returns false if the folder refuses the rename.
   bool TryCommit();
-  /// The same, but an existing target is an error (PermissionDenied).
+  /// The same, but an existing target raises PermissionDenied.
   void CommitAsNew();
 
  private:
@@ -45,7 +45,7 @@ class AtomicFile {
   Descriptor file_;
 };
 
-/// Renames; returns 0 or an errno value, EEXIST when `to` exists.
+/// Returns 0 or an errno value, EEXIST if `to` exists.
 int RenameWithoutReplacing(const std::string& from, const std::string& to);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Names by target and number, locks, and what dead saves left.
+// Temporary names, locks, and removing what dead saves left.
 #include "backends/posix/files/BesideFile.h"
 
 #include <cerrno>
@@ -17,7 +17,7 @@
 namespace lumenote {
 namespace {
 
-/// Short enough for every file system whatever the length of the target's name.
+/// Short enough for every file system, however long the target's name is.
 std::string MarkOf(std::string_view name) {
   std::uint64_t hash = 14695981039346656037U;  // FNV-1a
   for (const char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
@@ -25,7 +25,7 @@ std::string MarkOf(std::string_view name) {
   return {digits, std::to_chars(std::begin(digits), std::end(digits), hash, 16).ptr};
 }
 
-/// The name that the `number`th of the saves of one target at a time writes under.
+/// The temporary name of the `number`th concurrent save of one target.
 std::string NameBeside(const std::filesystem::path& target, unsigned number) {
   const std::string name = ".lumenote-" + MarkOf(target.filename().string());
   return (target.parent_path() / (name + "-" + std::to_string(number))).string();
@@ -42,8 +42,8 @@ void RemoveIfDead(const std::string& name) {
   if (flock(file.Number(), LOCK_EX | LOCK_NB) == 0 && LeadsTo(name, file)) unlink(name.c_str());
 }
 
-/// Not open, with EEXIST, also when another save has taken the new file for a dead one before it
-/// was locked. Where a file system has no locks nothing is ever taken for dead.
+/// Fails with EEXIST, too, if another save took the new file for a dead one before it was locked.
+/// On a file system without locks no file is ever taken for dead.
 Descriptor CreateLocked(const std::string& name, mode_t mode) {
   Descriptor file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode));
   if (!file.IsOpen()) return file;

@@ -7,11 +7,10 @@
 
 namespace lumenote {
 
-/// Makes a new, locked file in the folder of `target` and tells its name; the mode is less the
-/// process's mask. Files of this kind that a dead save of the same target left behind are removed:
-/// the system lets go of the lock whatever way their owner ended, so no living save loses one.
-/// What is returned holds the lock; it is not open, with errno set, when no file can be made. All
-/// paths are native.
+/// Creates a new, locked file in the folder of `target` and sets its name; the mode is reduced by
+/// the umask. Removes such files that dead saves of the same target left behind; a lock tells them
+/// apart, since the system releases it however its owner ends. The result holds the lock; it is not
+/// open, with errno set, if no file can be created. All paths are native.
 Descriptor CreateBeside(const std::string& target, mode_t mode, std::string& name);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Descriptors: closing, reading to the end, writing all.
+// Closes descriptors, reads to the end, writes all.
 #include "backends/posix/files/Descriptor.h"
 
 #include <cerrno>
@@ -14,7 +14,7 @@
 namespace lumenote {
 namespace {
 
-/// A text of more units than a position counts cannot be edited, so it is not read either.
+/// More units than a position can count could not be edited, so larger files are not read.
 constexpr std::int64_t kLargestFile = std::numeric_limits<std::int32_t>::max();
 
 std::size_t SizeOfRegular(const Descriptor& file) {
@@ -31,7 +31,7 @@ Descriptor::~Descriptor() {
 }
 
 std::string ReadWholeFile(const std::string& path) {
-  // Without O_NONBLOCK a named pipe would wait for its writer before it can be refused.
+  // Without O_NONBLOCK opening a named pipe would wait for a writer before we could refuse it.
   const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
   if (!file.IsOpen()) throw AccessError(errno, path);
   std::string bytes(SizeOfRegular(file), '\0');
@@ -40,7 +40,7 @@ std::string ReadWholeFile(const std::string& path) {
     const ssize_t count = read(file.Number(), bytes.data() + filled, bytes.size() - filled);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) throw AccessError(errno, path);
-    if (count == 0) break;  // the file has become shorter meanwhile
+    if (count == 0) break;  // truncated meanwhile
     filled += static_cast<std::size_t>(count);
   }
   bytes.resize(filled);
@@ -57,7 +57,7 @@ bool LeadsTo(const std::string& path, const Descriptor& file) {
 int SyncToDisk(const std::string& path) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
   const bool done = file.IsOpen() && fsync(file.Number()) == 0;
-  return done || errno == EINVAL ? 0 : errno;  // not every file system has that for folders
+  return done || errno == EINVAL ? 0 : errno;  // not every file system can flush folders
 }
 
 int WriteAll(const Descriptor& file, std::string_view bytes) {

@@ -1,4 +1,4 @@
-// An open file of the system, and reading and writing it whole.
+// An open file descriptor; reading and writing whole files.
 #pragma once
 #include <string>
 #include <string_view>
@@ -22,13 +22,13 @@ class Descriptor {
   int number_;
 };
 
-/// Everything from the regular file at the native path; `path` may end in a symbolic link. Raises
-/// what `AccessError` says, PathAccess for what is no regular file.
+/// Reads the regular file at the native path, following symbolic links. Raises as `AccessError`
+/// says, and PathAccess for anything but a regular file.
 std::string ReadWholeFile(const std::string& path);
-/// Whether the native path itself, no link followed, is a name of the open file.
+/// Whether the native path itself, not followed if a link, names the open file.
 bool LeadsTo(const std::string& path, const Descriptor& file);
-/// Brings a file's content, or the entries of a folder, to the disk. Returns 0, or the errno value
-/// of what went wrong; so does `WriteAll`.
+/// Flushes a file's content, or a folder's entries, to the disk. Like `WriteAll` returns 0 or an
+/// errno value.
 int SyncToDisk(const std::string& path);
 int WriteAll(const Descriptor& file, std::string_view bytes);
 

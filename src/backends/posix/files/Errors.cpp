@@ -1,4 +1,4 @@
-// Which run-time error a system error is.
+// Maps system errors to run-time errors.
 #include "backends/posix/files/Errors.h"
 
 #include <cerrno>

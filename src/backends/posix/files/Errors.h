@@ -1,4 +1,4 @@
-// System error numbers as run-time errors.
+// System errors as run-time errors.
 #pragma once
 #include <string>
 
@@ -6,13 +6,13 @@
 
 namespace lumenote {
 
-/// The error for `error` (an errno value) met while reading or writing the file at `path`: a
-/// missing file and a missing folder are told apart by looking whether the folder is there.
+/// The error for an errno value met while reading or writing `path`. Checks whether the parent
+/// folder exists, to tell a missing file from a missing folder.
 RuntimeError AccessError(int error, const std::string& path);
-/// The same for removing or renaming: a refusal is PermissionDenied, not PathAccess.
+/// The same for deleting or renaming: a refusal is PermissionDenied, not PathAccess.
 RuntimeError RemovalError(int error, const std::string& path);
 
-/// Whether the system refuses an act for what it is, so that another way may go through.
+/// Whether the system refuses this operation as such, so that another way may succeed.
 bool IsRefusal(int error);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Copying attributes, and looking whether they have arrived.
+// Copies attributes and verifies the result.
 #include "backends/posix/files/FileAttributes.h"
 
 #include <cerrno>
@@ -18,7 +18,7 @@ using Attributes = std::map<std::string, std::string>;
 
 constexpr mode_t kPermissions = 07777;
 
-/// What a call gives that tells the size first; nothing when it fails.
+/// The result of a call that is first asked for the size; empty on failure.
 template <class Call>
 std::optional<std::string> BytesOf(Call call) {
   const ssize_t size = call(nullptr, 0);
@@ -30,7 +30,7 @@ std::optional<std::string> BytesOf(Call call) {
   return bytes;
 }
 
-/// None on a file system that has none; nothing when they cannot be read.
+/// No attributes on a file system without them; empty if they cannot be read.
 std::optional<Attributes> AttributesOf(int file) {
   const auto names =
       BytesOf([=](char* bytes, std::size_t size) { return flistxattr(file, bytes, size); });
@@ -72,7 +72,7 @@ bool HasMode(int file, mode_t mode) {
   return fstat(file, &info) == 0 && (info.st_mode & kPermissions) == mode;
 }
 
-/// Returns whether the file has the group at least.
+/// Returns whether the file got at least the group.
 bool TakeOwner(int file, const struct stat& old) {
   return HasOwner(file, old) || fchown(file, old.st_uid, old.st_gid) == 0 ||
          fchown(file, static_cast<uid_t>(-1), old.st_gid) == 0;

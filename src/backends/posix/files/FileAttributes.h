@@ -1,12 +1,12 @@
-// What a file has beside its content: owner, mode, access list, extended attributes.
+// A file's metadata: owner, mode, access list, extended attributes.
 #pragma once
 #include "backends/posix/files/Descriptor.h"
 
 namespace lumenote {
 
-/// Gives `to` the mode, owner, group and extended attributes of `from`, the access list among them,
-/// as far as the file system and the user's rights let it; a group that it cannot have gets no more
-/// than others. Returns whether `to` has all of them, and no others.
+/// Copies mode, owner, group and extended attributes, including the access list, as far as the file
+/// system and the user's rights allow; a group that cannot be set gets no more rights than others.
+/// Returns whether `to` has exactly the attributes of `from`.
 bool CopyAttributes(const Descriptor& from, const Descriptor& to);
 
 }  // namespace lumenote

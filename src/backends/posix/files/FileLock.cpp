@@ -1,4 +1,4 @@
-// Locking by an advisory lock on a file of its own.
+// Advisory locking of a dedicated file.
 #include "backends/posix/files/FileLock.h"
 
 #include <cerrno>
@@ -15,7 +15,8 @@ namespace lumenote {
 int AwaitLock(const Descriptor& file) {
   using std::chrono::milliseconds;
   constexpr milliseconds kPause(10);
-  // A holder writes one file; one that is stopped meanwhile must not stop this process too.
+  // A holder needs only the time to write one file; one that hangs must not block this process,
+  // too.
   for (milliseconds patience(5000); patience.count() > 0; patience -= kPause) {
     if (flock(file.Number(), LOCK_EX | LOCK_NB) == 0) return 0;
     if (errno != EWOULDBLOCK && errno != EINTR) return errno;

@@ -1,4 +1,4 @@
-// One process at a time.
+// Mutual exclusion between processes.
 #pragma once
 #include <string>
 
@@ -6,18 +6,18 @@
 
 namespace lumenote {
 
-/// Waits a few seconds for the lock on an open file, which goes when the file is closed. Returns 0,
-/// EWOULDBLOCK when another holds it all the time, or what keeps the file from being locked.
+/// Waits a few seconds for the lock on an open file; closing the file releases it. Returns 0,
+/// EWOULDBLOCK if another process keeps it, or another errno value if the file cannot be locked.
 int AwaitLock(const Descriptor& file);
 
-/// Holds the lock file at a native path, which stays when the lock is let go. Waits for another
-/// holder a few seconds, then raises PathAccess, as when the file cannot be made.
+/// Holds the lock file at a native path; the file stays when the lock is released. Waits a few
+/// seconds for another holder, then raises PathAccess, as it does if the file cannot be created.
 class FileLock {
  public:
   explicit FileLock(const std::string& path);
 
  private:
-  Descriptor file_;  // closing it lets the lock go
+  Descriptor file_;  // closing it releases the lock
 };
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Mapping between drive-letter paths and native ones.
+// Maps drive-letter paths to native paths and back.
 #include "backends/posix/folders/DrivePaths.h"
 
 #include <algorithm>
@@ -34,7 +34,7 @@ bool HasLoneSurrogate(std::u16string_view text) {
   return false;
 }
 
-/// What stands between the separators, without blank and "." components, ".." carried out.
+/// The components between separators, without empty and "." ones, with ".." resolved.
 std::vector<std::u16string_view> Components(std::u16string_view path) {
   std::vector<std::u16string_view> components;
   while (!path.empty()) {
@@ -50,8 +50,8 @@ std::vector<std::u16string_view> Components(std::u16string_view path) {
   return components;
 }
 
-/// Absolute, without "." and closing slash, so that the root folder is empty; links are looked at
-/// only to carry out a "..".
+/// Absolute, without "." and a trailing slash, so that the root folder is empty. Symbolic links are
+/// resolved only for a "..".
 std::string Cleaned(std::string_view native) {
   std::error_code error;
   fs::path path = fs::absolute(native, error);
@@ -67,7 +67,7 @@ bool IsInside(std::string_view path, std::string_view folder) {
   return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-/// `below`, a native path from a drive's root on, as the rest of a drive path.
+/// `below`, a native path relative to a drive's root, as the rest of a drive path.
 std::u16string Backslashed(std::string_view below) {
   std::u16string text = FromUtf8(below);
   std::replace(text.begin(), text.end(), u'/', u'\\');

@@ -1,4 +1,4 @@
-// The special folders of the user, and folders that a program chooses itself.
+// The user's special folders, and folders chosen by a program.
 #pragma once
 #include <functional>
 #include <memory>
@@ -12,12 +12,12 @@
 
 namespace lumenote {
 
-/// Temporary folders are made when they are first asked for, and again while there could be none.
-/// One that programs still work in when its control goes stays as long as this object, and for good
-/// if they outlive that too.
+/// Temporary folders are created on first use, and retried while that fails. If programs still work
+/// in one when its control is destroyed, it lives as long as this object, and permanently if they
+/// outlive that too.
 class PosixFolders : public Folders {
  public:
-  /// `inUse` says whether programs still work with files that they were given.
+  /// `inUse` tells whether programs still work with the files that they were given.
   explicit PosixFolders(
       DrivePaths drives, std::function<bool()> inUse = [] { return false; })
       : drives_(std::move(drives)), inUse_(std::move(inUse)) {}
@@ -34,10 +34,10 @@ class PosixFolders : public Folders {
 
   DrivePaths drives_;
   std::function<bool()> inUse_;
-  std::vector<std::unique_ptr<TemporaryFolder>> left_;  // of controls that are gone
+  std::vector<std::unique_ptr<TemporaryFolder>> left_;  // of destroyed controls
 };
 
-/// Folders that do not depend on who runs, for sandboxes.
+/// Fixed folders, for sandboxes.
 class FixedFolders : public Folders {
  public:
   /// Drive paths; `temp` ends in a backslash.

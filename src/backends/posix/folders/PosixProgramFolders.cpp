@@ -9,7 +9,7 @@
 namespace lumenote {
 namespace {
 
-/// Its address lies in the file that the component was loaded from.
+/// Its address identifies the file that the component was loaded from.
 const char kInside = 0;
 
 std::string OwnFile() {

@@ -1,4 +1,4 @@
-// Where programs stand on a POSIX system.
+// Where programs are installed on a POSIX system.
 #pragma once
 #include <string>
 #include <utility>
@@ -9,7 +9,7 @@
 namespace lumenote {
 
 /// Programs are links in the folder Program Files of drive C:. The component's folder is that of
-/// the library, or of the program that holds it.
+/// its library or, if linked statically, of the program.
 class PosixProgramFolders : public ProgramFolders {
  public:
   explicit PosixProgramFolders(DrivePaths drives) : drives_(std::move(drives)) {}
@@ -21,7 +21,7 @@ class PosixProgramFolders : public ProgramFolders {
   DrivePaths drives_;
 };
 
-/// Folders that do not depend on the machine, for sandboxes.
+/// Fixed folders, for sandboxes.
 class FixedProgramFolders : public ProgramFolders {
  public:
   std::u16string Programs() const override { return u"C:\\Program Files"; }

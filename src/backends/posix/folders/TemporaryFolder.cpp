@@ -1,4 +1,4 @@
-// Making and removing a private folder.
+// Creates and removes a private folder.
 #include "backends/posix/folders/TemporaryFolder.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ bool IsOwn(const Descriptor& file) {
   return fstat(file.Number(), &info) == 0 && info.st_uid == geteuid();
 }
 
-/// What tells our folders from one that the user gave such a name.
+/// Tells our folders from any other folder with such a name.
 bool PutMark(const std::string& folder) {
   const Descriptor mark(open((folder + "/" + TemporaryFolder::kMarkName).c_str(),
                              O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
@@ -38,7 +38,7 @@ bool PutMark(const std::string& folder) {
   return mark.IsOpen() && WriteAll(mark, kMark) == 0;
 }
 
-/// Not open where there is none, or one that is not ours.
+/// Not open if there is no mark, or the folder is not ours.
 Descriptor MarkIn(const std::string& path) {
   const Descriptor folder(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
   if (!folder.IsOpen() || !IsOwn(folder)) return Descriptor();
@@ -57,7 +57,7 @@ time_t LastWrite(const fs::path& path) {
   return lstat(path.c_str(), &info) == 0 ? info.st_mtim.tv_sec : std::numeric_limits<time_t>::max();
 }
 
-/// Of the folder and what lies in it at any depth; what cannot be looked into has just changed.
+/// Last change of the folder or anything in it, at any depth; now if something is inaccessible.
 time_t LastChange(const fs::path& folder) {
   std::error_code error;
   time_t last = LastWrite(folder);

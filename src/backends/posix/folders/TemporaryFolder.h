@@ -1,4 +1,4 @@
-// A private folder that lasts as long as its owner.
+// A private folder with the lifetime of its owner.
 #pragma once
 #include <optional>
 #include <string>
@@ -7,10 +7,10 @@
 
 namespace lumenote {
 
-/// A new folder in $TMPDIR, else /tmp, that only this user may enter; removed with all it holds at
-/// the end, unless it is kept. Kept folders, and those of a process that crashed, are removed when
-/// another one is made a week after the last change at any depth in them. A mark inside tells them
-/// from other folders: without it none is removed.
+/// A new folder in $TMPDIR, else /tmp, accessible to this user only; removed with its content at
+/// the end, unless kept. Kept folders, and those of crashed processes, are removed when another one
+/// is created a week after the last change at any depth in them. Only folders that contain our mark
+/// are ever removed.
 class TemporaryFolder {
  public:
   static constexpr const char* kMarkName = ".lumenote-temporary";
@@ -20,14 +20,14 @@ class TemporaryFolder {
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
   ~TemporaryFolder();
 
-  /// Native, absolute, without a closing slash; empty when no folder could be made.
+  /// Native, absolute, without a trailing slash; empty if the folder could not be created.
   const std::string& Path() const { return path_; }
-  /// Leaves the folder behind at the end, for a program that still works in it.
+  /// Leaves the folder behind, for a program that still works in it.
   void Keep() { keep_ = true; }
 
  private:
   std::string path_;
-  std::optional<Descriptor> lock_;  // tells the others that the folder has an owner
+  std::optional<Descriptor> lock_;  // shows other processes that the folder has an owner
   bool keep_ = false;
 };
 

@@ -1,4 +1,4 @@
-// Looking up the user's folders in the environment and in user-dirs.dirs.
+// Finds the user's folders in the environment and in user-dirs.dirs.
 #include "backends/posix/folders/UserFolders.h"
 
 #include <cstddef>
@@ -16,7 +16,7 @@
 namespace lumenote {
 namespace {
 
-/// A relative value is as good as none, by the base-directory rules.
+/// The base-directory rules ignore relative values.
 std::string AbsoluteVariable(const char* name) {
   const char* value = std::getenv(name);
   std::string folder = value && value[0] == '/' ? value : "";
@@ -35,7 +35,7 @@ bool IsFolder(const std::string& path) {
   return std::filesystem::is_directory(path, ignored);
 }
 
-/// The text up to a closing double quote, backslash escapes resolved.
+/// The text up to a closing double quote, with backslash escapes resolved.
 std::string Unquoted(std::string_view text) {
   std::string out;
   for (std::size_t i = 0; i < text.size() && text[i] != '"'; ++i) {
@@ -45,7 +45,7 @@ std::string Unquoted(std::string_view text) {
   return out;
 }
 
-/// `value` of user-dirs.dirs as a folder: absolute, or below the home folder; else empty.
+/// A value of user-dirs.dirs as a folder: absolute, or relative to the home folder; else empty.
 std::string Expanded(std::string value) {
   constexpr std::string_view kHome = "$HOME/";
   if (value.starts_with(kHome)) value.replace(0, kHome.size() - 1, HomeFolder());
@@ -53,7 +53,7 @@ std::string Expanded(std::string value) {
   return value.starts_with('/') ? value : std::string();
 }
 
-/// The folder that a line like XDG_DOCUMENTS_DIR="$HOME/Texte" names, if any.
+/// The folder set by a line like XDG_DOCUMENTS_DIR="$HOME/Texte", if any.
 std::string ConfiguredDocuments(const std::string& lines) {
   constexpr std::string_view kKey = "XDG_DOCUMENTS_DIR=\"";
   std::istringstream stream(lines);

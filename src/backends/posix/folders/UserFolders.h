@@ -1,10 +1,10 @@
-// The native folders that the desktop's base-directory rules give a user.
+// The user's native folders by the desktop's base-directory rules.
 #pragma once
 #include <string>
 
 namespace lumenote {
 
-/// Each is absolute and without a closing slash; empty when there is none.
+/// All are absolute, without a trailing slash, or empty if there is none.
 std::string HomeFolder();
 /// $XDG_DATA_HOME, else .local/share in the home folder.
 std::string DataFolder();
@@ -12,8 +12,8 @@ std::string DataFolder();
 std::string ConfigFolder();
 /// $XDG_STATE_HOME, else .local/state in the home folder.
 std::string StateFolderOfUser();
-/// The personal documents: as user-dirs.dirs in the configuration folder says, else Documents in
-/// the home folder, else the home folder; the first of them that there is.
+/// The personal documents: the folder set in user-dirs.dirs, else Documents in the home folder,
+/// else the home folder; the first one that exists.
 std::string DocumentsFolder();
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Starting, watching and ending programs.
+// Starts, watches and ends programs.
 #include "backends/posix/programs/PosixProcesses.h"
 
 #include <algorithm>
@@ -16,8 +16,8 @@
 namespace lumenote {
 namespace {
 
-/// Only a path on a drive begins so; and only the template switch begins with a slash, since native
-/// paths never stand on a command line here.
+/// Only a drive path begins like this; and only the template switch begins with a slash, since
+/// native paths never occur on these command lines.
 bool IsOnDrive(std::u16string_view word) { return word.substr(0, 3).ends_with(u":\\"); }
 bool IsTemplateSwitch(std::u16string_view word) { return word.starts_with(u"/l"); }
 
@@ -30,7 +30,7 @@ std::vector<std::string> NativeWords(const DrivePaths& drives,
   return native;
 }
 
-/// The name of the file that a program is given; empty without one.
+/// Name of the file argument; empty without one.
 std::string NameOfFile(const std::vector<std::u16string>& words) {
   const auto file = std::find_if(words.begin() + 1, words.end(), IsOnDrive);
   return file == words.end() ? std::string() : ToUtf8(FileName(*file));
@@ -40,7 +40,7 @@ SystemError ErrorOf(int number) {
   return {number, FromUtf8(std::generic_category().message(number))};
 }
 
-/// Returns the errno value of a failure, or 0.
+/// Returns 0 or an errno value.
 int Signal(const std::vector<pid_t>& processes) {
   int failure = 0;
   for (const pid_t process : processes)

@@ -1,4 +1,4 @@
-// Programs of a POSIX system, addressed by drive-letter paths.
+// Programs of a POSIX system, named by drive-letter paths.
 #pragma once
 #include <map>
 #include <string>
@@ -13,40 +13,40 @@
 
 namespace lumenote {
 
-/// Programs outlive this object; what it started is collected at every call, so that none stays
-/// behind as a zombie.
+/// Programs outlive this object. Each call reaps children that have ended, so that none stays a
+/// zombie.
 class PosixProcesses : public Processes {
  public:
-  /// `windows` outlives it; null where the desktop does not tell.
+  /// `windows` must outlive it; null if the desktop cannot tell about windows.
   explicit PosixProcesses(DrivePaths drives, ProgramWindows* windows = nullptr)
       : drives_(std::move(drives)), windows_(windows) {}
   PosixProcesses(const PosixProcesses&) = delete;
   PosixProcesses& operator=(const PosixProcesses&) = delete;
   ~PosixProcesses() override { Collect(); }
 
-  /// Drive-letter paths among the arguments become native ones, and a word processor's template
-  /// switch is left out: it means nothing to a program of this system.
+  /// Drive-letter paths among the arguments become native, and a word processor's template switch
+  /// is dropped: it means nothing to programs of this system.
   ProcessId Start(std::u16string_view commandLine) override;
   bool IsRunning(ProcessId process) override;
-  /// Through its windows a program that has some, which may ask its user first; any other with the
-  /// signal that it may heed in its own way.
+  /// Closes the windows of a program that has some, so that it can ask its user first; sends others
+  /// a signal that they can handle.
   std::optional<SystemError> Terminate(std::u16string_view path) override;
   std::optional<SystemError> StillRunning(std::u16string_view path) override;
 
-  /// Takes notice of what has ended meanwhile.
+  /// Reaps the children that have ended.
   void Collect();
-  /// Whether nothing that was started still runs, as far as noticed.
+  /// Whether no started program was still running at the last check.
   bool Idle() const { return started_.empty(); }
   /// Whether a program that was given a file still runs.
   bool HoldsFiles();
 
  private:
-  /// What runs of the program at `native`, by process group.
+  /// The running processes of the program at `native`, by process group.
   std::map<pid_t, std::vector<pid_t>> InstancesOf(const std::string& native) const;
 
   DrivePaths drives_;
   ProgramWindows* windows_;
-  std::vector<StartedProgram> started_;  // until nothing of them is left
+  std::vector<StartedProgram> started_;  // until all their processes have ended
   ProcessId last_ = 0;
 };
 

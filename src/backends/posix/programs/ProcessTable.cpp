@@ -1,4 +1,4 @@
-// Reading the process file system.
+// Reads the process file system.
 #include "backends/posix/programs/ProcessTable.h"
 
 #include <algorithm>
@@ -33,8 +33,8 @@ std::optional<pid_t> NumberOf(std::string_view name) {
   return number;
 }
 
-/// What the status line says behind the program's name, which may hold anything: state, parent,
-/// group. Nothing for a process that has ended.
+/// Parses the status line after the program's name (which may contain anything): state, parent,
+/// group. Empty for a process that has ended.
 std::optional<ProcessEntry> ReadEntry(pid_t process) {
   std::ifstream file(FolderOf(process) + "/stat");
   std::string line;

@@ -1,4 +1,4 @@
-// The windows of other programs, where the desktop tells of them.
+// Windows of other programs, where the desktop tells about them.
 #pragma once
 #include <string_view>
 #include <sys/types.h>
@@ -11,9 +11,9 @@ class ProgramWindows {
   virtual ~ProgramWindows() = default;
 
   /// Asks the windows of these processes to close, as their close boxes do, so that a program can
-  /// ask its user what to do with unsaved work. False when there is none to ask.
+  /// ask about unsaved work. False if there is none to ask.
   virtual bool AskToClose(const std::vector<pid_t>& processes) = 0;
-  /// Whether a window of another program bears `text`, UTF-8, in its title.
+  /// Whether the title of a window of another program contains `text` (UTF-8).
   virtual bool Show(std::string_view text) const = 0;
 };
 

@@ -1,4 +1,4 @@
-// Starting a process.
+// Starts a process.
 #pragma once
 #include <string>
 #include <sys/types.h>
@@ -6,9 +6,9 @@
 
 namespace lumenote {
 
-/// Starts the program whose native path is the first word, without a shell: in a process group of
-/// its own, which it leads, with the signals as they are by default, and nothing to read. Raises
-/// what `AccessError` says.
+/// Starts the program whose native path is the first word, without a shell, as leader of a process
+/// group of its own, with default signal handling and empty standard input. Raises as `AccessError`
+/// says.
 pid_t Spawn(std::vector<std::string> words);
 
 }  // namespace lumenote

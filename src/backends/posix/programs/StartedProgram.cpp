@@ -11,8 +11,8 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-// A program that hands over returns within the first time; the file's window comes within the
-// second one.
+// A program that passes its file on exits within the first time; the file's window appears within
+// the second.
 constexpr seconds kHandsOverWithin(10);
 constexpr seconds kShownWithin(2);
 constexpr milliseconds kBetweenLooks(250);

@@ -1,4 +1,4 @@
-// One program that was started, until nothing of it is left.
+// A started program, until all its processes have ended.
 #pragma once
 #include <chrono>
 #include <optional>
@@ -11,21 +11,21 @@
 
 namespace lumenote {
 
-/// A program leads a process group of its own and runs while any process of the group does, so that
-/// a launcher that returns has not ended. One that finds an instance of itself running hands its
-/// file over to that and returns as well; it goes on for as long as another program's window shows
-/// the file's name.
+/// A program leads a process group and runs while any process of the group does, so a launcher that
+/// exits has not ended. A program that passes its file to a running instance of itself exits as
+/// well; it counts as running while a window of another program shows the file's name.
 class StartedProgram {
  public:
-  /// `program` is the native path as it was started; `file`, the name of the file it was given,
-  /// may be empty. `leader` is a child of this process that nobody else waits for.
+  /// `program` is the native path it was started by; `file` is the name of its file argument, or
+  /// empty. `leader` is a child process that nobody else waits for.
   StartedProgram(ProcessId id, pid_t leader, std::string program, std::string file);
 
   ProcessId Id() const { return id_; }
   bool HasFile() const { return !file_.empty(); }
-  /// The group, for as long as its number cannot be anybody else's: while the leader runs.
+  /// The process group while its number cannot have been reused: as long as the leader is not
+  /// reaped.
   std::optional<pid_t> GroupOf(std::string_view program) const;
-  /// Looks anew, and collects the leader when it has ended. `windows` may be null.
+  /// Checks again, and reaps the leader if it has ended. `windows` may be null.
   bool IsRunning(const ProgramWindows* windows);
 
  private:
@@ -39,9 +39,9 @@ class StartedProgram {
   std::string program_;
   std::string file_;
   bool leaderEnded_ = false;
-  pid_t member_ = 0;  // a process of the group that ran when last looked at
+  pid_t member_ = 0;  // a process of the group that ran at the last check
   Clock::time_point start_ = Clock::now();
-  std::optional<Clock::time_point> end_;  // of the group
+  std::optional<Clock::time_point> end_;  // when the group ended
   Clock::time_point nextLook_ = start_;
   bool shown_ = false;
 };

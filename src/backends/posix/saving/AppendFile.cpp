@@ -1,4 +1,4 @@
-// One write at the end of the file, under a lock.
+// A single write at the end of the file, under a lock.
 #include "backends/posix/saving/AppendFile.h"
 
 #include <cerrno>
@@ -14,7 +14,7 @@
 namespace lumenote {
 namespace {
 
-/// What the last line of the `size` bytes lacks of its CR LF.
+/// What the last line lacks of its CR LF.
 std::string_view MissingEnd(const Descriptor& file, off_t size) {
   char last = '\n';
   if (size > 0 && pread(file.Number(), &last, 1, size - 1) != 1) return {};
@@ -34,7 +34,7 @@ void AppendLinesTo(const std::string& path, std::string_view lines, mode_t newMo
   const Descriptor file(open(path.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC, newMode));
   if (!file.IsOpen()) throw AccessError(errno, path);
   if (lines.empty()) return;
-  // Whoever writes at the end only needs no lock, but two might both end the last line.
+  // Appending alone would need no lock, but two writers might both end the last line.
   AwaitLock(file);
   const off_t size = lseek(file.Number(), 0, SEEK_END);
   const std::string bytes = std::string(MissingEnd(file, size)).append(lines);

@@ -1,4 +1,4 @@
-// Adding lines to a file that other programs add to as well.
+// Appends lines to a file that other programs append to as well.
 #pragma once
 #include <string>
 #include <string_view>
@@ -6,8 +6,8 @@
 
 namespace lumenote {
 
-/// See `Files::AppendLines`. The path is native, links are followed; a new file gets `newMode` less
-/// the process's mask.
+/// See `Files::AppendLines`. The path is native; links are followed. A new file gets `newMode` less
+/// the umask.
 void AppendLinesTo(const std::string& path, std::string_view lines, mode_t newMode);
 
 }  // namespace lumenote

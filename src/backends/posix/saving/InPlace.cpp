@@ -1,4 +1,4 @@
-// Backup, overwriting, putting back.
+// Backs up, overwrites, restores.
 #include "backends/posix/saving/InPlace.h"
 
 #include <cerrno>
@@ -19,14 +19,14 @@ int Resize(const Descriptor& file, std::size_t size) {
   return ftruncate(file.Number(), static_cast<off_t>(size)) == 0 ? 0 : errno;
 }
 
-/// A full disk is noticed before the old content is harmed, where the file system can tell.
+/// Detects a full disk before the old content is harmed, where the file system can tell.
 int Reserve(const Descriptor& file, std::size_t size) {
   const auto length = static_cast<off_t>(size);
   if (length == 0 || fallocate(file.Number(), FALLOC_FL_KEEP_SIZE, 0, length) == 0) return 0;
   return errno == EOPNOTSUPP || errno == ENOSYS || errno == EINTR ? 0 : errno;
 }
 
-/// 0, or the errno value of what went wrong.
+/// Returns 0 or an errno value.
 int Overwrite(const Descriptor& file, std::string_view bytes) {
   if (lseek(file.Number(), 0, SEEK_SET) != 0) return errno;
   if (const int error = WriteAll(file, bytes)) return error;
@@ -53,13 +53,13 @@ int OpenToWrite(const std::string& target) {
 
 void WriteInPlace(const std::string& target, std::string_view bytes, PosixStateFolder& backups) {
   const Descriptor file(OpenToWrite(target));
-  // Another save may have put a new file there while this one waited.
+  // Another save may have replaced the file while this one waited for the lock.
   if (AwaitLock(file) == EWOULDBLOCK || !LeadsTo(target, file))
     throw RuntimeError(ErrorNumber::PathAccess);
   const std::string old = ReadWholeFile(target);
   const std::unique_ptr<StateCopy> backup = BackUp(target, old, backups);
   if (const int error = Reserve(file, bytes.size())) {
-    Resize(file, old.size());  // gives back what was got of it
+    Resize(file, old.size());  // releases the reserved space
     throw AccessError(error, target);
   }
   const int error = Overwrite(file, bytes);

@@ -25,7 +25,7 @@ constexpr mode_t kPermissions = 0777;
 
 bool IsReadOnlyMode(const struct stat& info) { return (info.st_mode & S_IWUSR) == 0; }
 
-/// What is known of the regular file at `native`, links followed; a folder is no file.
+/// Status of the regular file at `native`, links followed; a folder is not a file.
 struct stat InfoOf(const std::string& native) {
   struct stat info = {};
   if (stat(native.c_str(), &info) != 0) throw AccessError(errno, native);
@@ -33,7 +33,7 @@ struct stat InfoOf(const std::string& native) {
   return info;
 }
 
-/// Times outside the 584 years that fit count as the first or last of them.
+/// Clamped to the 584 years that fit.
 FileTime InNanoseconds(const struct timespec& time) {
   constexpr FileTime kSecond = 1'000'000'000;
   constexpr FileTime kLast = std::numeric_limits<FileTime>::max() / kSecond - 1;

@@ -11,8 +11,7 @@ class PosixStateFolder;
 
 class PosixFiles : public Files {
  public:
-  /// `backups` outlives it; without one a file that cannot be replaced in one rename is not
-  /// written.
+  /// `backups` must outlive it; without it a file that a rename cannot replace is not written.
   explicit PosixFiles(DrivePaths drives, PosixStateFolder* backups = nullptr)
       : drives_(std::move(drives)), backups_(backups) {}
 
@@ -25,15 +24,15 @@ class PosixFiles : public Files {
 
   std::shared_ptr<void> LockFolder(std::u16string_view path) const override;
 
-  /// Writes through a symbolic link: the link stays, the file behind it is replaced. May be called
-  /// on any thread.
+  /// Writes through a symbolic link: the link stays, its target is replaced. Callable on any
+  /// thread.
   void Write(std::u16string_view path, std::string_view bytes) override;
   void WriteNew(std::u16string_view path, std::string_view bytes, Permissions permissions) override;
   void AppendLines(std::u16string_view path, std::string_view lines) override;
-  /// Removes a symbolic link itself.
+  /// Removes a symbolic link itself, not its target.
   void Delete(std::u16string_view path, bool force) override;
   void Copy(std::u16string_view from, std::u16string_view to) override;
-  /// Across file systems the file is copied, with mode, owner and time, then removed.
+  /// Across file systems copies the file, with mode, owner and time, then removes the original.
   void Move(std::u16string_view from, std::u16string_view to) override;
 
  private:

@@ -1,4 +1,4 @@
-// Choosing between a rename and writing in place.
+// Chooses between a rename and writing in place.
 #include "backends/posix/saving/ReplaceFile.h"
 
 #include <cerrno>
@@ -23,13 +23,13 @@ std::string TargetOf(const std::string& path) {
   return target;
 }
 
-/// What another name of the file shows must change with it.
+/// The file's other names must show the change, too.
 bool HasOtherNames(const Descriptor& file) {
   struct stat info = {};
   return fstat(file.Number(), &info) != 0 || info.st_nlink > 1;
 }
 
-/// False when that would lose something, or the folder refuses it; then nothing has changed.
+/// False, with nothing changed, if that would lose something or the folder refuses it.
 bool Replaced(const std::string& target, std::string_view bytes, Keep keep) {
   const Descriptor old(open(target.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
   if (keep == Keep::All && HasOtherNames(old)) return false;

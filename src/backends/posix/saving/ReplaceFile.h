@@ -1,4 +1,4 @@
-// Saving: a file's new content in the place of the old.
+// Saves new content over a file.
 #pragma once
 #include <string>
 #include <string_view>
@@ -8,22 +8,22 @@ namespace lumenote {
 
 class PosixStateFolder;
 
-/// `path`, or where the symbolic links it names lead to, whether anything stands there or not. All
-/// paths are native.
+/// The path that symbolic links at `path` lead to, whether or not it exists. All paths are native.
 std::string FollowLinks(const std::string& path);
 
-/// Whether a file may be put at `path`, links followed: true where nothing stands, false for what
-/// is no regular file, or one that its owner (whoever runs) or this user may not write.
+/// Whether a file may be written to `path`, links followed: true if nothing is there; false for
+/// anything but a regular file, and for one that its owner (even if another user runs this) or this
+/// user may not write.
 bool MayReplace(const std::string& path);
 
-/// Replaces the content of the file at `path` (the one behind it for a symbolic link) in one
-/// rename. What the old file had beside its content is kept as far as the user's rights let it; a
-/// new file gets `newMode` less the process's mask. Raises PathAccess where `MayReplace` says no.
+/// Replaces the content of the file at `path`, or of a link's target, in one rename. Metadata is
+/// kept as far as the user's rights allow; a new file gets `newMode` less the umask. Raises
+/// PathAccess where `MayReplace` returns false.
 void ReplaceFile(const std::string& path, std::string_view bytes, mode_t newMode);
 
-/// The same for what is the user's: nothing that the old file had is lost. Where one rename would
-/// lose some of it, or the folder refuses one, the file is written in place, see `WriteInPlace`;
-/// without `backups` that is PathAccess.
+/// The same for files of the user's: no metadata is ever lost. If a rename would lose some, or the
+/// folder refuses it, the file is written in place (`WriteInPlace`); without `backups` that raises
+/// PathAccess.
 void SaveFile(const std::string& path, std::string_view bytes, mode_t newMode,
               PosixStateFolder* backups);
 

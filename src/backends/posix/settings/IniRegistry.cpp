@@ -26,7 +26,7 @@ std::vector<std::string> RegistryFiles() {
   return files;
 }
 
-/// The content of a file with its section headers in small letters.
+/// The content of a file with its section headers in lower case.
 std::string WithSmallHeaders(const std::string& bytes) {
   std::istringstream lines(bytes);
   std::string out;

@@ -1,4 +1,4 @@
-// The machine-wide registry as files that an administrator or a user writes.
+// The machine-wide registry, in files written by an administrator or user.
 #pragma once
 #include <string>
 #include <utility>
@@ -8,12 +8,12 @@
 
 namespace lumenote {
 
-/// A key is the section [Machine/KEY] of a file in the form of the settings, its backslashes
-/// doubled; a default value has no name before its equals sign. Of several files the first that
-/// holds the value counts. Missing and unreadable files hold nothing.
+/// A key is the section [Machine/KEY] of a file in the settings' format, its backslashes doubled;
+/// the default value has an empty name. The first file that has the value wins. Missing and
+/// unreadable files are empty.
 class IniRegistry : public Registry {
  public:
-  /// lumenote/registry.ini in the user's configuration folder, then in those of the system.
+  /// lumenote/registry.ini in the user's configuration folder, then in the system's.
   IniRegistry();
   /// Native paths.
   explicit IniRegistry(std::vector<std::string> files) : files_(std::move(files)) {}

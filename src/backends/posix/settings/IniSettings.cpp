@@ -1,4 +1,4 @@
-// Reading and replacing the settings file.
+// Reads and replaces the settings file.
 #include "backends/posix/settings/IniSettings.h"
 
 #include <ctime>
@@ -21,7 +21,7 @@ std::string UserSettingsPath() {
   return folder.empty() ? folder : folder + "/lumenote/settings.ini";
 }
 
-/// The content of a file that may not be there.
+/// The content of a file, which may be missing.
 IniText Load(const std::string& path) {
   std::error_code ignored;
   return IniText(std::filesystem::exists(path, ignored) ? ReadWholeFile(path) : std::string());
@@ -45,7 +45,7 @@ void IniSettings::Refresh() const {
   if (current == known_) return;
   text_ = IniText();
   IgnoringErrors([&] { text_ = Load(path_); });
-  // A file that is only just written may change again within one tick of the file system's clock.
+  // A file written just now may change again within the resolution of the file system's clock.
   known_.reset();
   if (current.seconds + kSettled < std::time(nullptr)) known_ = current;
 }

@@ -9,14 +9,14 @@
 
 namespace lumenote {
 
-/// The file is replaced whole at every change, under a lock and after reading it again, so that
-/// writers in several processes keep each other's values. A missing or unreadable file reads as an
-/// empty one; it is never written over when it is there and cannot be read.
+/// Each change re-reads the file under a lock and replaces it whole, so that writers in several
+/// processes keep each other's values. A missing or unreadable file reads as empty; an unreadable
+/// one is never overwritten.
 class IniSettings : public Settings {
  public:
   /// The user's own file: lumenote/settings.ini in the configuration folder.
   IniSettings();
-  /// `path` is native; its folder is made when something is written.
+  /// `path` is native; its folder is created on the first write.
   explicit IniSettings(std::string path);
 
   std::optional<std::u16string> Read(std::u16string_view application, std::u16string_view section,
@@ -25,7 +25,7 @@ class IniSettings : public Settings {
              std::u16string_view value) override;
 
  private:
-  /// What changes when the file does.
+  /// Changes whenever the file does.
   struct Version {
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
@@ -41,7 +41,7 @@ class IniSettings : public Settings {
              std::u16string_view value) const;
 
   std::string path_;
-  mutable std::optional<Version> known_;  // nothing: to be read again
+  mutable std::optional<Version> known_;  // empty: must be read again
   mutable IniText text_;                  // the file's content at version `known_`
 };
 

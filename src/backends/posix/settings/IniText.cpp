@@ -1,4 +1,4 @@
-// Reading, escaping and changing the lines of a settings file.
+// Parses, escapes and edits the lines of a settings file.
 #include "backends/posix/settings/IniText.h"
 
 #include <algorithm>
@@ -40,7 +40,7 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-/// The name or value written as `text`; nothing when it is not UTF-8 or holds an unknown escape.
+/// Decodes a name or value; empty if it is not UTF-8 or has an unknown escape.
 std::optional<std::u16string> Unescaped(std::string_view text) {
   text = Trimmed(text);
   if (!IsUtf8(text)) return std::nullopt;
@@ -58,7 +58,7 @@ std::optional<std::u16string> Unescaped(std::string_view text) {
   }
 }
 
-/// The two names or the name and value on both sides of the only, or the first, `separator`.
+/// The text before and after the only, or the first, `separator`.
 std::optional<std::pair<std::u16string, std::u16string>> Halves(std::string_view text,
                                                                 char separator) {
   const std::size_t middle = text.find(separator);

@@ -1,4 +1,4 @@
-// The text of a settings file, read and changed line by line.
+// The text of a settings file, parsed and edited line by line.
 #pragma once
 #include <cstddef>
 #include <optional>
@@ -9,11 +9,11 @@
 
 namespace lumenote {
 
-/// Lines `[application/section]` and `key=value` in UTF-8, blanks around names and values of no
-/// account. A character with a meaning here, a control character, a lone surrogate and a blank at
-/// an edge are written \uXXXX, a backslash doubled, so that any name and any value survive. All
-/// other lines, comments after # or ; among them, are kept as they are and mean nothing; so do the
-/// lines under a header that cannot be read. Of two equal keys the later counts.
+/// Lines `[application/section]` and `key=value` in UTF-8; spaces around names and values are
+/// ignored. Special characters, control characters, unpaired surrogates and a leading or trailing
+/// space are written \uXXXX, a backslash is doubled; so any name and value can be stored. All other
+/// lines, such as comments after # or ;, are ignored but preserved; so are lines under an invalid
+/// header. The last of duplicate keys wins.
 class IniText {
  public:
   explicit IniText(std::string_view bytes = {});
@@ -29,7 +29,7 @@ class IniText {
 
   struct Line {
     std::string text;
-    std::optional<std::size_t> section = std::nullopt;  // into `sections_`: the one it belongs to
+    std::optional<std::size_t> section = std::nullopt;  // index into `sections_` of its section
     std::optional<std::u16string> key = std::nullopt;   // of a `key=value` line
     std::u16string value = {};
   };
@@ -38,10 +38,10 @@ class IniText {
   std::size_t SectionNumber(const SectionName& name);
   std::optional<std::size_t> FindLine(std::u16string_view application, std::u16string_view section,
                                       std::u16string_view key) const;
-  /// Where a new line of this section goes; the section is begun at the end when it has no line.
+  /// Where to insert a new line of this section; appends the section if it has no line.
   std::vector<Line>::iterator EndOf(std::size_t section);
 
-  std::vector<SectionName> sections_;  // each name once
+  std::vector<SectionName> sections_;  // unique
   std::vector<Line> lines_;
 };
 

@@ -1,4 +1,4 @@
-// Making, taking over and removing the folder of an owner.
+// Creates, takes over and removes an owner's folder.
 #include "backends/posix/state/OwnerFolder.h"
 
 #include <cstdio>
@@ -38,7 +38,7 @@ int OpenMark(const std::string& folder) {
 
 }  // namespace
 
-// Whoever looks for dead owners goes by the name, which the folder gets when it is locked.
+// Searches for dead owners go by name, so the folder gets its name only once it is locked.
 OwnerFolder::OwnerFolder(const std::string& parent)
     : path_(MakeUnlocked(parent)), mark_(MakeMark(path_)) {
   TakeLock();
@@ -70,18 +70,18 @@ std::vector<std::unique_ptr<OwnerFolder>> OwnerFolder::TakeDead(const std::strin
     const std::string path = entry->path().string();
     if (!entry->path().filename().string().starts_with(kOwned)) continue;
     std::unique_ptr<OwnerFolder> folder(new OwnerFolder(path, OpenMark(path)));
-    // An owner that came to its end meanwhile has removed the mark that is locked here.
+    // An owner that has ended normally meanwhile has removed the mark that we locked.
     if (folder->TakeLock() && folder->Stands()) dead.push_back(std::move(folder));
   }
   return dead;
 }
 
-// Who was refused the lock leaves all as it is.
+// Without the lock, leave everything untouched.
 OwnerFolder::~OwnerFolder() {
   try {
     if (TakeLock()) RemoveIfEmpty();
   } catch (const std::exception&) {
-    // It stays, and goes when another owner takes it over.
+    // The folder stays until another owner takes it over.
   }
 }
 

@@ -1,4 +1,4 @@
-// A sub-folder that has a living owner, or had one.
+// A sub-folder with a living or dead owner.
 #pragma once
 #include <memory>
 #include <string>
@@ -8,22 +8,22 @@
 
 namespace lumenote {
 
-/// Holds a folder by a lock on the mark file in it: the system lets go of the lock when the owner
-/// dies, whatever other process has its number then. At the end the folder is removed if nothing
-/// but the mark is left in it. All paths are native.
+/// Owns a folder by a lock on its mark file: the system releases the lock when the owner dies, even
+/// if another process then gets its number. At the end the folder is removed if only the mark is
+/// left in it. All paths are native.
 class OwnerFolder {
  public:
-  /// A new one in `parent`, which only this user may enter. Raises PathAccess.
+  /// Creates a folder in `parent`, accessible to this user only. Raises PathAccess.
   explicit OwnerFolder(const std::string& parent);
   OwnerFolder(const OwnerFolder&) = delete;
   OwnerFolder& operator=(const OwnerFolder&) = delete;
   ~OwnerFolder();
 
-  /// Those in `parent` whose owners are dead; who gets one is its owner now.
+  /// Takes over the folders in `parent` whose owners are dead.
   static std::vector<std::unique_ptr<OwnerFolder>> TakeDead(const std::string& parent);
 
   const std::string& Path() const { return path_; }
-  /// Whether nobody has removed the folder meanwhile.
+  /// Whether the folder still exists.
   bool Stands() const;
 
  private:

@@ -1,4 +1,4 @@
-// Where copies, and what is kept for good, lie in the state folder.
+// The layout of the state folder.
 #include "backends/posix/state/PosixStateFolder.h"
 
 #include <cerrno>
@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* kForGood = "/rescue";
 
-/// Makes the folder for this user alone, and those above it that are missing.
+/// Creates the folder, private to this user, and its missing parents.
 void MakePrivate(const std::string& path) {
   std::error_code ignored;
   std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
@@ -45,7 +45,7 @@ std::unique_ptr<StateCopy> PosixStateFolder::MakeStateCopy() {
 }
 
 void PosixStateFolder::ClaimOrphans(const std::function<bool(const OrphanedCopy&)>& rescue) {
-  // A copy of the backend's own tells a native path.
+  // Copies made by this backend itself have a native path as origin.
   const auto translated = [&](const OrphanedCopy& copy) {
     OrphanedCopy shown = copy;
     if (copy.origin.starts_with(u'/'))

@@ -1,4 +1,4 @@
-// The state folder of a user, or of a sandbox.
+// The state folder of a user or of a sandbox.
 #pragma once
 #include <atomic>
 #include <memory>
@@ -12,26 +12,26 @@
 
 namespace lumenote {
 
-/// Holds a sub-folder for each living object of this class, and the folder "rescue" for what is
-/// kept for good.
+/// Has a sub-folder for each living object of this class, and the folder "rescue" for permanent
+/// copies.
 class PosixStateFolder final : public StateFolder {
  public:
-  /// `path` is native; empty when the user has no folder for this, then everything raises
-  /// PathAccess. `drives` name the files that the user is told of, where they can.
+  /// `path` is native. If it is empty, since the user has no state folder, everything raises
+  /// PathAccess. `drives` translates native paths for display, where possible.
   PosixStateFolder(std::string path, DrivePaths drives)
       : path_(std::move(path)), drives_(std::move(drives)) {}
 
-  /// `lumenote` in the user's own folder for state.
+  /// `lumenote` in the user's state folder.
   static std::string OfUser();
 
   std::unique_ptr<NoteCopy> MakeCopy() override { return MakeStateCopy(); }
-  /// The same for code of this backend.
+  /// The same with the backend's own type.
   std::unique_ptr<StateCopy> MakeStateCopy();
   void ClaimOrphans(const std::function<bool(const OrphanedCopy&)>& rescue) override;
   std::u16string KeepForGood(std::u16string_view name, std::string_view bytes) override;
 
  private:
-  /// The sub-folder of this object, made when there is none.
+  /// This object's sub-folder, created if missing.
   std::string Own();
 
   std::string path_;

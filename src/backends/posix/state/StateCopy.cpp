@@ -1,4 +1,4 @@
-// Writing a copy beside the one before, and what is found of a dead owner.
+// Writes copies, and finds those of a dead owner.
 #include "backends/posix/state/StateCopy.h"
 
 #include <cerrno>
@@ -36,7 +36,7 @@ void RemoveAll(const std::string& base) {
   for (const char* kind : {kUnfinished, kContent, kOrigin}) unlink((base + kind).c_str());
 }
 
-/// The copies in the folder, finished or not, each by the name of its files without their ends.
+/// The copies in the folder, finished or not, by their file names without extension.
 std::set<std::string> BasesIn(const std::string& folder) {
   std::set<std::string> bases;
   std::error_code error;
@@ -50,7 +50,7 @@ std::set<std::string> BasesIn(const std::string& folder) {
   return bases;
 }
 
-/// Empty when there is none that can be read.
+/// Empty if it cannot be read.
 std::optional<OrphanedCopy> Read(const std::string& base) {
   OrphanedCopy copy;
   IgnoringErrors([&] { copy.origin = FromUtf8(ReadWholeFile(base + kOrigin)); });
@@ -64,7 +64,7 @@ StateCopy::~StateCopy() {
   try {
     if (!leave_) Remove();
   } catch (const std::exception&) {
-    // One that stays by mistake is told of at the next start; that is better than one that is lost.
+    // A copy left by mistake is reported at the next start, which is better than losing one.
   }
 }
 

@@ -1,4 +1,4 @@
-// A copy of a note in the folder of its owner.
+// A copy of a note in its owner's folder.
 #pragma once
 #include <functional>
 #include <optional>
@@ -9,13 +9,12 @@
 
 namespace lumenote {
 
-/// NUMBER.note holds the content and NUMBER.origin says what it is a copy of; NUMBER.new is one
-/// that is being written. `Commit` leaves it to the system when the bytes reach the disk, so the
-/// copy outlives the program but not a power cut in the next seconds; `CommitToDisk` waits for
-/// them.
+/// NUMBER.note holds the content, NUMBER.origin the path it is a copy of, and NUMBER.new the copy
+/// being written. `Commit` does not wait for the disk: the copy survives the program, but not a
+/// power cut in the next seconds. `CommitToDisk` waits.
 class StateCopy final : public NoteCopy {
  public:
-  /// `folder` gives the native path of the owner's folder, made when it is missing, or raises.
+  /// `folder` returns the native path of the owner's folder, creating it if missing, or raises.
   StateCopy(std::function<std::string()> folder, unsigned number)
       : folder_(std::move(folder)), number_(number) {}
   StateCopy(const StateCopy&) = delete;
@@ -33,7 +32,7 @@ class StateCopy final : public NoteCopy {
   /// Native path of the content.
   std::string Path() const { return base_ + ".note"; }
 
-  /// The copies in a folder of a dead owner; see `StateFolder::ClaimOrphans`.
+  /// Passes on the copies in a dead owner's folder; see `StateFolder::ClaimOrphans`.
   static void HandOver(const std::string& folder,
                        const std::function<bool(const OrphanedCopy&)>& rescue);
 
@@ -43,8 +42,8 @@ class StateCopy final : public NoteCopy {
 
   std::function<std::string()> folder_;
   unsigned number_;
-  std::string base_;    // of the files' names, once there is one
-  std::string origin_;  // as it is told in the folder
+  std::string base_;    // of the file names, once there is a copy
+  std::string origin_;  // as stored in the folder
   std::optional<Descriptor> file_;
   bool leave_ = false;
 };

@@ -10,7 +10,7 @@ namespace lumenote {
 
 namespace {
 
-/// A click counts on the whole of the control, not on the mark and the caption alone.
+/// Makes the whole control clickable, not just indicator and caption.
 template <class Native>
 class WholeArea : public Native {
  public:
@@ -22,11 +22,11 @@ class WholeArea : public Native {
 
 QPushButton* MakePushButton(QWidget& parent) {
   auto* button = new QPushButton(&parent);
-  button->setAutoDefault(true);  // Return clicks it while it has the keyboard
+  button->setAutoDefault(true);  // Return clicks it while it has the focus
   return button;
 }
 
-// The form's option buttons keep each other in step.
+// The form's option buttons handle exclusivity themselves.
 QRadioButton* MakeRadioButton(QWidget& parent) {
   auto* button = new WholeArea<QRadioButton>(&parent);
   button->setAutoExclusive(false);

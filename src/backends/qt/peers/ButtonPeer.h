@@ -1,4 +1,4 @@
-// Push buttons, check boxes and option buttons on screen.
+// Peers of push buttons, check boxes and option buttons.
 #pragma once
 #include <QAbstractButton>
 
@@ -9,7 +9,8 @@
 
 namespace lumenote {
 
-/// A native button with a caption; the user's click goes to the control, whose state it shows.
+/// A native button with a caption. The user's click goes to the control, whose state the button
+/// shows.
 class ButtonPeer : public ControlPeer {
  public:
   ButtonPeer(Button& button, QWidget& parent, LayouterSource&);
@@ -19,7 +20,7 @@ class ButtonPeer : public ControlPeer {
 
  protected:
   ButtonPeer(CaptionedControl& control, QAbstractButton* widget);
-  /// Whether the button is to be shown ticked or chosen.
+  /// Whether to show the button as checked.
   virtual bool IsChecked() const { return false; }
 
  private:

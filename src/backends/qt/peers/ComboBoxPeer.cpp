@@ -14,7 +14,7 @@ namespace lumenote {
 
 namespace {
 
-/// The keys that the toolkit would step through a closed list with.
+/// Keys that Qt would step through a closed list with.
 bool IsStep(const QKeyEvent& key, bool editable) {
   switch (key.key()) {
     case Qt::Key_Up:
@@ -40,7 +40,7 @@ ComboBoxWidget::ComboBoxWidget(ComboBox& combo, QWidget* parent)
   if (isEditable()) KeepTextApart();
 }
 
-// The toolkit takes a text that is finished, be it that of an entry, for a choice.
+// By default Qt takes finished text, or text equal to an entry, for a choice.
 void ComboBoxWidget::KeepTextApart() {
   setCompleter(nullptr);
   disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);

@@ -1,4 +1,4 @@
-// Drop-down lists on screen.
+// The peer of drop-down lists.
 #pragma once
 #include <QComboBox>
 
@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-/// Tells before its list drops down. `activated` comes for a choice from the open list alone: keys
-/// open the list first, and neither the wheel, nor leaving the box, nor Return chooses.
+/// Signals before its list opens. `activated` is emitted only for a choice from the open list: keys
+/// open the list first, and neither the wheel nor leaving the box nor Return chooses.
 class ComboBoxWidget : public QComboBox {
  public:
   ComboBoxWidget(ComboBox& combo, QWidget* parent);

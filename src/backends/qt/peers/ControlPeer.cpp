@@ -16,7 +16,7 @@ constexpr float kTwipsPerPoint = 20;
 ControlPeer::ControlPeer(Control& control, QWidget& widget) : control_(control), widget_(&widget) {
   widget.installEventFilter(this);
   widget.setMouseTracking(true);
-  widget.setAttribute(Qt::WA_NoMousePropagation);  // what happens over it is not the window's
+  widget.setAttribute(Qt::WA_NoMousePropagation);  // events over the control are not the window's
 }
 
 ControlPeer::~ControlPeer() {
@@ -55,7 +55,7 @@ bool ControlPeer::eventFilter(QObject*, QEvent* event) {
   return false;
 }
 
-// Any event may close the window, and take the peer with it.
+// Any event may close the window and destroy the peer.
 void ControlPeer::PassMouse(const QMouseEvent& mouse) {
   const QPointer<ControlPeer> self = this;
   const QPointF at = mouse.position();

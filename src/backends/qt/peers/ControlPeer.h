@@ -1,4 +1,4 @@
-// The widget of one control.
+// The base of peers: the widget of one control.
 #pragma once
 #include <QMouseEvent>
 #include <QPointer>
@@ -11,8 +11,8 @@
 
 namespace lumenote {
 
-/// What all controls have; each kind derives from it and adds its own. The widget belongs to the
-/// widget it stands on and may outlive the peer, which then no longer listens to it.
+/// Common to all controls; each kind has a derived class. The parent widget owns the widget, which
+/// may outlive the peer; the peer then no longer receives its events.
 class ControlPeer : public QObject {
  public:
   ControlPeer(Control& control, QWidget& widget);
@@ -20,19 +20,20 @@ class ControlPeer : public QObject {
 
   Control& Shown() const { return control_; }
   QWidget& Widget() const { return *widget_; }
-  /// Whether the window places it at its lower edge.
+  /// Whether the window docks it at its lower edge.
   virtual bool IsDocked() const { return false; }
 
-  /// Takes on the state that has changed.
+  /// Copies the changed state from the control.
   virtual void Update(Property property);
   virtual void Compare(DifferenceList& differences) const;
 
   bool eventFilter(QObject* object, QEvent* event) override;
 
  protected:
-  /// Whether a press and release of the left button is a click; native buttons tell by themselves.
+  /// Whether pressing and releasing the left button is a click; native buttons report clicks
+  /// themselves.
   virtual bool ClicksByMouse() const { return false; }
-  /// Whether mouse events reach the control as they come to the widget.
+  /// Whether the widget's mouse events are forwarded to the control.
   virtual bool PassesMouse() const { return true; }
 
  private:
@@ -51,7 +52,8 @@ class LayouterSource {
   virtual QtLayouter& LayouterOf(const Control& box) = 0;
 };
 
-/// The peer for a control of any kind, its widget a child of `parent`, all of its state taken on.
+/// Creates the peer for any kind of control, its widget a child of `parent`, in the control's
+/// state.
 std::unique_ptr<ControlPeer> MakeControlPeer(Control& control, QWidget& parent,
                                              LayouterSource& layouters);
 

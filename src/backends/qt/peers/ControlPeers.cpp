@@ -1,4 +1,4 @@
-// Which peer each kind of control gets: a kind is one line here and a class of its own.
+// Maps each kind of control to its peer: one line here per kind, and a class of its own.
 #include <stdexcept>
 
 #include "backends/qt/peers/ButtonPeer.h"

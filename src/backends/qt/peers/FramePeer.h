@@ -1,11 +1,11 @@
-// Frames on screen.
+// The peer of frames.
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
 #include "forms/controls/Frame.h"
 
 namespace lumenote {
 
-/// An etched line with the title in its upper side; the ground behind it shows through.
+/// An etched border with the title in its top edge, transparent to the background.
 class FrameWidget : public QWidget {
  public:
   using QWidget::QWidget;

@@ -1,12 +1,12 @@
-// Labels on screen.
+// The peer of labels.
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
 #include "forms/controls/Label.h"
 
 namespace lumenote {
 
-/// Text from the upper left corner, wrapped; the mnemonic's ampersand is not shown. The text hides
-/// a frame's line behind it.
+/// Wrapped text from the upper left corner, without the mnemonic's ampersand. The text covers a
+/// frame's border behind it.
 class LabelWidget : public QWidget {
  public:
   using QWidget::QWidget;

@@ -1,4 +1,4 @@
-// Sunken areas on screen.
+// The peer of sunken containers.
 #pragma once
 #include <QFrame>
 

@@ -1,4 +1,4 @@
-// Rich-text boxes on screen.
+// The peer of rich-text boxes.
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
 #include "backends/qt/view/RichTextView.h"
@@ -14,7 +14,7 @@ class RichTextPeer final : public ControlPeer {
   void Compare(DifferenceList& differences) const override;
 
  protected:
-  bool PassesMouse() const override { return false; }  // the view does, by its viewport
+  bool PassesMouse() const override { return false; }  // the view forwards those of its viewport
 
  private:
   RichTextPeer(RichTextBox& box, RichTextView* view);

@@ -1,4 +1,4 @@
-// Scroll bars on screen.
+// The peer of scroll bars.
 #pragma once
 #include <QScrollBar>
 

@@ -1,4 +1,4 @@
-// Status bars on screen.
+// The peer of status bars.
 #pragma once
 #include <QStringList>
 
@@ -7,7 +7,7 @@
 
 namespace lumenote {
 
-/// Sunken panels side by side, each as wide as its text.
+/// Sunken panels in a row, each as wide as its text.
 class StatusBarWidget : public QWidget {
  public:
   using QWidget::QWidget;

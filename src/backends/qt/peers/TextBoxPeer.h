@@ -1,4 +1,4 @@
-// Boxes for one line of text on screen.
+// The peer of one-line edit boxes.
 #pragma once
 #include <QLineEdit>
 

@@ -1,4 +1,4 @@
-// Pairs of small arrows on screen.
+// The peer of spinners.
 #pragma once
 #include <QToolButton>
 
@@ -7,7 +7,7 @@
 
 namespace lumenote {
 
-/// Two buttons, one above the other, which repeat while they are held down.
+/// Two auto-repeating buttons, one above the other.
 class UpDownWidget : public QWidget {
  public:
   explicit UpDownWidget(QWidget* parent);

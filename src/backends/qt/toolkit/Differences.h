@@ -1,4 +1,4 @@
-// Where widgets differ from the form that they show; for tests.
+// Collects where widgets differ from the form they show; for tests.
 #pragma once
 #include <string>
 #include <vector>
@@ -9,7 +9,7 @@ namespace lumenote {
 
 class DifferenceList {
  public:
-  /// Notes the member if it is not as it should be.
+  /// Records the member unless it is `same`.
   void Check(const Element& element, const char* member, bool same) {
     if (!same) lines_.push_back(element.Name() + "." + member);
   }

@@ -15,7 +15,7 @@ struct NamedKey {
   char16_t text = 0;
 };
 
-/// The first entry of a name is the one that is pressed for it.
+/// The first entry of a name is the key to press for it.
 constexpr NamedKey kNamedKeys[] = {
     {KeyName::Left, Qt::Key_Left},
     {KeyName::Right, Qt::Key_Right},

@@ -1,4 +1,4 @@
-// Keys of the toolkit and of the surface.
+// Converts between Qt's keys and the surface's.
 #pragma once
 #include <QKeyEvent>
 #include <optional>
@@ -7,13 +7,13 @@
 
 namespace lumenote {
 
-/// Empty for a key that the surface has no name for, a lone modifier above all.
+/// Empty for a key that the surface has no name for, such as a lone modifier.
 std::optional<KeyStroke> StrokeOf(const QKeyEvent& event);
-/// The event that pressing (or releasing) the key brings.
+/// The event of pressing (releasing) the key.
 QKeyEvent EventOf(const KeyStroke& key, QEvent::Type type);
-/// What the key types by itself; empty for a command.
+/// The text that the key types; empty for a command.
 QString TypedText(const QKeyEvent& event);
-/// Whether an editor uses such a key, so that no shortcut of the host should take it.
+/// Whether an editor uses such a key, so that no host shortcut should take it.
 bool IsEditingKey(const KeyStroke& key);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// What text boxes and combo boxes do with their line of text.
+// Helpers of text boxes and combo boxes for their line edits.
 #pragma once
 #include <QLineEdit>
 #include <string_view>
@@ -8,13 +8,13 @@
 
 namespace lumenote {
 
-/// The selection; an empty one stands at the caret.
+/// The selection; an empty one is at the caret.
 inline Selection SelectedIn(const QLineEdit& line) {
   if (!line.hasSelectedText()) return {line.cursorPosition(), line.cursorPosition()};
   return {line.selectionStart(), line.selectionEnd()};
 }
 
-/// Another text puts the caret at its end; the same one leaves it where it is.
+/// Changing the text puts the caret at its end; an equal text leaves it alone.
 inline void ShowText(QLineEdit& line, std::u16string_view text) {
   const QString wanted = ToQString(text);
   if (line.text() != wanted) line.setText(wanted);

@@ -32,7 +32,7 @@ std::optional<std::u16string> TextOf(const QMimeData& data) {
     text = QTextDocumentFragment::fromHtml(data.html()).toPlainText();
   else
     return std::nullopt;
-  // Some programs send the NUL that ends their text; any other one is part of it.
+  // Some programs include a terminating NUL; other NULs belong to the text.
   while (text.endsWith(QChar(u'\0'))) text.chop(1);
   return WithCrLf(FromQString(text));
 }

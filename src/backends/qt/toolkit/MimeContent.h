@@ -1,4 +1,4 @@
-// Text and RTF as programs hand them to each other on the desktop.
+// Text and RTF as desktop programs exchange them.
 #pragma once
 #include <QMimeData>
 #include <memory>
@@ -7,11 +7,11 @@
 
 namespace lumenote {
 
-/// RTF first; any line end becomes CR LF; HTML alone gives its plain text.
+/// Prefers RTF. Line ends become CR LF; HTML alone yields its plain text.
 ClipboardContent ReadMime(const QMimeData& data);
-/// Whether `ReadMime` would give anything.
+/// Whether `ReadMime` would return anything.
 bool HasMimeContent(const QMimeData& data);
-/// RTF under each of its names; the text with line feeds.
+/// RTF under each of its type names, and the text with LF line ends.
 std::unique_ptr<QMimeData> WriteMime(const ClipboardContent& content);
 
 }  // namespace lumenote

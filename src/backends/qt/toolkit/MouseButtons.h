@@ -1,4 +1,4 @@
-// Mouse buttons of the toolkit and of the forms.
+// Converts between Qt's mouse buttons and the forms'.
 #pragma once
 #include <Qt>
 #include <QtGlobal>

@@ -1,4 +1,4 @@
-// Which widget or action shows an element of a window.
+// Maps elements to the widgets or actions that show them.
 #pragma once
 #include <QObject>
 #include <unordered_map>
@@ -7,13 +7,13 @@ namespace lumenote {
 
 class Element;
 
-/// Filled and emptied by the peers; owns nothing.
+/// Maintained by the peers; owns nothing.
 class WidgetRegistry {
  public:
   void Add(const Element& element, QObject& object) { objects_[&element] = &object; }
   void Remove(const Element& element) { objects_.erase(&element); }
 
-  /// Null when the element is not shown, or not by a `Kind`.
+  /// Null if the element is not shown, or not by a `Kind`.
   template <class Kind>
   Kind* Find(const Element& element) const {
     const auto found = objects_.find(&element);

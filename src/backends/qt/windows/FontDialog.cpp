@@ -42,7 +42,7 @@ std::int32_t ToBgr(const QColor& colour) {
   return colour.blue() << 16 | colour.green() << 8 | colour.red();
 }
 
-/// The toolkit's dialog with a button for the colour.
+/// Qt's font dialog with a colour button.
 class ColouredFontDialog : public QFontDialog {
  public:
   ColouredFontDialog(const FontChoice& shown, QWidget* over)
@@ -55,7 +55,7 @@ class ColouredFontDialog : public QFontDialog {
     connect(button, &QPushButton::clicked, this, [this] { ChooseColour(); });
   }
 
-  /// Empty while the user has chosen none.
+  /// Empty until the user chooses one.
   std::optional<std::int32_t> Colour() const { return chosen_; }
 
  private:
@@ -72,7 +72,7 @@ class ColouredFontDialog : public QFontDialog {
 
 }  // namespace
 
-// The dialog may be destroyed with its window while it is up.
+// The parent window may destroy the dialog while it is open.
 std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, QWidget* over) {
   const QPointer<ColouredFontDialog> dialog = new ColouredFontDialog(shown, over);
   const bool accepted = dialog->exec() == QDialog::Accepted && dialog;

@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-/// Blocks until the user has chosen; empty when cancelled. Only what was changed is answered, so
-/// that the rest of a mixed selection keeps its differences. `over` may be null.
+/// Blocks until the user has chosen; empty if cancelled. Returns only what was changed, so that the
+/// rest of a mixed selection stays mixed. `over` may be null.
 std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, QWidget* over);
 
 }  // namespace lumenote

@@ -54,7 +54,8 @@ void FormWindow::ShowGeometry() {
   PlaceParts();
 }
 
-// The kind is settled before the native window exists; later only the on-top state may change.
+// The kind of window is fixed before the native window exists; later only the on-top state may
+// change.
 void FormWindow::ChooseKind() {
   const bool dialog = form_->OwnerWindow() || form_->IsModal();
   Qt::WindowFlags flags = dialog ? Qt::Dialog : Qt::Window;
@@ -73,7 +74,7 @@ void FormWindow::ShowVisible(QWidget* owner) {
   show();
 }
 
-/// The window of the host's own, which may be of another toolkit; null for none.
+/// The host's native window, possibly of another toolkit; null for none.
 QWindow* FormWindow::HostWindow() {
   const auto number = static_cast<WId>(form_->HostWindow());
   if (number == 0) return nullptr;
@@ -83,7 +84,7 @@ QWindow* FormWindow::HostWindow() {
 }
 
 void FormWindow::ShowOnTop() {
-  if (!windowHandle()) return;  // `ChooseKind` sees to it
+  if (!windowHandle()) return;  // done by `ChooseKind` then
   windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form_->OnTop());
   overrideWindowFlags(windowFlags().setFlag(Qt::WindowStaysOnTopHint, form_->OnTop()));
 }
@@ -132,8 +133,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   event->setAccepted(form_ && key && form_->UserKey(*key));
 }
 
-// The form decides; when it has unloaded its window is closed, which the end of the program and
-// of the session wait for.
+// The form decides. Once it has unloaded, the window must be closed, since the ends of the program
+// and of the session wait for that.
 void FormWindow::closeEvent(QCloseEvent* event) {
   if (form_) form_->UserClose();
   if (form_) listener_.Refused(*form_);

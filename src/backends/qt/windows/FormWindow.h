@@ -1,4 +1,4 @@
-// The native window of a form: menu bar, content, status bar, and what the user does to the window.
+// The native window of a form: menu bar, content, status bar, and window events.
 #pragma once
 #include <QMenuBar>
 #include <QWidget>
@@ -11,19 +11,18 @@
 
 namespace lumenote {
 
-/// Told which window the desktop has made the active one, and which the user works in.
+/// Notified when the desktop activates a window and when the user works in one.
 class ActivationListener {
  public:
   virtual ~ActivationListener() = default;
   virtual void NativelyActive(Form& form) = 0;
-  /// A button or key is about to go down in the window.
+  /// A button or key is about to be pressed in the window.
   virtual void Used(Form& form) = 0;
   /// The window was asked to close, and the form stays.
   virtual void Refused(Form& form) = 0;
 };
 
-/// Does nothing any more after `Detach`, since the form may be gone while the widget's own events
-/// are still running.
+/// Inert after `Detach`: the form may be destroyed while the widget's own events are still running.
 class FormWindow : public QWidget {
  public:
   FormWindow(Form& form, ActivationListener& listener);
@@ -31,21 +30,21 @@ class FormWindow : public QWidget {
   void Detach() { form_ = nullptr; }
 
   QMenuBar& Bar() { return *bar_; }
-  /// What the form's controls stand on; its corner is the form's inner corner.
+  /// The parent widget of the form's controls; its corner is the form's client corner.
   QWidget& Content() { return *content_; }
-  /// The widget at the lower edge; null for none.
+  /// The widget docked at the lower edge; null for none.
   void Docked(QWidget* widget);
 
   void ShowCaption();
   void ShowGeometry();
-  /// Shows or hides the window, over `owner` if there is one.
+  /// Shows or hides the window, above `owner` if there is one.
   void ShowVisible(QWidget* owner);
   void ShowOnTop();
   void ShowBackColor();
-  /// The menu bar has come or gone.
+  /// Re-layouts after the menu bar was shown or hidden.
   void PlaceParts();
 
-  /// As if the user had dragged the border to this outer size, in twips.
+  /// Resizes as if the user had dragged the border to this outer size, in twips.
   void DragTo(float width, float height);
 
   QColor Ground() const { return content_->palette().color(QPalette::Window); }
@@ -69,7 +68,7 @@ class FormWindow : public QWidget {
   QWidget* content_;
   QWidget* docked_ = nullptr;
   WindowGeometry geometry_;
-  std::unique_ptr<QWindow> hostWindow_;  // one that is no widget of this program
+  std::unique_ptr<QWindow> hostWindow_;  // one that is not a widget of this program
 };
 
 }  // namespace lumenote

@@ -1,11 +1,11 @@
-// The look of the low menu bar: the desktop's style with less room around the captions.
+// A low menu bar: the desktop's style with less padding.
 #pragma once
 #include <QProxyStyle>
 
 namespace lumenote {
 
-/// A menu bar of 20 pixels has no room for what styles put around its items, and the blanks in the
-/// captions are all the room between them that the design wants.
+/// A menu bar of 20 pixels has no room for a style's padding around items; the spaces in the
+/// captions are the only separation that the design wants.
 class MenuBarStyle : public QProxyStyle {
  public:
   MenuBarStyle();

@@ -44,7 +44,7 @@ QAction* MenuTree::Add(Menu& menu) {
 QAction* MenuTree::MakeAction(Menu& menu) {
   if (menu.Entries().empty()) {
     auto* action = new QAction(&window_);
-    // The toolkit toggles the mark by itself, where the form alone decides.
+    // Undoes Qt's own toggling of the check mark, which only the form may change.
     QObject::connect(action, &QAction::triggered, listener_.get(), [this, &menu] {
       Update(menu);
       menu.UserClick();

@@ -1,4 +1,4 @@
-// The menus of a form, in its menu bar and popped up.
+// The menus of a form, in its menu bar and as popups.
 #pragma once
 #include <QAction>
 #include <QMenu>
@@ -14,13 +14,13 @@ namespace lumenote {
 
 class MenuTree {
  public:
-  /// The actions belong to `window`, which may outlive the tree; they do nothing then.
+  /// `window` owns the actions; they may outlive the tree and are inert then.
   MenuTree(const std::vector<Menu*>& menus, QMenuBar& bar, QWidget& window,
            WidgetRegistry& registry);
   ~MenuTree();
 
   void Update(const Menu& menu);
-  /// Shows the menu at a point of the screen until it closes; the tree may be gone then.
+  /// Shows the menu at a screen position until it closes; the tree may be destroyed meanwhile.
   void PopUp(Menu& menu, QPoint at);
   void Compare(DifferenceList& differences) const;
 
@@ -31,8 +31,8 @@ class MenuTree {
   QWidget& window_;
   WidgetRegistry& registry_;
   std::unordered_map<const Menu*, QAction*> actions_;
-  std::unique_ptr<QObject> listener_;  // with it every connection goes
-  const Menu* poppedUp_ = nullptr;     // its opening event has run already
+  std::unique_ptr<QObject> listener_;  // its destruction breaks every connection
+  const Menu* poppedUp_ = nullptr;     // its opening event has been raised already
 };
 
 }  // namespace lumenote

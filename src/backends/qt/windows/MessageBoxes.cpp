@@ -39,7 +39,7 @@ QString TitleOf(const MessageBox& box) {
   return application.isEmpty() ? QStringLiteral("Lumenote") : application;
 }
 
-/// Gives the keyboard back to the window that asked when it had it itself.
+/// Returns the focus to the asking window if that had it.
 class NativeBox : public QMessageBox {
  public:
   NativeBox(const MessageBox& box, QWidget* over)
@@ -53,7 +53,7 @@ class NativeBox : public QMessageBox {
   }
 
   bool SaysYes() const { return clickedButton() && clickedButton() == yes_; }
-  /// Neither a way out of the program nor one of the toolkit's loops ends the wait.
+  /// Only an answer ends the wait, not an event that quits the program or one of Qt's loops.
   static void Await(const QPointer<NativeBox>& box) {
     box->show();
     QEventLoop loop;
@@ -85,12 +85,11 @@ class NativeBox : public QMessageBox {
     setDefaultButton(yes_);
   }
 
-  QPushButton* yes_ = nullptr;  // of a question
+  QPushButton* yes_ = nullptr;  // of a Yes/No question
   QPointer<QWidget> over_;
 };
 
-/// A question that is up keeps the program from ending; who asked for the end while it was is heard
-/// again when it has been answered.
+/// A question delays the end of the program: repeats a request to quit once it is answered.
 class EndWatch : public QObject {
  public:
   EndWatch() { QCoreApplication::instance()->installEventFilter(this); }
@@ -109,7 +108,7 @@ class EndWatch : public QObject {
 
 }  // namespace
 
-// The box may be destroyed with its window while it is up.
+// The parent window may destroy the box while it is open.
 Answer ShowMessageBox(const MessageBox& box, QWidget* over) {
   const bool question = box.buttons == MessageBox::Buttons::YesNo;
   const auto watch = question ? std::make_unique<EndWatch>() : nullptr;

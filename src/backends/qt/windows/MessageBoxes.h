@@ -1,4 +1,4 @@
-// The forms' message boxes on the desktop.
+// The forms' message boxes as Qt message boxes.
 #pragma once
 #include <QWidget>
 
@@ -6,9 +6,9 @@
 
 namespace lumenote {
 
-/// Blocks until the user has answered. Escape and the close box say OK where that is all there is
-/// to say; they do not answer a question. The box belongs to `over`, which may be null and has the
-/// keyboard again afterwards.
+/// Blocks until the user has answered. Escape and the close box mean OK if that is the only button,
+/// but do not answer a question. The parent `over`, which may be null, has the focus again
+/// afterwards.
 MessageBox::Answer ShowMessageBox(const MessageBox& box, QWidget* over);
 
 }  // namespace lumenote

@@ -32,7 +32,7 @@ QtFormPeer::~QtFormPeer() {
   window_->deleteLater();
 }
 
-// A box over a window that goes would lock the next one.
+// A box above a closing window would lock the next window.
 void QtFormPeer::EndDialogs() {
   for (QDialog* dialog : window_->findChildren<QDialog*>()) dialog->hide();
 }
@@ -87,7 +87,7 @@ void QtFormPeer::UpdateForm(Property property) {
   if (property == Property::BackColor) window_->ShowBackColor();
 }
 
-// A modal window without an owner stays over the window it came up from.
+// A modal window without an owner stays above the window it was opened from.
 QWidget* QtFormPeer::OwnerWindow() const {
   const Form* owner = form_.OwnerWindow();
   if (!owner && form_.IsModal()) owner = form_.Windows().Active();
@@ -99,7 +99,7 @@ void QtFormPeer::Focus(Control& control) { controls_.at(&control)->Widget().setF
 void QtFormPeer::Activate() {
   services_.Activating(form_);
   window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
-  if (QGuiApplication::platformName() != u"offscreen") window_->raise();  // it would only complain
+  if (QGuiApplication::platformName() != u"offscreen") window_->raise();  // it only warns
   window_->activateWindow();
 }
 

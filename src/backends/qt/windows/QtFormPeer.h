@@ -11,17 +11,17 @@
 
 namespace lumenote {
 
-/// What peers share, longer-lived than each of them.
+/// Services that peers share; must outlive each of them.
 class PeerServices : public LayouterSource, public ActivationListener {
  public:
   virtual WidgetRegistry& Widgets() = 0;
-  /// The window has been told to become the active one.
+  /// The window was asked to become active.
   virtual void Activating(Form& form) = 0;
   virtual void Gone(Form& form) = 0;
 };
 
-/// Builds widgets from the form's parts, whatever window it is. Widgets outlive the peer as long as
-/// their own events run.
+/// Builds the widgets of any form from its elements. Widgets outlive the peer while their own
+/// events run.
 class QtFormPeer final : public FormPeer {
  public:
   QtFormPeer(Form& form, PeerServices& services);

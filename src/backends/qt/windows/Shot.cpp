@@ -9,7 +9,7 @@ namespace lumenote {
 bool SaveWindowShot(const WidgetRegistry& widgets, const Element& form, const QString& path) {
   auto* window = widgets.Find<QWidget>(form);
   if (!window) return false;
-  QCoreApplication::sendPostedEvents();  // scroll bars come and go in their own time
+  QCoreApplication::sendPostedEvents();  // lets scroll bars appear and disappear
   return window->grab().save(path, "PNG");
 }
 

@@ -1,4 +1,4 @@
-// Pictures of windows.
+// Screenshots of windows.
 #pragma once
 #include <QString>
 
@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// Draws the form's window, as it is now, into a PNG file; false when it cannot be written.
+/// Renders the form's window to a PNG file; false if that cannot be written.
 bool SaveWindowShot(const WidgetRegistry& widgets, const Element& form, const QString& path);
 
 }  // namespace lumenote

@@ -27,7 +27,7 @@ void WindowGeometry::Asked(const Rect& place) {
   settling_.setRemainingTime(kSettlingTime);
 }
 
-// Screens of a fractional scale round to pixels of their own.
+// Screens with a fractional scale round to device pixels.
 std::optional<Rect> WindowGeometry::Resized(QSize client, const Rect& place) {
   const QSize off = client - asked_;
   const QSize grown = client - settledSize_;

@@ -1,4 +1,4 @@
-// What a native window's size and place say about its form's.
+// Translates a native window's geometry back to its form's.
 #pragma once
 #include <QDeadlineTimer>
 #include <QPoint>
@@ -9,22 +9,21 @@
 
 namespace lumenote {
 
-/// The form's geometry is asked for in whole pixels and may settle elsewhere: on some other pixel,
-/// or where the window manager wants it. Only what differs from where it settled is the user's
-/// doing, and only that difference goes back to the form, so that opening and closing a window
-/// leaves its twips as they were.
+/// A form's geometry is requested in whole pixels and may settle elsewhere: on another pixel, or
+/// where the window manager wants it. Only differences from the settled geometry are the user's
+/// doing and go back to the form, so opening and closing a window leaves its twips unchanged.
 class WindowGeometry {
  public:
-  /// Bounded to what a desktop can show; the form's own size is not.
+  /// Limited to what a desktop can show; the form's own size is not.
   static QSize ClientSize(const Rect& place);
   static QPoint Corner(const Rect& place);
 
-  /// The form's place is being asked for; for a moment the window may go where it likes.
+  /// The form's bounds were requested; for a moment the window may settle anywhere.
   void Asked(const Rect& place);
-  /// Where the window was last asked to go; empty before.
+  /// The position last requested; empty at first.
   std::optional<QPoint> AskedCorner() const { return askedCorner_; }
 
-  /// The client area has this size now; tells the form's new place if that is the user's doing.
+  /// The client area has this size now. Returns the form's new bounds if that is the user's doing.
   std::optional<Rect> Resized(QSize client, const Rect& place);
   std::optional<Rect> Moved(QPoint corner, const Rect& place);
 

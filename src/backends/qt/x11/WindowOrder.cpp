@@ -15,7 +15,7 @@ bool Says(const X11Server& server, xcb_window_t window, const char* property, co
   return wanted != XCB_ATOM_NONE && std::ranges::find(values, wanted) != values.end();
 }
 
-/// Window managers unmap what is minimised or on another desktop, or say that it is hidden.
+/// Window managers unmap minimised windows and those of other desktops, or mark them hidden.
 bool IsInSight(const X11Server& server, xcb_window_t window) {
   return server.IsViewable(window) &&
          !Says(server, window, "_NET_WM_STATE", "_NET_WM_STATE_HIDDEN");

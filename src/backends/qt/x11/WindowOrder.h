@@ -1,12 +1,12 @@
-// The order of the desktop's windows.
+// The stacking order of the desktop's windows.
 #pragma once
 #include <QWidget>
 #include <optional>
 
 namespace lumenote {
 
-/// Whether no other window in sight stands above this one, the desktop's panels aside, as an X11
-/// window manager tells; empty where nobody does.
+/// Whether no other visible window is above this one, apart from the desktop's panels, according to
+/// an X11 window manager; empty without one.
 std::optional<bool> IsTopmostOnDesktop(const QWidget& window);
 
 }  // namespace lumenote

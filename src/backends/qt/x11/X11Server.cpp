@@ -25,7 +25,7 @@ ReplyOwner<xcb_get_property_reply_t> PropertyOf(xcb_connection_t* server, xcb_wi
 
 }  // namespace
 
-// Windows that are only drawn into memory have a connection as well, but no place among the others.
+// The offscreen platform has a connection as well, but no stacking order.
 X11Server::X11Server() {
   if (QGuiApplication::platformName() != u"xcb") return;
   const auto* desktop = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();

@@ -1,4 +1,4 @@
-// Questions to the X server, beside what the toolkit asks.
+// Requests to the X server that Qt does not offer.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -8,23 +8,23 @@
 
 namespace lumenote {
 
-/// A view of the connection that the toolkit holds, valid as long as the application object.
-/// Windows of others may vanish at any time: what is asked of them is then empty.
+/// Uses Qt's connection, which lives as long as the application object. Windows of other programs
+/// may vanish at any time; requests about them then return nothing.
 class X11Server {
  public:
-  /// Without a connection where windows are not X11's.
+  /// Without a connection on other platforms than X11.
   X11Server();
 
   bool IsConnected() const { return connection_ != nullptr; }
   xcb_window_t Root() const;
   xcb_atom_t AtomOf(std::string_view name) const;
-  /// A property that is a list of windows, atoms or numbers; empty when it is not set.
+  /// A property that is a list of windows, atoms or numbers; empty if unset.
   std::vector<std::uint32_t> ListOf(xcb_window_t window, std::string_view property) const;
-  /// A property that is a text, as it is coded; empty when it is not set.
+  /// A text property in its own encoding; empty if unset.
   std::string TextOf(xcb_window_t window, std::string_view property) const;
-  /// Whether it and all that it stands in are mapped.
+  /// Whether it and all its ancestors are mapped.
   bool IsViewable(xcb_window_t window) const;
-  /// Sends a window the protocol message that its close box sends.
+  /// Sends the protocol message of a close box.
   void SendDelete(xcb_window_t window) const;
 
  private:

@@ -16,7 +16,7 @@ std::vector<xcb_window_t> Listed(const X11Server& server) {
   return server.ListOf(server.Root(), "_NET_CLIENT_LIST");
 }
 
-/// The process that a window belongs to, 0 when it does not tell or runs on another machine.
+/// The process that owns a window; 0 if unknown or on another machine.
 pid_t ProcessOf(const X11Server& server, xcb_window_t window) {
   if (server.TextOf(window, "WM_CLIENT_MACHINE") != QSysInfo::machineHostName().toStdString())
     return 0;

@@ -4,11 +4,11 @@
 
 namespace lumenote {
 
-/// Knows the windows that the window manager lists, and of those the ones that tell their process,
-/// on this machine. Knows none where the desktop is not X11's.
+/// Knows the windows that the window manager lists and that name a process on this machine; none on
+/// other platforms than X11.
 class X11Windows final : public ProgramWindows {
  public:
-  /// Only windows that can be asked, by the protocol for it; none is ever closed by force.
+  /// Only windows that support the protocol are asked; none is closed by force.
   bool AskToClose(const std::vector<pid_t>& processes) override;
   bool Show(std::string_view text) const override;
 };
