@@ -32,7 +32,7 @@ struct Desk {
     for (int i = 0; i < kEdits; ++i) Insert(static_cast<Position>(random() % length), u'x');
   }
   void TypeInTheMiddle() {
-    const Position middle = document.Before(document.Length() / 2);
+    const Position middle = document.SnapBackward(document.Length() / 2);
     for (Position i = 0; i < kEdits; ++i) Insert(middle + i, u"abcde "[i % 6]);
   }
   void ReplaceAll() {

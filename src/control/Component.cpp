@@ -10,7 +10,7 @@ Component::Component(Platform& platform)
       editor([this] { return MakeEditor(); }) {}
 
 std::unique_ptr<Co_Rtf> Component::MakeEditor() {
-  auto window = std::make_unique<Co_Rtf>(windows, session, *temp, workLeft);
+  auto window = std::make_unique<Co_Rtf>(windows, session, *temp, outstandingWork);
   window->HostWindow(hostWindow);
   window->Unloaded = [this] {
     session->closed = true;       // one that was abandoned has not said so

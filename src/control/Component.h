@@ -1,4 +1,4 @@
-// What stands behind one control: its session, its windows.
+// The implementation of a control: its session and its windows.
 #pragma once
 #include <cstdint>
 #include <functional>
@@ -17,21 +17,21 @@ namespace lumenote {
 
 class Platform;
 
-/// Outlives the control while an event of its editor has not returned yet.
+/// May outlive the control, until events of its editor have returned.
 struct Component {
   explicit Component(Platform& platform);
 
-  /// Where the control was made, and where it has to be used.
+  /// The thread that created the control, the only one that may use it.
   const std::thread::id thread = std::this_thread::get_id();
-  /// Of the open editor, else of the next one. An editor that has closed keeps its own, so that
-  /// what still returns there reaches neither the host's note nor the next editor.
+  /// That of the open editor, else of the next one. A closed editor keeps its own, so that late
+  /// returns reach neither the host's note nor the next editor.
   std::shared_ptr<Session> session = std::make_shared<Session>();
   std::unique_ptr<TempFolder> temp;
-  /// Work files that editors which have closed have left to programs.
-  std::vector<WorkSent> workLeft;
+  /// Work files that closed editors have left to programs.
+  std::vector<SentWorkFile> outstandingWork;
   WindowList windows;
   Instance<Co_Rtf> editor;
-  /// The host's own, called when an editor has closed; empty for none.
+  /// The host's handler, called when an editor has closed; empty for none.
   std::function<void()> closed;
   std::uintptr_t hostWindow = 0;  // which editors stay above; 0 for none
 

@@ -32,7 +32,7 @@ char16_t Document::At(Position position) const {
 }
 
 std::u16string Document::Text(Position from, Position to) const {
-  const Selection range = Outwards(from, to);
+  const Selection range = SnapOutward(from, to);
   std::u16string text;
   text.reserve(static_cast<std::size_t>(range.Length()));
   leaves_.ForEachLeaf(range.start, range.end,
@@ -55,7 +55,7 @@ ParaId Document::ParaFormatAt(Position position) const {
 }
 
 Fragment Document::Copy(Position from, Position to) const {
-  const Selection range = Outwards(from, to);
+  const Selection range = SnapOutward(from, to);
   return {leaves_.Slice(range.start, range.end), std::nullopt};
 }
 
@@ -65,17 +65,17 @@ Fragment Document::Replace(Selection range, Fragment fragment) {
   return removed;
 }
 
-Position Document::Before(Position position) const {
+Position Document::SnapBackward(Position position) const {
   position = std::clamp(position, 0, Length());
   return InsidePair(position) ? position - 1 : position;
 }
 
-Position Document::After(Position position) const {
+Position Document::SnapForward(Position position) const {
   position = std::clamp(position, 0, Length());
   return InsidePair(position) ? position + 1 : position;
 }
 
-Selection Document::Outwards(Position from, Position to) const {
+Selection Document::SnapOutward(Position from, Position to) const {
   from = std::clamp(from, 0, Length());
   to = std::clamp(to, from, Length());
   if (to > from && At(to - 1) == u'\r') ++to;

@@ -50,14 +50,14 @@ class Document {
   /// format between `from` and `to`, in order; a piece never crosses a leaf.
   template <class Visit>
   void ForEachRun(Position from, Position to, Visit visit) const {
-    const Selection range = Outwards(from, to);
+    const Selection range = SnapOutward(from, to);
     leaves_.ForEachRun(range.start, range.end, visit);
   }
   /// Calls `visit(ParaId)` for each paragraph that `from`..`to` touches, in order: the one that
   /// holds `from` and each one that begins before `to`.
   template <class Visit>
   void ForEachParagraph(Position from, Position to, Visit visit) const {
-    const Selection range = Outwards(from, to);
+    const Selection range = SnapOutward(from, to);
     const Position last = ParagraphOf(range.Length() == 0 ? range.end : range.end - 1);
     const Position first = ParagraphOf(range.start);
     leaves_.ForEachMark(first, std::min(last + 1, leaves_.Breaks()), visit);
@@ -70,9 +70,9 @@ class Document {
   /// carries a final mark replaces the document's, and the result then carries the old one. Raises
   /// Overflow, with the document unchanged, when the whole became longer than a position can tell.
   Fragment Replace(Position from, Position to, Fragment fragment) {
-    return Replace(Outwards(from, to), std::move(fragment));
+    return Replace(SnapOutward(from, to), std::move(fragment));
   }
-  /// The same for a range that `Outwards` gave, which is taken as it is.
+  /// The same for a range that `SnapOutward` gave, which is taken as it is.
   Fragment Replace(Selection range, Fragment fragment);
 
   using CharMap = std::function<CharId(CharId)>;
@@ -85,10 +85,10 @@ class Document {
                                      const ParaMap& paragraphs, bool withMark = false) const;
 
   /// A position moved out of a CR LF or surrogate pair: backwards, or forwards on request.
-  Position Before(Position position) const;
-  Position After(Position position) const;
+  Position SnapBackward(Position position) const;
+  Position SnapForward(Position position) const;
   /// The range that an edit of `from`..`to` concerns: clipped, its edges outside every CR LF.
-  Selection Outwards(Position from, Position to) const;
+  Selection SnapOutward(Position from, Position to) const;
 
  private:
   bool InsidePair(Position position) const;

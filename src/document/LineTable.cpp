@@ -8,24 +8,24 @@ namespace {
 
 constexpr char16_t kLineBreak = u'\v';
 // A word broken over more lines than this is not laid out again from its start.
-constexpr int kMostCutLines = 16;
+constexpr int kMaxCutLines = 16;
 // The first piece laid out after an edit; each further one is twice as long.
 constexpr Position kFirstPiece = LineTable::kPiece / 16;
 
 }  // namespace
 
-LineRun::LineRun(const Document& document, LineBreaker& breaker)
+LineStarts::LineStarts(const Document& document, LineBreaker& breaker)
     : document_(document), breaker_(breaker) {
   Restart(0);
 }
 
-void LineRun::Restart(Position paragraphStart) {
+void LineStarts::Restart(Position paragraphStart) {
   starts_.assign(1, {paragraphStart, document_.ParaFormatAt(paragraphStart)});
   piece_ = kFirstPiece;
   complete_ = false;
 }
 
-bool LineRun::Reaches(Position position) const {
+bool LineStarts::Covers(Position position) const {
   if (position < starts_.front().at) return false;
   if (position <= starts_.back().at) return true;
   return document_.ParagraphOf(position) == document_.ParagraphOf(starts_.back().at);
@@ -33,7 +33,7 @@ bool LineRun::Reaches(Position position) const {
 
 // Lays out one more piece after the last known line. A piece without a line start in it (it fits on
 // one line) is retried at twice the length, so that even endless lines cost little.
-bool LineRun::Extend() {
+bool LineStarts::Extend() {
   if (complete_) return false;
   const auto [from, format] = starts_.back();
   const Position paragraph = document_.ParagraphOf(from);
@@ -41,7 +41,7 @@ bool LineRun::Extend() {
   const std::size_t known = starts_.size();
   for (std::int64_t piece = piece_; starts_.size() == known; piece *= 2) {
     const bool whole = piece >= end - from;
-    const Position to = whole ? end : document_.Before(from + static_cast<Position>(piece));
+    const Position to = whole ? end : document_.SnapBackward(from + static_cast<Position>(piece));
     for (const Position at : breaker_.Break(document_, from, to)) starts_.push_back({at, format});
     if (!whole) continue;
     complete_ = paragraph + 1 == document_.ParagraphCount();
@@ -52,24 +52,24 @@ bool LineRun::Extend() {
   return true;
 }
 
-std::size_t LineRun::LastUpTo(Position position) const {
+std::size_t LineStarts::LastUpTo(Position position) const {
   const auto behind = std::ranges::upper_bound(starts_, position, {}, &Start::at);
   return static_cast<std::size_t>(behind - starts_.begin()) - 1;
 }
 
-std::size_t LineRun::IndexOf(Position position) {
+std::size_t LineStarts::IndexOf(Position position) {
   while (starts_.back().at <= position && Extend()) {
   }
   return LastUpTo(position);
 }
 
-bool LineRun::Has(std::size_t line) {
+bool LineStarts::Has(std::size_t line) {
   while (starts_.size() <= line && Extend()) {
   }
   return line < starts_.size();
 }
 
-Line LineRun::At(std::size_t line) {
+Line LineStarts::At(std::size_t line) {
   const Position start = starts_[line].at;
   if (!Has(line + 1)) return {start, document_.Length(), -1};
   const Position next = starts_[line + 1].at;
@@ -77,11 +77,11 @@ Line LineRun::At(std::size_t line) {
   return {start, document_.At(next - 1) == kLineBreak ? next - 1 : next, next};
 }
 
-bool LineRun::StartsParagraph(Position start) const {
+bool LineStarts::StartsParagraph(Position start) const {
   return document_.ParagraphStart(document_.ParagraphOf(start)) == start;
 }
 
-bool LineRun::BehindBlank(Position start) const {
+bool LineStarts::BehindBlank(Position start) const {
   const char16_t before = document_.At(start - 1);
   return before == u' ' || before == u'\t' || before == kLineBreak;
 }
@@ -89,11 +89,11 @@ bool LineRun::BehindBlank(Position start) const {
 // The edited line may now begin elsewhere, since its first word may fit on the line before; if that
 // word was broken over several lines, even the first of them may. A change of the paragraph format
 // moves all its lines.
-void LineRun::Edited(Position at) {
+void LineStarts::Edited(Position at) {
   std::size_t line = LastUpTo(at);
   const bool reformatted = document_.ParaFormatAt(starts_[line].at) != starts_[line].format;
   for (int cut = 0; line > 0 && !StartsParagraph(starts_[line].at); --line) {
-    if (reformatted || (!BehindBlank(starts_[line].at) && ++cut <= kMostCutLines)) continue;
+    if (reformatted || (!BehindBlank(starts_[line].at) && ++cut <= kMaxCutLines)) continue;
     --line;
     break;
   }
@@ -122,8 +122,8 @@ Position LineTable::LineEnd(std::int32_t line) {
 
 Line LineTable::LineAt(Position position) {
   position = std::clamp(position, 0, document_.Length());
-  if (all_.Reaches(position)) return all_.At(all_.IndexOf(position));
-  if (!near_.Reaches(position))
+  if (all_.Covers(position)) return all_.At(all_.IndexOf(position));
+  if (!near_.Covers(position))
     near_.Restart(document_.ParagraphStart(document_.ParagraphOf(position)));
   return near_.At(near_.IndexOf(position));
 }

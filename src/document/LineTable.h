@@ -34,15 +34,15 @@ struct Line {
 
 /// The line starts from one paragraph on, as far as they were asked for. Invariant: each is a line
 /// start of the whole document's layout.
-class LineRun {
+class LineStarts {
  public:
-  LineRun(const Document& document, LineBreaker& breaker);
+  LineStarts(const Document& document, LineBreaker& breaker);
 
   /// Discards everything and restarts at a paragraph's start.
   void Restart(Position paragraphStart);
   Position First() const { return starts_.front().at; }
   /// Whether `position` lies in the known lines or in the last one's paragraph.
-  bool Reaches(Position position) const;
+  bool Covers(Position position) const;
   /// Index of the line that holds `position`, relative to the first line here.
   std::size_t IndexOf(Position position);
   /// Whether line `line` exists; lays out up to it.
@@ -96,8 +96,8 @@ class LineTable {
 
  private:
   const Document& document_;
-  LineRun all_;   // from the start of the document, so its indices are line numbers
-  LineRun near_;  // around the last position looked up beyond `all_`
+  LineStarts all_;   // from the start of the document, so its indices are line numbers
+  LineStarts near_;  // around the last position looked up beyond `all_`
 };
 
 }  // namespace lumenote

@@ -68,7 +68,7 @@ bool MatchScanner::CanMatch() const {
 char16_t MatchScanner::Fold(char16_t c) const { return options_.matchCase ? c : ToLower(c); }
 
 template <class Unit>
-MatchScanner::Opening<Unit> MatchScanner::OpeningIn() const {
+MatchScanner::NeedlePrefix<Unit> MatchScanner::OpeningIn() const {
   const auto cases = [this](char16_t c) -> Cases<Unit> {
     const char16_t capital = options_.matchCase ? c : ToUpper(c);
     if constexpr (sizeof(Unit) == 1) {
@@ -82,7 +82,7 @@ MatchScanner::Opening<Unit> MatchScanner::OpeningIn() const {
 
 template <class Unit>
 std::size_t MatchScanner::NextCandidate(std::basic_string_view<Unit> text, std::size_t at) const {
-  const auto opening = std::get<Opening<Unit>>(openings_);
+  const auto opening = std::get<NeedlePrefix<Unit>>(openings_);
   using Hits = std::make_unsigned_t<Unit>;  // as wide as the text, so that both vectorise alike
   const Unit* units = text.data();
   const auto begins = [=](std::size_t i) { return Hits{opening.first.Has(units[i])}; };

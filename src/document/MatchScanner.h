@@ -31,7 +31,7 @@ class MatchScanner {
   };
   /// The first two characters of the needle.
   template <class Unit>
-  struct Opening {
+  struct NeedlePrefix {
     Cases<Unit> first;
     Cases<Unit> second;  // if the needle has one
   };
@@ -39,7 +39,7 @@ class MatchScanner {
   bool CanMatch() const;
   char16_t Fold(char16_t c) const;
   template <class Unit>
-  Opening<Unit> OpeningIn() const;
+  NeedlePrefix<Unit> OpeningIn() const;
   /// The first possible start of a match in `text` at or after `at`; the text's end if there is
   /// none.
   template <class Unit>
@@ -50,7 +50,7 @@ class MatchScanner {
 
   SearchOptions options_;
   std::u16string needle_;  // case-folded, unless case matters
-  std::tuple<Opening<char>, Opening<char16_t>> openings_;
+  std::tuple<NeedlePrefix<char>, NeedlePrefix<char16_t>> openings_;
   LeafCursor leaf_;
   std::size_t at_ = 0;     // in the leaf
   char16_t previous_ = 0;  // the unit before the leaf

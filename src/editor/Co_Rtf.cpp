@@ -5,7 +5,7 @@
 #include "editor/Layout.h"
 #include "editor/Secours.h"
 #include "editor/SessionLife.h"
-#include "editor/WindowPlace.h"
+#include "editor/StoredGeometry.h"
 #include "extapps/OcrLaunch.h"
 #include "format/FontCommand.h"
 #include "format/FormatCommands.h"
@@ -21,13 +21,13 @@
 namespace lumenote {
 
 Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp,
-               std::vector<WorkSent>& workLeft)
+               std::vector<SentWorkFile>& outstandingWork)
     : Form(windows, "Co_Rtf", {5000, 3250, 5650, 4350}, u"MicroEditeur"),
       current_(session),
       own_(session),
       session_(*own_),
       temp_(temp),
-      exchange_(*this, *this, programs_, Machine().Programs(), workLeft) {
+      roundTrip_(*this, *this, programs_, Machine().Programs(), outstandingWork) {
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 210, 5262, 45});
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 45});
   Bx_Règle.Locked(true);
@@ -90,10 +90,10 @@ void Co_Rtf::WireFormatMenu() {
 }
 
 void Co_Rtf::WirePrograms() {
-  Pop.mnuPopQjot.Click = [this] { exchange_.mnuPopQjot_Click(); };
-  Pop.mnuPopAtlantis.Click = [this] { exchange_.mnuPopAtlantis_Click(); };
-  Pop.mnuPopMSWord.Click = [this] { exchange_.mnuPopMSWord_Click(); };
-  TimerWpd.Tick = [this] { exchange_.TimerWpd_Timer(); };
+  Pop.mnuPopQjot.Click = [this] { roundTrip_.mnuPopQjot_Click(); };
+  Pop.mnuPopAtlantis.Click = [this] { roundTrip_.mnuPopAtlantis_Click(); };
+  Pop.mnuPopMSWord.Click = [this] { roundTrip_.mnuPopMSWord_Click(); };
+  TimerWpd.Tick = [this] { roundTrip_.TimerWpd_Timer(); };
   const auto launch = [this](Menu& entry, Program program) {
     entry.Click = [this, program] {
       OuvrirOcr(*this, Machine().Programs(), programs_.Path(program));
@@ -171,11 +171,11 @@ void Co_Rtf::Form_Activate() {
 }
 
 void Co_Rtf::OpenNote() {
-  const Rect place = LireGeometrie(Machine().UserSettings(), session_.settingsKey);
-  IgnoringErrors([&] { Height(place.height); });
-  IgnoringErrors([&] { Width(place.width); });
-  Top(place.top);
-  Left(place.left);
+  const Rect bounds = LireGeometrie(Machine().UserSettings(), session_.settingsKey);
+  IgnoringErrors([&] { Height(bounds.height); });
+  IgnoringErrors([&] { Width(bounds.width); });
+  Top(bounds.top);
+  Left(bounds.left);
   Pop.mnuPopEnregistrer.Visible(session_.fileMode);
   LocatePrograms();
   session_.loaded = OuvrirDocument(*this);
@@ -187,7 +187,7 @@ void Co_Rtf::OpenNote() {
     return;
   }
   Bx_RTF.SetFocus();
-  exchange_.CollectLeft();
+  roundTrip_.RescueLateResults();
 }
 
 void Co_Rtf::Form_Resize() {
@@ -209,7 +209,7 @@ bool Co_Rtf::EndNote() {
   const Fermeture decision = TerminerEdition(*this);
   if (decision == Fermeture::Annulee) return false;
   if (decision == Fermeture::Complete)
-    EcrireGeometrie(Machine().UserSettings(), session_.settingsKey, Place());
+    EcrireGeometrie(Machine().UserSettings(), session_.settingsKey, Bounds());
   Maj_StrOrChm(*this);
   return true;
 }
@@ -221,7 +221,7 @@ void Co_Rtf::Form_Unload() {
   TimerWpd.Enabled(false);
   recovery_.Drop();
   dialogs_.UnloadAll();
-  exchange_.Leave();
+  roundTrip_.Leave();
 }
 
 bool Co_Rtf::Form_KeyDown(const KeyStroke& key) {
@@ -276,10 +276,10 @@ bool Co_Rtf::WriteNote() {
 
 void Co_Rtf::Describe(MemberTable& members) {
   Form::Describe(members);
-  members.Add("TypeEditeur", [this] { return Value(int{exchange_.TypeEditeur()}); });
-  members.Add("EtatWpd", [this] { return Value(int{exchange_.EtatWpd()}); });
-  members.Add("FichierTravail", [this] { return Value(exchange_.FichierTravail()); });
-  members.Add("DateTravail", [this] { return Value(exchange_.DateTravail()); });
+  members.Add("TypeEditeur", [this] { return Value(int{roundTrip_.TypeEditeur()}); });
+  members.Add("EtatWpd", [this] { return Value(int{roundTrip_.EtatWpd()}); });
+  members.Add("FichierTravail", [this] { return Value(roundTrip_.FichierTravail()); });
+  members.Add("DateTravail", [this] { return Value(roundTrip_.DateTravail()); });
 }
 
 // --- layout

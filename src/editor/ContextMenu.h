@@ -1,10 +1,10 @@
-// The context menu of the document.
+// The document's context menu.
 #pragma once
 #include "forms/Menu.h"
 
 namespace lumenote {
 
-/// Declared in the order in which the entries stand.
+/// Declared in menu order.
 struct ContextMenu {
   explicit ContextMenu(Form& form) : mnuPop(form, "mnuPop", u"mnuPop", false) {}
 

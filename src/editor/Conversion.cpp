@@ -20,7 +20,7 @@ namespace {
 
 /// Writes the document to `path` and loads it from there; the file as it is then. Where that fails,
 /// what stood there before is put back.
-FileState Exchange(NoteWindow& editor, std::u16string_view path, FileType type) {
+FileState WriteAndReload(NoteWindow& editor, std::u16string_view path, FileType type) {
   Files& files = editor.Services().FileSystem();
   std::optional<std::string> before;
   if (files.Exists(path)) before = files.ReadAll(path);
@@ -37,7 +37,7 @@ FileState Exchange(NoteWindow& editor, std::u16string_view path, FileType type) 
 /// The same, or nothing when it fails, which only a lack of memory says aloud.
 std::optional<FileState> TryExchange(NoteWindow& editor, std::u16string_view path, FileType type) {
   try {
-    return Exchange(editor, path, type);
+    return WriteAndReload(editor, path, type);
   } catch (const RuntimeError& error) {
     if (error.Number() == static_cast<int>(ErrorNumber::OutOfMemory)) throw;
     return std::nullopt;

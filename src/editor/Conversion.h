@@ -1,4 +1,4 @@
-// Turning the document from plain text into RTF and back, through its file.
+// Converts the document between plain text and RTF, through its file.
 #pragma once
 #include "editor/NoteWindow.h"
 
@@ -6,12 +6,12 @@ namespace lumenote {
 
 struct ContextMenu;
 
-/// Enables the one of the two entries that leads to the other format.
+/// Enables the entry that converts to the other format.
 void UpdateConvertir(ContextMenu& menu, const Session& session);
-/// Writes the document under the other extension, loads it again and deletes the old file; a save
-/// or load that fails changes nothing at all. Undo does not lead back.
+/// Writes the document with the other extension, reloads it and deletes the old file; if saving or
+/// loading fails, nothing changes. Not undoable.
 void ConvertirEnRtf(NoteWindow& editor);
-/// The same; every format is lost.
+/// The same; all formats are lost.
 void ConvertirEnTexte(NoteWindow& editor);
 
 }  // namespace lumenote

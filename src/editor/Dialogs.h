@@ -12,20 +12,20 @@ namespace lumenote {
 
 class EditorWindow;
 
-/// Each dialog is made at its first use.
+/// Each dialog is created on first use.
 class Dialogs {
  public:
-  /// `window` is the editor's own, of which the dialogs are a part; both outlive this object.
+  /// `window` is the editor's form, which holds the dialogs. Both must outlive this object.
   Dialogs(EditorWindow& editor, Form& window);
 
   void UnloadAll();
 
-  /// Opens the paragraph dialog, or closes it.
+  /// Opens or closes the paragraph dialog.
   void ActFenFormat();
-  /// Styles belong to that dialog, which is loaded for them but not shown.
+  /// That dialog applies styles, so it is loaded for this, but not shown.
   void ApplyStyFromName(std::u16string_view section);
   void Trouver();
-  /// The dialog's own button goes on with the search; this only reads its options, for which the
+  /// Searching on is done by the dialog's own button; this only reads the options, for which the
   /// dialog is loaded.
   void Suivant();
   void Symboles();

@@ -26,14 +26,14 @@ constexpr std::string_view kEmptyRtf =
     "\\viewkind4\\uc1\\pard\\fs20\r\n"
     "\\par }\r\n";
 
-/// What the host is to find in the note after a save: nothing new once it has written another one.
+/// Sets what the host reads back after a save, unless it has written another note.
 void PutNote(Session& session, std::u16string value) {
   if (!session.noteReplaced) session.note = std::move(value);
 }
 
-/// What another program has made of the document's file since this editor read or wrote it, kept as
-/// a rescue copy: its path, empty when there is no such thing. Raises PathAccess when there is no
-/// place for it, and what reading the file raises.
+/// Keeps the document's file as a rescue copy if another program has changed it since this editor
+/// read or wrote it. Returns the copy's path; empty if the file is unchanged. Raises PathAccess if
+/// the copy cannot be stored, and what reading the file raises.
 std::optional<std::u16string> KeepOtherState(NoteWindow& editor) {
   Session& session = editor.Values();
   const std::u16string& path = session.documentPath;
@@ -48,7 +48,7 @@ std::optional<std::u16string> KeepOtherState(NoteWindow& editor) {
   return copy;
 }
 
-/// Status, format and label follow the document path.
+/// Updates status, format and label from the document path.
 FileType ShowDocumentPath(NoteWindow& editor) {
   Session& session = editor.Values();
   editor.ShowStatus(1, EspDvtDer(session.documentPath));
@@ -58,8 +58,8 @@ FileType ShowDocumentPath(NoteWindow& editor) {
   return type;
 }
 
-/// Lest another editor saves between a look at the document's file and what is done to it. A
-/// temporary file needs none.
+/// Stops another editor from saving between a check of the document's file and what follows. A
+/// temporary file needs no lock.
 std::shared_ptr<void> LockFolder(NoteWindow& editor) {
   const Session& session = editor.Values();
   if (!session.fileMode) return nullptr;
@@ -207,7 +207,7 @@ bool SupprimerDocument(NoteWindow& editor) {
            .title = u"Attention",
            .buttons = MessageBox::Buttons::YesNo,
            .icon = MessageBox::Icon::Question}) == MessageBox::Answer::Yes;
-  // Another event may have closed the editor or moved the note while the question stood.
+  // While the question was open, another event may have closed the editor or changed the path.
   if (!confirmed || session.closed || session.documentPath != named) {
     editor.RetablirDessus();
     return false;

@@ -1,4 +1,4 @@
-// The note's file: creating, naming, loading, saving and deleting it.
+// Creates, names, loads, saves and deletes the note's file.
 #pragma once
 #include <optional>
 #include <string>
@@ -13,66 +13,65 @@ namespace lumenote {
 class Files;
 class TempFolder;
 
-/// The temporary folder without its trailing backslash.
+/// The temporary folder without a trailing backslash.
 std::u16string CheminTemp(const TempFolder& temp);
 /// Temporary folder, "\TmpFl", prefix, ".", extension.
 std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
                            std::u16string_view extension);
-/// Writes the note as it stands, without a line end of its own, and returns the form: code page
-/// 1252 or what `EncodingFor` finds; RTF source has escapes for the characters that are not in that
-/// page.
+/// Writes the note without adding a line end and returns the encoding: code page 1252, or the
+/// result of `EncodingFor`. RTF source gets escapes for characters outside that page.
 TextEncoding EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
-/// Creates the empty RTF document. A file that another program has made there meanwhile is left
+/// Creates an empty RTF document. A file that another program has created there meanwhile is left
 /// alone (PermissionDenied).
 void CreFVideRtf(Files& files, std::u16string_view path);
-/// The path between three blanks on each side, as the status bar shows it.
+/// The path between three spaces on each side, for the status bar.
 std::u16string EspDvtDer(std::u16string_view path);
-/// The lower-cased last three characters of a path.
+/// The last three characters of a path, lower-cased.
 std::u16string FormatDe(std::u16string_view path);
-/// How a document of that format is written and read.
+/// The file type of a document of that format.
 FileType TypeDe(std::u16string_view format);
-/// Whether a note is RTF source: it begins with "{\rtf" in any letter case.
+/// Whether a note is RTF source, that is begins with "{\rtf" in any letter case.
 bool EstNoteRtf(std::u16string_view note);
 
-/// The content of the document in the form that the host gets: plain for "txt", else RTF. A plain
-/// note that differs in its line ends alone is given back as it came.
+/// The document's content as the host gets it: plain text for "txt", else RTF. A plain note in
+/// which only line ends differ is returned in its original form.
 std::u16string ContenuNote(NoteWindow& editor);
 
-/// Deletes the file at `path` unless it is read-only, or the note's own file under another name.
+/// Deletes the file at `path`, unless it is read-only or is the note's own file under another name.
 void SupprimerAutreFichier(Files& files, std::u16string_view path, std::u16string_view note);
 
-/// Loads the document path into the surface and sets status, format and label. A failure is told to
-/// the user and returned as false; a document that was in the surface before is dirty then. `form`
-/// is that of a plain text whose form is known.
+/// Loads the document path into the surface and sets status, format and label. Reports a failure to
+/// the user and returns false; a document already in the surface is then dirty. `form` is the
+/// encoding of a plain text, if known.
 bool LoadFilAndIni(NoteWindow& editor, std::optional<TextEncoding> form = std::nullopt);
-/// Goes on with the surface where the document path now holds something else: shows that path, and
-/// the note is unsaved in its format.
+/// Keeps the surface although the document path now holds something else: shows that path, and
+/// makes the note dirty in that format.
 void ContinuerSansRecharger(NoteWindow& editor);
-/// Tells the user that the document path could not be loaded.
+/// Tells the user that the document could not be loaded.
 void DireEchecChargement(NoteWindow& editor);
 
-/// Writes the document to its path. Where another program has changed the file, that state is first
-/// kept as a rescue copy, whose path is added to `kept` for the user to be told of when all is
-/// done. A failure, of the copy too, leaves the old file whole and stands in the second status
-/// panel.
+/// Writes the document to its path. If another program has changed the file, first keeps that
+/// version as a rescue copy and appends its path to `kept`, to be announced later. If either fails,
+/// the old file stays whole and the second status panel reports it.
 bool EcrireDocument(NoteWindow& editor, std::vector<std::u16string>& kept);
-/// Deletes the file at the document path, read-only or not, after the same care; it stays where its
-/// state could not be kept.
+/// Deletes the file at the document path, even if read-only, with the same precaution. The file
+/// stays if its changed version could not be kept.
 void SupprimerFichier(NoteWindow& editor, std::vector<std::u16string>& kept);
-/// A note kept as x.txt leaves no x.rtf beside it, nor the reverse, in whatever letter case.
+/// Deletes the twin in the other format: x.rtf for a note in x.txt and the reverse, in any letter
+/// case.
 void SupprimerJumeaux(NoteWindow& editor);
 
 enum class Sauvegarde { Inutile, Refusee, Faite, Impossible };
-/// Saves a dirty document, after a question when `ask`, and deletes its stale twin. A failure
-/// leaves the old file whole and the document dirty, and stands in the second status panel.
+/// Saves a dirty document, after a question if `ask`, and deletes its stale twin. On failure the
+/// old file stays whole, the document stays dirty, and the second status panel reports it.
 Sauvegarde SauveFich(NoteWindow& editor, bool ask);
-/// String mode: copies the content into the note, for the formats "txt" and "rtf".
+/// String mode: copies the content to the note, for the formats "txt" and "rtf".
 void Maj_StrOrChm(NoteWindow& editor);
-/// Saves without asking and updates the note.
+/// Saves without a question and updates the note.
 void EnregistrerNote(NoteWindow& editor);
-/// Asks, deletes the file that the question named and empties the note; whether the window is to be
-/// closed. Nothing is deleted when the editor has closed meanwhile or edits another file by then.
-/// Raises PermissionDenied when the file stays.
+/// Asks, then deletes the file named in the question and empties the note; returns whether to close
+/// the window. Deletes nothing if the editor has meanwhile closed or changed to another file.
+/// Raises PermissionDenied if the file cannot be deleted.
 bool SupprimerDocument(NoteWindow& editor);
 
 }  // namespace lumenote

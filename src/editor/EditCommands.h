@@ -1,4 +1,4 @@
-// The clipboard and undo commands of the context menu, and what enables them.
+// The context menu's clipboard and undo commands, and when they are enabled.
 #pragma once
 #include <string_view>
 
@@ -8,11 +8,11 @@ namespace lumenote {
 
 struct ContextMenu;
 
-/// The label of an undo kind; empty for a kind beyond the known ones.
+/// The label of an undo kind; empty for an unknown kind.
 std::u16string_view LibelleAction(UndoKind kind);
-/// Whether at least one character is selected.
+/// Whether anything is selected.
 bool CanCutCopClr(const RichTextSurface& surface);
-/// Enables and labels the entries from the surface's state. A pending redo disables undo.
+/// Enables and labels the entries. A pending redo disables undo.
 void UpdateItems(ContextMenu& menu, const RichTextSurface& surface);
 
 }  // namespace lumenote

@@ -12,7 +12,7 @@ FileState StateOf(std::u16string_view path, std::string_view bytes, FileTime tim
   return {std::u16string(path), bytes.size(), std::hash<std::string_view>{}(bytes), time};
 }
 
-// Some file systems count in steps of two seconds.
+// Some file systems record times in steps of two seconds.
 FileTime SettledTime(const Files& files, std::u16string_view path) {
   using namespace std::chrono;
   constexpr FileTime kStep = nanoseconds(2s).count();

@@ -1,4 +1,4 @@
-// The note's file as this editor has last read or written it.
+// The note's file as this editor last read or wrote it.
 #pragma once
 #include <cstddef>
 #include <string>
@@ -15,14 +15,14 @@ struct FileState {
   FileTime time = 0;  // of its modification; 0 where a change might not show in it
 };
 
-/// `time` is 0, or a `SettledTime` from before the bytes were read.
+/// `time` is 0, or a `SettledTime` taken before the bytes were read.
 FileState StateOf(std::u16string_view path, std::string_view bytes, FileTime time = 0);
-/// The file's modification time where any change from now on shows in it; else 0. Never fails.
+/// The file's modification time if any later change must show in it; else 0. Never fails.
 FileTime SettledTime(const Files& files, std::u16string_view path);
-/// Whether nobody has touched the file at `path` since `state` was taken of it; false where that
-/// takes reading it. Raises what looking at the file raises.
+/// Whether the file at `path` is certainly unchanged since `state`; false if that would require
+/// reading it. Raises what inspecting the file raises.
 bool IsUntouched(const Files& files, const FileState& state, std::u16string_view path);
-/// Whether both are the same bytes at the same path.
+/// Whether both have the same bytes at the same path.
 bool IsSameContent(const FileState& one, const FileState& other);
 
 }  // namespace lumenote

@@ -16,7 +16,7 @@ constexpr float kDocumentLeft = 30;
 constexpr float kMenuBarHeight = 300;
 constexpr float kZoneGap = 10;  // between the document and the label below it
 
-/// A length that went through a 16-bit variable.
+/// A length converted through a 16-bit variable.
 float Short(float length) { return ToInt16(double{length}); }
 
 void PlaceAcross(const LayoutParts& p, float width) {

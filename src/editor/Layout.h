@@ -1,4 +1,4 @@
-// The fixed arithmetic that places the editor's controls; all lengths in twips.
+// The fixed layout of the editor's controls; lengths in twips.
 #pragma once
 #include <array>
 
@@ -17,8 +17,8 @@ struct LayoutParts {
   std::array<Control*, 2> zones;  // the labels above and below the document
 };
 
-/// Places the controls in a window of that outer size. Every assignment stands alone: one that
-/// fails (a negative size, a value beyond 16 bits) leaves what stood before.
+/// Lays out the controls for a window of that outer size. Assignments are independent: one that
+/// fails (a negative size, a value beyond 16 bits) leaves the old value.
 void Disposer(const LayoutParts& parts, float width, float height, bool menuBar);
 
 }  // namespace lumenote

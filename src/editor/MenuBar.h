@@ -1,17 +1,16 @@
-// The format menu bar.
+// The menu bar.
 #pragma once
 #include "forms/Menu.h"
 
 namespace lumenote {
 
-/// Declared in the order in which the menus stand; the leading blanks of the captions space the bar
-/// out.
+/// Declared in menu order; leading spaces in the captions separate the menus.
 class MenuBar {
   Form& form_;
 
  public:
   explicit MenuBar(Form& form) : form_(form) {}
-  /// Shows or hides every menu of the bar.
+  /// Shows or hides all menus of the bar.
   void Visible(bool on);
 
   Menu mnuEdt{form_, "mnuEdt", u"   Edt"};

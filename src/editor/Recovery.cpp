@@ -12,8 +12,8 @@ namespace lumenote {
 
 namespace {
 
-// An edit waits for the copy that is being written, for the delay and for its own copy: with two
-// seconds for a copy, which is plenty, that is within the ten seconds.
+// An edit waits for the copy being written, for the delay, and for its own copy. With a generous
+// two seconds for each copy that stays within ten seconds.
 constexpr int kDelay = 5000;  // milliseconds from an edit to its copy
 constexpr int kPause = 10;    // between two slices
 constexpr std::chrono::milliseconds kSlice(2);

@@ -1,4 +1,4 @@
-// The recovery copy of the note that a window edits.
+// The recovery copy of a window's note.
 #pragma once
 #include <memory>
 
@@ -10,23 +10,23 @@ namespace lumenote {
 
 class Timer;
 
-/// While the note is dirty its copy in the state folder is at most ten seconds old. It is written
-/// in slices between the user's acts, from the content as it was when the first one began; nothing
-/// runs while the copy is up to date. A copy that cannot be written is tried again.
+/// While the note is dirty, its copy in the state folder is at most ten seconds old. The copy is a
+/// snapshot, written in slices between events; nothing runs while it is up to date. A failed copy
+/// is retried.
 class Recovery {
  public:
-  /// Both outlive this object; the timer is its own.
+  /// Both must outlive this object; no one else uses the timer.
   Recovery(EditorWindow& editor, Timer& clock);
   Recovery(const Recovery&) = delete;
   Recovery& operator=(const Recovery&) = delete;
-  /// Unless it was dropped the copy stays, for the next start.
+  /// Unless dropped, the copy stays for the next start.
   ~Recovery();
 
-  /// The note has been edited.
+  /// Must be called when the note has been edited.
   void Edited();
-  /// Nothing of the note needs a copy any more.
+  /// Deletes the copy: the note needs none any more.
   void Drop();
-  /// Brings the copy of a note that is stored nowhere else up to date at once.
+  /// Brings the copy of an unsaved note up to date at once.
   void WriteNow();
 
  private:
@@ -34,14 +34,14 @@ class Recovery {
   void Begin();
   void WriteSlice();
   void Commit();
-  /// Arms the timer for what comes next, if anything does.
+  /// Arms the timer for the next task, if any.
   void Schedule();
 
   EditorWindow& editor_;
   Timer& clock_;
   std::unique_ptr<NoteCopy> copy_;
   std::unique_ptr<SnapshotWriter> writing_;  // null between copies
-  bool due_ = false;                         // edited since the last copy began
+  bool due_ = false;                         // edited since the last copy was started
 };
 
 }  // namespace lumenote

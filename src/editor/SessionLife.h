@@ -1,4 +1,4 @@
-// The life of an editing session: preparing the note's file, deciding what closing does.
+// The lifetime of an editing session: preparing the note's file, and what closing does.
 #pragma once
 #include <optional>
 #include <string_view>
@@ -9,24 +9,24 @@
 
 namespace lumenote {
 
-/// Forgets what the editor before left in the session's values.
+/// Resets the session's values of the previous editor.
 void CommencerSession(Session& session);
-/// File mode: creates a missing "txt" or "rtf" file and reads the read-only attribute. String
-/// mode: writes the note to its temporary file, which becomes the document path, and returns its
-/// form; raises what the file system does, since another note may be left over there.
+/// File mode: creates a missing "txt" or "rtf" file and reads the read-only attribute. String mode:
+/// writes the note to its temporary file, which becomes the document path, and returns its
+/// encoding; file errors propagate, since the old file might hold another note.
 std::optional<TextEncoding> PreparerDocument(NoteWindow& editor);
-/// Prepares and loads the document. A failure is told to the user and returned as false.
+/// Prepares and loads the document. Reports a failure to the user and returns false.
 bool OuvrirDocument(NoteWindow& editor);
 
 enum class Fermeture { Complete, SansGeometrie, Annulee };
-/// The closing decision: refuses the changes of a read-only note, asks whether to save, deletes the
-/// twin of the note's file. Says whether the geometry is to be stored, or that the window must
-/// stay, since the note could be kept nowhere else.
+/// Decides about closing: refuses the changes of a read-only note, asks whether to save, deletes
+/// the twin. Returns whether to store the geometry, or that the window must stay because the note
+/// cannot be kept anywhere.
 Fermeture TerminerEdition(NoteWindow& editor);
-/// Takes a note that the host wrote while the editor was open for the next opening; after a
-/// deletion an empty one, so that the file is not created again.
+/// Makes a note that the host wrote while the editor was open the next one to open; after a
+/// deletion makes that an empty note, so that the file is not created again.
 void CloreSession(Session& session);
-/// The host's note or path, and the mode that it means.
+/// Stores the host's note or path, and the mode that it selects.
 void PrendreNote(Session& session, std::u16string_view noteOrPath, NoteKind kind);
 
 }  // namespace lumenote

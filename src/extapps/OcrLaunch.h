@@ -1,4 +1,4 @@
-// Starting a program beside the editor and leaving it to the user.
+// Starts a program without waiting for it.
 #pragma once
 #include <string_view>
 
@@ -8,9 +8,9 @@ namespace lumenote {
 
 class Processes;
 
-/// Starts the OCR program at `path`; nothing happens when there is none. The editor stays out of
-/// its always-on-top state afterwards, so that the program can keep the foreground. A failure of
-/// the start is the run-time error of `Processes::Start`.
+/// Starts the OCR program at `path`; does nothing if that is empty. The editor then stays out of
+/// always-on-top, so that the program can be in front. A failed start raises the errors of
+/// `Processes::Start`.
 void OuvrirOcr(EditorWindow& editor, Processes& processes, std::u16string_view path);
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Looking up programs in folders and registry.
+// Looks up programs in folders and the registry.
 #include "extapps/ProgramTable.h"
 
 #include <cstdint>
@@ -19,9 +19,9 @@ constexpr std::u16string_view kLocalMachineText = u"-2147483646";
 
 enum class Fallback { BesideComponent, AutomationClass, RegistryValue };
 
-/// Where a program may stand. What the fallback looks up is a file name beside the component, a
-/// class name, or a key whose value names a folder.
-struct Place {
+/// Where to look for a program. The fallback's source is a file name beside the component, a class
+/// name, or a key whose value names a folder.
+struct ProgramLocation {
   std::u16string_view name;
   std::u16string_view belowPrograms;
   Fallback fallback;
@@ -30,7 +30,7 @@ struct Place {
   std::u16string_view belowValue = {};
 };
 
-constexpr std::array<Place, kPrograms> kPlaces{{
+constexpr std::array<ProgramLocation, kPrograms> kPlaces{{
     {u"Qjot", u"\\qjot\\qjot.exe", Fallback::BesideComponent, u"\\qjot.exe"},
     {u"Atlantis", u"\\Atlantis Nova\\Atlantis.exe", Fallback::BesideComponent, u"\\Atlantis.exe"},
     {u"WinWord", u"\\Microsoft\\Office11\\WinWord.exe", Fallback::AutomationClass,
@@ -48,23 +48,25 @@ std::u16string Joined(std::u16string_view left, std::u16string_view right) {
 }
 
 std::u16string FallbackPath(const ProgramSources& sources, const ProgramTable& table,
-                            const Place& place) {
-  switch (place.fallback) {
+                            const ProgramLocation& location) {
+  switch (location.fallback) {
     case Fallback::BesideComponent:
-      return Joined(sources.programs.Component(), place.source);
+      return Joined(sources.programs.Component(), location.source);
     case Fallback::AutomationClass:
-      return CheminParProgId(sources.registry, table.dossierProgrammes, place.source);
+      return CheminParProgId(sources.registry, table.dossierProgrammes, location.source);
     case Fallback::RegistryValue:
-      return Joined(LireValeurReg(sources.registry, kLocalMachineText, place.source, place.value),
-                    place.belowValue);
+      return Joined(
+          LireValeurReg(sources.registry, kLocalMachineText, location.source, location.value),
+          location.belowValue);
   }
   return {};
 }
 
-std::u16string Find(const ProgramSources& sources, const ProgramTable& table, const Place& place) {
-  std::u16string path = FoldBackslashes(Joined(table.dossierProgrammes, place.belowPrograms));
+std::u16string Find(const ProgramSources& sources, const ProgramTable& table,
+                    const ProgramLocation& location) {
+  std::u16string path = FoldBackslashes(Joined(table.dossierProgrammes, location.belowPrograms));
   if (sources.files.Exists(path)) return path;
-  path = FoldBackslashes(FallbackPath(sources, table, place));
+  path = FoldBackslashes(FallbackPath(sources, table, location));
   return sources.files.Exists(path) ? path : std::u16string();
 }
 
@@ -78,8 +80,8 @@ void FindFolders(const ProgramSources& sources, ProgramTable& table) {
   table.tmpFileRtf = table.dossierTemp + u"\\TmpFileRtf.Rtf";
 }
 
-/// A command line's executable. Switches are told by the blank before them; the quotes around the
-/// whole go first, so that only a line quoted from end to end comes out right.
+/// The executable of a command line. A space before it marks a switch. The outer quotes are removed
+/// first, so only a line quoted from end to end gives a correct path.
 std::u16string ExecutableOf(std::u16string_view command) {
   if (command.starts_with(u'"')) {
     command.remove_prefix(1);
@@ -107,7 +109,7 @@ std::u16string CheminParProgId(const Registry& registry, std::u16string_view dos
   const auto server = registry.Read(classes + u"CLSID\\" + *id + u"\\LocalServer32", u"");
   if (!server) return {};
   std::u16string path = ExecutableOf(*server);
-  // The variable has never been expanded: such a path names no file, and the program counts as
+  // The variable is deliberately not expanded: such a path names no file, so the program counts as
   // missing.
   if (Upper(path).starts_with(kVariable))
     path = Joined(dossierProgrammes, u" & Right(sPath, Len(sPath) - 14)");

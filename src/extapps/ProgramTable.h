@@ -1,4 +1,4 @@
-// The external programs: where each one is installed.
+// The external programs and where each is installed.
 #pragma once
 #include <array>
 #include <cstddef>
@@ -15,8 +15,8 @@ class Registry;
 enum class Program { Qjot, Atlantis, WinWord, ReadIris, FineReader };
 inline constexpr std::size_t kPrograms = 5;
 
-/// What is known of the programs since the table was filled. A program that was not found has an
-/// empty path; one that was may have gone since.
+/// The result of the last look-up. A program that was not found has an empty path; one that was may
+/// have been removed since.
 struct ProgramTable {
   struct Row {
     std::u16string name;
@@ -25,7 +25,7 @@ struct ProgramTable {
 
   std::u16string dossierDocuments;
   std::u16string dossierProgrammes;
-  std::u16string dossierTemp;  // without its trailing backslash
+  std::u16string dossierTemp;  // without a trailing backslash
   std::u16string tmpFile;
   std::u16string tmpFileCD;
   std::u16string tmpFileRtf;
@@ -36,7 +36,7 @@ struct ProgramTable {
   }
 };
 
-/// What the look-up asks; all of it outlives the call.
+/// What the look-up consults; all must outlive the call.
 struct ProgramSources {
   const Files& files;
   const Folders& folders;
@@ -45,14 +45,13 @@ struct ProgramSources {
   const Registry& registry;
 };
 
-/// Of each program the first place where it stands: below the Program Files folder, else its
-/// fallback.
+/// Looks up each program, below the Program Files folder first, then at its fallback.
 ProgramTable ChercherApplis(const ProgramSources& sources);
-/// The executable that serves an automation class, as registered; may name no file at all.
+/// The executable registered for an automation class; the file may not exist.
 std::u16string CheminParProgId(const Registry& registry, std::u16string_view dossierProgrammes,
                                std::u16string_view progId);
-/// A string value under a root key, the root's handle value as decimal text; only the local machine
-/// has values. Empty when there is none. Raises TypeMismatch or Overflow for a root that is no
+/// A string value under a root key, given as the root's handle value in decimal; only the local
+/// machine has values. Empty if there is none. Raises TypeMismatch or Overflow if the root is not a
 /// number.
 std::u16string LireValeurReg(const Registry& registry, std::u16string_view racine,
                              std::u16string_view cle, std::u16string_view valeur);

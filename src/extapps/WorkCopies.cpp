@@ -21,10 +21,10 @@ std::u16string CommonName(std::u16string_view folder, std::u16string_view extens
   return FoldBackslashes(std::u16string(folder) + u"\\SavNotes." + std::u16string(extension));
 }
 
-/// The files at that path in whatever letter case of the extension, without those that have been
-/// as they are since `old` was taken; the latest one first.
+/// The existing files at that path, with the extension in any letter case, that are new or changed
+/// since `old`; latest first.
 std::vector<std::u16string> Fresh(const Files& files, std::u16string_view path,
-                                  const WorkTraces& old) {
+                                  const FileTraces& old) {
   std::vector<std::u16string> found = EnTouteCasse(files, path);
   std::erase_if(found, [&](const std::u16string& one) {
     return std::find(old.begin(), old.end(), TraceDe(files, one)) != old.end();
@@ -48,7 +48,7 @@ void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view
 }
 
 std::u16string RapatriFch(Files& files, std::u16string_view folder, std::u16string_view base,
-                          const WorkTraces& old) {
+                          const FileTraces& old) {
   std::u16string left;
   for (const std::u16string_view extension : {u"rtf", u"txt"}) {
     const auto saved = Fresh(files, CommonName(folder, extension), old);
@@ -64,7 +64,7 @@ std::u16string RapatriFch(Files& files, std::u16string_view folder, std::u16stri
 }
 
 std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
-                             const WorkTraces& old) {
+                             const FileTraces& old) {
   for (const std::u16string_view form : kForms) {
     const auto found = Fresh(files, ChmExts(workFile, form), old);
     if (!found.empty()) return found.front();
@@ -72,14 +72,14 @@ std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
   return {};
 }
 
-WorkTrace TraceDe(const Files& files, std::u16string_view path) {
-  WorkTrace trace{std::u16string(path)};
+FileTrace TraceDe(const Files& files, std::u16string_view path) {
+  FileTrace trace{std::u16string(path)};
   IgnoringErrors([&] { trace.time = files.ModificationTime(path); });
   return trace;
 }
 
-WorkTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder) {
-  WorkTraces traces;
+FileTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder) {
+  FileTraces traces;
   const auto note = [&](std::u16string_view path) {
     for (const std::u16string& one : EnTouteCasse(files, path))
       traces.push_back(TraceDe(files, one));
@@ -91,13 +91,13 @@ WorkTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16st
   return traces;
 }
 
-std::u16string Reprendre(Files& files, const WorkSent& sent) {
+std::u16string Reprendre(Files& files, const SentWorkFile& sent) {
   std::u16string left;
   if (!sent.folder.empty()) left = RapatriFch(files, sent.folder, sent.path, sent.old);
   return left.empty() ? TrouverRetour(files, sent.path, sent.old) : left;
 }
 
-bool ReprendreTout(Files& files, WorkSent& sent,
+bool ReprendreTout(Files& files, SentWorkFile& sent,
                    const std::function<bool(const std::u16string& result)>& keep) {
   for (std::u16string result; !(result = Reprendre(files, sent)).empty();) {
     if (!keep(result)) return false;

@@ -55,7 +55,7 @@ int Co_Trouver::Options() const {
          (chkMatchCase.Value() == 1 ? kFindMatchCase : 0);
 }
 
-void Co_Trouver::TellNotFound() { Ask({.text = u"Texte non trouvé"}); }
+void Co_Trouver::ShowNotFound() { Ask({.text = u"Texte non trouvé"}); }
 
 void Co_Trouver::ReplaceButtons(bool on) {
   cmdReplace.Enabled(on);
@@ -76,7 +76,7 @@ void Co_Trouver::FirstSearch() {
     ReplaceButtons(true);
     cmdFind.Caption(kNext);
   } else {
-    TellNotFound();
+    ShowNotFound();
     cmdFind.Caption(kFirst);
   }
   editor_.EnableSuivant(found);
@@ -85,7 +85,7 @@ void Co_Trouver::FirstSearch() {
 void Co_Trouver::NextSearch() {
   const bool found = FindOn();
   if (!found) {
-    TellNotFound();
+    ShowNotFound();
     cmdFind.Caption(kFirst);
     ReplaceButtons(false);
   }
@@ -120,7 +120,7 @@ void Co_Trouver::Expand() {
 void Co_Trouver::ReplaceAndFind() {
   editor_.Document().SelText(cboReplace.Text());
   if (FindOn()) return;
-  TellNotFound();
+  ShowNotFound();
   cmdFind.Caption(kFirst);
   ReplaceButtons(false);
 }

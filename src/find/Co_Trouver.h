@@ -49,7 +49,7 @@ class Co_Trouver : public Form {
   void ReplaceAndFind();
   /// Searches from the end of the selection; a match moves the focus to the document.
   bool FindOn();
-  void TellNotFound();
+  void ShowNotFound();
   void ReplaceButtons(bool on);
 
   EditorWindow& editor_;

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kSpaceStep = 15;  // twips
 /// The spinners' idle value, between their two arrows.
-constexpr int kAtRest = 1;
+constexpr int kIdle = 1;
 /// Alignment codes of the option buttons, from left to right.
 constexpr int kAlignments[] = {0, 2, 1};
 /// Line-spacing codes of the option buttons, and the texts that these put in the box.
@@ -30,8 +30,8 @@ constexpr std::u16string_view kSpacingTexts[] = {u"1,00", u"1,25", u"1,50", u"2,
 /// +1 for the upper arrow, -1 for the lower one, 0 if idle. Resets the spinner first, so that a
 /// failing step cannot leave it displaced.
 int TakeArrow(UpDown& spinner) {
-  const int arrow = spinner.Value() - kAtRest;
-  spinner.Value(kAtRest);
+  const int arrow = spinner.Value() - kIdle;
+  spinner.Value(kIdle);
   return arrow;
 }
 
@@ -111,7 +111,7 @@ void Co_Paragraph::Form_Load() {
 void Co_Paragraph::Form_Activate() { SelectParagraphe(Surface()); }
 
 void Co_Paragraph::SetPosFenPara() {
-  const Rect editor = editor_.WindowPlace();
+  const Rect editor = editor_.WindowBounds();
   Left(editor.left + 2 * std::floor(editor.width / 3));
   Top(editor.top + editor.height - 600);
 }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double kTwipsPerInch = 1440;
 constexpr double kHundredthsPerInch = 2540;
-constexpr std::int32_t kMostSteps = 251;
+constexpr std::int32_t kMaxSteps = 251;
 
 double HundredthsOfMillimetre(double twips) {
   return std::floor(twips / kTwipsPerInch * kHundredthsPerInch);
@@ -32,7 +32,7 @@ std::u16string WholeMillimetresText(double twips) {
 std::int32_t CorrValIndent(std::int32_t value, std::int32_t step) {
   const std::int32_t half = ToInt32(step / 2.0);
   if (value >= -half && value < half) return 0;
-  for (std::int32_t n = 1; n <= kMostSteps; ++n) {
+  for (std::int32_t n = 1; n <= kMaxSteps; ++n) {
     const std::int32_t multiple = n * step;
     if (value >= multiple - half && value < multiple + half) return multiple;
   }

@@ -2,9 +2,9 @@
 
 namespace lumenote {
 
-CaptionedControl::CaptionedControl(Container& container, std::string name, Rect place,
+CaptionedControl::CaptionedControl(Container& container, std::string name, Rect bounds,
                                    std::u16string caption)
-    : Control(container, std::move(name), place), caption_(std::move(caption)) {}
+    : Control(container, std::move(name), bounds), caption_(std::move(caption)) {}
 
 void CaptionedControl::Caption(std::u16string_view text) {
   if (text == caption_) return;

@@ -10,7 +10,7 @@ namespace lumenote {
 /// An ampersand in the caption marks the mnemonic: Alt and that key focus the control.
 class CaptionedControl : public Control {
  public:
-  CaptionedControl(Container& container, std::string name, Rect place, std::u16string caption);
+  CaptionedControl(Container& container, std::string name, Rect bounds, std::u16string caption);
 
   const std::u16string& Caption() const { return caption_; }
   void Caption(std::u16string_view text);

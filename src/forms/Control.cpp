@@ -5,11 +5,11 @@
 
 namespace lumenote {
 
-Control::Control(Container& container, std::string name, Rect place)
+Control::Control(Container& container, std::string name, Rect bounds)
     : ShownElement(container.ContainingForm(), std::move(name)),
       container_(container),
-      place_(place) {
-  Enlist();
+      bounds_(bounds) {
+  Register();
   container_.controls_.push_back(this);
 }
 
@@ -17,10 +17,10 @@ Control::~Control() {
   if (FormPeer* peer = Owner().Peer()) peer->Remove(*this);
   if (Owner().ActiveControl() == this) Owner().ActiveControl(nullptr);
   std::erase(container_.controls_, this);
-  Delist();
+  Unregister();
 }
 
-void Control::Arrive() {
+void Control::Announce() {
   if (FormPeer* peer = Owner().Peer()) peer->Add(*this);
 }
 
@@ -36,20 +36,20 @@ void Control::FontSize(float points) {
   Changed(Property::Font);
 }
 
-void Control::Place(Rect place) {
-  if (place.width < 0 || place.height < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-  if (place == place_) return;
-  place_ = place;
+void Control::Bounds(Rect bounds) {
+  if (bounds.width < 0 || bounds.height < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+  if (bounds == bounds_) return;
+  bounds_ = bounds;
   Changed(Property::Geometry);
 }
 
-void Control::Left(float twips) { Place({twips, place_.top, place_.width, place_.height}); }
+void Control::Left(float twips) { Bounds({twips, bounds_.top, bounds_.width, bounds_.height}); }
 
-void Control::Top(float twips) { Place({place_.left, twips, place_.width, place_.height}); }
+void Control::Top(float twips) { Bounds({bounds_.left, twips, bounds_.width, bounds_.height}); }
 
-void Control::Width(float twips) { Place({place_.left, place_.top, twips, place_.height}); }
+void Control::Width(float twips) { Bounds({bounds_.left, bounds_.top, twips, bounds_.height}); }
 
-void Control::Height(float twips) { Place({place_.left, place_.top, place_.width, twips}); }
+void Control::Height(float twips) { Bounds({bounds_.left, bounds_.top, bounds_.width, twips}); }
 
 void Control::SetFocus() {
   if (!TakesFocus()) return;

@@ -36,20 +36,20 @@ struct MouseEvent {
 /// A control: bounds, visibility and enabled state. Assigning an equal value is silent.
 class Control : public ShownElement {
  public:
-  Control(Container& container, std::string name, Rect place);
+  Control(Container& container, std::string name, Rect bounds);
   ~Control() override;
 
   Container& Parent() const { return container_; }
 
-  const Rect& Place() const { return place_; }
-  float Left() const { return place_.left; }
+  const Rect& Bounds() const { return bounds_; }
+  float Left() const { return bounds_.left; }
   void Left(float twips);
-  float Top() const { return place_.top; }
+  float Top() const { return bounds_.top; }
   void Top(float twips);
   /// A negative size raises InvalidPropertyValue (380) and changes nothing.
-  float Width() const { return place_.width; }
+  float Width() const { return bounds_.width; }
   void Width(float twips);
-  float Height() const { return place_.height; }
+  float Height() const { return bounds_.height; }
   void Height(float twips);
 
   /// The font of the control's text. An empty name or a size of 0 points means the window's own.
@@ -60,7 +60,7 @@ class Control : public ShownElement {
   /// Raises it above its siblings.
   void BringToFront() { Changed(Property::Order); }
   /// Announces a control that was created after its window.
-  void Arrive();
+  void Announce();
 
   /// Whether the control can have the keyboard focus.
   virtual bool TakesFocus() const { return false; }
@@ -87,10 +87,10 @@ class Control : public ShownElement {
   void Describe(MemberTable& members) override;
 
  private:
-  void Place(Rect place);
+  void Bounds(Rect bounds);
 
   Container& container_;
-  Rect place_;
+  Rect bounds_;
   std::u16string fontName_;
   float fontSize_ = 0;
 };

@@ -21,7 +21,7 @@ class ControlArray {
     std::string name = name_ + "(" + std::to_string(controls_.size()) + ")";
     controls_.push_back(
         std::make_unique<C>(container, std::move(name), std::forward<Arguments>(arguments)...));
-    controls_.back()->Arrive();
+    controls_.back()->Announce();
     return *controls_.back();
   }
   /// Removes the elements from index `count` on.

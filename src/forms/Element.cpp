@@ -9,9 +9,9 @@ Element::Element(Form& form, std::string name) : form_(form), name_(std::move(na
 
 Element::~Element() = default;
 
-void Element::Enlist() { form_.elements_.push_back(this); }
+void Element::Register() { form_.elements_.push_back(this); }
 
-void Element::Delist() { std::erase(form_.elements_, this); }
+void Element::Unregister() { std::erase(form_.elements_, this); }
 
 void Element::Describe(MemberTable& members) {
   members.Add("Name", [this] { return Value(FromUtf8(name_)); });

@@ -42,9 +42,9 @@ class Element {
 
  protected:
   /// Adds it to the form's list of elements; called once, by the constructors of derived classes.
-  void Enlist();
+  void Register();
   /// Removes it again, for an element that is destroyed before its form.
-  void Delist();
+  void Unregister();
   /// Pushes the change to the form's peer, if there is one.
   void Changed(Property property);
 

@@ -12,11 +12,11 @@
 
 namespace lumenote {
 
-Form::Form(WindowList& windows, std::string name, Rect place, std::u16string caption)
+Form::Form(WindowList& windows, std::string name, Rect bounds, std::u16string caption)
     : Element(*this, std::move(name)),
       windows_(windows),
       caption_(std::move(caption)),
-      place_(place) {}
+      bounds_(bounds) {}
 
 Form::~Form() { windows_.Leave(*this); }
 
@@ -54,32 +54,32 @@ void Form::OnTop(bool on) {
 
 // --- place
 
-void Form::Place(Rect place) {
-  if (place.width < 0 || place.height < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-  if (place == place_) return;
-  const bool resized = place.width != place_.width || place.height != place_.height;
-  place_ = place;
+void Form::Bounds(Rect bounds) {
+  if (bounds.width < 0 || bounds.height < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+  if (bounds == bounds_) return;
+  const bool resized = bounds.width != bounds_.width || bounds.height != bounds_.height;
+  bounds_ = bounds;
   Changed(Property::Geometry);
   if (resized) Raise([this] { Form_Resize(); });
 }
 
-void Form::Left(float twips) { Place({twips, place_.top, place_.width, place_.height}); }
+void Form::Left(float twips) { Bounds({twips, bounds_.top, bounds_.width, bounds_.height}); }
 
-void Form::Top(float twips) { Place({place_.left, twips, place_.width, place_.height}); }
+void Form::Top(float twips) { Bounds({bounds_.left, twips, bounds_.width, bounds_.height}); }
 
-void Form::Width(float twips) { Place({place_.left, place_.top, twips, place_.height}); }
+void Form::Width(float twips) { Bounds({bounds_.left, bounds_.top, twips, bounds_.height}); }
 
-void Form::Height(float twips) { Place({place_.left, place_.top, place_.width, twips}); }
+void Form::Height(float twips) { Bounds({bounds_.left, bounds_.top, bounds_.width, twips}); }
 
 void Form::UserResize(float width, float height) {
-  place_.width = width;
-  place_.height = height;
+  bounds_.width = width;
+  bounds_.height = height;
   Raise([this] { Form_Resize(); });
 }
 
 void Form::UserMove(float left, float top) {
-  place_.left = left;
-  place_.top = top;
+  bounds_.left = left;
+  bounds_.top = top;
 }
 
 void Form::UserMouseMove(const MouseEvent& event) {
@@ -212,13 +212,13 @@ void Form::Raise(const std::function<void()>& event) {
   try {
     event();
   } catch (const RuntimeError& error) {
-    TellFailure(&error);
+    ShowFailure(&error);
   } catch (const std::bad_alloc&) {
-    TellFailure(nullptr);
+    ShowFailure(nullptr);
   }
 }
 
-void Form::TellFailure(const RuntimeError* error) {
+void Form::ShowFailure(const RuntimeError* error) {
   try {
     Machine().Windows().EventFailed(error ? *error : RuntimeError(ErrorNumber::OutOfMemory), this);
   } catch (const RuntimeError&) {
@@ -260,11 +260,11 @@ void Form::Describe(MemberTable& members) {
       [this](const Value& value) { Caption(TextOf(value)); });
   const auto length = [&](std::string_view name, float Rect::*side) {
     members.Add(
-        name, [this, side] { return Value(place_.*side); },
+        name, [this, side] { return Value(bounds_.*side); },
         [this, side](const Value& value) {
-          Rect place = place_;
-          place.*side = static_cast<float>(NumberOf(value));
-          Place(place);
+          Rect bounds = bounds_;
+          bounds.*side = static_cast<float>(NumberOf(value));
+          Bounds(bounds);
         });
   };
   length("Left", &Rect::left);

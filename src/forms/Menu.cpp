@@ -7,14 +7,14 @@ namespace lumenote {
 
 Menu::Menu(Form& form, std::string name, std::u16string caption, bool visible)
     : ShownElement(form, std::move(name)), caption_(std::move(caption)) {
-  Enlist();
+  Register();
   Visible(visible);
   form.menus_.push_back(this);
 }
 
 Menu::Menu(Menu& parent, std::string name, std::u16string caption)
     : ShownElement(parent.Owner(), std::move(name)), caption_(std::move(caption)) {
-  Enlist();
+  Register();
   parent.entries_.push_back(this);
 }
 

@@ -7,7 +7,7 @@
 namespace lumenote {
 
 Timer::Timer(Form& form, std::string name) : Element(form, std::move(name)) {
-  Enlist();
+  Register();
   form.timers_.push_back(this);
 }
 

@@ -29,7 +29,7 @@ void Co_Apprendre::Describe(MemberTable& members) {
 
 void Co_Apprendre::Form_Load() {
   erronModifie_ = false;
-  const Rect editor = editor_.WindowPlace();
+  const Rect editor = editor_.WindowBounds();
   Left(std::max(0.0F, editor.left + (editor.width - Width()) / 2));
   Top(std::max(0.0F, editor.top + (editor.height - Height()) / 2));
 }

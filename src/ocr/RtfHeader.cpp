@@ -16,7 +16,7 @@ constexpr std::size_t kSlice = 3;
 constexpr std::u16string_view kCharsetEnd = u"HARSET0 ";
 
 /// Whether `capitals` (ASCII) occurs at `at`, in any letter case.
-bool StandsAt(std::u16string_view text, std::size_t at, std::u16string_view capitals) {
+bool MatchesAt(std::u16string_view text, std::size_t at, std::u16string_view capitals) {
   return std::ranges::equal(text.substr(at, capitals.size()), capitals, [](char16_t c, char16_t d) {
     return c == d || (c >= u'a' && c <= u'z' && c - u'a' + u'A' == d);
   });
@@ -34,11 +34,11 @@ class Rewriter {
 
  private:
   void Step() {
-    if (StandsAt(source_, at_, u"\\SL"))
+    if (MatchesAt(source_, at_, u"\\SL"))
       Rewrite(u'\\', u"240\\");
-    else if (StandsAt(source_, at_, u"\\FS"))
+    else if (MatchesAt(source_, at_, u"\\FS"))
       Rewrite(u' ', u"22 ");
-    else if (StandsAt(source_, at_, u"\\FC"))
+    else if (MatchesAt(source_, at_, u"\\FC"))
       FontCharset();
     else
       Copy(1);
@@ -52,7 +52,7 @@ class Rewriter {
 
   void FontCharset() {
     Copy(kSlice);
-    const bool ansi = StandsAt(source_, at_, kCharsetEnd);
+    const bool ansi = MatchesAt(source_, at_, kCharsetEnd);
     Copy(kCharsetEnd.size());
     if (ansi) SkipPast(u';', u"Times New Roman ;");
   }

@@ -12,12 +12,12 @@ int RunPilot(const PilotRun& run) {
   ReportedFonts fonts;
   PilotPlatform platform(run.sandbox, backend, fonts);
   CoBxRtf control(platform);
-  Stage stage{control, run.sandbox, backend, run.acts, transcript, fonts};
+  ScriptContext context{control, run.sandbox, backend, run.acts, transcript, fonts};
   const auto atEnd = [&] {
     const Form* active = control.Parts().windows.Active();
     if (run.atEnd && active) run.atEnd(*active);
   };
-  ScriptRunner(run.script, stage, atEnd).Run();
+  ScriptRunner(run.script, context, atEnd).Run();
   if (backend.HasAnswers()) transcript.Fault("queued answers are left over");
   return transcript.Close();
 }

@@ -18,9 +18,10 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
-ScriptRunner::ScriptRunner(std::istream& script, Stage& stage, std::function<void()> atEnd)
-    : script_(script), stage_(stage), atEnd_(std::move(atEnd)) {
-  stage_.backend.Script(*this);
+ScriptRunner::ScriptRunner(std::istream& script, ScriptContext& context,
+                           std::function<void()> atEnd)
+    : script_(script), context_(context), atEnd_(std::move(atEnd)) {
+  context_.backend.Script(*this);
 }
 
 void ScriptRunner::Run() {
@@ -40,9 +41,9 @@ bool ScriptRunner::RunLine() {
   }
   const std::string line = line_;
   const int number = number_;
-  stage_.transcript.At(number, line);
+  context_.transcript.At(number, line);
   CarryOut(line);
-  stage_.transcript.At(number, line);
+  context_.transcript.At(number, line);
   CompareWindows();
   return true;
 }
@@ -64,16 +65,16 @@ void ScriptRunner::CarryOut(std::string_view line) {
     const Verb verb = FindVerb(name);
     if (!verb) throw ScriptError("unknown verb " + std::string(name));
     Arguments arguments(rest);
-    return verb(stage_, arguments);
+    return verb(context_, arguments);
   });
 }
 
 void ScriptRunner::Guarded(const std::function<Answer()>& act) {
-  Transcript& transcript = stage_.transcript;
+  Transcript& transcript = context_.transcript;
   const auto print = [&](const RuntimeError& error) {
     transcript.Print(ErrorValue(error.Number(), error.Description()));
   };
-  const PilotBackend::FailureTrap trap(stage_.backend);
+  const PilotBackend::FailureTrap trap(context_.backend);
   try {
     const Answer answer = act();
     if (trap.Caught())
@@ -90,15 +91,15 @@ void ScriptRunner::Guarded(const std::function<Answer()>& act) {
 }
 
 void ScriptRunner::CompareWindows() {
-  for (const Form* form : stage_.Windows().Loaded()) {
+  for (const Form* form : context_.Windows().Loaded()) {
     if (!form->Peer()) continue;
     for (const std::string& difference : form->Peer()->Differences())
-      stage_.transcript.Fault(form->Name() + ": " + difference);
+      context_.transcript.Fault(form->Name() + ": " + difference);
   }
 }
 
 bool ScriptRunner::CloseTop() {
-  const auto& loaded = stage_.Windows().Loaded();
+  const auto& loaded = context_.Windows().Loaded();
   for (std::size_t i = loaded.size(); i-- > 0;) {
     Form* form = loaded[i];
     form->UserClose();

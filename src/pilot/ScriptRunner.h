@@ -5,17 +5,17 @@
 #include <string>
 #include <string_view>
 
-#include "pilot/stage/Stage.h"
+#include "pilot/context/ScriptContext.h"
 #include "pilot/verbs/Verbs.h"
 
 namespace lumenote {
 
 /// Execution nests: while a line waits for a window, the following lines run inside it. Stream and
-/// stage must outlive this object.
+/// context must outlive this object.
 class ScriptRunner final : public ScriptLines {
  public:
   /// `atEnd` is called once, after the last line and before anything is closed.
-  ScriptRunner(std::istream& script, Stage& stage, std::function<void()> atEnd);
+  ScriptRunner(std::istream& script, ScriptContext& context, std::function<void()> atEnd);
 
   /// Runs the whole script, then closes all open windows.
   void Run();
@@ -32,7 +32,7 @@ class ScriptRunner final : public ScriptLines {
   void CompareWindows();
 
   std::istream& script_;
-  Stage& stage_;
+  ScriptContext& context_;
   std::function<void()> atEnd_;
   std::string line_;
   int number_ = 0;

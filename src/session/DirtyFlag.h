@@ -1,4 +1,4 @@
-// Whether a note holds what is stored nowhere else.
+// Whether a note has unsaved changes.
 #pragma once
 #include <functional>
 

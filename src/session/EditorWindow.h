@@ -13,7 +13,7 @@ namespace lumenote {
 class Platform;
 struct Session;
 
-/// Why a rescue copy is made; the box that names it begins with the cause.
+/// Why a rescue copy is made; shown first in the box that announces it.
 enum class Cause {
   EnregistrementImpossible,
   FichierModifie,
@@ -29,13 +29,13 @@ class EditorWindow {
   virtual Session& Values() = 0;
   virtual Platform& Services() = 0;
 
-  /// Drops the always-on-top state before a box, a dialog or a program comes up.
+  /// Suspends the always-on-top state before a box, dialog or program appears.
   virtual void SuspendreDessus() = 0;
-  /// Its counterpart: sets flag and check mark, the state itself only when the flag still stands.
+  /// Restores it: sets flag and check mark, but the native state only if the flag was still set.
   virtual void RetablirDessus() = 0;
   virtual MessageBox::Answer Ask(const MessageBox& box) = 0;
-  /// A message box between `SuspendreDessus` and `RetablirDessus`, of the dialog that asks, or of
-  /// the editor.
+  /// A message box between `SuspendreDessus` and `RetablirDessus`, owned by `dialog` or, if null,
+  /// by the editor.
   MessageBox::Answer AskOver(const MessageBox& box, Form* dialog = nullptr) {
     SuspendreDessus();
     const MessageBox::Answer answer = dialog ? dialog->Ask(box) : Ask(box);
@@ -43,16 +43,16 @@ class EditorWindow {
     return answer;
   }
 
-  /// The desktop's font dialog between the same two, of the same window; empty when cancelled.
+  /// The desktop's font dialog between the same two and with the same owner; empty if cancelled.
   virtual std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* dialog) = 0;
 
-  /// The window's place on the screen, in twips.
-  virtual Rect WindowPlace() const = 0;
+  /// The window's bounds on the screen, in twips.
+  virtual Rect WindowBounds() const = 0;
   /// Width of the note's box, in twips.
   virtual float DocumentWidth() const = 0;
-  /// Gives the note the keyboard.
+  /// Focuses the note.
   virtual void FocusDocument() = 0;
-  /// Whether the menu entry that goes on with a search can be chosen.
+  /// Enables the menu entry that continues a search.
   virtual void EnableSuivant(bool on) = 0;
 };
 

@@ -1,4 +1,4 @@
-// The values that one control and its windows share.
+// The values shared by a control and its windows.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -7,11 +7,11 @@
 
 namespace lumenote {
 
-/// How the host meant its note: as it looks, as a text whatever it looks like, or as a path.
+/// How to interpret the host's note: by its look, always as text, or always as a path.
 enum class NoteKind { AsItLooks, Text, Path };
 
-/// One set per control and opening. The host's values stay as written; the derived ones say how the
-/// open editor works.
+/// One set per control and opening. The host's values are kept as written; the derived ones
+/// describe the open editor.
 struct Session {
   // Written by the host.
   std::u16string applicationName;
@@ -33,20 +33,20 @@ struct Session {
   bool readOnly = false;
   bool deleted = false;
   bool closed = false;
-  /// What the editor holds no longer goes to `note`: the host wrote another one while the editor
-  /// was open, which waits for the next opening, or the control goes.
+  /// The editor's content must no longer go to `note`: the host wrote another note while the editor
+  /// was open, kept for the next opening, or the control is being destroyed.
   bool noteReplaced = false;
 
   // Of the open editor, or of the last one.
-  bool loaded = false;    // the document came in; nothing is given back or saved before
+  bool loaded = false;    // without it nothing is saved or returned to the host
   std::u16string format;  // lower-cased last three characters of the document path
   DirtyFlag dirty;
   bool onTop = false;
   bool menuBarShown = false;
-  std::uint64_t changes = 0;  // of the content since it came in
+  std::uint64_t changes = 0;  // of the content since it was loaded
 
-  /// A string note was edited and cannot be given back; it may be clean, since a conversion or a
-  /// reload clears the dirty flag.
+  /// A string note was edited but cannot be returned to the host. It may be clean nevertheless,
+  /// since a conversion or a reload clears the dirty flag.
   bool CannotReturn() const { return !fileMode && noteReplaced && changes > 0; }
 };
 

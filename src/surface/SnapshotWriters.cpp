@@ -46,7 +46,7 @@ class TextSnapshotWriter final : public SnapshotWriter {
   /// The next chunk, cut between characters.
   std::u16string Piece() {
     const Position from = at_;
-    at_ = document_.After(from + std::min(kStepUnits, document_.Length() - from));
+    at_ = document_.SnapForward(from + std::min(kStepUnits, document_.Length() - from));
     return document_.Text(from, at_);
   }
   bool Begin() {

@@ -24,7 +24,7 @@ struct FakeWindows : ProgramWindows {
     asked += processes.size();
     return hasWindows;
   }
-  bool Show(std::string_view text) const override { return text == title; }
+  bool AnyTitleContains(std::string_view text) const override { return text == title; }
 
   bool hasWindows = true;
   std::size_t asked = 0;

@@ -158,7 +158,7 @@ TEST_F(WindowsTest, SizesResizeOnceAndNegativeOnesAreRefused) {
   EXPECT_EQ(first.resizes, 2);
   EXPECT_EQ(ErrorOf([&] { first.Width(-1); }), 380);
   EXPECT_EQ(ErrorOf([&] { first.Height(-1); }), 380);
-  EXPECT_EQ(first.Place(), (Rect{5, 200, 0, 4001}));
+  EXPECT_EQ(first.Bounds(), (Rect{5, 200, 0, 4001}));
 }
 
 TEST_F(WindowsTest, ATimerTicksWhileItsWindowIsLoadedOnly) {

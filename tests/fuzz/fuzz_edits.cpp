@@ -32,7 +32,7 @@ class Editor : UserBench {
     }
     CheckSaved();
     const Model loaded = Held();
-    for (int acts = 0; acts < kMostActs && !acts_.AtEnd(); ++acts) {
+    for (int acts = 0; acts < kMaxActs && !acts_.AtEnd(); ++acts) {
       Act();
       CheckSaved();
     }
@@ -41,7 +41,7 @@ class Editor : UserBench {
   }
 
  private:
-  static constexpr int kMostActs = 12;
+  static constexpr int kMaxActs = 12;
 
   void Act() {
     static constexpr void (Editor::*kActs[])() = {&Editor::Put,  &Editor::Erase,     &Editor::Erase,

@@ -19,7 +19,7 @@ void Check(bool holds) {
 std::u16string UnitsOf(const Document& document) { return document.Text(0, document.Length()); }
 
 void CheckPart(const Document& document, Position from, Position to) {
-  const Selection part = document.Outwards(from, to);
+  const Selection part = document.SnapOutward(from, to);
   const Document again = Read(WriteRtf(document, part.start, part.end), RtfTarget::Selection);
   Check(UnitsOf(again) == document.Text(part.start, part.end));
 }

@@ -61,7 +61,7 @@ class PilotTest : public testing::Test {
   /// What the script prints, one line each.
   std::string Run(const std::string& script) {
     std::istringstream lines(script);
-    ScriptRunner(lines, stage, [this] { log += "end;"; }).Run();
+    ScriptRunner(lines, context, [this] { log += "end;"; }).Run();
     return out.str();
   }
 
@@ -81,8 +81,8 @@ class PilotTest : public testing::Test {
   Transcript transcript{out, err};
   PilotPlatform machine{sandbox, backend, fonts};
   CoBxRtf control{machine};
-  Stage stage{control, sandbox, backend, acts, transcript, fonts};
-  TestWindow first{stage.Windows(), "Co_Trouver"};
+  ScriptContext context{control, sandbox, backend, acts, transcript, fonts};
+  TestWindow first{context.Windows(), "Co_Trouver"};
 };
 
 TEST_F(PilotTest, AWindowThatCannotBeClosedDoesNotHoldTheEndUp) {

@@ -34,7 +34,7 @@ TEST_F(WindowTest, NoticesADifference) {
 }
 
 TEST_F(WindowTest, KeepsTwipsThatAreNoWholePixels) {
-  const Rect place = form->Place();
+  const Rect place = form->Bounds();
   form->Width(5651);
   QApplication::sendPostedEvents();
   EXPECT_EQ(form->Width(), 5651);

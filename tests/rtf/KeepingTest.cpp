@@ -224,15 +224,15 @@ TEST(Keeping, WhatIsKeptStaysInProportionToItsSource) {
 }
 
 TEST(Keeping, WhatComesAgainAndAgainDoesNotFillTheTables) {
-  constexpr std::uint32_t kMost = 20'000;
+  constexpr std::uint32_t kMax = 20'000;
   const std::string_view kUnits[] = {"{\\xe}b", "\\trowd a", "{\\field{\\fldrslt a}}",
                                      "\\ls1{\\listtext 1}a\\par"};
   for (const std::string_view unit : kUnits) {
     std::string source = "{\\rtf1 ";
     for (int i = 0; i < 60'000; ++i) source += unit;
     const Document document = Read(source);
-    EXPECT_LT(document.Formats().kept.Size(), kMost) << unit;
-    EXPECT_LT(document.Formats().fields.Size(), kMost) << unit;
+    EXPECT_LT(document.Formats().kept.Size(), kMax) << unit;
+    EXPECT_LT(document.Formats().fields.Size(), kMax) << unit;
     EXPECT_EQ(LossOf(document), "") << unit;
   }
   std::string tabs = "{\\rtf1 ";

@@ -103,8 +103,8 @@ TEST(RoundTrip, KeepsRandomDocuments) {
 TEST(RoundTrip, KeepsRandomSelections) {
   for (unsigned seed = 0; seed < 100; ++seed) {
     const Document document = Generator(seed).Make();
-    const Position from = document.Before(document.Length() / 3);
-    const Position to = document.Before(document.Length() * 2 / 3);
+    const Position from = document.SnapBackward(document.Length() / 3);
+    const Position to = document.SnapBackward(document.Length() * 2 / 3);
     const Document piece = Read(WriteRtf(document, from, to), RtfTarget::Selection);
     ASSERT_EQ(piece.Text(0, piece.Length()), document.Text(from, to)) << seed;
   }

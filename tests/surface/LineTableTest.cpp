@@ -43,8 +43,8 @@ class RandomNote {
   /// Makes some edit and returns where it begins.
   Position Edit() {
     const Position length = document_.Length();
-    const Position from = document_.Before(Below(length + 1));
-    const Position to = document_.After(std::min(from + Below(60), length));
+    const Position from = document_.SnapBackward(Below(length + 1));
+    const Position to = document_.SnapForward(std::min(from + Below(60), length));
     const auto character = [](CharId id) { return (id + 1) % 5; };
     const auto paragraph = [](ParaId id) { return (id + 1) % 4; };
     Model inserted;

@@ -26,7 +26,7 @@ class RandomActs : UserBench {
   }
 
   void Play() {
-    constexpr Position kMostText = 9000;
+    constexpr Position kMaxText = 9000;
     Load(Text(2));
     while (!bytes_.AtEnd() && !testing::Test::HasFailure()) {
       const Model before = now_;
@@ -35,7 +35,7 @@ class RandomActs : UserBench {
       Act();
       EXPECT_TRUE(Held() == now_);
       CheckHeard(before);
-      if (now_.Length() > kMostText) Load({});
+      if (now_.Length() > kMaxText) Load({});
       EXPECT_TRUE(surface.CanUndo() != history_.empty() && surface.CanRedo() != redo_.empty());
       EXPECT_TRUE(!InsidePair(surface.Anchor()) && !InsidePair(surface.Caret()));
       CheckParagraphAt(std::min(Place(), now_.Length()));

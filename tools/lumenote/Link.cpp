@@ -51,7 +51,7 @@ int Link(Arguments arguments) {
   if (line.Operands().size() != 2)
     throw CommandLineError("une application et un programme sont attendus");
   const DrivePaths drives = DrivePaths::OfUser();
-  const ProgramTable places = FirstPlaces(drives);
+  const ProgramTable places = FirstCandidates(drives);
   const std::u16string& place = PlaceOf(places, line.Operands()[0]);
   const std::string program = Absolute(line.Operands()[1]);
   CheckProgram(program);

@@ -31,7 +31,7 @@ ProgramTable InstalledPrograms(const DrivePaths& drives) {
   return LookUp(drives, PosixFiles(drives));
 }
 
-ProgramTable FirstPlaces(const DrivePaths& drives) { return LookUp(drives, EveryFile(drives)); }
+ProgramTable FirstCandidates(const DrivePaths& drives) { return LookUp(drives, EveryFile(drives)); }
 
 std::filesystem::path NativePath(const DrivePaths& drives, std::u16string_view path) {
   try {

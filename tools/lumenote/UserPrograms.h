@@ -10,7 +10,7 @@ namespace lumenote::tool {
 /// The programs that the editor would find now.
 ProgramTable InstalledPrograms(const DrivePaths& drives);
 /// The first place where the editor would look for each program, whether or not it exists.
-ProgramTable FirstPlaces(const DrivePaths& drives);
+ProgramTable FirstCandidates(const DrivePaths& drives);
 /// The native form of a path in a table. Raises `Failure` for an unknown drive.
 std::filesystem::path NativePath(const DrivePaths& drives, std::u16string_view path);
 

@@ -34,23 +34,23 @@ void QtBackend::CloseForms() {
 std::unique_ptr<RichTextSurface> QtBackend::MakeSurface(RichTextBox& box, Clipboard& clipboard,
                                                         Files& files) {
   auto& layout = layouts_[&box] = std::make_unique<SurfaceLayout>();
-  layout->layouter.Width(ToPixels(box.Place().width));
+  layout->layouter.Width(ToPixels(box.Bounds().width));
   return std::make_unique<DocumentSurface>(clipboard, files, layout->breaker);
 }
 
 // A modal parent elsewhere would lock windows above another one.
-QWidget* QtBackend::Asking(const Form* over) const {
+QWidget* QtBackend::DialogParent(const Form* over) const {
   if (!over) return nullptr;
   const Form* modal = over->Windows().TopModal();
   return widgets_.Find<QWidget>(modal ? *modal : *over);
 }
 
 MessageBox::Answer QtBackend::Show(const MessageBox& box, Form* over) {
-  return ShowMessageBox(box, Asking(over));
+  return ShowMessageBox(box, DialogParent(over));
 }
 
 std::optional<FontChoice> QtBackend::ChooseFont(const FontChoice& shown, Form* over) {
-  return ShowFontDialog(shown, Asking(over));
+  return ShowFontDialog(shown, DialogParent(over));
 }
 
 bool QtBackend::IsTopmost(const Form& form) {
@@ -77,23 +77,23 @@ QtBackend::QtBackend() {
 // active again for a moment.
 void QtBackend::Activating(Form& form) {
   awaited_ = &form;
-  passedOver_ = nullptr;
+  activatedMeanwhile_ = nullptr;
   awaiting_.start();
 }
 
 void QtBackend::NativelyActive(Form& form) {
   if (awaited_ && awaited_ != &form) {
-    passedOver_ = &form;
+    activatedMeanwhile_ = &form;
     return;
   }
-  awaited_ = passedOver_ = nullptr;
+  awaited_ = activatedMeanwhile_ = nullptr;
   form.UserActivate();
 }
 
 // The events were not stale: the desktop has settled on another window than the awaited one.
 void QtBackend::EndAwaiting() {
   awaited_ = nullptr;
-  Form* form = std::exchange(passedOver_, nullptr);
+  Form* form = std::exchange(activatedMeanwhile_, nullptr);
   const auto* window = form ? widgets_.Find<QWidget>(*form) : nullptr;
   if (window && window->isActiveWindow()) form->UserActivate();
 }
@@ -122,7 +122,7 @@ void QtBackend::Refused(Form& form) {
 void QtBackend::Gone(Form& form) {
   std::erase(forms_, &form);
   if (awaited_ == &form) awaited_ = nullptr;
-  if (passedOver_ == &form) passedOver_ = nullptr;
+  if (activatedMeanwhile_ == &form) activatedMeanwhile_ = nullptr;
 }
 
 }  // namespace lumenote

@@ -61,12 +61,12 @@ class OwnApplication {
 };
 
 /// Reaps programs from time to time even if nobody asks about them, so that none stays a zombie.
-class CollectedProcesses final : public PosixProcesses {
+class ReapingProcesses final : public PosixProcesses {
  public:
-  CollectedProcesses(DrivePaths drives, ProgramWindows& windows)
+  ReapingProcesses(DrivePaths drives, ProgramWindows& windows)
       : PosixProcesses(std::move(drives), &windows) {
     QObject::connect(&timer_, &QTimer::timeout, [this] {
-      Collect();
+      Reap();
       if (Idle()) timer_.stop();
     });
   }
@@ -93,7 +93,7 @@ struct QtPlatform::Parts {
   IniRegistry registry;
   PosixProgramFolders programFolders{drives};
   X11Windows programWindows;
-  CollectedProcesses programs{drives, programWindows};
+  ReapingProcesses programs{drives, programWindows};
   PosixFolders folders{drives, [this] { return programs.HoldsFiles(); }};
 };
 

@@ -31,9 +31,9 @@ Kind& Shown(const WidgetRegistry& widgets, const Element& element) {
 }
 
 /// The mouse at a point of a control; events go to the innermost widget there.
-class Hand {
+class MousePointer {
  public:
-  Hand(QWidget& widget, QPointF at) {
+  MousePointer(QWidget& widget, QPointF at) {
     QWidget* inner = widget.childAt(at.toPoint());
     target_ = inner ? inner : &widget;
     at_ = target_->mapFrom(&widget, at);
@@ -89,14 +89,14 @@ RichTextView& QtUserActs::ViewOf(RichTextBox& box) const {
 
 void QtUserActs::Click(Control& control) {
   QWidget& widget = Shown<QWidget>(widgets_, control);
-  Hand hand(widget, QRectF(widget.rect()).center());
+  MousePointer hand(widget, QRectF(widget.rect()).center());
   hand.Press(Qt::LeftButton);
   hand.Release(Qt::LeftButton);
 }
 
 void QtUserActs::DoubleClick(Control& control) {
   QWidget& widget = Shown<QWidget>(widgets_, control);
-  Hand hand(widget, QRectF(widget.rect()).center());
+  MousePointer hand(widget, QRectF(widget.rect()).center());
   hand.Press(Qt::LeftButton);
   hand.Release(Qt::LeftButton);
   hand.Press(Qt::LeftButton, QEvent::MouseButtonDblClick);
@@ -141,7 +141,8 @@ void QtUserActs::Select(RichTextBox& box, Position start, Position length) {
 }
 
 void QtUserActs::Mouse(Control& control, MouseAct act, const MouseEvent& event) {
-  Hand hand(Shown<QWidget>(widgets_, control), QPointF(ToPixels(event.at.x), ToPixels(event.at.y)));
+  MousePointer hand(Shown<QWidget>(widgets_, control),
+                    QPointF(ToPixels(event.at.x), ToPixels(event.at.y)));
   const Qt::MouseButton button = ButtonOf(event.button);
   if (act == MouseAct::Down) hand.Press(button);
   if (act == MouseAct::Move) hand.Move(button);
@@ -167,7 +168,7 @@ void QtUserActs::Drag(RichTextBox& box, Position start, Position length, Positio
 void QtUserActs::Spin(UpDown& spinner, bool up) {
   spinner.SetFocus();
   QToolButton& arrow = Shown<UpDownWidget>(widgets_, spinner).Arrow(up);
-  Hand hand(arrow, QRectF(arrow.rect()).center());
+  MousePointer hand(arrow, QRectF(arrow.rect()).center());
   hand.Press(Qt::LeftButton);
   hand.Release(Qt::LeftButton);
 }

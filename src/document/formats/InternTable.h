@@ -35,12 +35,12 @@ requires std::has_unique_object_representations_v<T> std::uint64_t HashOf(const 
 }
 
 /// Open-addressing hash table over values that stay where they are; at most three quarters of the
-/// slots are taken. A full table (`kMost` values) answers number 0, the default, for what it does
+/// slots are taken. A full table (`kMax` values) answers number 0, the default, for what it does
 /// not know, so hostile input stays bounded.
 template <class T>
 class InternTable {
  public:
-  static constexpr std::uint32_t kMost = (1u << 20) - 1;
+  static constexpr std::uint32_t kMax = (1u << 20) - 1;
 
   /// The number of `value`, a new one when it was not known.
   std::uint32_t Intern(const T& value) { return Add(value); }
@@ -54,7 +54,7 @@ class InternTable {
     if (3 * slots_.size() <= 4 * values_.size()) Grow();
     std::uint32_t& slot = SlotOf(value);
     if (slot != 0) return slot - 1;
-    if (values_.size() == kMost) return 0;
+    if (values_.size() == kMax) return 0;
     values_.push_back(std::forward<Value>(value));
     slot = Size();
     return slot - 1;

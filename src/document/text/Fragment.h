@@ -43,10 +43,10 @@ class FragmentBuilder {
   /// Appends a whole leaf, shared unless that would leave a small leaf before it.
   void Append(const LeafPointer& leaf);
 
-  /// For scanners: buffer space for at least `kLeastRoom` units of text without CR or LF; `Commit`
+  /// For scanners: buffer space for at least `kMinRoom` units of text without CR or LF; `Commit`
   /// keeps the first `count`. Text is collected as bytes of code page 1252 until a unit has none;
   /// after that no byte space is offered.
-  static constexpr int kLeastRoom = 32;
+  static constexpr int kMinRoom = 32;
   std::span<char> ByteRoom();
   std::span<char16_t> UnitRoom();
   void Commit(int count, CharId format);
@@ -60,7 +60,7 @@ class FragmentBuilder {
   /// for a scanner.
   static constexpr Position kTypingRoom = 32;
   static constexpr Position kFilled = Leaf::kCapacity - kTypingRoom;
-  static constexpr Position kFull = kFilled - kLeastRoom;
+  static constexpr Position kFull = kFilled - kMinRoom;
 
   TextView Gathered() const;
   void Widen();

@@ -26,11 +26,11 @@ void LeafCursor::Next() {
 
 LeafCursor LeafList::CursorAt(Position position) const {
   if (position >= Length()) return {groups_, groups_.Size(), 0, Length()};
-  const Place place = Holding(position);
-  return {groups_, place.group, place.leaf, place.before.length};
+  const Location location = Holding(position);
+  return {groups_, location.group, location.leaf, location.before.length};
 }
 
-LeafList::Place LeafList::Holding(Position unit) const {
+LeafList::Location LeafList::Holding(Position unit) const {
   const Position inLast = unit - last_.before.length;
   if (last_.group != kNowhere && inLast >= 0 && inLast < LeafAt(last_)->Size()) return last_;
   const auto group = groups_.HoldingUnit(unit);
@@ -38,21 +38,21 @@ LeafList::Place LeafList::Holding(Position unit) const {
   return last_ = {group.index, leaf.index, group.before + leaf.before};
 }
 
-LeafList::Place LeafList::HoldingBreak(Position index) const {
+LeafList::Location LeafList::HoldingBreak(Position index) const {
   const auto group = groups_.HoldingBreak(index);
   const auto leaf = groups_[group.index].HoldingBreak(index - group.before.breaks);
   return last_ = {group.index, leaf.index, group.before + leaf.before};
 }
 
 void LeafList::Add(LeafPointer leaf) {
-  if (leaf->Size() > kMost - Length()) throw RuntimeError(ErrorNumber::Overflow);
-  if (Empty() || groups_[groups_.Size() - 1].Size() == kGroupMost) groups_.Push({});
+  if (leaf->Size() > kMax - Length()) throw RuntimeError(ErrorNumber::Overflow);
+  if (Empty() || groups_[groups_.Size() - 1].Size() == kMaxGroupSize) groups_.Push({});
   groups_.Change(groups_.Size() - 1, [&](LeafGroup& group) { group.Push(std::move(leaf)); });
 }
 
 void LeafList::Append(LeafList tail) {
-  if (tail.Length() > kMost - Length()) throw RuntimeError(ErrorNumber::Overflow);
-  ForgetPlace();
+  if (tail.Length() > kMax - Length()) throw RuntimeError(ErrorNumber::Overflow);
+  ForgetLocation();
   const std::size_t seam = groups_.Size();
   groups_.Append(std::move(tail.groups_));
   if (seam == 0 || seam == groups_.Size()) return;
@@ -66,15 +66,15 @@ LeafList LeafList::Split(Position at) {
   LeafList tail;
   if (at <= 0) std::swap(tail, *this);
   if (at >= Length()) return tail;
-  Place place = Holding(at);
-  if (at > place.before.length) {
-    CutLeaf(place, at - place.before.length);
-    ++place.leaf;
+  Location location = Holding(at);
+  if (at > location.before.length) {
+    CutLeaf(location, at - location.before.length);
+    ++location.leaf;
   }
-  tail.groups_ = groups_.Cut(place.group + 1);
+  tail.groups_ = groups_.Cut(location.group + 1);
   LeafGroup rest;
-  groups_.Change(place.group, [&](LeafGroup& group) { rest = group.Cut(place.leaf); });
-  if (place.leaf == 0) groups_.Take(place.group);
+  groups_.Change(location.group, [&](LeafGroup& group) { rest = group.Cut(location.leaf); });
+  if (location.leaf == 0) groups_.Take(location.group);
   tail.groups_.Insert(0, std::move(rest));
   tail.JoinGroups(0);
   tail.JoinLeaves(0, 0);
@@ -102,7 +102,7 @@ LeafList LeafList::Slice(Position from, Position to) const {
 
 LeafList LeafList::Replace(Position from, Position to, LeafList piece) {
   if (from == to && piece.Empty()) return {};
-  if (piece.Length() > kMost - (Length() - (to - from))) throw RuntimeError(ErrorNumber::Overflow);
+  if (piece.Length() > kMax - (Length() - (to - from))) throw RuntimeError(ErrorNumber::Overflow);
   if (auto removed = ReplaceInLeaf(from, to, piece)) return *std::move(removed);
   LeafList before = *this;
   try {
@@ -127,17 +127,18 @@ std::optional<LeafList> LeafList::ReplaceInLeaf(Position from, Position to, cons
   const Leaf& inserted = piece.Empty() ? kNothing : *piece.groups_[0][0];
   if (inserted.Size() != piece.Length()) return std::nullopt;
   // Text inserted between two leaves goes to the end of the first, where typing continues.
-  const Place place = Holding(from == to && from > 0 ? from - 1 : from);
-  const Leaf& leaf = *LeafAt(place);
-  const Position at = from - place.before.length;
+  const Location location = Holding(from == to && from > 0 ? from - 1 : from);
+  const Leaf& leaf = *LeafAt(location);
+  const Position at = from - location.before.length;
   const Position size = leaf.Size() - (to - from) + piece.Length();
   if (at + (to - from) > leaf.Size() || size == 0 || size > Leaf::kCapacity) return std::nullopt;
   LeafList removed;
   if (to > from) removed.Add(std::make_shared<Leaf>(leaf.Part(at, at + (to - from))));
-  groups_.Change(place.group, [&](LeafGroup& group) {
-    group.Change(place.leaf, [&](LeafPointer& own) { Own(own).Replace(at, to - from, inserted); });
+  groups_.Change(location.group, [&](LeafGroup& group) {
+    group.Change(location.leaf,
+                 [&](LeafPointer& own) { Own(own).Replace(at, to - from, inserted); });
   });
-  if (size < kJoinedMost) Tidy(place);
+  if (size < kMergeThreshold) Tidy(location);
   assert(IsSound());
   return removed;
 }
@@ -145,7 +146,7 @@ std::optional<LeafList> LeafList::ReplaceInLeaf(Position from, Position to, cons
 bool LeafList::IsSound() const {
   for (std::size_t group = 0; group < groups_.Size(); ++group) {
     const LeafGroup& leaves = groups_[group];
-    if (leaves.Empty() || leaves.Size() > kGroupMost) return false;
+    if (leaves.Empty() || leaves.Size() > kMaxGroupSize) return false;
     for (std::size_t leaf = 0; leaf < leaves.Size(); ++leaf)
       if (leaves[leaf]->Size() == 0 || leaves[leaf]->Size() > Leaf::kCapacity) return false;
   }
@@ -153,45 +154,46 @@ bool LeafList::IsSound() const {
 }
 
 // The edit is done already: without memory to merge, small leaves may remain until the next edit.
-void LeafList::Tidy(const Place& place) {
+void LeafList::Tidy(const Location& location) {
   try {
-    JoinLeaves(place.group, place.leaf);
-    JoinGroups(place.group);
+    JoinLeaves(location.group, location.leaf);
+    JoinGroups(location.group);
   } catch (const std::bad_alloc&) {
-    ForgetPlace();
+    ForgetLocation();
   }
 }
 
 Position LeafList::BreaksBefore(Position position) const {
   if (position >= Length()) return Breaks();
-  const Place place = Holding(position);
-  return place.before.breaks + LeafAt(place)->BreaksBetween(0, position - place.before.length);
+  const Location location = Holding(position);
+  return location.before.breaks +
+         LeafAt(location)->BreaksBetween(0, position - location.before.length);
 }
 
 Position LeafList::BreakAt(Position index) const {
-  const Place place = HoldingBreak(index);
-  return place.before.length + LeafAt(place)->BreakAt(index - place.before.breaks);
+  const Location location = HoldingBreak(index);
+  return location.before.length + LeafAt(location)->BreakAt(index - location.before.breaks);
 }
 
 ParaId LeafList::MarkAt(Position index) const {
-  const Place place = HoldingBreak(index);
-  return LeafAt(place)->marks[static_cast<std::size_t>(index - place.before.breaks)];
+  const Location location = HoldingBreak(index);
+  return LeafAt(location)->marks[static_cast<std::size_t>(index - location.before.breaks)];
 }
 
-void LeafList::CutLeaf(const Place& place, Position at) {
-  groups_.Change(place.group, [&](LeafGroup& group) {
-    const LeafPointer& whole = group[place.leaf];
-    group.Insert(place.leaf + 1, std::make_shared<Leaf>(whole->Part(at, whole->Size())));
-    group.Change(place.leaf,
+void LeafList::CutLeaf(const Location& location, Position at) {
+  groups_.Change(location.group, [&](LeafGroup& group) {
+    const LeafPointer& whole = group[location.leaf];
+    group.Insert(location.leaf + 1, std::make_shared<Leaf>(whole->Part(at, whole->Size())));
+    group.Change(location.leaf,
                  [&](LeafPointer& leaf) { Own(leaf).Replace(at, leaf->Size() - at, {}); });
   });
 }
 
 void LeafList::JoinLeaves(std::size_t group, std::size_t leaf) {
-  ForgetPlace();
+  ForgetLocation();
   const auto join = [](LeafGroup& leaves, std::size_t left) {
     if (left + 1 >= leaves.Size()) return;
-    if (leaves[left]->Size() + leaves[left + 1]->Size() > kJoinedMost) return;
+    if (leaves[left]->Size() + leaves[left + 1]->Size() > kMergeThreshold) return;
     leaves.Change(left,
                   [&](LeafPointer& own) { Own(own).Replace(own->Size(), 0, *leaves[left + 1]); });
     leaves.Take(left + 1);
@@ -203,10 +205,10 @@ void LeafList::JoinLeaves(std::size_t group, std::size_t leaf) {
 }
 
 void LeafList::JoinGroups(std::size_t group) {
-  ForgetPlace();
+  ForgetLocation();
   const auto join = [this](std::size_t left) {
     if (left + 1 >= groups_.Size()) return;
-    if (groups_[left].Size() + groups_[left + 1].Size() > kGroupMost) return;
+    if (groups_[left].Size() + groups_[left + 1].Size() > kMaxGroupSize) return;
     groups_.Change(left, [&](LeafGroup& own) { own.Append(groups_[left + 1]); });
     groups_.Take(left + 1);
   };

@@ -5,20 +5,21 @@
 #include <optional>
 
 #include "document/text/Leaf.h"
-#include "document/text/Row.h"
+#include "document/text/SummedList.h"
 
 namespace lumenote {
 
-inline Extent ExtentOf(const LeafPointer& leaf) {
+inline TextSize SizeOf(const LeafPointer& leaf) {
   return {leaf->Size(), static_cast<Position>(leaf->marks.size())};
 }
-using LeafGroup = Row<LeafPointer>;
+using LeafGroup = SummedList<LeafPointer>;
 
 /// Iterates over the leaves of a list, which must not change meanwhile.
 class LeafCursor {
  public:
   /// At the leaf whose first unit is at `start`, or at the end: after the last group.
-  LeafCursor(const Row<LeafGroup>& groups, std::size_t group, std::size_t leaf, Position start)
+  LeafCursor(const SummedList<LeafGroup>& groups, std::size_t group, std::size_t leaf,
+             Position start)
       : groups_(&groups), group_(group), leaf_(leaf), start_(start) {}
 
   bool AtEnd() const { return group_ == groups_->Size(); }
@@ -30,7 +31,7 @@ class LeafCursor {
   void Next();
 
  private:
-  const Row<LeafGroup>* groups_;
+  const SummedList<LeafGroup>* groups_;
   std::size_t group_;
   std::size_t leaf_;
   Position start_;
@@ -39,20 +40,21 @@ class LeafCursor {
 /// Two levels: groups of leaves. An edit inside a leaf touches that leaf and the two sums above it;
 /// a larger one costs in leaves, not in units. Copies of a list share its leaves.
 ///
-/// Invariants: no leaf and no group is empty; a group has at most `kGroupMost` leaves; two
-/// neighbouring leaves of a group hold more than `kJoinedMost` units together, and two neighbouring
-/// groups more than `kGroupMost` leaves, so that no sequence of edits fragments the list.
+/// Invariants: no leaf and no group is empty; a group has at most `kMaxGroupSize` leaves; two
+/// neighbouring leaves of a group hold more than `kMergeThreshold` units together, and two
+/// neighbouring groups more than half of `kMaxGroupSize` leaves, so that no sequence of edits
+/// fragments the list.
 ///
 /// The last leaf looked up is cached, so one list must not even be read on two threads at once (two
 /// copies may).
 ///
 /// A change that fails to allocate leaves the list unchanged.
 ///
-/// Ranges must lie in 0..`Length()` and split no break. A list that would exceed `kMost` raises
+/// Ranges must lie in 0..`Length()` and split no break. A list that would exceed `kMax` raises
 /// Overflow before anything changes.
 class LeafList {
  public:
-  static constexpr Position kMost = std::numeric_limits<Position>::max();
+  static constexpr Position kMax = std::numeric_limits<Position>::max();
 
   bool Empty() const { return groups_.Empty(); }
   Position Length() const { return groups_.Total().length; }
@@ -93,36 +95,38 @@ class LeafList {
   /// a failed allocation.
   bool IsSound() const;
 
-  static constexpr Position kJoinedMost = Leaf::kCapacity / 2;
-  static constexpr std::size_t kGroupMost = 128;
+  static constexpr Position kMergeThreshold = Leaf::kCapacity / 2;
+  static constexpr std::size_t kMaxGroupSize = 128;
 
   static constexpr std::size_t kNowhere = std::numeric_limits<std::size_t>::max();
 
   /// A leaf's indices, and the size of everything before it.
-  struct Place {
+  struct Location {
     std::size_t group = kNowhere;
     std::size_t leaf = 0;
-    Extent before;
+    TextSize before;
   };
 
-  Place Holding(Position unit) const;
-  Place HoldingBreak(Position index) const;
-  const LeafPointer& LeafAt(const Place& place) const { return groups_[place.group][place.leaf]; }
+  Location Holding(Position unit) const;
+  Location HoldingBreak(Position index) const;
+  const LeafPointer& LeafAt(const Location& location) const {
+    return groups_[location.group][location.leaf];
+  }
   /// Does `Replace` within a single leaf, or returns empty if that is impossible.
   std::optional<LeafList> ReplaceInLeaf(Position from, Position to, const LeafList& piece);
-  void CutLeaf(const Place& place, Position at);
+  void CutLeaf(const Location& location, Position at);
   LeafList ReplaceAcrossLeaves(Position from, Position to, LeafList piece);
   /// Restore the invariants around a leaf or group that has shrunk.
   void JoinLeaves(std::size_t group, std::size_t leaf);
   void JoinGroups(std::size_t group);
 
-  void Tidy(const Place& place);
+  void Tidy(const Location& location);
 
   /// To be called after any change that moves leaves.
-  void ForgetPlace() { last_ = {}; }
+  void ForgetLocation() { last_ = {}; }
 
-  Row<LeafGroup> groups_;
-  mutable Place last_;  // of the last leaf looked up
+  SummedList<LeafGroup> groups_;
+  mutable Location last_;  // of the last leaf looked up
 };
 
 template <class Visit>

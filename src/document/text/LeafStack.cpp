@@ -4,7 +4,7 @@ namespace lumenote {
 
 void LeafStack::Push(const LeafList& piece) {
   if (piece.Empty()) return;
-  if (lists_.empty() || piece.Length() > LeafList::kMost - lists_.back().Length()) {
+  if (lists_.empty() || piece.Length() > LeafList::kMax - lists_.back().Length()) {
     lists_.push_back(piece);
   } else {
     LeafList& last = lists_.back();

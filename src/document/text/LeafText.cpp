@@ -41,7 +41,7 @@ void LeafText::Splice(Position at, Position removed, std::basic_string_view<Unit
   const auto added = static_cast<Position>(inserted.size());
   const Position size = size_ - removed + added;
   if (size > capacity_ || storage_.use_count() > 1) {
-    Reopen<Unit>(at, removed, added);
+    Reallocate<Unit>(at, removed, added);
   } else {
     Unit* const hole = Data<Unit>() + at;
     std::char_traits<Unit>::move(hole + added, hole + removed, size_ - at - removed);
@@ -51,7 +51,7 @@ void LeafText::Splice(Position at, Position removed, std::basic_string_view<Unit
 }
 
 template <class Unit>
-void LeafText::Reopen(Position at, Position removed, Position inserted) {
+void LeafText::Reallocate(Position at, Position removed, Position inserted) {
   const Unit* const old = Data<Unit>();
   const Position room = RoomFor(size_ - removed + inserted);
   auto storage = Storage<Unit>(room);

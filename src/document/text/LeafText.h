@@ -36,7 +36,7 @@ class LeafText {
   /// Moves the text to a buffer of its own, without `removed` units at `at` and with a gap of
   /// `inserted` units there.
   template <class Unit>
-  void Reopen(Position at, Position removed, Position inserted);
+  void Reallocate(Position at, Position removed, Position inserted);
   /// Converts the bytes to units.
   void Widen();
 

@@ -43,7 +43,7 @@ void Runs::Replace(Position at, Position removed, const Runs& inserted) {
 Runs Runs::Part(Position from, Position to) const {
   Runs part;
   if (from == to) return part;
-  const Spot first = Holding(from);
+  const Location first = Holding(from);
   Position start = first.start;
   for (Index i = first.index; start < to; start += LengthOf(i++)) {
     const Position end = std::min(start + LengthOf(i), to);
@@ -67,26 +67,27 @@ void Runs::Clear() {
   length_ = 0;
 }
 
-Runs::Spot Runs::Holding(Position at) const {
-  Spot spot;
+Runs::Location Runs::Holding(Position at) const {
+  Location location;
   if (at < length_ / 2) {
-    while (spot.start + LengthOf(spot.index) <= at) spot.start += LengthOf(spot.index++);
-    return spot;
+    while (location.start + LengthOf(location.index) <= at)
+      location.start += LengthOf(location.index++);
+    return location;
   }
-  spot = {std::ssize(items_), length_};
-  while (spot.start > at) spot.start -= LengthOf(--spot.index);
-  return spot;
+  location = {std::ssize(items_), length_};
+  while (location.start > at) location.start -= LengthOf(--location.index);
+  return location;
 }
 
 Runs::Index Runs::CutAt(Position at) {
   if (at == length_) return std::ssize(items_);
-  const Spot spot = Holding(at);
-  if (spot.start == at) return spot.index;
-  const CharId format = items_[spot.index].format;
-  const Run rest = MakeRun(spot.start + LengthOf(spot.index) - at, format);
-  items_[spot.index] = MakeRun(at - spot.start, format);
-  items_.insert(items_.begin() + spot.index + 1, rest);
-  return spot.index + 1;
+  const Location location = Holding(at);
+  if (location.start == at) return location.index;
+  const CharId format = items_[location.index].format;
+  const Run rest = MakeRun(location.start + LengthOf(location.index) - at, format);
+  items_[location.index] = MakeRun(at - location.start, format);
+  items_.insert(items_.begin() + location.index + 1, rest);
+  return location.index + 1;
 }
 
 void Runs::JoinBefore(Index index) {
@@ -100,13 +101,13 @@ void Runs::JoinBefore(Index index) {
 bool Runs::Resize(Position at, Position removed, const Runs& inserted) {
   if (inserted.items_.size() > 1 || items_.empty()) return false;
   // Text inserted between two runs may extend the first.
-  const Spot spot = Holding(removed == 0 && at > 0 ? at - 1 : at);
-  const CharId format = items_[spot.index].format;
+  const Location location = Holding(removed == 0 && at > 0 ? at - 1 : at);
+  const CharId format = items_[location.index].format;
   const Position change = inserted.length_ - removed;
-  const Position resized = LengthOf(spot.index) + change;
-  if (at + removed > spot.start + LengthOf(spot.index) || resized == 0) return false;
+  const Position resized = LengthOf(location.index) + change;
+  if (at + removed > location.start + LengthOf(location.index) || resized == 0) return false;
   if (!inserted.items_.empty() && inserted.items_.front().format != format) return false;
-  items_[spot.index] = MakeRun(resized, format);
+  items_[location.index] = MakeRun(resized, format);
   length_ += change;
   return true;
 }

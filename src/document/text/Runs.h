@@ -46,13 +46,13 @@ class Runs {
  private:
   using Index = std::ptrdiff_t;
   /// A run's index and start.
-  struct Spot {
+  struct Location {
     Index index = 0;
     Position start = 0;
   };
 
   /// The run of the unit at `at`, which must lie inside; searched from the nearer end.
-  Spot Holding(Position at) const;
+  Location Holding(Position at) const;
   Position LengthOf(Index index) const { return static_cast<Position>(items_[index].length); }
   /// Index of the run that starts at `at`; splits the run that contains `at`.
   Index CutAt(Position at);

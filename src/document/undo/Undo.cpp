@@ -14,39 +14,40 @@ void UndoHistory::Begin(UndoKind kind, Selection before) {
 }
 
 /// An implicit group for an edit made outside any group.
-class UndoHistory::Alone {
+class UndoHistory::ImplicitGroup {
  public:
-  Alone(UndoHistory& history, Selection range, Selection after)
-      : history_(history), after_(after), alone_(history.depth_ == 0) {
-    if (alone_) history_.Begin(UndoKind::Unknown, range);
+  ImplicitGroup(UndoHistory& history, Selection range, Selection after)
+      : history_(history), after_(after), implicit_(history.depth_ == 0) {
+    if (implicit_) history_.Begin(UndoKind::Unknown, range);
   }
-  ~Alone() {
-    if (alone_) history_.End(after_);
+  ~ImplicitGroup() {
+    if (implicit_) history_.End(after_);
   }
-  Alone(const Alone&) = delete;
-  Alone& operator=(const Alone&) = delete;
+  ImplicitGroup(const ImplicitGroup&) = delete;
+  ImplicitGroup& operator=(const ImplicitGroup&) = delete;
 
  private:
   UndoHistory& history_;
   Selection after_;
-  bool alone_;
+  bool implicit_;
 };
 
 EditRange UndoHistory::Apply(Position from, Position to, Fragment inserted) {
-  const Selection range = document_.Outwards(from, to);
+  const Selection range = document_.SnapOutward(from, to);
   const EditRange edit{range.start, range.Length(), inserted.Length()};
   if (inserted.mark == document_.Mark()) inserted.mark.reset();
   if (edit.removed == 0 && edit.inserted == 0 && !inserted.mark) return edit;
   const bool closing = inserted.leaves.Breaks() > 0;
   const Position end = edit.at + edit.inserted;
-  const Alone alone(*this, range, {end, end});
-  Exchange(range, std::move(inserted), [&](const Fragment& removed) { Remember(edit, removed); });
+  const ImplicitGroup group(*this, range, {end, end});
+  ReplaceKeeping(range, std::move(inserted),
+                 [&](const Fragment& removed) { Remember(edit, removed); });
   closing_ |= closing;
   return edit;
 }
 
 template <class Keeping>
-void UndoHistory::Exchange(Selection range, Fragment inserted, Keeping keep) {
+void UndoHistory::ReplaceKeeping(Selection range, Fragment inserted, Keeping keep) {
   const Position end = range.start + inserted.Length();
   Fragment removed = document_.Replace(range, std::move(inserted));
   try {
@@ -129,17 +130,17 @@ std::optional<UndoStep> UndoHistory::Revert(UndoLog& from, UndoLog& to, const Ed
   ++age_;
   const UndoStep step = from.Last();
   to.Start(step);
-  CarryStep(from, to, visit);
+  MoveStep(from, to, visit);
   from.Drop();
   return step;
 }
 
-void UndoHistory::CarryStep(UndoLog& from, UndoLog& to, const EditVisitor& visit) {
+void UndoHistory::MoveStep(UndoLog& from, UndoLog& to, const EditVisitor& visit) {
   try {
-    while (from.StepHasEdits()) CarryEdit(from, to, visit);
+    while (from.StepHasEdits()) MoveEdit(from, to, visit);
   } catch (const std::bad_alloc&) {
     try {
-      while (to.StepHasEdits()) CarryEdit(to, from, visit);
+      while (to.StepHasEdits()) MoveEdit(to, from, visit);
       if (!to.Empty()) to.Drop();
     } catch (const std::bad_alloc&) {
       Clear();
@@ -148,11 +149,11 @@ void UndoHistory::CarryStep(UndoLog& from, UndoLog& to, const EditVisitor& visit
   }
 }
 
-void UndoHistory::CarryEdit(UndoLog& from, UndoLog& to, const EditVisitor& visit) {
+void UndoHistory::MoveEdit(UndoLog& from, UndoLog& to, const EditVisitor& visit) {
   const UndoLog::Taken taken = from.Take();
   const UndoEdit& edit = taken.edit;
   try {
-    Exchange({edit.at, edit.at + edit.inserted}, taken.removed, [&](const Fragment& removed) {
+    ReplaceKeeping({edit.at, edit.at + edit.inserted}, taken.removed, [&](const Fragment& removed) {
       to.Push({edit.at, edit.inserted, edit.removed, removed.mark}, removed.leaves);
     });
   } catch (const std::bad_alloc&) {
@@ -172,35 +173,35 @@ void UndoHistory::PutBack(UndoLog& log, const UndoLog::Taken& taken) {
 
 // --- rolling back
 
-UndoMark UndoHistory::Mark() const {
+UndoSavepoint UndoHistory::Savepoint() const {
   const std::size_t edits = undo_.CountOfEdits();
   return {age_, stepsBegun_, edits, edits > 0 ? undo_.LastEdit().inserted : 0};
 }
 
-void UndoHistory::BackTo(const UndoMark& mark, const EditVisitor& visit) {
-  if (mark.age != age_) return;
+void UndoHistory::RollBackTo(const UndoSavepoint& savepoint, const EditVisitor& visit) {
+  if (savepoint.age != age_) return;
   open_ = false;
   try {
-    for (; stepsBegun_ > mark.steps && !undo_.Empty(); --stepsBegun_) {
-      while (undo_.StepHasEdits()) TakeBack(visit);
+    for (; stepsBegun_ > savepoint.steps && !undo_.Empty(); --stepsBegun_) {
+      while (undo_.StepHasEdits()) RollBackEdit(visit);
       undo_.Drop();
       started_ = false;
     }
-    while (undo_.CountOfEdits() > mark.edits) TakeBack(visit);
-    if (undo_.CountOfEdits() == mark.edits && undo_.StepHasEdits())
-      TakeBackTyping(mark.lastInserted, visit);
+    while (undo_.CountOfEdits() > savepoint.edits) RollBackEdit(visit);
+    if (undo_.CountOfEdits() == savepoint.edits && undo_.StepHasEdits())
+      RollBackTyping(savepoint.lastInserted, visit);
   } catch (const std::bad_alloc&) {
     Clear();
   }
 }
 
-void UndoHistory::TakeBack(const EditVisitor& visit) {
+void UndoHistory::RollBackEdit(const EditVisitor& visit) {
   const auto [edit, removed] = undo_.Take();
   document_.Replace(Selection{edit.at, edit.at + edit.inserted}, removed);
   visit(edit.at, edit.inserted, edit.removed);
 }
 
-void UndoHistory::TakeBackTyping(Position inserted, const EditVisitor& visit) {
+void UndoHistory::RollBackTyping(Position inserted, const EditVisitor& visit) {
   const UndoEdit& last = undo_.LastEdit();
   if (last.inserted == inserted) return;
   const Selection typed{last.at + inserted, last.at + last.inserted};

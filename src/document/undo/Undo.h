@@ -6,7 +6,7 @@
 #include "document/Document.h"
 #include "document/undo/UndoKind.h"
 #include "document/undo/UndoLog.h"
-#include "document/undo/UndoMark.h"
+#include "document/undo/UndoSavepoint.h"
 
 namespace lumenote {
 
@@ -42,10 +42,10 @@ class UndoHistory {
   EditRange Apply(Position from, Position to, Fragment inserted);
   void End(Selection after);
 
-  /// A savepoint; `BackTo` rolls back every edit since, without redo. Does nothing if the savepoint
-  /// has become invalid.
-  UndoMark Mark() const;
-  void BackTo(const UndoMark& mark, const EditVisitor& visit);
+  /// A savepoint; `RollBackTo` rolls back every edit since, without redo. Does nothing if the
+  /// savepoint has become invalid.
+  UndoSavepoint Savepoint() const;
+  void RollBackTo(const UndoSavepoint& savepoint, const EditVisitor& visit);
 
   void Close() { open_ = false; }
   void Clear();
@@ -63,22 +63,22 @@ class UndoHistory {
   std::optional<Selection> Redo(const EditVisitor& visit = {});
 
  private:
-  class Alone;
+  class ImplicitGroup;
 
   /// Replaces a range and passes the removed fragment to `keep`; rolls back if that fails to
   /// allocate.
   template <class Keeping>
-  void Exchange(Selection range, Fragment inserted, Keeping keep);
+  void ReplaceKeeping(Selection range, Fragment inserted, Keeping keep);
   void Remember(const EditRange& edit, const Fragment& removed);
   bool Continues(const EditRange& edit) const;
   std::optional<UndoStep> Revert(UndoLog& from, UndoLog& to, const EditVisitor& visit);
   /// Moves all edits of one log's last step to the other log's last step, applying them; all or
   /// nothing.
-  void CarryStep(UndoLog& from, UndoLog& to, const EditVisitor& visit);
-  void CarryEdit(UndoLog& from, UndoLog& to, const EditVisitor& visit);
+  void MoveStep(UndoLog& from, UndoLog& to, const EditVisitor& visit);
+  void MoveEdit(UndoLog& from, UndoLog& to, const EditVisitor& visit);
   void PutBack(UndoLog& log, const UndoLog::Taken& taken);
-  void TakeBack(const EditVisitor& visit);
-  void TakeBackTyping(Position inserted, const EditVisitor& visit);
+  void RollBackEdit(const EditVisitor& visit);
+  void RollBackTyping(Position inserted, const EditVisitor& visit);
 
   Document& document_;
   UndoLog undo_;

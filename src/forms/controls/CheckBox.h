@@ -7,8 +7,8 @@ namespace lumenote {
 /// `Value` is 0 or 1. Only the user's click raises Click.
 class CheckBox : public CaptionedControl {
  public:
-  CheckBox(Container& container, std::string name, Rect place, std::u16string caption)
-      : CaptionedControl(container, std::move(name), place, std::move(caption)) {}
+  CheckBox(Container& container, std::string name, Rect bounds, std::u16string caption)
+      : CaptionedControl(container, std::move(name), bounds, std::move(caption)) {}
 
   int Value() const { return value_; }
   /// Raises InvalidPropertyValue (380) for anything but 0 and 1.

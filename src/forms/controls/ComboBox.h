@@ -18,9 +18,9 @@ enum class ComboStyle { Editable, ListOnly };
 /// the highlight; Return chooses it, Escape cancels.
 class ComboBox : public Control {
  public:
-  ComboBox(Container& container, std::string name, Rect place,
+  ComboBox(Container& container, std::string name, Rect bounds,
            ComboStyle style = ComboStyle::Editable)
-      : Control(container, std::move(name), place), style_(style) {}
+      : Control(container, std::move(name), bounds), style_(style) {}
 
   ComboStyle Style() const { return style_; }
   const std::vector<std::u16string>& List() const { return list_; }

@@ -6,8 +6,8 @@ namespace lumenote {
 
 class Frame : public CaptionedControl, public Container {
  public:
-  Frame(Container& container, std::string name, Rect place, std::u16string caption = {})
-      : CaptionedControl(container, std::move(name), place, std::move(caption)) {}
+  Frame(Container& container, std::string name, Rect bounds, std::u16string caption = {})
+      : CaptionedControl(container, std::move(name), bounds, std::move(caption)) {}
 
   Form& ContainingForm() override { return Owner(); }
 };

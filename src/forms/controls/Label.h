@@ -9,9 +9,9 @@ enum class LabelStyle { Text, Cell };
 
 class Label : public CaptionedControl {
  public:
-  Label(Container& container, std::string name, Rect place, std::u16string caption = {},
+  Label(Container& container, std::string name, Rect bounds, std::u16string caption = {},
         LabelStyle style = LabelStyle::Text)
-      : CaptionedControl(container, std::move(name), place, std::move(caption)), style_(style) {}
+      : CaptionedControl(container, std::move(name), bounds, std::move(caption)), style_(style) {}
 
   LabelStyle Style() const { return style_; }
 

@@ -7,8 +7,8 @@ namespace lumenote {
 /// At most one option button of a container is chosen. Only the user's click raises Click.
 class OptionButton : public CaptionedControl {
  public:
-  OptionButton(Container& container, std::string name, Rect place, std::u16string caption)
-      : CaptionedControl(container, std::move(name), place, std::move(caption)) {}
+  OptionButton(Container& container, std::string name, Rect bounds, std::u16string caption)
+      : CaptionedControl(container, std::move(name), bounds, std::move(caption)) {}
 
   bool Value() const { return value_; }
   void Value(bool on);

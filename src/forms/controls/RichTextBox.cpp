@@ -6,8 +6,8 @@
 
 namespace lumenote {
 
-RichTextBox::RichTextBox(Container& container, std::string name, Rect place)
-    : Control(container, std::move(name), place) {
+RichTextBox::RichTextBox(Container& container, std::string name, Rect bounds)
+    : Control(container, std::move(name), bounds) {
   Platform& machine = Owner().Machine();
   surface_ = machine.Windows().MakeSurface(*this, machine.SystemClipboard(), machine.FileSystem());
   surface_->OnChange([this] {

@@ -11,7 +11,7 @@ namespace lumenote {
 /// Wraps a surface that the backend creates. `Locked` blocks edits by the user, not by the program.
 class RichTextBox : public Control {
  public:
-  RichTextBox(Container& container, std::string name, Rect place);
+  RichTextBox(Container& container, std::string name, Rect bounds);
   ~RichTextBox() override;
 
   RichTextSurface& Surface() { return *surface_; }

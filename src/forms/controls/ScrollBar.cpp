@@ -7,17 +7,17 @@
 
 namespace lumenote {
 
-void ScrollBar::Range(int least, int most) {
-  min_ = least;
-  max_ = most;
+void ScrollBar::Range(int minimum, int maximum) {
+  min_ = minimum;
+  max_ = maximum;
   const int clipped = std::clamp(value_, min_, max_);
   Changed(Property::Value);
   Value(clipped);
 }
 
-void ScrollBar::Min(int least) { Range(least, std::max(least, max_)); }
+void ScrollBar::Min(int minimum) { Range(minimum, std::max(minimum, max_)); }
 
-void ScrollBar::Max(int most) { Range(std::min(min_, most), most); }
+void ScrollBar::Max(int maximum) { Range(std::min(min_, maximum), maximum); }
 
 void ScrollBar::Value(int value) {
   if (value < min_ || value > max_) throw RuntimeError(ErrorNumber::InvalidPropertyValue);

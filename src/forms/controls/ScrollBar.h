@@ -14,8 +14,8 @@ class ScrollBar : public Control {
   int Min() const { return min_; }
   int Max() const { return max_; }
   /// Clips the value to the new range. A bound that crosses the other one moves it along.
-  void Min(int least);
-  void Max(int most);
+  void Min(int minimum);
+  void Max(int maximum);
   int Value() const { return value_; }
   /// Raises InvalidPropertyValue (380) outside the range.
   void Value(int value);
@@ -29,7 +29,7 @@ class ScrollBar : public Control {
   void Describe(MemberTable& members) override;
 
  private:
-  void Range(int least, int most);
+  void Range(int minimum, int maximum);
 
   int min_ = 0;
   int max_ = 0;

@@ -5,8 +5,8 @@
 
 namespace lumenote {
 
-TextBox::TextBox(Container& container, std::string name, Rect place, std::u16string_view text)
-    : Control(container, std::move(name), place) {
+TextBox::TextBox(Container& container, std::string name, Rect bounds, std::u16string_view text)
+    : Control(container, std::move(name), bounds) {
   line_.Text(text);
 }
 

@@ -10,7 +10,7 @@ namespace lumenote {
 /// A real change of the text raises Change, whatever caused it. `Locked` blocks edits by the user.
 class TextBox : public Control {
  public:
-  TextBox(Container& container, std::string name, Rect place, std::u16string_view text = {});
+  TextBox(Container& container, std::string name, Rect bounds, std::u16string_view text = {});
 
   const std::u16string& Text() const { return line_.Text(); }
   void Text(std::u16string_view text);

@@ -9,8 +9,8 @@ namespace lumenote {
 /// `Value` stays within `Min`..`Max`; a real change raises Change, whatever caused it.
 class UpDown : public Control {
  public:
-  UpDown(Container& container, std::string name, Rect place, int least, int most, int value)
-      : Control(container, std::move(name), place), min_(least), max_(most), value_(value) {}
+  UpDown(Container& container, std::string name, Rect bounds, int minimum, int maximum, int value)
+      : Control(container, std::move(name), bounds), min_(minimum), max_(maximum), value_(value) {}
 
   int Min() const { return min_; }
   int Max() const { return max_; }

@@ -38,7 +38,7 @@ Value ErrorValue(Value number, std::u16string_view description) {
 }
 
 void Transcript::At(int number, std::string_view line) {
-  place_ = "line " + std::to_string(number) + ": " + std::string(line);
+  location_ = "line " + std::to_string(number) + ": " + std::string(line);
 }
 
 void Transcript::Print(const Value& value) {
@@ -76,12 +76,12 @@ void Transcript::Count(bool passed, std::string_view wanted) {
   expecting_ = true;
   ++(passed ? passed_ : failed_);
   if (passed) return;
-  err_ << place_ << "\n  expected: " << wanted << "\n  actual:   " << last_ << std::endl;
+  err_ << location_ << "\n  expected: " << wanted << "\n  actual:   " << last_ << std::endl;
 }
 
 void Transcript::Fault(std::string_view what) {
   faulty_ = true;
-  err_ << place_ << "\n  " << what << std::endl;
+  err_ << location_ << "\n  " << what << std::endl;
 }
 
 int Transcript::Close() {

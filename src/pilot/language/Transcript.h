@@ -45,7 +45,7 @@ class Transcript {
   std::ostream& err_;
   std::string last_;
   std::map<std::string, std::string> kept_;
-  std::string place_;
+  std::string location_;
   int passed_ = 0;
   int failed_ = 0;
   bool expecting_ = false;

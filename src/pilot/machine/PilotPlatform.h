@@ -1,8 +1,8 @@
 // A script's machine: files, settings and programs of a sandbox, and windows.
 #pragma once
 #include "lumenote/Platform.h"
+#include "pilot/machine/FakePrograms.h"
 #include "pilot/machine/Sandbox.h"
-#include "pilot/machine/StandIns.h"
 
 namespace lumenote {
 

@@ -13,7 +13,7 @@ class Folders;
 class ProgramFolders;
 class Registry;
 class Settings;
-class StandIns;
+class FakePrograms;
 class StateFolder;
 
 enum class LinkKind { Hard, Symbolic };
@@ -33,7 +33,7 @@ class Sandbox {
   virtual const Registry& MachineRegistry() const = 0;
   virtual const ProgramFolders& InstalledPrograms() const = 0;
   /// The only programs of this machine.
-  virtual StandIns& Programs() = 0;
+  virtual FakePrograms& Programs() = 0;
 
   /// Writes one string by key (case ignored) and name ("" for the key's default value).
   virtual void WriteRegistry(std::u16string_view key, std::u16string_view name,

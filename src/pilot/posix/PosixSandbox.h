@@ -11,8 +11,8 @@
 #include "backends/posix/settings/IniRegistry.h"
 #include "backends/posix/settings/IniSettings.h"
 #include "backends/posix/state/PosixStateFolder.h"
+#include "pilot/machine/FakePrograms.h"
 #include "pilot/machine/Sandbox.h"
-#include "pilot/machine/StandIns.h"
 
 namespace lumenote {
 
@@ -35,7 +35,7 @@ class PosixSandbox final : public Sandbox {
 
   const Registry& MachineRegistry() const override { return registry_; }
   const ProgramFolders& InstalledPrograms() const override { return programFolders_; }
-  StandIns& Programs() override { return programs_; }
+  FakePrograms& Programs() override { return programs_; }
 
   void WriteRegistry(std::u16string_view key, std::u16string_view name,
                      std::u16string_view value) override;
@@ -59,7 +59,7 @@ class PosixSandbox final : public Sandbox {
   IniRegistry registry_;
   IniSettings registryFile_;
   FixedProgramFolders programFolders_;
-  StandIns programs_;
+  FakePrograms programs_;
   MemoryClipboard clipboard_;
 };
 

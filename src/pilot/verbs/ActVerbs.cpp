@@ -7,10 +7,10 @@
 #include "forms/controls/ComboBox.h"
 #include "forms/controls/RichTextBox.h"
 #include "forms/controls/UpDown.h"
+#include "pilot/context/ScriptContext.h"
+#include "pilot/context/UsableElements.h"
 #include "pilot/language/Arguments.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Reach.h"
-#include "pilot/stage/Stage.h"
 #include "pilot/verbs/Verbs.h"
 
 namespace lumenote::verbs {
@@ -47,110 +47,110 @@ MouseEvent ReadMouseEvent(Arguments& arguments) {
 
 /// A control of one kind that the user can operate.
 template <class Kind>
-Kind& ReachKind(Stage& stage, std::string_view path) {
-  if (auto* control = dynamic_cast<Kind*>(&ReachControl(stage, path))) return *control;
+Kind& UsableKind(ScriptContext& context, std::string_view path) {
+  if (auto* control = dynamic_cast<Kind*>(&UsableControl(context, path))) return *control;
   throw ScriptError(std::string(path) + " is not of that kind");
 }
 
 }  // namespace
 
-Answer Click(Stage& stage, Arguments& arguments) {
+Answer Click(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   arguments.End();
-  Element& element = ReachPart(stage, path);
+  Element& element = UsablePart(context, path);
   auto* menu = dynamic_cast<Menu*>(&element);
   if (!menu)
-    stage.acts.Click(static_cast<Control&>(element));
+    context.acts.Click(static_cast<Control&>(element));
   else if (menu->Entries().empty())
-    stage.acts.Choose(*menu);
+    context.acts.Choose(*menu);
   else
-    stage.acts.Open(*menu);
+    context.acts.Open(*menu);
   return {};
 }
 
-Answer DoubleClick(Stage& stage, Arguments& arguments) {
+Answer DoubleClick(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   arguments.End();
-  stage.acts.DoubleClick(ReachControl(stage, path));
+  context.acts.DoubleClick(UsableControl(context, path));
   return {};
 }
 
-Answer Open(Stage& stage, Arguments& arguments) {
+Answer Open(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   arguments.End();
-  stage.acts.Open(ReachMenu(stage, path));
+  context.acts.Open(UsableMenu(context, path));
   return {};
 }
 
-Answer Type(Stage& stage, Arguments& arguments) {
+Answer Type(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const std::u16string text = arguments.Text();
   arguments.End();
-  stage.acts.Type(ReachKeyboard(stage, path), text);
+  context.acts.Type(KeyboardTarget(context, path), text);
   return {};
 }
 
-Answer Key(Stage& stage, Arguments& arguments) {
+Answer Key(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const std::optional<KeyStroke> key = ParseKey(arguments.Text());
   arguments.End();
   if (!key) throw ScriptError("unknown key");
-  stage.acts.Key(ReachKeyboard(stage, path), *key);
+  context.acts.Key(KeyboardTarget(context, path), *key);
   return {};
 }
 
-Answer Select(Stage& stage, Arguments& arguments) {
+Answer Select(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const Position start = ReadPosition(arguments);
   const Position length = ReadPosition(arguments);
   arguments.End();
-  stage.acts.Select(ReachSurface(stage, path), start, length);
+  context.acts.Select(UsableSurface(context, path), start, length);
   return {};
 }
 
-Answer Mouse(Stage& stage, Arguments& arguments) {
+Answer Mouse(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const MouseAct act = ReadMouseAct(arguments);
   const MouseEvent event = ReadMouseEvent(arguments);
   arguments.End();
-  stage.acts.Mouse(ReachControl(stage, path), act, event);
+  context.acts.Mouse(UsableControl(context, path), act, event);
   return {};
 }
 
-Answer Drag(Stage& stage, Arguments& arguments) {
+Answer Drag(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const Position start = ReadPosition(arguments);
   const Position length = ReadPosition(arguments);
   const Position to = ReadPosition(arguments);
   arguments.End();
-  stage.acts.Drag(ReachSurface(stage, path), start, length, to);
+  context.acts.Drag(UsableSurface(context, path), start, length, to);
   return {};
 }
 
-Answer Spin(Stage& stage, Arguments& arguments) {
+Answer Spin(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const std::string arrow = arguments.Name();
   arguments.End();
   if (arrow != "up" && arrow != "down") throw ScriptError("up or down expected");
-  stage.acts.Spin(ReachKind<UpDown>(stage, path), arrow == "up");
+  context.acts.Spin(UsableKind<UpDown>(context, path), arrow == "up");
   return {};
 }
 
-Answer Pick(Stage& stage, Arguments& arguments) {
+Answer Pick(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const int index = arguments.Whole(0, std::numeric_limits<int>::max());
   arguments.End();
-  auto& combo = ReachKind<ComboBox>(stage, path);
+  auto& combo = UsableKind<ComboBox>(context, path);
   if (index >= static_cast<int>(combo.List().size()))
     throw RuntimeError(ErrorNumber::NoSuchElement);
-  stage.acts.Pick(combo, index);
+  context.acts.Pick(combo, index);
   return {};
 }
 
-Answer Drop(Stage& stage, Arguments& arguments) {
+Answer Drop(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   arguments.End();
-  stage.acts.Drop(ReachKind<ComboBox>(stage, path));
+  context.acts.Drop(UsableKind<ComboBox>(context, path));
   return {};
 }
 

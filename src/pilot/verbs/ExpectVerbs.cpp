@@ -1,6 +1,6 @@
 // Expectations about the last line printed.
+#include "pilot/context/ScriptContext.h"
 #include "pilot/language/Arguments.h"
-#include "pilot/stage/Stage.h"
 #include "pilot/verbs/Verbs.h"
 
 namespace lumenote::verbs {
@@ -20,28 +20,28 @@ std::string ReadName(Arguments& arguments) {
 
 }  // namespace
 
-Answer Expect(Stage& stage, Arguments& arguments) {
-  stage.transcript.Expect(ReadWanted(arguments));
+Answer Expect(ScriptContext& context, Arguments& arguments) {
+  context.transcript.Expect(ReadWanted(arguments));
   return {};
 }
 
-Answer ExpectHas(Stage& stage, Arguments& arguments) {
-  stage.transcript.ExpectHas(ReadWanted(arguments));
+Answer ExpectHas(ScriptContext& context, Arguments& arguments) {
+  context.transcript.ExpectHas(ReadWanted(arguments));
   return {};
 }
 
-Answer ExpectLike(Stage& stage, Arguments& arguments) {
-  stage.transcript.ExpectLike(arguments.Rest());
+Answer ExpectLike(ScriptContext& context, Arguments& arguments) {
+  context.transcript.ExpectLike(arguments.Rest());
   return {};
 }
 
-Answer Keep(Stage& stage, Arguments& arguments) {
-  stage.transcript.Keep(ReadName(arguments));
+Answer Keep(ScriptContext& context, Arguments& arguments) {
+  context.transcript.Keep(ReadName(arguments));
   return {};
 }
 
-Answer ExpectKept(Stage& stage, Arguments& arguments) {
-  stage.transcript.ExpectKept(ReadName(arguments));
+Answer ExpectKept(ScriptContext& context, Arguments& arguments) {
+  context.transcript.ExpectKept(ReadName(arguments));
   return {};
 }
 

@@ -5,9 +5,9 @@
 #include "base/Strings.h"
 #include "base/TextEncoding.h"
 #include "base/Windows1252.h"
+#include "pilot/context/ScriptContext.h"
 #include "pilot/language/Arguments.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Stage.h"
 #include "pilot/verbs/Verbs.h"
 #include "platform/Files.h"
 
@@ -54,74 +54,74 @@ LinkKind TakeLinkKind(Arguments& arguments) {
 
 }  // namespace
 
-Answer File(Stage& stage, Arguments& arguments) {
+Answer File(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   const std::u16string content = arguments.Text();
   arguments.End();
   if (!Fits1252(content)) throw ScriptError("a character outside code page 1252");
-  Lay(stage.sandbox, path, Encode1252(content));
+  Lay(context.sandbox, path, Encode1252(content));
   return {};
 }
 
-Answer Bytes(Stage& stage, Arguments& arguments) {
+Answer Bytes(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   const std::string bytes = BytesOfHex(arguments.Name());
   arguments.End();
-  Lay(stage.sandbox, path, bytes);
+  Lay(context.sandbox, path, bytes);
   return {};
 }
 
-Answer Cat(Stage& stage, Arguments& arguments) {
+Answer Cat(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   arguments.End();
-  const auto bytes = ContentOf(stage.sandbox.FileSystem(), path);
+  const auto bytes = ContentOf(context.sandbox.FileSystem(), path);
   return bytes ? Value(Decoded(*bytes)) : Value();
 }
 
-Answer Hex(Stage& stage, Arguments& arguments) {
+Answer Hex(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   arguments.End();
-  const auto bytes = ContentOf(stage.sandbox.FileSystem(), path);
+  const auto bytes = ContentOf(context.sandbox.FileSystem(), path);
   return bytes ? Value(FromUtf8(HexOfBytes(*bytes))) : Value();
 }
 
-Answer Link(Stage& stage, Arguments& arguments) {
+Answer Link(ScriptContext& context, Arguments& arguments) {
   const std::u16string name = arguments.Text();
   const std::u16string file = arguments.Text();
   const LinkKind kind = TakeLinkKind(arguments);
   arguments.End();
-  stage.sandbox.Link(name, file, kind);
+  context.sandbox.Link(name, file, kind);
   return {};
 }
 
-Answer Ls(Stage& stage, Arguments& arguments) {
+Answer Ls(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   arguments.End();
   Value::Array names;
-  for (std::u16string& name : stage.sandbox.List(path)) names.emplace_back(std::move(name));
+  for (std::u16string& name : context.sandbox.List(path)) names.emplace_back(std::move(name));
   return names;
 }
 
-Answer Rm(Stage& stage, Arguments& arguments) {
+Answer Rm(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   arguments.End();
-  stage.sandbox.Remove(path);
+  context.sandbox.Remove(path);
   return {};
 }
 
-Answer ReadOnly(Stage& stage, Arguments& arguments) {
+Answer ReadOnly(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   const bool on = arguments.Flag();
   arguments.End();
-  stage.sandbox.ReadOnly(path, on);
+  context.sandbox.ReadOnly(path, on);
   return {};
 }
 
-Answer Touch(Stage& stage, Arguments& arguments) {
+Answer Touch(ScriptContext& context, Arguments& arguments) {
   constexpr std::int64_t kSeconds = 10;
   const std::u16string path = arguments.Text();
   arguments.End();
-  stage.sandbox.Age(path, kSeconds);
+  context.sandbox.Age(path, kSeconds);
   return {};
 }
 

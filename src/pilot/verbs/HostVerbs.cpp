@@ -2,9 +2,9 @@
 #include <array>
 #include <limits>
 
+#include "pilot/context/ScriptContext.h"
 #include "pilot/language/Arguments.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Stage.h"
 #include "pilot/verbs/Verbs.h"
 
 namespace lumenote::verbs {
@@ -35,21 +35,21 @@ const HostProperty& FindProperty(std::string_view name) {
 
 }  // namespace
 
-Answer Host(Stage& stage, Arguments& arguments) {
+Answer Host(ScriptContext& context, Arguments& arguments) {
   const std::string name = arguments.Name();
   const HostProperty& property = FindProperty(name);
-  if (arguments.AtEnd() && name == "pStrOrchm") return Value(stage.control.pStrOrchm());
+  if (arguments.AtEnd() && name == "pStrOrchm") return Value(context.control.pStrOrchm());
   const std::u16string value = arguments.Text();
   arguments.End();
-  (stage.control.*property.write)(value);
+  (context.control.*property.write)(value);
   return {};
 }
 
-Answer Show(Stage& stage, Arguments& arguments) {
+Answer Show(ScriptContext& context, Arguments& arguments) {
   using Limits = std::numeric_limits<std::int32_t>;
   const std::int32_t mode = arguments.AtEnd() ? 0 : arguments.Whole(Limits::min(), Limits::max());
   arguments.End();
-  stage.control.ShowMicroEdit(mode);
+  context.control.ShowMicroEdit(mode);
   return {};
 }
 

@@ -1,9 +1,9 @@
 // The machine around the component: clipboard, time, settings, registry, fonts.
 #include <limits>
 
+#include "pilot/context/ScriptContext.h"
 #include "pilot/language/Arguments.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Stage.h"
 #include "pilot/verbs/Verbs.h"
 #include "platform/Clipboard.h"
 #include "platform/Registry.h"
@@ -25,8 +25,8 @@ Value ClipboardValue(const ClipboardContent& content) {
 
 }  // namespace
 
-Answer Clip(Stage& stage, Arguments& arguments) {
-  Clipboard& clipboard = stage.sandbox.SystemClipboard();
+Answer Clip(ScriptContext& context, Arguments& arguments) {
+  Clipboard& clipboard = context.sandbox.SystemClipboard();
   if (arguments.AtEnd()) return ClipboardValue(clipboard.Get());
   const Value content = arguments.Any();
   arguments.End();
@@ -39,25 +39,25 @@ Answer Clip(Stage& stage, Arguments& arguments) {
   return {};
 }
 
-Answer ClipRtf(Stage& stage, Arguments& arguments) {
+Answer ClipRtf(ScriptContext& context, Arguments& arguments) {
   const std::string rtf = NarrowSource(arguments.Text());
   arguments.End();
-  stage.sandbox.SystemClipboard().Set({std::nullopt, rtf});
+  context.sandbox.SystemClipboard().Set({std::nullopt, rtf});
   return {};
 }
 
-Answer Tick(Stage& stage, Arguments& arguments) {
+Answer Tick(ScriptContext& context, Arguments& arguments) {
   const std::int32_t time = arguments.Whole(0, std::numeric_limits<std::int32_t>::max());
   arguments.End();
-  stage.backend.Tick(time);
+  context.backend.Tick(time);
   return {};
 }
 
-Answer Setting(Stage& stage, Arguments& arguments) {
+Answer Setting(ScriptContext& context, Arguments& arguments) {
   const std::u16string application = arguments.Text();
   const std::u16string section = arguments.Text();
   const std::u16string key = arguments.Text();
-  Settings& settings = stage.sandbox.UserSettings();
+  Settings& settings = context.sandbox.UserSettings();
   if (arguments.AtEnd()) return ValueOrNull(settings.Read(application, section, key));
   const std::u16string value = arguments.Text();
   arguments.End();
@@ -65,17 +65,17 @@ Answer Setting(Stage& stage, Arguments& arguments) {
   return {};
 }
 
-Answer Registry(Stage& stage, Arguments& arguments) {
+Answer Registry(ScriptContext& context, Arguments& arguments) {
   const std::u16string key = arguments.Text();
   const std::u16string name = arguments.Text();
-  if (arguments.AtEnd()) return ValueOrNull(stage.sandbox.MachineRegistry().Read(key, name));
+  if (arguments.AtEnd()) return ValueOrNull(context.sandbox.MachineRegistry().Read(key, name));
   const std::u16string value = arguments.Text();
   arguments.End();
-  stage.sandbox.WriteRegistry(key, name, value);
+  context.sandbox.WriteRegistry(key, name, value);
   return {};
 }
 
-Answer ScreenFonts(Stage& stage, Arguments& arguments) {
+Answer ScreenFonts(ScriptContext& context, Arguments& arguments) {
   const Value fonts = arguments.Json();
   arguments.End();
   std::vector<std::u16string> names;
@@ -84,18 +84,18 @@ Answer ScreenFonts(Stage& stage, Arguments& arguments) {
     if (!font.AsString()) throw ScriptError("font name expected");
     names.push_back(*font.AsString());
   }
-  stage.fonts.screen = std::move(names);
+  context.fonts.screen = std::move(names);
   return {};
 }
 
-Answer PrinterFonts(Stage& stage, Arguments& arguments) {
+Answer PrinterFonts(ScriptContext& context, Arguments& arguments) {
   Arguments ahead = arguments;
   const bool none = ahead.Any() == Value(u"none");
   if (none) arguments = ahead;
   std::optional<int> count;
   if (!none) count = arguments.Whole(0, std::numeric_limits<int>::max());
   arguments.End();
-  stage.fonts.printer = count;
+  context.fonts.printer = count;
   return {};
 }
 

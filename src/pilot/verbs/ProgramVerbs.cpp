@@ -1,9 +1,9 @@
 // The external programs that the component starts and ends.
 #include <utility>
 
+#include "pilot/context/ScriptContext.h"
 #include "pilot/language/Arguments.h"
-#include "pilot/machine/StandIns.h"
-#include "pilot/stage/Stage.h"
+#include "pilot/machine/FakePrograms.h"
 #include "pilot/verbs/Verbs.h"
 
 namespace lumenote::verbs {
@@ -17,27 +17,27 @@ Value ArrayOf(std::vector<std::u16string> texts) {
 
 }  // namespace
 
-Answer PutProgram(Stage& stage, Arguments& arguments) {
+Answer PutProgram(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   arguments.End();
-  stage.sandbox.MakeParents(path);
-  stage.sandbox.Programs().Put(path);
+  context.sandbox.MakeParents(path);
+  context.sandbox.Programs().Put(path);
   return {};
 }
 
-Answer Started(Stage& stage, Arguments& arguments) {
+Answer Started(ScriptContext& context, Arguments& arguments) {
   arguments.End();
-  return ArrayOf(stage.sandbox.Programs().TakeStarted());
+  return ArrayOf(context.sandbox.Programs().TakeStarted());
 }
 
-Answer Killed(Stage& stage, Arguments& arguments) {
+Answer Killed(ScriptContext& context, Arguments& arguments) {
   arguments.End();
-  return ArrayOf(stage.sandbox.Programs().TakeKilled());
+  return ArrayOf(context.sandbox.Programs().TakeKilled());
 }
 
-Answer Finish(Stage& stage, Arguments& arguments) {
+Answer Finish(ScriptContext& context, Arguments& arguments) {
   arguments.End();
-  stage.sandbox.Programs().Finish();
+  context.sandbox.Programs().Finish();
   return {};
 }
 

@@ -8,14 +8,14 @@
 namespace lumenote {
 
 class Arguments;
-struct Stage;
+struct ScriptContext;
 
 /// The value that a line prints; empty for a verb without result.
 using Answer = std::optional<Value>;
 
 /// Reads all arguments before acting. Raises `ScriptError` for an invalid line, `Refusal` for what
 /// cannot be done now, `RuntimeError` for failures of the component.
-using Verb = Answer (*)(Stage& stage, Arguments& arguments);
+using Verb = Answer (*)(ScriptContext& context, Arguments& arguments);
 
 /// Null if there is no such verb.
 Verb FindVerb(std::string_view name);
@@ -23,68 +23,68 @@ Verb FindVerb(std::string_view name);
 namespace verbs {
 
 // HostVerbs.cpp
-Answer Host(Stage& stage, Arguments& arguments);
-Answer Show(Stage& stage, Arguments& arguments);
+Answer Host(ScriptContext& context, Arguments& arguments);
+Answer Show(ScriptContext& context, Arguments& arguments);
 
 // MemberVerbs.cpp
-Answer Get(Stage& stage, Arguments& arguments);
-Answer Set(Stage& stage, Arguments& arguments);
+Answer Get(ScriptContext& context, Arguments& arguments);
+Answer Set(ScriptContext& context, Arguments& arguments);
 
 // ActVerbs.cpp: user input on controls and menus
-Answer Click(Stage& stage, Arguments& arguments);
-Answer DoubleClick(Stage& stage, Arguments& arguments);
-Answer Open(Stage& stage, Arguments& arguments);
-Answer Type(Stage& stage, Arguments& arguments);
-Answer Key(Stage& stage, Arguments& arguments);
-Answer Select(Stage& stage, Arguments& arguments);
-Answer Mouse(Stage& stage, Arguments& arguments);
-Answer Drag(Stage& stage, Arguments& arguments);
-Answer Spin(Stage& stage, Arguments& arguments);
-Answer Pick(Stage& stage, Arguments& arguments);
-Answer Drop(Stage& stage, Arguments& arguments);
+Answer Click(ScriptContext& context, Arguments& arguments);
+Answer DoubleClick(ScriptContext& context, Arguments& arguments);
+Answer Open(ScriptContext& context, Arguments& arguments);
+Answer Type(ScriptContext& context, Arguments& arguments);
+Answer Key(ScriptContext& context, Arguments& arguments);
+Answer Select(ScriptContext& context, Arguments& arguments);
+Answer Mouse(ScriptContext& context, Arguments& arguments);
+Answer Drag(ScriptContext& context, Arguments& arguments);
+Answer Spin(ScriptContext& context, Arguments& arguments);
+Answer Pick(ScriptContext& context, Arguments& arguments);
+Answer Drop(ScriptContext& context, Arguments& arguments);
 
 // WindowVerbs.cpp: windows, message boxes, popup menus
-Answer Resize(Stage& stage, Arguments& arguments);
-Answer Activate(Stage& stage, Arguments& arguments);
-Answer Close(Stage& stage, Arguments& arguments);
-Answer Forms(Stage& stage, Arguments& arguments);
-Answer QueueAnswers(Stage& stage, Arguments& arguments);
-Answer Boxes(Stage& stage, Arguments& arguments);
-Answer PopUp(Stage& stage, Arguments& arguments);
-Answer FontAnswer(Stage& stage, Arguments& arguments);
+Answer Resize(ScriptContext& context, Arguments& arguments);
+Answer Activate(ScriptContext& context, Arguments& arguments);
+Answer Close(ScriptContext& context, Arguments& arguments);
+Answer Forms(ScriptContext& context, Arguments& arguments);
+Answer QueueAnswers(ScriptContext& context, Arguments& arguments);
+Answer Boxes(ScriptContext& context, Arguments& arguments);
+Answer PopUp(ScriptContext& context, Arguments& arguments);
+Answer FontAnswer(ScriptContext& context, Arguments& arguments);
 
 // MachineVerbs.cpp: clipboard, time, settings, registry, fonts
-Answer Clip(Stage& stage, Arguments& arguments);
-Answer ClipRtf(Stage& stage, Arguments& arguments);
-Answer Tick(Stage& stage, Arguments& arguments);
-Answer Setting(Stage& stage, Arguments& arguments);
-Answer Registry(Stage& stage, Arguments& arguments);
-Answer ScreenFonts(Stage& stage, Arguments& arguments);
-Answer PrinterFonts(Stage& stage, Arguments& arguments);
+Answer Clip(ScriptContext& context, Arguments& arguments);
+Answer ClipRtf(ScriptContext& context, Arguments& arguments);
+Answer Tick(ScriptContext& context, Arguments& arguments);
+Answer Setting(ScriptContext& context, Arguments& arguments);
+Answer Registry(ScriptContext& context, Arguments& arguments);
+Answer ScreenFonts(ScriptContext& context, Arguments& arguments);
+Answer PrinterFonts(ScriptContext& context, Arguments& arguments);
 
 // FileVerbs.cpp
-Answer File(Stage& stage, Arguments& arguments);
-Answer Bytes(Stage& stage, Arguments& arguments);
-Answer Cat(Stage& stage, Arguments& arguments);
-Answer Hex(Stage& stage, Arguments& arguments);
-Answer Link(Stage& stage, Arguments& arguments);
-Answer Ls(Stage& stage, Arguments& arguments);
-Answer Rm(Stage& stage, Arguments& arguments);
-Answer ReadOnly(Stage& stage, Arguments& arguments);
-Answer Touch(Stage& stage, Arguments& arguments);
+Answer File(ScriptContext& context, Arguments& arguments);
+Answer Bytes(ScriptContext& context, Arguments& arguments);
+Answer Cat(ScriptContext& context, Arguments& arguments);
+Answer Hex(ScriptContext& context, Arguments& arguments);
+Answer Link(ScriptContext& context, Arguments& arguments);
+Answer Ls(ScriptContext& context, Arguments& arguments);
+Answer Rm(ScriptContext& context, Arguments& arguments);
+Answer ReadOnly(ScriptContext& context, Arguments& arguments);
+Answer Touch(ScriptContext& context, Arguments& arguments);
 
 // ProgramVerbs.cpp: the stand-ins for external programs
-Answer PutProgram(Stage& stage, Arguments& arguments);
-Answer Started(Stage& stage, Arguments& arguments);
-Answer Killed(Stage& stage, Arguments& arguments);
-Answer Finish(Stage& stage, Arguments& arguments);
+Answer PutProgram(ScriptContext& context, Arguments& arguments);
+Answer Started(ScriptContext& context, Arguments& arguments);
+Answer Killed(ScriptContext& context, Arguments& arguments);
+Answer Finish(ScriptContext& context, Arguments& arguments);
 
 // ExpectVerbs.cpp
-Answer Expect(Stage& stage, Arguments& arguments);
-Answer ExpectHas(Stage& stage, Arguments& arguments);
-Answer ExpectLike(Stage& stage, Arguments& arguments);
-Answer Keep(Stage& stage, Arguments& arguments);
-Answer ExpectKept(Stage& stage, Arguments& arguments);
+Answer Expect(ScriptContext& context, Arguments& arguments);
+Answer ExpectHas(ScriptContext& context, Arguments& arguments);
+Answer ExpectLike(ScriptContext& context, Arguments& arguments);
+Answer Keep(ScriptContext& context, Arguments& arguments);
+Answer ExpectKept(ScriptContext& context, Arguments& arguments);
 
 }  // namespace verbs
 }  // namespace lumenote

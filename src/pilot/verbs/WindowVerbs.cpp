@@ -5,10 +5,10 @@
 #include "base/Numbers.h"
 #include "base/Strings.h"
 #include "forms/Form.h"
+#include "pilot/context/ScriptContext.h"
+#include "pilot/context/UsableElements.h"
 #include "pilot/language/Arguments.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Reach.h"
-#include "pilot/stage/Stage.h"
 #include "pilot/verbs/Verbs.h"
 
 namespace lumenote::verbs {
@@ -97,65 +97,65 @@ FontChoice ReadFontChoice(const Value& font) {
 
 }  // namespace
 
-Answer Resize(Stage& stage, Arguments& arguments) {
+Answer Resize(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   const float width = ReadSize(arguments);
   const float height = ReadSize(arguments);
   arguments.End();
-  stage.acts.Resize(ReachForm(stage, path), width, height);
+  context.acts.Resize(UsableForm(context, path), width, height);
   return {};
 }
 
-Answer Activate(Stage& stage, Arguments& arguments) {
+Answer Activate(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   arguments.End();
-  ReachForm(stage, path);
+  UsableForm(context, path);
   return {};
 }
 
-Answer Close(Stage& stage, Arguments& arguments) {
+Answer Close(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   arguments.End();
-  stage.acts.Close(ReachForm(stage, path));
+  context.acts.Close(UsableForm(context, path));
   return {};
 }
 
-Answer Forms(Stage& stage, Arguments& arguments) {
+Answer Forms(ScriptContext& context, Arguments& arguments) {
   arguments.End();
   Value::Array forms;
-  for (const Form* form : stage.Windows().Loaded()) forms.push_back(FormValue(*form));
+  for (const Form* form : context.Windows().Loaded()) forms.push_back(FormValue(*form));
   return forms;
 }
 
-Answer QueueAnswers(Stage& stage, Arguments& arguments) {
+Answer QueueAnswers(ScriptContext& context, Arguments& arguments) {
   std::vector<BoxAnswer> answers;
   do {
     answers.push_back(ReadAnswer(arguments));
   } while (!arguments.AtEnd());
-  for (const BoxAnswer answer : answers) stage.backend.Answer(answer);
+  for (const BoxAnswer answer : answers) context.backend.Answer(answer);
   return {};
 }
 
-Answer Boxes(Stage& stage, Arguments& arguments) {
+Answer Boxes(ScriptContext& context, Arguments& arguments) {
   arguments.End();
   Value::Array boxes;
-  for (const ShownBox& shown : stage.backend.TakeBoxes()) boxes.push_back(BoxValue(shown));
+  for (const ShownBox& shown : context.backend.TakeBoxes()) boxes.push_back(BoxValue(shown));
   return boxes;
 }
 
-Answer PopUp(Stage& stage, Arguments& arguments) {
+Answer PopUp(ScriptContext& context, Arguments& arguments) {
   arguments.End();
-  const std::optional<std::string> menu = stage.backend.TakePopUp();
+  const std::optional<std::string> menu = context.backend.TakePopUp();
   return menu ? Value(FromUtf8(*menu)) : Value();
 }
 
-Answer FontAnswer(Stage& stage, Arguments& arguments) {
+Answer FontAnswer(ScriptContext& context, Arguments& arguments) {
   const Value font = arguments.Json();
   arguments.End();
   if (font.IsNull())
-    stage.backend.FontAnswer({});
+    context.backend.FontAnswer({});
   else
-    stage.backend.FontAnswer(ReadFontChoice(font));
+    context.backend.FontAnswer(ReadFontChoice(font));
   return {};
 }
 

@@ -8,9 +8,9 @@
 namespace lumenote {
 namespace {
 
-constexpr std::size_t kMostTabs = 64;
+constexpr std::size_t kMaxTabs = 64;
 
-int Clipped(int length) { return std::clamp(length, -kMostLength, kMostLength); }
+int Clipped(int length) { return std::clamp(length, -kMaxLength, kMaxLength); }
 
 void SetMultiple(int twentieths, ParaFormat& format) {
   switch (twentieths) {
@@ -46,7 +46,7 @@ void ParagraphState::AddTab(int position) {
                        [](const TabStop& tab, int limit) { return tab.position < limit; });
   if (at != changed->end() && at->position == position) {
     *at = nextTab;
-  } else if (changed->size() < kMostTabs) {
+  } else if (changed->size() < kMaxTabs) {
     changed->insert(at, nextTab);
   }
   tabs = std::move(changed);

@@ -6,7 +6,7 @@
 namespace lumenote {
 namespace {
 
-constexpr std::size_t kMostItems = 1024;  // before one character
+constexpr std::size_t kMaxItems = 1024;  // before one character
 
 using Kind = KeptItem::Kind;
 
@@ -54,9 +54,9 @@ KeptItems ItemKeeper::TakeSince(Place place) {
 KeptItems ItemKeeper::Take() {
   const Place behind = Here();
   KeptItems items;
-  if (pending_.size() > kMostItems) {
-    pending_[kMostItems - 1] = {Kind::Group, pending_.back().end};
-    pending_.resize(kMostItems);
+  if (pending_.size() > kMaxItems) {
+    pending_[kMaxItems - 1] = {Kind::Group, pending_.back().end};
+    pending_.resize(kMaxItems);
   }
   items = TakeSince(taken_);
   taken_ = behind;

@@ -8,7 +8,7 @@
 namespace lumenote {
 namespace {
 
-constexpr std::size_t kMostWords = 64;        // of one format
+constexpr std::size_t kMaxWords = 64;         // of one format
 constexpr std::size_t kLongestName = 32;      // letters, more than any word has
 constexpr std::size_t kLongestGroup = 512;    // bytes
 constexpr std::size_t kLeastWords = 1 << 13;  // of all formats together
@@ -88,7 +88,7 @@ NameId WordKeeper::Name(const Token& word) {
 }
 
 WordsId WordKeeper::Number(std::vector<KeptWord> words, WordsId otherwise) {
-  if (words.size() > std::min(kMostWords, wordsLeft_)) return otherwise;
+  if (words.size() > std::min(kMaxWords, wordsLeft_)) return otherwise;
   const std::uint32_t known = formats_.words.Size();
   const WordsId number = formats_.words.Chain(std::move(words));
   wordsLeft_ -= formats_.words.Size() - known;

@@ -56,9 +56,9 @@ int HexValue(const char* at, const char* end) {
 
 /// Passes over the digits at `at`; returns their number, held within that of an int.
 std::int64_t Digits(const char*& at, const char* end) {
-  constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+  constexpr std::int64_t kMax = std::numeric_limits<int>::max();
   std::int64_t number = 0;
-  for (; at != end && IsDigit(*at); ++at) number = std::min(kMost, number * 10 + (*at - '0'));
+  for (; at != end && IsDigit(*at); ++at) number = std::min(kMax, number * 10 + (*at - '0'));
   return number;
 }
 

@@ -57,8 +57,8 @@ constexpr std::int64_t GetNumber(const CharFormat& format) {
 template <auto kMember, std::int64_t kLeast>
 constexpr void SetNumber(CharFormat& format, std::int64_t number) {
   using Member = std::remove_reference_t<decltype(format.*kMember)>;
-  constexpr std::int64_t kMost = std::numeric_limits<Member>::max();
-  format.*kMember = static_cast<Member>(std::clamp(number, kLeast, kMost));
+  constexpr std::int64_t kMax = std::numeric_limits<Member>::max();
+  format.*kMember = static_cast<Member>(std::clamp(number, kLeast, kMax));
 }
 /// No number is less than `kLeast`.
 template <auto kMember, std::int64_t kLeast>

@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-inline constexpr int kMostLength = 1'000'000;  // twips; far beyond any paper
-inline constexpr int kUnitsOfTwentieth = 12;   // \sl counts 240 units a line, the format 20
+inline constexpr int kMaxLength = 1'000'000;  // twips; far beyond any paper
+inline constexpr int kUnitsOfTwentieth = 12;  // \sl counts 240 units a line, the format 20
 
 /// A length in twips that the format holds as RTF tells it: a row here makes it read and written.
 struct LengthWord {

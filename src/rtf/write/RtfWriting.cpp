@@ -29,7 +29,7 @@ void WriteHead(const WrittenFormats& formats, const FormatTables& tables, const 
 RtfWriting::RtfWriting(const Document& document, Selection range, std::optional<FinalMark> mark,
                        const ByteSink& sink)
     : document_(document),
-      range_(document.Outwards(range.start, range.end)),
+      range_(document.SnapOutward(range.start, range.end)),
       mark_(mark),
       at_(range_.start),
       scan_(document, range_.start, mark_ ? &*mark_ : nullptr),
@@ -58,7 +58,7 @@ bool RtfWriting::Step(Position units) {
 
 Selection RtfWriting::Piece(Position units) {
   const Position from = at_;
-  at_ = units < range_.end - from ? document_.After(from + units) : range_.end;
+  at_ = units < range_.end - from ? document_.SnapForward(from + units) : range_.end;
   return {from, at_};
 }
 

@@ -9,7 +9,7 @@ namespace {
 void WriteText(const Document& document, Selection range, std::optional<FinalMark> mark,
                const ByteSink& sink) {
   RtfWriting writing(document, range, mark, sink);
-  while (writing.Step(LeafList::kMost)) continue;
+  while (writing.Step(LeafList::kMax)) continue;
 }
 
 std::string Written(const Document& document, Selection range, std::optional<FinalMark> mark) {

@@ -28,7 +28,7 @@ struct LineWords {
 };
 
 LineWords WordsOf(LineRule rule, int spacing) {
-  const int size = std::clamp(spacing, 0, kMostLength);
+  const int size = std::clamp(spacing, 0, kMaxLength);
   switch (rule) {
     case LineRule::OneAndHalf:
       return {360, true};
@@ -39,7 +39,7 @@ LineWords WordsOf(LineRule rule, int spacing) {
     case LineRule::Exact:
       return {-size, false};
     case LineRule::Multiple:
-      return {std::min(size, kMostLength / kUnitsOfTwentieth) * kUnitsOfTwentieth, true};
+      return {std::min(size, kMaxLength / kUnitsOfTwentieth) * kUnitsOfTwentieth, true};
     default:
       return {};
   }
@@ -71,7 +71,7 @@ class ParagraphWriter {
   void Word(std::string_view name) { words_.append("\\").append(name); }
   void Number(std::string_view name, std::int64_t number) {
     Word(name);
-    words_ += std::to_string(std::clamp<std::int64_t>(number, -kMostLength, kMostLength));
+    words_ += std::to_string(std::clamp<std::int64_t>(number, -kMaxLength, kMaxLength));
   }
   void Length(std::string_view name, std::int64_t twips) {
     if (twips != 0 || whole_) Number(name, twips);

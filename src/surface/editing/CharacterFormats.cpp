@@ -13,7 +13,7 @@ namespace lumenote {
 namespace {
 
 constexpr float kLeastSize = 1;
-constexpr float kMostSize = 1638;
+constexpr float kMaxSize = 1638;
 constexpr std::int32_t kColourBits = 0xFFFFFF;
 constexpr std::uint8_t kSymbolCharset = 2;
 constexpr std::uint16_t kRaised = kSuperscript | kSubscript;
@@ -126,7 +126,7 @@ std::optional<float> CharacterFormats::FontSize() const {
 }
 
 void CharacterFormats::FontSize(float points) {
-  const bool allowed = points >= kLeastSize && points <= kMostSize;
+  const bool allowed = points >= kLeastSize && points <= kMaxSize;
   if (!allowed) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
   const auto size = static_cast<std::uint16_t>(std::lround(points * 2));
   Apply([=](const CharFormat& format) { return format.size != size; },

@@ -4,7 +4,7 @@ namespace lumenote {
 
 namespace {
 
-constexpr int kMostTwentieths = 100;
+constexpr int kMaxTwentieths = 100;
 
 }  // namespace
 
@@ -26,7 +26,7 @@ void SetLineSpacing(RichTextSurface& surface, int value) {
   ParagraphRecord record;
   record.mask = ParagraphRecord::kLineSpacing;
   record.lineSpacingRule =
-      value <= kMostTwentieths ? LineSpacingRule::Multiple : LineSpacingRule::Exact;
+      value <= kMaxTwentieths ? LineSpacingRule::Multiple : LineSpacingRule::Exact;
   record.lineSpacing = value;
   surface.SetParaFormat(record);
 }

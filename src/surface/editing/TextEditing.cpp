@@ -99,7 +99,7 @@ void TextEditing::Substitute(Position from, Position to, const Fragment& fragmen
   if (fragment.Length() > 0)
     return core_.Replace(from, to, WithBeginning(fragment, tables, beginning));
   core_.Replace(from, to, {});
-  const Position behind = document.After(from + 1);
+  const Position behind = document.SnapForward(from + 1);
   Fragment next = document.Copy(from, behind);
   if (next.Length() == 0) next.mark = document.Mark();
   core_.Replace(from, behind, WithBeginning(std::move(next), tables, beginning));
@@ -141,7 +141,7 @@ void TextEditing::TypeBreak() {
 void TextEditing::MoveSelection(Position target, bool copy) {
   const Selection old = core_.Selected();
   const Document& document = core_.Content();
-  target = document.Before(std::clamp(target, 0, document.Length()));
+  target = document.SnapBackward(std::clamp(target, 0, document.Length()));
   const bool inside =
       copy ? target > old.start && target < old.end : target >= old.start && target <= old.end;
   if (!core_.HasSelection() || inside) return;

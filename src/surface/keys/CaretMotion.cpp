@@ -14,7 +14,7 @@ constexpr int kPageWithoutView = 20;
 /// already be on the next line.
 Position LastCaret(const Document& document, const Line& line) {
   if (line.end != line.next) return line.end;
-  return std::max(line.start, document.Before(line.end - 1));
+  return std::max(line.start, document.SnapBackward(line.end - 1));
 }
 
 }  // namespace
@@ -71,13 +71,13 @@ Line CaretMotion::LineAt(Position position) const {
 
 Position CaretMotion::LeftOf(bool extend) const {
   if (core_.HasSelection() && !extend) return core_.Selected().start;
-  return core_.Content().Before(std::max(core_.Caret() - 1, 0));
+  return core_.Content().SnapBackward(std::max(core_.Caret() - 1, 0));
 }
 
 Position CaretMotion::RightOf(bool extend) const {
   if (core_.HasSelection() && !extend) return core_.Selected().end;
   const Document& document = core_.Content();
-  return document.After(std::min(core_.Caret() + 1, document.Length()));
+  return document.SnapForward(std::min(core_.Caret() + 1, document.Length()));
 }
 
 Position CaretMotion::Vertically(int lines) {

@@ -26,7 +26,7 @@ constexpr std::array<std::pair<std::u16string_view, KeyName>, 15> kNames{{
     {u"Insert", KeyName::Insert},
     {u"Space", KeyName::Space},
 }};
-constexpr int kMostFunctionKeys = 24;
+constexpr int kMaxFunctionKeys = 24;
 
 bool TakePrefix(std::u16string_view& text, std::u16string_view prefix) {
   if (!text.starts_with(prefix)) return false;
@@ -55,7 +55,7 @@ int FunctionNumber(std::u16string_view text) {
     if (c < u'0' || c > u'9') return 0;
     number = number * 10 + (c - u'0');
   }
-  return number <= kMostFunctionKeys ? number : 0;
+  return number <= kMaxFunctionKeys ? number : 0;
 }
 
 }  // namespace

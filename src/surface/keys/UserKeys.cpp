@@ -83,14 +83,14 @@ void UserKeys::BackSpace() {
   const bool first = document.ParagraphStart(document.ParagraphOf(caret)) == caret;
   if (first && !core_.HasSelection() && paragraphs_.Bullet() == true)
     return paragraphs_.Bullet(UndoKind::Delete, false);
-  Erase(document.Before(std::max(caret - 1, 0)));
+  Erase(document.SnapBackward(std::max(caret - 1, 0)));
 }
 
 void UserKeys::BackSpaceWord() { Erase(PreviousWord(core_.Content(), core_.Caret())); }
 
 void UserKeys::DeleteNext() {
   const Document& document = core_.Content();
-  Erase(document.After(std::min(core_.Caret() + 1, document.Length())));
+  Erase(document.SnapForward(std::min(core_.Caret() + 1, document.Length())));
 }
 
 void UserKeys::DeleteNextWord() { Erase(NextWord(core_.Content(), core_.Caret())); }

@@ -105,7 +105,7 @@ Position NextParagraph(const Document& document, Position position) {
 
 Position PreviousParagraph(const Document& document, Position position) {
   if (position == 0) return 0;
-  return document.ParagraphStart(document.ParagraphOf(document.Before(position - 1)));
+  return document.ParagraphStart(document.ParagraphOf(document.SnapBackward(position - 1)));
 }
 
 }  // namespace lumenote

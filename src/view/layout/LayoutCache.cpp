@@ -14,7 +14,7 @@ constexpr Position kPieceLength = 800;
 constexpr Position kExactReach = 40 * kPieceLength;
 // How much is kept on either side of what is looked at.
 constexpr Position kKept = 60'000;
-constexpr std::size_t kMostPieces = 1'000;
+constexpr std::size_t kMaxPieces = 1'000;
 
 }  // namespace
 
@@ -47,7 +47,7 @@ const Piece& LayoutCache::LayOutFrom(Position from, Position paragraphEnd) {
   Position length = nextIsNear ? span.nextKnown - from + kPieceLength / 4 : kPieceLength;
   for (;; length *= 2) {
     span.complete = paragraphEnd - from <= length + kPieceLength / 2;
-    span.to = span.complete ? paragraphEnd : document_.Before(from + length);
+    span.to = span.complete ? paragraphEnd : document_.SnapBackward(from + length);
     if (auto piece = layouter_.LayOut(document_, span)) return Add(std::move(piece));
   }
 }
@@ -60,7 +60,7 @@ Position LayoutCache::StartNear(Position position, Position paragraphStart) {
     if (known.from >= paragraphStart && position - known.to <= kExactReach) return known.to;
   }
   if (position - paragraphStart <= kExactReach) return paragraphStart;
-  const Position back = document_.Before(position - kPieceLength);
+  const Position back = document_.SnapBackward(position - kPieceLength);
   const std::u16string text = document_.Text(back, position);
   const std::size_t blank = text.find(u' ');
   return blank == text.npos ? back : back + static_cast<Position>(blank) + 1;
@@ -97,11 +97,11 @@ const Piece* LayoutCache::Before(const Piece& piece) {
 // which is a line's start in the same paragraph.
 const Piece& LayoutCache::LayOutTo(Position position) {
   const Position start = document_.ParagraphStart(document_.ParagraphOf(position));
-  Position from = StartNear(document_.Before(position - 1), start);
+  Position from = StartNear(document_.SnapBackward(position - 1), start);
   for (;;) {
     const bool last = position - from <= 2 * kPieceLength;
     const PieceSpan span{.from = from,
-                         .to = last ? position : document_.Before(from + kPieceLength),
+                         .to = last ? position : document_.SnapBackward(from + kPieceLength),
                          .complete = last};
     auto piece = layouter_.LayOut(document_, span);
     if (!piece) piece = layouter_.LayOut(document_, {.from = from, .to = position});
@@ -150,7 +150,7 @@ void LayoutCache::Trim(Position from, Position to) {
   const auto isFar = [&](const auto& piece) {
     return piece->to < from - kKept || piece->from > to + kKept;
   };
-  if (pieces_.size() > kMostPieces) std::erase_if(pieces_, isFar);
+  if (pieces_.size() > kMaxPieces) std::erase_if(pieces_, isFar);
 }
 
 }  // namespace lumenote

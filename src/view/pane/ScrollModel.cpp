@@ -179,7 +179,7 @@ void ScrollModel::To(double value) {
   const double most = Read().total - paneHeight_;
   const double characters = value >= most ? document_.Length() : std::max(value, 0.0) / unit;
   const auto position = static_cast<Position>(std::min<double>(characters, document_.Length()));
-  const Piece& piece = cache_.At(document_.Before(position));
+  const Piece& piece = cache_.At(document_.SnapBackward(position));
   const double share = (characters - piece.from) / std::max(Span(piece), 1.0);
   Top({&piece, std::clamp(share, 0.0, 1.0) * piece.height});
   Visible();

@@ -18,7 +18,7 @@ namespace lumenote {
 namespace {
 
 /// Short enough for every file system, however long the target's name is.
-std::string MarkOf(std::string_view name) {
+std::string NameHash(std::string_view name) {
   std::uint64_t hash = 14695981039346656037U;  // FNV-1a
   for (const char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211U;
   char digits[16];
@@ -27,7 +27,7 @@ std::string MarkOf(std::string_view name) {
 
 /// The temporary name of the `number`th concurrent save of one target.
 std::string NameBeside(const std::filesystem::path& target, unsigned number) {
-  const std::string name = ".lumenote-" + MarkOf(target.filename().string());
+  const std::string name = ".lumenote-" + NameHash(target.filename().string());
   return (target.parent_path() / (name + "-" + std::to_string(number))).string();
 }
 
@@ -39,7 +39,7 @@ bool IsOwnRegular(const Descriptor& file) {
 void RemoveIfDead(const std::string& name) {
   const Descriptor file(open(name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
   if (!file.IsOpen() || !IsOwnRegular(file)) return;
-  if (flock(file.Number(), LOCK_EX | LOCK_NB) == 0 && LeadsTo(name, file)) unlink(name.c_str());
+  if (flock(file.Number(), LOCK_EX | LOCK_NB) == 0 && IsNameOf(name, file)) unlink(name.c_str());
 }
 
 /// Fails with EEXIST, too, if another save took the new file for a dead one before it was locked.
@@ -48,7 +48,7 @@ Descriptor CreateLocked(const std::string& name, mode_t mode) {
   Descriptor file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, mode));
   if (!file.IsOpen()) return file;
   const bool taken = flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-  if (!taken && LeadsTo(name, file)) return file;
+  if (!taken && IsNameOf(name, file)) return file;
   errno = EEXIST;
   return Descriptor();
 }

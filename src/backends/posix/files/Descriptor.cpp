@@ -47,7 +47,7 @@ std::string ReadWholeFile(const std::string& path) {
   return bytes;
 }
 
-bool LeadsTo(const std::string& path, const Descriptor& file) {
+bool IsNameOf(const std::string& path, const Descriptor& file) {
   struct stat here = {};
   struct stat there = {};
   return fstat(file.Number(), &here) == 0 && lstat(path.c_str(), &there) == 0 &&

@@ -26,7 +26,7 @@ class Descriptor {
 /// says, and PathAccess for anything but a regular file.
 std::string ReadWholeFile(const std::string& path);
 /// Whether the native path itself, not followed if a link, names the open file.
-bool LeadsTo(const std::string& path, const Descriptor& file);
+bool IsNameOf(const std::string& path, const Descriptor& file);
 /// Flushes a file's content, or a folder's entries, to the disk. Like `WriteAll` returns 0 or an
 /// errno value.
 int SyncToDisk(const std::string& path);

@@ -51,7 +51,7 @@ int Signal(const std::vector<pid_t>& processes) {
 }  // namespace
 
 ProcessId PosixProcesses::Start(std::u16string_view commandLine) {
-  Collect();
+  Reap();
   const std::vector<std::u16string> words = SplitCommandLine(commandLine);
   if (words.empty()) throw RuntimeError(ErrorNumber::FileNotFound);
   std::vector<std::string> native = NativeWords(drives_, words);
@@ -61,17 +61,17 @@ ProcessId PosixProcesses::Start(std::u16string_view commandLine) {
 }
 
 bool PosixProcesses::IsRunning(ProcessId process) {
-  Collect();
+  Reap();
   return std::any_of(started_.begin(), started_.end(),
                      [&](const StartedProgram& program) { return program.Id() == process; });
 }
 
-void PosixProcesses::Collect() {
+void PosixProcesses::Reap() {
   std::erase_if(started_, [&](StartedProgram& program) { return !program.IsRunning(windows_); });
 }
 
 bool PosixProcesses::HoldsFiles() {
-  Collect();
+  Reap();
   return std::any_of(started_.begin(), started_.end(),
                      [](const StartedProgram& program) { return program.HasFile(); });
 }
@@ -86,7 +86,7 @@ std::map<pid_t, std::vector<pid_t>> PosixProcesses::InstancesOf(const std::strin
 }
 
 std::optional<SystemError> PosixProcesses::Terminate(std::u16string_view path) {
-  Collect();
+  Reap();
   int failure = 0;
   for (const auto& [group, processes] : InstancesOf(drives_.ToNative(path))) {
     if (windows_ && windows_->AskToClose(processes)) continue;
@@ -97,7 +97,7 @@ std::optional<SystemError> PosixProcesses::Terminate(std::u16string_view path) {
 }
 
 std::optional<SystemError> PosixProcesses::StillRunning(std::u16string_view path) {
-  Collect();
+  Reap();
   if (InstancesOf(drives_.ToNative(path)).empty()) return std::nullopt;
   return ErrorOf(ETIMEDOUT);
 }

@@ -22,7 +22,7 @@ class PosixProcesses : public Processes {
       : drives_(std::move(drives)), windows_(windows) {}
   PosixProcesses(const PosixProcesses&) = delete;
   PosixProcesses& operator=(const PosixProcesses&) = delete;
-  ~PosixProcesses() override { Collect(); }
+  ~PosixProcesses() override { Reap(); }
 
   /// Drive-letter paths among the arguments become native, and a word processor's template switch
   /// is dropped: it means nothing to programs of this system.
@@ -34,7 +34,7 @@ class PosixProcesses : public Processes {
   std::optional<SystemError> StillRunning(std::u16string_view path) override;
 
   /// Reaps the children that have ended.
-  void Collect();
+  void Reap();
   /// Whether no started program was still running at the last check.
   bool Idle() const { return started_.empty(); }
   /// Whether a program that was given a file still runs.

@@ -14,7 +14,7 @@ class ProgramWindows {
   /// ask about unsaved work. False if there is none to ask.
   virtual bool AskToClose(const std::vector<pid_t>& processes) = 0;
   /// Whether the title of a window of another program contains `text` (UTF-8).
-  virtual bool Show(std::string_view text) const = 0;
+  virtual bool AnyTitleContains(std::string_view text) const = 0;
 };
 
 }  // namespace lumenote

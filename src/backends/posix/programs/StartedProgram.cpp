@@ -41,7 +41,7 @@ bool StartedProgram::IsGroupAlive() {
 bool StartedProgram::IsHandedOver(const ProgramWindows& windows) {
   const Clock::time_point now = Clock::now();
   if (now >= nextLook_) {
-    shown_ = windows.Show(file_);
+    shown_ = windows.AnyTitleContains(file_);
     nextLook_ = now + kBetweenLooks;
   }
   return shown_ || (*end_ < start_ + kHandsOverWithin && now < *end_ + kShownWithin);

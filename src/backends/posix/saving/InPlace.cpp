@@ -54,7 +54,7 @@ int OpenToWrite(const std::string& target) {
 void WriteInPlace(const std::string& target, std::string_view bytes, PosixStateFolder& backups) {
   const Descriptor file(OpenToWrite(target));
   // Another save may have replaced the file while this one waited for the lock.
-  if (AwaitLock(file) == EWOULDBLOCK || !LeadsTo(target, file))
+  if (AwaitLock(file) == EWOULDBLOCK || !IsNameOf(target, file))
     throw RuntimeError(ErrorNumber::PathAccess);
   const std::string old = ReadWholeFile(target);
   const std::unique_ptr<StateCopy> backup = BackUp(target, old, backups);

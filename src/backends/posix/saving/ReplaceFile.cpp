@@ -46,7 +46,7 @@ void Create(const std::string& target, std::string_view bytes, mode_t mode) {
   file.Commit();
 }
 
-bool Stands(const std::string& target) {
+bool PathExists(const std::string& target) {
   struct stat info = {};
   return stat(target.c_str(), &info) == 0;
 }
@@ -72,14 +72,14 @@ bool MayReplace(const std::string& path) {
 
 void ReplaceFile(const std::string& path, std::string_view bytes, mode_t newMode) {
   const std::string target = TargetOf(path);
-  if (!Stands(target)) return Create(target, bytes, newMode);
+  if (!PathExists(target)) return Create(target, bytes, newMode);
   if (!Replaced(target, bytes, Keep::WhatCanBe)) throw RuntimeError(ErrorNumber::PathAccess);
 }
 
 void SaveFile(const std::string& path, std::string_view bytes, mode_t newMode,
               PosixStateFolder* backups) {
   const std::string target = TargetOf(path);
-  if (!Stands(target)) return Create(target, bytes, newMode);
+  if (!PathExists(target)) return Create(target, bytes, newMode);
   if (Replaced(target, bytes, Keep::All)) return;
   if (!backups) throw RuntimeError(ErrorNumber::PathAccess);
   WriteInPlace(target, bytes, *backups);

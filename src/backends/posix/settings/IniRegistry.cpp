@@ -27,7 +27,7 @@ std::vector<std::string> RegistryFiles() {
 }
 
 /// The content of a file with its section headers in lower case.
-std::string WithSmallHeaders(const std::string& bytes) {
+std::string WithLowerCaseHeaders(const std::string& bytes) {
   std::istringstream lines(bytes);
   std::string out;
   for (std::string line; std::getline(lines, line); out += '\n')
@@ -43,7 +43,7 @@ std::optional<std::u16string> IniRegistry::Read(std::u16string_view key,
                                                 std::u16string_view name) const {
   for (const std::string& file : files_) {
     std::string bytes;
-    IgnoringErrors([&] { bytes = WithSmallHeaders(ReadWholeFile(file)); });
+    IgnoringErrors([&] { bytes = WithLowerCaseHeaders(ReadWholeFile(file)); });
     if (auto value = IniText(bytes).Find(kMachine, Lower(key), name)) return value;
   }
   return std::nullopt;

@@ -56,7 +56,7 @@ bool OwnerFolder::TakeLock() const {
   return mark_.IsOpen() && flock(mark_.Number(), LOCK_EX | LOCK_NB) == 0;
 }
 
-bool OwnerFolder::Stands() const {
+bool OwnerFolder::Exists() const {
   struct stat info = {};
   return fstat(mark_.Number(), &info) == 0 && S_ISREG(info.st_mode) && info.st_nlink > 0 &&
          info.st_uid == geteuid();
@@ -71,7 +71,7 @@ std::vector<std::unique_ptr<OwnerFolder>> OwnerFolder::TakeDead(const std::strin
     if (!entry->path().filename().string().starts_with(kOwned)) continue;
     std::unique_ptr<OwnerFolder> folder(new OwnerFolder(path, OpenMark(path)));
     // An owner that has ended normally meanwhile has removed the mark that we locked.
-    if (folder->TakeLock() && folder->Stands()) dead.push_back(std::move(folder));
+    if (folder->TakeLock() && folder->Exists()) dead.push_back(std::move(folder));
   }
   return dead;
 }

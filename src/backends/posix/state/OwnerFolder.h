@@ -24,7 +24,7 @@ class OwnerFolder {
 
   const std::string& Path() const { return path_; }
   /// Whether the folder still exists.
-  bool Stands() const;
+  bool Exists() const;
 
  private:
   OwnerFolder(std::string path, int mark) : path_(std::move(path)), mark_(mark) {}

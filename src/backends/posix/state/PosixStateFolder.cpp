@@ -33,7 +33,7 @@ std::string PosixStateFolder::OfUser() {
 
 std::string PosixStateFolder::Own() {
   const std::lock_guard lock(access_);
-  if (!own_ || !own_->Stands()) {
+  if (!own_ || !own_->Exists()) {
     MakePrivate(path_);
     own_ = std::make_unique<OwnerFolder>(path_);
   }
@@ -53,7 +53,7 @@ void PosixStateFolder::ClaimOrphans(const std::function<bool(const OrphanedCopy&
     return rescue(shown);
   };
   for (const std::unique_ptr<OwnerFolder>& dead : OwnerFolder::TakeDead(path_))
-    StateCopy::HandOver(dead->Path(), translated);
+    StateCopy::PassOrphans(dead->Path(), translated);
 }
 
 std::u16string PosixStateFolder::KeepForGood(std::u16string_view name, std::string_view bytes) {

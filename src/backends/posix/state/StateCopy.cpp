@@ -120,8 +120,8 @@ void StateCopy::Remove() {
   base_.clear();
 }
 
-void StateCopy::HandOver(const std::string& folder,
-                         const std::function<bool(const OrphanedCopy&)>& rescue) {
+void StateCopy::PassOrphans(const std::string& folder,
+                            const std::function<bool(const OrphanedCopy&)>& rescue) {
   for (const std::string& base : BasesIn(folder)) {
     std::error_code ignored;
     const bool finished = std::filesystem::exists(base + kContent, ignored);

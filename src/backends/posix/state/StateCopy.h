@@ -33,8 +33,8 @@ class StateCopy final : public NoteCopy {
   std::string Path() const { return base_ + ".note"; }
 
   /// Passes on the copies in a dead owner's folder; see `StateFolder::ClaimOrphans`.
-  static void HandOver(const std::string& folder,
-                       const std::function<bool(const OrphanedCopy&)>& rescue);
+  static void PassOrphans(const std::string& folder,
+                          const std::function<bool(const OrphanedCopy&)>& rescue);
 
  private:
   void Drop();

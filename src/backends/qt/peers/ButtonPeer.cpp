@@ -12,7 +12,7 @@ namespace {
 
 /// Makes the whole control clickable, not just indicator and caption.
 template <class Native>
-class WholeArea : public Native {
+class FullyClickable : public Native {
  public:
   using Native::Native;
 
@@ -28,7 +28,7 @@ QPushButton* MakePushButton(QWidget& parent) {
 
 // The form's option buttons handle exclusivity themselves.
 QRadioButton* MakeRadioButton(QWidget& parent) {
-  auto* button = new WholeArea<QRadioButton>(&parent);
+  auto* button = new FullyClickable<QRadioButton>(&parent);
   button->setAutoExclusive(false);
   return button;
 }
@@ -60,7 +60,7 @@ void ButtonPeer::Compare(DifferenceList& differences) const {
 }
 
 CheckBoxPeer::CheckBoxPeer(CheckBox& box, QWidget& parent, LayouterSource&)
-    : ButtonPeer(box, new WholeArea<QCheckBox>(&parent)), box_(box) {}
+    : ButtonPeer(box, new FullyClickable<QCheckBox>(&parent)), box_(box) {}
 
 OptionButtonPeer::OptionButtonPeer(OptionButton& option, QWidget& parent, LayouterSource&)
     : ButtonPeer(option, MakeRadioButton(parent)), option_(option) {}

@@ -25,7 +25,7 @@ ControlPeer::~ControlPeer() {
 
 void ControlPeer::Update(Property property) {
   if (property == Property::Geometry && !IsDocked())
-    widget_->setGeometry(ToPixels(control_.Place()));
+    widget_->setGeometry(ToPixels(control_.Bounds()));
   if (property == Property::Visible) widget_->setVisible(control_.Visible());
   if (property == Property::Order) widget_->raise();
   if (property == Property::Font) ShowFont();
@@ -37,7 +37,7 @@ void ControlPeer::Compare(DifferenceList& differences) const {
   differences.Check(control_, "Visible", widget_->isVisibleTo(parent) == control_.Visible());
   differences.Check(control_, "Enabled", widget_->isEnabledTo(parent) == control_.Enabled());
   if (!IsDocked())
-    differences.Check(control_, "Place", widget_->geometry() == ToPixels(control_.Place()));
+    differences.Check(control_, "Bounds", widget_->geometry() == ToPixels(control_.Bounds()));
 }
 
 void ControlPeer::ShowFont() {

@@ -13,10 +13,10 @@ namespace lumenote {
 
 namespace {
 
-constexpr std::size_t kMostStyles = 4096;
+constexpr std::size_t kMaxStyles = 4096;
 constexpr double kLeastPoints = 1;
-constexpr double kMostPoints = 1638;
-constexpr int kMostStretch = 4000;  // per cent
+constexpr double kMaxPoints = 1638;
+constexpr int kMaxStretch = 4000;  // per cent
 constexpr double kScriptSize = 0.65;
 constexpr double kSuperscriptRaise = 0.33;  // of the full size
 constexpr double kSubscriptRaise = -0.14;
@@ -44,7 +44,7 @@ struct Raised {
 };
 
 Raised RaisedSize(const CharFormat& format) {
-  const double full = std::clamp(format.size / 2.0, kLeastPoints, kMostPoints);
+  const double full = std::clamp(format.size / 2.0, kLeastPoints, kMaxPoints);
   const double pixels = full * 4 / 3;
   const double offset = ToPixels(format.offset);
   if (format.effects & kSuperscript)
@@ -63,7 +63,7 @@ QFont MakeFont(const FontFace& face, const CharFormat& format, double points, do
   font.setPointSizeF(std::max(points * zoom, kLeastPoints));
   font.setBold(format.effects & kBold);
   font.setItalic(format.effects & kItalic);
-  if (format.scale != 100) font.setStretch(std::clamp<int>(format.scale, 1, kMostStretch));
+  if (format.scale != 100) font.setStretch(std::clamp<int>(format.scale, 1, kMaxStretch));
   if (format.spacing != 0) {
     const double least = -points / 2;  // keeps characters in their order
     font.setLetterSpacing(QFont::AbsoluteSpacing, std::max(ToPixels(format.spacing), least) * zoom);
@@ -86,7 +86,7 @@ QPaintDevice* CharStyles::Device() {
 
 const CharStyle& CharStyles::Of(const Document& document, CharId id) {
   if (const auto found = styles_.find(id); found != styles_.end()) return found->second;
-  if (styles_.size() >= kMostStyles) styles_.clear();
+  if (styles_.size() >= kMaxStyles) styles_.clear();
   return styles_.emplace(id, Make(document, document.Formats().characters[id])).first->second;
 }
 

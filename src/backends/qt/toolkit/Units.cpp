@@ -6,11 +6,11 @@
 namespace lumenote {
 
 namespace {
-constexpr double kMostPixels = 32000;
+constexpr double kMaxPixels = 32000;
 }
 
 int RoundToPixel(double twips) {
-  return static_cast<int>(std::lround(std::clamp(ToPixels(twips), -kMostPixels, kMostPixels)));
+  return static_cast<int>(std::lround(std::clamp(ToPixels(twips), -kMaxPixels, kMaxPixels)));
 }
 
 QRect ToPixels(const Rect& twips) {

@@ -117,8 +117,8 @@ QAccessible::State AccessibleView::state() const {
 }
 
 QString AccessibleView::text(QAccessible::Text what) const {
-  constexpr Position kMost = 10'000;  // a glimpse; the rest through the text interface
-  return what == QAccessible::Value && view_.IsAttached() ? text(0, kMost)
+  constexpr Position kMax = 10'000;  // a glimpse; the rest through the text interface
+  return what == QAccessible::Value && view_.IsAttached() ? text(0, kMax)
                                                           : QAccessibleWidget::text(what);
 }
 
@@ -173,10 +173,10 @@ void UseViewAccessibility() {
 
 void AnnounceChange(RichTextView& view, const DocumentChange& change) {
   if (!QAccessible::isActive()) return;
-  constexpr Position kMost = 10'000;
-  const Position end = change.at + std::min(change.inserted, kMost);
+  constexpr Position kMax = 10'000;
+  const Position end = change.at + std::min(change.inserted, kMax);
   const QString inserted = ToQString(view.Surface().Content().Text(change.at, end));
-  const QString removed(std::min(change.removed, kMost), QChar(u'\uFFFD'));
+  const QString removed(std::min(change.removed, kMax), QChar(u'\uFFFD'));
   QAccessibleTextUpdateEvent event(&view, change.at, removed, inserted);
   QAccessible::updateAccessibility(&event);
 }

@@ -11,7 +11,7 @@ namespace lumenote {
 namespace {
 constexpr int kBarlessHeight = 48;  // pixels; lower boxes have no scroll bars
 constexpr int kLineStep = 20;       // pixels
-constexpr double kMostRange = 1e9;
+constexpr double kMaxRange = 1e9;
 }  // namespace
 
 ViewBars::ViewBars(RichTextView& view) : view_(view) {
@@ -47,7 +47,7 @@ void ViewBars::SyncVertical() {
   const ScrollModel::Scale scale = view_.Pane().Scroll().Read();
   QScrollBar* bar = view_.verticalScrollBar();
   const int page = view_.viewport()->height();
-  const int most = static_cast<int>(std::clamp(std::ceil(scale.total - page), 0.0, kMostRange));
+  const int most = static_cast<int>(std::clamp(std::ceil(scale.total - page), 0.0, kMaxRange));
   const bool differs = std::abs(most - bar->maximum()) * 2.0 * page > most;
   if (differs || bar->pageStep() != page) {
     bar->setPageStep(page);

@@ -32,7 +32,7 @@ FormWindow::FormWindow(Form& form, ActivationListener& listener)
 
 void FormWindow::Docked(QWidget* widget) { docked_ = widget; }
 
-void FormWindow::PlaceParts() {
+void FormWindow::LayOutParts() {
   if (!form_) return;
   const int top = form_->HasMenuBar() ? kBarHeight : 0;
   bar_->setVisible(form_->HasMenuBar());
@@ -46,12 +46,12 @@ void FormWindow::PlaceParts() {
 void FormWindow::ShowCaption() { setWindowTitle(ToQString(form_->Caption())); }
 
 void FormWindow::ShowGeometry() {
-  const QPoint corner = WindowGeometry::Corner(form_->Place());
+  const QPoint corner = WindowGeometry::Corner(form_->Bounds());
   const bool elsewhere = corner != geometry_.AskedCorner();
-  geometry_.Asked(form_->Place());
+  geometry_.Asked(form_->Bounds());
   if (elsewhere) move(corner);
-  resize(WindowGeometry::ClientSize(form_->Place()));
-  PlaceParts();
+  resize(WindowGeometry::ClientSize(form_->Bounds()));
+  LayOutParts();
 }
 
 // The kind of window is fixed before the native window exists; later only the on-top state may
@@ -142,16 +142,16 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::resizeEvent(QResizeEvent*) {
-  PlaceParts();
+  LayOutParts();
   if (!form_) return;
-  if (const auto place = geometry_.Resized(size(), form_->Place()))
-    form_->UserResize(place->width, place->height);
+  if (const auto bounds = geometry_.Resized(size(), form_->Bounds()))
+    form_->UserResize(bounds->width, bounds->height);
 }
 
 void FormWindow::moveEvent(QMoveEvent*) {
   if (!form_) return;
-  if (const auto place = geometry_.Moved(pos(), form_->Place()))
-    form_->UserMove(place->left, place->top);
+  if (const auto bounds = geometry_.Moved(pos(), form_->Bounds()))
+    form_->UserMove(bounds->left, bounds->top);
 }
 
 }  // namespace lumenote

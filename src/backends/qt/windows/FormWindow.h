@@ -42,7 +42,7 @@ class FormWindow : public QWidget {
   void ShowOnTop();
   void ShowBackColor();
   /// Re-layouts after the menu bar was shown or hidden.
-  void PlaceParts();
+  void LayOutParts();
 
   /// Resizes as if the user had dragged the border to this outer size, in twips.
   void DragTo(float width, float height);

@@ -52,7 +52,7 @@ class NativeBox : public QMessageBox {
       setDefaultButton(addButton(QStringLiteral("OK"), AcceptRole));
   }
 
-  bool SaysYes() const { return clickedButton() && clickedButton() == yes_; }
+  bool AnsweredYes() const { return clickedButton() && clickedButton() == yes_; }
   /// Only an answer ends the wait, not an event that quits the program or one of Qt's loops.
   static void Await(const QPointer<NativeBox>& box) {
     box->show();
@@ -90,10 +90,10 @@ class NativeBox : public QMessageBox {
 };
 
 /// A question delays the end of the program: repeats a request to quit once it is answered.
-class EndWatch : public QObject {
+class QuitDeferrer : public QObject {
  public:
-  EndWatch() { QCoreApplication::instance()->installEventFilter(this); }
-  ~EndWatch() override {
+  QuitDeferrer() { QCoreApplication::instance()->installEventFilter(this); }
+  ~QuitDeferrer() override {
     if (asked_) QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
   }
 
@@ -111,10 +111,10 @@ class EndWatch : public QObject {
 // The parent window may destroy the box while it is open.
 Answer ShowMessageBox(const MessageBox& box, QWidget* over) {
   const bool question = box.buttons == MessageBox::Buttons::YesNo;
-  const auto watch = question ? std::make_unique<EndWatch>() : nullptr;
+  const auto watch = question ? std::make_unique<QuitDeferrer>() : nullptr;
   const QPointer<NativeBox> shown = new NativeBox(box, over);
   NativeBox::Await(shown);
-  const bool yes = shown && shown->SaysYes();
+  const bool yes = shown && shown->AnsweredYes();
   delete shown;
   if (!question) return Answer::Ok;
   return yes ? Answer::Yes : Answer::No;

@@ -61,7 +61,7 @@ void QtFormPeer::Update(Element& element, Property property) {
     menus_.Update(*menu);
   else if (&element == &form_)
     UpdateForm(property);
-  if (property == Property::Visible) window_->PlaceParts();
+  if (property == Property::Visible) window_->LayOutParts();
 }
 
 void QtFormPeer::Add(Control& control) {
@@ -122,7 +122,7 @@ void QtFormPeer::Compare(DifferenceList& differences) const {
   check("Caption", window_->windowTitle() == ToQString(form_.Caption()));
   check("BackColor", window_->Ground() == window_->WantedGround());
   if (!form_.Visible()) return;
-  check("Size", window_->size() == WindowGeometry::ClientSize(form_.Place()));
+  check("Size", window_->size() == WindowGeometry::ClientSize(form_.Bounds()));
   check("TopMost",
         form_.OnTop() == window_->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
   check("menu bar", window_->Bar().isVisible() == form_.HasMenuBar());

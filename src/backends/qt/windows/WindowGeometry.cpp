@@ -9,41 +9,41 @@ namespace lumenote {
 
 namespace {
 constexpr int kSettlingTime = 1000;  // milliseconds
-constexpr QSize kMostPixels{16384, 16384};
+constexpr QSize kMaxPixels{16384, 16384};
 }  // namespace
 
-QSize WindowGeometry::ClientSize(const Rect& place) {
-  const QSize outer(RoundToPixel(place.width), RoundToPixel(place.height));
-  return (outer - kDecorations).expandedTo({0, 0}).boundedTo(kMostPixels);
+QSize WindowGeometry::ClientSize(const Rect& bounds) {
+  const QSize outer(RoundToPixel(bounds.width), RoundToPixel(bounds.height));
+  return (outer - kDecorations).expandedTo({0, 0}).boundedTo(kMaxPixels);
 }
 
-QPoint WindowGeometry::Corner(const Rect& place) {
-  return {RoundToPixel(place.left), RoundToPixel(place.top)};
+QPoint WindowGeometry::Corner(const Rect& bounds) {
+  return {RoundToPixel(bounds.left), RoundToPixel(bounds.top)};
 }
 
-void WindowGeometry::Asked(const Rect& place) {
-  asked_ = settledSize_ = ClientSize(place);
-  askedCorner_ = settledCorner_ = Corner(place);
+void WindowGeometry::Asked(const Rect& bounds) {
+  asked_ = settledSize_ = ClientSize(bounds);
+  askedCorner_ = settledCorner_ = Corner(bounds);
   settling_.setRemainingTime(kSettlingTime);
 }
 
 // Screens with a fractional scale round to device pixels.
-std::optional<Rect> WindowGeometry::Resized(QSize client, const Rect& place) {
+std::optional<Rect> WindowGeometry::Resized(QSize client, const Rect& bounds) {
   const QSize off = client - asked_;
   const QSize grown = client - settledSize_;
   settledSize_ = client;
   if (std::max(std::abs(off.width()), std::abs(off.height())) <= 1) return std::nullopt;
   asked_ = client;
-  return Rect{place.left, place.top, place.width + ToTwips(grown.width()),
-              place.height + ToTwips(grown.height())};
+  return Rect{bounds.left, bounds.top, bounds.width + ToTwips(grown.width()),
+              bounds.height + ToTwips(grown.height())};
 }
 
-std::optional<Rect> WindowGeometry::Moved(QPoint corner, const Rect& place) {
+std::optional<Rect> WindowGeometry::Moved(QPoint corner, const Rect& bounds) {
   const QPoint moved = corner - settledCorner_;
   settledCorner_ = corner;
   if (!settling_.hasExpired() || moved.isNull()) return std::nullopt;
-  return Rect{place.left + ToTwips(moved.x()), place.top + ToTwips(moved.y()), place.width,
-              place.height};
+  return Rect{bounds.left + ToTwips(moved.x()), bounds.top + ToTwips(moved.y()), bounds.width,
+              bounds.height};
 }
 
 }  // namespace lumenote

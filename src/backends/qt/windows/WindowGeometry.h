@@ -15,17 +15,17 @@ namespace lumenote {
 class WindowGeometry {
  public:
   /// Limited to what a desktop can show; the form's own size is not.
-  static QSize ClientSize(const Rect& place);
-  static QPoint Corner(const Rect& place);
+  static QSize ClientSize(const Rect& bounds);
+  static QPoint Corner(const Rect& bounds);
 
   /// The form's bounds were requested; for a moment the window may settle anywhere.
-  void Asked(const Rect& place);
+  void Asked(const Rect& bounds);
   /// The position last requested; empty at first.
   std::optional<QPoint> AskedCorner() const { return askedCorner_; }
 
   /// The client area has this size now. Returns the form's new bounds if that is the user's doing.
-  std::optional<Rect> Resized(QSize client, const Rect& place);
-  std::optional<Rect> Moved(QPoint corner, const Rect& place);
+  std::optional<Rect> Resized(QSize client, const Rect& bounds);
+  std::optional<Rect> Moved(QPoint corner, const Rect& bounds);
 
  private:
   QSize asked_;

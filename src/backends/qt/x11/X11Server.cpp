@@ -15,11 +15,11 @@ struct Free {
 template <class Reply>
 using ReplyOwner = std::unique_ptr<Reply, Free>;
 
-constexpr std::uint32_t kMostWords = 4096;
+constexpr std::uint32_t kMaxWords = 4096;
 
 ReplyOwner<xcb_get_property_reply_t> PropertyOf(xcb_connection_t* server, xcb_window_t window,
                                                 xcb_atom_t property) {
-  const auto asked = xcb_get_property(server, 0, window, property, XCB_ATOM_ANY, 0, kMostWords);
+  const auto asked = xcb_get_property(server, 0, window, property, XCB_ATOM_ANY, 0, kMaxWords);
   return ReplyOwner<xcb_get_property_reply_t>(xcb_get_property_reply(server, asked, nullptr));
 }
 

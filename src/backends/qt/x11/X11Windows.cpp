@@ -45,7 +45,7 @@ bool X11Windows::AskToClose(const std::vector<pid_t>& processes) {
   return asked;
 }
 
-bool X11Windows::Show(std::string_view text) const {
+bool X11Windows::AnyTitleContains(std::string_view text) const {
   const X11Server server;
   const std::vector<xcb_window_t> windows = Listed(server);
   return std::any_of(windows.begin(), windows.end(), [&](xcb_window_t window) {

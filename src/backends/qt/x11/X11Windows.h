@@ -10,7 +10,7 @@ class X11Windows final : public ProgramWindows {
  public:
   /// Only windows that support the protocol are asked; none is closed by force.
   bool AskToClose(const std::vector<pid_t>& processes) override;
-  bool Show(std::string_view text) const override;
+  bool AnyTitleContains(std::string_view text) const override;
 };
 
 }  // namespace lumenote

@@ -1,5 +1,5 @@
 // Looks up windows, elements and members by name.
-#include "pilot/stage/Objects.h"
+#include "pilot/context/Objects.h"
 
 #include <algorithm>
 #include <array>
@@ -8,8 +8,8 @@
 
 #include "base/RuntimeError.h"
 #include "forms/Form.h"
+#include "pilot/context/ScriptContext.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Stage.h"
 
 namespace lumenote {
 namespace {
@@ -85,23 +85,23 @@ Element& FindElement(const WindowList& windows, std::string_view path) {
   Unknown("control", path);
 }
 
-Value ReadMember(Stage& stage, std::string_view path) {
+Value ReadMember(ScriptContext& context, std::string_view path) {
   const auto [object, name] = SplitMember(path);
-  if (object == kSession) return ReadSession(*stage.control.Parts().session, name);
+  if (object == kSession) return ReadSession(*context.control.Parts().session, name);
   if (object == kStyle) return ReadStyle(name);
   const MemberName wanted = ParseMember(name);
   MemberTable members;
-  FindElement(stage.Windows(), object).Describe(members);
+  FindElement(context.Windows(), object).Describe(members);
   return FindMember(members, wanted).get(wanted.index);
 }
 
-void WriteMember(Stage& stage, std::string_view path, const Value& value) {
+void WriteMember(ScriptContext& context, std::string_view path, const Value& value) {
   const auto [object, name] = SplitMember(path);
   if (object == kSession) throw ScriptError("session values can only be read");
   if (object == kStyle) return WriteStyle(name, value);
   const MemberName wanted = ParseMember(name);
   MemberTable members;
-  FindElement(stage.Windows(), object).Describe(members);
+  FindElement(context.Windows(), object).Describe(members);
   const Member& member = FindMember(members, wanted);
   if (!member.set) throw ScriptError(std::string(name) + " can only be read");
   member.set(value, wanted.index);

@@ -12,10 +12,10 @@ class Files;
 
 /// A fake program is a file with special content. Once started it runs until it is finished or
 /// terminated, even if its file is deleted; other files cannot be started.
-class StandIns final : public Processes {
+class FakePrograms final : public Processes {
  public:
   /// `files` must outlive it.
-  explicit StandIns(Files& files) : files_(files) {}
+  explicit FakePrograms(Files& files) : files_(files) {}
 
   ProcessId Start(std::u16string_view commandLine) override;
   bool IsRunning(ProcessId process) override;

@@ -10,7 +10,7 @@ class Element;
 class Form;
 class WindowList;
 struct Session;
-struct Stage;
+struct ScriptContext;
 
 /// A loaded window. Raises `Refusal` if it is not loaded, `ScriptError` if no window has that name.
 Form& FindForm(const WindowList& windows, std::string_view name);
@@ -19,8 +19,8 @@ Form& FindForm(const WindowList& windows, std::string_view name);
 Element& FindElement(const WindowList& windows, std::string_view path);
 
 /// "OBJECT.MEMBER" or "Session.NAME".
-Value ReadMember(Stage& stage, std::string_view path);
-void WriteMember(Stage& stage, std::string_view path, const Value& value);
+Value ReadMember(ScriptContext& context, std::string_view path);
+void WriteMember(ScriptContext& context, std::string_view path, const Value& value);
 
 /// One of the session's values; raises `ScriptError` for an unknown name.
 Value ReadSession(const Session& session, std::string_view name);

@@ -14,7 +14,7 @@
 
 namespace lumenote {
 
-struct Stage {
+struct ScriptContext {
   CoBxRtf& control;
   Sandbox& sandbox;
   PilotBackend& backend;

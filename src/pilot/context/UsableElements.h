@@ -9,19 +9,19 @@ class Element;
 class Form;
 class Menu;
 class RichTextBox;
-struct Stage;
+struct ScriptContext;
 
 /// Each raises what `FindElement` raises, `ScriptError` for an element of the wrong kind, and
 /// `Refusal` if the element or its window is hidden, disabled, or locked by a modal window. The
 /// window is active on return.
-Form& ReachForm(Stage& stage, std::string_view path);
+Form& UsableForm(ScriptContext& context, std::string_view path);
 /// A control, or a menu entry that could be clicked, whichever menu contains it.
-Element& ReachPart(Stage& stage, std::string_view path);
-Control& ReachControl(Stage& stage, std::string_view path);
+Element& UsablePart(ScriptContext& context, std::string_view path);
+Control& UsableControl(ScriptContext& context, std::string_view path);
 /// A control that can have the focus; for a window, the one that has it.
-Control& ReachKeyboard(Stage& stage, std::string_view path);
-RichTextBox& ReachSurface(Stage& stage, std::string_view path);
+Control& KeyboardTarget(ScriptContext& context, std::string_view path);
+RichTextBox& UsableSurface(ScriptContext& context, std::string_view path);
 /// An enabled menu, even a hidden one, which can be opened as a popup.
-Menu& ReachMenu(Stage& stage, std::string_view path);
+Menu& UsableMenu(ScriptContext& context, std::string_view path);
 
 }  // namespace lumenote

@@ -8,7 +8,7 @@
 namespace lumenote {
 
 /// Valid until something is undone or redone, or the history is cleared.
-struct UndoMark {
+struct UndoSavepoint {
   std::uint64_t age = 0;      // changes at each undo, redo and clearing
   std::size_t steps = 0;      // started so far
   std::size_t edits = 0;      // in the log

@@ -2,8 +2,8 @@
 #include <array>
 #include <string>
 
+#include "pilot/context/Objects.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Objects.h"
 #include "session/Session.h"
 
 namespace lumenote {

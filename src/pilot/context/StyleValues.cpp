@@ -5,8 +5,8 @@
 #include "base/Numbers.h"
 #include "format/StyleStore.h"
 #include "forms/values/Members.h"
+#include "pilot/context/Objects.h"
 #include "pilot/language/ScriptError.h"
-#include "pilot/stage/Objects.h"
 
 namespace lumenote {
 namespace {

@@ -1,4 +1,4 @@
-#include "editor/WindowPlace.h"
+#include "editor/StoredGeometry.h"
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
@@ -16,7 +16,7 @@ struct Dimension {
   float standard;
 };
 
-/// In the order in which they are read, applied and written.
+/// In the order of reading, applying and writing.
 constexpr Dimension kDimensions[] = {{u"DimRtfH", &Rect::height, 4350},
                                      {u"DimRtfW", &Rect::width, 5650},
                                      {u"DimRtfT", &Rect::top, 3250},
@@ -25,21 +25,21 @@ constexpr Dimension kDimensions[] = {{u"DimRtfH", &Rect::height, 4350},
 }  // namespace
 
 Rect LireGeometrie(const Settings& settings, std::u16string_view section) {
-  Rect place;
+  Rect bounds;
   for (const Dimension& dimension : kDimensions) {
-    place.*dimension.side = dimension.standard;
+    bounds.*dimension.side = dimension.standard;
     IgnoringErrors([&] {
       if (const auto stored = settings.Read(kApplication, section, dimension.key))
-        place.*dimension.side = ParseSingle(*stored);
+        bounds.*dimension.side = ParseSingle(*stored);
     });
   }
-  return place;
+  return bounds;
 }
 
-void EcrireGeometrie(Settings& settings, std::u16string_view section, const Rect& place) {
+void EcrireGeometrie(Settings& settings, std::u16string_view section, const Rect& bounds) {
   for (const Dimension& dimension : kDimensions)
     IgnoringErrors([&] {
-      settings.Write(kApplication, section, dimension.key, NumberText(place.*dimension.side));
+      settings.Write(kApplication, section, dimension.key, NumberText(bounds.*dimension.side));
     });
 }
 
