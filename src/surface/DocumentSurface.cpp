@@ -68,7 +68,7 @@ void DocumentSurface::RightMargin(float twips) {
   if (!std::isfinite(twips) || twips < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
   if (twips == rightMargin_) return;
   rightMargin_ = twips;
-  core_.TellWrapWidth();
+  core_.NotifyWrapWidth();
 }
 
 Position DocumentSurface::Find(std::u16string_view text, Position start, int options) {
@@ -128,7 +128,7 @@ bool DocumentSurface::UserKey(const KeyStroke& key) {
   return true;
 }
 
-// Keys and searches show the caret even where it did not move.
+// Keys and searches reveal the caret even if it did not move.
 void DocumentSurface::Reveal() { core_.Reveal(); }
 
 }  // namespace lumenote

@@ -14,7 +14,7 @@ TEST(Document, AnswersEveryPositionWhenEmpty) {
     EXPECT_EQ(document.ParagraphEnd(position), 0);
     EXPECT_EQ(document.CharFormatAt(position), 0u);
     EXPECT_EQ(document.ParaFormatAt(position), 0u);
-    EXPECT_EQ(document.Before(position), 0);
+    EXPECT_EQ(document.SnapBackward(position), 0);
     EXPECT_EQ(document.Text(position, 9), u"");
     EXPECT_EQ(document.Copy(position, 9).Length(), 0);
   }
@@ -30,12 +30,12 @@ TEST(Document, MovesEdgesOutOfPairs) {
   };
   for (const Case& c : {Case{-1, 99, {0, 6}}, Case{2, 2, {1, 1}}, Case{0, 2, {0, 3}},
                         Case{2, 4, {1, 4}}, Case{3, 1, {3, 3}}, Case{9, 2, {6, 6}}}) {
-    EXPECT_EQ(document.Outwards(c.from, c.to), c.outwards) << c.from << ".." << c.to;
+    EXPECT_EQ(document.SnapOutward(c.from, c.to), c.outwards) << c.from << ".." << c.to;
   }
-  EXPECT_EQ(document.Before(2), 1);
-  EXPECT_EQ(document.After(2), 3);
-  EXPECT_EQ(document.Before(5), 4);
-  EXPECT_EQ(document.After(5), 6);
+  EXPECT_EQ(document.SnapBackward(2), 1);
+  EXPECT_EQ(document.SnapForward(2), 3);
+  EXPECT_EQ(document.SnapBackward(5), 4);
+  EXPECT_EQ(document.SnapForward(5), 6);
   document.Replace(2, 2, PlainFragment(u"x", 0, 0));
   EXPECT_EQ(document.Text(0, 99), u"ax\r\nb\U0001F33C");
 }
@@ -66,8 +66,8 @@ TEST(Document, EditsLeaveNoCrumbs) {
   document.Replace(0, 0, RandomFragment(dice, 1200000, piece));
   std::u16string text = piece.text;
   for (int i = 0; i < 3000; ++i) {
-    const Position from = document.Before(dice.UpTo(document.Length()));
-    const Position to = document.After(from + dice.Below(i % 10 == 0 ? 3000 : 300));
+    const Position from = document.SnapBackward(dice.UpTo(document.Length()));
+    const Position to = document.SnapForward(from + dice.Below(i % 10 == 0 ? 3000 : 300));
     const Fragment inserted = RandomFragment(dice, dice.Below(50), piece);
     document.Replace(from, to, inserted);
     text.replace(from, to - from, piece.text);
@@ -90,7 +90,7 @@ TEST(Document, RefusesToOutgrowAPosition) {
   EXPECT_THROW(document.Replace(5, 5, twice), RuntimeError);
   EXPECT_EQ(document.Length(), length);
   document.Replace(1, 2, twice);
-  EXPECT_EQ(document.Length(), LeafList::kMost);
+  EXPECT_EQ(document.Length(), LeafList::kMax);
   EXPECT_THROW(document.Replace(0, 0, PlainFragment(u"x", 0, 0)), RuntimeError);
 }
 

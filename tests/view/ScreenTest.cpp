@@ -54,7 +54,7 @@ void CompareWithWhole(Window& window, std::mt19937& random) {
     ASSERT_EQ(pane.ShownLine(line.start), line);
     const PixelPoint point{1.0 * Below(random, 300), 1.0 * Below(random, 200)};
     const Position at = whole.At({point.x - pane.TextLeft(), point.y + offset});
-    ASSERT_EQ(pane.PositionAt(point), window.surface.Content().Before(at));
+    ASSERT_EQ(pane.PositionAt(point), window.surface.Content().SnapBackward(at));
     const PixelPoint place = whole.PlaceOf(pane.PositionAt(point));
     const std::optional<PixelRect> caret = pane.CaretAt(pane.PositionAt(point));
     ASSERT_TRUE(caret);

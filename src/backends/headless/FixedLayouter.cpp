@@ -10,7 +10,7 @@ namespace lumenote {
 
 namespace {
 
-constexpr double kAdvance = 5;  // twips for each half-point of the size
+constexpr double kAdvance = 5;  // twips per half-point of the size
 constexpr double kAscent = 9.6;
 constexpr double kDescent = 2.4;
 constexpr double kTolerance = 1e-6;  // pixels
@@ -31,8 +31,8 @@ struct Glyph {
 class FixedPiece final : public Piece {
  public:
   std::vector<Glyph> glyphs;
-  std::vector<double> lefts;   // of each line
-  std::vector<double> rights;  // of each unit in its line
+  std::vector<double> lefts;   // of the lines
+  std::vector<double> rights;  // of the units, within their line
 
   double CaretX(int line, int index) const override {
     const auto at = static_cast<std::size_t>(line);
@@ -71,9 +71,9 @@ class PieceBuilder {
         end_(document.ParagraphEnd(document.ParagraphOf(piece.from))),
         tabStep_(layouter.Pixels(kDefaultTabStep)) {}
 
-  /// Returns false when an incomplete span gave no whole line.
+  /// Returns false if an incomplete span gave no whole line.
   bool BuildLines(const PieceSpan& span);
-  /// A row of cells, wholly, whatever the span; false where the paragraph is none.
+  /// Lays out a whole row of cells, whatever the span; false if the paragraph is not a row.
   bool BuildRow();
 
  private:
@@ -125,7 +125,7 @@ void PieceBuilder::AddText(Position from, Position to) {
   if (piece_.composedLength > 0) AddComposed();
 }
 
-// It looks like the character at its place.
+// Composed text takes the format of the character at its position.
 void PieceBuilder::AddComposed() {
   const CharId format = document_.CharFormatAt(piece_.from + piece_.composedAt);
   std::vector<Glyph> glyphs;
@@ -143,7 +143,7 @@ double PieceBuilder::Behind(int index, double x) const {
   return (std::floor(x / tabStep_ + kTolerance) + 1) * tabStep_;
 }
 
-// Where the line that begins at `start` ends: at `limit` when all of that fits.
+// End of the line that starts at `start`; `limit` if everything fits.
 int PieceBuilder::LineEnd(int start, int limit, double left, double room) const {
   int breakAt = start;
   double x = left;
@@ -205,7 +205,7 @@ bool PieceBuilder::BuildLines(const PieceSpan& span) {
   return true;
 }
 
-// A cell ends with a tab, which takes no room; the last one has what is left of the paragraph.
+// Each cell ends with a tab of no width; the last cell takes the rest of the paragraph.
 bool PieceBuilder::BuildRow() {
   const Kept& row = KeptOf(document_.CharFormatAt(end_));
   const bool isRow = layouter_.cellsOf && row.kind == Kept::Kind::Row;
@@ -239,7 +239,7 @@ int PieceBuilder::EndCell(int start) {
 
 }  // namespace
 
-FontExtent FixedLayouter::ExtentOf(const Document&, const CharFormat& format) {
+FontMetrics FixedLayouter::MetricsOf(const Document&, const CharFormat& format) {
   return {Pixels(format.size * kAscent), Pixels(format.size * kDescent), 0};
 }
 

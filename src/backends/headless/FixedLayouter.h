@@ -1,4 +1,4 @@
-// Layout without fonts: every character is half as wide as it is high.
+// Layout without fonts: each character is half as wide as it is high.
 #pragma once
 #include <functional>
 #include <vector>
@@ -8,26 +8,26 @@
 
 namespace lumenote {
 
-/// A character of ten points is 20/3 pixels wide in a line of 16. A tab goes to the next multiple
-/// of half an inch; lines break behind blanks, tabs and hyphens, a longer word is cut; blanks at a
-/// line's end hang over; every alignment is laid out flush left.
+/// A ten-point character is 20/3 pixels wide, in a line of 16 pixels. Tabs advance to the next
+/// multiple of half an inch; lines break after spaces, tabs and hyphens, and inside a word that is
+/// too long; trailing spaces hang; every alignment is set flush left.
 class FixedLayouter final : public TextLayouter {
  public:
-  /// The size of the box that stands for a character of what is kept; without it, such a character
-  /// is one like the others.
+  /// The size of the box shown for a character with kept content; unset, such a character is an
+  /// ordinary one.
   std::function<PixelSize(const Kept&)> boxOf;
-  /// The right edges, in pixels, of a table row's cells, told by its break; without it, or where
-  /// there are none, the cells are text with tabs between them.
+  /// The right edges, in pixels, of the cells of the table row that a break ends. Unset or empty,
+  /// the cells are text separated by tabs.
   std::function<std::vector<double>(const Kept&)> cellsOf;
 
   std::unique_ptr<Piece> LayOut(const Document& document, const PieceSpan& span) override;
-  FontExtent ExtentOf(const Document& document, const CharFormat& format) override;
+  FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 };
 
-/// Breaks lines by a layouter of its own.
+/// Breaks lines with a layouter of its own.
 class FixedBreaker final : public LineBreaker {
  public:
-  /// `width`: where lines wrap, in twips.
+  /// `width` is the wrap width in twips.
   explicit FixedBreaker(double width) { layouter_.Width(width / kTwipsInPixel); }
 
   std::vector<Position> Break(const Document& document, Position from, Position to) override {

@@ -1,4 +1,4 @@
-// Acts as calls of the doors.
+// Performs user input by calling the `User...` members.
 #include "backends/headless/HeadlessActs.h"
 
 #include <algorithm>
@@ -15,14 +15,14 @@ namespace {
 
 PixelPoint PixelsOf(Point twips) { return {twips.x / kTwipsInPixel, twips.y / kTwipsInPixel}; }
 
-/// Length of the key at the start of the text: CR LF and a surrogate pair are one.
+/// Units of the key at the start of the text; CR LF and a surrogate pair are one key.
 std::size_t KeyLength(std::u16string_view text) {
   const bool pair = text.starts_with(u"\r\n") ||
                     (text.size() > 1 && IsHighSurrogate(text[0]) && IsLowSurrogate(text[1]));
   return pair ? 2 : 1;
 }
 
-/// Whether the window is still there; an event may have closed it.
+/// Whether the window still exists; an event may have closed it.
 class StillLoaded {
  public:
   explicit StillLoaded(Form& form) : windows_(form.Windows()), form_(&form) {}
@@ -46,7 +46,7 @@ void MouseIn(HeadlessView& view, UserActs::MouseAct act, const MouseEvent& event
 
 }  // namespace
 
-/// The window takes the keys that a control has no use for.
+/// Keys that the control does not handle go to its window.
 void HeadlessActs::PressKey(Control& control, const KeyStroke& key) {
   Form& form = control.Owner();
   const auto view = backend_.ViewOf(control);

@@ -1,4 +1,4 @@
-// The user's acts without a window system.
+// Simulated user input without a window system.
 #pragma once
 #include "base/Position.h"
 #include "forms/controls/UserActs.h"
@@ -7,7 +7,7 @@ namespace lumenote {
 
 class HeadlessBackend;
 
-/// Performs each act through the elements' doors, on windows of a `HeadlessBackend`.
+/// Calls the elements' `User...` members, on windows of a `HeadlessBackend`.
 class HeadlessActs final : public UserActs {
  public:
   /// `backend` outlives the acts.

@@ -1,4 +1,4 @@
-// A backend without a window system: windows are their state, and nobody sits before them.
+// A backend without a window system or a user.
 #pragma once
 #include <memory>
 
@@ -8,19 +8,18 @@
 
 namespace lumenote {
 
-/// Surfaces are laid out with fixed advances. Message boxes are answered with their default button
-/// at once; popup menus are dismissed. Timers tick only while `Advance` is called. Outlives the
-/// windows.
+/// Lays surfaces out with fixed advances. Answers message boxes at once with their default button;
+/// dismisses popup menus. Timers tick only during `Advance`. Must outlive the windows.
 class HeadlessBackend : public Backend {
  public:
   std::unique_ptr<FormPeer> Realise(Form& form) override;
   std::unique_ptr<RichTextSurface> MakeSurface(RichTextBox& box, Clipboard& clipboard,
                                                Files& files) override;
   MessageBox::Answer Show(const MessageBox& box, Form* over) override;
-  /// Cancelled at once.
+  /// Cancels at once.
   std::optional<FontChoice> ChooseFont(const FontChoice&, Form*) override { return {}; }
-  /// No event can come while the caller waits: raises InvalidArgument (5) unless `done` holds
-  /// already.
+  /// No events arrive while the caller waits: raises InvalidArgument (5) unless `done` already
+  /// returns true.
   void RunUntil(const std::function<bool()>& done) override;
   void Arm(Timer& timer) override { clock_.Arm(timer); }
   void Disarm(Timer& timer) override { clock_.Disarm(timer); }

@@ -1,4 +1,4 @@
-// Windows that nobody sees: only their rich-text boxes are realised.
+// Invisible windows: only their rich-text boxes are realised.
 #pragma once
 #include <map>
 #include <memory>
@@ -9,13 +9,13 @@
 
 namespace lumenote {
 
-/// The layouts of boxes, made with their surfaces, and the views of those on a window that is
-/// loaded. A box that is gone leaves its layout behind, until another one takes its place.
+/// The layouts of boxes, created with their surfaces. A destroyed box leaves its layout behind
+/// until a new box has the same address.
 using HeadlessBoxes = std::map<const Control*, std::unique_ptr<HeadlessBox>>;
 
 class HeadlessPeer final : public FormPeer {
  public:
-  /// `boxes` outlives the peer.
+  /// `layouts` must outlive the peer.
   HeadlessPeer(Form& form, HeadlessBoxes& boxes);
   ~HeadlessPeer() override;
 

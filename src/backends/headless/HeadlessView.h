@@ -1,4 +1,4 @@
-// A rich-text box that nobody sees, laid out and used as on a screen.
+// An invisible rich-text box, laid out and operated as if on screen.
 #pragma once
 #include <memory>
 
@@ -11,17 +11,17 @@
 
 namespace lumenote {
 
-/// As large as its box, without frame, margin or scroll bars. What there is to be shown is dropped.
+/// As large as its box, without frame, margin or scroll bars. Ignores what it is told to paint.
 class HeadlessView final : private ViewHost {
  public:
-  /// Both outlive the view.
+  /// Both must outlive the view.
   HeadlessView(RichTextBox& box, FixedLayouter& layouter);
 
   NoteView& Text() { return text_; }
   ViewKeys& Keys() { return keys_; }
   ViewMouse& Mouse() { return mouse_; }
   ViewDrop& Drop() { return drop_; }
-  /// After the box has got another size.
+  /// Call after the box has been resized.
   void Resize();
 
  private:

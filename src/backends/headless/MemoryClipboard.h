@@ -1,10 +1,10 @@
-// A clipboard of one's own.
+// A private clipboard.
 #pragma once
 #include "platform/Clipboard.h"
 
 namespace lumenote {
 
-/// Empty at first; no other program sees it.
+/// Initially empty; not visible to other programs.
 class MemoryClipboard final : public Clipboard {
  public:
   ClipboardContent Get() const override { return content_; }

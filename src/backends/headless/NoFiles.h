@@ -5,7 +5,7 @@
 
 namespace lumenote {
 
-/// Nothing stands at any path, and nothing can be put there: PathNotFound (76).
+/// No path exists and none can be created: PathNotFound (76).
 class NoFiles final : public Files {
  public:
   bool Exists(std::u16string_view) const override { return false; }

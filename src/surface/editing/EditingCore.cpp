@@ -6,7 +6,7 @@
 
 #include "base/RuntimeError.h"
 #include "document/KeptEdits.h"
-#include "surface/editing/ChangeSpan.h"
+#include "surface/editing/MergeEdit.h"
 
 namespace lumenote {
 
@@ -14,20 +14,20 @@ namespace {
 
 constexpr std::size_t kReserve = std::size_t{1} << 16;
 
-/// Sets a flag for as long as it lives.
-class Raised {
+/// Sets a flag during its lifetime.
+class ScopedFlag {
  public:
-  explicit Raised(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
-  ~Raised() { flag_ = before_; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
+  explicit ScopedFlag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+  ~ScopedFlag() { flag_ = before_; }
+  ScopedFlag(const ScopedFlag&) = delete;
+  ScopedFlag& operator=(const ScopedFlag&) = delete;
 
  private:
   bool& flag_;
   bool before_;
 };
 
-/// An undo step that ends with whatever selection there is then.
+/// An undo step; the selection at its end is the one to restore on redo.
 class OpenStep {
  public:
   OpenStep(UndoHistory& history, UndoKind kind, const EditingCore& core)
@@ -50,7 +50,7 @@ class EditingCore::Batch {
  public:
   explicit Batch(EditingCore& core) : core_(core) { ++core_.batches_; }
   ~Batch() {
-    if (--core_.batches_ == 0) core_.TellView();
+    if (--core_.batches_ == 0) core_.NotifyView();
   }
   Batch(const Batch&) = delete;
   Batch& operator=(const Batch&) = delete;
@@ -67,16 +67,16 @@ Selection EditingCore::Selected() const {
   return {std::min(anchor_, caret_), std::max(anchor_, caret_)};
 }
 
-// Returns whether anything moved.
+// Returns whether the selection changed.
 bool EditingCore::Move(Position anchor, Position caret) {
   anchor = std::clamp(anchor, 0, document_.Length());
   caret = std::clamp(caret, 0, document_.Length());
   if (anchor == caret) {
-    anchor = caret = document_.Before(caret);
+    anchor = caret = document_.SnapBackward(caret);
   } else {
     const bool forward = anchor < caret;
-    anchor = forward ? document_.Before(anchor) : document_.After(anchor);
-    caret = forward ? document_.After(caret) : document_.Before(caret);
+    anchor = forward ? document_.SnapBackward(anchor) : document_.SnapForward(anchor);
+    caret = forward ? document_.SnapForward(caret) : document_.SnapBackward(caret);
   }
   if (anchor == anchor_ && caret == caret_) return false;
   anchor_ = anchor;
@@ -85,11 +85,11 @@ bool EditingCore::Move(Position anchor, Position caret) {
 }
 
 void EditingCore::Select(Position anchor, Position caret) {
-  RequireQuiet();
+  RefuseWhileNotifying();
   if (!Move(anchor, caret)) return;
   chosenFormat_.reset();
   history_.Close();
-  Tell();
+  Notify();
 }
 
 CharFormat EditingCore::InsertionFormat() const {
@@ -102,12 +102,12 @@ CharFormat EditingCore::InsertionFormat() const {
 }
 
 void EditingCore::Edit(UndoKind kind, const std::function<void()>& make) {
-  RequireQuiet();
+  RefuseWhileNotifying();
   {
     const OpenStep step(history_, kind, *this);
     Undoable(make);
   }
-  Tell();
+  Notify();
 }
 
 void EditingCore::BeginGroup() {
@@ -117,7 +117,7 @@ void EditingCore::BeginGroup() {
 
 void EditingCore::EndGroup() {
   history_.End(Selected());
-  if (--batches_ == 0) TellView();
+  if (--batches_ == 0) NotifyView();
 }
 
 void EditingCore::Atomically(const std::function<void()>& command) {
@@ -127,34 +127,34 @@ void EditingCore::Atomically(const std::function<void()>& command) {
 
 void EditingCore::Undoable(const std::function<void()>& command) {
   if (!reserve_) reserve_.reset(new (std::nothrow) char[kReserve]);
-  const UndoMark mark = history_.Mark();
+  const UndoSavepoint savepoint = history_.Savepoint();
   const Selection selected{anchor_, caret_};
   const std::optional<CharFormat> format = chosenFormat_;
   try {
     command();
   } catch (const std::bad_alloc&) {
     reserve_.reset();
-    BackTo(mark, selected);
+    RollBackTo(savepoint, selected);
     chosenFormat_ = format;
     throw;
   }
 }
 
-void EditingCore::BackTo(const UndoMark& mark, Selection selected) {
-  history_.BackTo(mark, [this](Position at, Position removed, Position inserted) {
-    Note({at, removed, inserted});
+void EditingCore::RollBackTo(const UndoSavepoint& savepoint, Selection selected) {
+  history_.RollBackTo(savepoint, [this](Position at, Position removed, Position inserted) {
+    RecordEdit({at, removed, inserted});
   });
   Move(selected.start, selected.end);
-  if (!telling_) Tell();
+  if (!notifying_) Notify();
 }
 
 void EditingCore::Replace(Position from, Position to, const Fragment& fragment) {
-  Note(history_.Apply(from, to, fragment));
+  RecordEdit(history_.Apply(from, to, fragment));
 }
 
-void EditingCore::Note(const DocumentChange& edit) {
+void EditingCore::RecordEdit(const DocumentChange& edit) {
   lines_.Edited(edit.at);
-  Widen(change_, edit);
+  MergeEdit(change_, edit);
   changed_ = true;
 }
 
@@ -163,14 +163,14 @@ void EditingCore::Place(Position anchor, Position caret, std::optional<CharForma
   chosenFormat_ = typing;
 }
 
-void EditingCore::Undo() { Travel(&UndoHistory::Undo); }
+void EditingCore::Undo() { Revert(&UndoHistory::Undo); }
 
-void EditingCore::Redo() { Travel(&UndoHistory::Redo); }
+void EditingCore::Redo() { Revert(&UndoHistory::Redo); }
 
-void EditingCore::Travel(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&)) {
-  RequireQuiet();
+void EditingCore::Revert(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&)) {
+  RefuseWhileNotifying();
   const auto note = [this](Position at, Position removed, Position inserted) {
-    Note({at, removed, inserted});
+    RecordEdit({at, removed, inserted});
   };
   try {
     const std::optional<Selection> selection = (history_.*step)(note);
@@ -179,52 +179,52 @@ void EditingCore::Travel(std::optional<Selection> (UndoHistory::*step)(const Edi
     Move(selection->start, selection->end);
   } catch (const std::bad_alloc&) {
     Move(anchor_, caret_);
-    Tell();
+    Notify();
     throw;
   }
-  Tell();
+  Notify();
 }
 
 void EditingCore::Load(const Fragment& whole) {
-  RequireQuiet();
+  RefuseWhileNotifying();
   const Position before = document_.Length();
   document_.Replace(0, before, whole);
   history_.Clear();
   lines_.Reset();
   chosenFormat_.reset();
-  Widen(change_, {0, before, document_.Length()});
+  MergeEdit(change_, {0, before, document_.Length()});
   changed_ = true;
   Move(0, 0);
-  Tell();
+  Notify();
 }
 
-void EditingCore::TellWrapWidth() {
+void EditingCore::NotifyWrapWidth() {
   lines_.Reset();
-  const Raised telling(telling_);
+  const ScopedFlag notifying(notifying_);
   if (view_) view_->WrapWidthChanged();
 }
 
-void EditingCore::RequireQuiet() const {
-  if (telling_) throw RuntimeError(ErrorNumber::InvalidArgument);
+void EditingCore::RefuseWhileNotifying() const {
+  if (notifying_) throw RuntimeError(ErrorNumber::InvalidArgument);
 }
 
 SurfaceView* EditingCore::View() {
-  TellView();
+  NotifyView();
   return view_;
 }
 
 void EditingCore::Reveal() {
   revealing_ = true;
-  if (batches_ == 0) TellView();
+  if (batches_ == 0) NotifyView();
 }
 
-// A view that could not follow for want of memory lays everything out anew.
-void EditingCore::TellView() {
+// A view that runs out of memory while updating lays everything out again.
+void EditingCore::NotifyView() {
   const std::optional<DocumentChange> change = std::exchange(change_, std::nullopt);
   const bool moved = std::exchange(moved_, false);
   const bool reveal = std::exchange(revealing_, false) || moved;
   if (!view_) return;
-  const Raised telling(telling_);
+  const ScopedFlag notifying(notifying_);
   try {
     if (change) view_->DocumentChanged(*change);
     if (moved) view_->SelectionChanged();
@@ -234,10 +234,10 @@ void EditingCore::TellView() {
   }
 }
 
-void EditingCore::Tell() {
+void EditingCore::Notify() {
   const bool changed = std::exchange(changed_, false);
-  const Raised telling(telling_);
-  if (batches_ == 0) TellView();
+  const ScopedFlag notifying(notifying_);
+  if (batches_ == 0) NotifyView();
   const std::function<void()> onChange = onChange_;
   if (changed && onChange) onChange();
 }

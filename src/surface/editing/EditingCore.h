@@ -1,4 +1,4 @@
-// The document of a surface with its selection, history and lines: the one place that changes it.
+// A surface's document with its selection, history and lines: the only place that edits it.
 #pragma once
 #include <functional>
 #include <memory>
@@ -11,11 +11,12 @@
 
 namespace lumenote {
 
-/// Invariants: anchor and caret stand in the document, outside CR LF and surrogate pairs; view and
-/// handler hear of a change after all of it has been made, and cannot make another meanwhile.
+/// Invariants: anchor and caret lie in the document, never inside a CR LF or surrogate pair. View
+/// and handler are notified of a change once it is complete, and cannot edit during the
+/// notification.
 class EditingCore {
  public:
-  /// Starts with an empty document; `breaker` outlives this object.
+  /// Starts with an empty document; `breaker` must outlive this object.
   explicit EditingCore(LineBreaker& breaker);
   EditingCore(const EditingCore&) = delete;
   EditingCore& operator=(const EditingCore&) = delete;
@@ -25,67 +26,67 @@ class EditingCore {
   LineTable& Lines() { return lines_; }
   const CharFormat& CharacterFormat(CharId id) const { return document_.Formats().characters[id]; }
   const ParaFormat& ParagraphFormat(ParaId id) const { return document_.Formats().paragraphs[id]; }
-  /// To give formats their numbers, which changes nothing that can be seen.
+  /// Mutable for interning formats, which has no visible effect.
   FormatTables& Formats() { return document_.Formats(); }
 
   Position Anchor() const { return anchor_; }
   Position Caret() const { return caret_; }
   Selection Selected() const;
   bool HasSelection() const { return anchor_ != caret_; }
-  /// Clips both to the document and moves them outwards where they fall inside a pair; a real move
-  /// ends a run of typing.
+  /// Clips both to the document and moves them outwards if inside a pair. A change ends a run of
+  /// typing.
   void Select(Position anchor, Position caret);
 
-  /// The format of text typed now: the one chosen for it, else that of the first character
-  /// selected, else of the one before the caret in its paragraph, else of the one behind it; never
-  /// an embedded object itself. Between two characters of a field it is in the field too.
+  /// The format of text typed now: the one chosen for it, else that of the first selected
+  /// character, else of the one before the caret in its paragraph, else of the one after it; never
+  /// an embedded object itself. Between two characters of a field it joins the field.
   CharFormat InsertionFormat() const;
-  /// Chooses one, until the caret moves or something is typed.
+  /// Chooses the format of text typed next, until the caret moves or something is typed.
   void InsertionFormat(const CharFormat& format) { chosenFormat_ = format; }
 
-  /// Runs a command of several edits, of which the view hears at its end. When an allocation fails
-  /// in it, all that it has edited is taken back, and the failure goes on.
+  /// Runs a command that makes several edits and notifies the view once, at its end. If an
+  /// allocation fails in it, its edits are rolled back and the failure propagates.
   void Atomically(const std::function<void()>& command);
 
-  /// Runs `make`, which calls `Replace` and `Place`, as one undo step and then tells about it.
+  /// Runs `make`, which calls `Replace` and `Place`, as one undo step, then sends notifications.
   void Edit(UndoKind kind, const std::function<void()>& make);
-  /// Inside `Edit`: puts `fragment` in the place of `from`..`to`.
+  /// Inside `Edit`: replaces `from`..`to` by `fragment`.
   void Replace(Position from, Position to, const Fragment& fragment);
-  /// Inside `Edit`: the selection after it; without it the old one stays. `typing` is the format of
-  /// what is typed there next, where that should differ from the text around.
+  /// Inside `Edit`: sets the selection after it, else unchanged. `typing` is the format of text
+  /// typed next, if it should differ from that of the surrounding text.
   void Place(Position anchor, Position caret, std::optional<CharFormat> typing = {});
 
-  /// The edits between them are one undo step, of which the view hears at its end.
+  /// Brackets edits that are one undo step and one notification of the view, at the end.
   void BeginGroup();
   void EndGroup();
   void CloseStep() { history_.Close(); }
   void MultiLevelUndo(bool on) { history_.MultiLevel(on); }
   void Undo();
   void Redo();
-  /// New content with its final mark: no undo, caret at the start.
+  /// Replaces content and final mark; clears the undo history and puts the caret at the start.
   void Load(const Fragment& whole);
 
   void View(SurfaceView* view) { view_ = view; }
-  /// The view, which has been told of everything so far.
+  /// Sends the view all pending notifications first.
   SurfaceView* View();
   void OnChange(std::function<void()> handler) { onChange_ = std::move(handler); }
-  /// Tells the view that lines wrap elsewhere.
-  void TellWrapWidth();
-  /// Has the view show the caret even where it did not move.
+  /// Tells the view that the wrap width has changed.
+  void NotifyWrapWidth();
+  /// Scrolls the caret into view even if it did not move.
   void Reveal();
   /// Raises InvalidArgument while a notification runs.
-  void RequireQuiet() const;
+  void RefuseWhileNotifying() const;
 
  private:
   class Batch;
 
   void Undoable(const std::function<void()>& command);
-  void Note(const DocumentChange& edit);
+  void RecordEdit(const DocumentChange& edit);
   bool Move(Position anchor, Position caret);
-  void BackTo(const UndoMark& mark, Selection selected);
-  void Travel(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&));
-  void Tell();
-  void TellView();
+  void RollBackTo(const UndoSavepoint& savepoint, Selection selected);
+  void Revert(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&));
+  void Notify();
+  void NotifyView();
 
   Document document_;
   UndoHistory history_;
@@ -96,15 +97,15 @@ class EditingCore {
 
   SurfaceView* view_ = nullptr;
   std::function<void()> onChange_;
-  /// Let go when memory runs out, for the way back.
+  /// Freed when an allocation fails, to leave memory for the rollback.
   std::unique_ptr<char[]> reserve_;
-  // What the view has still to hear.
+  // Not yet reported to the view.
   std::optional<DocumentChange> change_;
   bool moved_ = false;
   bool revealing_ = false;
-  int batches_ = 0;       // around this; the view hears at the end of the outermost one
-  bool changed_ = false;  // the document, since the handler was called
-  bool telling_ = false;
+  int batches_ = 0;       // nesting depth; the view is notified at the end of the outermost
+  bool changed_ = false;  // since the handler was last called
+  bool notifying_ = false;
 };
 
 }  // namespace lumenote

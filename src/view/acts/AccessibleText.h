@@ -1,4 +1,4 @@
-// A view as assistive programs read and edit it.
+// A view as seen by assistive programs.
 #pragma once
 #include <functional>
 #include <optional>
@@ -11,34 +11,34 @@ namespace lumenote {
 
 enum class TextUnit { Character, Word, Sentence, Line, Paragraph, All };
 
-/// Offsets are positions of the document; one outside it is clipped. Rectangles are pixels of the
-/// pane. Nothing may be asked of a detached view.
+/// Offsets are document positions, clipped to the document. Rectangles are in pane pixels. Must not
+/// be used on a detached view.
 class AccessibleText {
  public:
-  /// Finds where a unit begins and ends around an index in some text: what the system, by the rules
-  /// of Unicode, takes for a character, a word or a sentence.
+  /// Returns the bounds of the unit at an index of some text: a character, word or sentence by the
+  /// system's implementation of Unicode's rules.
   using Boundaries = std::function<Selection(TextUnit, std::u16string_view text, int index)>;
 
   AccessibleText(NoteView& view, Boundaries boundaries)
       : view_(view), boundaries_(std::move(boundaries)) {}
 
   std::u16string Text(Selection range) const;
-  /// The unit at an offset, and those before and behind it; empty at the text's ends.
+  /// The unit at (before, after) an offset; empty at the text's ends.
   Selection At(Position offset, TextUnit unit) const;
   Selection Before(Position offset, TextUnit unit) const;
   Selection Behind(Position offset, TextUnit unit) const;
 
   void Select(Position anchor, Position caret) { view_.Select(anchor, caret); }
-  /// Types `text` in the place of a range, unless the view is locked.
+  /// Replaces a range like typed text, unless the view is locked.
   void Replace(Selection range, std::u16string_view text);
 
-  /// Where a character is; empty unless it is in the pane or near.
+  /// A character's rectangle; empty unless it is in or near the pane.
   std::optional<PixelRect> BoxOf(Position offset) const;
   Position OffsetAt(PixelPoint point) const { return view_.Pane().PositionAt(point); }
-  /// So that as much of the range is seen as can be, its beginning above all.
+  /// Scrolls to show as much of the range as possible, its start first.
   void Reveal(Selection range);
 
-  /// Characters of one format around an offset.
+  /// The format run around an offset.
   struct Run {
     Selection range;
     CharFormat format;

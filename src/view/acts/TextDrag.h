@@ -1,4 +1,4 @@
-// Selected text on its way out: dragged, or offered to other programs.
+// Selected text leaving the view: dragged, or offered to other programs.
 #pragma once
 #include <string>
 
@@ -6,15 +6,15 @@
 
 namespace lumenote {
 
-/// A selection as it was when this was made, which later edits do not reach; it shares its leaves
-/// with the document, so that it costs little however long it is.
+/// A snapshot of a selection. It shares its leaves with the document, so it is cheap whatever its
+/// length.
 class TextExcerpt {
  public:
   explicit TextExcerpt(const DocumentSurface& surface)
       : document_(surface.Content()), range_(surface.Selected()) {}
 
   Selection Range() const { return range_; }
-  /// Each is made when it is asked for.
+  /// Generated on request.
   std::u16string Text() const { return document_.Text(range_.start, range_.end); }
   std::string Rtf() const;
 
@@ -23,25 +23,25 @@ class TextExcerpt {
   Selection range_;
 };
 
-/// Text dragged out of a view. Within the view the drop itself moves it (`ViewDrop::DropOwn`);
-/// moved anywhere else, it is deleted here when whoever has got it has said so.
+/// Text dragged out of a view. A drop within the view moves the text itself (`ViewDrop::DropOwn`);
+/// text moved anywhere else is deleted here once the receiver has acknowledged it.
 class TextDrag {
  public:
-  /// The selection of the view, which outlives the drag.
+  /// Takes the view's selection; the view must outlive the drag.
   explicit TextDrag(NoteView& view) : view_(view), text_(view.Surface()), edits_(view.Edits()) {}
 
   const TextExcerpt& Text() const { return text_; }
-  /// Whether the text may still be taken away here: it is as it was.
+  /// Whether the text is unchanged, so that it may still be deleted here.
   bool MayMove() const {
     return view_.IsAttached() && view_.Edits() == edits_ && !view_.IsLocked();
   }
-  /// The other side has the text, to keep: deletes it here, if that may be.
+  /// The receiver has the text: deletes it here if that is allowed.
   void Moved();
 
  private:
   NoteView& view_;
   TextExcerpt text_;
-  int edits_;  // that the view had seen
+  int edits_;  // edit count of the view at the start
 };
 
 }  // namespace lumenote

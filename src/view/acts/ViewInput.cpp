@@ -5,7 +5,7 @@
 namespace lumenote {
 
 namespace {
-// So much of the caret's paragraph is told to an input method on either side.
+// How much of the caret's paragraph, on either side, an input method gets to see.
 constexpr Position kSurroundings = 500;
 }  // namespace
 
@@ -31,8 +31,9 @@ Selection ViewInput::Surroundings() const {
   const Document& document = view_.Surface().Content();
   const Position caret = view_.Surface().Caret();
   const Position paragraph = document.ParagraphOf(caret);
-  return {document.Before(std::max(document.ParagraphStart(paragraph), caret - kSurroundings)),
-          document.Before(std::min(document.ParagraphEnd(paragraph), caret + kSurroundings))};
+  return {
+      document.SnapBackward(std::max(document.ParagraphStart(paragraph), caret - kSurroundings)),
+      document.SnapBackward(std::min(document.ParagraphEnd(paragraph), caret + kSurroundings))};
 }
 
 Selection ViewInput::ToldSelection() const {

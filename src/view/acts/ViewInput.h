@@ -10,20 +10,20 @@ class ViewInput {
  public:
   explicit ViewInput(NoteView& view) : view_(view) {}
 
-  /// One message of an input method.
+  /// One event of an input method.
   struct Message {
-    Position replaceFrom = 0;  // counted from the caret
+    Position replaceFrom = 0;  // relative to the caret
     Position replaceLength = 0;
-    std::u16string committed{};  // typed in the place of what is replaced
-    std::u16string composed{};   // shown at the caret after that
+    std::u16string committed{};  // replaces that range
+    std::u16string composed{};   // then shown at the caret
     int caret = 0;               // units from the start of `composed`
   };
-  /// Nothing in a locked view. The view may be detached when it returns.
+  /// Ignored if the view is locked. May detach the view.
   void Take(const Message& message);
 
-  /// The text around the caret that an input method is told of.
+  /// The range of text around the caret that an input method gets.
   Selection Surroundings() const;
-  /// What it is told of a selection.
+  /// The selection relative to that range.
   Selection ToldSelection() const;
 
  private:

@@ -23,7 +23,7 @@ bool ViewKeys::Edit(const std::optional<KeyStroke>& key, std::u16string_view tex
     view_.Type(text);
     return used;
   }
-  if (!key || (view_.IsLocked() && !OnlyLooks(*key))) return false;
+  if (!key || (view_.IsLocked() && !IsNonEditing(*key))) return false;
   bool used = false;
   view_.Act([&] { used = view_.Surface().UserKey(*key); });
   return used;

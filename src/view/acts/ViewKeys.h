@@ -1,4 +1,4 @@
-// What the keys do in a view.
+// Keyboard input of a view.
 #pragma once
 #include <optional>
 #include <string_view>
@@ -9,16 +9,16 @@ namespace lumenote {
 
 class NoteView;
 
-/// Text and editing keys go to the surface; a few are the view's own; the rest is left to the
-/// window.
+/// Text and editing keys go to the surface; the view handles a few itself; the window gets the
+/// rest.
 class ViewKeys {
  public:
   explicit ViewKeys(NoteView& view) : view_(view) {}
 
-  /// Whether the key did something; the view may be detached then. `key` is empty for one that has
-  /// no name here, `text` for one that types nothing.
+  /// Returns whether the key was handled; may detach the view. `key` is empty for a key without a
+  /// name here, `text` for one that types nothing.
   bool Press(const std::optional<KeyStroke>& key, std::u16string_view text);
-  /// As the right button does at the caret.
+  /// Acts like the right button at the caret.
   void OpenMenu();
 
  private:

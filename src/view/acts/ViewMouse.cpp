@@ -75,7 +75,7 @@ void ViewMouse::Move(PixelPoint at, bool held) {
   ExtendTo(view_.Pane().PositionAt(at));
 }
 
-// The further outside the mouse is, the faster.
+// Scrolls faster the further the mouse is outside.
 void ViewMouse::ScrollOn() {
   const double height = view_.Pane().Size().height;
   const double beyond = last_.y < 0 ? last_.y : std::max(0.0, last_.y - height);

@@ -1,4 +1,4 @@
-// Selecting with the mouse, and the beginning of a drag.
+// Selects with the mouse and starts drags.
 #pragma once
 #include <cstdint>
 #include <optional>
@@ -7,28 +7,28 @@
 
 namespace lumenote {
 
-/// A click sets the caret, a double click selects a word, a triple click a paragraph; moving on
-/// extends the selection by the same unit, and scrolls when the mouse leaves the view. Points are
-/// pixels of the pane. After any of these the view may be detached.
+/// A click sets the caret, a double click selects a word, a triple click a paragraph; dragging
+/// extends the selection by that unit and scrolls when the mouse leaves the view. Points are in
+/// pane pixels. Each member may detach the view.
 class ViewMouse {
  public:
   explicit ViewMouse(NoteView& view) : view_(view) {}
 
   struct Press {
     PixelPoint at;
-    std::int64_t time = 0;  // milliseconds on any clock that only goes on
+    std::int64_t time = 0;  // milliseconds on any monotonic clock
     bool extend = false;    // with Shift
   };
-  /// The left button goes down; once more, soon after and nearly there, it is a double click.
+  /// The left button was pressed; a second press soon after and nearby is a double click.
   void Down(const Press& press);
   void DoubleClick(const Press& press);
-  /// The mouse moves, with the left button held or not.
+  /// The mouse moved; `held` tells whether the left button is down.
   void Move(PixelPoint at, bool held);
-  /// The left button goes up.
+  /// The left button was released.
   void Up(PixelPoint at);
-  /// Another button goes up, or the window takes the mouse away.
+  /// Another button was released, or the window took the mouse away.
   void Cancel();
-  /// The host's scroll timer ticks.
+  /// The host's scroll timer has ticked.
   void ScrollOn();
 
  private:
@@ -44,10 +44,10 @@ class ViewMouse {
   NoteView& view_;
   State state_ = State::Idle;
   Unit unit_ = Unit::Character;
-  Selection origin_;  // where selecting began: a caret, a word, a paragraph
+  Selection origin_;  // where the selection started: a caret, a word, a paragraph
   PixelPoint pressed_;
   PixelPoint last_;
-  std::optional<std::int64_t> doubleClick_;  // when
+  std::optional<std::int64_t> doubleClick_;  // its time
   bool scrolling_ = false;
 };
 

@@ -6,25 +6,25 @@ namespace lumenote {
 
 namespace {
 
-// Long paragraphs are laid out in pieces of about so many characters: few enough that one more
-// typed in it costs little.
+// Long paragraphs are laid out in pieces of about this many characters: few enough to make typing
+// cheap.
 constexpr Position kPieceLength = 800;
-// So far behind a known line start lines are looked for from there on; beyond, a line is taken to
-// begin behind some blank nearby.
+// Within this distance of a known line start, lines are laid out exactly from there; beyond it, a
+// line is assumed to start after some nearby space.
 constexpr Position kExactReach = 40 * kPieceLength;
-// How much is kept on either side of what is looked at.
+// How much layout is kept on either side of what is visible.
 constexpr Position kKept = 60'000;
 constexpr std::size_t kMaxPieces = 1'000;
 
 }  // namespace
 
-LayoutCache::Place LayoutCache::FirstBehind(Position position) {
+LayoutCache::Iterator LayoutCache::FirstBehind(Position position) {
   return std::upper_bound(pieces_.begin(), pieces_.end(), position,
                           [](Position value, const auto& piece) { return value < piece->from; });
 }
 
 const Piece* LayoutCache::Find(Position position) {
-  const Place behind = FirstBehind(position);
+  const Iterator behind = FirstBehind(position);
   if (behind == pieces_.begin()) return nullptr;
   Piece& piece = **std::prev(behind);
   if (!piece.Holds(position)) return nullptr;
@@ -32,15 +32,15 @@ const Piece* LayoutCache::Find(Position position) {
 }
 
 const Piece& LayoutCache::Add(std::unique_ptr<Piece> piece) {
-  const Place first = FirstBehind(piece->from - 1);
+  const Iterator first = FirstBehind(piece->from - 1);
   const Position end = piece->to + (piece->closes ? 1 : 0);
-  const Place last =
+  const Iterator last =
       std::find_if(first, pieces_.end(), [&](const auto& other) { return other->from >= end; });
   return **pieces_.insert(pieces_.erase(first, last), std::move(piece));
 }
 
 const Piece& LayoutCache::LayOutFrom(Position from, Position paragraphEnd) {
-  const Place behind = FirstBehind(from);
+  const Iterator behind = FirstBehind(from);
   PieceSpan span{.from = from};
   if (behind != pieces_.end() && (*behind)->from <= paragraphEnd) span.nextKnown = (*behind)->from;
   const bool nextIsNear = span.nextKnown >= 0 && span.nextKnown - from <= kPieceLength;
@@ -52,9 +52,9 @@ const Piece& LayoutCache::LayOutFrom(Position from, Position paragraphEnd) {
   }
 }
 
-// A line start at or before `position` in its paragraph, from which to look for its line.
+// A line start at or before `position` in its paragraph, to search from.
 Position LayoutCache::StartNear(Position position, Position paragraphStart) {
-  const Place behind = FirstBehind(position);
+  const Iterator behind = FirstBehind(position);
   if (behind != pieces_.begin()) {
     const Piece& known = **std::prev(behind);
     if (known.from >= paragraphStart && position - known.to <= kExactReach) return known.to;
@@ -93,8 +93,8 @@ const Piece* LayoutCache::Before(const Piece& piece) {
   return &LayOutTo(piece.from);
 }
 
-// Lays out, from a known line start or a likely one, the lines that end just before `position`,
-// which is a line's start in the same paragraph.
+// Lays out the lines that end at `position`, a line start, beginning at a known or assumed line
+// start of the same paragraph.
 const Piece& LayoutCache::LayOutTo(Position position) {
   const Position start = document_.ParagraphStart(document_.ParagraphOf(position));
   Position from = StartNear(document_.SnapBackward(position - 1), start);
@@ -111,10 +111,10 @@ const Piece& LayoutCache::LayOutTo(Position position) {
   }
 }
 
-// The first piece that an edit at `position` may change: the one it lies in, or the one before when
-// that one's last line may have room now for the word at the edit.
-LayoutCache::Place LayoutCache::FirstTouched(Position position) {
-  Place first = FirstBehind(position);
+// The first piece that an edit at `position` may change: the one that holds it, or the previous one
+// if its last line might now have room for the edited word.
+LayoutCache::Iterator LayoutCache::FirstTouched(Position position) {
+  Iterator first = FirstBehind(position);
   while (first != pieces_.begin() && (*std::prev(first))->to >= position) --first;
   if (first == pieces_.begin() || first == pieces_.end()) return first;
   const bool inFirstLine = (*first)->LineOf(position) == 0;
@@ -122,11 +122,11 @@ LayoutCache::Place LayoutCache::FirstTouched(Position position) {
 }
 
 void LayoutCache::Changed(const DocumentChange& change) {
-  const Place first = FirstTouched(change.at);
-  const Place last = std::find_if(first, pieces_.end(), [&](const auto& piece) {
+  const Iterator first = FirstTouched(change.at);
+  const Iterator last = std::find_if(first, pieces_.end(), [&](const auto& piece) {
     return piece->from > change.at + change.removed;
   });
-  for (Place piece = last; piece != pieces_.end(); ++piece) {
+  for (Iterator piece = last; piece != pieces_.end(); ++piece) {
     (*piece)->from += change.inserted - change.removed;
     (*piece)->to += change.inserted - change.removed;
   }
@@ -135,11 +135,11 @@ void LayoutCache::Changed(const DocumentChange& change) {
   DropOldFormat(change.at + change.inserted);
 }
 
-// Of a paragraph whose format has changed, the pieces that the edit did not touch are wrong too.
+// After a change of the paragraph's format, its other pieces are invalid, too.
 void LayoutCache::DropOldFormat(Position position) {
   const Position paragraph = document_.ParagraphOf(position);
-  const Place first = FirstBehind(document_.ParagraphStart(paragraph) - 1);
-  const Place last = FirstBehind(document_.ParagraphEnd(paragraph));
+  const Iterator first = FirstBehind(document_.ParagraphStart(paragraph) - 1);
+  const Iterator last = FirstBehind(document_.ParagraphEnd(paragraph));
   const ParaId format = document_.ParaFormatAt(position);
   pieces_.erase(
       std::remove_if(first, last, [&](const auto& piece) { return piece->format != format; }),

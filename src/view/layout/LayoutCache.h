@@ -1,4 +1,4 @@
-// The pieces of the document that are laid out at the moment.
+// The pieces of the document that are laid out at present.
 #pragma once
 #include <memory>
 #include <vector>
@@ -8,33 +8,32 @@
 
 namespace lumenote {
 
-/// Lays out what is looked at and nothing else, and remembers some of it. Invariants: pieces do not
-/// overlap, and are in the order of the text. A piece handed out stays until the next `Changed`,
-/// `Clear` or `Trim`.
+/// Lays out only what is asked for, and caches some of it. Invariants: pieces do not overlap and
+/// are in text order. A returned piece is valid until the next `Changed`, `Clear` or `Trim`.
 class LayoutCache {
  public:
   LayoutCache(const Document& document, TextLayouter& layouter)
       : document_(document), layouter_(layouter) {}
 
-  /// The piece in which a caret at `position` stands.
+  /// The piece that shows a caret at `position`.
   const Piece& At(Position position);
-  /// The next and the previous piece; null at the document's ends.
+  /// The next (previous) piece; null at the document's ends.
   const Piece* After(const Piece& piece);
   const Piece* Before(const Piece& piece);
 
   void Changed(const DocumentChange& change);
   void Clear() { pieces_.clear(); }
-  /// When there are many, forgets the pieces far from those around `from`..`to`.
+  /// If there are many pieces, drops those far from `from`..`to`.
   void Trim(Position from, Position to);
 
   const std::vector<std::unique_ptr<Piece>>& Pieces() const { return pieces_; }
 
  private:
-  using Place = std::vector<std::unique_ptr<Piece>>::iterator;
+  using Iterator = std::vector<std::unique_ptr<Piece>>::iterator;
 
-  Place FirstBehind(Position position);
+  Iterator FirstBehind(Position position);
   const Piece* Find(Position position);
-  Place FirstTouched(Position position);
+  Iterator FirstTouched(Position position);
   void DropOldFormat(Position position);
   const Piece& Add(std::unique_ptr<Piece> piece);
   const Piece& LayOutFrom(Position from, Position paragraphEnd);

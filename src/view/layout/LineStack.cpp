@@ -9,7 +9,7 @@ namespace lumenote {
 namespace {
 
 constexpr double kLeastWidth = 16;
-constexpr double kBulletRoom = 240;  // twips, where the format leaves less
+constexpr double kBulletRoom = 240;  // twips; the minimum
 
 std::size_t Mixed(std::size_t hash, std::size_t value) {
   constexpr std::size_t kGolden = 0x9E3779B97F4A7C15;
@@ -75,7 +75,7 @@ double LineStack::LineHeight(double natural) const {
   return natural;
 }
 
-// Room that a fixed height adds or takes lies above the text, that of a multiple below it.
+// Extra or missing space of a fixed height goes above the text, that of a multiple below it.
 void LineStack::Place(PieceLine& line, double ascent, double descent) {
   const double natural = std::ceil(ascent + descent);
   line.top = std::round(top_);
@@ -101,8 +101,8 @@ void LineStack::Finish(std::u16string_view text) {
   for (PieceLine& line : piece_.lines) line.look = LookOf(line, text);
 }
 
-// Text being composed changes its look without changing the document, and what a line shows may lie
-// in the next one: such lines look like no other.
+// Composed text changes its look without a document change, and a line's content may extend into
+// the next one: such lines never compare equal to others.
 std::size_t LineStack::LookOf(const PieceLine& line, std::u16string_view text) const {
   static std::size_t serial = 0;
   if (piece_.composedLength > 0 || piece_.overlaps) return ++serial;

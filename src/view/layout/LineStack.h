@@ -1,5 +1,4 @@
-// Where the lines of a paragraph lie: edges, tab stops, heights. Every layouter's pieces are
-// stacked by it.
+// Positions the lines of a paragraph: edges, tab stops, heights. All layouters use it.
 #pragma once
 #include <string_view>
 #include <vector>
@@ -8,18 +7,18 @@
 
 namespace lumenote {
 
-/// Between tab stops that no paragraph states, in twips.
+/// Distance of default tab stops, in twips.
 inline constexpr double kDefaultTabStep = 720;
 
-/// Where lines may lie, in pixels from the text's left edge.
+/// The limits of lines, in pixels from the text's left edge.
 struct LineEdges {
   double first = 0;
   double following = 0;
   double right = 0;
-  double bullet = -1;  // negative without one
+  double bullet = -1;  // negative: no bullet
 
   double Left(bool firstLine) const { return firstLine ? first : following; }
-  /// Room of a line that begins at `left`; some even where there is none.
+  /// Room of a line that starts at `left`; never less than a minimum.
   double Room(double left) const;
 };
 
@@ -30,25 +29,26 @@ struct PixelTab {
   TabKind kind = TabKind::Left;
 };
 
-/// The tab stops of a paragraph, those between and behind the ones it states among them: by rising
-/// `x`, pixels from the text's left edge.
+/// All tab stops of a paragraph, including the default ones between and after those it defines: by
+/// ascending `x`, in pixels from the text's left edge.
 std::vector<PixelTab> TabsOf(const TextLayouter& layouter, const TabStops& stops,
                              const LineEdges& edges);
 
-/// Stacks the lines of a piece, whose starts and ends the layouter has found: `Place` for each one
-/// in turn, then `Finish`.
+/// Stacks the lines of a piece, whose starts and ends the layouter has determined: call `Place` for
+/// each in turn, then `Finish`.
 class LineStack {
  public:
-  /// All outlive the stack.
+  /// All must outlive the stack.
   LineStack(const TextLayouter& layouter, const Document& document, Piece& piece);
 
   const ParaFormat& Format() const { return format_; }
   const LineEdges& Edges() const { return edges_; }
-  /// Gives the line its place below the one before; its text reaches so far from its baseline.
+  /// Positions the line below the previous one, given the extent of its text above and below its
+  /// baseline.
   void Place(PieceLine& line, double ascent, double descent);
-  /// In a row of cells: the next line is the first one of the cell, beside the others.
+  /// In a row of cells: the next line is the first of the cell between these edges.
   void BeginCell(double left, double right);
-  /// Height, bullet and the lines' looks; `text` is the layout's.
+  /// Computes height, bullet and the lines' look values; `text` is the layout's.
   void Finish(std::u16string_view text);
 
  private:
@@ -61,7 +61,7 @@ class LineStack {
   const LineEdges edges_;
   double start_ = 0;  // below the space before the paragraph
   double top_ = 0;    // of the next line
-  double most_ = 0;   // the bottom of the highest cell so far
+  double most_ = 0;   // lowest bottom of the cells so far
   int placed_ = 0;
 };
 

@@ -25,7 +25,7 @@ int Piece::LineOf(Position position) const {
 
 double Piece::XOf(Position position) const { return CaretX(LineOf(position), ToIndex(position)); }
 
-// Behind the last character of a line that goes on is where the next line begins, so the caret
+// The position after the last character of a wrapped line is the next line's start, so the caret
 // would be shown there.
 Position Piece::PositionAt(int line, double x) const {
   const PieceLine& box = lines[Index(line)];

@@ -6,7 +6,7 @@
 namespace lumenote {
 
 namespace {
-// A line seldom has more characters.
+// Lines rarely have more characters.
 constexpr Position kLineLength = 300;
 }  // namespace
 
@@ -26,12 +26,12 @@ std::vector<Position> PieceBreaker::Break(const Document& document, Position fro
   return starts;
 }
 
-/// A piece in which a line begins at `lineStart`: its first one, but in a row of cells.
+/// A piece in which a line starts at `lineStart`: its first line, except in a row of cells.
 std::unique_ptr<Piece> PieceBreaker::LineFrom(const Document& document, Position lineStart) {
   const Position end = document.ParagraphEnd(document.ParagraphOf(lineStart));
   for (Position length = kLineLength;; length *= 2) {
     const bool complete = length >= end - lineStart;
-    const Position to = complete ? end : document.Before(lineStart + length);
+    const Position to = complete ? end : document.SnapBackward(lineStart + length);
     if (auto piece = LayOut(document, {.from = lineStart, .to = to, .complete = complete}))
       return piece;
   }

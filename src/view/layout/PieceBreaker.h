@@ -1,15 +1,15 @@
-// Breaks lines for the line queries with the view's own layout, and nothing on screen.
+// Breaks lines for line queries with the view's own layout, but off screen.
 #pragma once
 #include "document/LineTable.h"
 #include "view/layout/TextLayouter.h"
 
 namespace lumenote {
 
-/// Distances are pixels from the text's left edge. Text being composed is not the document's, and
-/// counts for nothing here.
+/// Distances are pixels from the text's left edge. Ignores composed text, which is not part of the
+/// document.
 class PieceBreaker final : public LineBreaker {
  public:
-  /// `layouter`, which the view of the same surface uses too, outlives the breaker.
+  /// `layouter`, shared with the view of the same surface, must outlive the breaker.
   explicit PieceBreaker(TextLayouter& layouter) : layouter_(layouter) {}
 
   std::vector<Position> Break(const Document& document, Position from, Position to) override;

@@ -1,4 +1,4 @@
-// Points and rectangles on a pane, in pixels: what a backend counts on its screen, whole or not.
+// Points and rectangles of a pane in the backend's pixels, possibly fractional.
 #pragma once
 #include <algorithm>
 #include <cmath>
@@ -16,7 +16,7 @@ struct PixelSize {
   bool operator==(const PixelSize&) const = default;
 };
 
-/// The right and bottom edges are not part of it.
+/// Excludes its right and bottom edges.
 struct PixelRect {
   double left = 0;
   double top = 0;
@@ -28,13 +28,13 @@ struct PixelRect {
   double Height() const { return bottom - top; }
   bool IsEmpty() const { return left >= right || top >= bottom; }
   PixelRect MovedBy(double x, double y) const { return {left + x, top + y, right + x, bottom + y}; }
-  /// The smallest rectangle that holds both.
+  /// The smallest rectangle that contains both.
   PixelRect United(const PixelRect& other) const {
     if (IsEmpty()) return other;
     return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
             std::max(bottom, other.bottom)};
   }
-  /// The smallest one around it with edges on whole pixels.
+  /// The smallest enclosing rectangle with edges on whole pixels.
   PixelRect Aligned() const {
     return {std::floor(left), std::floor(top), std::ceil(right), std::ceil(bottom)};
   }

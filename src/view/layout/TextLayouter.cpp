@@ -5,7 +5,7 @@
 namespace lumenote {
 
 namespace {
-constexpr double kMostTwips = 31680;  // 22 inches
+constexpr double kMaxTwips = 31680;  // 22 inches
 }  // namespace
 
 void TextLayouter::Zoom(double factor) {
@@ -14,7 +14,7 @@ void TextLayouter::Zoom(double factor) {
 }
 
 double TextLayouter::Pixels(double twips) const {
-  return std::clamp(twips, -kMostTwips, kMostTwips) / kTwipsInPixel * zoom_;
+  return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsInPixel * zoom_;
 }
 
 bool TextLayouter::Open(Piece& piece, const Document& document, const PieceSpan& span) const {

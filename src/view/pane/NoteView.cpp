@@ -12,7 +12,7 @@ namespace lumenote {
 namespace {
 constexpr double kZoomStep = 1.1;
 constexpr double kLeastZoom = 0.2;
-constexpr double kMostZoom = 5;
+constexpr double kMaxZoom = 5;
 }  // namespace
 
 NoteView::NoteView(DocumentSurface& surface, TextLayouter& layouter, ViewHost& host)
@@ -35,7 +35,7 @@ void NoteView::Select(Position anchor, Position caret) {
   Act([&] { Surface().UserSelect(anchor, caret); });
 }
 
-// --- what the surface tells
+// --- notifications of the surface
 
 void NoteView::DocumentChanged(const DocumentChange& change) {
   ++edits_;
@@ -67,7 +67,7 @@ void NoteView::RevealCaret() {
   SettleSoon();
 }
 
-// --- bringing the screen up to date
+// --- updating the screen
 
 void NoteView::SettleSoon() {
   if (!std::exchange(settleSoon_, true)) host_.SettleSoon();
@@ -92,7 +92,7 @@ ViewMarks NoteView::Marks() {
   return marks;
 }
 
-// --- what the window does
+// --- calls by the window
 
 void NoteView::Resize(PixelSize size) {
   pane_.Resize(size);
@@ -124,7 +124,7 @@ void NoteView::ScrollBy(double pixels) {
 }
 
 void NoteView::Zoom(double factor) {
-  pane_.Zoom(std::clamp(factor, kLeastZoom, kMostZoom));
+  pane_.Zoom(std::clamp(factor, kLeastZoom, kMaxZoom));
   damage_.Everything();
   SettleSoon();
 }
@@ -151,7 +151,7 @@ void NoteView::DropCaret(std::optional<Position> position) {
 
 namespace {
 
-/// Looks tell texts and formats apart, but where lines look like no other.
+/// Equal looks imply equal texts and formats, except for lines that never compare equal.
 bool AreSame(const Piece& one, const Piece& other) {
   const bool unlike = one.overlaps || one.composedLength > 0;
   const auto same = [&](const PieceLine& line, const PieceLine& fresh) {

@@ -1,4 +1,4 @@
-// A surface as it is shown on a screen and used, without a toolkit.
+// A surface on screen, operated by the user, without a toolkit.
 #pragma once
 #include <optional>
 #include <string>
@@ -8,12 +8,12 @@
 
 namespace lumenote {
 
-/// A view: it owns no text. What the surface tells it is gathered and shown in one go, by `Settle`.
-/// The surface may go first, after `Detach`; then nothing but `IsAttached` and `Edits` may be
+/// Owns no text. Collects the surface's notifications and shows them together in `Settle`. The
+/// surface may be destroyed first, after `Detach`; then only `IsAttached` and `Edits` may be
 /// called.
 class NoteView : private SurfaceView {
  public:
-  /// All outlive the view; the surface's breaker uses the same layouter.
+  /// All must outlive the view; the surface's breaker uses the same layouter.
   NoteView(DocumentSurface& surface, TextLayouter& layouter, ViewHost& host);
   ~NoteView() override;
   NoteView(const NoteView&) = delete;
@@ -25,42 +25,42 @@ class NoteView : private SurfaceView {
   TextPane& Pane() { return pane_; }
   ViewHost& Host() { return host_; }
   bool IsLocked() const { return host_.IsLocked(); }
-  /// How many times the document has changed under this view.
+  /// Number of document changes seen by this view.
   int Edits() const { return edits_; }
 
-  /// Runs an act of the user; the view may be detached when it returns.
+  /// Executes user input; may detach the view.
   void Act(const std::function<void()>& act) { host_.Act(act); }
-  /// Types, unless the box is locked; any line end is a paragraph's.
+  /// Types unless the box is locked; every line end is a paragraph break.
   void Type(std::u16string_view text);
-  /// Makes it the selection, with the caret at its end.
+  /// Selects a range with the caret at its end.
   void Select(Position anchor, Position caret);
 
-  // What the window does with it.
+  // Called by the window.
   void Resize(PixelSize size);
   void Show(bool visible);
   void Focus(bool has);
-  /// Half a period of the caret's blinking has passed.
+  /// Half a blink period has passed.
   void Blink();
   /// Scrolls by pixels, as the user does.
   void ScrollBy(double pixels);
   void Zoom(double factor);
-  /// By so many steps, out of them where negative.
+  /// Zooms in by that many steps, or out if negative.
   void ZoomBy(double steps);
-  /// Colours or fonts are others now: everything is laid out and painted anew.
+  /// Colours or fonts have changed: lays out and paints everything again.
   void Restyle();
-  /// For want of memory what was laid out is forgotten; it is laid out again when it is shown.
+  /// Discards the layout to free memory; it is recreated when it is shown.
   void Forget() { pane_.Cache().Clear(); }
 
   void Compose(Composition text);
-  /// Shows where a drop would go; empty for none.
+  /// Shows where a drop would insert; empty for none.
   void DropCaret(std::optional<Position> position);
 
-  /// Brings scroll bars and screen up to what the surface has told.
+  /// Updates scroll bars and screen from the collected notifications.
   void Settle();
   bool IsSettled() const { return !settleSoon_; }
-  /// What is to be painted over the text now.
+  /// What to paint over the text now.
   ViewMarks Marks();
-  /// Where what is laid out is not what the document holds; for tests.
+  /// Where the layout differs from the document's content; for tests.
   std::vector<std::string> Differences();
 
  private:
@@ -82,8 +82,8 @@ class NoteView : private SurfaceView {
   bool visible_ = false;
   bool focused_ = false;
   bool caretLit_ = false;
-  bool revealing_ = false;   // the caret is to be brought into view
-  bool moved_ = false;       // the selection, since the host was told
+  bool revealing_ = false;   // the caret must be scrolled into view
+  bool moved_ = false;       // the selection, since the host was notified
   bool settleSoon_ = false;  // the host has been asked to settle
 };
 

@@ -8,32 +8,32 @@ namespace lumenote {
 
 namespace {
 
-// Documents up to these sizes are laid out wholly for the scroll bar.
+// Documents up to these sizes are laid out completely for the scroll bar.
 constexpr Position kSmallLength = 20'000;
 constexpr Position kSmallCount = 300;
 
-/// Characters that a piece stands for, its break included.
+/// Number of characters of a piece, including its break.
 double Span(const Piece& piece) { return piece.to - piece.from + (piece.closes ? 2 : 0); }
 
 }  // namespace
 
-ScrollModel::Spot ScrollModel::Top() {
+ScrollModel::Anchor ScrollModel::Top() {
   const Piece& piece = cache_.At(std::min(line_, document_.Length()));
   const int line = piece.LineOf(std::clamp(line_, piece.from, piece.to));
   return {&piece, piece.lines[static_cast<std::size_t>(line)].top + hidden_};
 }
 
-// Whole pixels keep the text crisp.
-void ScrollModel::Top(Spot spot) {
-  spot.offset = std::round(spot.offset);
-  const int line = spot.piece->LineAt(spot.offset);
-  line_ = spot.piece->LineStart(line);
-  hidden_ = spot.offset - spot.piece->lines[static_cast<std::size_t>(line)].top;
+// Whole pixels keep text crisp.
+void ScrollModel::Top(Anchor anchor) {
+  anchor.offset = std::round(anchor.offset);
+  const int line = anchor.piece->LineAt(anchor.offset);
+  line_ = anchor.piece->LineStart(line);
+  hidden_ = anchor.offset - anchor.piece->lines[static_cast<std::size_t>(line)].top;
 }
 
-ScrollModel::Spot ScrollModel::Moved(Spot spot, double pixels) {
-  double offset = spot.offset + pixels;
-  const Piece* piece = spot.piece;
+ScrollModel::Anchor ScrollModel::Moved(Anchor anchor, double pixels) {
+  double offset = anchor.offset + pixels;
+  const Piece* piece = anchor.piece;
   while (offset >= piece->height) {
     const Piece* next = cache_.After(*piece);
     if (!next) break;
@@ -49,9 +49,9 @@ ScrollModel::Spot ScrollModel::Moved(Spot spot, double pixels) {
   return {piece, offset};
 }
 
-double ScrollModel::RoomBelow(Spot spot) {
-  double filled = -spot.offset;
-  for (const Piece* piece = spot.piece; piece; piece = cache_.After(*piece)) {
+double ScrollModel::RoomBelow(Anchor anchor) {
+  double filled = -anchor.offset;
+  for (const Piece* piece = anchor.piece; piece; piece = cache_.After(*piece)) {
     filled += piece->height;
     if (filled >= paneHeight_) return 0;
   }
@@ -59,7 +59,7 @@ double ScrollModel::RoomBelow(Spot spot) {
 }
 
 std::vector<ShownPiece> ScrollModel::Visible() {
-  Spot top = Top();
+  Anchor top = Top();
   if (const double room = RoomBelow(top); room > 0) {
     top = Moved(top, -room);
     Top(top);
@@ -113,7 +113,7 @@ void ScrollModel::Reveal(Position position) {
     By(std::min(below, top));
 }
 
-// The line at the top stays there as long as it exists.
+// The top line stays as long as it exists.
 void ScrollModel::Changed(const DocumentChange& change) {
   if (change.at >= line_) return;
   const Position end = change.at + change.removed;
@@ -141,11 +141,11 @@ double ScrollModel::CharacterHeight() {
 }
 
 ScrollModel::Scale ScrollModel::Read() {
-  const Spot top{Visible().front().piece, Top().offset};
+  const Anchor top{Visible().front().piece, Top().offset};
   return IsSmall() ? ReadExactly(top) : Estimate(top);
 }
 
-ScrollModel::Scale ScrollModel::ReadExactly(Spot top) {
+ScrollModel::Scale ScrollModel::ReadExactly(Anchor top) {
   Scale scale;
   for (const Piece* piece = &cache_.At(0); piece; piece = cache_.After(*piece)) {
     if (piece == top.piece) scale.value = scale.total + top.offset;
@@ -154,8 +154,8 @@ ScrollModel::Scale ScrollModel::ReadExactly(Spot top) {
   return scale;
 }
 
-// The end of the scale is reached exactly when the last line is, whatever the estimate.
-ScrollModel::Scale ScrollModel::Estimate(Spot top) {
+// Whatever the estimate, the scale's end coincides with the last line.
+ScrollModel::Scale ScrollModel::Estimate(Anchor top) {
   const double unit = CharacterHeight();
   const double share = top.offset / top.piece->height;
   Scale scale;

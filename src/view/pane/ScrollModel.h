@@ -1,5 +1,4 @@
-// Which part of the document is looked at, kept as a line and an offset, and where that is on the
-// scale of a scroll bar.
+// The scroll position, kept as a line and an offset, and its equivalent on a scroll bar's scale.
 #pragma once
 #include <optional>
 #include <vector>
@@ -10,11 +9,11 @@ namespace lumenote {
 
 struct ShownPiece {
   const Piece* piece;
-  double y;  // of the piece's top, from the top of the pane
+  double y;  // distance of the piece's top from the pane's
 };
 
-/// Moves go by exact pixels from line to line, so they cost the same anywhere. The height of the
-/// whole is known of small documents; of larger ones it is estimated by their characters. All
+/// Scrolling is exact in pixels and line by line, so it costs the same anywhere. The total height
+/// is computed for small documents and estimated from the character count for larger ones. All
 /// lengths are pixels.
 class ScrollModel {
  public:
@@ -23,22 +22,21 @@ class ScrollModel {
   void PaneHeight(double height) { paneHeight_ = height; }
   double PaneHeight() const { return paneHeight_; }
 
-  /// The pieces in the pane from top to bottom; at least one. Leaves no room below the last line as
-  /// long as there are lines above.
+  /// The pieces in the pane from top to bottom, at least one. Leaves no space below the last line
+  /// while lines above could fill it.
   std::vector<ShownPiece> Visible();
-  /// Where the piece is if it is in the pane or next to what is.
+  /// The piece's position if it is in the pane or adjacent to what is.
   std::optional<double> YNear(const Piece& piece);
 
   void By(double pixels);
   void ToStart();
-  /// So that the line at `position` is seen: by as little as possible when it is near, else in the
-  /// middle.
+  /// Scrolls the line at `position` into view: minimally if it is near, else to the middle.
   void Reveal(Position position);
   void Changed(const DocumentChange& change);
-  /// Heights have changed: another width or zoom.
+  /// Heights have changed with the width or zoom.
   void Relaid() { heightOfCharacter_ = 0; }
 
-  /// The scale: from 0 to `total` less the pane's height.
+  /// A scroll bar's scale: from 0 to `total` minus the pane's height.
   struct Scale {
     double total = 0;
     double value = 0;
@@ -47,26 +45,26 @@ class ScrollModel {
   void To(double value);
 
  private:
-  struct Spot {
+  struct Anchor {
     const Piece* piece;
-    double offset;  // of the pane's top from the piece's
+    double offset;  // of the pane's top relative to the piece's
   };
 
-  Spot Top();
-  void Top(Spot spot);
-  Spot Moved(Spot spot, double pixels);
-  double RoomBelow(Spot spot);
+  Anchor Top();
+  void Top(Anchor anchor);
+  Anchor Moved(Anchor anchor, double pixels);
+  double RoomBelow(Anchor anchor);
   bool IsSmall() const;
   double CharacterHeight();
-  Scale ReadExactly(Spot top);
-  Scale Estimate(Spot top);
+  Scale ReadExactly(Anchor top);
+  Scale Estimate(Anchor top);
 
   const Document& document_;
   LayoutCache& cache_;
   double paneHeight_ = 0;
-  Position line_ = 0;  // a position in the line at the top
-  double hidden_ = 0;  // how much of it is above the pane; negative when there is room above it
-  double heightOfCharacter_ = 0;  // 0: not known yet
+  Position line_ = 0;  // a position in the top line
+  double hidden_ = 0;  // how much of that line is above the pane; negative for space above it
+  double heightOfCharacter_ = 0;  // 0: unknown
 };
 
 }  // namespace lumenote

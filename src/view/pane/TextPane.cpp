@@ -48,7 +48,7 @@ double TextPane::MostRight() const {
   return std::max(0.0, std::ceil(WrapWidth() + 2 * margin_ - size_.width));
 }
 
-TextPane::LineSpot TextPane::LineNear(PixelPoint point) {
+TextPane::LineHit TextPane::LineNear(PixelPoint point) {
   const std::vector<ShownPiece> shown = Visible();
   const auto below = std::find_if(shown.begin(), shown.end(), [&](const ShownPiece& item) {
     return point.y < item.y + item.piece->height;
@@ -58,13 +58,13 @@ TextPane::LineSpot TextPane::LineNear(PixelPoint point) {
 }
 
 Position TextPane::PositionAt(PixelPoint point) {
-  const LineSpot spot = LineNear(point);
-  return Content().Before(spot.piece->PositionAt(spot.line, point.x - TextLeft()));
+  const LineHit hit = LineNear(point);
+  return Content().SnapBackward(hit.piece->PositionAt(hit.line, point.x - TextLeft()));
 }
 
 Position TextPane::CharacterAt(PixelPoint point) {
-  const LineSpot spot = LineNear(point);
-  return spot.piece->CharacterAt(spot.line, point.x - TextLeft());
+  const LineHit hit = LineNear(point);
+  return hit.piece->CharacterAt(hit.line, point.x - TextLeft());
 }
 
 Line TextPane::ShownLine(Position position) {
@@ -92,7 +92,7 @@ std::optional<PixelRect> TextPane::CaretAt(Position position) {
   if (!box) return std::nullopt;
   const Piece& piece = cache_.At(position);
   const PieceLine& line = LineOf(piece, position);
-  const FontExtent font = layouter_.ExtentOf(Content(), surface_.InsertionFormat());
+  const FontMetrics font = layouter_.MetricsOf(Content(), surface_.InsertionFormat());
   const double baseline = box->top - line.top + line.baseline;
   const double left = std::round(TextLeft() + piece.XOf(position));
   const double top = std::round(baseline - font.raise - font.ascent);

@@ -1,4 +1,4 @@
-// The laid-out document seen through a rectangle: where a position is, what lies at a point.
+// The laid-out document seen through a rectangle; maps positions to points and back.
 #pragma once
 #include <optional>
 
@@ -7,10 +7,10 @@
 
 namespace lumenote {
 
-/// Coordinates are pixels from the pane's upper left corner. Knows no widget.
+/// Coordinates are pixels from the pane's upper left corner. Independent of any widget.
 class TextPane {
  public:
-  /// Both outlive the pane.
+  /// Both must outlive the pane.
   TextPane(DocumentSurface& surface, TextLayouter& layouter)
       : surface_(surface), layouter_(layouter) {}
 
@@ -21,7 +21,7 @@ class TextPane {
   ScrollModel& Scroll() { return scroll_; }
 
   PixelSize Size() const { return size_; }
-  /// Lays out anew when the wrap width changes; the line at the top stays there.
+  /// Lays out again if the wrap width changes, keeping the top line in place.
   void Resize(PixelSize size);
   /// The surface's right margin or the zoom has changed.
   void Rewrap();
@@ -29,25 +29,26 @@ class TextPane {
   double Zoom() const { return layouter_.Zoom(); }
   void Compose(Composition text);
 
-  /// Room beside the text.
+  /// Space beside the text.
   void Margin(double pixels) { margin_ = pixels; }
-  /// Where the text's left edge is.
+  /// The text's left edge.
   double TextLeft() const { return margin_ - scrolledRight_; }
   double ScrolledRight() const { return scrolledRight_; }
   void ScrolledRight(double pixels) { scrolledRight_ = pixels; }
-  /// How far it can be scrolled to the right.
+  /// Maximum horizontal scroll offset.
   double MostRight() const;
 
   std::vector<ShownPiece> Visible() { return scroll_.Visible(); }
   /// The caret position nearest to a point, which may lie outside.
   Position PositionAt(PixelPoint point);
-  /// The character shown at a point; -1 where there is none.
+  /// The character at a point; -1 if there is none.
   Position CharacterAt(PixelPoint point);
-  /// The line that holds a position, as wide as the pane; empty unless it is in the pane or near.
+  /// The rectangle of the line that holds a position, across the pane; empty unless in or near the
+  /// pane.
   std::optional<PixelRect> LineAt(Position position);
-  /// The line of the text that holds a position, wherever that is.
+  /// The line that holds a position, anywhere in the text.
   Line ShownLine(Position position);
-  /// The caret at a position, in the height of what would be typed there; empty as above.
+  /// The caret at a position, as high as text typed there; empty as above.
   std::optional<PixelRect> CaretAt(Position position);
   void Reveal(Position position);
   int LinesPerPage();
@@ -55,11 +56,11 @@ class TextPane {
  private:
   static constexpr double kCaretWidth = 1;
 
-  struct LineSpot {
+  struct LineHit {
     const Piece* piece;
     int line;
   };
-  LineSpot LineNear(PixelPoint point);
+  LineHit LineNear(PixelPoint point);
   double WrapWidth() const;
   void RevealAcross(Position position);
 

@@ -1,4 +1,4 @@
-// What a view asks of the window that shows it: what every backend realises, besides a layouter.
+// What a view requires of the window that shows it; realised by each backend, besides a layouter.
 #pragma once
 #include <functional>
 
@@ -7,43 +7,44 @@
 namespace lumenote {
 
 struct PointerManners {
-  double dragDistance = 10;      // pixels that a pressed mouse moves before a drag begins
+  double dragDistance = 10;      // pixels a pressed mouse moves before a drag begins
   double doubleClickTime = 400;  // milliseconds
 };
 
-/// Points are pixels from the pane's upper left corner. The view calls these between its events;
-/// none but `Act` and `OpenMenu` may bring the next act of the user.
+/// Points are pixels from the pane's upper left corner. The view calls these during its events;
+/// only `Act` and `OpenMenu` may lead to further user input.
 class ViewHost {
  public:
   virtual ~ViewHost() = default;
 
-  /// Runs an act of the user as an event of the window. The act may close the window and detach
-  /// the view; the view object is still there when this returns.
+  /// Executes user input as an event of the window. That may close the window and detach the view,
+  /// but the view object must still exist on return.
   virtual void Act(const std::function<void()>& act) = 0;
-  /// Whether the user may not edit.
+  /// Whether user edits are blocked.
   virtual bool IsLocked() const = 0;
   virtual PointerManners Pointer() const = 0;
 
-  /// `NoteView::Settle` is to be called before the next painting, and soon.
+  /// Requests a call of `NoteView::Settle` soon, before the next paint.
   virtual void SettleSoon() = 0;
-  /// The scroll bars are to show what the pane says. May resize the pane.
+  /// Updates the scroll bars from the pane. May resize the pane.
   virtual void ShowScrolling() = 0;
-  /// The screen is to show the pane; ends each `Settle`, perhaps without any damage.
+  /// Updates the screen; ends each `Settle`, possibly without damage.
   virtual void ShowDamage(const Damage& damage) = 0;
 
-  /// At once, for assistive programs: the document has changed.
+  /// Called immediately, for assistive programs: the document has changed.
   virtual void Changed(const DocumentChange& change) = 0;
-  /// Selection or caret have moved since this was called last; for input methods, assistive
-  /// programs and the blinking, which starts anew.
+  /// Selection or caret have moved since the last call: for input methods, assistive programs, and
+  /// to restart the blinking.
   virtual void SelectionMoved() = 0;
 
-  /// The pointer over the text: an arrow where it could be dragged, else the text pointer.
+  /// The pointer over the text: an arrow over draggable text, else the text cursor.
   virtual void ShowArrow(bool arrow) = 0;
-  /// While `on`, `ViewMouse::ScrollOn` is to be called every 30 milliseconds or so.
+  /// While on, `ViewMouse::ScrollOn` must be called about every 30 milliseconds.
   virtual void ScrollTimer(bool on) = 0;
-  /// Drags the selection, a `TextDrag`, until the button is released; the view may be gone then.
+  /// Drags the selection, a `TextDrag`, until the button is released; the view may be destroyed
+  /// meanwhile.
   virtual void Drag() = 0;
-  /// As the right button does when it is released there.
+  /// Acts like releasing the right button there.
   virtual void OpenMenu(PixelPoint at) = 0;
 };
 

@@ -7,12 +7,12 @@ namespace lumenote {
 namespace {
 
 RichTextView* MakeView(RichTextBox& box, QWidget& parent, LayouterSource& layouters) {
-  ViewDoors doors;
-  doors.act = [&box](const std::function<void()>& act) { box.Owner().Raise(act); };
-  doors.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
-  doors.locked = [&box] { return box.Locked(); };
+  ViewCallbacks callbacks;
+  callbacks.act = [&box](const std::function<void()>& act) { box.Owner().Raise(act); };
+  callbacks.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
+  callbacks.locked = [&box] { return box.Locked(); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
-  return new RichTextView(surface, layouters.LayouterOf(box), std::move(doors), &parent);
+  return new RichTextView(surface, layouters.LayouterOf(box), std::move(callbacks), &parent);
 }
 
 }  // namespace

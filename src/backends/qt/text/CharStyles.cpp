@@ -37,7 +37,7 @@ double Contrast(const QColor& one, const QColor& other) {
   return (high + 0.05) / (low + 0.05);
 }
 
-/// Size of a character and the shift of its baseline that superscript, subscript and offset give.
+/// The size of a character and its baseline shift, from superscript, subscript and offset.
 struct Raised {
   double points;
   double raise;  // pixels
@@ -65,7 +65,7 @@ QFont MakeFont(const FontFace& face, const CharFormat& format, double points, do
   font.setItalic(format.effects & kItalic);
   if (format.scale != 100) font.setStretch(std::clamp<int>(format.scale, 1, kMaxStretch));
   if (format.spacing != 0) {
-    const double least = -points / 2;  // keeps characters in their order
+    const double least = -points / 2;  // keeps characters in order
     font.setLetterSpacing(QFont::AbsoluteSpacing, std::max(ToPixels(format.spacing), least) * zoom);
   }
   return QFont(font, CharStyles::Device());
@@ -76,7 +76,7 @@ QFont MakeFont(const FontFace& face, const CharFormat& format, double points, do
 QPaintDevice* CharStyles::Device() {
   static QImage device = [] {
     QImage image(1, 1, QImage::Format_RGB32);
-    constexpr int kDotsPerMetre = 3780;  // 96 an inch
+    constexpr int kDotsPerMetre = 3780;  // 96 per inch
     image.setDotsPerMeterX(kDotsPerMetre);
     image.setDotsPerMeterY(kDotsPerMetre);
     return image;

@@ -1,4 +1,4 @@
-// Character formats as the toolkit draws them.
+// Character formats as Qt draws them.
 #pragma once
 #include <QColor>
 #include <QTextCharFormat>
@@ -9,7 +9,7 @@
 
 namespace lumenote {
 
-/// One character format at one zoom; lengths in pixels.
+/// A character format at one zoom; lengths in pixels.
 struct CharStyle {
   QTextCharFormat format;  // font, colours, raise
   double ascent = 0;       // of the font, above its baseline
@@ -18,25 +18,25 @@ struct CharStyle {
   Underline underline = Underline::None;
   int strikes = 0;  // lines through the text
   bool hidden = false;
-  bool capitals = false;                       // shown for small letters
-  std::optional<QTextCharFormat> smallLetter;  // how those look that are shown as small capitals
-  bool object = false;  // a placeholder, itself invisible, is left to the painter
+  bool capitals = false;                       // shown instead of small letters
+  std::optional<QTextCharFormat> smallLetter;  // the look of small letters shown as small capitals
+  bool object = false;                         // an invisible placeholder, painted separately
 };
 
-/// The styles of one document's formats, made when first asked for.
+/// The styles of a document's formats, created on demand.
 class CharStyles {
  public:
   /// Valid until the next call of any member.
   const CharStyle& Of(const Document& document, CharId id);
-  /// Of a format that no text need have yet.
+  /// The style of a format that no text need have.
   const CharStyle& Of(const Document& document, const CharFormat& format);
 
   double Zoom() const { return zoom_; }
   void Zoom(double factor);
-  /// The colour that text stands on: colours that would be lost on it are lightened or darkened.
+  /// The background colour; text colours with too little contrast are lightened or darkened.
   void Ground(const QColor& colour);
 
-  /// What a font is measured with, so that a point is 4/3 pixels on every screen.
+  /// The device that fonts are measured with, so that a point is 4/3 pixels on every screen.
   static QPaintDevice* Device();
 
  private:
@@ -47,7 +47,7 @@ class CharStyles {
   void Forget();
 
   std::unordered_map<CharId, CharStyle> styles_;
-  CharFormat lastFormat_;  // the one asked for by itself last
+  CharFormat lastFormat_;  // the last one requested directly
   std::optional<CharStyle> lastStyle_;
   double zoom_ = 1;
   QColor ground_ = Qt::white;

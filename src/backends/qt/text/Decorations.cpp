@@ -8,7 +8,7 @@ namespace lumenote {
 
 namespace {
 
-/// How an underline is drawn: dashes in units of the line's width, none for a solid line.
+/// How to draw an underline: dashes in units of the pen width; empty for a solid line.
 struct Stroke {
   QList<qreal> dashes{};
   double weight = 1;
@@ -61,7 +61,7 @@ Stroke StrokeOf(Underline kind) {
   return {};
 }
 
-/// The part of a decoration in one line of the piece.
+/// The part of a decoration in one line of a piece.
 struct Stretch {
   int start = 0;
   int end = 0;
@@ -104,7 +104,7 @@ class DecorationPainter {
   const QColor ink_;
 };
 
-/// Width of a thin line under text of this size.
+/// Width of a thin line for text of this size.
 double DecorationPainter::Weight() const {
   constexpr double kAscentPerPixel = 16;
   return std::max(1.0, std::round(decoration_.ascent / kAscentPerPixel));

@@ -1,4 +1,4 @@
-// Underlines, strike-out and placeholders, drawn over the text of a piece.
+// Draws underlines, strike-through and placeholders over a piece's text.
 #pragma once
 #include <QPainter>
 
@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// `origin` is where the text's left edge meets the piece's top; `ink` the automatic colour.
+/// `origin` is where the text's left edge meets the piece's top; `ink` is the automatic colour.
 void PaintDecorations(QPainter& painter, const QtPiece& piece, QPointF origin, const QColor& ink);
 
 }  // namespace lumenote

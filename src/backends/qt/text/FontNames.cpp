@@ -46,7 +46,7 @@ constexpr StandIn kStandIns[] = {
     {"verdana", kWide},
 };
 
-/// RTF font families that tell what a font looks like.
+/// RTF font families that suggest a look.
 enum Family { kRoman = 1, kModern = 3 };
 
 template <class Names>
@@ -80,7 +80,7 @@ constexpr int kControlPixels = 11;  // 8.25 points
 }  // namespace
 
 QString MachineFamily(const FontFace& face) {
-  // Asking for a family costs more than laying out a line.
+  // Looking up a family costs more than laying out a line.
   static QHash<QPair<QString, int>, QString> known;
   const QString name = ToQString(face.name);
   const QPair<QString, int> key(name, face.family);

@@ -1,4 +1,4 @@
-// Which font of this machine stands for a font that a note names.
+// Substitutes installed fonts for the fonts that notes name.
 #pragma once
 #include <QFont>
 #include <QString>
@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-/// The family named, when the machine has it; else one of the same metrics or at least the same
-/// look; else the best for the kind of font that the note says it is.
+/// The named family if installed; else one with the same metrics or at least a similar look; else
+/// the best match for the kind of font that the note states.
 QString MachineFamily(const FontFace& face);
 
 /// The small font of labels, menus and panels.

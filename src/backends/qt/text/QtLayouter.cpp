@@ -12,17 +12,17 @@ namespace lumenote {
 
 namespace {
 
-constexpr double kOutOfSight = 1e6;  // below: lines are drawn up to the first one out of sight
+constexpr double kOutOfSight = 1e6;  // pixels; drawing stops at the first line below this
 constexpr char16_t kLineBreak = u'\v';
 constexpr char16_t kObject = u'\uFFFC';
-// What stands for them in the layout's text: one unit each.
+// Stand-ins in the layout's text, one unit each.
 constexpr char16_t kLineSeparator = u'\u2028';
 constexpr char16_t kPlaceholder = u'\u25A1';
 constexpr char16_t kInvisible = u'\u200C';
 
 using FormatRange = QTextLayout::FormatRange;
 
-/// Text and formats of a span as the toolkit wants them.
+/// Text and formats of a span in Qt's terms.
 class SpanText {
  public:
   SpanText(const Document& document, const PieceSpan& span, CharStyles& styles)
@@ -144,7 +144,7 @@ class LineMaker {
     tabStep_ = layouter.Pixels(kDefaultTabStep);
   }
 
-  /// Returns false when an incomplete span gave no whole line.
+  /// Returns false if an incomplete span gave no whole line.
   bool Build(const PieceSpan& span);
 
  private:
@@ -187,8 +187,7 @@ QTextOption::Tab TabAt(double x, TabKind kind) {
   return {x, QTextOption::LeftTab};
 }
 
-// The toolkit counts tab stops from where the line begins; the document counts them from the left
-// edge.
+// Qt measures tab stops from the line's start, the document from the left edge.
 QTextOption LineMaker::Option(double lineX) const {
   const ParaFormat& format = stack_.Format();
   QTextOption option(AlignmentOf(format));
@@ -231,7 +230,7 @@ bool LineMaker::Build(const PieceSpan& span) {
     cut.setPosition({0, kOutOfSight});
     piece_.lines.pop_back();
   }
-  // The toolkit begins another line behind a line break, even one that is not the paragraph's last.
+  // Qt starts another line after every line break, even if the paragraph goes on.
   if (!piece_.closes && piece_.lines.size() > 1 &&
       piece_.lines.back().start == piece_.lines.back().end)
     piece_.lines.pop_back();
@@ -258,7 +257,7 @@ void LineMaker::Place(QTextLine line, PieceLine& box) {
 
 }  // namespace
 
-FontExtent QtLayouter::ExtentOf(const Document& document, const CharFormat& format) {
+FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& format) {
   const CharStyle& style = styles.Of(document, format);
   return {style.ascent, style.descent, style.raise};
 }

@@ -1,4 +1,4 @@
-// Lays out paragraphs through the toolkit's text layout.
+// Lays out paragraphs with QTextLayout.
 #pragma once
 #include "backends/qt/text/CharStyles.h"
 #include "backends/qt/text/QtPiece.h"
@@ -6,15 +6,15 @@
 
 namespace lumenote {
 
-/// Its pieces are `QtPiece`s.
+/// Creates `QtPiece`s.
 class QtLayouter final : public TextLayouter {
  public:
   CharStyles styles;
-  /// How the text being composed looks, from its start.
+  /// Formats of the composed text, relative to its start.
   QList<QTextLayout::FormatRange> composedFormats;
 
   std::unique_ptr<Piece> LayOut(const Document& document, const PieceSpan& span) override;
-  FontExtent ExtentOf(const Document& document, const CharFormat& format) override;
+  FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 
  private:
   void Zoomed() override { styles.Zoom(Zoom()); }

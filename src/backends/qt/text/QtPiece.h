@@ -1,4 +1,4 @@
-// A laid-out piece as the toolkit has it.
+// A piece laid out by Qt.
 #pragma once
 #include <QColor>
 #include <QTextLayout>
@@ -8,17 +8,17 @@
 
 namespace lumenote {
 
-/// What is drawn over or under characters `start`..`end` of the layout's text besides the text.
+/// Something drawn over or under characters `start`..`end` of the layout's text.
 struct Decoration {
   int start = 0;
   int end = 0;
   Underline underline = Underline::None;
   int strikes = 0;
-  bool object = false;  // a placeholder for what cannot be shown
+  bool object = false;  // a placeholder for an object that cannot be shown
   double ascent = 0;    // of the font, pixels
   double descent = 0;
   double raise = 0;  // of its baseline above the line's
-  QColor colour;     // invalid for the text's automatic one
+  QColor colour;     // invalid: the text's automatic colour
 };
 
 class QtPiece final : public Piece {

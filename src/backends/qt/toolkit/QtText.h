@@ -1,4 +1,4 @@
-// Strings between the forms and the toolkit.
+// Converts between Qt's strings and the forms'.
 #pragma once
 #include <QString>
 #include <string>
@@ -21,7 +21,7 @@ inline std::u16string_view Utf16(const QString& text) {
   return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size())};
 }
 
-/// Text for a widget: each CR LF a line feed.
+/// Text for a widget: each CR LF becomes LF.
 inline QString ToLines(std::u16string_view text) {
   return ToQString(ReplaceEvery(text, u"\r\n", u"\n"));
 }

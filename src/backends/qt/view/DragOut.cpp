@@ -17,7 +17,7 @@ void DragOut::Run() {
   if (view && drag && done == Qt::MoveAction) Finish(*drag, text);
 }
 
-// The toolkit keeps the drag until the other program has told it that it is done.
+// Qt keeps the drag alive until the other program has acknowledged the drop.
 void DragOut::Finish(QDrag& drag, TextDrag text) {
   const QObject* target = drag.target();
   if (target == view_.viewport() || target == &view_) return;

@@ -1,4 +1,4 @@
-// Text dragged out of a view through the toolkit.
+// Drags text out of a view.
 #pragma once
 #include <QDrag>
 #include <memory>
@@ -10,20 +10,20 @@ namespace lumenote {
 
 class RichTextView;
 
-/// Text moved to another program is deleted here when that program says that it has it, moved to
-/// another widget at once. Where a desktop's programs do not say so, the text stays.
+/// Text moved to another program is deleted here once that program acknowledges the drop, text
+/// moved to another widget at once. On desktops without such an acknowledgement the text stays.
 class DragOut {
  public:
   explicit DragOut(RichTextView& view) : view_(view) {}
 
-  /// Drags the selection until the button is released; the view may be gone then.
+  /// Drags the selection until the button is released; the view may be destroyed meanwhile.
   void Run();
 
  private:
   void Finish(QDrag& drag, TextDrag text);
 
   RichTextView& view_;
-  std::unique_ptr<DropReceipt> receipt_;  // of the latest drag
+  std::unique_ptr<DropReceipt> receipt_;  // of the last drag
 };
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Drags over a view as the toolkit tells of them.
+// Forwards Qt's drag-and-drop events to a view.
 #pragma once
 #include <QDropEvent>
 

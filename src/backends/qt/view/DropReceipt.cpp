@@ -22,7 +22,7 @@ DropReceipt::~DropReceipt() {
   if (auto* application = QCoreApplication::instance()) application->removeNativeEventFilter(this);
 }
 
-// The message holds the target, whether it has accepted, and what it has done.
+// The message contains the target, whether it accepted, and the action it performed.
 bool DropReceipt::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
   if (type != "xcb_generic_event_t") return false;
   const auto* event = static_cast<const xcb_client_message_event_t*>(message);

@@ -1,12 +1,12 @@
-// What the target of a drag says when it is done with the drop.
+// The acknowledgement that a drop target sends.
 #pragma once
 #include <QAbstractNativeEventFilter>
 #include <cstdint>
 
 namespace lumenote {
 
-/// Listens as long as it lives; knows nothing where the desktop is not X11's, whose programs alone
-/// tell what became of a drop.
+/// Listens during its lifetime, on X11 only: programs of other desktops do not tell what became of
+/// a drop.
 class DropReceipt : public QAbstractNativeEventFilter {
  public:
   DropReceipt();
@@ -14,7 +14,7 @@ class DropReceipt : public QAbstractNativeEventFilter {
   DropReceipt(const DropReceipt&) = delete;
   DropReceipt& operator=(const DropReceipt&) = delete;
 
-  /// Whether the one target that has told has taken what was dropped, to be moved there.
+  /// Whether exactly one target has answered, and accepted the drop as a move.
   bool IsMove() const { return told_ == 1 && move_; }
 
   bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;

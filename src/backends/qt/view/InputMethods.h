@@ -1,4 +1,4 @@
-// What an input method says to a view, and asks of it.
+// Translates between Qt's input methods and a view.
 #pragma once
 #include <QInputMethodEvent>
 #include <QTextLayout>
@@ -11,7 +11,7 @@ namespace lumenote {
 class RichTextView;
 
 ViewInput::Message MessageOf(const QInputMethodEvent& event);
-/// How the text being composed is to look, from its start.
+/// Formats of the composed text, relative to its start.
 QList<QTextLayout::FormatRange> FormatsOf(const QInputMethodEvent& event);
 QVariant AnswerInput(RichTextView& view, Qt::InputMethodQuery query);
 

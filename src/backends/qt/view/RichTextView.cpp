@@ -22,7 +22,7 @@ namespace lumenote {
 
 namespace {
 
-constexpr int kFramelessHeight = 20;  // pixels; lower boxes have no frame
+constexpr int kFramelessHeight = 20;  // a lower box gets no frame
 constexpr double kMargin = 3;
 constexpr double kWheelLine = 20;  // pixels
 constexpr double kWheelNotch = 120;
@@ -35,11 +35,11 @@ QEvent::Type SettleEvent() {
 
 }  // namespace
 
-RichTextView::RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewDoors doors,
+RichTextView::RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewCallbacks callbacks,
                            QWidget* parent)
     : QAbstractScrollArea(parent),
       layouter_(layouter),
-      doors_(std::move(doors)),
+      callbacks_(std::move(callbacks)),
       text_(surface, layouter, *this) {
   UseViewAccessibility();
   clock_.start();
@@ -59,11 +59,11 @@ void RichTextView::Detach() {
   text_.Detach();
 }
 
-// --- what the view asks
+// --- requests of the view
 
 void RichTextView::Act(const std::function<void()>& act) {
-  if (doors_.act)
-    doors_.act(act);
+  if (callbacks_.act)
+    callbacks_.act(act);
   else
     act();
 }
@@ -111,12 +111,12 @@ void RichTextView::ScrollTimer(bool on) {
 }
 
 void RichTextView::ReleaseMouse(MouseButton button, QPointF at) {
-  if (!doors_.mouseUp) return;
+  if (!callbacks_.mouseUp) return;
   const QPointF corner = viewport()->pos() + at;
-  doors_.mouseUp({button, {ToTwips(corner.x()), ToTwips(corner.y())}});
+  callbacks_.mouseUp({button, {ToTwips(corner.x()), ToTwips(corner.y())}});
 }
 
-// Other programs can paste what is selected here with the middle button.
+// Offers the selection to other programs, which paste it with the middle button.
 void RichTextView::OfferSelection() {
   QClipboard* clipboard = QApplication::clipboard();
   if (offered_ || !hasFocus() || !clipboard->supportsSelection()) return;
@@ -162,7 +162,7 @@ void RichTextView::resizeEvent(QResizeEvent*) {
       {static_cast<double>(viewport()->width()), static_cast<double>(viewport()->height())});
 }
 
-// The text begins at the same place with and without a frame.
+// The text starts at the same position with and without a frame.
 void RichTextView::ChooseFrame() {
   const bool frameless = height() < kFramelessHeight;
   setFrameShape(frameless ? QFrame::NoFrame : QFrame::StyledPanel);
@@ -227,8 +227,8 @@ void RichTextView::timerEvent(QTimerEvent* event) {
 
 // --- events
 
-// Nothing may leave an event handler through the toolkit. What could not be laid out or painted for
-// want of memory is shown when there is some again.
+// Exceptions must not propagate through Qt. What could not be laid out or painted for lack of
+// memory is shown later.
 bool RichTextView::event(QEvent* event) {
   try {
     return HandleEvent(event);
@@ -298,7 +298,7 @@ void RichTextView::mouseReleaseEvent(QMouseEvent* event) {
   if (IsAttached()) ReleaseMouse(ButtonOf(event->button()), event->position());
 }
 
-// What is selected elsewhere on the desktop is pasted at the mouse.
+// Pastes the desktop's selection at the mouse position.
 void RichTextView::PasteSelection(QPointF at) {
   QClipboard* clipboard = QApplication::clipboard();
   if (IsLocked() || !clipboard->supportsSelection()) return;

@@ -1,4 +1,4 @@
-// The widget that shows a rich-text surface and takes the user's acts on it.
+// The widget that shows a rich-text surface and receives the user's input.
 #pragma once
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
@@ -22,26 +22,26 @@
 
 namespace lumenote {
 
-/// How a view reaches the window that it stands on; each may be empty.
-struct ViewDoors {
-  /// Runs an act of the user on the surface, as an event of the window.
+/// Callbacks from a view to its window; each may be empty.
+struct ViewCallbacks {
+  /// Executes user input on the surface, as an event of the window.
   std::function<void(const std::function<void()>&)> act{};
   /// A button was released at a point in twips from the view's corner.
   std::function<void(const MouseEvent&)> mouseUp{};
-  /// Whether the user may not edit.
+  /// Whether user edits are blocked.
   std::function<bool()> locked{};
 };
 
-/// A `NoteView` on the desktop: events go in, painting comes out. The surface may go first, after
-/// `Detach`; then the widget does nothing.
+/// Shows a `NoteView` with Qt: translates events and paints. The surface may be destroyed first,
+/// after `Detach`; the widget is inert then.
 class RichTextView : public QAbstractScrollArea, private ViewHost {
  public:
-  /// `layouter` outlives the view; the surface's breaker uses the same.
-  RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewDoors doors, QWidget* parent);
+  /// `layouter`, shared with the surface's breaker, must outlive the view.
+  RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewCallbacks callbacks, QWidget* parent);
 
   void Detach();
   bool IsAttached() const { return text_.IsAttached(); }
-  bool IsLocked() const override { return doors_.locked && doors_.locked(); }
+  bool IsLocked() const override { return callbacks_.locked && callbacks_.locked(); }
   NoteView& Text() { return text_; }
   DocumentSurface& Surface() const { return text_.Surface(); }
   TextPane& Pane() { return text_.Pane(); }
@@ -65,7 +65,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  bool focusNextPrevChild(bool) override { return false; }  // the Tab key types
+  bool focusNextPrevChild(bool) override { return false; }  // Tab is typed
   void timerEvent(QTimerEvent* event) override;
   void changeEvent(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -102,7 +102,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   ViewMouse::Press PressOf(const QMouseEvent& event) const;
 
   QtLayouter& layouter_;
-  ViewDoors doors_;
+  ViewCallbacks callbacks_;
   mutable NoteView text_;
   ViewKeys keys_{text_};
   ViewMouse mouse_{text_};
@@ -113,7 +113,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   QBasicTimer blinking_;
   QBasicTimer scrolling_;
   QElapsedTimer clock_;
-  QPointer<const QMimeData> offered_;  // what the desktop's selection is as long as it is ours
+  QPointer<const QMimeData> offered_;  // the desktop's selection while it is ours
 };
 
 }  // namespace lumenote

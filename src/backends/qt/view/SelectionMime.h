@@ -1,4 +1,4 @@
-// The selected text of a view as other programs and widgets get it.
+// The selected text of a view as MIME data.
 #pragma once
 #include <QMimeData>
 #include <QPointer>
@@ -10,14 +10,14 @@ namespace lumenote {
 
 class RichTextView;
 
-/// Text and RTF are written when they are asked for, however large: either of what is selected
-/// then, or of what was selected when this was made.
+/// Text and RTF are generated on request, whatever their size: of the selection at that time, or of
+/// the selection when this was created.
 class SelectionMime : public QMimeData {
  public:
   enum class Of { Then, Now };
   SelectionMime(RichTextView& view, Of when);
 
-  /// The view that the text can be moved from: null when it has gone, or has been edited since.
+  /// The view from which the text can be moved; null if it is gone or was edited since.
   RichTextView* Source() const;
 
   QStringList formats() const override;
@@ -31,7 +31,7 @@ class SelectionMime : public QMimeData {
 
   QPointer<RichTextView> view_;
   std::optional<TextExcerpt> taken_;
-  int edits_;  // that the view had seen
+  int edits_;  // edit count of the view at creation
 };
 
 }  // namespace lumenote

@@ -44,7 +44,7 @@ Selection FindBoundaries(TextUnit unit, std::u16string_view text, int index) {
           static_cast<Position>(end < 0 ? std::ssize(text) : end)};
 }
 
-/// The toolkit's names for what `AccessibleText` does.
+/// Adapts `AccessibleText` to Qt's interfaces.
 class AccessibleView final : public QAccessibleWidget,
                              public QAccessibleTextInterface,
                              public QAccessibleEditableTextInterface {
@@ -117,7 +117,7 @@ QAccessible::State AccessibleView::state() const {
 }
 
 QString AccessibleView::text(QAccessible::Text what) const {
-  constexpr Position kMax = 10'000;  // a glimpse; the rest through the text interface
+  constexpr Position kMax = 10'000;  // an excerpt; the rest is available through the text interface
   return what == QAccessible::Value && view_.IsAttached() ? text(0, kMax)
                                                           : QAccessibleWidget::text(what);
 }

@@ -1,4 +1,4 @@
-// Views as assistive programs read and edit them.
+// Makes views accessible to assistive programs.
 #pragma once
 #include "surface/editing/SurfaceView.h"
 
@@ -6,10 +6,10 @@ namespace lumenote {
 
 class RichTextView;
 
-/// Makes the toolkit offer text and editable text of views; does nothing the second time.
+/// Registers the text interfaces of views with Qt; idempotent.
 void UseViewAccessibility();
 
-/// Tell who listens; cost nothing when nobody does.
+/// Notify assistive programs; cheap if there are none.
 void AnnounceChange(RichTextView& view, const DocumentChange& change);
 void AnnounceSelection(RichTextView& view);
 

@@ -9,7 +9,7 @@
 namespace lumenote {
 
 namespace {
-constexpr int kBarlessHeight = 48;  // pixels; lower boxes have no scroll bars
+constexpr int kBarlessHeight = 48;  // a lower box gets no scroll bars
 constexpr int kLineStep = 20;       // pixels
 constexpr double kMaxRange = 1e9;
 }  // namespace
@@ -41,8 +41,8 @@ void ViewBars::SyncHorizontal() {
   bar->setValue(static_cast<int>(view_.Pane().ScrolledRight()));
 }
 
-// A bar is painted anew when its range changes, which costs more than a typed character; so it
-// stays while that would not move the slider by a pixel.
+// Changing a bar's range repaints the bar, which costs more than typing a character; so the range
+// is kept unless the slider would move by a pixel.
 void ViewBars::SyncVertical() {
   const ScrollModel::Scale scale = view_.Pane().Scroll().Read();
   QScrollBar* bar = view_.verticalScrollBar();

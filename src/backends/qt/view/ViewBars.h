@@ -5,19 +5,19 @@ namespace lumenote {
 
 class RichTextView;
 
-/// They follow the pane. Steps go by what is on screen, exactly, where the bar's own scale may be
-/// an estimate.
+/// The bars follow the pane. Steps move exactly by what is on screen, even if the bar's scale is an
+/// estimate.
 class ViewBars {
  public:
   explicit ViewBars(RichTextView& view);
 
-  /// Which bars a box of this height can have.
+  /// Chooses the bars for a box of this height.
   void Choose(int height);
-  /// After the pane has changed.
+  /// Updates the bars from the pane.
   void Sync();
-  /// After the user has moved a bar.
+  /// Updates the pane after the user has moved a bar.
   void Follow(int dx, int dy);
-  /// As turning a wheel does, in pixels.
+  /// Scrolls like a mouse wheel, in pixels.
   void Turn(double x, double y);
 
  private:
@@ -26,7 +26,7 @@ class ViewBars {
   void Step(int action);
 
   RichTextView& view_;
-  bool syncing_ = false;  // the bars follow the pane, not the other way round
+  bool syncing_ = false;  // updating the bars from the pane
 };
 
 }  // namespace lumenote

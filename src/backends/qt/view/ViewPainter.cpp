@@ -35,7 +35,7 @@ void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QR
   PaintDecorations(painter, PieceOf(item), origin, state_.palette.color(QPalette::Text));
 }
 
-// The toolkit's own painting of selections cuts off raised and lowered text.
+// Qt's own selection painting clips raised and lowered text.
 void ViewPainter::PaintSelection(QPainter& painter, const ShownPiece& item) {
   const QtPiece& piece = PieceOf(item);
   const int start = piece.ToIndex(std::max(state_.marks.selection.start, piece.from));
@@ -70,7 +70,7 @@ void ViewPainter::PaintSelectedText(QPainter& painter, const QtPiece& piece, QPo
   }
 }
 
-// A selected paragraph break shows as a narrow stripe behind the last line.
+// A selected paragraph break is a narrow stripe after the last line.
 void ViewPainter::PaintSelectedBreak(QPainter& painter, const ShownPiece& item) {
   const QtPiece& piece = PieceOf(item);
   if (!piece.closes || state_.marks.selection.start > piece.to ||

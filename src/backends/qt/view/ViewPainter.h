@@ -8,19 +8,19 @@
 
 namespace lumenote {
 
-/// What is painted besides the document itself.
+/// What to paint besides the document.
 struct PaintState {
   ViewMarks marks;
-  QPalette palette;  // in the group that shows the selection as it should be
+  QPalette palette;  // with the colour group for the selection
 };
 
 class ViewPainter {
  public:
-  /// `layouter` is the pane's.
+  /// `layouter` must be the pane's.
   ViewPainter(TextPane& pane, QtLayouter& layouter, const PaintState& state)
       : pane_(pane), layouter_(layouter), state_(state) {}
 
-  /// Paints `area` wholly, ground included.
+  /// Paints all of `area`, background included.
   void Paint(QPainter& painter, const QRectF& area);
 
  private:
