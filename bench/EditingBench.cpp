@@ -8,7 +8,7 @@
 #include "ocr/Cleanup.h"
 #include "surface/DocumentSurface.h"
 #include "surface/Fakes.h"
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 namespace lumenote {
 namespace {
@@ -24,7 +24,7 @@ struct Desk {
 };
 
 void LoadLargeNote(Desk& desk) {
-  desk.surface.TextRTF(UnitsOfBytes(NoteSource(NoteShape::Rich, kLargeNote)));
+  desk.surface.TextRTF(WidenSource(NoteSource(NoteShape::Rich, kLargeNote)));
 }
 
 /// To the end of the note, in vain, case ignored.

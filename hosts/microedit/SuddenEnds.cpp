@@ -21,7 +21,7 @@ void Keep() {
 }
 
 // Nothing but the number may leave a signal handler; the event loop does the rest.
-extern "C" void TellSignal(int number) {
+extern "C" void WriteSignal(int number) {
   const int before = errno;
   const auto byte = static_cast<unsigned char>(number);
   if (write(thePipe[1], &byte, 1) != 1) _exit(1);
@@ -70,7 +70,7 @@ SuddenEnds::SuddenEnds(std::function<void()> keep) {
   QObject::connect(signals_.get(), &QSocketNotifier::activated, &EndBySignal);
   session_ = std::make_unique<QuitFilter>();
   qGuiApp->installEventFilter(session_.get());
-  Handle(&TellSignal);
+  Handle(&WriteSignal);
 }
 
 SuddenEnds::~SuddenEnds() {

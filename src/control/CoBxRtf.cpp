@@ -107,7 +107,7 @@ CoBxRtf::~CoBxRtf() {
     Co_Rtf* editor = parts_->editor.Loaded();
     if (editor) editor->Values().noteReplaced = true;  // nobody reads it any more
     if (editor && !editor->Unload()) editor->Abandon();
-    if (!GarderRetours(parts_->windows.Machine(), parts_->workLeft)) parts_->temp->Keep();
+    if (!GarderRetours(parts_->windows.Machine(), parts_->outstandingWork)) parts_->temp->Keep();
   };
   IgnoringErrors([&] { Named(u"~CoBxRtf", close); });
   parts_->editor.KeepAlive(parts_);

@@ -1,4 +1,5 @@
-// The rich-text document: text, runs of formats, paragraphs. No undo, no selection: see Undo.h.
+// The rich-text document: text, format runs, paragraphs. Undo is in Undo.h, selection in
+// `EditingCore`.
 #pragma once
 #include <cstdint>
 #include <functional>
@@ -14,12 +15,12 @@
 
 namespace lumenote {
 
-/// Invariants: a paragraph break is CR LF, both in one leaf and never torn by an edit; no lone CR
-/// or LF stands in the text; the last paragraph has no break, its format is the final mark's.
+/// Invariants: a paragraph break is a CR LF pair, within one leaf and never split by an edit; no CR
+/// or LF is unpaired; the last paragraph has no break, its format is the final mark's.
 ///
-/// Any position may be asked for: one outside 0..`Length()` is clipped, a paragraph outside
-/// 0..`ParagraphCount()` - 1 likewise, and an edge of a range that lies inside a CR LF moves
-/// outwards (where the range is empty, before it). A range ends where it begins at the latest.
+/// Every position is accepted: one outside 0..`Length()` is clipped, and so is a paragraph number
+/// outside 0..`ParagraphCount()` - 1. An edge of a range inside a CR LF moves outwards; an empty
+/// range there moves before it. A range whose end precedes its start is empty.
 class Document {
  public:
   Document();
@@ -28,33 +29,33 @@ class Document {
   const FormatTables& Formats() const { return *formats_; }
 
   Position Length() const { return leaves_.Length(); }
-  /// At least 1; each break starts another paragraph.
+  /// At least 1: each break starts another paragraph.
   Position ParagraphCount() const { return leaves_.Breaks() + 1; }
-  /// The paragraph, counted from 0, that holds `position` (a break belongs to the one it ends).
+  /// The paragraph, from 0, that holds `position`; a break belongs to the paragraph it ends.
   Position ParagraphOf(Position position) const;
   Position ParagraphStart(Position paragraph) const;
-  /// Just before the paragraph's break, or the end of the document.
+  /// The position before the paragraph's break, or the end of the document.
   Position ParagraphEnd(Position paragraph) const;
 
-  /// 0 at the end of the document and beyond.
+  /// 0 at and beyond the end of the document.
   char16_t At(Position position) const;
   std::u16string Text(Position from, Position to) const;
-  /// Of the character at `position`; at the end, of the final mark.
+  /// The format of the character at `position`; at the end, the final mark's.
   CharId CharFormatAt(Position position) const;
-  /// Of the paragraph that holds `position`.
+  /// The format of the paragraph that holds `position`.
   ParaId ParaFormatAt(Position position) const;
   FinalMark Mark() const { return mark_; }
   const LeafList& Leaves() const { return leaves_; }
 
-  /// Calls `visit(Position start, TextView text, CharId format)` for each piece of one
-  /// format between `from` and `to`, in order; a piece never crosses a leaf.
+  /// Calls `visit(Position start, TextView text, CharId format)` for each run in `from`..`to`, in
+  /// order; a run that spans leaves is visited leaf by leaf.
   template <class Visit>
   void ForEachRun(Position from, Position to, Visit visit) const {
     const Selection range = SnapOutward(from, to);
     leaves_.ForEachRun(range.start, range.end, visit);
   }
   /// Calls `visit(ParaId)` for each paragraph that `from`..`to` touches, in order: the one that
-  /// holds `from` and each one that begins before `to`.
+  /// holds `from`, and each one that starts before `to`.
   template <class Visit>
   void ForEachParagraph(Position from, Position to, Visit visit) const {
     const Selection range = SnapOutward(from, to);
@@ -64,30 +65,30 @@ class Document {
     if (last == leaves_.Breaks()) visit(mark_.paragraph);
   }
 
-  /// The text and formats between two positions; leaves wholly inside are shared, not copied.
+  /// The text and formats of a range; shares leaves that lie wholly inside.
   Fragment Copy(Position from, Position to) const;
-  /// Puts `fragment` in the place of `from`..`to` and returns what stood there. A fragment that
-  /// carries a final mark replaces the document's, and the result then carries the old one. Raises
-  /// Overflow, with the document unchanged, when the whole became longer than a position can tell.
+  /// Replaces `from`..`to` by `fragment` and returns what was there. A final mark in the fragment
+  /// replaces the document's, and the result carries the old one. If the document would become too
+  /// long raises Overflow and changes nothing.
   Fragment Replace(Position from, Position to, Fragment fragment) {
     return Replace(SnapOutward(from, to), std::move(fragment));
   }
-  /// The same for a range that `SnapOutward` gave, which is taken as it is.
+  /// The same for a range returned by `SnapOutward`, used as it is.
   Fragment Replace(Selection range, Fragment fragment);
 
   using CharMap = std::function<CharId(CharId)>;
   using ParaMap = std::function<ParaId(ParaId)>;
-  /// What `Copy` gives, with the formats of the characters and of the breaks between `from` and
-  /// `to`, and on request those of the final mark, replaced by what the maps make of them. A map is
-  /// asked once for each format; an empty one keeps all. Text is shared, never copied. Nothing when
-  /// no format would change. To change a paragraph take in its break, or its final mark.
+  /// The result of `Copy`, with the formats of its characters and breaks, and on request the final
+  /// mark's, mapped. Each map is called once per format; an empty map changes nothing. Shares the
+  /// text. Returns empty if no format changes. A paragraph is mapped only if its break, or its
+  /// final mark, is included.
   std::optional<Fragment> MapFormats(Position from, Position to, const CharMap& characters,
                                      const ParaMap& paragraphs, bool withMark = false) const;
 
-  /// A position moved out of a CR LF or surrogate pair: backwards, or forwards on request.
+  /// Moves a position out of a CR LF or surrogate pair, to its start (end).
   Position SnapBackward(Position position) const;
   Position SnapForward(Position position) const;
-  /// The range that an edit of `from`..`to` concerns: clipped, its edges outside every CR LF.
+  /// The range that an edit of `from`..`to` affects: clipped, with no edge inside a CR LF.
   Selection SnapOutward(Position from, Position to) const;
 
  private:

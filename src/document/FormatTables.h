@@ -1,4 +1,4 @@
-// The tables that give each distinct format, and what is kept beside formats, a small number.
+// Tables that map each distinct format, and each piece of kept content, to a small number.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -11,12 +11,12 @@
 
 namespace lumenote {
 
-/// The tables of one document. Number 0 of each is the default; numbers are never reused, so a
-/// fragment or an undo step may keep them as long as the document lives.
+/// The tables of one document. Number 0 of each is the default. Numbers are never reused, so
+/// fragments and undo steps may hold them as long as the document lives.
 struct FormatTables {
   FormatTables();
-  /// A serial for what is kept. They come round again, so that hostile sources do not fill the
-  /// tables with the same again and again; by then what has the same serial is far away.
+  /// A serial number for kept content. Serials wrap around, so that hostile sources cannot fill the
+  /// tables with copies of one item; equal serials then are far apart in the text.
   std::uint32_t NextSerial() { return serials++ % 16384; }
 
   InternTable<FontFace> fonts;

@@ -20,35 +20,35 @@ CharId WithKept(CharId format, const Kept& kept, FormatTables& tables) {
   return tables.characters.Intern(changed);
 }
 
-/// The items of `source` that begin a page, column or section: all but those of table rows, and
-/// groups other than headers. No break when `there`, where they are to go, has one, and nothing
-/// else when that begins a section.
-KeptItems BeginningIn(const ChainTable<KeptItem>& items, ItemId source, ItemId there) {
+/// The items of `source` that start a page, column or section: all but the definitions of table
+/// rows and the groups other than headers. Drops breaks if the target `there` has one, and
+/// everything else if it starts a section.
+KeptItems SectionStartOf(const ChainTable<KeptItem>& items, ItemId source, ItemId there) {
   const bool breaks = !items.Any(there, IsBreak);
   const bool section = !items.Any(there, IsSection);
-  KeptItems beginning;
+  KeptItems sectionStart;
   bool ofRow = false;
   items.ForEach(source, [&](const KeptItem& item) {
     if (item.kind == Kind::Row) ofRow = true;
     if (Begins(item)) ofRow = false;
     const bool format =
         IsSection(item) || item.kind == Kind::PageHeader || (item.kind == Kind::Words && !ofRow);
-    if (IsBreak(item) ? breaks : format && section) beginning.push_back(item);
+    if (IsBreak(item) ? breaks : format && section) sectionStart.push_back(item);
   });
-  return beginning;
+  return sectionStart;
 }
 
-CharId WithBeginning(CharId format, FormatTables& tables, KeptId beginning) {
-  const Kept& from = tables.kept[beginning];
+CharId WithSectionStart(CharId format, FormatTables& tables, KeptId sectionStart) {
+  const Kept& from = tables.kept[sectionStart];
   Kept kept = tables.kept[tables.characters[format].kept];
-  KeptItems added = BeginningIn(tables.items, from.before, kept.before);
+  KeptItems added = SectionStartOf(tables.items, from.before, kept.before);
   if (added.empty()) return format;
   kept.before = tables.items.Chain(std::move(added), kept.before);
   kept.serial = from.serial;
   return WithKept(format, kept, tables);
 }
 
-/// The fragment with the formats of its first `length` units mapped.
+/// Maps the formats of the fragment's first `length` units.
 template <class Map>
 Fragment Mapped(Fragment fragment, Position length, Map map) {
   LeafList& leaves = fragment.leaves;
@@ -65,22 +65,22 @@ Fragment Mapped(Fragment fragment, Position length, Map map) {
 
 }  // namespace
 
-bool BeginsPlace(const FormatTables& tables, KeptId kept) {
+bool StartsSection(const FormatTables& tables, KeptId kept) {
   return tables.items.Any(tables.kept[kept].before, Begins);
 }
 
-KeptId BeginningAt(const Document& document, Position position) {
+KeptId SectionStartAt(const Document& document, Position position) {
   const FormatTables& tables = document.Formats();
   const auto keptAt = [&](Position at) {
     return tables.characters[document.CharFormatAt(at)].kept;
   };
   const KeptId kept = keptAt(position);
-  if (!BeginsPlace(tables, kept)) return 0;
+  if (!StartsSection(tables, kept)) return 0;
   return position > 0 && keptAt(position - 1) == kept ? 0 : kept;
 }
 
-Fragment WithBeginning(Fragment fragment, FormatTables& tables, KeptId beginning) {
-  const auto map = [&](CharId format) { return WithBeginning(format, tables, beginning); };
+Fragment WithSectionStart(Fragment fragment, FormatTables& tables, KeptId sectionStart) {
+  const auto map = [&](CharId format) { return WithSectionStart(format, tables, sectionStart); };
   if (fragment.leaves.Empty()) {
     if (fragment.mark) fragment.mark->character = map(fragment.mark->character);
     return fragment;
@@ -90,22 +90,22 @@ Fragment WithBeginning(Fragment fragment, FormatTables& tables, KeptId beginning
   return Mapped(std::move(fragment), length, map);
 }
 
-Fragment WithoutBeginning(Fragment fragment, FormatTables& tables) {
+Fragment WithoutSectionStart(Fragment fragment, FormatTables& tables) {
   const auto keptOf = [&](CharId format) { return tables.characters[format].kept; };
   const KeptId kept = keptOf(fragment.leaves.CursorAt(0)->runs.FormatAt(0));
-  if (!BeginsPlace(tables, kept)) return fragment;
+  if (!StartsSection(tables, kept)) return fragment;
   Position length = 0;
   fragment.leaves.ForEachRun(0, fragment.Length(), [&](Position at, TextView text, CharId format) {
     const bool goesOn = at == length && keptOf(format) == kept;
     if (goesOn) length += static_cast<Position>(text.Size());
   });
   return Mapped(std::move(fragment), length,
-                [&](CharId format) { return WithoutBeginning(format, tables); });
+                [&](CharId format) { return WithoutSectionStart(format, tables); });
 }
 
-CharId WithoutBeginning(CharId format, FormatTables& tables) {
+CharId WithoutSectionStart(CharId format, FormatTables& tables) {
   const KeptId id = tables.characters[format].kept;
-  if (!BeginsPlace(tables, id)) return format;
+  if (!StartsSection(tables, id)) return format;
   Kept kept = tables.kept[id];
   kept.before = 0;
   kept.serial = 0;

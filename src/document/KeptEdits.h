@@ -1,8 +1,8 @@
 // What edits do to kept items.
 //
-// An item goes where its character goes, with three exceptions: what begins a page, column or
-// section stays where it is, whatever happens to the text behind it; text typed inside a field
-// joins it; and a paragraph that gets or loses its bullet leaves its list.
+// An item moves with its character, with three exceptions: the start of a page, column or section
+// stays in place, whatever happens to the text after it; text typed inside a field joins the field;
+// and a paragraph whose bullet is switched leaves its list.
 #pragma once
 #include <functional>
 
@@ -10,30 +10,30 @@
 
 namespace lumenote {
 
-/// The kept number of the character at `position`, or of the final mark, when a page, column or
-/// section begins before that; 0 when none does, or before an earlier character of that number.
-KeptId BeginningAt(const Document& document, Position position);
+/// The kept number of the character, or final mark, at `position`, if a page, column or section
+/// starts there; else 0. Also 0 if an earlier character of that number carries the start.
+KeptId SectionStartAt(const Document& document, Position position);
 
-/// Whether a page, column or section begins before a character of that kept number.
-bool BeginsPlace(const FormatTables& tables, KeptId kept);
+/// Whether a page, column or section starts before a character of that kept number.
+bool StartsSection(const FormatTables& tables, KeptId kept);
 
-/// The fragment with the beginning that `beginning` tells of before its first character, or its
-/// mark when it has no text. What begins there already takes its place.
-Fragment WithBeginning(Fragment fragment, FormatTables& tables, KeptId beginning);
+/// Adds the section start that `sectionStart` holds before the fragment's first character, or
+/// before its mark if it has no text. A section start that is there already wins.
+Fragment WithSectionStart(Fragment fragment, FormatTables& tables, KeptId sectionStart);
 
-/// The fragment, or the number of a character's format, without the beginning that is before it.
-Fragment WithoutBeginning(Fragment fragment, FormatTables& tables);
-CharId WithoutBeginning(CharId format, FormatTables& tables);
+/// Removes the section start from the fragment, or from a character's format.
+Fragment WithoutSectionStart(Fragment fragment, FormatTables& tables);
+CharId WithoutSectionStart(CharId format, FormatTables& tables);
 
-/// The kept number of what is typed at `position`: between two characters of a field it is in the
-/// field too.
+/// The kept number of text typed at `position`: it joins a field if it is between two characters of
+/// it.
 KeptId KeptOfTyping(const Document& document, Position position);
 
-/// The character's format with `map` applied to the paragraph format of the table cell that it
-/// ends, if it ends one.
+/// The format of a character with `map` applied to the paragraph format of the table cell that the
+/// character ends, if any.
 CharId WithCellFormat(CharId format, FormatTables& tables, const Document::ParaMap& map);
 
-/// Takes the paragraph out of its list.
+/// Removes the paragraph from its list.
 void LeaveList(ParaFormat& format, FormatTables& tables);
 
 }  // namespace lumenote

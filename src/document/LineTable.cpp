@@ -81,7 +81,7 @@ bool LineStarts::StartsParagraph(Position start) const {
   return document_.ParagraphStart(document_.ParagraphOf(start)) == start;
 }
 
-bool LineStarts::BehindBlank(Position start) const {
+bool LineStarts::FollowsSpace(Position start) const {
   const char16_t before = document_.At(start - 1);
   return before == u' ' || before == u'\t' || before == kLineBreak;
 }
@@ -93,7 +93,7 @@ void LineStarts::Edited(Position at) {
   std::size_t line = LastUpTo(at);
   const bool reformatted = document_.ParaFormatAt(starts_[line].at) != starts_[line].format;
   for (int cut = 0; line > 0 && !StartsParagraph(starts_[line].at); --line) {
-    if (reformatted || (!BehindBlank(starts_[line].at) && ++cut <= kMaxCutLines)) continue;
+    if (reformatted || (!FollowsSpace(starts_[line].at) && ++cut <= kMaxCutLines)) continue;
     --line;
     break;
   }

@@ -59,7 +59,7 @@ class LineStarts {
 
   bool Extend();
   std::size_t LastUpTo(Position position) const;
-  bool BehindBlank(Position start) const;
+  bool FollowsSpace(Position start) const;
   bool StartsParagraph(Position start) const;
 
   const Document& document_;

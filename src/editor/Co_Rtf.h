@@ -20,12 +20,12 @@ namespace lumenote {
 
 struct Session;
 
-class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
+class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
  public:
   /// Works on the session that stands there, and leaves a copy of it for the next editor when it
   /// has unloaded. All outlive the window.
   Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp,
-         std::vector<WorkSent>& workLeft);
+         std::vector<SentWorkFile>& outstandingWork);
   ~Co_Rtf() override;
 
   Frame Fr_Notes{*this, "Fr_Notes", {80, 84, 5376, 3560}};
@@ -50,7 +50,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
   void RetablirDessus() override;
   MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
   std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* dialog) override;
-  Rect WindowPlace() const override { return Place(); }
+  Rect WindowBounds() const override { return Bounds(); }
   float DocumentWidth() const override { return Bx_RTF.Width(); }
   void FocusDocument() override { Bx_RTF.SetFocus(); }
   void EnableSuivant(bool on) override { Bar.mnuEdtSuivantppp.Enabled(on); }
@@ -84,7 +84,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
   void WireZones();
   void DisableEntriesWithoutCommand();
 
-  // RoundTripDesk
+  // RoundTripClient
   void Watch(bool on) override;
   bool WriteNote() override;
   void Reload() override { LoadFilAndIni(*this); }
@@ -93,7 +93,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
   std::optional<std::u16string> CopyFile(std::u16string_view path) override {
     return CopierFichier(Machine(), path);
   }
-  void TellOf(Cause cause, const std::vector<std::u16string>& copies) override {
+  void Announce(Cause cause, const std::vector<std::u16string>& copies) override {
     AnnoncerSecours(*this, cause, copies);
   }
 
@@ -121,7 +121,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripDesk {
   bool firstActivation_ = true;
   Dialogs dialogs_{*this, *this};
   ProgramTable programs_;
-  RoundTrip exchange_;
+  RoundTrip roundTrip_;
   Recovery recovery_{*this, TimerSecours};
 };
 

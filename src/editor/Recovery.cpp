@@ -35,21 +35,21 @@ void Recovery::Edited() {
 
 void Recovery::Drop() {
   due_ = false;
-  writing_.reset();
+  writer_.reset();
   copy_.reset();
   Schedule();
 }
 
 void Recovery::Schedule() {
-  clock_.Interval(writing_ ? kPause : kDelay);
-  clock_.Enabled(writing_ || due_);
+  clock_.Interval(writer_ ? kPause : kDelay);
+  clock_.Enabled(writer_ || due_);
 }
 
 void Recovery::Tick() {
   const bool written =
-      IgnoringErrors([this] { TranslateBadAlloc([this] { writing_ ? WriteSlice() : Begin(); }); });
+      IgnoringErrors([this] { TranslateBadAlloc([this] { writer_ ? WriteSlice() : Begin(); }); });
   if (!written) {
-    writing_.reset();
+    writer_.reset();
     due_ = true;
   }
   Schedule();
@@ -59,7 +59,7 @@ void Recovery::Begin() {
   const Session& session = editor_.Values();
   if (!copy_) copy_ = editor_.Services().State().MakeCopy();
   copy_->Begin(session.fileMode ? session.documentPath : FileName(session.documentPath));
-  writing_ = editor_.Document().WriteSnapshot(
+  writer_ = editor_.Document().WriteSnapshot(
       session.format == u"txt" ? FileType::Text : FileType::Rtf,
       [copy = copy_.get()](std::string_view bytes) { copy->Append(bytes); });
   due_ = false;
@@ -69,13 +69,13 @@ void Recovery::WriteSlice() {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point end = Clock::now() + kSlice;
   while (Clock::now() < end) {
-    if (!writing_->Step()) return Commit();
+    if (!writer_->Step()) return Commit();
   }
 }
 
 void Recovery::Commit() {
   copy_->Commit();
-  writing_.reset();
+  writer_.reset();
 }
 
 void Recovery::WriteNow() {
@@ -84,7 +84,7 @@ void Recovery::WriteNow() {
   IgnoringErrors([this] {
     TranslateBadAlloc([this] {
       Begin();
-      while (writing_->Step()) continue;
+      while (writer_->Step()) continue;
       Commit();
     });
   });

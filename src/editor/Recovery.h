@@ -40,8 +40,8 @@ class Recovery {
   EditorWindow& editor_;
   Timer& clock_;
   std::unique_ptr<NoteCopy> copy_;
-  std::unique_ptr<SnapshotWriter> writing_;  // null between copies
-  bool due_ = false;                         // edited since the last copy was started
+  std::unique_ptr<SnapshotWriter> writer_;  // null between copies
+  bool due_ = false;                        // edited since the last copy was started
 };
 
 }  // namespace lumenote

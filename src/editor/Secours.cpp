@@ -24,7 +24,7 @@ namespace lumenote {
 
 namespace {
 
-constexpr std::int64_t kMostCopies = 100'000;  // of one name
+constexpr std::int64_t kMaxCopies = 100'000;  // of one name
 
 std::u16string_view FirstLine(Cause cause) {
   switch (cause) {
@@ -63,7 +63,7 @@ std::u16string Numbered(std::int64_t copy, std::u16string_view name) {
 /// when another program puts it there at the same moment.
 template <class Write>
 std::optional<std::u16string> FirstFree(std::u16string_view name, Write write) {
-  for (std::int64_t copy = 1; copy <= kMostCopies; ++copy) {
+  for (std::int64_t copy = 1; copy <= kMaxCopies; ++copy) {
     try {
       return write(Numbered(copy, name));
     } catch (const RuntimeError& error) {
@@ -80,27 +80,27 @@ MessageBox BoxFor(Cause cause, const std::vector<std::u16string>& paths) {
 }
 
 /// Whether the note was saved before its program died.
-bool IsStored(const Files& files, const LeftCopy& copy) {
+bool IsStored(const Files& files, const OrphanedCopy& copy) {
   std::string bytes;
   return IsDrivePath(copy.origin) && IgnoringErrors([&] { bytes = files.ReadAll(copy.origin); }) &&
          bytes == copy.bytes;
 }
 
 /// Leaves the record for the next start, less the results that have been kept by now.
-void LeaveRecord(Platform& machine, WorkSent& sent) {
+void LeaveRecord(Platform& machine, SentWorkFile& sent) {
   Record(machine.State(), sent);
   if (sent.record) sent.record->Leave();
 }
 
 /// Whether the program may save yet.
-bool GoesOn(Platform& machine, const WorkSent& sent) {
+bool GoesOn(Platform& machine, const SentWorkFile& sent) {
   bool running = true;
   IgnoringErrors([&] { running = machine.Programs().IsRunning(sent.process); });
   return running;
 }
 
 /// Adds the paths of rescue copies of what a program has saved; false when one could not be made.
-bool KeepResults(Platform& machine, WorkSent& sent, std::vector<std::u16string>& paths) {
+bool KeepResults(Platform& machine, SentWorkFile& sent, std::vector<std::u16string>& paths) {
   return ReprendreTout(machine.FileSystem(), sent, [&](const std::u16string& result) {
     auto copy = CopierFichier(machine, result);
     if (copy) paths.push_back(*copy);
@@ -110,10 +110,10 @@ bool KeepResults(Platform& machine, WorkSent& sent, std::vector<std::u16string>&
 
 /// The same for an editor that died. False when the record has to wait, for the program's end or
 /// for a place.
-bool KeepLate(Platform& machine, const LeftCopy& record, std::vector<std::u16string>& paths) {
+bool KeepLate(Platform& machine, const OrphanedCopy& record, std::vector<std::u16string>& paths) {
   auto sent = SentOf(record);
   if (!sent) return true;
-  return !machine.Programs().Lingering(sent->program) && KeepResults(machine, *sent, paths);
+  return !machine.Programs().StillRunning(sent->program) && KeepResults(machine, *sent, paths);
 }
 
 }  // namespace
@@ -125,7 +125,7 @@ std::optional<std::u16string> EcrireSecours(Platform& machine, std::u16string_vi
     Files& files = machine.FileSystem();
     std::u16string wanted = machine.SpecialFolders().Documents() + u"\\" + free;
     if (files.Exists(wanted)) throw RuntimeError(ErrorNumber::PermissionDenied);
-    files.WriteNew(wanted, bytes, Readers::UserOnly);
+    files.WriteNew(wanted, bytes, Permissions::UserOnly);
     return wanted;
   });
   if (path) return path;
@@ -151,10 +151,10 @@ bool GarderNote(EditorWindow& editor, Cause cause) {
   return path.has_value();
 }
 
-bool GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
+bool GarderRetours(Platform& machine, const std::vector<SentWorkFile>& outstanding) {
   std::vector<std::u16string> paths;
   bool all = true;
-  for (WorkSent sent : left) {
+  for (SentWorkFile sent : outstanding) {
     const bool kept = KeepResults(machine, sent, paths);
     if (!kept || GoesOn(machine, sent)) LeaveRecord(machine, sent);
     all = all && kept;
@@ -166,7 +166,7 @@ bool GarderRetours(Platform& machine, const std::vector<WorkSent>& left) {
 void RetrouverNotes(EditorWindow& editor) {
   Platform& machine = editor.Services();
   std::vector<std::u16string> paths;
-  machine.State().HandOverLeft([&](const LeftCopy& left) {
+  machine.State().ClaimOrphans([&](const OrphanedCopy& left) {
     if (IsRecord(left)) return KeepLate(machine, left, paths);
     if (IsStored(machine.FileSystem(), left)) return true;
     const auto path = EcrireSecours(machine, left.origin, left.bytes);

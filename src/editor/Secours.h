@@ -29,7 +29,7 @@ bool GarderNote(EditorWindow& editor, Cause cause);
 /// Makes rescue copies of what programs have saved for editors that have closed, when their control
 /// goes, and tells of them in one box. What a program saves later, or what finds no place now, is
 /// left to the next start; false when there is such a result already.
-bool GarderRetours(Platform& machine, const std::vector<WorkSent>& left);
+bool GarderRetours(Platform& machine, const std::vector<SentWorkFile>& outstanding);
 
 /// Makes rescue copies of the notes that dead programs left, and of what other programs have saved
 /// for them since, and tells of them in one box. A note that its file holds already is none; what

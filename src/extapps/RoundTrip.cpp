@@ -90,7 +90,7 @@ void RoundTrip::EditerAvec(std::int32_t type) {
                      .icon = MessageBox::Icon::Information});
     return;
   }
-  desk_.Watch(true);
+  client_.Watch(true);
   running_ = type;
   state_ = 0;
   waiting_ = false;
@@ -130,7 +130,7 @@ void RoundTrip::Step() {
     case kFinish:
       return Finish();
     case kStop:
-      return desk_.Watch(false);
+      return client_.Watch(false);
     default:
       return;
   }
@@ -196,7 +196,7 @@ void RoundTrip::WriteNote() {
   const FileType type = session.format == u"txt" ? FileType::Text : FileType::Rtf;
   changesWritten_ = session.changes;
   workWritten_ = IgnoringErrors([&] { editor_.Document().SaveFile(workFile_, type); });
-  noteOnDisk_ = desk_.WriteNote();
+  noteOnDisk_ = client_.WriteNote();
 }
 
 void RoundTrip::TakeTime() {
@@ -214,12 +214,12 @@ void RoundTrip::StartProgram() {
   process_ = 0;
   if (!workWritten_ || !Disk().Exists(workFile_)) return GiveUp();
   editor_.SuspendreDessus();
-  const WorkTrace out = TraceDe(Disk(), workFile_);
-  sent_ = WorkSent{.program = ProgramPath(),
-                   .path = workFile_,
-                   .time = out.time,
-                   .folder = ProgramCopies(),
-                   .old = old_};
+  const FileTrace out = TraceDe(Disk(), workFile_);
+  sent_ = SentWorkFile{.program = ProgramPath(),
+                       .path = workFile_,
+                       .time = out.time,
+                       .folder = ProgramCopies(),
+                       .old = old_};
   sent_->old.push_back(out);
   Record(editor_.Services().State(), *sent_);
   process_ = processes_.Start(CommandLine());
@@ -239,7 +239,7 @@ void RoundTrip::ReportWorkFile() {
 
 void RoundTrip::BringBack() {
   if (!sent_) return;
-  WorkSent sent = *std::exchange(sent_, std::nullopt);
+  SentWorkFile sent = *std::exchange(sent_, std::nullopt);
   const std::u16string result = Reprendre(Disk(), sent);
   IgnoringErrors([&] {
     if (Disk().ModificationTime(sent.path) == sent.time) Disk().Delete(sent.path, false);
@@ -247,20 +247,20 @@ void RoundTrip::BringBack() {
   if (result.empty()) return;
   workFile_ = result;
   if (BringOnto(result)) return RememberOthers(std::move(sent));
-  const auto copy = desk_.CopyFile(result);
+  const auto copy = client_.CopyFile(result);
   if (!copy) {
-    left_.push_back(std::move(sent));
+    outstanding_.push_back(std::move(sent));
     return ReportWorkFile();
   }
   sent.old.push_back(TraceDe(Disk(), result));
   RememberOthers(std::move(sent));
-  desk_.TellOf(Cause::FichierTemporaire, {*copy});
+  client_.Announce(Cause::FichierTemporaire, {*copy});
 }
 
 /// A program may have saved the note in several forms, of which one came back.
-void RoundTrip::RememberOthers(WorkSent sent) {
+void RoundTrip::RememberOthers(SentWorkFile sent) {
   sent.folder.clear();
-  if (!Reprendre(Disk(), sent).empty()) left_.push_back(std::move(sent));
+  if (!Reprendre(Disk(), sent).empty()) outstanding_.push_back(std::move(sent));
 }
 
 std::u16string RoundTrip::TargetOf(std::u16string_view result) {
@@ -287,10 +287,10 @@ bool RoundTrip::BringOnto(const std::u16string& result) {
 }
 
 void RoundTrip::Finish() {
-  desk_.Watch(false);
+  client_.Watch(false);
   if (noteOnDisk_) {
     const bool kept = KeepTyped();
-    if (!editor_.Values().closed) kept ? desk_.Reload() : desk_.GoOnUnsaved();
+    if (!editor_.Values().closed) kept ? client_.Reload() : client_.GoOnUnsaved();
   }
   editor_.RetablirDessus();
 }
@@ -301,7 +301,7 @@ bool RoundTrip::KeepTyped() {
   const bool typed = session.changes != changesWritten_ && (session.dirty || broughtBack_);
   if (!typed) return true;
   const std::uint64_t changes = session.changes;
-  const bool kept = desk_.KeepNote();
+  const bool kept = client_.KeepNote();
   if (kept) changesWritten_ = changes;
   return kept;
 }
@@ -309,40 +309,40 @@ bool RoundTrip::KeepTyped() {
 // --- what comes too late
 
 RoundTrip::~RoundTrip() {
-  IgnoringErrors([this] { WithMemoryErrors([this] { Leave(); }); });
+  IgnoringErrors([this] { TranslateBadAlloc([this] { Leave(); }); });
 }
 
 void RoundTrip::Leave() {
   if (!sent_) return;
-  left_.push_back(*sent_);
+  outstanding_.push_back(*sent_);
   sent_.reset();
 }
 
 // The host may close the editor in the box, and the next one takes the list as it is then.
 template <class Ready>
-bool RoundTrip::KeepLeft(Ready ready) {
+bool RoundTrip::RescueResults(Ready ready) {
   std::vector<std::u16string> copies;
   const auto keep = [&](const std::u16string& result) {
-    auto copy = desk_.CopyFile(result);
+    auto copy = client_.CopyFile(result);
     if (copy) copies.push_back(*copy);
     return copy.has_value();
   };
-  std::vector<WorkSent> still;
-  for (WorkSent& sent : left_)
+  std::vector<SentWorkFile> still;
+  for (SentWorkFile& sent : outstanding_)
     if (!ready(sent) || !ReprendreTout(Disk(), sent, keep)) still.push_back(sent);
-  left_ = std::move(still);
-  const bool all = left_.empty();
-  desk_.TellOf(Cause::FichierModifie, copies);
+  outstanding_ = std::move(still);
+  const bool all = outstanding_.empty();
+  client_.Announce(Cause::FichierModifie, copies);
   return all;
 }
 
 bool RoundTrip::KeepEarlierResults() {
   Leave();
-  return KeepLeft([](const WorkSent&) { return true; });
+  return RescueResults([](const SentWorkFile&) { return true; });
 }
 
-void RoundTrip::CollectLeft() {
-  KeepLeft([this](const WorkSent& sent) { return !processes_.IsRunning(sent.process); });
+void RoundTrip::RescueLateResults() {
+  RescueResults([this](const SentWorkFile& sent) { return !processes_.IsRunning(sent.process); });
 }
 
 }  // namespace lumenote

@@ -16,9 +16,9 @@ namespace lumenote {
 class Files;
 
 /// What an exchange needs of the editor beyond `EditorWindow`.
-class RoundTripDesk {
+class RoundTripClient {
  public:
-  virtual ~RoundTripDesk() = default;
+  virtual ~RoundTripClient() = default;
   /// Switches the timer of the watch, which calls `TimerWpd_Timer` every 20 ms.
   virtual void Watch(bool on) = 0;
   /// Writes the note to the document path, as a save does; whether it is there now.
@@ -33,7 +33,7 @@ class RoundTripDesk {
   /// A rescue copy of a file: its path; empty when none could be made.
   virtual std::optional<std::u16string> CopyFile(std::u16string_view path) = 0;
   /// Tells the user of such copies, in one box; of none, nothing.
-  virtual void TellOf(Cause cause, const std::vector<std::u16string>& copies) = 0;
+  virtual void Announce(Cause cause, const std::vector<std::u16string>& copies) = 0;
 };
 
 /// One exchange at a time, carried forward by the ticks of a timer; nothing here waits. At every
@@ -46,11 +46,15 @@ class RoundTrip {
  public:
   static constexpr int kInterval = 20;  // milliseconds between two ticks
 
-  /// All outlive the exchange. `programs` may be filled again between two exchanges; `left` are the
-  /// work files that earlier editors of the control have left to programs.
-  RoundTrip(EditorWindow& editor, RoundTripDesk& desk, const ProgramTable& programs,
-            Processes& processes, std::vector<WorkSent>& left)
-      : editor_(editor), desk_(desk), programs_(programs), processes_(processes), left_(left) {}
+  /// All outlive the exchange. `programs` may be filled again between two exchanges; `outstanding`
+  /// are the work files that earlier editors of the control have left to programs.
+  RoundTrip(EditorWindow& editor, RoundTripClient& client, const ProgramTable& programs,
+            Processes& processes, std::vector<SentWorkFile>& outstanding)
+      : editor_(editor),
+        client_(client),
+        programs_(programs),
+        processes_(processes),
+        outstanding_(outstanding) {}
   /// An editor that never closed leaves it all the same.
   ~RoundTrip();
   RoundTrip(const RoundTrip&) = delete;
@@ -73,7 +77,7 @@ class RoundTrip {
   /// The editor closes: what a program still works on is left to it.
   void Leave();
   /// What programs that have ended saved for editors that had closed becomes a rescue copy.
-  void CollectLeft();
+  void RescueLateResults();
 
   std::int32_t TypeEditeur() const { return type_; }  // 1 Qjot, 2 Atlantis, 3 Word; 0 none yet
   std::int16_t EtatWpd() const { return state_; }
@@ -102,7 +106,7 @@ class RoundTrip {
   bool KeepEarlierResults();
   /// The same for what earlier exchanges have left, where `ready` says so.
   template <class Ready>
-  bool KeepLeft(Ready ready);
+  bool RescueResults(Ready ready);
   void WriteNote();
   void TakeTime();
   void StartProgram();
@@ -113,7 +117,7 @@ class RoundTrip {
   /// The file that a result replaces.
   std::u16string TargetOf(std::u16string_view result);
   bool BringOnto(const std::u16string& result);
-  void RememberOthers(WorkSent sent);
+  void RememberOthers(SentWorkFile sent);
   void Finish();
   bool KeepTyped();
 
@@ -124,10 +128,10 @@ class RoundTrip {
   std::u16string CommandLine() const;
 
   EditorWindow& editor_;
-  RoundTripDesk& desk_;
+  RoundTripClient& client_;
   const ProgramTable& programs_;
   Processes& processes_;
-  std::vector<WorkSent>& left_;
+  std::vector<SentWorkFile>& outstanding_;
 
   std::int32_t type_ = 0;     // as last chosen
   std::int32_t running_ = 0;  // of this exchange
@@ -138,8 +142,8 @@ class RoundTrip {
   std::u16string workFile_;
   std::u16string workTime_;
   bool workWritten_ = false;
-  WorkTraces old_;                // what the purge could not take away
-  std::optional<WorkSent> sent_;  // from the start of the program to the way back
+  FileTraces old_;                    // what the purge could not take away
+  std::optional<SentWorkFile> sent_;  // from the start of the program to the way back
   ProcessId process_ = 0;
   bool noteOnDisk_ = false;           // the document path holds the note of this exchange
   bool broughtBack_ = false;          // and it is what the program saved

@@ -13,20 +13,20 @@ class Files;
 class NoteCopy;
 
 /// A file as it was when somebody looked: its modification time.
-struct WorkTrace {
+struct FileTrace {
   std::u16string path;
   std::int64_t time = 0;
-  bool operator==(const WorkTrace&) const = default;
+  bool operator==(const FileTrace&) const = default;
 };
-using WorkTraces = std::vector<WorkTrace>;
+using FileTraces = std::vector<FileTrace>;
 
 /// A work file that a program was started on.
-struct WorkSent {
+struct SentWorkFile {
   std::u16string program = {};
   std::u16string path;
   std::int64_t time = 0;  // of its modification, as it went out
   std::u16string folder;  // where the program leaves copies of its own; empty for none
-  WorkTraces old = {};    // what lay about before and is no result
+  FileTraces old = {};    // what lay about before and is no result
   std::int64_t process = 0;
   std::shared_ptr<NoteCopy> record = {};  // of all this, for the next start; null for none
 };
@@ -39,21 +39,21 @@ void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view
 /// of. No other form is taken: the purge leaves those alone, so that one could be an earlier
 /// exchange's. The first one that could not be copied; empty when there is none.
 std::u16string RapatriFch(Files& files, std::u16string_view folder, std::u16string_view base,
-                          const WorkTraces& old = {});
+                          const FileTraces& old = {});
 /// The work copy in one of the forms that programs save, in this order: rtf, txt, sav; the latest
 /// one of a form. Empty when there is none but those that `old` tells of.
 std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
-                             const WorkTraces& old = {});
+                             const FileTraces& old = {});
 /// A file as it is now; the time is 0 where it cannot be told.
-WorkTrace TraceDe(const Files& files, std::u16string_view path);
+FileTrace TraceDe(const Files& files, std::u16string_view path);
 /// Everything that the two above would find now.
-WorkTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder);
+FileTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder);
 /// What the program has saved of a work file that was sent out, those copies included that it keeps
 /// in a folder of its own. Empty when there is nothing.
-std::u16string Reprendre(Files& files, const WorkSent& sent);
+std::u16string Reprendre(Files& files, const SentWorkFile& sent);
 /// Hands every form of it to `keep`, until one is refused; false then. What was kept is no result
 /// of `sent` any more.
-bool ReprendreTout(Files& files, WorkSent& sent,
+bool ReprendreTout(Files& files, SentWorkFile& sent,
                    const std::function<bool(const std::u16string& result)>& keep);
 
 /// Whether the file at `path` can be what a program meant to save: RTF is closed as often as it is

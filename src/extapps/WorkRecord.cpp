@@ -18,9 +18,9 @@ namespace {
 constexpr std::u16string_view kOrigin = u"*";  // in no name of a note
 constexpr std::size_t kFixed = 4;              // texts before the traces
 
-std::string Written(const WorkSent& sent) {
+std::string Written(const SentWorkFile& sent) {
   Value::Array texts{sent.program, sent.path, NumberText(sent.time), sent.folder};
-  for (const WorkTrace& trace : sent.old) {
+  for (const FileTrace& trace : sent.old) {
     texts.emplace_back(trace.path);
     texts.emplace_back(NumberText(trace.time));
   }
@@ -51,7 +51,7 @@ std::int64_t TimeOf(std::u16string_view text) {
 
 }  // namespace
 
-void Record(StateFolder& state, WorkSent& sent) {
+void Record(StateFolder& state, SentWorkFile& sent) {
   IgnoringErrors([&] {
     if (!sent.record) sent.record = state.MakeCopy();
     sent.record->Begin(kOrigin);
@@ -60,15 +60,15 @@ void Record(StateFolder& state, WorkSent& sent) {
   });
 }
 
-bool IsRecord(const LeftCopy& copy) { return copy.origin == kOrigin; }
+bool IsRecord(const OrphanedCopy& copy) { return copy.origin == kOrigin; }
 
-std::optional<WorkSent> SentOf(const LeftCopy& copy) {
+std::optional<SentWorkFile> SentOf(const OrphanedCopy& copy) {
   const auto texts = IsRecord(copy) ? TextsIn(copy.bytes) : std::nullopt;
   if (!texts || texts->size() < kFixed || texts->size() % 2 != 0) return std::nullopt;
-  WorkSent sent{.program = texts->at(0),
-                .path = texts->at(1),
-                .time = TimeOf(texts->at(2)),
-                .folder = texts->at(3)};
+  SentWorkFile sent{.program = texts->at(0),
+                    .path = texts->at(1),
+                    .time = TimeOf(texts->at(2)),
+                    .folder = texts->at(3)};
   for (std::size_t i = kFixed; i < texts->size(); i += 2)
     sent.old.push_back({texts->at(i), TimeOf(texts->at(i + 1))});
   return sent;

@@ -8,15 +8,15 @@
 namespace lumenote {
 
 class StateFolder;
-struct LeftCopy;
+struct OrphanedCopy;
 
 /// Writes a record of the work file to the state folder; it goes with `sent` unless this program
 /// dies first, or leaves it. Nothing happens when it cannot be written.
-void Record(StateFolder& state, WorkSent& sent);
+void Record(StateFolder& state, SentWorkFile& sent);
 /// The work file that a copy found in the state folder is a record of; none for the copy of a note,
 /// nor for a record that is damaged.
-std::optional<WorkSent> SentOf(const LeftCopy& copy);
+std::optional<SentWorkFile> SentOf(const OrphanedCopy& copy);
 /// Whether the copy is a record, damaged or not.
-bool IsRecord(const LeftCopy& copy);
+bool IsRecord(const OrphanedCopy& copy);
 
 }  // namespace lumenote

@@ -24,7 +24,7 @@ class Form : public Element, public Container {
  public:
   /// Places in twips of the screen, outer size with nominal decorations of 8 by 27 pixels (15 twips
   /// each).
-  Form(WindowList& windows, std::string name, Rect place, std::u16string caption);
+  Form(WindowList& windows, std::string name, Rect bounds, std::u16string caption);
   ~Form() override;
 
   Form& ContainingForm() override { return *this; }
@@ -37,15 +37,15 @@ class Form : public Element, public Container {
   std::int32_t BackColor() const { return backColor_; }
   void BackColor(std::int32_t colour);
 
-  const Rect& Place() const { return place_; }
-  float Left() const { return place_.left; }
+  const Rect& Bounds() const { return bounds_; }
+  float Left() const { return bounds_.left; }
   void Left(float twips);
-  float Top() const { return place_.top; }
+  float Top() const { return bounds_.top; }
   void Top(float twips);
   /// Changing width or height raises Resize. Negative sizes raise InvalidPropertyValue (380).
-  float Width() const { return place_.width; }
+  float Width() const { return bounds_.width; }
   void Width(float twips);
-  float Height() const { return place_.height; }
+  float Height() const { return bounds_.height; }
   void Height(float twips);
 
   bool Visible() const { return visible_; }
@@ -163,10 +163,10 @@ class Form : public Element, public Container {
 
   void Enter();
   void Leave();
-  void Place(Rect place);
+  void Bounds(Rect bounds);
   void TakeDown();
   /// Shows an error that has reached an event's edge; without one, that memory was wanting.
-  void TellFailure(const RuntimeError* error);
+  void ShowFailure(const RuntimeError* error);
   void RearmTimers();
   /// Gives the keyboard to the first control that takes it, unless one has it already.
   void FocusFirst();
@@ -177,7 +177,7 @@ class Form : public Element, public Container {
   std::vector<Menu*> menus_;
   std::vector<Timer*> timers_;
   std::u16string caption_;
-  Rect place_;
+  Rect bounds_;
   std::int32_t backColor_ = -1;
   Form* ownerWindow_ = nullptr;
   std::uintptr_t hostWindow_ = 0;

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/TextEncoding.h"
-#include "rtf/write/RtfWriting.h"
+#include "rtf/write/RtfWriter.h"
 
 namespace lumenote {
 namespace {
@@ -16,14 +16,14 @@ class RtfSnapshotWriter final : public SnapshotWriter {
   RtfSnapshotWriter(const Document& document, ByteSink sink)
       : document_(document),
         sink_(std::move(sink)),
-        writing_(document_, {0, document_.Length()}, document_.Mark(), sink_) {}
+        writer_(document_, {0, document_.Length()}, document_.Mark(), sink_) {}
 
-  bool Step() override { return writing_.Step(kStepUnits); }
+  bool Step() override { return writer_.Step(kStepUnits); }
 
  private:
   Document document_;
   ByteSink sink_;
-  RtfWriting writing_;
+  RtfWriter writer_;
 };
 
 /// Makes two passes: the first chooses an encoding that will be detected again, the second writes.

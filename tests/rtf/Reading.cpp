@@ -5,7 +5,7 @@
 #include "base/Strings.h"
 #include "rtf/words/CharacterWords.h"
 #include "rtf/words/ParagraphWords.h"
-#include "rtf/write/RtfWriting.h"
+#include "rtf/write/RtfWriter.h"
 #include "rtf/write/Writer.h"
 
 namespace lumenote {
@@ -94,7 +94,7 @@ std::string Shown(const ParaFormat& format, const FormatTables& tables) {
 std::string WrittenBitByBit(const Document& document) {
   std::string written;
   const ByteSink sink = [&](std::string_view piece) { written += piece; };
-  RtfWriting writing(document, {0, document.Length()}, document.Mark(), sink);
+  RtfWriter writing(document, {0, document.Length()}, document.Mark(), sink);
   while (writing.Step(3)) continue;
   return written;
 }

@@ -3,7 +3,7 @@
 #include "backends/headless/FixedLayouter.h"
 #include "backends/headless/MemoryClipboard.h"
 #include "backends/headless/NoFiles.h"
-#include "base/TextForm.h"
+#include "base/TextEncoding.h"
 #include "ocr/Cleanup.h"
 #include "rtf/read/Reader.h"
 #include "rtf/write/Writer.h"
@@ -17,7 +17,7 @@ struct Note::Parts {
   FixedBreaker breaker{0};
   DocumentSurface surface{clipboard, files, breaker};
   Format source = Format::Rtf;
-  TextForm form = TextForm::Windows1252;
+  TextEncoding form = TextEncoding::Windows1252;
 };
 
 bool Note::IsRtf(std::string_view bytes) { return LooksLikeRtf(bytes); }
@@ -28,7 +28,7 @@ Note::Note(std::string_view bytes, Format format) : parts_(std::make_unique<Part
     if (!IsRtf(bytes)) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     parts_->surface.LoadSource(bytes);
   } else {
-    parts_->form = FormOfText(bytes);
+    parts_->form = DetectEncoding(bytes);
     parts_->surface.Text(DecodeText(bytes, parts_->form));
   }
 }

@@ -45,7 +45,7 @@ class QtBackend final : public Backend, private PeerServices {
 
   QtLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
   /// The window that a box asked for by `over` belongs to; null for none.
-  QWidget* Asking(const Form* over) const;
+  QWidget* DialogParent(const Form* over) const;
   void NativelyActive(Form& form) override;
   void Activating(Form& form) override;
   void EndAwaiting();
@@ -57,9 +57,9 @@ class QtBackend final : public Backend, private PeerServices {
   QtTimers timers_;
   // A box that is made where an earlier one was takes its place here.
   std::unordered_map<const Control*, std::unique_ptr<SurfaceLayout>> layouts_;
-  std::vector<Form*> forms_;    // with a window, in the order of realising
-  Form* awaited_ = nullptr;     // told to become active, not so yet
-  Form* passedOver_ = nullptr;  // the latest that has become active meanwhile
+  std::vector<Form*> forms_;            // with a window, in the order of realising
+  Form* awaited_ = nullptr;             // told to become active, not so yet
+  Form* activatedMeanwhile_ = nullptr;  // the latest that has become active meanwhile
   QTimer awaiting_;
   bool sessionEnds_ = false;  // the desktop has asked for what is unsaved
 };

@@ -13,7 +13,7 @@ using FontId = std::uint32_t;
 using CharId = std::uint32_t;
 using ParaId = std::uint32_t;
 using TabsId = std::uint32_t;
-// Of what is kept beside formats; see document/kept/.
+// Numbers of kept content; see document/kept/.
 using KeptId = std::uint32_t;
 using ItemId = std::uint32_t;
 using FieldId = std::uint32_t;
@@ -21,7 +21,7 @@ using WordsId = std::uint32_t;
 using NameId = std::uint32_t;
 using HeadId = std::uint32_t;
 
-/// A font as notes name it; the machine need not have it.
+/// A font as notes name it; it need not be installed.
 struct FontFace {
   std::u16string name;
   std::uint8_t charset = 0;  // RTF \fcharset
@@ -73,14 +73,14 @@ enum CharEffect : std::uint16_t {
 using Colour = std::uint32_t;
 inline constexpr Colour kAutoColour = 0xFF000000;
 
-/// Everything a run of characters can carry. Plain old data without padding, so that it is hashed
-/// and compared as bytes.
+/// All attributes of a run. Plain data without padding, so that it can be hashed and compared
+/// bytewise.
 struct CharFormat {
   FontId font = 0;
   Colour colour = kAutoColour;
   Colour highlight = kAutoColour;
-  KeptId kept = 0;             // what the source says there beyond these formats
-  WordsId words = 0;           // kept words that the editor cannot show
+  KeptId kept = 0;             // what the RTF source has there beyond these formats
+  WordsId words = 0;           // kept control words
   std::uint16_t effects = 0;   // CharEffect
   std::uint16_t size = 20;     // half-points
   std::int16_t offset = 0;     // twips above the line (RTF \up, \dn)
@@ -96,7 +96,7 @@ static_assert(std::has_unique_object_representations_v<CharFormat>);
 enum class Alignment : std::uint8_t { Left = 0, Right = 1, Centre = 2, Justify = 3 };
 enum class LineRule : std::uint8_t { Single, OneAndHalf, Double, AtLeast, Exact, Multiple };
 
-/// Everything a paragraph can carry; lengths are twips. Plain old data like `CharFormat`.
+/// All attributes of a paragraph; lengths are twips. Plain data like `CharFormat`.
 struct ParaFormat {
   std::int32_t firstIndent = 0;    // of the first line, from the left edge
   std::int32_t hangingIndent = 0;  // of the following lines, from the first one
@@ -109,10 +109,10 @@ struct ParaFormat {
   Alignment alignment = Alignment::Left;
   std::uint8_t bullet = 0;  // 1: a bullet stands before the paragraph
   std::uint8_t rightToLeft = 0;
-  WordsId words = 0;         // kept words that the editor cannot show
+  WordsId words = 0;         // kept control words
   std::uint16_t list = 0;    // RTF \ls, counted from 1; 0 none
   std::uint8_t level = 0;    // in that list
-  std::uint8_t nesting = 0;  // of the table that the paragraph is in, 0 none
+  std::uint8_t nesting = 0;  // of the enclosing table, 0 none
   bool operator==(const ParaFormat&) const = default;
 };
 static_assert(std::has_unique_object_representations_v<ParaFormat>);
@@ -124,7 +124,7 @@ struct TabStop {
   std::uint8_t leader = 0;  // 0 none, 1 dots, 2 hyphens, 3 underline, 4 thick line, 5 equal signs
   bool operator==(const TabStop&) const = default;
 };
-using TabStops = std::vector<TabStop>;  // by rising position
+using TabStops = std::vector<TabStop>;  // in ascending order
 
 std::uint64_t HashOf(const FontFace& face);
 std::uint64_t HashOf(const TabStops& stops);

@@ -1,4 +1,4 @@
-// A table that gives each distinct value a small, lasting number.
+// A table that maps each distinct value to a small permanent number.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace lumenote {
 
-/// Mixes `size` bytes into a hash.
+/// Hashes `size` bytes.
 inline std::uint64_t HashBytes(const void* data, std::size_t size) {
   constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15u;
   const char* bytes = static_cast<const char*>(data);
@@ -22,27 +22,27 @@ inline std::uint64_t HashBytes(const void* data, std::size_t size) {
     hash = (hash ^ word) * kFactor;
     hash ^= hash >> 29;
   }
-  hash = (hash ^ hash >> 32) * kFactor;  // so that the last bytes reach the low bits
+  hash = (hash ^ hash >> 32) * kFactor;  // carries the last bytes to the low bits
   return hash ^ hash >> 32;
 }
 
 inline std::uint64_t HashOf(const std::string& text) { return HashBytes(text.data(), text.size()); }
 
-/// Hash of plain data without padding. Other types bring an overload of their own.
+/// Hash of plain data without padding; other types provide their own overload.
 template <class T>
 requires std::has_unique_object_representations_v<T> std::uint64_t HashOf(const T& value) {
   return HashBytes(&value, sizeof value);
 }
 
-/// Open-addressing hash table over values that stay where they are; at most three quarters of the
-/// slots are taken. A full table (`kMax` values) answers number 0, the default, for what it does
-/// not know, so hostile input stays bounded.
+/// An open-addressing hash table; values never move, and at most three quarters of the slots are
+/// used. A full table (`kMax` values) maps new values to 0, the default, which bounds the memory of
+/// hostile input.
 template <class T>
 class InternTable {
  public:
   static constexpr std::uint32_t kMax = (1u << 20) - 1;
 
-  /// The number of `value`, a new one when it was not known.
+  /// The number of `value`; adds it if it is new.
   std::uint32_t Intern(const T& value) { return Add(value); }
   std::uint32_t Intern(T&& value) { return Add(std::move(value)); }
   const T& operator[](std::uint32_t number) const { return values_[number]; }
@@ -59,7 +59,7 @@ class InternTable {
     slot = Size();
     return slot - 1;
   }
-  /// The slot that holds the value's number plus one, or the free one (0) where it belongs.
+  /// The slot that holds the value's number plus one, or the free slot (0) for it.
   std::uint32_t& SlotOf(const T& value) {
     const std::size_t last = slots_.size() - 1;
     std::size_t i = HashOf(value) & last;
@@ -72,7 +72,7 @@ class InternTable {
   }
 
   std::deque<T> values_;
-  std::vector<std::uint32_t> slots_;  // a power of two of them
+  std::vector<std::uint32_t> slots_;  // their count is a power of two
 };
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// A table of chains: lists whose values are interned one by one.
+// A table of chains: linked lists whose nodes are interned.
 #pragma once
 #include <cstdint>
 #include <utility>
@@ -8,9 +8,9 @@
 
 namespace lumenote {
 
-/// Each value of a chain has the number of the `next` one, so the number of its first value stands
-/// for a chain; 0 is the empty one. Chains that end alike share their ends. When the table is full
-/// a new chain ends where it has no room.
+/// Each node holds the number of the `next` one, so a chain is identified by the number of its
+/// first node; 0 is the empty chain. Chains share equal tails. When the table is full, a new chain
+/// is cut off.
 template <class T>
 class ChainTable {
  public:
@@ -19,7 +19,7 @@ class ChainTable {
   const T& operator[](std::uint32_t number) const { return values_[number]; }
   std::uint32_t Size() const { return values_.Size(); }
 
-  /// The number of the chain of `values` with the chain `behind` at its end.
+  /// The number of the chain of `values` followed by the chain `behind`.
   std::uint32_t Chain(std::vector<T> values, std::uint32_t behind = 0) {
     for (; !values.empty(); values.pop_back()) {
       values.back().next = behind;
@@ -33,7 +33,7 @@ class ChainTable {
     return values;
   }
 
-  /// Visits the values from `first` on, as far as before `end`.
+  /// Visits the values from `first` up to, not including, `end`.
   template <class Visit>
   void ForEach(std::uint32_t first, std::uint32_t end, Visit visit) const {
     for (std::uint32_t i = first; i != end; i = values_[i].next) visit(values_[i]);

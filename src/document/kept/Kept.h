@@ -1,5 +1,5 @@
-// What a note's RTF source says beyond what the editor shows: beside characters, around them, and
-// around the whole note. The reader makes these items, the writer prints them.
+// Kept content: what a note's RTF source says that the editor does not show, at characters, around
+// them, and for the whole note. The reader creates these items, the writer prints them.
 #pragma once
 #include <cstdint>
 #include <string>
@@ -10,20 +10,20 @@
 
 namespace lumenote {
 
-/// A stretch of source of one kind, one item of a chain: pure ASCII with paired braces, no blank
-/// behind a word at its end.
+/// A piece of source of one kind, as a chain node: pure ASCII with balanced braces, without a space
+/// after a final control word.
 struct KeptItem {
   enum class Kind : std::uint8_t {
-    Group,  // any that is none of those below
+    Group,  // any other group
     PageBreak,
     ColumnBreak,
     SectionBreak,
-    Section,     // \sectd and the words behind it
-    Row,         // \trowd and the words behind it: the definition of a table row
-    Words,       // other words, or more of the section or row before them
+    Section,     // \sectd and the words after it
+    Row,         // \trowd and the words after it: the definition of a table row
+    Words,       // other words, or more words of the preceding section or row
     PageHeader,  // a header or footer of the section
     Bookmark,
-    Field,  // one without a result
+    Field,  // without a result
     Picture,
     Object,
     Drawing,
@@ -34,63 +34,63 @@ struct KeptItem {
   std::string source{};
   bool operator==(const KeptItem&) const = default;
 };
-using KeptItems = std::vector<KeptItem>;  // in order, not yet chained
+using KeptItems = std::vector<KeptItem>;  // in order, not chained yet
 
-/// Whether it ends a page, column or section.
+/// Whether the item ends a page, column or section.
 inline bool IsBreak(const KeptItem& item) {
   return item.kind >= KeptItem::Kind::PageBreak && item.kind <= KeptItem::Kind::SectionBreak;
 }
 
-/// What the source says at one character. It goes where the character goes.
+/// What the source says at one character; it moves with the character.
 struct Kept {
   enum class Kind : std::uint8_t {
-    Character,  // stands for itself
+    Character,  // an ordinary character
     Break,      // the paragraph break that ends a page, column or section
-    Embedded,   // U+FFFC, which stands for an item
-    Cell,       // the tab behind a table cell
-    Row,        // the break behind a table row, and so behind its last cell
+    Embedded,   // U+FFFC, the placeholder of an item
+    Cell,       // the tab after a table cell
+    Row,        // the break after a table row, which also ends its last cell
   };
-  ItemId before = 0;         // in front of the character
-  ItemId self = 0;           // of Break and Embedded: the item; of Row: what leads to its end
-  FieldId field = 0;         // the innermost field that the character is in, 0 none
-  ParaId paragraph = 0;      // of Cell: its format; the last one of a row has the paragraph's
-  std::uint32_t serial = 0;  // tells characters apart that the same comes before
+  ItemId before = 0;         // preceding the character
+  ItemId self = 0;           // of Break and Embedded: the item; of Row: what precedes its end
+  FieldId field = 0;         // innermost enclosing field, 0 none
+  ParaId paragraph = 0;      // of Cell: its format; a row's last cell has that of the paragraph
+  std::uint32_t serial = 0;  // distinguishes characters preceded by equal items
   Kind kind = Kind::Character;
-  std::uint8_t nested = 0;  // of Cell and Row: 1 in a table inside a table
+  std::uint8_t nested = 0;  // of Cell and Row: 1 in a nested table
   std::uint8_t reserved[2] = {};
   bool operator==(const Kept&) const = default;
 };
 static_assert(std::has_unique_object_representations_v<Kept>);
 
-/// A group around characters.
+/// A group around a range of characters.
 struct KeptField {
   enum class Kind : std::uint8_t {
     Result,      // of a field
-    ListNumber,  // the visible number of a list paragraph
+    ListNumber,  // the visible number or bullet of a list paragraph
   };
-  std::string opening{};     // the source up to the characters
-  FieldId outer = 0;         // the field around it, 0 none
-  std::uint32_t serial = 0;  // tells fields apart that follow each other and say the same
+  std::string opening{};     // the source before the characters
+  FieldId outer = 0;         // the enclosing field, 0 none
+  std::uint32_t serial = 0;  // distinguishes adjacent fields with equal source
   Kind kind = Kind::Result;
   bool operator==(const KeptField&) const = default;
 };
 
-/// What a source says ahead of its text and behind it. What is kept names fonts and colours by
-/// numbers, so their tables stay as they were, and what the note uses besides comes behind.
+/// The source's head and tail. Kept content refers to fonts and colours by number, so those tables
+/// are kept as they are, and entries for everything else are appended.
 struct KeptHead {
   struct Font {
     int number = 0;
     FontId font = 0;
-    int page = 0;  // of its bytes; 0: the document's
+    int page = 0;  // code page of its bytes; 0: the document's
     bool operator==(const Font&) const = default;
   };
-  ItemId items = 0;               // the tables of fonts and colours excepted
-  ItemId tail = 0;                // behind the text
-  bool tables = false;            // something kept names entries of the tables: they are kept too
-  std::string fontTable{};        // what stands in its group
-  std::vector<Font> fonts{};      // by rising number
-  std::vector<Colour> colours{};  // by their numbers
-  int page = 1252;                // of bytes under no font of another one
+  ItemId items = 0;               // without the font and colour tables
+  ItemId tail = 0;                // after the text
+  bool tables = false;            // some kept content refers to the tables, so they are kept
+  std::string fontTable{};        // the content of its group
+  std::vector<Font> fonts{};      // by ascending number
+  std::vector<Colour> colours{};  // by number
+  int page = 1252;                // code page of bytes in fonts without their own
   int defaultFont = 0;
   bool operator==(const KeptHead&) const = default;
 };

@@ -1,4 +1,4 @@
-// The control words of a run or paragraph format that the editor cannot show.
+// Control words of a run or paragraph format that the editor does not show.
 #pragma once
 #include <cstdint>
 #include <type_traits>
@@ -7,15 +7,15 @@
 
 namespace lumenote {
 
-/// One control word of a chain, by the number of its name.
+/// One control word, as a chain node.
 struct KeptWord {
   enum class Kind : std::uint8_t {
     Bare,        // \name
     Numbered,    // \name12
-    Direction,   // a mark behind which words tell of text of one direction: \rtlch, \ltrch
-    Script,      // the same of scripts: \loch, \dbch
+    Direction,   // a marker: the words after it apply to text of one direction: \rtlch, \ltrch
+    Script,      // the same for a script: \loch, \dbch
     HighScript,  // \hich
-    Numbering,   // no word but the group that numbers the paragraph
+    Numbering,   // not a word but the group that numbers the paragraph
   };
   NameId name : 24 = 0;
   Kind kind : 8 = Kind::Bare;

@@ -14,7 +14,7 @@
 namespace lumenote::verbs {
 namespace {
 
-void Lay(Sandbox& sandbox, std::u16string_view path, std::string_view bytes) {
+void WriteFile(Sandbox& sandbox, std::u16string_view path, std::string_view bytes) {
   sandbox.MakeParents(path);
   sandbox.FileSystem().Write(path, bytes);
 }
@@ -59,7 +59,7 @@ Answer File(ScriptContext& context, Arguments& arguments) {
   const std::u16string content = arguments.Text();
   arguments.End();
   if (!Fits1252(content)) throw ScriptError("a character outside code page 1252");
-  Lay(context.sandbox, path, Encode1252(content));
+  WriteFile(context.sandbox, path, Encode1252(content));
   return {};
 }
 
@@ -67,7 +67,7 @@ Answer Bytes(ScriptContext& context, Arguments& arguments) {
   const std::u16string path = arguments.Text();
   const std::string bytes = BytesOfHex(arguments.Name());
   arguments.End();
-  Lay(context.sandbox, path, bytes);
+  WriteFile(context.sandbox, path, bytes);
   return {};
 }
 

@@ -1,4 +1,4 @@
-// Decoding by table.
+// Table-driven decoding.
 #include "rtf/codepages/CodePage.h"
 
 #include <array>

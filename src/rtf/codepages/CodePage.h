@@ -1,4 +1,4 @@
-// Code pages: bytes to UTF-16.
+// Code pages to UTF-16.
 #pragma once
 #include <string>
 #include <string_view>
@@ -6,24 +6,24 @@
 namespace lumenote {
 
 inline constexpr int kPageOfWindows = 1252;
-inline constexpr int kPageOfSymbols = 42;  // a symbol font's own: bytes go to U+F000 and up
+inline constexpr int kPageOfSymbols = 42;  // of symbol fonts: byte n is U+F000 + n
 inline constexpr int kPageUtf8 = 65001;
 
-/// Decodes a run of bytes in a Windows, OEM or Mac code page by its number (as in \ansicpg);
-/// an unknown page reads as 1252. No character of a multi-byte page may be cut. Appends to `out`.
+/// Decodes bytes of a Windows, OEM or Mac code page, given by number as in \ansicpg, and appends to
+/// `out`; an unknown page is read as 1252. Must not split a multi-byte character.
 void DecodeCodePage(int page, std::string_view bytes, std::u16string& out);
-/// The code page of an RTF font character set (\fcharset); 0 for "the document's own".
+/// The code page of a font's character set (\fcharset); 0 for the document's own.
 int CodePageOfCharset(int charset);
 
-/// A code page looked up once, for decoding byte by byte.
+/// A code page that is looked up once, for byte-by-byte decoding.
 class CodePage {
  public:
   /// An unknown page is 1252.
   explicit CodePage(int number = kPageOfWindows);
 
-  /// Whether a character may take several bytes; such text goes through `DecodeCodePage`.
+  /// Whether a character may have several bytes; such text must use `DecodeCodePage`.
   bool MultiByte() const { return multiByte_; }
-  /// Whether the bytes below 0x80 stand for themselves.
+  /// Whether bytes below 0x80 are ASCII.
   bool KeepsAscii() const { return number_ != kPageOfSymbols; }
   int Number() const { return number_; }
 

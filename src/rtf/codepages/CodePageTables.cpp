@@ -1,6 +1,6 @@
 // Upper halves of the single-byte code pages: one unit for each byte from 0x80. An undefined byte
-// is the control of its own number below 0xA0, U+FFFD above. What is not a plain printable letter
-// or sign (controls, blanks, marks, right-to-left scripts) stands as an escape.
+// maps to the C1 control of the same number below 0xA0, else to U+FFFD. All but plain printable
+// letters and signs (controls, spaces, marks, right-to-left scripts) are written as escapes.
 #include "rtf/codepages/CodePageTables.h"
 
 #include <algorithm>
@@ -16,7 +16,7 @@ struct Page {
   const char16_t* upper;
 };
 
-// By rising number.
+// In ascending order.
 constexpr Page kPages[] = {
     {437,
      u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒáíóúñÑªº¿⌐¬½¼¡«»░▒▓│┤╡╢╖╕╣║╗╝╜╛┐└┴┬├─┼╞╟╚╔╩╦╠═╬╧╨╤╥╙"

@@ -3,7 +3,7 @@
 
 namespace lumenote {
 
-/// 128 units for the bytes 0x80 to 0xFF of a page, or null when the page is not known here.
+/// The 128 units of bytes 0x80 to 0xFF; null for a page that is not in the table.
 const char16_t* UpperHalf(int page);
 
 }  // namespace lumenote

@@ -1,8 +1,8 @@
-// Unpacking the double-byte pages and decoding by them.
+// Unpacks the double-byte pages and decodes with them.
 //
-// A packed page is a list of items, one digit or more each, for the cells in their order: a near
-// step from the last character forward, a step of two digits either way, a run of characters in
-// sequence, a gap of empty cells, or a character by its number.
+// A packed page is a sequence of items of one or more digits, which fill the cells in order: a
+// small step forward from the last character, a two-digit step in either direction, a run of
+// consecutive characters, a gap of empty cells, or a character by its number.
 #include "rtf/codepages/DoubleBytePage.h"
 
 #include <algorithm>
@@ -20,12 +20,13 @@ constexpr int kFirstTrail = 0x40, kLastTrail = 0xFE;
 constexpr int kRow = kLastTrail - kFirstTrail + 1;
 constexpr std::size_t kCells = (kLastLead - kFirstLead + 1) * std::size_t{kRow};
 
-// What the first digit of an item says, from the least number of each kind up to the next.
+// Ranges of an item's first digit: the lowest value of each kind.
 constexpr int kPair = 44, kRun = 78, kGap = 79, kFar = 80;
-constexpr int kBack = 700;  // the farthest that a step of two digits goes back
+constexpr int kBack = 700;  // the longest backward two-digit step
 constexpr int kBase = 90;
 
-/// The printable characters from "#" on but for "?" and the backslash, which C++ gives a meaning.
+/// Digits are the printable characters from "#" on, except "?" and the backslash, which are special
+/// in C++ literals.
 int DigitOf(char c) { return c - '#' - (c > '?') - (c > '\\'); }
 
 constexpr char16_t kUnknown = u'\uFFFD';
@@ -65,7 +66,7 @@ void Unpacker::Item(int kind) {
   }
 }
 
-/// The page that serves for another one.
+/// The page that is used for another one.
 int OwnNumber(int number) {
   switch (number) {
     case 10001:

@@ -1,5 +1,5 @@
-// The double-byte code pages 932, 936, 949 and 950, which also serve for the Macintosh's 10001,
-// 10008, 10003 and 10002: these differ in a few signs only.
+// The double-byte code pages 932, 936, 949 and 950. They also serve for the Macintosh pages 10001,
+// 10008, 10003 and 10002, which differ in a few signs only.
 #pragma once
 #include <string>
 #include <string_view>
@@ -7,22 +7,22 @@
 
 namespace lumenote {
 
-/// A page as it lies in the program; DoubleBytePage.cpp tells how it is packed.
+/// A page in packed form; see DoubleBytePage.cpp for the format.
 struct PackedPage {
   int number;
   std::string_view cells;
 };
 extern const PackedPage kDoubleBytePages[4];
 
-/// A page unpacked: a cell for each pair of a lead and a trail byte.
+/// An unpacked page: a cell for each pair of lead and trail byte.
 class DoubleBytePage {
  public:
-  /// The page unpacked at its first use, or null when the number is none of these.
+  /// The page, unpacked on first use; null for another number.
   static const DoubleBytePage* Find(int number);
   static bool Is(int number);
 
-  /// Appends to `out`. Each byte that has no meaning gives U+FFFD; an ASCII byte behind a lead byte
-  /// that it makes no pair with stands for itself.
+  /// Appends to `out`. An invalid byte becomes U+FFFD; an ASCII byte that does not pair with the
+  /// lead byte before it is itself.
   void Decode(std::string_view bytes, std::u16string& out) const;
 
  private:
@@ -30,7 +30,7 @@ class DoubleBytePage {
 
   bool Leads(unsigned char byte) const;
   char16_t Single(unsigned char byte) const;
-  /// 0 where the page has no character.
+  /// 0 if the page lacks the character.
   char16_t Pair(unsigned char lead, unsigned char trail) const;
 
   int number_;

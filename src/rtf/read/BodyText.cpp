@@ -1,4 +1,4 @@
-// Holding breaks and cell ends back until their meaning is known.
+// Holds breaks and cell ends back until their meaning is known.
 #include "rtf/read/BodyText.h"
 
 namespace lumenote {

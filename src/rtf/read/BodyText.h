@@ -1,4 +1,4 @@
-// The text of a note as it comes out of an RTF source.
+// Builds a note's text as it is read from RTF.
 #pragma once
 #include <optional>
 #include <span>
@@ -8,33 +8,32 @@
 
 namespace lumenote {
 
-/// Lays text and breaks down in a fragment. What only the following source decides is held back:
-/// the last break, which may turn out to be the final mark, and the tab behind a table cell, which
-/// the end of the row swallows. `Release` must come before text whenever something is held.
+/// Puts text and breaks in a fragment. Holds back what depends on the source that follows: the last
+/// break, which may be the final mark, and the tab after a table cell, which the end of the row
+/// replaces. If anything is held, call `Release` before adding text.
 class BodyText {
  public:
   bool Holds() const { return holds_; }
   void Release();
 
-  /// Room for text, as `FragmentBuilder` has it.
+  /// Buffer space for text; see `FragmentBuilder`.
   std::span<char> ByteRoom() { return builder_.ByteRoom(); }
   std::span<char16_t> UnitRoom() { return builder_.UnitRoom(); }
   void Commit(int count, CharId format) { builder_.Commit(count, format); }
   void Append(std::u16string_view text, CharId format) { builder_.Append(text, format); }
 
-  /// Ends the paragraph, whose formats are `formats`.
+  /// Ends the paragraph, which gets the formats `formats`.
   void Break(const FinalMark& formats);
-  /// Whether anything stands in the paragraph or table row at hand.
+  /// Whether the current paragraph or table row has any content.
   bool Started() const { return started_ || cell_; }
-  /// Ends a cell: a tab, if another cell follows in the row.
+  /// Ends a cell: a tab, if another cell of the row follows.
   void Cell(CharId format);
-  /// The cell that has just been ended, if it may be the last of its row.
+  /// The cell ended last, if it may be the last of its row.
   std::optional<CharId> LastCell() const { return cell_; }
-  /// Ends a table row, its last cell included.
+  /// Ends a table row and its last cell.
   void Row(const FinalMark& formats);
 
-  /// `unfinished` are the formats in force at the end of the source, which the text behind the
-  /// last break takes.
+  /// `unfinished` are the formats at the end of the source, which text after the last break gets.
   Fragment Finish(RtfTarget target, const FinalMark& unfinished);
 
  private:

@@ -1,4 +1,4 @@
-// Reading \colortbl.
+// Reads \colortbl.
 #include "rtf/read/ColourTable.h"
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 namespace lumenote {
 namespace {
 
-/// How far left a component stands in a colour, or -1 for another word.
+/// The bit position of a component in a colour, or -1 for another word.
 int ShiftOf(std::string_view component) {
   if (component == "red") return 0;
   if (component == "green") return 8;

@@ -1,4 +1,4 @@
-// The colours of an RTF source by their numbers.
+// The colour table of an RTF source.
 #pragma once
 #include <vector>
 
@@ -9,9 +9,9 @@ namespace lumenote {
 
 class ColourTable {
  public:
-  /// Reads the \colortbl group that the tokenizer stands in, up to its closing brace.
+  /// Reads the current \colortbl group up to its closing brace.
   void Read(Tokenizer& tokens);
-  /// The automatic colour for an entry without one and for a number out of the table.
+  /// Automatic for an entry without a colour and for a number outside the table.
   Colour operator[](int number) const;
   const std::vector<Colour>& All() const { return colours_; }
 

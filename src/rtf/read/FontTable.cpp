@@ -1,4 +1,4 @@
-// Reading \fonttbl.
+// Reads \fonttbl.
 #include "rtf/read/FontTable.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ constexpr std::string_view kFamilies[] = {"fnil",    "froman", "fswiss", "fmoder
 
 std::uint8_t Small(int number) { return static_cast<std::uint8_t>(std::clamp(number, 0, 255)); }
 
-/// One font on its way: from \f to ";".
+/// The font being read, from \f to ";".
 class Entry {
  public:
   explicit Entry(int documentPage, int number = -1)
@@ -29,16 +29,16 @@ class Entry {
 
   void Word(const Token& word);
   void Bytes(std::string_view bytes);
-  /// What follows is no other form of a \u before it.
+  /// Ends the fallback of the last \u.
   void EndFallback() { fallback_ = 0; }
-  /// Gives the bytes of the name so far their characters.
+  /// Decodes the bytes of the name read so far.
   void EndBytes();
 
  private:
   int documentPage_;
   int number_;
   int page_ = 0;
-  int fallback_ = 0;   // bytes still to pass over behind a \u
+  int fallback_ = 0;   // fallback bytes of a \u still to skip
   std::string bytes_;  // of the name, not yet decoded
   FontFace face_;
 };

@@ -1,4 +1,4 @@
-// The fonts of an RTF source by their numbers.
+// The font table of an RTF source.
 #pragma once
 #include <unordered_map>
 
@@ -9,15 +9,15 @@ namespace lumenote {
 
 struct SourceFont {
   FontId font = 0;
-  int page = 0;  // of its bytes; 0: the document's
+  int page = 0;  // code page of its bytes; 0: the document's
 };
 
 class FontTable {
  public:
-  /// Reads the \fonttbl group that the tokenizer stands in, up to its closing brace. Fonts may
-  /// stand in groups of their own or not; a missing ";" is supplied.
+  /// Reads the current \fonttbl group up to its closing brace. Fonts may have groups of their own
+  /// or not; a missing ";" is tolerated.
   void Read(Tokenizer& tokens, InternTable<FontFace>& faces, int documentPage);
-  /// Null when the source defines no such font.
+  /// Null if the source does not define the font.
   const SourceFont* Find(int number) const;
   const std::unordered_map<int, SourceFont>& All() const { return fonts_; }
 

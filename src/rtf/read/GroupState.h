@@ -1,4 +1,4 @@
-// What an RTF group can change and its closing brace brings back.
+// The state that a group may change and its closing brace restores.
 #pragma once
 #include <memory>
 
@@ -8,7 +8,7 @@
 
 namespace lumenote {
 
-/// A paragraph's format, some of it still in RTF's own terms; `Resolved` says what they amount to.
+/// A paragraph's format in RTF's own terms.
 struct ParagraphState {
   ParaFormat format;
   int left = 0;                // twips, \li
@@ -22,11 +22,11 @@ struct ParagraphState {
   bool inTable = false;        // \intbl
   int nesting = 0;             // \itap
   std::shared_ptr<const TabStops> tabs;
-  TabStop nextTab;  // kind and leader given for the next \tx
+  TabStop nextTab;  // kind and leader for the next \tx
 
   void AddTab(int position);
-  /// The format but for `tabs`, `bullet` and `list`, which need the tables of the document and the
-  /// source.
+  /// The equivalent format, without `tabs`, `bullet` and `list`, which depend on the tables of
+  /// document and source.
   ParaFormat Resolved() const;
 };
 
@@ -36,17 +36,17 @@ struct GroupState {
   CharFormat character;
   ParagraphState paragraph;
   CodePage page;     // of text bytes
-  int fallback = 1;  // \uc: characters that follow a \u for readers without Unicode
+  int fallback = 1;  // \uc: number of fallback characters after a \u
 
   FieldId field = 0;                 // the innermost one, 0 none
-  KeptId inField = 0;                // what is kept with a character in that field
-  int openFields = 0;                // fields around each other
-  std::size_t fieldAt = kNowhere;    // offset of the \field whose result is still to come
-  bool fieldShown = false;           // it has come
-  std::size_t laidBefore = 0;        // what the reader had laid down when that field began
-  ItemKeeper::Place keptBefore = 0;  // and where it stood in what is kept
+  KeptId inField = 0;                // the kept number of plain characters in that field
+  int openFields = 0;                // nesting depth of fields
+  std::size_t fieldAt = kNowhere;    // offset of a \field whose result has not come yet
+  bool fieldShown = false;           // the result has come
+  std::size_t contentBefore = 0;     // the reader's content count when that field began
+  ItemKeeper::Index keptBefore = 0;  // the position in the kept items at that time
 
-  // Numbers of the formats in the document's tables, while they are known.
+  // The formats' numbers in the document's tables, where still valid.
   bool characterKnown = false;
   bool paragraphKnown = false;
   CharId characterId = 0;

@@ -1,4 +1,4 @@
-// The reading loop: groups, text bytes, and what comes before text.
+// The main loop: groups, text bytes, and preparations before text.
 #include "rtf/read/Interpreter.h"
 
 #include <algorithm>
@@ -10,13 +10,13 @@
 namespace lumenote {
 namespace {
 
-/// Whether a token is a byte behind a backslash, which may be the second half of a character.
+/// Whether a token is a byte after a backslash, which may be a character's second byte.
 bool IsEscapedByte(const Token& token) {
   const unsigned char byte = token.byte;
   return token.kind == Token::Kind::Symbol && (byte == '\\' || byte == '{' || byte == '}');
 }
 
-constexpr std::size_t kBytesOfTab = 4;  // of a \tx with its number, at least
+constexpr std::size_t kBytesOfTab = 4;  // minimum length of a \tx with its number
 constexpr std::size_t kLeastTabs = 4096;
 
 std::size_t CharacterLength(std::u16string_view text) {
@@ -24,7 +24,7 @@ std::size_t CharacterLength(std::u16string_view text) {
                                                           : std::min<std::size_t>(text.size(), 1);
 }
 
-/// What a symbol stands for; 0 for the marks of groups, indexes and formulas.
+/// The character of a symbol; 0 for markers of groups, indexes and formulas.
 char16_t CharacterOf(char symbol) {
   switch (symbol) {
     case '~':
@@ -63,7 +63,7 @@ Fragment Interpreter::Read() {
   for (std::size_t group = groups_.size() - 1; group > 0; --group)
     EndField(groups_[group], groups_[group - 1]);
   BeginBody();
-  // The final mark stands behind the fields that only the end of the source closes.
+  // The final mark lies after all fields, even those that only the end of the source closes.
   State().field = State().inField = 0;
   State().characterKnown = false;
   if (!marker_.empty()) PlaceMarker();
@@ -110,8 +110,8 @@ void Interpreter::Take(const Token& token) {
   }
 }
 
-/// Text goes the short way, from the source into the fragment, unless some of it is to be passed
-/// over or its characters take several bytes.
+/// Fast path: copies text directly from source to fragment, unless part of it is to be skipped or
+/// its characters may have several bytes.
 void Interpreter::TakeText() {
   if (swallow_ > 0 || starred_ || State().page.MultiByte() || !AtText()) return;
   opened_ = false;
@@ -125,8 +125,8 @@ void Interpreter::TakeText() {
   }
 }
 
-/// Takes text into the leaf at hand, as bytes as long as that goes; at most `most` units. Returns
-/// whether it stopped for want of room.
+/// Reads text into the current leaf, as bytes if possible, at most `most` units. Returns whether it
+/// stopped for lack of space.
 bool Interpreter::TakeSome(std::size_t most, CharId format) {
   const CodePage page = State().page;
   const bool unicode = HasOneFallback();
@@ -145,9 +145,9 @@ bool Interpreter::TakeSome(std::size_t most, CharId format) {
   return take(body_.UnitRoom(), [&](auto part) { return tokens_.Decode(page, unicode, part); });
 }
 
-/// Whether the "}" just read is the last that matters. Braces that only close at the end leave the
-/// formats as they are, for the final mark; behind the document's own one, text without any markup
-/// is no part of it but what some mailer or disk left there, and neither is a second document.
+/// Whether the "}" just read ends the document. Braces that only close groups at the end keep the
+/// formats, for the final mark. After the document's closing brace, text without markup was added
+/// by a mailer or disk and is ignored, and so is a second document.
 bool Interpreter::Ended() const {
   if (tokens_.OnlyClosesFollow()) return true;
   const bool outermost = !placingMarker_ && uncounted_ == 0 && groups_.size() <= outermost_;
@@ -176,8 +176,8 @@ void Interpreter::Close() {
     State().fieldAt = GroupState::kNowhere;
 }
 
-/// A word counts as one of the characters behind a \u, but only one that stands for a character is
-/// passed over: no break and no format is lost.
+/// A word counts as one fallback character of a \u, but only words for characters are skipped: no
+/// break and no format is lost.
 void Interpreter::Word(const Token& word) {
   const Keyword* keyword = FindKeyword(word.text);
   if (wasStarred_ && !(keyword && keyword->opensGroup))
@@ -214,7 +214,7 @@ void Interpreter::Byte(unsigned char byte) {
   }
 }
 
-/// Text that could not go the short way.
+/// The slow path for text.
 void Interpreter::Bytes(std::string_view bytes) {
   const auto passed = std::min(static_cast<std::size_t>(swallow_), bytes.size());
   swallow_ -= static_cast<int>(passed);
@@ -244,7 +244,7 @@ void Interpreter::Put(char16_t unit) {
 }
 
 void Interpreter::BeforeText() {
-  Lay();
+  CountContent();
   if (inHead_) BeginBody();
   if (!marker_.empty()) PlaceMarker();
   if (body_.Holds()) body_.Release();
@@ -288,7 +288,7 @@ ParaId Interpreter::ParagraphNumber() {
   return state.paragraphId;
 }
 
-/// Groups bring long lists back at no cost to the source, so their sum is bounded.
+/// Groups can restore long lists at no cost in source bytes, so their total is limited.
 TabsId Interpreter::TabsNumber(const TabStops& stops) {
   if (stops.size() > tabsLeft_) return 0;
   const std::uint32_t known = formats_.tabs.Size();

@@ -1,4 +1,4 @@
-// What the words of RTF do to the note being read.
+// Interprets RTF control words to build a note.
 #pragma once
 #include <cstddef>
 #include <string>
@@ -19,18 +19,17 @@
 
 namespace lumenote {
 
-/// Reads one source. Groups are a stack of states, at most `kDeepest`; deeper ones are counted
-/// only, so that their formats leak outwards but memory stays bounded.
+/// Reads one source. Groups are a stack of at most `kDeepest` states; deeper groups are only
+/// counted, so their formats leak outwards, but memory is bounded.
 class Interpreter {
  public:
-  /// The source begins inside `opened` groups.
+  /// The source starts inside `opened` groups.
   Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
               const CharFormat& base, std::size_t opened);
   Fragment Read();
   FontId PlainFont() const { return default_.font; }
 
-  // Handlers of control words; `value` is the keyword's own, as Keywords.cpp gives it, or the
-  // row of a word in the tables of rtf/words/.
+  // Handlers of control words; `value` is the keyword's parameter in Keywords.cpp.
 
   // Text.
   void Character(int value, const Token& word);
@@ -103,7 +102,7 @@ class Interpreter {
 
   void Interpret();
   void Take(const Token& token);
-  /// Whether a \u has one character behind it for other readers.
+  /// Whether a \u has one fallback character.
   bool HasOneFallback() const { return State().fallback == 1; }
   bool AtText() { return tokens_.AtText(HasOneFallback()); }
   void TakeText();
@@ -130,13 +129,13 @@ class Interpreter {
   void EnterField(KeptField::Kind kind, std::string opening);
   void EndField(const GroupState& group, const GroupState& around);
   void BeginBody();
-  /// Takes note that text or a break is laid down.
-  void Lay() {
-    ++laid_;
+  /// Records that text or a break is being added.
+  void CountContent() {
+    ++contentCount_;
     begun_ = true;
     borderOf_ = WordScope::None;
   }
-  bool ReachBreak();
+  bool PrepareBreak();
   void BreakAs(Kept kept);
   static std::string RowDefinition(const KeptItems& items);
   CharId CharacterWith(Kept kept);
@@ -147,7 +146,7 @@ class Interpreter {
 
   GroupState& State() { return groups_.back(); }
   const GroupState& State() const { return groups_.back(); }
-  /// Of the group around the present one, for groups that say something about what follows them.
+  /// The enclosing group's state, for groups that affect what follows them.
   GroupState& Outer() { return groups_.size() > 1 ? groups_[groups_.size() - 2] : groups_.back(); }
   CharFormat& EditCharacter();
   ParagraphState& EditParagraph();
@@ -160,42 +159,42 @@ class Interpreter {
   FormatTables& formats_;
   BodyText body_;
   std::vector<GroupState> groups_;
-  std::size_t outermost_ = 2;  // a "}" too many never leaves this many: the source, its own group
-  std::size_t uncounted_ = 0;  // groups opened beyond `kDeepest`
+  std::size_t outermost_ = 2;  // depth that surplus "}" never leave: the source and its own group
+  std::size_t uncounted_ = 0;  // open groups beyond `kDeepest`
 
   FontTable fonts_;
   ColourTable colours_;
   ListTable lists_;
-  CharFormat default_;    // what \plain gives, but for the size
+  CharFormat default_;    // result of \plain, except for the size
   int defaultFont_ = -1;  // \deff
   int documentPage_ = kPageOfWindows;
 
-  std::size_t tabsLeft_;  // stops that paragraph formats may still have
+  std::size_t tabsLeft_;  // tab stops that paragraph formats may still use
 
   ItemKeeper items_;
   WordKeeper words_;
-  bool needsTables_ = false;  // something kept names entries of the source's tables
-  std::string row_;           // the definition of the row at hand, if it came ahead of the cells
-  std::size_t laid_ = 0;      // pieces of text, breaks and tables so far
+  bool needsTables_ = false;      // some kept content refers to the source's tables
+  std::string row_;               // definition of the current row, if it preceded the cells
+  std::size_t contentCount_ = 0;  // count of texts, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
-  bool inHead_ = true;  // nothing of the body has come yet
-  bool begun_ = false;  // text has come
+  bool inHead_ = true;  // the body has not started
+  bool begun_ = false;  // there has been text
   KeptHead head_;
   KeptItems headItems_;
 
-  int swallow_ = 0;          // characters still to pass over behind a \u
+  int swallow_ = 0;          // fallback characters of a \u still to skip
   bool opened_ = false;      // the last token was {
   bool wasOpened_ = false;   // so was the token before the present one
-  bool starred_ = false;     // the last token was \*, just behind {
-  bool wasStarred_ = false;  // so was the token before the present one
-  std::string bytes_;        // of a multi-byte page, not yet decoded
+  bool starred_ = false;     // the last token was \* directly after {
+  bool wasStarred_ = false;  // so was the token before the current one
+  std::string bytes_;        // undecoded bytes of a multi-byte page
   std::u16string decoded_;
   bool placingMarker_ = false;
-  bool numbering_ = false;   // the marker being placed is a list number
-  std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text is still to come
+  bool numbering_ = false;   // the marker being read is a list number
+  std::string_view marker_;  // the \pntext or \listtext of a paragraph whose text has not come yet
   std::string_view markerWord_;
-  ItemKeeper::Place markerPlace_ = 0;
-  int markerFallback_ = 1;  // \uc where it stands
+  ItemKeeper::Index markerIndex_ = 0;
+  int markerFallback_ = 1;  // \uc at the marker
 };
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Words that change the format of characters, and the document's defaults for it.
+// Control words for character formats, and the document's defaults.
 #include <algorithm>
 #include <limits>
 
@@ -8,9 +8,9 @@
 namespace lumenote {
 namespace {
 
-constexpr std::uint16_t kStandardSize = 24;  // half-points, where RTF says nothing else
-constexpr int kOwnLanguage = 1036;           // what the language number 0 stands for
-constexpr int kStandardRaise = 6;            // half-points of \up and \dn without a number
+constexpr std::uint16_t kStandardSize = 24;  // half-points, RTF's default
+constexpr int kOwnLanguage = 1036;           // the meaning of language number 0
+constexpr int kStandardRaise = 6;            // half-points: \up and \dn without a number
 
 bool On(const Token& word) { return !word.hasNumber || word.number != 0; }
 

@@ -1,4 +1,4 @@
-// Fields, and the numbers of list paragraphs: groups around characters.
+// Groups around characters: fields, and the numbers of list paragraphs.
 #include <utility>
 
 #include "rtf/read/Interpreter.h"
@@ -7,7 +7,7 @@
 namespace lumenote {
 namespace {
 
-constexpr int kDeepestField = 32;  // fields in each other; what is deeper in keeps its text alone
+constexpr int kDeepestField = 32;  // nesting limit; deeper fields keep only their text
 
 }  // namespace
 
@@ -18,15 +18,15 @@ void Interpreter::Field(int, const Token&) {
   ++state.openFields;
   state.fieldAt = tokens_.Start();
   state.fieldShown = false;
-  state.laidBefore = laid_;
-  state.keptBefore = items_.Here();
+  state.contentBefore = contentCount_;
+  state.keptBefore = items_.NextIndex();
 }
 
-/// A field has one result, a group that says so with its first word. A list number before it is not
-/// part of it.
+/// A field has one result: the group whose first word says so. A list number before it is outside.
 void Interpreter::FieldResult(int, const Token&) {
   const std::size_t from = State().fieldAt;
-  if (from == GroupState::kNowhere || State().fieldShown || laid_ != State().laidBefore) return;
+  if (from == GroupState::kNowhere || State().fieldShown || contentCount_ != State().contentBefore)
+    return;
   if (!wasOpened_ && !wasStarred_) return;
   const KeptSource opening(tokens_.Source(from, tokens_.At()), State().fallback,
                            KeptSource::Piece::FieldOpening);
@@ -36,14 +36,14 @@ void Interpreter::FieldResult(int, const Token&) {
   if (!marker_.empty()) PlaceMarker();
   for (auto group = groups_.rbegin(); group != groups_.rend() && group->fieldAt == from; ++group) {
     group->fieldShown = true;
-    group->laidBefore = laid_;
-    group->keptBefore = items_.Here();
+    group->contentBefore = contentCount_;
+    group->keptBefore = items_.NextIndex();
   }
   State().fieldAt = GroupState::kNowhere;
   EnterField(KeptField::Kind::Result, "{" + opening.text);
 }
 
-/// What the group at hand holds from now on is in the field.
+/// Makes the rest of the current group part of the field.
 void Interpreter::EnterField(KeptField::Kind kind, std::string opening) {
   GroupState& state = State();
   state.field = formats_.fields.Intern({.opening = std::move(opening),
@@ -54,10 +54,10 @@ void Interpreter::EnterField(KeptField::Kind kind, std::string opening) {
   state.characterKnown = false;
 }
 
-/// At the end of `group`: a field that shows nothing goes with the next character, whole.
+/// At the end of `group`, attaches a field that shows nothing, as a whole, to the next character.
 void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
-  if (laid_ != group.laidBefore) return;
+  if (contentCount_ != group.contentBefore) return;
   KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
                     KeptSource::Piece::Field);
   needsTables_ |= source.needsHead;
@@ -65,14 +65,14 @@ void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   items_.Keep(KeptItem::Kind::Field, "{" + std::move(source).Closed() + "}");
 }
 
-/// The visible number or bullet of a paragraph whose text is still to come.
+/// The visible number or bullet of a paragraph whose text follows.
 void Interpreter::Marker(int, const Token& word) {
   const std::size_t from = tokens_.At();
   tokens_.SkipGroup();
-  ++laid_;
+  ++contentCount_;
   if (!marker_.empty() || placingMarker_) return;
   marker_ = tokens_.Source(from, tokens_.At());
-  markerPlace_ = items_.Here();
+  markerIndex_ = items_.NextIndex();
   markerFallback_ = State().fallback;
   markerWord_ = word.text;
 }
@@ -82,8 +82,8 @@ bool Interpreter::IsNumbered() const {
   return paragraph.list >= 0 || paragraph.numbered;
 }
 
-/// Reads the marker as text, in a group of its own that it cannot leave. What numbers its paragraph
-/// does not end it.
+/// Reads the marker as text, in a group of its own that it cannot leave. Words that number the
+/// paragraph do not end it.
 void Interpreter::PlaceMarker() {
   const std::string_view marker = std::exchange(marker_, {});
   if (HasBullet()) return;
@@ -97,12 +97,12 @@ void Interpreter::PlaceMarker() {
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
   const std::size_t uncounted = std::exchange(uncounted_, 0);
-  const KeptItems behind = items_.TakeSince(markerPlace_);
+  const KeptItems behind = items_.TakeSince(markerIndex_);
   placingMarker_ = true;
   Interpret();
   placingMarker_ = false;
   numbering_ = false;
-  const KeptItems left = items_.TakeSince(markerPlace_);
+  const KeptItems left = items_.TakeSince(markerIndex_);
   items_.Keep(behind);
   items_.Keep(left);
   borderOf_ = WordScope::None;

@@ -1,21 +1,21 @@
-// Words that say what their group is: tables, lists, things skipped and things kept.
+// Words that give their group a meaning: tables, lists, groups to skip or keep.
 #include "rtf/read/Interpreter.h"
 #include "rtf/read/KeptSource.h"
 
 namespace lumenote {
-/// The group's text is text as any other.
+/// The group's text is ordinary text.
 void Interpreter::EnterGroup(int, const Token&) {}
 
 void Interpreter::SkipGroup(int, const Token&) { tokens_.SkipGroup(); }
 
-/// \upr holds the text twice: first for readers without Unicode.
+/// \upr contains the text twice; the first is for readers without Unicode.
 void Interpreter::SkipAlternative(int, const Token&) {
   if (tokens_.Next().kind != Token::Kind::Open) return tokens_.Unread();
   tokens_.SkipGroup();
   tokens_.Next();
 }
 
-/// The first group says what the paragraph is.
+/// The first such group determines the paragraph.
 void Interpreter::Numbering(int, const Token&) {
   const std::size_t from = tokens_.Start();
   bool bullet = false;
@@ -34,7 +34,7 @@ void Interpreter::Numbering(int, const Token&) {
 
 void Interpreter::Fonts(int, const Token&) {
   const std::size_t from = tokens_.At();
-  ++laid_;
+  ++contentCount_;
   if (head_.fontTable.empty())
     head_.page = documentPage_;
   else
@@ -45,11 +45,11 @@ void Interpreter::Fonts(int, const Token&) {
 }
 
 void Interpreter::Colours(int, const Token&) {
-  ++laid_;
+  ++contentCount_;
   colours_.Read(tokens_);
 }
 
-/// A word of the body behind the entries shows that the table's brace is lost.
+/// A body word among the entries reveals that the table's closing brace is missing.
 void Interpreter::PassTable() {
   int depth = 0;
   tokens_.WhileInGroup([&](const Token& token) {
@@ -65,7 +65,8 @@ void Interpreter::Styles(int, const Token&) {
   if (!begun_) KeepInHead(GroupSource(from));
 }
 
-// Lists that come behind the first text would be others when the note is written and read again.
+// Lists defined after the first text would change their meaning when the note is written and read
+// again.
 
 void Interpreter::Lists(int, const Token&) {
   if (begun_) return tokens_.SkipGroup();

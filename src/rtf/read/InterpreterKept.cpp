@@ -1,4 +1,4 @@
-// What the editor shows nothing of, but keeps: words, groups, and the head of the source.
+// Content that is kept but not shown: words, groups, and the source's head.
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -12,7 +12,7 @@ namespace {
 constexpr std::u16string_view kObjectCharacter = u"\uFFFC";
 constexpr std::string_view kOwnName = "Lumenote";
 
-/// Words of the head that the writer gives itself.
+/// Words of the head that the writer always writes itself.
 bool IsWrittenAnyway(std::string_view word) {
   return word == "rtf" || word == "urtf" || word == "viewkind";
 }
@@ -40,7 +40,7 @@ void Interpreter::KeepWord(int value, const Token& word) {
   }
 }
 
-/// A style is a label: how text of it looks, the words behind it say.
+/// A style is only a label: the words after it give the text's look.
 void Interpreter::KeepStyle(int, const Token& word) {
   BeginBody();
   KeepWord(static_cast<int>(WordScope::Paragraph), word);
@@ -58,12 +58,12 @@ void Interpreter::KeepAssociated(int, const Token& word) {
   EditCharacter().words = words_.WithAssociated(word, State().character.words);
 }
 
-/// Words of unknown meaning are the document's as long as they stand at its head.
+/// Unknown words in the head belong to the document.
 void Interpreter::KeepUnknown(const Token& word) {
   const WordScope scope = FamilyScope(word.text);
   const bool ofDocument = inHead_ && groups_.size() == outermost_ && !IsWrittenAnyway(word.text);
   if (scope == WordScope::None && !ofDocument) return;
-  KeepWord(static_cast<int>(scope == WordScope::None ? WordScope::Place : scope), word);
+  KeepWord(static_cast<int>(scope == WordScope::None ? WordScope::Anchored : scope), word);
 }
 
 void Interpreter::KeepSection(int, const Token& word) {
@@ -77,7 +77,7 @@ void Interpreter::KeepRow(int, const Token& word) {
 
 // --- groups
 
-/// The group from the word at `from` on, which opens it, to where the reader stands.
+/// The source of the group from its first word, at `from`, to the current position.
 std::string Interpreter::GroupSource(std::size_t from) {
   KeptSource kept(tokens_.Source(from, tokens_.At()), State().fallback);
   needsTables_ |= kept.needsHead;
@@ -86,7 +86,7 @@ std::string Interpreter::GroupSource(std::size_t from) {
   return source += '}';
 }
 
-/// What stands for itself in the text.
+/// Kept groups with a placeholder in the text.
 void Interpreter::KeepGroup(int value, const Token&) {
   const std::size_t from = tokens_.Start();
   tokens_.SkipGroup();
@@ -96,7 +96,7 @@ void Interpreter::KeepGroup(int value, const Token&) {
   body_.Append(kObjectCharacter, CharacterWith({.self = self, .kind = Kept::Kind::Embedded}));
 }
 
-/// What is not seen in the text.
+/// Kept groups that are invisible in the text.
 void Interpreter::KeepAside(int value, const Token&) {
   const std::size_t from = tokens_.Start();
   tokens_.SkipGroup();
@@ -110,9 +110,9 @@ void Interpreter::KeepTable(int, const Token&) {
   items_.Keep(KeptItem::Kind::Group, GroupSource(from));
 }
 
-/// A table of the head that has been read, be it behind the first words of the body.
+/// Keeps a table that was read, even if it comes after the first words of the body.
 void Interpreter::KeepInHead(std::string source) {
-  ++laid_;
+  ++contentCount_;
   if (inHead_)
     items_.Keep(KeptItem::Kind::Group, source);
   else if (target_ == RtfTarget::Document)
@@ -121,7 +121,7 @@ void Interpreter::KeepInHead(std::string source) {
 
 // --- characters
 
-/// The words of the last table row that the items define; empty when they define none.
+/// The words of the last table row that the items define; empty if there is none.
 std::string Interpreter::RowDefinition(const KeptItems& items) {
   using Kind = KeptItem::Kind;
   std::string row;
@@ -132,7 +132,7 @@ std::string Interpreter::RowDefinition(const KeptItems& items) {
   return row;
 }
 
-/// With all that is kept before the character.
+/// Adds all items kept before the character.
 CharId Interpreter::CharacterWith(Kept kept) {
   KeptItems before = items_.Take();
   if (std::string row = RowDefinition(before); !row.empty()) row_ = std::move(row);
@@ -150,14 +150,14 @@ CharId Interpreter::NextCharacter() {
 
 // --- the head
 
-/// The tables that this component wrote are to stay as they are.
+/// Tables written by this component are kept as they are.
 void Interpreter::Generator(int, const Token&) {
   const std::size_t from = tokens_.At();
   tokens_.SkipGroup();
   needsTables_ |= tokens_.Source(from, tokens_.At()).starts_with(kOwnName);
 }
 
-/// What came before goes with the note; a selection leaves it behind.
+/// Everything before belongs to the note as a whole; a selection drops it.
 void Interpreter::BeginBody() {
   if (!inHead_) return;
   inHead_ = false;

@@ -1,4 +1,4 @@
-// Words that change the format of paragraphs.
+// Control words for paragraph formats.
 #include <algorithm>
 #include <cstdlib>
 

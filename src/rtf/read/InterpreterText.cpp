@@ -1,4 +1,4 @@
-// Words that are text: characters, breaks, cells.
+// Control words for text: characters, breaks, cells.
 #include <algorithm>
 #include <utility>
 
@@ -9,7 +9,7 @@ namespace lumenote {
 void Interpreter::Character(int value, const Token&) { Put(static_cast<char16_t>(value)); }
 
 void Interpreter::Unicode(int, const Token& word) {
-  constexpr int kFirst = -0x8000;  // units from 0x8000 are often written as negative numbers
+  constexpr int kFirst = -0x8000;  // units from 0x8000 on are often written as negative numbers
   constexpr int kLast = 0x10FFFF;
   const int number = word.number < kFirst || word.number > kLast ? 0xFFFD : word.number;
   if (number == '\r' || number == '\n') {
@@ -25,26 +25,26 @@ void Interpreter::Unicode(int, const Token& word) {
 
 void Interpreter::Break(int, const Token&) { BreakAs({}); }
 
-/// What comes ahead of any break. Returns false where there can be none: a list number does not end
-/// its paragraph. Even one that comes to nothing would be a break elsewhere, so it counts as laid.
-bool Interpreter::ReachBreak() {
+/// Prepares for a break. Returns false inside a list number, which cannot end its paragraph. Counts
+/// as content even if the break has no effect, since it would have one elsewhere.
+bool Interpreter::PrepareBreak() {
   if (numbering_) return false;
   BeginBody();
   if (!marker_.empty()) PlaceMarker();
-  ++laid_;
+  ++contentCount_;
   return true;
 }
 
 void Interpreter::BreakAs(Kept kept) {
-  if (!ReachBreak()) return;
-  Lay();
+  if (!PrepareBreak()) return;
+  CountContent();
   const bool plain = !items_.Pending() && kept == Kept();
   body_.Break({plain ? CharacterNumber() : CharacterWith(kept), ParagraphNumber()});
 }
 
-/// The end of a page, column or section ends a paragraph that has begun.
+/// A page, column or section break ends a paragraph that has begun.
 void Interpreter::EndParagraph(int value, const Token& word) {
-  if (!ReachBreak()) return;
+  if (!PrepareBreak()) return;
   const auto kind = static_cast<KeptItem::Kind>(value);
   if (!body_.Started()) return items_.Keep(kind, SourceOf(word));
   const ItemId self = formats_.items.Chain({{.kind = kind, .source = SourceOf(word)}});
@@ -52,19 +52,19 @@ void Interpreter::EndParagraph(int value, const Token& word) {
 }
 
 void Interpreter::Cell(int nested, const Token&) {
-  if (!ReachBreak()) return;
-  Lay();
+  if (!PrepareBreak()) return;
+  CountContent();
   body_.Cell(CharacterWith({.paragraph = ParagraphNumber(),
                             .kind = Kept::Kind::Cell,
                             .nested = static_cast<std::uint8_t>(nested)}));
 }
 
-/// The row's break stands for the end of its last cell too, whose format the paragraph has, as deep
-/// as the row is. Empty rows are ignored. A definition that came ahead of the first cell alone
-/// would be lost with the first character of that, so the break has it too.
+/// A row's break also ends its last cell, whose format and depth the paragraph takes. Empty rows
+/// are ignored. The break repeats a definition that preceded only the first cell, since deleting
+/// the first character of that cell would lose it.
 void Interpreter::Row(int nested, const Token&) {
-  if (!ReachBreak() || !body_.Started()) return;
-  Lay();
+  if (!PrepareBreak() || !body_.Started()) return;
+  CountContent();
   Kept row{.kind = Kept::Kind::Row, .nested = static_cast<std::uint8_t>(nested)};
   KeptItems items = items_.Take();
   const bool defined = nested != 0 || row_.empty() || !RowDefinition(items).empty();
@@ -77,9 +77,9 @@ void Interpreter::Row(int nested, const Token&) {
     paragraph = last.paragraph;
   }
   ParaFormat format = formats_.paragraphs[paragraph];
-  const int told = format.nesting;
-  const int deep = std::clamp(std::max(told, State().paragraph.nesting), 2, 0xFF);
-  format.nesting = static_cast<std::uint8_t>(nested ? deep : std::min(told, 1));
+  const int declared = format.nesting;
+  const int deep = std::clamp(std::max(declared, State().paragraph.nesting), 2, 0xFF);
+  format.nesting = static_cast<std::uint8_t>(nested ? deep : std::min(declared, 1));
   body_.Row({CharacterWith(row), formats_.paragraphs.Intern(format)});
   if (nested == 0) row_.clear();
 }

@@ -10,7 +10,7 @@ constexpr std::size_t kMaxItems = 1024;  // before one character
 
 using Kind = KeptItem::Kind;
 
-/// Whether an item of `kind` behind one of `last` is more of it.
+/// Whether an item of `kind` after one of `last` continues it.
 bool GoesOn(Kind last, Kind kind) {
   const bool defines = last == Kind::Section || last == Kind::Row;
   return defines ? kind == Kind::Words : kind == last;
@@ -33,13 +33,13 @@ void ItemKeeper::Keep(const KeptItems& items) {
   }
 }
 
-ItemKeeper::Place ItemKeeper::Here() {
+ItemKeeper::Index ItemKeeper::NextIndex() {
   sealed_ = true;
   return taken_ + pending_.size();
 }
 
-KeptItems ItemKeeper::TakeSince(Place place) {
-  const std::size_t first = std::clamp(place, taken_, Here()) - taken_;
+KeptItems ItemKeeper::TakeSince(Index index) {
+  const std::size_t first = std::clamp(index, taken_, NextIndex()) - taken_;
   const std::size_t start = first == 0 ? 0 : pending_[first - 1].end;
   KeptItems items;
   std::size_t from = start;
@@ -52,7 +52,7 @@ KeptItems ItemKeeper::TakeSince(Place place) {
 }
 
 KeptItems ItemKeeper::Take() {
-  const Place behind = Here();
+  const Index behind = NextIndex();
   KeptItems items;
   if (pending_.size() > kMaxItems) {
     pending_[kMaxItems - 1] = {Kind::Group, pending_.back().end};

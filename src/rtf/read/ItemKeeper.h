@@ -1,4 +1,4 @@
-// What the editor shows nothing of, on its way from the source to the next character.
+// Collects kept items for the next character.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -10,33 +10,34 @@
 
 namespace lumenote {
 
-/// Gathers items until a character takes them. Those of hostile sources take hardly more room than
-/// their source.
+/// Items are collected until a character takes them. For hostile sources they need hardly more
+/// memory than their source.
 class ItemKeeper {
  public:
   bool Pending() const { return !pending_.empty(); }
   void Keep(KeptItem::Kind kind, std::string_view source);
   void Keep(const KeptItems& items);
 
-  /// A place among all items ever kept; it stays good when those before it are taken.
-  using Place = std::size_t;
-  /// Where the next item goes, which will be one of its own.
-  Place Here();
-  /// Takes away what has been kept behind `place`.
-  KeptItems TakeSince(Place place);
-  /// Takes all; what comes behind a great many items is one.
+  /// A position in the sequence of all items ever kept; taking earlier items does not invalidate
+  /// it.
+  using Index = std::size_t;
+  /// Position of the next item, which will not be merged with the last one.
+  Index NextIndex();
+  /// Removes and returns the items after `index`.
+  KeptItems TakeSince(Index index);
+  /// Removes and returns all items; beyond a large number, the rest is merged into one.
   KeptItems Take();
 
  private:
   struct Stretch {
     KeptItem::Kind kind;
-    std::uint32_t end;  // of its source in `sources_`
+    std::uint32_t end;  // end of its source in `sources_`
   };
 
   std::vector<Stretch> pending_;
   std::string sources_;
-  Place taken_ = 0;      // where `pending_` begins
-  bool sealed_ = false;  // the last item stays as it is
+  Index taken_ = 0;      // position of the first element of `pending_`
+  bool sealed_ = false;  // nothing more is merged into the last item
 };
 
 }  // namespace lumenote

@@ -8,7 +8,7 @@
 namespace lumenote {
 namespace {
 
-constexpr int kOwnFallback = 1;  // what the writer tells with \uc
+constexpr int kOwnFallback = 1;  // the \uc value that the writer declares
 
 void AppendHex(std::string_view bytes, std::string_view before, std::string& out) {
   constexpr char kDigits[] = "0123456789abcdef";
@@ -22,19 +22,19 @@ void AppendHex(std::string_view bytes, std::string_view before, std::string& out
 
 bool IsControl(unsigned char byte) { return byte < 0x20 || byte == 0x7F; }
 
-/// A backslash and a control character. Most mean nothing, but end what stands before them.
+/// An escaped control character. Most have no meaning, but end the token before them.
 std::string_view ControlSymbol(unsigned char byte) {
   if (byte == '\r' || byte == '\n') return "\\\r\n";
   return byte == '\t' ? "\\'09" : "{}";
 }
 
-/// Follows a piece to where the reader passes text over.
+/// Tracks whether a token is inside a group whose text is skipped.
 class HiddenGroup {
  public:
   explicit HiddenGroup(bool fromStart) : depth_(fromStart ? 0 : kNone) {}
 
   bool Inside() const { return depth_ != kNone; }
-  /// `open` groups are open behind the token.
+  /// `open` is the number of open groups after the token.
   void Pass(const Token& token, std::size_t open) {
     if (Inside() && open < depth_) depth_ = kNone;
     const bool hides = token.kind == Token::Kind::Word && HidesText(token.text, starred_);
@@ -58,7 +58,7 @@ bool TellsOfField(const Token& word) {
 }  // namespace
 
 KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
-  constexpr std::size_t kEscaped = 3;  // bytes more than one has as itself
+  constexpr std::size_t kEscaped = 3;  // extra bytes of an escaped byte
   const auto bare = std::ranges::count_if(source, [](char c) { return c < ' ' || c > '~'; });
   text.reserve(source.size() + kEscaped * static_cast<std::size_t>(bare) + kEscaped);
   Tokenizer tokens(source);

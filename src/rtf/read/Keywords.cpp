@@ -1,4 +1,4 @@
-// One constant table: control word, handler, the handler's value.
+// The constant table of control words: name, handler, parameter.
 #include "rtf/read/Keywords.h"
 
 #include <algorithm>
@@ -76,7 +76,7 @@ constexpr Keyword kOwnWords[] = {
     {"rxe", &I::KeepAside, 0, true},
     {"bkmkstart", &I::KeepAside, Of(Item::Bookmark), true},
     {"bkmkend", &I::KeepAside, Of(Item::Bookmark), true},
-    // Always behind \*, but some converters lose that.
+    // Should follow \*, but some converters drop that.
     {"mmathPr", &I::KeepAside, 0, true},
     {"xmlnstbl", &I::KeepAside, 0, true},
     {"wgrffmtfilter", &I::KeepAside, 0, true},
@@ -227,7 +227,7 @@ constexpr std::array<Keyword, kCount> kKeywords = [] {
   add(kLengthWords, &I::Length, own);
   add(kKeptOfRuns, &I::KeepWord, [](int) { return Of(WordScope::Character); });
   add(kKeptOfParagraphs, &I::KeepWord, [](int) { return Of(WordScope::Paragraph); });
-  add(kKeptOfPlaces, &I::KeepWord, [](int) { return Of(WordScope::Place); });
+  add(kKeptOfPlaces, &I::KeepWord, [](int) { return Of(WordScope::Anchored); });
   return all;
 }();
 
@@ -240,7 +240,7 @@ constexpr std::uint32_t Hash(std::string_view name) {
 constexpr std::size_t kSlots = 2048;
 static_assert(std::size(kKeywords) * 4 < kSlots);
 
-/// Open addressing; a slot holds the keyword's place counted from 1.
+/// Open addressing; a slot holds the keyword's index plus one.
 constexpr std::array<std::uint16_t, kSlots> kTable = [] {
   std::array<std::uint16_t, kSlots> table{};
   for (std::size_t i = 0; i < std::size(kKeywords); ++i) {

@@ -10,14 +10,13 @@ struct Keyword {
   std::string_view name;
   void (Interpreter::*handler)(int value, const Token& word);
   int value = 0;
-  bool opensGroup = false;  // may stand behind \*
+  bool opensGroup = false;  // may follow \*
 };
 
-/// Null for a word that means nothing here.
+/// Null for a word without meaning here.
 const Keyword* FindKeyword(std::string_view name);
 
-/// Whether a word, perhaps behind \*, makes the rest of its group something else than text of the
-/// body.
+/// Whether a word, optionally after \*, makes the rest of its group something other than body text.
 bool HidesText(std::string_view word, bool starred);
 
 }  // namespace lumenote

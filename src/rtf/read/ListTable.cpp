@@ -1,4 +1,4 @@
-// Reading \listtable and \listoverridetable.
+// Reads \listtable and \listoverridetable.
 #include "rtf/read/ListTable.h"
 
 namespace lumenote {

@@ -9,16 +9,16 @@ namespace lumenote {
 
 class ListTable {
  public:
-  /// Reads the \listtable group that the tokenizer stands in, up to its closing brace.
+  /// Reads the current \listtable group up to its closing brace.
   void ReadLists(Tokenizer& tokens);
-  /// The same for \listoverridetable, which gives lists the numbers that \ls names.
+  /// The same for \listoverridetable, which defines the list numbers used by \ls.
   void ReadOverrides(Tokenizer& tokens);
 
   /// Whether paragraphs of list \ls`number` have a bullet at `level` (\ilvl).
   bool IsBullet(int number, int level) const;
 
  private:
-  std::unordered_map<int, std::uint32_t> bullets_;  // by \listid: a bit for each bullet level
+  std::unordered_map<int, std::uint32_t> bullets_;  // by \listid: a bit per bullet level
   std::unordered_map<int, int> ids_;                // by \ls
 };
 

@@ -42,9 +42,9 @@ std::optional<std::string_view> Body(std::string_view bytes) {
 Interpreter InterpreterOf(std::string_view bytes, FormatTables& formats, RtfTarget target,
                           const CharFormat& base) {
   // No token yields more units than it has bytes, so this keeps every position in range.
-  constexpr std::size_t kMost = std::numeric_limits<Position>::max();
+  constexpr std::size_t kMax = std::numeric_limits<Position>::max();
   const std::optional<std::string_view> body = Body(bytes);
-  const std::string_view source = body.value_or(bytes).substr(0, kMost);
+  const std::string_view source = body.value_or(bytes).substr(0, kMax);
   return Interpreter(source, target, formats, base, body ? 1 : 0);
 }
 

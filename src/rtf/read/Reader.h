@@ -1,4 +1,4 @@
-// Reading RTF into a fragment of a document.
+// Reads RTF into a fragment of a document.
 #pragma once
 #include <string_view>
 
@@ -7,20 +7,20 @@
 
 namespace lumenote {
 
-/// Whether the bytes begin as RTF does: "{\rtf" or "{\urtf", whatever the letter case. A UTF-8 byte
-/// order mark, blanks and NUL bytes may stand before it, blanks behind the brace.
+/// Whether the bytes begin as RTF: "{\rtf" or "{\urtf" in any letter case. A UTF-8 byte order mark,
+/// spaces and NUL bytes may precede it, and spaces may follow the brace.
 bool LooksLikeRtf(std::string_view bytes);
 
 /// What the text is read for.
 enum class RtfTarget {
-  Document,   // the closing \par is the final mark, which the fragment carries
+  Document,   // the closing \par is the final mark, part of the fragment
   Selection,  // every \par is a break; no final mark
 };
 
-/// Reads any bytes; damaged or truncated RTF gives the text that is there, hostile RTF costs
-/// bounded time and memory. Formats are interned in `formats`. Never throws but for want of memory.
-/// `base` is the format of text before the source says otherwise when it names no default font;
-/// RTF's own is 12 points.
+/// Accepts any bytes: damaged or truncated RTF yields the text that is there; hostile RTF takes
+/// bounded time and memory. Interns formats in `formats`. Throws only if an allocation fails.
+/// `base` is the initial format for a source that names no default font; RTF's own size is 12
+/// points.
 Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target,
                  CharFormat base = {.size = 24});
 

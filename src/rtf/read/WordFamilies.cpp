@@ -8,10 +8,11 @@ namespace {
 
 using Names = std::string_view;
 
-// Families of words: rows, cells, tables, section breaks, page numbers, page borders.
-constexpr Names kPlaceBeginnings[] = {"tr",     "cl",          "tbl",      "sbk",  "pgn",  "pgbrdr",
-                                      "vertal", "sectdefault", "sectline", "sftn", "saftn"};
-constexpr Names kShadings = "bg";  // patterns of paragraphs
+// Word families of rows, cells, tables, section breaks, page numbers and page borders.
+constexpr Names kAnchoredPrefixes[] = {"tr",       "cl",     "tbl",    "sbk",
+                                       "pgn",      "pgbrdr", "vertal", "sectdefault",
+                                       "sectline", "sftn",   "saftn"};
+constexpr Names kShadings = "bg";  // paragraph patterns
 constexpr Names kBorders[] = {"brdr", "brsp"};
 constexpr Names kBorderOwners[] = {"box", "brdr", "trbrdr", "clbrdr", "pgbrdr", "chbrdr"};
 
@@ -22,7 +23,7 @@ constexpr Names kTableWords[] = {"af",    "brdrcf",    "cb",        "cbpat",    
                                  "adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
 
 template <std::size_t Size>
-bool BeginsLike(const Names (&beginnings)[Size], Names word) {
+bool HasPrefix(const Names (&beginnings)[Size], Names word) {
   return std::ranges::any_of(beginnings,
                              [&](Names beginning) { return word.starts_with(beginning); });
 }
@@ -30,14 +31,14 @@ bool BeginsLike(const Names (&beginnings)[Size], Names word) {
 }  // namespace
 
 WordScope FamilyScope(std::string_view word) {
-  if (BeginsLike(kPlaceBeginnings, word)) return WordScope::Place;
-  if (BeginsLike(kBorders, word)) return WordScope::Border;
+  if (HasPrefix(kAnchoredPrefixes, word)) return WordScope::Anchored;
+  if (HasPrefix(kBorders, word)) return WordScope::Border;
   return word.starts_with(kShadings) ? WordScope::Paragraph : WordScope::None;
 }
 
-bool NamesBorder(std::string_view word) { return BeginsLike(kBorderOwners, word); }
+bool NamesBorder(std::string_view word) { return HasPrefix(kBorderOwners, word); }
 
-bool MayRepeat(std::string_view word) { return BeginsLike(kBorders, word); }
+bool MayRepeat(std::string_view word) { return HasPrefix(kBorders, word); }
 
 bool NamesTableEntry(std::string_view word) {
   return std::ranges::find(kTableWords, word) != std::end(kTableWords);

@@ -1,26 +1,26 @@
-// What control words belong to that the editor shows nothing of.
+// Classifies the control words that the editor does not show.
 #pragma once
 #include <cstdint>
 #include <string_view>
 
 namespace lumenote {
 
-/// What a word belongs to, and thus what makes it go.
+/// What a word belongs to, and hence what cancels it.
 enum class WordScope : std::uint8_t {
-  None,       // means nothing, or nothing that outlasts the session that wrote it
+  None,       // meaningless, or only within the session that wrote it
   Character,  // until \plain
   Paragraph,  // until \pard
-  Place,      // stays where it is: sections, table rows, automatic text
-  Border,     // says more about the border that the word before it names
+  Anchored,   // stays in place: sections, table rows, automatic text
+  Border,     // details of the border named before it
 };
 
-/// The scope of a word by the family that its name begins with.
+/// The scope of a word's family, given by a prefix of its name.
 WordScope FamilyScope(std::string_view word);
-/// Whether the word names a border, so that others may say more about it.
+/// Whether the word names a border, so that details may follow.
 bool NamesBorder(std::string_view word);
-/// Whether a paragraph may say the word more than once: for each side of its border.
+/// Whether a paragraph may repeat the word, once per side of its border.
 bool MayRepeat(std::string_view word);
-/// Whether the word's number is that of a font, colour, style or list.
+/// Whether the word's number refers to a font, colour, style or list.
 bool NamesTableEntry(std::string_view word);
 
 }  // namespace lumenote

@@ -9,23 +9,24 @@ namespace lumenote {
 namespace {
 
 constexpr std::size_t kMaxWords = 64;         // of one format
-constexpr std::size_t kLongestName = 32;      // letters, more than any word has
+constexpr std::size_t kLongestName = 32;      // letters, more than any real word
 constexpr std::size_t kLongestGroup = 512;    // bytes
-constexpr std::size_t kLeastWords = 1 << 13;  // of all formats together
+constexpr std::size_t kLeastWords = 1 << 13;  // for all formats together
 
 using Kind = KeptWord::Kind;
 using Words = std::vector<KeptWord>;
-using Place = Words::iterator;
+using Iterator = Words::iterator;
 
 bool IsScript(KeptWord word) { return word.kind == Kind::Script || word.kind == Kind::HighScript; }
 
 struct Part {
-  Place begin, end;
+  Iterator begin, end;
 };
 
-/// The part of a mark; empty, at the end, when there is none.
+/// The part that starts with a marker; empty, at the end, if there is none.
 Part PartOf(NameId mark, Words& words) {
-  const Place begin = std::ranges::find_if(words, [=](KeptWord word) { return word.name == mark; });
+  const Iterator begin =
+      std::ranges::find_if(words, [=](KeptWord word) { return word.name == mark; });
   if (begin == words.end()) return {begin, begin};
   return {begin, std::find_if(begin + 1, words.end(), IsMark)};
 }
@@ -66,7 +67,7 @@ WordsId WordKeeper::WithMark(const Token& mark, KeptWord::Kind kind, WordsId wor
   if (moved.empty()) moved.push_back({.name = mark_, .kind = kind});
   all.erase(part.begin, part.end);
   const bool last = IsScript(moved.front());
-  const Place to = last ? all.end() : std::ranges::find_if(all, IsScript);
+  const Iterator to = last ? all.end() : std::ranges::find_if(all, IsScript);
   all.insert(to, moved.begin(), moved.end());
   return Number(std::move(all), words);
 }
@@ -76,13 +77,14 @@ WordsId WordKeeper::WithAssociated(const Token& word, WordsId words) {
   Words all = formats_.words.List(words);
   Part part = PartOf(mark_, all);
   if (mark_ == 0 || name == 0 || part.begin == part.end) return words;
-  const Place same = std::find_if(part.begin, part.end, [=](KeptWord w) { return w.name == name; });
+  const Iterator same =
+      std::find_if(part.begin, part.end, [=](KeptWord w) { return w.name == name; });
   if (same != part.end) part.end = all.erase(same) + (part.end - same - 1);
   all.insert(part.end, Numbered(name, word));
   return Number(std::move(all), words);
 }
 
-/// 0 for a word that is none, or that no table has room for.
+/// 0 for a missing word, or if the table is full.
 NameId WordKeeper::Name(const Token& word) {
   return word.text.size() > kLongestName ? 0 : formats_.names.Intern(std::string(word.text));
 }

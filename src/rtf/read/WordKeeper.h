@@ -1,4 +1,4 @@
-// The kept words of the run and paragraph formats being read.
+// Collects the kept words of the formats being read.
 #pragma once
 #include <cstddef>
 #include <string>
@@ -9,24 +9,24 @@
 
 namespace lumenote {
 
-/// Adds words to those of a format: each function returns the number of `words` with one more, or
-/// `words` where there is no room. Formats of hostile sources have few words each, and all of them
-/// together hardly more than the source.
+/// Each function adds a word to a chain and returns the new chain's number, or `words` unchanged if
+/// a limit is reached. A format may have only few words, and all of them together hardly more than
+/// the source, which bounds hostile sources.
 class WordKeeper {
  public:
   WordKeeper(FormatTables& formats, std::size_t sourceLength);
 
-  /// Takes the place of what the same word said before, unless it may be said for each border.
+  /// Replaces an earlier use of the same word, unless it may be repeated per border.
   WordsId With(const Token& word, WordsId words);
-  /// A group that numbers the paragraph.
+  /// Adds a group that numbers the paragraph.
   WordsId WithNumbering(const std::string& group, WordsId words);
 
-  // How other scripts look is told in parts, each a mark and the words that hold for it: for the
-  // directions, and behind these for the scripts. The last one of each kind is the run's own.
+  // The look of other scripts is given in parts, each a marker and the words that apply to it:
+  // first for directions, then for scripts. The last part of each kind applies to the run itself.
 
-  /// Makes the part of that mark, which now becomes the current one, the last of its kind.
+  /// Makes that marker's part current and the last of its kind.
   WordsId WithMark(const Token& mark, KeptWord::Kind kind, WordsId words);
-  /// A word of the current part.
+  /// Adds a word to the current part.
   WordsId WithAssociated(const Token& word, WordsId words);
   void LeavePart() { mark_ = 0; }
 
@@ -36,7 +36,7 @@ class WordKeeper {
 
   FormatTables& formats_;
   NameId mark_ = 0;        // of the current part, 0 none
-  std::size_t wordsLeft_;  // that may still be kept
+  std::size_t wordsLeft_;  // remaining budget of words
 };
 
 }  // namespace lumenote

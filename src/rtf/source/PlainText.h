@@ -1,4 +1,4 @@
-// Copying plain text, many characters at a time.
+// Copies plain text, many characters at a time.
 #pragma once
 #include <bit>
 #include <cstdint>
@@ -9,21 +9,21 @@
 
 namespace lumenote {
 
-/// Whether a character means itself in RTF: from 0x20 to 0x7E, no backslash and no brace.
+/// Whether a character is literal in RTF: 0x20 to 0x7E except backslash and braces.
 constexpr bool IsPlain(char16_t unit) {
   return unit >= 0x20 && unit < 0x7F && unit != u'\\' && unit != u'{' && unit != u'}';
 }
 
-// `CopyPlain` copies `kPlainStep` characters and returns how many of them come before the first one
-// that is not plain; what comes out for the others does not matter.
+// `CopyPlain` copies `kPlainStep` characters and returns the number of plain ones at the start; the
+// rest of the output is unspecified.
 #ifdef __SSE2__
 
 inline constexpr int kPlainStep = 16;
 
 namespace lanes {
 
-/// How many of sixteen bytes come before the first one that is not plain. Raised by one,
-/// bytes from 0x7F on are negative or 0 here.
+/// The number of plain bytes at the start of sixteen. Adding one makes bytes from 0x7F on negative
+/// or 0.
 inline int PlainBytes(__m128i bytes) {
   const __m128i raised = _mm_add_epi8(bytes, _mm_set1_epi8(1));
   const __m128i marks = _mm_or_si128(_mm_or_si128(_mm_cmplt_epi8(raised, _mm_set1_epi8(0x21)),
@@ -52,7 +52,7 @@ inline int CopyPlain(const char* from, char* to) {
 
 inline int CopyPlain(const char16_t* from, char* to) {
   const auto* in = reinterpret_cast<const __m128i*>(from);
-  // Saturates: a unit from 0x100 on becomes 0xFF, one from 0x8000 on 0, and neither is plain.
+  // Saturates: a unit from 0x100 on becomes 0xFF, one from 0x8000 on 0; neither is plain.
   const __m128i bytes = _mm_packus_epi16(_mm_loadu_si128(in), _mm_loadu_si128(in + 1));
   _mm_storeu_si128(reinterpret_cast<__m128i*>(to), bytes);
   return lanes::PlainBytes(bytes);
@@ -62,7 +62,7 @@ inline int CopyPlain(const char16_t* from, char* to) {
 
 inline constexpr int kPlainStep = 8;
 
-// The characters lie side by side in 64-bit words, in lanes of eight or sixteen bits.
+// Characters packed in 64-bit words, in lanes of eight or sixteen bits.
 namespace lanes {
 
 inline constexpr std::uint64_t kBytes = 0x0101010101010101;  // 1 in each lane
@@ -75,13 +75,13 @@ Word Load(const Character* from) {
   return word;
 }
 
-/// 0x80 in each byte that is zero; exact, no carry runs into a neighbour.
+/// 0x80 in each zero byte; exact, without carries between lanes.
 constexpr std::uint64_t ZeroBytes(std::uint64_t word) {
   constexpr std::uint64_t kLow = kBytes * 0x7F;
   return ~(((word & kLow) + kLow) | word) & kBytes * 0x80;
 }
 
-/// How many bytes, in the order of memory, come before the first one that is not plain.
+/// The number of plain bytes at the start, in memory order.
 inline int PlainBytes(std::uint64_t word) {
   const std::uint64_t marks = ZeroBytes(word & kBytes * 0xE0) | ZeroBytes(word ^ kBytes * '\\') |
                               ZeroBytes(word ^ kBytes * '{') | ZeroBytes(word ^ kBytes * '}') |
@@ -97,7 +97,7 @@ constexpr std::uint64_t FourUnits(std::uint32_t bytes) {
   return (units | units << 8) & kUnits * 0xFF;
 }
 
-/// A unit from 0x80 on becomes a byte from 0x80 on.
+/// A unit above 0x7F becomes a byte above 0x7F.
 constexpr std::uint32_t FourBytes(std::uint64_t units) {
   const std::uint64_t beyond = ((units & kUnits * 0x7F80) + kUnits * 0x7F80) | units;
   std::uint64_t bytes = (units & kUnits * 0x7F) | (beyond >> 8 & kUnits * 0x80);

@@ -46,7 +46,7 @@ int HexDigit(char c) { return kHexDigits[static_cast<unsigned char>(c)]; }
 
 constexpr std::ptrdiff_t kHexLength = 4;  // of \'xx
 
-/// What stands at `at` when it is a whole \'xx of a printable byte, else -1.
+/// The value of a complete \'xx at `at` if its byte is printable, else -1.
 int HexValue(const char* at, const char* end) {
   if (end - at < kHexLength || at[0] != '\\' || at[1] != '\'') return -1;
   const int high = HexDigit(at[2]);
@@ -54,7 +54,7 @@ int HexValue(const char* at, const char* end) {
   return high >= 2 && low >= 0 ? high * 16 + low : -1;
 }
 
-/// Passes over the digits at `at`; returns their number, held within that of an int.
+/// Consumes the digits at `at` and returns their value, clamped to the range of an int.
 std::int64_t Digits(const char*& at, const char* end) {
   constexpr std::int64_t kMax = std::numeric_limits<int>::max();
   std::int64_t number = 0;
@@ -66,14 +66,13 @@ bool IsNegative(const char* at, const char* end) {
   return end - at > 1 && *at == '-' && IsDigit(at[1]);
 }
 
-/// A unit and the length of its source, both 0 for none.
+/// A unit and the length of its source; both are 0 if there is none.
 struct Escaped {
   char16_t unit = 0;
   std::ptrdiff_t length = 0;
 };
 
-/// The \u at `at` when it stands for a printable unit and has one character behind it for readers
-/// that do not know it.
+/// The \u at `at` if its unit is printable and it has one fallback character.
 Escaped UnicodeAt(const char* const at, const char* end) {
   constexpr std::ptrdiff_t kLeast = 4;  // \u, a digit, a character
   if (end - at < kLeast || at[0] != '\\' || at[1] != 'u') return {};
@@ -148,10 +147,10 @@ Token Tokenizer::Next() {
   return {};
 }
 
-/// Bytes of one class from `at_` on.
+/// Consumes bytes of one class from `at_` on.
 template <class Holds>
 std::string_view Tokenizer::While(const char* end, Holds holds) {
-  const char* at = at_;  // no store in the loop
+  const char* at = at_;  // keeps stores out of the loop
   while (at != end && holds(*at)) ++at;
   return {std::exchange(at_, at), at};
 }
@@ -201,7 +200,7 @@ std::size_t Tokenizer::DecodeWith(Decoder decoder, bool unicode, std::span<Unit>
   Unit* out = room.data();
   const Unit* const limit = out + room.size();
   const bool keepsAscii = decoder.KeepsAscii();
-  const char* at = at_;  // no store in the loop
+  const char* at = at_;  // keeps stores out of the loop
   while (out != limit && at != end_) {
     if (keepsAscii && end_ - at >= kPlainStep && limit - out >= kPlainStep) {
       const int plain = CopyPlain(at, out);

@@ -1,4 +1,4 @@
-// Cuts RTF source into tokens.
+// Splits RTF source into tokens.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace lumenote {
 
-/// One piece of RTF source. Its views point into the source.
+/// A token; its views point into the source.
 struct Token {
   enum class Kind : std::uint8_t {
     End,     // of the source
@@ -17,52 +17,52 @@ struct Token {
     Close,   // }
     Word,    // \name or \name123
     Symbol,  // a backslash and one other character
-    Byte,    // \'xx, or a control character other than CR, LF and NUL
-    Text,    // bytes from 0x20 to 0x7E that mean themselves
+    Byte,    // \'xx, or a control character except CR, LF and NUL
+    Text,    // literal bytes from 0x20 to 0x7E
     High,    // bytes from 0x80
-    Binary,  // \binN with its bytes
+    Binary,  // \binN with its data
   };
   Kind kind = Kind::End;
   unsigned char byte = 0;      // of Byte and Symbol
   bool hasNumber = false;      // of Word
-  int number = 0;              // of Word; held within 32 bits
-  std::string_view text = {};  // the name of a word, the bytes of the others
+  int number = 0;              // of Word; clamped to 32 bits
+  std::string_view text = {};  // the name of a word, the bytes of other tokens
 };
 
-/// Whether a token stands nowhere in the tables at the head of a source: a table in which it turns
-/// up lacks its closing brace.
+/// Whether a token cannot occur in the head's tables; finding it in a table shows that the table's
+/// closing brace is missing.
 bool EndsTable(const Token& token);
 
-/// Never fails: a damaged escape gives nothing, a \bin that would reach beyond the source has no
-/// bytes. CR, LF and NUL bytes count for nothing.
+/// Never fails: a damaged escape yields nothing, and a \bin that exceeds the source has no data.
+/// Ignores CR, LF and NUL bytes.
 class Tokenizer {
  public:
   /// The bytes must outlive the tokenizer.
   explicit Tokenizer(std::string_view source);
 
-  /// A text token is at most `kLongest` bytes, so that what is scanned is still in the cache when
-  /// it is copied.
+  /// A text token has at most `kLongest` bytes, so that scanned bytes are still cached when they
+  /// are copied.
   Token Next();
   static constexpr std::ptrdiff_t kLongest = 1024;
 
-  /// Whether text, a \'xx of a printable byte or, with `unicode`, a \u with one character behind it
-  /// for other readers comes next. `unicode` is right only where \uc is 1, as it mostly is.
+  /// Whether text comes next: a literal byte, a \'xx of a printable byte or, with `unicode`, a \u
+  /// with one fallback character. Pass `unicode` only if \uc is 1, as it usually is.
   bool AtText(bool unicode);
-  /// Decodes what `AtText` tells of, bytes by a single-byte page, until `room` is full. Stops
-  /// before anything else; returns the number of units.
+  /// Decodes the text that `AtText` announces, bytes by a single-byte page, until `room` is full.
+  /// Stops before anything else; returns the number of units.
   std::size_t Decode(const CodePage& page, bool unicode, std::span<char16_t> room);
-  /// The same from page 1252 to bytes of it; stops before a \u that has none, too.
+  /// The same from page 1252 to bytes of that page; also stops before a \u that has none.
   std::size_t DecodeToBytes(bool unicode, std::span<char> room);
-  /// Whether the rest of the source is closing braces.
+  /// Whether only closing braces remain.
   bool OnlyClosesFollow() const { return at_ >= tail_; }
-  /// Whether any brace or backslash is left.
+  /// Whether any brace or backslash remains.
   bool MarkupFollows() const { return At() < markupEnd_; }
-  /// Whether the next brace or backslash is the beginning of a document.
+  /// Whether the next brace or backslash starts a document.
   bool DocumentFollows() const;
   bool AtEnd() const { return at_ == end_; }
-  /// Puts the last token back.
+  /// Un-reads the last token.
   void Unread() { at_ = start_; }
-  /// Puts the last `count` bytes of a text token back.
+  /// Un-reads the last `count` bytes of a text token.
   void PutBack(std::size_t count) { at_ -= count; }
   /// Offset of the last token, and of what follows it.
   std::size_t Start() const { return static_cast<std::size_t>(start_ - begin_); }
@@ -71,9 +71,8 @@ class Tokenizer {
     return {begin_ + from, to - from};
   }
 
-  /// Passes each token of the group that the tokenizer stands in to `visit`, those of inner groups
-  /// included, and stops before the "}" that closes it. Braces are counted, so nesting costs no
-  /// memory.
+  /// Calls `visit` for each token of the current group and its subgroups, and stops before the
+  /// group's closing "}". Counts braces, so nesting needs no memory.
   template <class Visit>
   void ForEachInGroup(Visit visit) {
     WhileInGroup([&](const Token& token) {
@@ -81,7 +80,7 @@ class Tokenizer {
       return true;
     });
   }
-  /// The same until `visit` returns false; that token is put back.
+  /// The same until `visit` returns false; un-reads that token.
   template <class Visit>
   void WhileInGroup(Visit visit) {
     std::size_t depth = 0;
@@ -111,7 +110,7 @@ class Tokenizer {
   const char* at_;
   const char* end_;
   const char* start_;
-  const char* tail_;  // where the closing braces at the end begin
+  const char* tail_;  // start of the closing braces at the end
   std::size_t markupEnd_;
 };
 

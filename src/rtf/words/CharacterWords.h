@@ -1,5 +1,5 @@
-// The words of character formats that reader and writer share: a row here makes an attribute read
-// and written.
+// The control words of character formats, shared by reader and writer: a row here makes an
+// attribute read and written.
 #pragma once
 #include <algorithm>
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace lumenote {
 
-/// \name switches an effect on, \name0 off.
+/// \name turns an effect on, \name0 turns it off.
 struct EffectWord {
   std::string_view name, on, off;
   std::uint16_t effect;
@@ -31,23 +31,23 @@ inline constexpr EffectWord kEffectWords[] = {
     {"deleted", "deleted", "deleted0", kDeleted},
 };
 
-/// By Underline.
+/// Indexed by Underline.
 inline constexpr std::string_view kUnderlineWords[] = {
     "ulnone",  "ul",       "ulw",      "uldb",      "uld",        "uldash",
     "uldashd", "uldashdd", "ulth",     "ulwave",    "ululdbwave", "ulhwave",
     "ulldash", "ulthd",    "ulthdash", "ulthdashd", "ulthdashdd", "ulthldash"};
 
-/// An attribute that is told by \name and a number; written where it changes, in this order.
+/// An attribute written as \name and a number, where it changes and in the order of this table.
 struct NumberWord {
   enum class Kind : std::uint8_t {
     Number,
-    Colour,      // by its number in the colour table
+    Colour,      // an index into the colour table
     Background,  // the same, but 0 is none
   };
   std::string_view name;
   Kind kind;
   std::int64_t (*get)(const CharFormat&);
-  void (*set)(CharFormat&, std::int64_t);  // clips to what the attribute holds
+  void (*set)(CharFormat&, std::int64_t);  // clamps to the attribute's range
 };
 
 template <auto kMember, std::int64_t kLeast>
@@ -60,7 +60,7 @@ constexpr void SetNumber(CharFormat& format, std::int64_t number) {
   constexpr std::int64_t kMax = std::numeric_limits<Member>::max();
   format.*kMember = static_cast<Member>(std::clamp(number, kLeast, kMax));
 }
-/// No number is less than `kLeast`.
+/// Numbers below `kLeast` are clamped.
 template <auto kMember, std::int64_t kLeast>
 constexpr NumberWord WordOf(std::string_view name, NumberWord::Kind kind) {
   return {name, kind, GetNumber<kMember, kLeast>, SetNumber<kMember, kLeast>};
@@ -74,7 +74,7 @@ inline constexpr NumberWord kNumberWords[] = {
     WordOf<&CharFormat::language, 0>("lang", NumberWord::Kind::Number),
 };
 
-/// The row of that name, for words that say the same.
+/// Index of the row of that name, for its synonyms.
 consteval int NumberWordCalled(std::string_view name) {
   int row = 0;
   while (kNumberWords[row].name != name) ++row;

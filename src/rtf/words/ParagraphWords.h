@@ -1,4 +1,4 @@
-// The words of paragraph formats that reader and writer share.
+// The control words of paragraph formats, shared by reader and writer.
 #pragma once
 #include <cstdint>
 #include <string_view>
@@ -7,10 +7,11 @@
 
 namespace lumenote {
 
-inline constexpr int kMaxLength = 1'000'000;  // twips; far beyond any paper
-inline constexpr int kUnitsOfTwentieth = 12;  // \sl counts 240 units a line, the format 20
+inline constexpr int kMaxLength = 1'000'000;  // twips; far beyond any paper size
+inline constexpr int kUnitsOfTwentieth = 12;  // \sl counts 240 units per line, the format 20
 
-/// A length in twips that the format holds as RTF tells it: a row here makes it read and written.
+/// A length that the format stores as RTF writes it, in twips: a row here makes it read and
+/// written.
 struct LengthWord {
   std::string_view name;
   std::int32_t ParaFormat::*length;
@@ -21,14 +22,14 @@ inline constexpr LengthWord kLengthWords[] = {
     {"sa", &ParaFormat::spaceAfter},
 };
 
-/// The row of that name, for words that say the same.
+/// Index of the row of that name, for its synonyms.
 consteval int LengthWordCalled(std::string_view name) {
   int row = 0;
   while (kLengthWords[row].name != name) ++row;
   return row;
 }
 
-/// By Alignment.
+/// Indexed by Alignment.
 inline constexpr std::string_view kAlignmentWords[] = {"ql", "qr", "qc", "qj"};
 
 }  // namespace lumenote

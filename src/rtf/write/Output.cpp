@@ -1,4 +1,4 @@
-// Buffering and the lexical rules of RTF, seen from the writer.
+// Buffering, and RTF's lexical rules for writing.
 #include "rtf/write/Output.h"
 
 #include <algorithm>
@@ -30,11 +30,11 @@ char* PutHex(int byte, char* out) {
   return out + kHexLength;
 }
 
-/// How a byte of page 1252 is written: as itself or escaped. Those that have a symbol of their own
-/// or mean more than themselves have no form here.
+/// The written form of a byte of page 1252: literal or escaped. Characters with a symbol of their
+/// own or a special meaning have none.
 struct Form {
   Escape text{};
-  std::uint8_t length = 0;  // 0 for no form
+  std::uint8_t length = 0;  // 0 if there is none
 };
 
 constexpr std::array<Form, 256> kForms = [] {
@@ -49,7 +49,7 @@ constexpr std::array<Form, 256> kForms = [] {
   return forms;
 }();
 
-/// The forms for all of page 1252, and for ASCII alone.
+/// The forms of all of page 1252, and of ASCII only.
 struct WindowsForms {
   static const Form& Of(char16_t unit) { return kForms[ByteOf1252(unit)]; }
   static const Form& Of(char byte) { return kForms[static_cast<unsigned char>(byte)]; }
@@ -62,21 +62,22 @@ struct AsciiForms {
   }
 };
 
-/// Writes the beginning of `text` that consists of characters that have a form; returns its length.
-/// Takes room for `kHexLength` bytes a unit, and writes to it beyond what counts.
+/// Writes the longest prefix of `text` whose characters have forms and returns its length. Needs
+/// space for `kHexLength` bytes per unit and may write beyond the result.
 template <class Forms, class Unit>
 std::size_t PutForms(std::basic_string_view<Unit> text, char*& out) {
   const Unit* at = text.data();
   const Unit* const end = at + text.size();
-  char* to = out;  // no store in the loop
+  char* to = out;  // keeps stores out of the loop
   while (at != end) {
-    // One more than a step, since what comes behind it is looked at too.
+    // Needs one character more than a step, since the character after it is examined too.
     if (end - at > kPlainStep) {
       const int plain = CopyPlain(at, to);
       at += plain;
       to += plain;
     }
-    // Plain or escaped, the one as often as the other: a table knows without guessing.
+    // Plain and escaped characters are about equally frequent: a table avoids mispredicted
+    // branches.
     const Form& form = Forms::Of(*at);
     std::memcpy(to, form.text.data(), kHexLength);
     if (form.length == 0) break;
@@ -87,7 +88,7 @@ std::size_t PutForms(std::basic_string_view<Unit> text, char*& out) {
   return static_cast<std::size_t>(at - text.data());
 }
 
-/// The byte that a reader turns into `unit` again, or -1.
+/// The byte that reads back as `unit`, or -1.
 int ByteFor(char16_t unit, Encoding encoding) {
   if (unit == 0) return -1;
   if (unit <= u' ') return unit;
@@ -96,7 +97,7 @@ int ByteFor(char16_t unit, Encoding encoding) {
   return unit < 0x80 ? unit : -1;
 }
 
-/// The symbol of a character that has one, else nothing.
+/// The symbol of a character that has one, else empty.
 std::string_view SymbolFor(char16_t unit) {
   switch (unit) {
     case u'\\':
@@ -116,7 +117,7 @@ std::string_view SymbolFor(char16_t unit) {
   }
 }
 
-/// Whether a character is more than itself.
+/// Whether a character has a special meaning.
 bool StopsText(char16_t unit) {
   return unit == u'\t' || unit == u'\v' || unit == u'\r' || unit == u'\uFFFC';
 }

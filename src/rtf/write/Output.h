@@ -1,4 +1,4 @@
-// RTF source on its way out.
+// The output stream of the RTF writer.
 #pragma once
 #include <cstddef>
 #include <cstdint>
@@ -12,55 +12,52 @@
 
 namespace lumenote {
 
-/// How the characters of a font are written.
+/// How the characters of a font are encoded.
 enum class Encoding : std::uint8_t { Windows, Symbols, UnicodeOnly };
 
-/// Gathers the output and hands it on in pieces of about 64 KB, the last ones by `Flush`. A source
-/// that is longer, such as a picture, is not copied but waits for `HandOn`, and what comes behind
-/// it waits too; so it lasts until then. Knows whether a control word still waits for something
-/// that ends it.
+/// Buffers the output and emits pieces of about 64 KB, the rest on `Flush`. A longer piece of
+/// source, such as a picture, is not copied but queued for `HandOn`, together with everything after
+/// it; it must stay valid until then. Tracks whether the last control word needs a delimiter.
 class Output {
  public:
   explicit Output(const ByteSink& sink);
 
-  /// A control word, without its backslash; no longer than words are.
+  /// Writes a control word, given without its backslash; of ordinary length.
   void Word(std::string_view name);
   void Word(std::string_view name, int number);
-  /// Control words with their backslashes, and groups between and behind them.
+  /// Writes control words with their backslashes, and groups among them.
   void Words(std::string_view source);
-  /// Braces, line ends and whatever else can follow a control word directly.
+  /// Writes braces, line ends and anything else that delimits a control word.
   void Raw(std::string_view source);
   void Character(char16_t unit, Encoding encoding);
   /// \'xx
   void Hex(int byte);
-  /// A unit for any reader: its number, and "?" where that is not understood.
+  /// A unit that any reader can handle: its number, with "?" as fallback.
   void Unicode(char16_t unit);
-  /// Writes the beginning of `text` that consists of plain characters, and returns its length.
+  /// Writes the longest prefix of plain characters and returns its length.
   std::size_t Plain(TextView text);
-  /// Writes the beginning of `text` that holds no tab, break or embedded object, and returns its
-  /// length.
+  /// Writes the longest prefix without tab, break or embedded object and returns its length.
   std::size_t Text(TextView text, Encoding encoding);
   void Flush();
-  /// Hands on one piece of what waits; false when nothing does.
+  /// Emits one piece of the queue; false if it is empty.
   bool HandOn();
   bool Waits() const { return !waiting_.empty(); }
 
  private:
   struct Waiting {
     std::string gathered;
-    std::string_view lasting;  // in its place
+    std::string_view lasting;  // used instead of a copy
   };
 
   static constexpr std::size_t kPiece = std::size_t{1} << 16;
-  static constexpr std::size_t kShort = 256;  // there is always room for as many bytes
+  static constexpr std::size_t kShort = 256;  // space that is always available
 
   template <class Unit>
   std::size_t TextAs(std::basic_string_view<Unit> text, Encoding encoding);
-  /// `WriteForms` with the forms that the encoding has.
+  /// `WriteForms` with the forms of the encoding.
   template <class Unit>
   std::size_t WriteEncoded(std::basic_string_view<Unit> text, Encoding encoding);
-  /// Writes the beginning of `text` that consists of characters that have a form, and returns its
-  /// length.
+  /// Writes the longest prefix whose characters have forms and returns its length.
   template <class Forms, class Unit>
   std::size_t WriteForms(std::basic_string_view<Unit> text);
   void Append(std::string_view source);

@@ -1,14 +1,14 @@
-// Writing in one go.
+// Writes RTF in one go.
 #include "rtf/write/Writer.h"
 
-#include "rtf/write/RtfWriting.h"
+#include "rtf/write/RtfWriter.h"
 
 namespace lumenote {
 namespace {
 
 void WriteText(const Document& document, Selection range, std::optional<FinalMark> mark,
                const ByteSink& sink) {
-  RtfWriting writing(document, range, mark, sink);
+  RtfWriter writing(document, range, mark, sink);
   while (writing.Step(LeafList::kMax)) continue;
 }
 

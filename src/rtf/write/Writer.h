@@ -1,4 +1,4 @@
-// Writing a document, or a piece of it, as RTF.
+// Writes a document, or a range of it, as RTF.
 #pragma once
 #include <functional>
 #include <string>
@@ -8,14 +8,14 @@
 
 namespace lumenote {
 
-/// Called with successive pieces of the output.
+/// Called with successive chunks of the output.
 using ByteSink = std::function<void(std::string_view)>;
 
-/// The whole document: reading it back gives the same text and formats, and writing that again the
-/// same bytes. Pure ASCII, lines ended by CR LF.
+/// Writes the whole document as pure ASCII with CR LF line ends. Reading it back gives the same
+/// text and formats, and writing that again gives the same bytes.
 void WriteRtf(const Document& document, const ByteSink& sink);
 std::string WriteRtf(const Document& document);
-/// The text between two positions; a \par for each break in it and none besides.
+/// Writes a range, with a \par for each break in it and no other.
 std::string WriteRtf(const Document& document, Position from, Position to);
 
 }  // namespace lumenote

@@ -19,9 +19,9 @@ bool IsDefinition(const KeptItem& item) {
 void WrittenBody::BeginParagraph() {
   begun_ = true;
   if (HasFormat()) Paragraph(Governing(), true);
-  const std::vector<WrittenParagraphs::Lead>& leads = paragraphs_.leads;
-  for (; lead_ < leads.size() && leads[lead_].paragraph <= index_; ++lead_)
-    Items(tables_.kept[leads[lead_].kept].before);
+  const std::vector<WrittenParagraphs::LeadingItems>& leading = paragraphs_.leading;
+  for (; leading_ < leading.size() && leading[leading_].paragraph <= index_; ++leading_)
+    Items(tables_.kept[leading[leading_].kept].before);
 }
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
@@ -39,7 +39,7 @@ void WrittenBody::Paragraph(ParaId id, bool atStart) {
   out_.Words(*wanted.words);
 }
 
-/// The format, out of a list that the source does not define.
+/// The format, without a list that the source does not define.
 ParaFormat WrittenBody::WrittenOf(ParaId paragraph) const {
   ParaFormat format = tables_.paragraphs[paragraph];
   if (!whole_) format.list = 0;
@@ -52,8 +52,8 @@ const std::string& WrittenBody::Words(ParaId paragraph) {
   return *known;
 }
 
-/// What readers without bullets show comes with each paragraph; the first one of a series says what
-/// the bullet is, unless its list does.
+/// Each paragraph gets the visible bullet for readers that know no bullets; the first of a series
+/// also defines the bullet, unless its list does.
 void WrittenBody::Bullet(ParaId id, bool changed, bool atStart) {
   const int font = formats_.BulletFont();
   const bool ofList = WrittenOf(id).list != 0;
@@ -86,18 +86,18 @@ int WrittenBody::RowDepth() const {
   return HasFormat() ? paragraphs_.rowDepths[index_] : WrittenParagraphs::kNoRow;
 }
 
-/// How deep in tables the paragraph at hand, of format `paragraph`, is told to be.
+/// The table nesting to write for the current paragraph, of format `paragraph`.
 int WrittenBody::Nesting(ParaId paragraph) const {
   const int row = std::max(RowDepth(), 0);
   return row > 1 ? row : std::min<int>(tables_.paragraphs[paragraph].nesting, row);
 }
 
-/// The format of the cell at hand, or of the paragraph.
+/// The format of the current cell, or of the paragraph.
 ParaId WrittenBody::Governing() const {
   return Cell() ? Cell()->format : paragraphs_.formats[index_];
 }
 
-/// Whether readers number the paragraph at hand.
+/// Whether readers will number the current paragraph.
 bool WrittenBody::IsList() const {
   if (!HasFormat()) return false;
   const ParaFormat format = WrittenOf(Governing());
@@ -107,9 +107,9 @@ bool WrittenBody::IsList() const {
 
 // --- fields
 
-/// Whether `number`, the number of a list paragraph, is still that for the next character: an edit
-/// may have made a break of it, put text before it, or taken the paragraph out of the list. It is
-/// ordinary text then.
+/// Whether the list number `number` is still one at the next character: an edit may have put a
+/// break in it or text before it, or taken the paragraph out of the list. It is written as ordinary
+/// text then.
 bool WrittenBody::IsNumber(FieldId number, char16_t unit) const {
   const bool open = std::ranges::find(fields_, number, &Open::id) != fields_.end();
   return unit != u'\r' && (open || !begun_) && IsList();
@@ -119,10 +119,9 @@ bool WrittenBody::IsListNumber(FieldId field) const {
   return tables_.fields[field].kind == KeptField::Kind::ListNumber;
 }
 
-/// Leaves the fields that the next character is not in, and enters those that it is in. Of the
-/// items `before` that character, definitions stay outside the field, and so does all that comes
-/// before a list number: readers number the paragraph where its number stands. Returns what is
-/// still to be written of them.
+/// Closes the fields that the next character is not in and opens those that it is in. Of the items
+/// `before` that character, definitions stay outside the field, and so does everything before a
+/// list number, since readers number the paragraph there. Returns the items still to be written.
 ItemId WrittenBody::EnterFields(FieldId wanted, char16_t unit, ItemId before) {
   if (fields_.empty() && wanted == 0 && begun_) return before;
   chain_.clear();
@@ -176,8 +175,8 @@ void WrittenBody::Text(TextView text, CharId format) {
   while (!text.Empty()) text.RemovePrefix(Step(text));
 }
 
-/// Items are written once, even before a character that an edit has made several of. A cell that is
-/// part of no row is text that ends in a tab.
+/// Items are written once, even if an edit has duplicated their character. A cell outside a row is
+/// text that ends in a tab.
 void WrittenBody::KeptText(TextView text, CharId format, const Kept& kept, bool again) {
   while (!text.Empty()) {
     const char16_t unit = text.Front();
@@ -194,7 +193,7 @@ void WrittenBody::Items(ItemId first) {
   tables_.items.ForEach(first, [this](const KeptItem& item) { out_.Words(item.source); });
 }
 
-/// What comes before a character: items, and changes of fields and format.
+/// Writes what precedes a character: items, and changes of fields and format.
 void WrittenBody::Before(const Kept& kept, CharId format, char16_t unit, bool again) {
   const bool written = again || tables_.items.Any(kept.before, IsBreak);
   const ItemId rest = EnterFields(kept.field, unit, written ? 0 : kept.before);
@@ -208,7 +207,7 @@ void WrittenBody::Before(const Kept& kept, CharId format, char16_t unit, bool ag
   }
 }
 
-/// Whether the character is still what the source said.
+/// Whether the character is still what the source made it.
 bool WrittenBody::IsValid(const Kept& kept, char16_t unit) const {
   switch (kept.kind) {
     case Kept::Kind::Embedded:
@@ -224,13 +223,13 @@ bool WrittenBody::IsValid(const Kept& kept, char16_t unit) const {
   }
 }
 
-/// Whether the end of a page, column or section has lost the text before it: readers then make no
-/// paragraph of it.
+/// Whether a page, column or section break has lost the text before it; readers make no paragraph
+/// of such a break.
 bool WrittenBody::IsEmptyBreak(const Kept& kept, char16_t unit) const {
   return kept.kind == Kept::Kind::Break && unit == u'\r' && !filled_;
 }
 
-/// Writes the character as the source said it; returns its length.
+/// Writes the character as in the source; returns its length.
 std::size_t WrittenBody::KeptCharacter(const Kept& kept, char16_t unit) {
   if (kept.kind == Kept::Kind::Cell || kept.kind == Kept::Kind::Row)
     EndCell(kept);
@@ -259,7 +258,7 @@ void WrittenBody::EndRow(ItemId definition) {
   out_.Word("row");
 }
 
-/// Readers want the table told anew before the end of a nested row.
+/// Readers expect the table's definition again before the end of a nested row.
 void WrittenBody::EndNestedRow(ItemId definition) {
   out_.Words("\\pard\\intbl");
   out_.Word("itap", Cell()->rowDepth);
@@ -269,7 +268,7 @@ void WrittenBody::EndNestedRow(ItemId definition) {
   known_ = {};
 }
 
-/// Writes some of the text and returns how much.
+/// Writes part of the text and returns its length.
 std::size_t WrittenBody::Step(TextView text) {
   if (!begun_) BeginParagraph();
   filled_ = true;
@@ -277,7 +276,7 @@ std::size_t WrittenBody::Step(TextView text) {
   return count > 0 ? count : Special(text.Front());
 }
 
-/// Writes a tab, break or object, told by its first unit; returns its length.
+/// Writes a tab, break or object, identified by its first unit; returns its length.
 std::size_t WrittenBody::Special(char16_t unit) {
   if (unit == u'\r') {
     Paragraph(paragraphs_.formats[index_], false);

@@ -1,4 +1,4 @@
-// The body of the source: paragraphs, runs, characters, and what is kept among them.
+// Writes the body: paragraphs, runs, characters, and the kept items among them.
 #pragma once
 #include <optional>
 #include <string>
@@ -14,7 +14,7 @@ namespace lumenote {
 
 class WrittenBody {
  public:
-  /// `whole` tells of a document, whose lists are those of the source's head.
+  /// `whole` means a document, which has the lists of the source's head.
   WrittenBody(const FormatTables& tables, const WrittenFormats& formats,
               WrittenParagraphs paragraphs, bool whole, Output& out)
       : tables_(tables),
@@ -25,19 +25,19 @@ class WrittenBody {
         knownWords_(tables.paragraphs.Size()),
         lastKept_(paragraphs_.outside) {}
 
-  /// A piece of one format.
+  /// Writes a run.
   void Text(TextView text, CharId format);
-  /// Ends a document by its final mark, a selection without one.
+  /// Ends a document with its final mark, or a selection without one.
   void Finish(const FinalMark* mark);
 
  private:
-  /// What a reader knows of the paragraph at hand.
+  /// What a reader knows about the current paragraph.
   struct Known {
     const std::string* words = nullptr;  // in `knownWords_`; null: nothing yet
     int nesting = 0;
     bool bullet = false;
   };
-  /// An open field, and what holds again behind it.
+  /// An open field, and the state to restore after it.
   struct Open {
     FieldId id = 0;
     Known known;
@@ -45,19 +45,19 @@ class WrittenBody {
   };
 
   void BeginParagraph();
-  /// Tells the paragraph format `id` where it is not told already.
+  /// Writes the paragraph format `id` unless the reader knows it already.
   void Paragraph(ParaId id, bool atStart);
   void Bullet(ParaId id, bool changed, bool atStart);
   ParaFormat WrittenOf(ParaId paragraph) const;
   const std::string& Words(ParaId paragraph);
-  /// The cell at hand; null where the rest of the paragraph holds none.
+  /// The current cell; null if the rest of the paragraph has none.
   const WrittenParagraphs::Cell* Cell() const;
-  /// Whether the cell at hand is part of a whole row.
+  /// Whether the current cell is part of a complete row.
   bool InRow() const { return Cell() && Cell()->whole; }
-  /// Nesting of the whole row that is being written.
+  /// Nesting of the complete row being written.
   int RowDepth() const;
   int Nesting(ParaId paragraph) const;
-  /// Whether there is a paragraph at hand: behind the last break there is none.
+  /// Whether there is a current paragraph; there is none after the last break.
   bool HasFormat() const { return index_ < paragraphs_.formats.size(); }
   ParaId Governing() const;
   bool IsList() const;
@@ -88,11 +88,11 @@ class WrittenBody {
   bool whole_;
   Output& out_;
 
-  std::size_t index_ = 0;  // of the paragraph at hand
-  std::size_t cell_ = 0;   // the next one that ends
-  std::size_t lead_ = 0;   // the next one to be written
-  bool begun_ = false;     // whether anything of the paragraph, or of its cell, is written
-  bool filled_ = false;    // whether the paragraph has text
+  std::size_t index_ = 0;    // of the current paragraph
+  std::size_t cell_ = 0;     // the next one to end
+  std::size_t leading_ = 0;  // the next one to write
+  bool begun_ = false;       // part of the paragraph or of its cell has been written
+  bool filled_ = false;      // the paragraph has text
   Known known_;
   std::vector<std::optional<std::string>> knownWords_;  // by ParaId
   WrittenFormat format_;

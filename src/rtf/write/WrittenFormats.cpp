@@ -1,4 +1,4 @@
-// Numbering fonts and colours, and the tables at the head of the source.
+// Numbers fonts and colours, and writes the tables of the head.
 #include "rtf/write/WrittenFormats.h"
 
 #include <algorithm>
@@ -12,15 +12,15 @@ namespace lumenote {
 namespace {
 
 constexpr int kTwipsPerHalfPoint = 10;
-constexpr int kWildNumber = 1'000'000;  // fonts are never numbered so high in earnest
+constexpr int kWildNumber = 1'000'000;  // real fonts never have such high numbers
 
-/// Rounded away from zero.
+/// Rounds away from zero.
 int HalfPoints(int twips) {
   const int size = (std::abs(twips) + kTwipsPerHalfPoint - 1) / kTwipsPerHalfPoint;
   return twips < 0 ? -size : size;
 }
 
-/// Superscript and subscript exclude each other.
+/// Superscript and subscript are mutually exclusive.
 std::uint16_t WrittenEffects(std::uint16_t effects) {
   const bool both = (effects & kSuperscript) != 0 && (effects & kSubscript) != 0;
   return static_cast<std::uint16_t>(both ? effects & ~kSubscript : effects);

@@ -1,4 +1,4 @@
-// The formats of a text in the terms in which they are written.
+// The formats of a text as RTF expresses them.
 #pragma once
 #include <array>
 #include <cstdint>
@@ -25,10 +25,10 @@ inline constexpr WrittenNumbers kDefaultNumbers = [] {
   return numbers;
 }();
 
-/// A character format as the words of RTF can tell it: two formats that are written alike are
-/// equal here. The fields are the words' own numbers.
+/// A character format in the values of RTF's control words; formats that are written alike compare
+/// equal.
 struct WrittenFormat {
-  int font = -1;  // -1 and size 0: not yet told
+  int font = -1;  // -1 and size 0: unknown
   int size = 0;
   int halfPoints = 0;
   WrittenNumbers numbers = kDefaultNumbers;
@@ -39,28 +39,28 @@ struct WrittenFormat {
   bool operator==(const WrittenFormat&) const = default;
 };
 
-/// Font table, colour table and character formats of a text. Fonts and colours have the numbers
-/// that they have in the head of the note's source; others follow, as they first occur.
+/// The font table, colour table and character formats of a text. Fonts and colours keep their
+/// numbers from the head of the note's source; others are appended in order of first use.
 class WrittenFormats {
  public:
-  /// The tables may grow while this lives; only formats that they hold now can be taken in.
+  /// The tables may grow meanwhile, but only formats that they contain now can be used.
   WrittenFormats(const FormatTables& tables, HeadId head);
 
-  /// Takes in a format that the text uses.
+  /// Registers a format that the text uses.
   void Use(CharId format) {
     if (numbers_[format] == 0)
       numbers_[format] = written_.Intern(Written(tables_.characters[format]));
   }
-  /// Takes in the font of bullets.
+  /// Registers the font of bullets.
   void UseBullets();
 
-  /// A format that was taken in.
+  /// A registered format.
   const WrittenFormat& operator[](CharId format) const { return written_[numbers_[format]]; }
   int BulletFont() const { return bulletFont_; }
   bool HasStyles() const { return Head().tables; }
 
   void WriteFontTable(Output& out) const;
-  /// Nothing when no colour is used.
+  /// Writes nothing if no colour is used.
   void WriteColourTable(Output& out) const;
 
  private:
@@ -71,7 +71,7 @@ class WrittenFormats {
   std::int32_t Number(const NumberWord& word, const CharFormat& format);
 
   const FormatTables& tables_;
-  InternTable<WrittenFormat> written_;  // number 0: nothing told
+  InternTable<WrittenFormat> written_;  // number 0: nothing known
   std::vector<std::uint32_t> numbers_;  // in it, by CharId
   HeadId head_;
   struct Font {
@@ -79,7 +79,7 @@ class WrittenFormats {
     Encoding encoding;
   };
   InternTable<FontFace> faces_;
-  std::vector<Font> fonts_;  // of the faces, the kept ones first
+  std::vector<Font> fonts_;  // of the font faces, kept ones first
   std::uint32_t keptFonts_ = 0;
   int nextFont_ = 0;
   std::vector<Colour> colours_;
@@ -87,12 +87,12 @@ class WrittenFormats {
   int bulletFont_ = -1;
 };
 
-/// Writes the words that lead from one character format to another. Behind \hich readers take sizes
-/// and effects for those of right-to-left text, so they are told before it.
+/// Writes the control words that change one character format into another. After \hich readers take
+/// sizes and effects for those of right-to-left text, so these are written before it.
 void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
                  Output& out);
-/// The words of a paragraph format behind \pard, its bullet and its table excepted. `styled` tells
-/// of a source that has styles.
+/// The words of a paragraph format after \pard, without bullet and table. `styled` means that the
+/// source has styles.
 std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled);
 
 }  // namespace lumenote

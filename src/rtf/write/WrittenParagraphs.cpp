@@ -1,4 +1,4 @@
-// Which cells and paragraphs are parts of whole rows.
+// Finds the cells and paragraphs of complete rows.
 #include "rtf/write/WrittenParagraphs.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ ParagraphScan::ParagraphScan(const Document& document, Position from, const Fina
     : document_(document), mark_(mark), first_(document.ParagraphOf(from)) {
   const FormatTables& tables = document.Formats();
   const KeptId opening = tables.characters[document.CharFormatAt(from)].kept;
-  if (!mark && BeginsPlace(tables, opening)) found.outside = opening;
+  if (!mark && StartsSection(tables, opening)) found.outside = opening;
   last_ = found.outside;
 }
 
@@ -68,7 +68,7 @@ void ParagraphScan::FindKept(Position at, TextView text, CharId format) {
   const auto paragraph = [&](std::size_t i) {
     return static_cast<std::size_t>(document_.ParagraphOf(at + static_cast<Position>(i)) - first_);
   };
-  if (!again && tables.items.Any(kept.before, IsBreak)) found.leads.push_back({paragraph(0), id});
+  if (!again && tables.items.Any(kept.before, IsBreak)) found.leading.push_back({paragraph(0), id});
   const bool endsRow = kept.kind == Kept::Kind::Row;
   if (!endsRow && kept.kind != Kept::Kind::Cell) return;
   const char end = endsRow ? '\r' : '\t';

@@ -25,15 +25,15 @@ struct WrittenParagraphs {
 
   /// What is kept before a character of the paragraph but begins the paragraph, whatever an edit
   /// has put before that character.
-  struct Lead {
+  struct LeadingItems {
     std::size_t paragraph;
     KeptId kept;
   };
 
   std::vector<ParaId> formats;
-  std::vector<int> rowDepths;  // nesting of the whole row that each is part of
-  std::vector<Cell> cells;     // in order
-  std::vector<Lead> leads;     // likewise
+  std::vector<int> rowDepths;         // nesting of the whole row that each is part of
+  std::vector<Cell> cells;            // in order
+  std::vector<LeadingItems> leading;  // likewise
   /// The kept number of a selection's first character when a page or section begins before that:
   /// the beginning is not part of the selection.
   KeptId outside = 0;

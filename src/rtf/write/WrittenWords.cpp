@@ -1,4 +1,4 @@
-// The words of character and paragraph formats.
+// The control words of character and paragraph formats.
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
@@ -45,7 +45,7 @@ LineWords WordsOf(LineRule rule, int spacing) {
   }
 }
 
-/// Where the last part begins if it is that of \hich, else the end.
+/// The start of the last part if that is \hich's, else the end.
 WordsId HighPart(WordsId words, const FormatTables& tables) {
   WordsId last = 0;
   for (WordsId id = words; id != 0; id = tables.words[id].next)
@@ -53,7 +53,7 @@ WordsId HighPart(WordsId words, const FormatTables& tables) {
   return tables.words[last].kind == KeptWord::Kind::HighScript ? last : 0;
 }
 
-/// Those of a run, up to `end`.
+/// Writes the words of a run, up to `end`.
 void WriteWords(WordsId first, WordsId end, const FormatTables& tables, Output& out) {
   tables.words.ForEach(first, end, [&](KeptWord word) {
     const std::string& name = tables.names[word.name];
@@ -63,7 +63,7 @@ void WriteWords(WordsId first, WordsId end, const FormatTables& tables, Output& 
 
 class ParagraphWriter {
  public:
-  /// With `whole`, what has its default is told too.
+  /// With `whole`, also writes default values.
   explicit ParagraphWriter(bool whole) : whole_(whole) {}
 
   void Kept(KeptWord word, const FormatTables& tables);
@@ -139,7 +139,7 @@ void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const Forma
 std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled) {
   const std::int64_t hanging = format.hangingIndent;
   const std::string_view alignment = kAlignmentWords[static_cast<std::size_t>(format.alignment)];
-  // Styles and lists have formats of their own for paragraphs that tell none.
+  // Styles and lists impose their own formats on paragraphs that leave something unsaid.
   const bool whole = styled || format.list != 0;
   ParagraphWriter words(whole);
   tables.words.ForEach(format.words, [&](KeptWord word) { words.Kept(word, tables); });

@@ -25,7 +25,7 @@ auto ParagraphFormats::Common(Get get) const -> std::optional<decltype(get(ParaF
   return value;
 }
 
-// Lets `set` make the new formats; equal ones stay as they are.
+// Changes formats with `set`; those that it leaves equal are not touched.
 template <class Set>
 void ParagraphFormats::Apply(UndoKind kind, Set set) {
   core_.RefuseWhileNotifying();
@@ -34,7 +34,7 @@ void ParagraphFormats::Apply(UndoKind kind, Set set) {
     set(format);
     return core_.Formats().paragraphs.Intern(format);
   };
-  // A table row is one paragraph here, whose cells have their formats at their ends.
+  // A table row is one paragraph here; the characters that end its cells hold the cells' formats.
   const auto mapCell = [&](CharId id) { return WithCellFormat(id, core_.Formats(), map); };
   const Document& document = core_.Content();
   const Position start = core_.Selected().start;

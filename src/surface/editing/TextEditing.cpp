@@ -37,7 +37,7 @@ void TextEditing::ReplaceSelection(UndoKind kind, const Fragment& fragment) {
   const Selection old = core_.Selected();
   core_.Edit(kind, [&] {
     const Position behind = old.start + fragment.Length();
-    Exchange(old.start, old.end, fragment);
+    ReplaceRange(old.start, old.end, fragment);
     core_.Place(behind, behind);
   });
 }
@@ -52,7 +52,7 @@ bool TextEditing::IsSelected(std::u16string_view text) const {
   bool same = true;
   document.ForEachRun(old.start, old.end, [&](Position at, TextView piece, CharId id) {
     const auto offset = static_cast<std::size_t>(at - old.start);
-    const CharId own = offset == 0 ? WithoutBeginning(id, core_.Formats()) : id;
+    const CharId own = offset == 0 ? WithoutSectionStart(id, core_.Formats()) : id;
     same = same && own == format && piece.String() == text.substr(offset, piece.Size());
   });
   document.ForEachParagraph(old.start, old.end, [&](ParaId id) { same = same && id == paragraph; });
@@ -64,7 +64,7 @@ void TextEditing::DeleteSelection(UndoKind kind) {
   const Selection old = core_.Selected();
   const CharFormat format = core_.InsertionFormat();
   core_.Edit(kind, [&] {
-    Exchange(old.start, old.end, {});
+    ReplaceRange(old.start, old.end, {});
     core_.Place(old.start, old.start, format);
   });
 }
@@ -72,12 +72,12 @@ void TextEditing::DeleteSelection(UndoKind kind) {
 void TextEditing::Delete(UndoKind kind, Position from, Position to) {
   if (from == to) return;
   core_.Edit(kind, [&] {
-    Exchange(from, to, {});
+    ReplaceRange(from, to, {});
     core_.Place(from, from);
   });
 }
 
-void TextEditing::Exchange(Position from, Position to, const Fragment& fragment) {
+void TextEditing::ReplaceRange(Position from, Position to, const Fragment& fragment) {
   const Document& document = core_.Content();
   const Position first = document.ParagraphOf(from);
   const Position last = from == to ? first : document.ParagraphOf(to);
@@ -86,23 +86,22 @@ void TextEditing::Exchange(Position from, Position to, const Fragment& fragment)
                             (fragment.Length() > 0 && to > document.ParagraphStart(last));
     if (firstStays) Reformat(last, document.ParaFormatAt(from));
   }
-  Substitute(from, to, fragment);
+  ReplaceKeepingSectionStart(from, to, fragment);
 }
 
-// What begins a page or section before the text is no part of it: it goes before what comes in its
-// place.
-void TextEditing::Substitute(Position from, Position to, const Fragment& fragment) {
+// The start of a page or section is not part of the text after it: it is moved to the replacement.
+void TextEditing::ReplaceKeepingSectionStart(Position from, Position to, const Fragment& fragment) {
   const Document& document = core_.Content();
-  const KeptId beginning = from < to ? BeginningAt(document, from) : 0;
-  if (beginning == 0) return core_.Replace(from, to, fragment);
+  const KeptId sectionStart = from < to ? SectionStartAt(document, from) : 0;
+  if (sectionStart == 0) return core_.Replace(from, to, fragment);
   FormatTables& tables = core_.Formats();
   if (fragment.Length() > 0)
-    return core_.Replace(from, to, WithBeginning(fragment, tables, beginning));
+    return core_.Replace(from, to, WithSectionStart(fragment, tables, sectionStart));
   core_.Replace(from, to, {});
   const Position behind = document.SnapForward(from + 1);
   Fragment next = document.Copy(from, behind);
   if (next.Length() == 0) next.mark = document.Mark();
-  core_.Replace(from, behind, WithBeginning(std::move(next), tables, beginning));
+  core_.Replace(from, behind, WithSectionStart(std::move(next), tables, sectionStart));
 }
 
 void TextEditing::Reformat(Position paragraph, ParaId format) {
@@ -133,7 +132,7 @@ void TextEditing::TypeBreak() {
   const CharFormat format = core_.InsertionFormat();
   core_.Edit(UndoKind::Typing, [&] {
     const Position behind = old.start + static_cast<Position>(kBreak.size());
-    Exchange(old.start, old.end, Plain(kBreak));
+    ReplaceRange(old.start, old.end, Plain(kBreak));
     core_.Place(behind, behind, format);
   });
 }
@@ -145,11 +144,11 @@ void TextEditing::MoveSelection(Position target, bool copy) {
   const bool inside =
       copy ? target > old.start && target < old.end : target >= old.start && target <= old.end;
   if (!core_.HasSelection() || inside) return;
-  const Fragment moved = WithoutBeginning(document.Copy(old.start, old.end), core_.Formats());
+  const Fragment moved = WithoutSectionStart(document.Copy(old.start, old.end), core_.Formats());
   core_.Edit(UndoKind::DragDrop, [&] {
     core_.Replace(target, target, moved);
     const Position shift = target <= old.start ? old.Length() : 0;
-    if (!copy) Exchange(old.start + shift, old.end + shift, {});
+    if (!copy) ReplaceRange(old.start + shift, old.end + shift, {});
     const Position at = copy || shift > 0 ? target : target - old.Length();
     core_.Place(at, at + old.Length());
   });

@@ -33,8 +33,8 @@ class TextEditing {
   Fragment Plain(std::u16string_view text) const;
 
  private:
-  void Exchange(Position from, Position to, const Fragment& fragment);
-  void Substitute(Position from, Position to, const Fragment& fragment);
+  void ReplaceRange(Position from, Position to, const Fragment& fragment);
+  void ReplaceKeepingSectionStart(Position from, Position to, const Fragment& fragment);
   void Reformat(Position paragraph, ParaId format);
   bool IsSelected(std::u16string_view text) const;
   CharId TypedFormat() const;

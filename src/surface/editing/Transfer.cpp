@@ -6,7 +6,7 @@
 #include "base/Strings.h"
 #include "rtf/read/Reader.h"
 #include "rtf/write/Writer.h"
-#include "surface/editing/TextBytes.h"
+#include "surface/editing/SourceBytes.h"
 
 namespace lumenote {
 
@@ -53,10 +53,10 @@ void Transfer::LoadRtf(std::string_view bytes) {
   baseFontName_ = std::move(font);
 }
 
-std::u16string Transfer::Rtf() const { return UnitsOfBytes(WriteRtf(core_.Content())); }
+std::u16string Transfer::Rtf() const { return WidenSource(WriteRtf(core_.Content())); }
 
 void Transfer::Rtf(std::u16string_view rtf) {
-  const std::string bytes = BytesOfUnits(rtf);
+  const std::string bytes = NarrowSource(rtf);
   if (LooksLikeRtf(bytes))
     LoadRtf(bytes);
   else
@@ -65,11 +65,11 @@ void Transfer::Rtf(std::u16string_view rtf) {
 
 std::u16string Transfer::SelectedRtf() const {
   const Selection selection = core_.Selected();
-  return UnitsOfBytes(WriteRtf(core_.Content(), selection.start, selection.end));
+  return WidenSource(WriteRtf(core_.Content(), selection.start, selection.end));
 }
 
 void Transfer::SelectedRtf(std::u16string_view rtf) {
-  const std::string bytes = BytesOfUnits(rtf);
+  const std::string bytes = NarrowSource(rtf);
   if (!LooksLikeRtf(bytes)) return text_.ReplaceSelection(UndoKind::Unknown, rtf);
   const Fragment fragment = ReadRtf(bytes, core_.Formats(), RtfTarget::Selection, defaultFormat_);
   if (fragment.Length() > 0)
@@ -78,10 +78,11 @@ void Transfer::SelectedRtf(std::u16string_view rtf) {
     text_.DeleteSelection(UndoKind::Unknown);
 }
 
-std::string Transfer::Load(std::u16string_view path, FileType type, std::optional<TextForm> form) {
-  core_.RequireQuiet();
+std::string Transfer::Load(std::u16string_view path, FileType type,
+                           std::optional<TextEncoding> encoding) {
+  core_.RefuseWhileNotifying();
   std::string bytes = files_.ReadAll(path);
-  type == FileType::Text ? LoadText(bytes, form) : LoadSource(bytes);
+  type == FileType::Text ? LoadText(bytes, encoding) : LoadSource(bytes);
   return bytes;
 }
 
@@ -89,26 +90,27 @@ void Transfer::LoadSource(std::string_view bytes) {
   if (!LooksLikeRtf(bytes))
     throw RuntimeError(ErrorNumber::InvalidArgument, u"Le fichier n'est pas au format RTF");
   LoadRtf(bytes);
-  form_ = TextForm::Windows1252;
+  encoding_ = TextEncoding::Windows1252;
   original_.clear();
 }
 
 // The file itself is kept only where it could not be told from its text: the breaks of the document
 // are all alike, and damaged bytes have no characters. Each lone CR or LF has made the text longer.
-void Transfer::LoadText(const std::string& bytes, std::optional<TextForm> form) {
-  form_ = form.value_or(FormOfText(bytes));
-  const std::u16string text = DecodeText(bytes, form_);
+void Transfer::LoadText(const std::string& bytes, std::optional<TextEncoding> encoding) {
+  encoding_ = encoding.value_or(DetectEncoding(bytes));
+  const std::u16string text = DecodeText(bytes, encoding_);
   Text(text);
-  const bool same = static_cast<std::size_t>(core_.Content().Length()) == text.size() &&
-                    (form_ == TextForm::Windows1252 || EncodeTextFile(text, form_) == bytes);
-  original_ = same || form ? std::string() : bytes;
+  const bool same =
+      static_cast<std::size_t>(core_.Content().Length()) == text.size() &&
+      (encoding_ == TextEncoding::Windows1252 || EncodeTextFile(text, encoding_) == bytes);
+  original_ = same || encoding ? std::string() : bytes;
 }
 
 std::string Transfer::PlainBytes() const {
   const Document& document = core_.Content();
   const std::u16string text = document.Text(0, document.Length());
-  if (!original_.empty() && WithCrLf(DecodeText(original_, form_)) == text) return original_;
-  return EncodeTextFile(text, form_);
+  if (!original_.empty() && WithCrLf(DecodeText(original_, encoding_)) == text) return original_;
+  return EncodeTextFile(text, encoding_);
 }
 
 std::string Transfer::Bytes(FileType type) const {
@@ -131,7 +133,7 @@ void Transfer::Copy() {
 }
 
 void Transfer::Cut() {
-  core_.RequireQuiet();
+  core_.RefuseWhileNotifying();
   Copy();
   text_.DeleteSelection(UndoKind::Cut);
 }

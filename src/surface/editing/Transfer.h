@@ -26,7 +26,7 @@ class Transfer {
 
   /// RTF as it stands in a file.
   void LoadSource(std::string_view bytes);
-  std::string Load(std::u16string_view path, FileType type, std::optional<TextForm> form);
+  std::string Load(std::u16string_view path, FileType type, std::optional<TextEncoding> encoding);
   std::string Save(std::u16string_view path, FileType type);
   /// What `Save` writes.
   std::string Bytes(FileType type) const;
@@ -42,7 +42,7 @@ class Transfer {
 
  private:
   void LoadRtf(std::string_view bytes);
-  void LoadText(const std::string& bytes, std::optional<TextForm> form);
+  void LoadText(const std::string& bytes, std::optional<TextEncoding> encoding);
   std::string PlainBytes() const;
   Fragment FragmentOf(const ClipboardContent& content);
 
@@ -52,7 +52,7 @@ class Transfer {
   Files& files_;
   CharFormat defaultFormat_;
   std::u16string baseFontName_;
-  TextForm form_ = TextForm::Windows1252;  // of the file loaded last
+  TextEncoding encoding_ = TextEncoding::Windows1252;  // of the file loaded last
   /// That file, where writing its text anew would give other bytes; else empty.
   std::string original_;
 };

@@ -37,7 +37,8 @@ struct ViewCallbacks {
 class RichTextView : public QAbstractScrollArea, private ViewHost {
  public:
   /// `layouter`, shared with the surface's breaker, must outlive the view.
-  RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewCallbacks callbacks, QWidget* parent);
+  RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewCallbacks callbacks,
+               QWidget* parent);
 
   void Detach();
   bool IsAttached() const { return text_.IsAttached(); }

@@ -1,5 +1,5 @@
-// The parts of the source, and what they need to know of each other.
-#include "rtf/write/RtfWriting.h"
+// The stages of writing and what each passes to the next.
+#include "rtf/write/RtfWriter.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,8 +26,8 @@ void WriteHead(const WrittenFormats& formats, const FormatTables& tables, const 
 
 }  // namespace
 
-RtfWriting::RtfWriting(const Document& document, Selection range, std::optional<FinalMark> mark,
-                       const ByteSink& sink)
+RtfWriter::RtfWriter(const Document& document, Selection range, std::optional<FinalMark> mark,
+                     const ByteSink& sink)
     : document_(document),
       range_(document.SnapOutward(range.start, range.end)),
       mark_(mark),
@@ -36,11 +36,11 @@ RtfWriting::RtfWriting(const Document& document, Selection range, std::optional<
       formats_(document.Formats(), document.Mark().head),
       out_(sink) {}
 
-bool RtfWriting::Step(Position units) {
+bool RtfWriter::Step(Position units) {
   if (out_.HandOn()) return out_.Waits() || stage_ != Stage::Done;
   switch (stage_) {
-    case Stage::Look:
-      Look(Piece(units));
+    case Stage::Scan:
+      Scan(Piece(units));
       if (at_ == range_.end) Begin();
       break;
     case Stage::Rows:
@@ -56,13 +56,13 @@ bool RtfWriting::Step(Position units) {
   return out_.Waits() || stage_ != Stage::Done;
 }
 
-Selection RtfWriting::Piece(Position units) {
+Selection RtfWriter::Piece(Position units) {
   const Position from = at_;
   at_ = units < range_.end - from ? document_.SnapForward(from + units) : range_.end;
   return {from, at_};
 }
 
-void RtfWriting::Look(Selection piece) {
+void RtfWriter::Scan(Selection piece) {
   std::size_t known = scan_.found.formats.size();
   scan_.Take(piece.start, piece.end);
   const std::vector<ParaId>& paragraphs = scan_.found.formats;
@@ -72,8 +72,8 @@ void RtfWriting::Look(Selection piece) {
                        [this](Position, TextView, CharId format) { formats_.Use(format); });
 }
 
-/// Everything has been looked at.
-void RtfWriting::Begin() {
+/// The first pass is complete.
+void RtfWriter::Begin() {
   scan_.TakeEnd();
   if (mark_) {
     formats_.Use(mark_->character);
@@ -84,7 +84,7 @@ void RtfWriting::Begin() {
   stage_ = Stage::Rows;
 }
 
-void RtfWriting::Write(Selection piece) {
+void RtfWriter::Write(Selection piece) {
   const FormatTables& tables = document_.Formats();
   if (!body_) {
     WriteHead(formats_, tables, tables.heads[document_.Mark().head], mark_.has_value(), out_);
@@ -95,7 +95,7 @@ void RtfWriting::Write(Selection piece) {
   });
 }
 
-void RtfWriting::Finish() {
+void RtfWriter::Finish() {
   body_->Finish(mark_ ? &*mark_ : nullptr);
   const FormatTables& tables = document_.Formats();
   if (mark_) WriteItems(tables.items, tables.heads[mark_->head].tail, out_);
