@@ -1,4 +1,5 @@
 // User input on controls and menus.
+#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -123,7 +124,9 @@ Answer Drag(ScriptContext& context, Arguments& arguments) {
   const Position length = ReadPosition(arguments);
   const Position to = ReadPosition(arguments);
   arguments.End();
-  context.acts.Drag(UsableSurface(context, path), start, length, to);
+  RichTextBox& box = UsableSurface(context, path);
+  const auto end = static_cast<Position>(box.Surface().Text().size());
+  context.acts.Drag(box, start, length, std::min(to, end));
   return {};
 }
 
