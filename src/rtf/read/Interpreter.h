@@ -7,14 +7,14 @@
 
 #include "document/text/Fragment.h"
 #include "rtf/read/BodyText.h"
-#include "rtf/read/ColourTable.h"
-#include "rtf/read/FontTable.h"
 #include "rtf/read/GroupState.h"
 #include "rtf/read/ItemKeeper.h"
-#include "rtf/read/ListTable.h"
 #include "rtf/read/Reader.h"
 #include "rtf/read/WordFamilies.h"
 #include "rtf/read/WordKeeper.h"
+#include "rtf/read/tables/ColourTable.h"
+#include "rtf/read/tables/FontTable.h"
+#include "rtf/read/tables/ListTable.h"
 #include "rtf/source/Tokenizer.h"
 
 namespace lumenote {

@@ -1,5 +1,5 @@
 // Reads \fonttbl.
-#include "rtf/read/FontTable.h"
+#include "rtf/read/tables/FontTable.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,5 +1,5 @@
 // Reads \listtable and \listoverridetable.
-#include "rtf/read/ListTable.h"
+#include "rtf/read/tables/ListTable.h"
 
 namespace lumenote {
 namespace {

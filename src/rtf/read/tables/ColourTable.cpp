@@ -1,5 +1,5 @@
 // Reads \colortbl.
-#include "rtf/read/ColourTable.h"
+#include "rtf/read/tables/ColourTable.h"
 
 #include <algorithm>
 
