@@ -1,4 +1,5 @@
-// Rescue copies: what could not go where it belongs is kept in the personal documents, and told.
+// Rescue copies: content that cannot be saved in its own place goes to the personal documents
+// folder, and the user is told.
 #pragma once
 #include <optional>
 #include <string>
@@ -22,8 +23,8 @@ std::optional<std::u16string> CopierFichier(Platform& machine, std::u16string_vi
 /// Tells of copies that were made for one cause, in one box; of none, nothing.
 void AnnoncerSecours(EditorWindow& editor, Cause cause, const std::vector<std::u16string>& paths);
 
-/// Writes a copy of the note as it stands in the window, under the name of its file, and tells of
-/// it. False, with nothing told, when it could not be written.
+/// Writes the window's content as a rescue copy named after the note's file and reports it to the
+/// user. Returns false, without a message, when no copy could be written.
 bool GarderNote(EditorWindow& editor, Cause cause);
 
 /// Makes rescue copies of what programs have saved for editors that have closed, when their control

@@ -162,8 +162,8 @@ std::optional<SystemError> RoundTrip::Lingering() {
   return std::nullopt;
 }
 
-/// A program that was asked to end may first write its files, or ask its user. The work file must
-/// not be there yet, lest it write that.
+/// A program that was asked to quit may first save its files or ask its user, so the work file is
+/// created only once it has gone.
 void RoundTrip::AwaitInstances() {
   const auto error = Lingering();
   waiting_ = error && --patience_ > 0;

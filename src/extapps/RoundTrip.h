@@ -95,7 +95,7 @@ class RoundTrip {
 
   void Step();
   void TerminateInstances();
-  /// Asks what runs of that program to end; a failure is told to the user.
+  /// Asks the running instances of that program to quit; reports a failure to the user.
   void TuerParNom(Program program);
   void Report(const SystemError& error);
   /// An error while one of the programs that were asked to end goes on running.

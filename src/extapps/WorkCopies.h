@@ -44,9 +44,9 @@ std::u16string RapatriFch(Files& files, std::u16string_view folder, std::u16stri
 /// one of a form. Empty when there is none but those that `old` tells of.
 std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
                              const FileTraces& old = {});
-/// A file as it is now; the time is 0 where it cannot be told.
+/// The current state of a file; the time is 0 when it cannot be read.
 FileTrace TraceDe(const Files& files, std::u16string_view path);
-/// Everything that the two above would find now.
+/// Every file that the two functions above would find now.
 FileTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder);
 /// What the program has saved of a work file that was sent out, those copies included that it keeps
 /// in a folder of its own. Empty when there is nothing.

@@ -110,7 +110,7 @@ class Form : public Element, public Container {
   /// Whether any top-level menu is visible: then a menu bar of 300 twips stands above the content.
   bool HasMenuBar() const;
 
-  /// The user's door, as the peer reports it.
+  /// The user's acts on the window, reported by the peer.
   void UserResize(float width, float height);
   void UserMove(float left, float top);
   /// The window has become the active one of this control; raises Activate if it was not.

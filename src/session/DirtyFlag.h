@@ -4,8 +4,8 @@
 
 namespace lumenote {
 
-/// Reads and is assigned like a bool; who keeps a copy of the unsaved note hears of each
-/// assignment.
+/// Reads and is assigned like a bool, and reports each assignment to the keeper of the recovery
+/// copy.
 class DirtyFlag {
  public:
   DirtyFlag() = default;

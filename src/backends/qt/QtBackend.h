@@ -58,8 +58,8 @@ class QtBackend final : public Backend, private PeerServices {
   // A box that is made where an earlier one was takes its place here.
   std::unordered_map<const Control*, std::unique_ptr<SurfaceLayout>> layouts_;
   std::vector<Form*> forms_;            // with a window, in the order of realising
-  Form* awaited_ = nullptr;             // told to become active, not so yet
-  Form* activatedMeanwhile_ = nullptr;  // the latest that has become active meanwhile
+  Form* awaited_ = nullptr;             // activation requested, not confirmed yet
+  Form* activatedMeanwhile_ = nullptr;  // the last one activated in the meantime
   QTimer awaiting_;
   bool sessionEnds_ = false;  // the desktop has asked for what is unsaved
 };

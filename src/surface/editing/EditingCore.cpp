@@ -45,7 +45,7 @@ class OpenStep {
 
 }  // namespace
 
-/// Many edits and moves, of which the view hears once.
+/// Groups edits and selection moves into one notification of the view.
 class EditingCore::Batch {
  public:
   explicit Batch(EditingCore& core) : core_(core) { ++core_.batches_; }

@@ -94,8 +94,8 @@ void Transfer::LoadSource(std::string_view bytes) {
   original_.clear();
 }
 
-// The file itself is kept only where it could not be told from its text: the breaks of the document
-// are all alike, and damaged bytes have no characters. Each lone CR or LF has made the text longer.
+// The original bytes are kept only when the text does not determine them: all paragraph breaks of a
+// document are CR LF, and invalid bytes have no character. A lone CR or LF shows as a longer text.
 void Transfer::LoadText(const std::string& bytes, std::optional<TextEncoding> encoding) {
   encoding_ = encoding.value_or(DetectEncoding(bytes));
   const std::u16string text = DecodeText(bytes, encoding_);
