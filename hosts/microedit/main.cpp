@@ -14,7 +14,7 @@
 #include "base/Strings.h"
 #include "base/TextEncoding.h"
 #include "control/Component.h"
-#include "editor/DocumentStorage.h"
+#include "editor/storage/DocumentStorage.h"
 #include "lumenote/CoBxRtf.h"
 #include "lumenote/QtPlatform.h"
 #include "pilot/RunPilot.h"

@@ -2,10 +2,10 @@
 #pragma once
 #include "editor/ContextMenu.h"
 #include "editor/Dialogs.h"
-#include "editor/DocumentStorage.h"
 #include "editor/MenuBar.h"
-#include "editor/Recovery.h"
-#include "editor/Secours.h"
+#include "editor/storage/DocumentStorage.h"
+#include "editor/storage/Recovery.h"
+#include "editor/storage/Secours.h"
 #include "extapps/ProgramTable.h"
 #include "extapps/RoundTrip.h"
 #include "forms/ControlArray.h"

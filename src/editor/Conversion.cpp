@@ -7,9 +7,9 @@
 
 #include "base/RuntimeError.h"
 #include "editor/ContextMenu.h"
-#include "editor/DocumentStorage.h"
-#include "editor/FileState.h"
-#include "editor/Secours.h"
+#include "editor/storage/DocumentStorage.h"
+#include "editor/storage/FileState.h"
+#include "editor/storage/Secours.h"
 #include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"

@@ -1,6 +1,6 @@
 // Converts the document between plain text and RTF, through its file.
 #pragma once
-#include "editor/NoteWindow.h"
+#include "editor/storage/NoteWindow.h"
 
 namespace lumenote {
 

@@ -2,7 +2,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
-#include "editor/Secours.h"
+#include "editor/storage/Secours.h"
 #include "hosts/Host.h"
 
 namespace lumenote {

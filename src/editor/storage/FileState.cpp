@@ -1,4 +1,4 @@
-#include "editor/FileState.h"
+#include "editor/storage/FileState.h"
 
 #include <chrono>
 #include <functional>

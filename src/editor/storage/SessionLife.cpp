@@ -1,8 +1,8 @@
-#include "editor/SessionLife.h"
+#include "editor/storage/SessionLife.h"
 
 #include "base/RuntimeError.h"
-#include "editor/DocumentStorage.h"
-#include "editor/Secours.h"
+#include "editor/storage/DocumentStorage.h"
+#include "editor/storage/Secours.h"
 #include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"

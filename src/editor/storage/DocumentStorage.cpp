@@ -1,4 +1,4 @@
-#include "editor/DocumentStorage.h"
+#include "editor/storage/DocumentStorage.h"
 
 #include <algorithm>
 #include <memory>
@@ -8,8 +8,8 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "editor/FileState.h"
-#include "editor/Secours.h"
+#include "editor/storage/FileState.h"
+#include "editor/storage/Secours.h"
 #include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"

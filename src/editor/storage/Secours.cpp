@@ -1,4 +1,4 @@
-#include "editor/Secours.h"
+#include "editor/storage/Secours.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -8,7 +8,7 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
-#include "editor/DocumentStorage.h"
+#include "editor/storage/DocumentStorage.h"
 #include "extapps/WorkCopies.h"
 #include "extapps/WorkRecord.h"
 #include "forms/Backend.h"

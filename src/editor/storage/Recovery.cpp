@@ -1,4 +1,4 @@
-#include "editor/Recovery.h"
+#include "editor/storage/Recovery.h"
 
 #include <chrono>
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "base/TextEncoding.h"
-#include "editor/NoteWindow.h"
+#include "editor/storage/NoteWindow.h"
 #include "session/Session.h"
 
 namespace lumenote {

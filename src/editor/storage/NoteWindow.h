@@ -2,7 +2,7 @@
 #pragma once
 #include <string_view>
 
-#include "editor/FileState.h"
+#include "editor/storage/FileState.h"
 #include "session/EditorWindow.h"
 
 namespace lumenote {

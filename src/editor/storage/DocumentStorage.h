@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/TextEncoding.h"
-#include "editor/NoteWindow.h"
+#include "editor/storage/NoteWindow.h"
 
 namespace lumenote {
 
