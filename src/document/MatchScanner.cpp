@@ -15,7 +15,7 @@ namespace {
 template <class Hit>
 std::size_t FirstHit(std::size_t at, std::size_t end, Hit hit) {
   constexpr std::size_t kBlock = 32;
-  std::array<decltype(hit(at)), kBlock> hits;
+  std::array<decltype(hit(at)), kBlock> hits;  // NOLINT(*-member-init): filled by each block
   for (; at + kBlock <= end; at += kBlock) {
     decltype(hit(at)) any = 0;
     for (std::size_t i = 0; i < kBlock; ++i) any |= hits[i] = hit(at + i);

@@ -8,6 +8,7 @@
 #include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "base/ScopedFlag.h"
 #include "extapps/WorkCopies.h"
 #include "extapps/WorkRecord.h"
 #include "lumenote/Platform.h"
@@ -101,11 +102,7 @@ void RoundTrip::EditerAvec(std::int32_t type) {
 // A tick that comes while an earlier one still shows a box is passed over.
 void RoundTrip::TimerWpd_Timer() {
   if (busy_) return;
-  struct Busy {
-    explicit Busy(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Busy() { flag_ = false; }
-    bool& flag_;
-  } const busy(busy_);
+  const ScopedFlag busy(busy_);
   Step();
 }
 
@@ -156,7 +153,7 @@ void RoundTrip::Report(const SystemError& error) {
 std::optional<SystemError> RoundTrip::Lingering() {
   for (const Program program : kToTerminate) {
     const std::u16string& path = programs_.Path(program);
-    const auto error = path.empty() ? std::nullopt : processes_.StillRunning(path);
+    auto error = path.empty() ? std::nullopt : processes_.StillRunning(path);
     if (error) return error;
   }
   return std::nullopt;

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "base/ScopedFlag.h"
 #include "format/FontCommand.h"
 #include "format/FormatCommands.h"
 #include "format/Measures.h"
@@ -34,18 +35,6 @@ int TakeArrow(UpDown& spinner) {
   spinner.Value(kIdle);
   return arrow;
 }
-
-class Flag {
- public:
-  explicit Flag(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Flag() { flag_ = before_; }
-  Flag(const Flag&) = delete;
-  Flag& operator=(const Flag&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
-};
 
 void AddChoices(ControlArray<OptionButton>& choices, Frame& frame,
                 std::initializer_list<const char16_t*> captions) {
@@ -119,7 +108,7 @@ void Co_Paragraph::SetPosFenPara() {
 // --- showing the selection's format
 
 void Co_Paragraph::RafraichirFenFmt() {
-  const Flag refreshing(refreshing_);
+  const ScopedFlag refreshing(refreshing_);
   RefreshParaAlign();
   RefreshParaInter();
   RefreshParaIndent();
@@ -138,7 +127,7 @@ void Co_Paragraph::RefreshParaAlign() {
 }
 
 void Co_Paragraph::RefreshParaInter() {
-  const Flag refreshing(refreshing_);
+  const ScopedFlag refreshing(refreshing_);
   CurrentStyle.LineSpacing = LineSpacing(Surface());
   Bx_LineSpacing.Text(LineSpacingText(CurrentStyle.LineSpacing));
   UD_LineSpacing.Preset(CurrentStyle.LineSpacing);
@@ -146,7 +135,7 @@ void Co_Paragraph::RefreshParaInter() {
 }
 
 void Co_Paragraph::RefreshParaIndent() {
-  const Flag refreshing(refreshing_);
+  const ScopedFlag refreshing(refreshing_);
   StyleRecord& style = CurrentStyle;
   style.LeftIndent = Surface().SelIndent().value_or(style.LeftIndent);
   style.RightIndent = Surface().SelRightIndent().value_or(style.RightIndent);
@@ -158,7 +147,7 @@ void Co_Paragraph::RefreshParaIndent() {
 }
 
 void Co_Paragraph::RefreshParaEspace() {
-  const Flag refreshing(refreshing_);
+  const ScopedFlag refreshing(refreshing_);
   CurrentStyle.SpaceBefore = SpaceBefore(Surface());
   CurrentStyle.SpaceAfter = SpaceAfter(Surface());
   Bx_AvantPara.Text(MillimetresText(CurrentStyle.SpaceBefore));
@@ -166,7 +155,7 @@ void Co_Paragraph::RefreshParaEspace() {
 }
 
 void Co_Paragraph::RefreshParaMrgDte() {
-  const Flag refreshing(refreshing_);
+  const ScopedFlag refreshing(refreshing_);
   IgnoringErrors([&] { StyleRightMargin = ToInt32(double{Surface().RightMargin()}); });
   Bx_RightMargin.Text(WholeMillimetresText(StyleRightMargin));
 }

@@ -14,10 +14,16 @@ Control::Control(Container& container, std::string name, Rect bounds)
 }
 
 Control::~Control() {
-  if (FormPeer* peer = Owner().Peer()) peer->Remove(*this);
+  Withdraw();
   if (Owner().ActiveControl() == this) Owner().ActiveControl(nullptr);
   std::erase(container_.controls_, this);
   Unregister();
+}
+
+void Control::Withdraw() {
+  FormPeer* peer = Owner().Peer();
+  if (peer && !withdrawn_) peer->Remove(*this);
+  withdrawn_ = true;
 }
 
 void Control::Announce() {

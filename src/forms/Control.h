@@ -61,6 +61,8 @@ class Control : public ShownElement {
   void BringToFront() { Changed(Property::Order); }
   /// Announces a control that was created after its window.
   void Announce();
+  /// Tells the peer that the control goes, while what the peer uses of it is still there.
+  void Withdraw();
 
   /// Whether the control can have the keyboard focus.
   virtual bool TakesFocus() const { return false; }
@@ -90,6 +92,7 @@ class Control : public ShownElement {
   void Bounds(Rect bounds);
 
   Container& container_;
+  bool withdrawn_ = false;
   Rect bounds_;
   std::u16string fontName_;
   float fontSize_ = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/RuntimeError.h"
+#include "base/ScopedFlag.h"
 #include "lumenote/Platform.h"
 #include "ocr/CorrectionList.h"
 #include "session/EditorWindow.h"
@@ -36,14 +37,13 @@ void Co_Apprendre::Form_Load() {
 
 // Clears the boxes first, so that filling them again does not double the text.
 void Co_Apprendre::Form_Activate() {
-  filling_ = true;
+  const ScopedFlag filling(filling_);
   for (RichTextBox* box : {&Bx_TextErroné, &Bx_Saisircorr}) {
     IgnoringErrors([box] { box->Surface().Text(u""); });
     IgnoringErrors([box] { box->Surface().TextMode(kTextModeRichMultilevel); });
   }
   IgnoringErrors([this] { ErrPaste(); });
   IgnoringErrors([this] { SaiPaste(); });
-  filling_ = false;
 }
 
 void Co_Apprendre::Bx_TextErroné_Change() {

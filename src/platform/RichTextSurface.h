@@ -9,6 +9,7 @@
 
 #include "base/Position.h"
 #include "base/TextEncoding.h"
+#include "document/formats/LineRule.h"
 #include "document/undo/UndoKind.h"
 
 namespace lumenote {
@@ -18,20 +19,11 @@ enum class FileType { Rtf = 0, Text = 1 };
 /// Options of `Find`; combine them by addition.
 enum FindOption : int { kFindWholeWord = 2, kFindMatchCase = 4 };
 
-enum class LineSpacingRule {
-  Single = 0,
-  OneAndHalf = 1,
-  Double = 2,
-  AtLeast = 3,
-  Exact = 4,
-  Multiple = 5
-};
-
 /// The paragraph-format record: only the members selected by `mask` are read or written.
 struct ParagraphRecord {
   enum Member : unsigned { kLineSpacing = 0x100, kSpaceBefore = 0x40, kSpaceAfter = 0x80 };
   unsigned mask = 0;
-  LineSpacingRule lineSpacingRule = LineSpacingRule::Single;
+  LineRule lineSpacingRule = LineRule::Single;
   std::int32_t lineSpacing = 0;  // twips; twentieths of a line under the rule Multiple
   std::int32_t spaceBefore = 0;  // twips
   std::int32_t spaceAfter = 0;   // twips

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Numbers.h"
+#include "base/ScopedFlag.h"
 #include "base/Windows1252.h"
 #include "lumenote/Platform.h"
 #include "platform/Clipboard.h"
@@ -57,12 +58,11 @@ void Co_Symbols::Form_Load() {
   lblBigDisplay.FontName(currentFont_);
   lblsymbols(0).FontName(currentFont_);
   FillSymbols(0);
-  building_ = true;
   IgnoringErrors([this] {
+    const ScopedFlag building(building_);
     VScroll1.Max(hiddenRows_);
     VScroll1.Min(0);
   });
-  building_ = false;
   cboFonts.List({currentFont_});
   IgnoringErrors([this] { cboFonts.ListIndex(0); });
 }

@@ -27,6 +27,8 @@ class Desk : public HostTest {
     Boxes();
   }
 
+  ~Desk() override { backend.events.clear(); }  // they use this object
+
   /// What the user and the host have of the note.
   std::u16string State() {
     return control && IsOpen() ? Values().documentPath + Editor().Document().TextRTF() : u"closed";

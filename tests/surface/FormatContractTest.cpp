@@ -99,19 +99,18 @@ TEST_F(SurfaceContract, LineSpacing) {
   EXPECT_EQ(LineSpacing(s), 20);
   struct Row {
     int value;
-    LineSpacingRule rule;
+    LineRule rule;
   };
-  for (const auto& [value, rule] : {Row{20, LineSpacingRule::Multiple},
-                                    {1, LineSpacingRule::Multiple},
-                                    {100, LineSpacingRule::Multiple},
-                                    {101, LineSpacingRule::Exact}}) {
+  for (const auto& [value, rule] : {Row{20, LineRule::Multiple},
+                                    {1, LineRule::Multiple},
+                                    {100, LineRule::Multiple},
+                                    {101, LineRule::Exact}}) {
     SetLineSpacing(s, value);
     EXPECT_EQ(LineSpacing(s), value);
     EXPECT_EQ(s.GetParaFormat(ParagraphRecord::kLineSpacing).lineSpacingRule, rule);
   }
-  for (const auto& [value, rule] : {Row{20, LineSpacingRule::Single},
-                                    {30, LineSpacingRule::OneAndHalf},
-                                    {40, LineSpacingRule::Double}}) {
+  for (const auto& [value, rule] :
+       {Row{20, LineRule::Single}, {30, LineRule::OneAndHalf}, {40, LineRule::Double}}) {
     s.SetParaFormat({.mask = ParagraphRecord::kLineSpacing, .lineSpacingRule = rule});
     EXPECT_EQ(LineSpacing(s), value);
   }

@@ -31,7 +31,7 @@ void ActAtRandom(Window& window, std::mt19937& random) {
       return window.surface.RightMargin(static_cast<float>(6000 * Below(random, 2)));
     case 8:
       return window.surface.SetParaFormat({.mask = ParagraphRecord::kLineSpacing,
-                                           .lineSpacingRule = LineSpacingRule::Exact,
+                                           .lineSpacingRule = LineRule::Exact,
                                            .lineSpacing = 150 + 50 * Below(random, 6)});
     default:
       return EditAtRandom(window.surface, random);

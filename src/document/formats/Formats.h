@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "document/formats/InternTable.h"
+#include "document/formats/LineRule.h"
 
 namespace lumenote {
 
@@ -94,7 +95,6 @@ struct CharFormat {
 static_assert(std::has_unique_object_representations_v<CharFormat>);
 
 enum class Alignment : std::uint8_t { Left = 0, Right = 1, Centre = 2, Justify = 3 };
-enum class LineRule : std::uint8_t { Single, OneAndHalf, Double, AtLeast, Exact, Multiple };
 
 /// All attributes of a paragraph; lengths are twips. Plain data like `CharFormat`.
 struct ParaFormat {

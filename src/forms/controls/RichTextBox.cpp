@@ -15,7 +15,7 @@ RichTextBox::RichTextBox(Container& container, std::string name, Rect bounds)
   });
 }
 
-RichTextBox::~RichTextBox() = default;
+RichTextBox::~RichTextBox() { Withdraw(); }
 
 void RichTextBox::Describe(MemberTable& members) {
   Control::Describe(members);

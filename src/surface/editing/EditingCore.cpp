@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
+#include "base/ScopedFlag.h"
 #include "document/KeptEdits.h"
 #include "surface/editing/MergeEdit.h"
 
@@ -13,19 +14,6 @@ namespace lumenote {
 namespace {
 
 constexpr std::size_t kReserve = std::size_t{1} << 16;
-
-/// Sets a flag during its lifetime.
-class ScopedFlag {
- public:
-  explicit ScopedFlag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
-  ~ScopedFlag() { flag_ = before_; }
-  ScopedFlag(const ScopedFlag&) = delete;
-  ScopedFlag& operator=(const ScopedFlag&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
-};
 
 /// An undo step; the selection at its end is the one to restore on redo.
 class OpenStep {

@@ -88,7 +88,7 @@ ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
   ParagraphRecord record;
   record.mask = mask;
   if (mask & ParagraphRecord::kLineSpacing) {
-    record.lineSpacingRule = static_cast<LineSpacingRule>(format.lineRule);
+    record.lineSpacingRule = format.lineRule;
     record.lineSpacing = format.lineSpacing;
   }
   if (mask & ParagraphRecord::kSpaceBefore) record.spaceBefore = format.spaceBefore;
@@ -99,7 +99,7 @@ ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
 void ParagraphFormats::Record(const ParagraphRecord& record) {
   Apply(UndoKind::Unknown, [&](ParaFormat& format) {
     if (record.mask & ParagraphRecord::kLineSpacing) {
-      format.lineRule = static_cast<LineRule>(record.lineSpacingRule);
+      format.lineRule = record.lineSpacingRule;
       format.lineSpacing = record.lineSpacing;
     }
     if (record.mask & ParagraphRecord::kSpaceBefore) format.spaceBefore = record.spaceBefore;

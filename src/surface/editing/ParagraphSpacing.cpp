@@ -11,11 +11,11 @@ constexpr int kMaxTwentieths = 100;
 int LineSpacing(const RichTextSurface& surface) {
   const ParagraphRecord record = surface.GetParaFormat(ParagraphRecord::kLineSpacing);
   switch (record.lineSpacingRule) {
-    case LineSpacingRule::Single:
+    case LineRule::Single:
       return 20;
-    case LineSpacingRule::OneAndHalf:
+    case LineRule::OneAndHalf:
       return 30;
-    case LineSpacingRule::Double:
+    case LineRule::Double:
       return 40;
     default:
       return record.lineSpacing;
@@ -25,8 +25,7 @@ int LineSpacing(const RichTextSurface& surface) {
 void SetLineSpacing(RichTextSurface& surface, int value) {
   ParagraphRecord record;
   record.mask = ParagraphRecord::kLineSpacing;
-  record.lineSpacingRule =
-      value <= kMaxTwentieths ? LineSpacingRule::Multiple : LineSpacingRule::Exact;
+  record.lineSpacingRule = value <= kMaxTwentieths ? LineRule::Multiple : LineRule::Exact;
   record.lineSpacing = value;
   surface.SetParaFormat(record);
 }

@@ -74,17 +74,20 @@ std::vector<ShownPiece> ScrollModel::Visible() {
   return shown;
 }
 
-std::optional<double> ScrollModel::YNear(const Piece& piece) {
+// Laying out a neighbour may replace pieces that are shown, so their places are taken first.
+std::optional<double> ScrollModel::YNear(Position position) {
   const std::vector<ShownPiece> shown = Visible();
   for (const ShownPiece& item : shown)
-    if (item.piece == &piece) return item.y;
-  const ShownPiece& first = shown.front();
-  if (piece.to <= first.piece->from && cache_.Before(*first.piece) == &piece)
-    return first.y - piece.height;
-  const ShownPiece& last = shown.back();
-  if (piece.from >= last.piece->to && cache_.After(*last.piece) == &piece)
-    return last.y + last.piece->height;
-  return std::nullopt;
+    if (item.piece->Holds(position)) return item.y;
+  const auto holds = [&](const Piece* piece) { return piece && piece->Holds(position); };
+  const auto [first, top] = shown.front();
+  if (position < first->from) {
+    const Piece* before = cache_.Before(*first);
+    return holds(before) ? std::optional(top - before->height) : std::nullopt;
+  }
+  const Piece* last = shown.back().piece;
+  const double bottom = shown.back().y + last->height;
+  return holds(cache_.After(*last)) ? std::optional(bottom) : std::nullopt;
 }
 
 void ScrollModel::By(double pixels) {
@@ -98,9 +101,9 @@ void ScrollModel::ToStart() {
 }
 
 void ScrollModel::Reveal(Position position) {
+  const std::optional<double> y = YNear(position);
   const Piece& piece = cache_.At(position);
   const PieceLine& line = piece.lines[static_cast<std::size_t>(piece.LineOf(position))];
-  const std::optional<double> y = YNear(piece);
   if (!y) {
     Top(Moved({&piece, line.top}, -(paneHeight_ - line.height) / 2));
     return;

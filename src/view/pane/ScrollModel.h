@@ -25,8 +25,8 @@ class ScrollModel {
   /// The pieces in the pane from top to bottom, at least one. Leaves no space below the last line
   /// while lines above could fill it.
   std::vector<ShownPiece> Visible();
-  /// The piece's position if it is in the pane or adjacent to what is.
-  std::optional<double> YNear(const Piece& piece);
+  /// The top of the piece that holds `position` if it is in the pane or adjacent to what is.
+  std::optional<double> YNear(Position position);
 
   void By(double pixels);
   void ToStart();

@@ -79,9 +79,9 @@ Line TextPane::ShownLine(Position position) {
 }
 
 std::optional<PixelRect> TextPane::LineAt(Position position) {
-  const Piece& piece = cache_.At(position);
-  const std::optional<double> y = scroll_.YNear(piece);
+  const std::optional<double> y = scroll_.YNear(position);
   if (!y) return std::nullopt;
+  const Piece& piece = cache_.At(position);
   const PieceLine& line = LineOf(piece, position);
   const double top = *y + line.top;
   return PixelRect{0, top, size_.width, top + line.height};

@@ -47,10 +47,10 @@ class ViewDamage {
 
  private:
   struct Seen {
-    std::size_t look;
-    double top;
-    double bottom;
-    double baseline;
+    std::size_t look = 0;
+    double top = 0;
+    double bottom = 0;
+    double baseline = 0;
     Selection selected;  // units of the line
     bool operator==(const Seen&) const = default;
     Seen MovedBy(double y) const { return {look, top + y, bottom + y, baseline + y, selected}; }

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "backends/qt/view/RichTextView.h"
+#include "base/ScopedFlag.h"
 
 namespace lumenote {
 
@@ -28,10 +29,9 @@ void ViewBars::Choose(int height) {
 }
 
 void ViewBars::Sync() {
-  syncing_ = true;
+  const ScopedFlag syncing(syncing_);
   SyncVertical();
   SyncHorizontal();
-  syncing_ = false;
 }
 
 void ViewBars::SyncHorizontal() {
