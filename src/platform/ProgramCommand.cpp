@@ -35,7 +35,7 @@ std::u16string TakeProgram(std::u16string_view& line) {
     line.remove_prefix(1);
     return TakeQuotedProgram(line);
   }
-  const std::u16string word(line.substr(0, line.find_first_of(kBlanks)));
+  std::u16string word(line.substr(0, line.find_first_of(kBlanks)));
   line.remove_prefix(word.size());
   return word;
 }

@@ -24,7 +24,7 @@ class ScriptLines {
 /// A message box that was shown, with its answer.
 struct ShownBox {
   MessageBox box;
-  MessageBox::Answer answer;
+  MessageBox::Answer answer{};
 };
 
 /// Windows and surfaces come from the wrapped backend. The script answers boxes; popup menus close

@@ -59,7 +59,7 @@ void Unpacker::Item(int kind) {
   } else if (kind == kRun) {
     for (int left = Digit() + 1; left > 0; --left) Put(last_ + 1);
   } else if (kind == kGap) {
-    cells_.insert(cells_.end(), static_cast<std::size_t>(Digit() + 1), 0);
+    cells_.insert(cells_.end(), static_cast<std::size_t>(Digit()) + 1, 0);
   } else {
     const int high = (kind - kFar) * kBase + Digit();
     Put(high * kBase + Digit());
