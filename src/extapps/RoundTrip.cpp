@@ -326,7 +326,7 @@ bool RoundTrip::RescueResults(Ready ready) {
   };
   std::vector<SentWorkFile> still;
   for (SentWorkFile& sent : outstanding_)
-    if (!ready(sent) || !ReprendreTout(Disk(), sent, keep)) still.push_back(sent);
+    if (!ready(sent) || !GarderTout(Disk(), sent, keep)) still.push_back(sent);
   outstanding_ = std::move(still);
   const bool all = outstanding_.empty();
   client_.Announce(Cause::FichierModifie, copies);

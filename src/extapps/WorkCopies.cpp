@@ -97,13 +97,18 @@ std::u16string Reprendre(Files& files, const SentWorkFile& sent) {
   return left.empty() ? TrouverRetour(files, sent.path, sent.old) : left;
 }
 
-bool ReprendreTout(Files& files, SentWorkFile& sent,
-                   const std::function<bool(const std::u16string& result)>& keep) {
-  for (std::u16string result; !(result = Reprendre(files, sent)).empty();) {
-    if (!keep(result)) return false;
-    sent.folder.clear();
-    sent.old.push_back(TraceDe(files, result));
+bool GarderTout(const Files& files, SentWorkFile& sent,
+                const std::function<bool(const std::u16string& result)>& keep) {
+  std::vector<std::u16string> places;
+  for (const std::u16string_view form : kForms) {
+    places.push_back(ChmExts(sent.path, form));
+    if (!sent.folder.empty()) places.push_back(CommonName(sent.folder, form));
   }
+  for (const std::u16string& place : places)
+    for (const std::u16string& result : Fresh(files, place, sent.old)) {
+      if (!keep(result)) return false;
+      sent.old.push_back(TraceDe(files, result));
+    }
   return true;
 }
 

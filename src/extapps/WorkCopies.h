@@ -51,10 +51,10 @@ FileTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16st
 /// What the program has saved of a work file that was sent out, those copies included that it keeps
 /// in a folder of its own. Empty when there is nothing.
 std::u16string Reprendre(Files& files, const SentWorkFile& sent);
-/// Hands every form of it to `keep`, until one is refused; false then. What was kept is no result
-/// of `sent` any more.
-bool ReprendreTout(Files& files, SentWorkFile& sent,
-                   const std::function<bool(const std::u16string& result)>& keep);
+/// Hands every file of it to `keep`, until one is refused; false then. What was kept is no result
+/// of `sent` any more. Nothing is written: `sent` may come from a damaged record.
+bool GarderTout(const Files& files, SentWorkFile& sent,
+                const std::function<bool(const std::u16string& result)>& keep);
 
 /// Whether the file at `path` can be what a program meant to save: RTF is closed as often as it is
 /// opened, a text has bytes, unless `mayBeEmpty`. False for one that cannot be read.

@@ -2,6 +2,8 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+#include "backends/posix/programs/PosixProcesses.h"
+#include "backends/posix/state/PosixStateFolder.h"
 #include "editor/storage/Secours.h"
 #include "hosts/Host.h"
 
@@ -155,6 +157,9 @@ TEST_F(RescueTest, AnEmptyNoteNeverTakesThePlaceOfAnothersFile) {
     EXPECT_NE(Shown().find(u"leur"), Shown().npos);
     control->pStrOrchm();
   }
+  disk.Write(u"C:\\n\\b.rtf", "leur");  // already there when it is created
+  CreFVideRtf(disk, u"C:\\n\\b.rtf");
+  EXPECT_EQ(disk.ReadAll(u"C:\\n\\b.rtf").substr(0, 6), "{\\rtf1");
 }
 
 TEST_F(RescueTest, OnlyTheFileThatWasNamedIsDeleted) {
@@ -224,6 +229,64 @@ TEST_F(RescueTest, WhatComesTooLateOutlivesACloseInTheBox) {
     EXPECT_EQ(disk.ReadAll(kCopy + u"rtf"), "{\\rtf1 un}");
     EXPECT_EQ(disk.ReadAll(kCopy + u"txt"), "deux");
     EXPECT_FALSE(disk.Exists(u"C:\\Documents\\Secours_2_Sava.rtf"));
+    Clear();
+  }
+}
+
+/// The results that damaged or foreign records name are copied at most; no file of the user's goes
+/// or changes, and the next note opens.
+TEST_F(RescueTest, ADamagedRecordDoesNoHarm) {
+  const auto record = [](const std::string& program, const std::string& path,
+                         const std::string& folder, const std::string& rest = "") {
+    return "[\"" + program + "\",\"" + path + "\",\"1\",\"" + folder + "\"" + rest + "]";
+  };
+  const std::string qjot = "C:\\\\Program Files\\\\qjot\\\\qjot.exe", note = "C:\\\\n\\\\a.rtf";
+  const struct {
+    std::string bytes;
+    std::vector<std::u16string> copies;
+  } cases[] = {
+      {"", {}},
+      {"[", {}},
+      {std::string(500, '['), {}},
+      {std::string("\0\xFF\xFE*", 4), {}},
+      {"{\"program\":1}", {}},
+      {"[1,2,3,4]", {}},
+      {record(qjot, note, ""), {u"a.rtf"}},
+      {record(qjot, note, "").substr(0, 40), {}},
+      {record(qjot, note, "", ",\"" + note + "\""), {}},
+      {record(qjot, note, "", ",\"" + note + "\",\"" + std::string(400, '9') + "\""), {u"a.rtf"}},
+      {record("\xE9", note, ""), {}},
+      {record("\\u0000\\uD800", "", "\\u0000"), {}},
+      {record("", "\\uDC00:rtf", std::string(5000, 'x')), {}},
+      {record("", note, "C:\\\\n"), {u"a.rtf", u"SavNotes.rtf"}},
+      {record("", "Y:\\\\..\\\\..\\\\etc\\\\passwd", "Y:"), {}},
+  };
+  const DrivePaths drives(folder.Path() + "/c");
+  PosixProcesses programs(drives);
+  platform.programs = &programs;
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.bytes.substr(0, 100));
+    sandbox.MakeParents(u"C:\\n\\a.rtf");
+    disk.Write(u"C:\\n\\a.rtf", "{\\rtf1 a}");
+    disk.Write(u"C:\\n\\SavNotes.rtf", "{\\rtf1 autre}");
+    sandbox.ReadOnly(u"C:\\n\\a.rtf", true);
+    {
+      PosixStateFolder dead(folder.Path() + "/state", drives);
+      const auto copy = dead.MakeCopy();
+      copy->Begin(u"*");
+      copy->Append(c.bytes);
+      copy->Commit();
+      copy->Leave();
+    }
+    Open(u"note");
+    EXPECT_EQ(Shown(), u"note");
+    EXPECT_EQ(Boxes().size(), c.copies.empty() ? 0U : 1U);
+    control->pStrOrchm();
+    EXPECT_EQ(disk.ReadAll(u"C:\\n\\a.rtf"), "{\\rtf1 a}");
+    EXPECT_EQ(disk.ReadAll(u"C:\\n\\SavNotes.rtf"), "{\\rtf1 autre}");
+    EXPECT_EQ(sandbox.List(u"C:\\Documents").size(), c.copies.size());
+    for (const std::u16string& name : c.copies)
+      EXPECT_TRUE(disk.Exists(u"C:\\Documents\\Secours_" + name));
     Clear();
   }
 }

@@ -101,11 +101,18 @@ bool GoesOn(Platform& machine, const SentWorkFile& sent) {
 
 /// Adds the paths of rescue copies of what a program has saved; false when one could not be made.
 bool KeepResults(Platform& machine, SentWorkFile& sent, std::vector<std::u16string>& paths) {
-  return ReprendreTout(machine.FileSystem(), sent, [&](const std::u16string& result) {
+  return GarderTout(machine.FileSystem(), sent, [&](const std::u16string& result) {
     auto copy = CopierFichier(machine, result);
     if (copy) paths.push_back(*copy);
     return copy.has_value();
   });
+}
+
+/// Whether a program at that path may still save what another editor gave it.
+bool StillRuns(Platform& machine, std::u16string_view program) {
+  bool running = false;
+  IgnoringErrors([&] { running = machine.Programs().StillRunning(program).has_value(); });
+  return running;
 }
 
 /// The same for an editor that died. False when the record has to wait, for the program's end or
@@ -113,7 +120,7 @@ bool KeepResults(Platform& machine, SentWorkFile& sent, std::vector<std::u16stri
 bool KeepLate(Platform& machine, const OrphanedCopy& record, std::vector<std::u16string>& paths) {
   auto sent = SentOf(record);
   if (!sent) return true;
-  return !machine.Programs().StillRunning(sent->program) && KeepResults(machine, *sent, paths);
+  return !StillRuns(machine, sent->program) && KeepResults(machine, *sent, paths);
 }
 
 }  // namespace
