@@ -86,6 +86,7 @@ TextEncoding EcritNoteTemp(Files& files, std::u16string_view path, std::u16strin
 }
 
 void CreFVideRtf(Files& files, std::u16string_view path) {
+  if (files.Exists(path)) return files.Write(path, kEmptyRtf);
   files.WriteNew(path, kEmptyRtf, Permissions::Default);
 }
 
