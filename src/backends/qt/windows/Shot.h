@@ -6,7 +6,8 @@
 
 namespace lumenote {
 
-/// Renders the form's window to a PNG file; false if that cannot be written.
-bool SaveWindowShot(const WidgetRegistry& widgets, const Element& form, const QString& path);
+/// Renders the form's window to a PNG file. Raises PathAccess if that cannot be written, or if the
+/// picture would have more pixels than the largest screens.
+void SaveWindowShot(const WidgetRegistry& widgets, const Element& form, const QString& path);
 
 }  // namespace lumenote
