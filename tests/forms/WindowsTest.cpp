@@ -13,25 +13,24 @@
 namespace lumenote {
 namespace {
 
-/// Counts what peers are told.
+/// Counts what the peers of windows without boxes are told.
 class CountingBackend final : public HeadlessBackend {
  public:
-  std::unique_ptr<FormPeer> Realise(Form&) override { return std::make_unique<Peer>(updates); }
+  std::unique_ptr<FormPeer> Realise(Form& form) override {
+    auto peer = std::make_unique<Peer>(form, noBoxes_);
+    peer->updates = &updates;
+    return peer;
+  }
 
   int updates = 0;
 
  private:
-  struct Peer final : FormPeer {
-    explicit Peer(int& updates) : updates_(updates) {}
-    void Update(Element&, Property) override { ++updates_; }
-    void Focus(Control&) override {}
-    void Activate() override {}
-    void Add(Control&) override {}
-    void Remove(Control&) override {}
-    void PopUp(Menu&, Point) override {}
-    std::vector<std::string> Differences() const override { return {}; }
-    int& updates_;
+  struct Peer final : HeadlessPeer {
+    using HeadlessPeer::HeadlessPeer;
+    void Update(Element&, Property) override { ++*updates; }
+    int* updates = nullptr;
   };
+  HeadlessBoxes noBoxes_;
 };
 
 class Window : public Form {

@@ -31,29 +31,23 @@ class TestWindow : public Form {
   std::function<void()> Changed = [] {};
 };
 
-/// Headless; while there are differences, new windows claim them.
+/// Headless; while it is skewed, new windows, which have no boxes, claim a difference.
 class SkewedBackend : public HeadlessBackend {
  public:
   std::unique_ptr<FormPeer> Realise(Form& form) override {
-    if (differences.empty()) return HeadlessBackend::Realise(form);
-    return std::make_unique<SkewedPeer>(differences);
+    if (!skewed) return HeadlessBackend::Realise(form);
+    return std::make_unique<Peer>(form, noBoxes_);
   }
   void RunUntil(const std::function<bool()>&) override {}
 
-  std::vector<std::string> differences;
+  bool skewed = false;
 
  private:
-  struct SkewedPeer : FormPeer {
-    explicit SkewedPeer(std::vector<std::string> differences) : claimed(std::move(differences)) {}
-    void Update(Element&, Property) override {}
-    void Focus(Control&) override {}
-    void Activate() override {}
-    void Add(Control&) override {}
-    void Remove(Control&) override {}
-    void PopUp(Menu&, Point) override {}
-    std::vector<std::string> Differences() const override { return claimed; }
-    std::vector<std::string> claimed;
+  struct Peer : HeadlessPeer {
+    using HeadlessPeer::HeadlessPeer;
+    std::vector<std::string> Differences() const override { return {"caption"}; }
   };
+  HeadlessBoxes noBoxes_;
 };
 
 class PilotTest : public testing::Test {
@@ -120,31 +114,29 @@ TEST_F(PilotTest, TypingStopsWhenItClosesTheWindow) {
 }
 
 TEST_F(PilotTest, LinesWrapAtTheBoxOrAtItsRightMargin) {
-  RichTextSurface& surface = first.box.Surface();
-  first.box.Width(3000);
-  surface.Text(std::u16string(90, u'x'));
+  first.box.Surface().Text(std::u16string(90, u'x'));
   first.Load();
-  const std::int32_t lines = surface.LineFromChar(90);
-  first.box.Width(1500);
-  EXPECT_EQ(surface.LineFromChar(90), 2 * lines + 1);
-  surface.RightMargin(3000);
-  EXPECT_EQ(surface.LineFromChar(90), lines);
-  first.box.Width(500);
-  EXPECT_EQ(surface.LineFromChar(90), lines);
-  surface.RightMargin(0);
-  EXPECT_EQ(surface.LineFromChar(90), 6 * lines + 5);
+  std::vector<std::int32_t> last;
+  for (const auto& [width, margin] :
+       {std::pair{3000, 0}, {1500, 0}, {1500, 3000}, {500, 3000}, {500, 0}}) {
+    first.box.Width(static_cast<float>(width));
+    first.box.Surface().RightMargin(static_cast<float>(margin));
+    last.push_back(first.box.Surface().LineFromChar(90));
+  }
+  const std::int32_t n = last.front();
+  EXPECT_EQ(last, (std::vector{n, 2 * n + 1, n, n, 6 * n + 5}));
 }
 
 TEST_F(PilotTest, DifferencesOfAWindowFailTheScript) {
   first.Show();
-  Run("# one\nget Co_Trouver.Left\n");
+  Run("get Co_Trouver.Left\n");
   EXPECT_EQ(transcript.Close(), 0);
-  first.Unload();
-  inner.differences = {"caption"};
-  first.Show();
+  inner.skewed = true;
+  Form skewed(context.Windows(), "Co_Symbols", {0, 0, 3000, 3000}, u"");
+  skewed.Show();
   Run("get Co_Trouver.Left\n");
   EXPECT_EQ(transcript.Close(), 1);
-  EXPECT_EQ(err.str(), "line 1: get Co_Trouver.Left\n  Co_Trouver: caption\n");
+  EXPECT_EQ(err.str(), "line 1: get Co_Trouver.Left\n  Co_Symbols: caption\n");
 }
 
 }  // namespace

@@ -17,9 +17,9 @@ class Recovery(SandboxTest):
         return program
 
     def test_the_copy_follows_the_note(self):
-        program = self.edit("C:\\n\\a.txt", "un")
-        self.assertEqual(self.copies(), [])  # the file could not be made, nothing was loaded
-        program.kill()
+        for note, text in (("C:\\absent\\a.txt", "un"), ("abc", "")):
+            self.edit(note, text, 60000).end()
+            self.assertFalse((self.root / "state").exists())  # nothing was loaded, nothing edited
         (self.root / "c/n").mkdir()
         program = self.edit("C:\\n\\a.txt", "un", wait=4000)
         self.assertEqual(self.copies(), [])
@@ -36,12 +36,6 @@ class Recovery(SandboxTest):
         self.assertEqual(len(self.copies()), 1)
         program.do("answer No", "close Co_Rtf", "forms")
         self.assertEqual(self.copies(), [])
-
-    def test_nothing_is_written_of_an_unedited_note(self):
-        program = self.edit("abc", "", 60000)
-        program.do("click Co_Rtf.mnuPopQuitter", "forms")
-        self.assertFalse((self.root / "state").exists())
-        program.end()
 
     def found(self, prepare=lambda: None):
         """The boxes that the next start shows."""

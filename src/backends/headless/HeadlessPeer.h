@@ -13,7 +13,7 @@ namespace lumenote {
 /// until a new box has the same address.
 using HeadlessBoxes = std::map<const Control*, std::unique_ptr<HeadlessBox>>;
 
-class HeadlessPeer final : public FormPeer {
+class HeadlessPeer : public FormPeer {
  public:
   /// `layouts` must outlive the peer.
   HeadlessPeer(Form& form, HeadlessBoxes& boxes);
