@@ -1,25 +1,20 @@
 #!/usr/bin/env python3
-"""Text is dragged out of a note, into other programs and other notes.
-
-usage: drag_test.py NOTES_HOST DROP_TARGET    status 77 when the desktop cannot be had
-"""
+"""Text is dragged out of a note, into other programs and other notes."""
 import itertools
-import os
-import sys
 
-from rig import Desktop, Host, main
+from rig import DROP_TARGET, Host, Notes, main
 
-NOTES_HOST, DROP_TARGET = map(os.path.abspath, (sys.argv.pop(1), sys.argv.pop(1)))
 TEXT = "un deux trois"
 WORD = (17, 38)  # inside the first word of a note
 
 
-class Drag(Desktop):
+class Drag(Notes):
     def setUp(self):
         super().setUp()
-        self.host = Host(self, NOTES_HOST, TEXT, "autre")
-        self.host.ask("show 1")
-        self.note = self.front("Note 1")
+        self.open(TEXT, "autre")
+        self.select_word()
+
+    def select_word(self):
         self.keys(self.note, "ctrl+Home", "shift+Right", "shift+Right")
         self.host.waits_for("selected 1", "un")
 
@@ -43,10 +38,6 @@ class Drag(Desktop):
         self.drag_to(target, 100, lambda: other.lines().count("over") >= asked)
         return other
 
-    def shows_the_drag(self):
-        """The toolkit shows what is dragged in a window of its own, beside the mouse."""
-        return self.popup()
-
     def dropped(self, other):
         return [line for line in other.lines() if line.startswith("/")]
 
@@ -59,25 +50,20 @@ class Drag(Desktop):
         self.keys(self.note, "ctrl+z")
         self.host.waits_for("text 1", TEXT)
 
-    def refuse(self, manner, drops):
-        other = self.drag_out(manner)
-        self.wait(lambda: len(self.dropped(other)) == drops, "the drop")
-        # Typed after the drop, so that the program has seen how the drag ended.
-        self.keys(self.note, "ctrl+End")
-        self.type(self.note, "!")
-        self.host.waits_for("text 1", TEXT + "!")
-
-    def test_a_copy_stays(self):
-        self.refuse("copy", 1)
-
-    def test_what_is_refused_when_it_has_fallen_stays(self):
-        self.refuse("late", 1)
-
-    def test_what_is_refused_stays(self):
-        self.refuse("refuse", 0)
+    def test_what_is_copied_or_refused_stays(self):
+        for number, (manner, drops) in enumerate((("copy", 1), ("late", 1), ("refuse", 0)), 1):
+            other = self.drag_out(manner)
+            self.wait(lambda: len(self.dropped(other)) == drops, "the drop")
+            # Typed after the drop, so that the program has seen how the drag ended.
+            self.keys(self.note, "ctrl+End")
+            self.type(self.note, "!")
+            self.host.waits_for("text 1", TEXT + "!" * number)
+            self.select_word()
+            other.process.kill()
+            self.wait(lambda: not self.window("Cible"), "the other program's end")
 
     def test_a_move_within_the_note_is_one_step(self):
-        self.drag_to(self.note, 38, self.shows_the_drag)
+        self.drag_to(self.note, 38, self.popup)  # what is dragged is shown beside the mouse
         self.host.waits_for("text 1", " deux troisun")
         self.assertEqual(self.host.ask("undo 1"), "3")
         self.keys(self.note, "ctrl+z")
@@ -85,11 +71,10 @@ class Drag(Desktop):
         self.assertEqual(self.host.ask("undo 1"), "0")
 
     def test_a_move_to_another_note(self):
-        self.host.ask("show 2")
-        other = self.front("Note 2")
+        other = self.show(2)
         self.run_x("xdotool", "windowmove", "--sync", other, "800", "500")
         self.keys(self.note, "shift")
-        self.drag_to(other, 38, self.shows_the_drag)
+        self.drag_to(other, 38, self.popup)
         self.host.waits_for("text 2", "autreun")
         self.host.waits_for("text 1", " deux trois")
 

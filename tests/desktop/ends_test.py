@@ -1,20 +1,14 @@
 #!/usr/bin/env python3
-"""Ends of the program that nobody asks the user about: the text is there at the next start.
-
-usage: ends_test.py MICROEDIT NOTES_HOST    status 77 when the desktop cannot be had
-"""
-import os
+"""Ends of the program that nobody asks the user about: the text is there at the next start."""
 import signal
-import sys
 
-from rig import Desktop, Host, main
+from rig import MICROEDIT, NOTES_HOST, Host, Notes, main
 from session import Session
 
-MICROEDIT, NOTES_HOST = map(os.path.abspath, (sys.argv.pop(1), sys.argv.pop(1)))
 COPIES = ".local/state/lumenote/owner-*/*.note"
 
 
-class Ends(Desktop):
+class Ends(Notes):
     session = None
 
     def setUp(self):
@@ -25,10 +19,6 @@ class Ends(Desktop):
 
     def launch(self):
         return self.start(MICROEDIT, "--title", "Note", str(self.note))
-
-    def open(self):
-        program = self.launch()
-        return program, self.front("Note")
 
     def rescued(self):
         return [path.read_text() for path in sorted((self.home / "Documents").iterdir())]
@@ -44,42 +34,36 @@ class Ends(Desktop):
         program.kill()
         program.wait()
         self.wait(lambda: not self.window("Note"), "the end of the editor")
-        _, editor = self.open()
-        self.keys(editor, "ctrl+f")  # comes behind any box
+        self.launch()
+        self.keys(self.front("Note"), "ctrl+f")  # comes behind any box
         self.front("Trouver")
         self.assertIsNone(self.window("microedit"))
         self.assertEqual(self.rescued(), ["xavant"])
 
-    def edit(self):
-        program, editor = self.open()
+    def launch_and_edit(self):
+        program = self.launch()
+        editor = self.front("Note")
         self.type(editor, "x")
         self.keys(editor, "ctrl+f")  # comes behind the text
         self.front("Trouver")
         return program
 
-    def check_signal(self, number):
-        program = self.edit()
-        program.send_signal(number)
-        self.assertEqual(program.wait(60), -number)
+    def test_a_hang_up(self):
+        program = self.launch_and_edit()
+        program.send_signal(signal.SIGHUP)
+        self.assertEqual(program.wait(60), -signal.SIGHUP)
         self.starts_again()
 
-    def test_a_polite_end(self):
-        self.check_signal(signal.SIGTERM)
-
-    def test_a_hang_up(self):
-        self.check_signal(signal.SIGHUP)
-
     def test_a_signal_while_a_box_is_open(self):
-        program, editor = self.open()
-        self.type(editor, "x")
-        self.keys(editor, "alt+F4")
+        program = self.launch_and_edit()
+        self.keys(self.window("Note"), "alt+F4")
         self.wait(lambda: self.window("microedit"), "the question")
         program.terminate()
         self.assertEqual(program.wait(60), -signal.SIGTERM)
         self.starts_again()
 
     def test_a_crash(self):
-        program = self.edit()
+        program = self.launch_and_edit()
         self.wait(lambda: list(self.home.glob(COPIES)), "the copy")
         program.kill()
         program.wait()
@@ -95,7 +79,7 @@ class Ends(Desktop):
 
     def test_the_end_of_the_session(self):
         self.join_session()
-        program = self.edit()
+        program = self.launch_and_edit()
         self.end_session()
         self.assertEqual(program.wait(60), 0)
         del self.env["SESSION_MANAGER"]
@@ -105,18 +89,17 @@ class Ends(Desktop):
         self.join_session()
         folder = self.home / "c" / "notes"
         folder.mkdir(parents=True)
-        host = Host(self, NOTES_HOST, "C:\\notes\\note.rtf")
-        host.tell("wait 1")
-        self.type(self.front("Note 1"), "x")
-        host.waits_for("text 1", "x")
+        self.host = Host(self, NOTES_HOST, "C:\\notes\\note.rtf")
+        self.host.tell("wait 1")
+        self.front("Note 1")
+        self.edit()
         self.leave_no_place(folder)
         self.end_session()
         self.keys(self.front("notes_host"), "Return")
-        self.assertEqual(host.process.wait(60), 0)
-        self.assertEqual(host.lines()[-2:], ["ok", "ended"])
+        self.ends("ok", "ended")
 
     def test_a_lost_display(self):
-        program = self.edit()
+        program = self.launch_and_edit()
         self.started[0].kill()
         program.wait(60)
         self.env["DISPLAY"] = self.start_server()

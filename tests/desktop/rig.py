@@ -1,4 +1,8 @@
-"""A desktop of its own for tests: an X server without a screen, a window manager, a home folder."""
+"""A desktop of its own for tests: an X server without a screen, a window manager, a home folder.
+
+Each test is run as NAME_test.py MICROEDIT LUMENOTE NOTES_HOST DROP_TARGET; status 77 when the desktop
+cannot be had.
+"""
 import ctypes
 import os
 import pathlib
@@ -10,9 +14,12 @@ import tempfile
 import time
 import unittest
 
+MICROEDIT, LUMENOTE, NOTES_HOST, DROP_TARGET = map(os.path.abspath, sys.argv[1:5])
+del sys.argv[1:5]
 NEEDED = ("Xvfb", "openbox", "xdotool", "xprop", "ps")
 SKIPPED = 77
 CLIENT_MESSAGE = 33  # of the X protocol
+FORMAT_ZONE = (342, 241)  # below a note, to the right: opens the paragraph dialog
 PATIENCE = int(os.environ.get("PATIENCE", "120"))  # seconds; only what fails waits so long
 
 
@@ -187,10 +194,18 @@ class Desktop(unittest.TestCase):
                 command += action.split()
         self.run_x(*command)
 
-    def popup(self, program="notes_host"):
-        """Whether a menu or a list is open over the program's windows."""
-        shown = self.run_x("xdotool", "search", "--onlyvisible", "--class", program).split()
-        return bool({hex(int(number)) for number in shown} - self.windows().keys())
+    def popup(self):
+        """Whether a menu, a list or something dragged is shown over the editor's windows."""
+        shown = self.run_x("xdotool", "search", "--onlyvisible", "--class", "notes_host|microedit")
+        return bool({hex(int(number)) for number in shown.split()} - self.windows().keys())
+
+    def choose(self, window, *keys):
+        """An entry of a note's context menu, or only the menu."""
+        self.activate(window)
+        self.mouse(window, (150, 150), "click 3")
+        self.wait(self.popup, "the context menu")
+        if keys:
+            self.run_x("xdotool", "key", "--delay", "40", *keys)
 
     def ask_to_close(self, window):
         """Sends a window what its close box sends, whether it shows one or not."""
@@ -216,6 +231,37 @@ class Desktop(unittest.TestCase):
     def type(self, window, text):
         self.activate(window)
         self.run_x("xdotool", "type", "--delay", "20", text)
+
+
+class Notes(Desktop):
+    """A host of several notes, of which the first is open."""
+
+    def open(self, *notes):
+        self.host = Host(self, NOTES_HOST, *notes)
+        self.note = self.show(1)
+
+    def show(self, number):
+        self.host.ask(f"show {number}")
+        return self.front(f"Note {number}")
+
+    def paragraph_dialog(self):
+        self.mouse(self.note, FORMAT_ZONE, "click 1")
+        return self.front("Format Paragraphe")
+
+    def edit(self, number=1):
+        """Types at the beginning of a note."""
+        self.type(self.window(f"Note {number}"), "x")
+        self.host.waits_for(f"text {number}", lambda text: text.startswith("x"))
+
+    def agree(self, title="notes_host"):
+        """To a box with this title."""
+        self.keys(self.front(title), "Return")
+        self.wait(lambda: not self.window(title), "the end of the box")
+
+    def ends(self, *last):
+        """The host has ended with these lines."""
+        self.assertEqual(self.host.process.wait(timeout=60), 0)
+        self.assertEqual(self.host.lines()[-len(last):], list(last))
 
 
 def main():
