@@ -13,9 +13,14 @@
 
 #include "Notes.h"
 #include "ScannedPage.h"
+#include "backends/qt/QtBackend.h"
 #include "backends/qt/view/RichTextView.h"
+#include "forms/Form.h"
+#include "forms/controls/RichTextBox.h"
 #include "ocr/Cleanup.h"
-#include "qt/Desk.h"
+#include "pilot/machine/PilotPlatform.h"
+#include "pilot/machine/ReportedFonts.h"
+#include "pilot/posix/PosixSandbox.h"
 #include "surface/Fakes.h"
 
 using namespace lumenote;
@@ -130,7 +135,7 @@ class Desk {
   QtLayouter layouter;
   PieceBreaker breaker{layouter};
   DocumentSurface surface{clipboard, files, breaker};
-  CountingView view{surface, layouter, ViewDoors{}, nullptr};
+  CountingView view{surface, layouter, {}, nullptr};
 };
 
 /// A line on either side of one picture.
@@ -159,17 +164,23 @@ void Measure(const std::string& rtf, const std::string& name) {
 
 /// On a window that is shown, up to the frame that shows the page as it is then.
 double CleanUp() {
-  TestPlatform platform;
+  PosixSandbox sandbox;
+  QtBackend backend;
+  const ReportedFonts fonts;
+  PilotPlatform platform(sandbox, backend, fonts);
   WindowList windows{platform};
-  TestForm form(windows);
-  platform.files.Write(kCorrectionsPath, Corrections());
-  form.Surface().Text(ScannedPage());
+  Form form(windows, "Note", {1500, 1500, 6000, 4500}, u"");
+  RichTextBox box(form, "box", {30, 270, 5640, 3200});
+  sandbox.FileSystem().Write(kCorrectionsPath, Corrections());
+  box.Surface().Text(ScannedPage());
   form.Show();
   QApplication::processEvents();
   const std::clock_t start = std::clock();
-  NettoyerTexte(form.Surface(), platform.files, kCorrectionsPath);
+  NettoyerTexte(box.Surface(), sandbox.FileSystem(), kCorrectionsPath);
   QApplication::processEvents();
-  return Milliseconds(start);
+  const double taken = Milliseconds(start);
+  form.Unload();
+  return taken;
 }
 
 }  // namespace
