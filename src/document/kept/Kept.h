@@ -75,8 +75,8 @@ struct KeptField {
   bool operator==(const KeptField&) const = default;
 };
 
-/// The source's head and tail. Kept content refers to fonts and colours by number, so those tables
-/// are kept as they are, and entries for everything else are appended.
+/// The source's head and tail. Kept content names fonts and colours by number, so both tables keep
+/// their entries; new ones are appended. A font's entry says more than `Font`, hence `fontTable`.
 struct KeptHead {
   struct Font {
     int number = 0;
@@ -87,7 +87,7 @@ struct KeptHead {
   ItemId items = 0;               // without the font and colour tables
   ItemId tail = 0;                // after the text
   bool tables = false;            // some kept content refers to the tables, so they are kept
-  std::string fontTable{};        // the content of its group
+  std::string fontTable{};        // the content of its group, printed as it came
   std::vector<Font> fonts{};      // by ascending number
   std::vector<Colour> colours{};  // by number
   int page = 1252;                // code page of bytes in fonts without their own

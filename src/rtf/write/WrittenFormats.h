@@ -89,7 +89,7 @@ class WrittenFormats {
 
 /// Writes the control words that change one character format into another. After \hich readers take
 /// sizes and effects for those of right-to-left text, so these are written before it.
-void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
+void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out);
 /// The words of a paragraph format after \pard, without bullet and table. `styled` means that the
 /// source has styles.

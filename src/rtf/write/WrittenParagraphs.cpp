@@ -7,6 +7,7 @@
 #include "document/KeptEdits.h"
 
 namespace lumenote {
+
 int OpenRows::End(int nesting) {
   LeaveDeeperThan(nesting);
   if (open_.empty() || open_.back() < nesting) open_.push_back(nesting);
@@ -75,9 +76,9 @@ void ParagraphScan::FindKept(Position at, TextView text, CharId format) {
   for (std::size_t i = text.Find(end, 0); i < text.Size(); i = text.Find(end, i + 1)) {
     const std::size_t index = paragraph(i);
     const ParaId own = endsRow ? found.formats[index] : kept.paragraph;
-    const int told = tables.paragraphs[own].nesting;
+    const int stated = tables.paragraphs[own].nesting;
     found.cells.push_back(
-        {index, own, kept.nested ? std::max(told, 2) : std::min(told, 1), endsRow});
+        {index, own, kept.nested ? std::max(stated, 2) : std::min(stated, 1), endsRow});
   }
 }
 
@@ -89,9 +90,9 @@ bool ParagraphScan::FindRows(std::size_t paragraphs) {
 void ParagraphScan::FindRow(std::size_t i) {
   const auto here = [&] { return cells_ > 0 && found.cells[cells_ - 1].paragraph == i; };
   ParaId format = found.formats[i];
-  const int told = document_.Formats().paragraphs[format].nesting;
+  const int stated = document_.Formats().paragraphs[format].nesting;
   const bool ends = here() && found.cells[cells_ - 1].endsRow;
-  int depth = ends ? open_.End(found.cells[cells_ - 1].nesting) : open_.Paragraph(told);
+  int depth = ends ? open_.End(found.cells[cells_ - 1].nesting) : open_.Paragraph(stated);
   found.rowDepths[i] = depth;
   for (; here(); --cells_) {
     WrittenParagraphs::Cell& cell = found.cells[cells_ - 1];

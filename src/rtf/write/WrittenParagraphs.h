@@ -9,22 +9,22 @@ namespace lumenote {
 
 /// The paragraphs of a text in order.
 struct WrittenParagraphs {
-  /// A row that an edit or a damaged source has left without its end, or in the middle of another
-  /// one, is ordinary text.
+  /// Outside any table row. A row without its end, or cut in two by another one, as an edit or a
+  /// damaged source may leave it, is ordinary text. `ParagraphScan` decides that, so the writer
+  /// only meets whole rows.
   static constexpr int kNoRow = -1;
   struct Cell {
-    std::size_t paragraph = 0;  // that it ends in
+    std::size_t paragraph = 0;  // in which it ends
     ParaId format = 0;
-    int nesting = 0;  // that it tells of itself
+    int nesting = 0;  // as its own format says
     bool endsRow = false;
-    /// Whether it is part of a whole row; else its text is part of what follows, whose format and
-    /// depth it has here.
+    /// Whether it is part of a whole row. Otherwise its text belongs to what follows, whose format
+    /// and depth it has here.
     bool whole = true;
     int rowDepth = kNoRow;  // nesting of that row
   };
 
-  /// What is kept before a character of the paragraph but begins the paragraph, whatever an edit
-  /// has put before that character.
+  /// Items kept before some character of the paragraph that nevertheless begin the paragraph.
   struct LeadingItems {
     std::size_t paragraph;
     KeptId kept;
@@ -39,15 +39,17 @@ struct WrittenParagraphs {
   KeptId outside = 0;
 };
 
-/// Going backwards through a text: the rows whose ends have been passed and whose beginnings have
-/// not, by their nesting, the innermost last.
+/// The table rows open at a point of a backward scan: their ends have been seen, their beginnings
+/// not yet. Each is known by its nesting, the innermost is last. The members return the nesting of
+/// the row that something belongs to, or `kNoRow`.
 class OpenRows {
  public:
+  /// The end of a row, which opens that row.
   int End(int nesting);
-  /// The row of a paragraph that calls itself so deep: deeper than the innermost row is in that
-  /// one. A row that does not call itself part of a table is one paragraph.
+  /// A paragraph of that nesting; one nested deeper than any open row belongs to the innermost.
+  /// A row of nesting 0 is that one paragraph.
   int Paragraph(int nesting);
-  /// The same of a cell. One of a nested row is part of no other.
+  /// The end of a cell. A cell of a nested row belongs to no outer row.
   int Cell(int nesting);
 
  private:
@@ -57,18 +59,17 @@ class OpenRows {
   std::vector<int> open_;
 };
 
-/// Finds the paragraphs of a text bit by bit: first all pieces of it are taken, then all rows
-/// found.
+/// Finds the paragraphs of a text in steps: takes the text piece by piece, then finds its rows.
 class ParagraphScan {
  public:
-  /// Of the text from `from` on, or with `mark` of the whole document.
+  /// For the text from `from` on; with `mark`, for the whole document.
   ParagraphScan(const Document& document, Position from, const FinalMark* mark);
 
-  /// The next piece; `found` has the formats of the paragraphs that touch it then.
+  /// Takes the next piece; `found` then has the formats of the paragraphs that touch it.
   void Take(Position from, Position to);
-  /// Behind the last piece.
+  /// Call after the last piece.
   void TakeEnd();
-  /// Goes on through at most so many paragraphs, backwards; whether there are more.
+  /// Scans at most so many more paragraphs, backwards; false once all are done.
   bool FindRows(std::size_t paragraphs);
 
   WrittenParagraphs found;
@@ -83,7 +84,7 @@ class ParagraphScan {
   const FinalMark* mark_;
   Position first_;  // the first paragraph's number in the document
   KeptId last_;
-  // Of the way backwards: what is still to be passed.
+  // Of the backward scan: the rows and cells not scanned yet.
   OpenRows open_;
   std::size_t rows_ = 0;
   std::size_t cells_ = 0;

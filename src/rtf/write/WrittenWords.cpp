@@ -111,26 +111,26 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 
 }  // namespace
 
-void WriteChange(const WrittenFormat& told, const WrittenFormat& to, const FormatTables& tables,
+void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out) {
   static constexpr WrittenFormat kNothing;
   const WordsId high = HighPart(to.words, tables);
-  const bool anew = told.words != to.words || high != 0;
-  const WrittenFormat& from = anew && told.words != 0 ? kNothing : told;
+  const bool anew = from.words != to.words || high != 0;
+  const WrittenFormat& base = anew && from.words != 0 ? kNothing : from;
   if (anew) {
-    if (told.words != 0) out.Word("plain");
+    if (from.words != 0) out.Word("plain");
     WriteWords(to.words, high, tables, out);
   }
-  if (from.effects != to.effects) WriteEffects(from.effects, to.effects, out);
-  if (from.underline != to.underline)
+  if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
+  if (base.underline != to.underline)
     out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
-  if (from.halfPoints != to.halfPoints) {
+  if (base.halfPoints != to.halfPoints) {
     out.Word(to.halfPoints < 0 ? "dn" : "up", std::abs(to.halfPoints));
   }
   for (std::size_t i = 0; i < to.numbers.size(); ++i)
-    if (from.numbers[i] != to.numbers[i]) out.Word(kNumberWords[i].name, to.numbers[i]);
-  if (high == 0 && from.font != to.font) out.Word("f", to.font);
-  if (from.size != to.size) out.Word("fs", to.size);
+    if (base.numbers[i] != to.numbers[i]) out.Word(kNumberWords[i].name, to.numbers[i]);
+  if (high == 0 && base.font != to.font) out.Word("f", to.font);
+  if (base.size != to.size) out.Word("fs", to.size);
   if (high == 0) return;
   WriteWords(high, 0, tables, out);
   out.Word("f", to.font);

@@ -23,11 +23,9 @@ int LineSpacing(const RichTextSurface& surface) {
 }
 
 void SetLineSpacing(RichTextSurface& surface, int value) {
-  ParagraphRecord record;
-  record.mask = ParagraphRecord::kLineSpacing;
-  record.lineSpacingRule = value <= kMaxTwentieths ? LineRule::Multiple : LineRule::Exact;
-  record.lineSpacing = value;
-  surface.SetParaFormat(record);
+  const LineRule rule = value <= kMaxTwentieths ? LineRule::Multiple : LineRule::Exact;
+  surface.SetParaFormat(
+      {.mask = ParagraphRecord::kLineSpacing, .lineSpacingRule = rule, .lineSpacing = value});
 }
 
 int SpaceBefore(const RichTextSurface& surface) {
@@ -35,10 +33,7 @@ int SpaceBefore(const RichTextSurface& surface) {
 }
 
 void SetSpaceBefore(RichTextSurface& surface, int twips) {
-  ParagraphRecord record;
-  record.mask = ParagraphRecord::kSpaceBefore;
-  record.spaceBefore = twips;
-  surface.SetParaFormat(record);
+  surface.SetParaFormat({.mask = ParagraphRecord::kSpaceBefore, .spaceBefore = twips});
 }
 
 int SpaceAfter(const RichTextSurface& surface) {
@@ -46,10 +41,7 @@ int SpaceAfter(const RichTextSurface& surface) {
 }
 
 void SetSpaceAfter(RichTextSurface& surface, int twips) {
-  ParagraphRecord record;
-  record.mask = ParagraphRecord::kSpaceAfter;
-  record.spaceAfter = twips;
-  surface.SetParaFormat(record);
+  surface.SetParaFormat({.mask = ParagraphRecord::kSpaceAfter, .spaceAfter = twips});
 }
 
 }  // namespace lumenote
