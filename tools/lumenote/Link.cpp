@@ -14,11 +14,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::u16string& PlaceOf(const ProgramTable& places, const std::string& name) {
+const std::u16string& PathOf(const ProgramTable& programs, const std::string& name) {
   const std::u16string lower = Lower(FromUtf8(name));
-  const auto row = std::find_if(places.rows.begin(), places.rows.end(),
+  const auto row = std::find_if(programs.rows.begin(), programs.rows.end(),
                                 [&](const auto& known) { return Lower(known.name) == lower; });
-  if (row == places.rows.end()) throw CommandLineError("application inconnue : " + name);
+  if (row == programs.rows.end()) throw CommandLineError("application inconnue : " + name);
   return row->path;
 }
 
@@ -51,11 +51,11 @@ int Link(Arguments arguments) {
   if (line.Operands().size() != 2)
     throw CommandLineError("une application et un programme sont attendus");
   const DrivePaths drives = DrivePaths::OfUser();
-  const ProgramTable places = FirstCandidates(drives);
-  const std::u16string& place = PlaceOf(places, line.Operands()[0]);
+  const ProgramTable programs = FirstCandidates(drives);
+  const std::u16string& path = PathOf(programs, line.Operands()[0]);
   const std::string program = Absolute(line.Operands()[1]);
   CheckProgram(program);
-  const fs::path link = NativePath(drives, place);
+  const fs::path link = NativePath(drives, path);
   if (fs::path(program).lexically_normal() == link.lexically_normal())
     throw Failure(program + " : se désignerait lui-même");
   try {

@@ -16,7 +16,7 @@ constexpr float kLeastSize = 1;
 constexpr float kMaxSize = 1638;
 constexpr std::int32_t kColourBits = 0xFFFFFF;
 constexpr std::uint8_t kSymbolCharset = 2;
-constexpr std::uint16_t kRaised = kSuperscript | kSubscript;
+constexpr std::uint16_t kScripts = kSuperscript | kSubscript;
 
 bool IsSymbolFont(std::u16string_view name) {
   constexpr std::array<std::u16string_view, 8> kSymbolFonts{
@@ -98,10 +98,12 @@ std::optional<int> CharacterFormats::Offset() const {
 void CharacterFormats::Offset(int twips) {
   const std::int16_t offset = ToInt16(std::int64_t{twips});
   Apply(
-      [=](const CharFormat& format) { return format.offset != offset || format.effects & kRaised; },
+      [=](const CharFormat& format) {
+        return format.offset != offset || format.effects & kScripts;
+      },
       [=](CharFormat& format) {
         format.offset = offset;
-        format.effects &= static_cast<std::uint16_t>(~kRaised);
+        format.effects &= static_cast<std::uint16_t>(~kScripts);
       });
 }
 

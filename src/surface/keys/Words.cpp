@@ -27,18 +27,18 @@ class Walk {
   Position Here() const { return position_; }
   bool AtEnd() const { return position_ >= text_.Length(); }
   bool AtStart() const { return position_ <= 0; }
-  Class Ahead() { return ClassOf(text_[position_]); }
+  Class Next() { return ClassOf(text_[position_]); }
   Class Behind() { return ClassOf(text_[position_ - 1]); }
   void Step() { position_ = text_.Next(position_); }
   void StepBack() { position_ = text_.Previous(position_); }
   void Pass(Class c) {
-    while (!AtEnd() && Ahead() == c) Step();
+    while (!AtEnd() && Next() == c) Step();
   }
   void PassBack(Class c) {
     while (!AtStart() && Behind() == c) StepBack();
   }
   /// Whether an apostrophe between two letters begins (ends) at this position.
-  bool ElisionAhead() { return ElisionAt(position_); }
+  bool ElisionNext() { return ElisionAt(position_); }
   bool ElisionBehind() { return ElisionAt(position_ - 1); }
 
  private:
@@ -56,13 +56,13 @@ class Walk {
 Position NextWord(const Document& document, Position position) {
   Walk walk(document, position);
   if (walk.AtEnd()) return position;
-  const Class first = walk.Ahead();
+  const Class first = walk.Next();
   if (first == Class::Break) {
     walk.Step();
     return walk.Here();
   }
   walk.Pass(first);
-  if (first == Class::Word && walk.ElisionAhead()) walk.Step();
+  if (first == Class::Word && walk.ElisionNext()) walk.Step();
   walk.Pass(Class::Blank);
   return walk.Here();
 }
@@ -87,11 +87,11 @@ Position PreviousWord(const Document& document, Position position) {
 
 Selection WordAt(const Document& document, Position position) {
   Walk forward(document, position);
-  if (forward.AtEnd() || forward.Ahead() == Class::Break) {
+  if (forward.AtEnd() || forward.Next() == Class::Break) {
     if (forward.AtStart() || forward.Behind() == Class::Break) return {position, position};
     forward.StepBack();
   }
-  const Class kind = forward.Ahead();
+  const Class kind = forward.Next();
   Walk backward(document, forward.Here());
   forward.Pass(kind);
   backward.PassBack(kind);

@@ -38,12 +38,12 @@ double Contrast(const QColor& one, const QColor& other) {
 }
 
 /// The size of a character and its baseline shift, from superscript, subscript and offset.
-struct Raised {
+struct Script {
   double points;
   double raise;  // pixels
 };
 
-Raised RaisedSize(const CharFormat& format) {
+Script ScriptSize(const CharFormat& format) {
   const double full = std::clamp(format.size / 2.0, kLeastPoints, kMaxPoints);
   const double pixels = full * 4 / 3;
   const double offset = ToPixels(format.offset);
@@ -97,16 +97,16 @@ const CharStyle& CharStyles::Of(const Document& document, const CharFormat& form
 }
 
 CharStyle CharStyles::Make(const Document& document, const CharFormat& format) const {
-  const Raised raised = RaisedSize(format);
+  const Script script = ScriptSize(format);
   const FontFace& face = document.Formats().fonts[format.font];
   const bool embedded = document.Formats().kept[format.kept].kind == Kept::Kind::Embedded;
-  const double points = raised.points * (embedded ? kPlaceholderSize : 1);
+  const double points = script.points * (embedded ? kPlaceholderSize : 1);
   const QFont font = MakeFont(face, format, points, zoom_);
   const QFontMetricsF metrics(font);
   CharStyle style;
   style.ascent = metrics.ascent();
   style.descent = metrics.descent();
-  style.raise = raised.raise * zoom_;
+  style.raise = script.raise * zoom_;
   style.hidden = format.effects & kHidden;
   style.object = embedded;
   style.underline = format.underline;

@@ -1,5 +1,6 @@
 #include "backends/qt/text/Decorations.h"
 
+#include <QMap>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
@@ -16,49 +17,31 @@ struct Stroke {
   bool wave = false;
 };
 
+/// Underlines that are not in the table are single solid lines.
 Stroke StrokeOf(Underline kind) {
   static const QList<qreal> kDots{1, 2};
   static const QList<qreal> kDashes{4, 2};
   static const QList<qreal> kLongDashes{8, 3};
   static const QList<qreal> kDashDot{4, 2, 1, 2};
   static const QList<qreal> kDashDotDot{4, 2, 1, 2, 1, 2};
-  switch (kind) {
-    case Underline::None:
-    case Underline::Single:
-    case Underline::Words:
-      return {};
-    case Underline::Double:
-      return {.lines = 2};
-    case Underline::Dotted:
-      return {.dashes = kDots};
-    case Underline::Dash:
-      return {.dashes = kDashes};
-    case Underline::DashDot:
-      return {.dashes = kDashDot};
-    case Underline::DashDotDot:
-      return {.dashes = kDashDotDot};
-    case Underline::Thick:
-      return {.weight = 2};
-    case Underline::Wave:
-      return {.wave = true};
-    case Underline::DoubleWave:
-      return {.lines = 2, .wave = true};
-    case Underline::HeavyWave:
-      return {.weight = 2, .wave = true};
-    case Underline::LongDash:
-      return {.dashes = kLongDashes};
-    case Underline::ThickDotted:
-      return {.dashes = kDots, .weight = 2};
-    case Underline::ThickDash:
-      return {.dashes = kDashes, .weight = 2};
-    case Underline::ThickDashDot:
-      return {.dashes = kDashDot, .weight = 2};
-    case Underline::ThickDashDotDot:
-      return {.dashes = kDashDotDot, .weight = 2};
-    case Underline::ThickLongDash:
-      return {.dashes = kLongDashes, .weight = 2};
-  }
-  return {};
+  static const QMap<Underline, Stroke> kStrokes{
+      {Underline::Double, {.lines = 2}},
+      {Underline::Dotted, {.dashes = kDots}},
+      {Underline::Dash, {.dashes = kDashes}},
+      {Underline::DashDot, {.dashes = kDashDot}},
+      {Underline::DashDotDot, {.dashes = kDashDotDot}},
+      {Underline::Thick, {.weight = 2}},
+      {Underline::Wave, {.wave = true}},
+      {Underline::DoubleWave, {.lines = 2, .wave = true}},
+      {Underline::HeavyWave, {.weight = 2, .wave = true}},
+      {Underline::LongDash, {.dashes = kLongDashes}},
+      {Underline::ThickDotted, {.dashes = kDots, .weight = 2}},
+      {Underline::ThickDash, {.dashes = kDashes, .weight = 2}},
+      {Underline::ThickDashDot, {.dashes = kDashDot, .weight = 2}},
+      {Underline::ThickDashDotDot, {.dashes = kDashDotDot, .weight = 2}},
+      {Underline::ThickLongDash, {.dashes = kLongDashes, .weight = 2}},
+  };
+  return kStrokes.value(kind);
 }
 
 /// The part of a decoration in one line of a piece.

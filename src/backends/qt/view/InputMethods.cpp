@@ -32,13 +32,35 @@ QList<QTextLayout::FormatRange> FormatsOf(const QInputMethodEvent& event) {
   return formats;
 }
 
+/// The answers about text and positions; null for any other query.
+QVariant AnswerText(RichTextView& view, Qt::InputMethodQuery query) {
+  const DocumentSurface& surface = view.Surface();
+  const Selection around = view.Input().Surroundings();
+  const auto text = [&](Selection range) {
+    return QVariant(ToQString(surface.Content().Text(range.start, range.end)));
+  };
+  switch (query) {
+    case Qt::ImSurroundingText:
+      return text(around);
+    case Qt::ImTextBeforeCursor:
+      return text({around.start, surface.Caret()});
+    case Qt::ImTextAfterCursor:
+      return text({surface.Caret(), around.end});
+    case Qt::ImCursorPosition:
+      return surface.Caret() - around.start;
+    case Qt::ImAnchorPosition:
+      return std::clamp(surface.Anchor(), around.start, around.end) - around.start;
+    case Qt::ImAbsolutePosition:
+      return surface.Caret();
+    case Qt::ImCurrentSelection:
+      return text(view.Input().ToldSelection());
+    default:
+      return {};
+  }
+}
+
 QVariant AnswerInput(RichTextView& view, Qt::InputMethodQuery query) {
   const DocumentSurface& surface = view.Surface();
-  const Document& document = surface.Content();
-  const Selection around = view.Input().Surroundings();
-  const auto text = [&](Position from, Position to) {
-    return QVariant(ToQString(document.Text(from, to)));
-  };
   switch (query) {
     case Qt::ImEnabled:
       return !view.IsLocked();
@@ -52,26 +74,10 @@ QVariant AnswerInput(RichTextView& view, Qt::InputMethodQuery query) {
     }
     case Qt::ImFont: {
       CharStyles& styles = view.Layouter().styles;
-      return styles.Of(document, surface.InsertionFormat()).format.font();
-    }
-    case Qt::ImSurroundingText:
-      return text(around.start, around.end);
-    case Qt::ImTextBeforeCursor:
-      return text(around.start, surface.Caret());
-    case Qt::ImTextAfterCursor:
-      return text(surface.Caret(), around.end);
-    case Qt::ImCursorPosition:
-      return surface.Caret() - around.start;
-    case Qt::ImAnchorPosition:
-      return std::clamp(surface.Anchor(), around.start, around.end) - around.start;
-    case Qt::ImAbsolutePosition:
-      return surface.Caret();
-    case Qt::ImCurrentSelection: {
-      const Selection told = view.Input().ToldSelection();
-      return text(told.start, told.end);
+      return styles.Of(surface.Content(), surface.InsertionFormat()).format.font();
     }
     default:
-      return {};
+      return AnswerText(view, query);
   }
 }
 

@@ -70,13 +70,13 @@ class AccessibleView final : public QAccessibleWidget,
   void setCursorPosition(int position) override { text_.Select(position, position); }
   QString text(int start, int end) const override { return ToQString(text_.Text({start, end})); }
   QString textBeforeOffset(int offset, Boundary type, int* start, int* end) const override {
-    return Told(text_.Before(offset, UnitOf(type)), start, end);
+    return Answer(text_.Before(offset, UnitOf(type)), start, end);
   }
   QString textAfterOffset(int offset, Boundary type, int* start, int* end) const override {
-    return Told(text_.Behind(offset, UnitOf(type)), start, end);
+    return Answer(text_.Behind(offset, UnitOf(type)), start, end);
   }
   QString textAtOffset(int offset, Boundary type, int* start, int* end) const override {
-    return Told(text_.At(offset, UnitOf(type)), start, end);
+    return Answer(text_.At(offset, UnitOf(type)), start, end);
   }
   int characterCount() const override { return Surface().Content().Length(); }
   QRect characterRect(int offset) const override;
@@ -93,7 +93,7 @@ class AccessibleView final : public QAccessibleWidget,
 
  private:
   DocumentSurface& Surface() const { return view_.Surface(); }
-  QString Told(Selection range, int* start, int* end) const;
+  QString Answer(Selection range, int* start, int* end) const;
 
   RichTextView& view_;
   AccessibleText text_;
@@ -128,7 +128,7 @@ void AccessibleView::selection(int index, int* start, int* end) const {
   *end = selected.end;
 }
 
-QString AccessibleView::Told(Selection range, int* start, int* end) const {
+QString AccessibleView::Answer(Selection range, int* start, int* end) const {
   *start = range.start;
   *end = range.end;
   return text(range.start, range.end);
