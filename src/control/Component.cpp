@@ -12,8 +12,8 @@ Component::Component(Platform& platform)
 std::unique_ptr<Co_Rtf> Component::MakeEditor() {
   auto window = std::make_unique<Co_Rtf>(windows, session, *temp, outstandingWork);
   window->HostWindow(hostWindow);
-  window->Unloaded = [this] {
-    session->closed = true;       // one that was abandoned has not said so
+  window->Unloaded = [this, own = session] {
+    own->closed = true;           // an abandoned editor has not done so
     const auto handler = closed;  // the host may destroy the control in it
     if (handler) handler();
   };

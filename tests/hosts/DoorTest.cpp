@@ -44,6 +44,26 @@ TEST_F(DoorTest, TheNoteClosedFirstIsToldFirstThoughItsWaitEndsLast) {
   EXPECT_EQ(told, Texts({u"un", u"deux"}));
 }
 
+TEST_F(DoorTest, TheNextNoteMayBeShownInTheNotice) {
+  for (const int mode : {0, 1}) {
+    Texts notes;
+    control->Closed([&] {
+      notes.push_back(control->pStrOrchm());
+      if (notes.size() > 1) return;
+      control->pStrOrchm(u"deux");
+      if (mode == 1) OnEvent([&] { Editor().UserClose(); });
+      control->ShowMicroEdit(mode);
+    });
+    control->pStrOrchm(u"un");
+    OnEvent([&] { Editor().UserClose(); });
+    control->ShowMicroEdit(1);
+    EXPECT_EQ(IsOpen(), mode == 0);
+    EXPECT_EQ(control->Parts().session->closed, mode == 1);
+    EXPECT_EQ(control->pStrOrchm(), u"deux");
+    EXPECT_EQ(notes, Texts({u"un", u"deux"}));
+  }
+}
+
 TEST_F(DoorTest, AControlMayGoWhileItTellsThatItsEditorHasClosed) {
   control->Closed([&] { control.reset(); });
   Open(u"note");
