@@ -1,6 +1,7 @@
 // The editor window: its controls, and handlers that forward to the procedures.
 #pragma once
 #include "editor/ContextMenu.h"
+#include "editor/Dessus.h"
 #include "editor/Dialogs.h"
 #include "editor/MenuBar.h"
 #include "editor/storage/DocumentStorage.h"
@@ -22,8 +23,8 @@ struct Session;
 
 class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
  public:
-  /// Works on the session that stands there, and leaves a copy of it for the next editor when it
-  /// has unloaded. All outlive the window.
+  /// Works on the current `session`, and replaces it by the next editor's when it unloads. All must
+  /// outlive the window.
   Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const TempFolder& temp,
          std::vector<SentWorkFile>& outstandingWork);
   ~Co_Rtf() override;
@@ -46,8 +47,8 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   Platform& Services() override { return Machine(); }
   const TempFolder& Temp() override { return temp_; }
   FileState& OnDisk() override { return onDisk_; }
-  void SuspendreDessus() override;
-  void RetablirDessus() override;
+  void SuspendreDessus() override { dessus_.Suspendre(); }
+  void RetablirDessus() override { dessus_.Retablir(); }
   MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
   std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* dialog) override;
   Rect WindowBounds() const override { return Bounds(); }
@@ -70,10 +71,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   void Form_Unload() override;
   void Form_Keep() override { recovery_.WriteNow(); }
   bool Form_KeyDown(const KeyStroke& key) override;
-
   void OpenNote();
-  /// Saves or hands back the note; whether the window may go.
-  bool EndNote();
 
   void WirePopup();
   void WireBar();
@@ -82,11 +80,10 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   void WireOcr();
   void WireSelectionMenu();
   void WireZones();
-  void DisableEntriesWithoutCommand();
 
   // RoundTripClient
   void Watch(bool on) override;
-  bool WriteNote() override;
+  bool WriteNote() override { return EcrireEtAnnoncer(*this); }
   void Reload() override { LoadFilAndIni(*this); }
   bool KeepNote() override { return GarderNote(*this, Cause::FichierModifie); }
   void GoOnUnsaved() override { ContinuerSansRecharger(*this); }
@@ -97,18 +94,13 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
     AnnoncerSecours(*this, cause, copies);
   }
 
-  void LocatePrograms();
   void Bx_RTF_Change();
   void Bx_RTF_MouseUp(const MouseEvent& event);
   /// A click on the ruler or on one of the labels above and below the document.
   void SwitchZone(float x, float middleWidth);
   void mnuFmtActRègle_Click();
-  void mnuSelLigne_Click();
   /// The menu commands of alignment give the keyboard back to the document.
   void Align(int alignment);
-  void mnuPop_Click();
-  void mnuPopMettreDessus_Click();
-  void mnuPopEnregistrer_Click();
   void mnuPopSupprDoc_Click();
   void mnuPopQuitter_Click();
 
@@ -118,6 +110,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   Session& session_;
   const TempFolder& temp_;
   FileState onDisk_;
+  Dessus dessus_{*this, Pop.mnuPopMettreDessus, session_};
   bool firstActivation_ = true;
   Dialogs dialogs_{*this, *this};
   ProgramTable programs_;

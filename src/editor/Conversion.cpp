@@ -35,7 +35,8 @@ FileState WriteAndReload(NoteWindow& editor, std::u16string_view path, FileType 
 }
 
 /// The same, or nothing when it fails, which only a lack of memory says aloud.
-std::optional<FileState> TryExchange(NoteWindow& editor, std::u16string_view path, FileType type) {
+std::optional<FileState> TryConversion(NoteWindow& editor, std::u16string_view path,
+                                       FileType type) {
   try {
     return WriteAndReload(editor, path, type);
   } catch (const RuntimeError& error) {
@@ -62,7 +63,7 @@ void Convert(NoteWindow& editor, std::u16string_view format, FileType type,
   const std::u16string old = session.documentPath;
   std::u16string path = ChmExts(old, format);
   const std::u16string shown = EspDvtDer(path);
-  std::optional<FileState> state = TryExchange(editor, path, type);
+  std::optional<FileState> state = TryConversion(editor, path, type);
   if (!state) return;
   std::vector<std::u16string> kept;
   {

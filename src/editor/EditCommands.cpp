@@ -3,6 +3,7 @@
 #include <string>
 
 #include "editor/ContextMenu.h"
+#include "forms/Form.h"
 
 namespace lumenote {
 
@@ -35,6 +36,14 @@ std::u16string_view LibelleAction(UndoKind kind) {
 }
 
 bool CanCutCopClr(const RichTextSurface& surface) { return surface.SelLength() >= 1; }
+
+void DisableEntriesWithoutCommand(const Form& window) {
+  for (Element* element : window.Elements()) {
+    auto* entry = dynamic_cast<Menu*>(element);
+    if (entry && entry->Entries().empty() && !entry->IsSeparator() && !entry->Click)
+      entry->Enabled(false);
+  }
+}
 
 void UpdateItems(ContextMenu& menu, const RichTextSurface& surface) {
   const bool redo = surface.CanRedo();

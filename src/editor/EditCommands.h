@@ -1,4 +1,4 @@
-// The context menu's clipboard and undo commands, and when they are enabled.
+// Which menu entries are enabled, and the labels of undo and redo.
 #pragma once
 #include <string_view>
 
@@ -7,11 +7,14 @@
 namespace lumenote {
 
 struct ContextMenu;
+class Form;
 
 /// The label of an undo kind; empty for an unknown kind.
 std::u16string_view LibelleAction(UndoKind kind);
 /// Whether anything is selected.
 bool CanCutCopClr(const RichTextSurface& surface);
+/// Disables every menu entry of the window that has neither a command nor entries of its own.
+void DisableEntriesWithoutCommand(const Form& window);
 /// Enables and labels the entries. A pending redo disables undo.
 void UpdateItems(ContextMenu& menu, const RichTextSurface& surface);
 

@@ -5,6 +5,7 @@
 
 #include "base/Characters.h"
 #include "base/Numbers.h"
+#include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Folders.h"
 #include "platform/Paths.h"
@@ -98,6 +99,14 @@ ProgramTable ChercherApplis(const ProgramSources& sources) {
   for (std::size_t i = 0; i < kPrograms; ++i)
     table.rows[i] = {std::u16string(kPlaces[i].name), Find(sources, table, kPlaces[i])};
   return table;
+}
+
+ProgramTable ChercherApplis(Platform& machine, std::u16string_view temp) {
+  return ChercherApplis({.files = machine.FileSystem(),
+                         .folders = machine.SpecialFolders(),
+                         .temp = std::u16string(temp),
+                         .programs = machine.InstalledPrograms(),
+                         .registry = machine.MachineRegistry()});
 }
 
 std::u16string CheminParProgId(const Registry& registry, std::u16string_view dossierProgrammes,

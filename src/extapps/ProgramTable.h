@@ -9,6 +9,7 @@ namespace lumenote {
 
 class Files;
 class Folders;
+class Platform;
 class ProgramFolders;
 class Registry;
 
@@ -47,6 +48,8 @@ struct ProgramSources {
 
 /// Looks up each program, below the Program Files folder first, then at its fallback.
 ProgramTable ChercherApplis(const ProgramSources& sources);
+/// The same on that machine; `temp` is the control's temporary folder.
+ProgramTable ChercherApplis(Platform& machine, std::u16string_view temp);
 /// The executable registered for an automation class; the file may not exist.
 std::u16string CheminParProgId(const Registry& registry, std::u16string_view dossierProgrammes,
                                std::u16string_view progId);

@@ -1,4 +1,4 @@
-// The states of an exchange.
+// The states of a round trip.
 #include "extapps/RoundTrip.h"
 
 #include <array>
@@ -20,7 +20,7 @@
 namespace lumenote {
 namespace {
 
-/// Of one external editor: its row in the table, and what the messages call it.
+/// An external editor: its program, and its name in the messages.
 struct Editor {
   Program program;
   std::u16string_view abandoned;
@@ -99,7 +99,7 @@ void RoundTrip::EditerAvec(std::int32_t type) {
 
 // --- the watch
 
-// A tick that comes while an earlier one still shows a box is passed over.
+// A tick is ignored while an earlier one still shows a box.
 void RoundTrip::TimerWpd_Timer() {
   if (busy_) return;
   const ScopedFlag busy(busy_);
@@ -254,7 +254,7 @@ void RoundTrip::BringBack() {
   client_.Announce(Cause::FichierTemporaire, {*copy});
 }
 
-/// A program may have saved the note in several forms, of which one came back.
+/// A program may have saved the note in several formats, only one of which came back.
 void RoundTrip::RememberOthers(SentWorkFile sent) {
   sent.folder.clear();
   if (!Reprendre(Disk(), sent).empty()) outstanding_.push_back(std::move(sent));
@@ -274,7 +274,7 @@ bool RoundTrip::BringOnto(const std::u16string& result) {
   const bool text = Lower(target).ends_with(u"txt");
   const bool mayBeEmpty = editor_.Document().TextLength() == 0;
   if (!EstEntier(Disk(), result, text, mayBeEmpty)) return false;
-  // Under the name of the other form the note could not be saved as what it is.
+  // Under the other format's name the note could not be saved as it is.
   if (target != editor_.Values().documentPath && !KeepTyped()) return false;
   return IgnoringErrors([&] {
     Remplacer(Disk(), result, target);
@@ -292,7 +292,7 @@ void RoundTrip::Finish() {
   editor_.RetablirDessus();
 }
 
-/// What was typed behind the program's back does not survive the reload. False when it has to.
+/// Keeps what was typed meanwhile, since the reload drops it. False if it could not be kept.
 bool RoundTrip::KeepTyped() {
   const Session& session = editor_.Values();
   const bool typed = session.changes != changesWritten_ && (session.dirty || broughtBack_);
@@ -303,7 +303,7 @@ bool RoundTrip::KeepTyped() {
   return kept;
 }
 
-// --- what comes too late
+// --- late results
 
 RoundTrip::~RoundTrip() {
   IgnoringErrors([this] { TranslateBadAlloc([this] { Leave(); }); });
@@ -315,7 +315,7 @@ void RoundTrip::Leave() {
   sent_.reset();
 }
 
-// The host may close the editor in the box, and the next one takes the list as it is then.
+// The host may close the editor in the box; the next editor then takes over the list.
 template <class Ready>
 bool RoundTrip::RescueResults(Ready ready) {
   std::vector<std::u16string> copies;

@@ -15,39 +15,38 @@ namespace lumenote {
 
 class Files;
 
-/// What an exchange needs of the editor beyond `EditorWindow`.
+/// What a round trip needs of the editor beyond `EditorWindow`.
 class RoundTripClient {
  public:
   virtual ~RoundTripClient() = default;
-  /// Switches the timer of the watch, which calls `TimerWpd_Timer` every 20 ms.
+  /// Switches the timer that calls `TimerWpd_Timer` every 20 ms.
   virtual void Watch(bool on) = 0;
-  /// Writes the note to the document path, as a save does; whether it is there now.
+  /// Writes the note to the document path, as a save does. Returns whether that succeeded.
   virtual bool WriteNote() = 0;
-  /// Loads the document path into the surface again; tells the user of a failure.
+  /// Reloads the document path into the surface. Reports a failure to the user.
   virtual void Reload() = 0;
-  /// Goes on with the surface instead, as an unsaved note in the form of the document path.
+  /// Keeps the surface instead, as an unsaved note in the format of the document path.
   virtual void GoOnUnsaved() = 0;
-  /// A rescue copy of the note as it stands in the surface, since its file has been changed; tells
-  /// the user. False when none could be made.
+  /// Makes a rescue copy of the note in the surface, since its file has changed, and tells the
+  /// user. False if none could be made.
   virtual bool KeepNote() = 0;
-  /// A rescue copy of a file: its path; empty when none could be made.
+  /// Makes a rescue copy of a file and returns its path; empty if none could be made.
   virtual std::optional<std::u16string> CopyFile(std::u16string_view path) = 0;
-  /// Tells the user of such copies, in one box; of none, nothing.
+  /// Tells the user of such copies in one box, if there are any.
   virtual void Announce(Cause cause, const std::vector<std::u16string>& copies) = 0;
 };
 
-/// One exchange at a time, carried forward by the ticks of a timer; nothing here waits. At every
-/// moment the note is on the disk, in the surface, or in both: it is written before the program
-/// starts, only what the program saved whole replaces it, and at once or not at all, and the
-/// surface is loaded again only from a file that holds the note. What the program saved and what
-/// was typed meanwhile end in the note or in a rescue copy. Other failing file operations are
-/// passed over.
+/// A state machine driven by the ticks of a timer; one round trip at a time, and no call waits. At
+/// every moment the note is on disk, in the surface, or in both: it is written before the program
+/// starts, only a complete result replaces it, atomically, and the surface is reloaded only from a
+/// file that holds the note. What the program saved, and what was typed meanwhile, end up in the
+/// note or in a rescue copy. Other failures of file operations are ignored.
 class RoundTrip {
  public:
   static constexpr int kInterval = 20;  // milliseconds between two ticks
 
-  /// All outlive the exchange. `programs` may be filled again between two exchanges; `outstanding`
-  /// are the work files that earlier editors of the control have left to programs.
+  /// All must outlive this object. `programs` may change between round trips; `outstanding` holds
+  /// the work files that earlier editors of the control left to programs.
   RoundTrip(EditorWindow& editor, RoundTripClient& client, const ProgramTable& programs,
             Processes& processes, std::vector<SentWorkFile>& outstanding)
       : editor_(editor),
@@ -55,28 +54,28 @@ class RoundTrip {
         programs_(programs),
         processes_(processes),
         outstanding_(outstanding) {}
-  /// An editor that never closed leaves it all the same.
+  /// Leaves the work file to its program, even if the editor never closed.
   ~RoundTrip();
   RoundTrip(const RoundTrip&) = delete;
   RoundTrip& operator=(const RoundTrip&) = delete;
 
-  /// The menu commands: refuse a read-only note and a missing program with a message, else begin.
+  /// The menu commands: refuse a read-only note or a missing program with a message, else start.
   void mnuPopQjot_Click() { Appeler(kQjot); }
   void mnuPopAtlantis_Click() { Appeler(kAtlantis); }
   void mnuPopMSWord_Click() { Appeler(kWord); }
 
-  /// Begin, from the first state on, or report the missing program.
+  /// Start in the first state, or report the missing program.
   void EditerAvecQjot() { EditerAvec(kQjot); }
   void EditerAvecAtlantis() { EditerAvec(kAtlantis); }
   void EditerAvecWord() { EditerAvec(kWord); }
 
-  /// The next state and what it does. Raises Overflow when the states run out of 16 bits, and what
-  /// `Processes::Start` raises; the next tick goes on behind it.
+  /// Enters the next state. Raises Overflow when the state number exceeds 16 bits, and the errors
+  /// of `Processes::Start`; the next tick continues with the state after that.
   void TimerWpd_Timer();
 
-  /// The editor closes: what a program still works on is left to it.
+  /// Call when the editor closes: leaves the work file to its program.
   void Leave();
-  /// What programs that have ended saved for editors that had closed becomes a rescue copy.
+  /// Makes rescue copies of what programs saved, now that they have ended, for closed editors.
   void RescueLateResults();
 
   std::int32_t TypeEditeur() const { return type_; }  // 1 Qjot, 2 Atlantis, 3 Word; 0 none yet
@@ -98,19 +97,19 @@ class RoundTrip {
   /// Asks the running instances of that program to quit; reports a failure to the user.
   void TuerParNom(Program program);
   void Report(const SystemError& error);
-  /// An error while one of the programs that were asked to end goes on running.
+  /// An error as long as a program that was asked to quit still runs.
   std::optional<SystemError> Lingering();
   void AwaitInstances();
   void PrepareWorkFile();
-  /// False when something that a program saved could be kept nowhere, and must not be purged.
+  /// False if some result could be kept nowhere and must not be purged.
   bool KeepEarlierResults();
-  /// The same for what earlier exchanges have left, where `ready` says so.
+  /// The same for the outstanding work files that are `ready`.
   template <class Ready>
   bool RescueResults(Ready ready);
   void WriteNote();
   void TakeTime();
   void StartProgram();
-  /// Tells that the work file is missing; the next tick ends the watch.
+  /// Reports a missing work file; the next tick ends the round trip.
   void GiveUp();
   void ReportWorkFile();
   void BringBack();
@@ -123,7 +122,7 @@ class RoundTrip {
 
   Files& Disk();
   const std::u16string& ProgramPath() const;
-  /// Where the program leaves copies of its own; empty for none.
+  /// The folder of the program's own copies; empty for none.
   std::u16string ProgramCopies() const;
   std::u16string CommandLine() const;
 
@@ -133,21 +132,21 @@ class RoundTrip {
   Processes& processes_;
   std::vector<SentWorkFile>& outstanding_;
 
-  std::int32_t type_ = 0;     // as last chosen
-  std::int32_t running_ = 0;  // of this exchange
+  std::int32_t type_ = 0;     // last chosen
+  std::int32_t running_ = 0;  // of this round trip
   std::int16_t state_ = 0;
-  bool busy_ = false;     // a tick has not returned yet
-  bool waiting_ = false;  // for programs to end; the state stays
+  bool busy_ = false;     // inside a tick
+  bool waiting_ = false;  // for programs to quit, in the same state
   int patience_ = 0;
   std::u16string workFile_;
   std::u16string workTime_;
   bool workWritten_ = false;
-  FileTraces old_;                    // what the purge could not take away
-  std::optional<SentWorkFile> sent_;  // from the start of the program to the way back
+  FileTraces old_;                    // left over by the purge
+  std::optional<SentWorkFile> sent_;  // while the program has it
   ProcessId process_ = 0;
-  bool noteOnDisk_ = false;           // the document path holds the note of this exchange
-  bool broughtBack_ = false;          // and it is what the program saved
-  std::uint64_t changesWritten_ = 0;  // how far the note had changed when it was written
+  bool noteOnDisk_ = false;           // the document path holds the note of this round trip
+  bool broughtBack_ = false;          // and that is the program's result
+  std::uint64_t changesWritten_ = 0;  // of the note when it was written
 };
 
 }  // namespace lumenote

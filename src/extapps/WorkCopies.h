@@ -12,7 +12,7 @@ namespace lumenote {
 class Files;
 class NoteCopy;
 
-/// A file as it was when somebody looked: its modification time.
+/// A file and its modification time at some moment.
 struct FileTrace {
   std::u16string path;
   std::int64_t time = 0;
@@ -24,42 +24,42 @@ using FileTraces = std::vector<FileTrace>;
 struct SentWorkFile {
   std::u16string program = {};
   std::u16string path;
-  std::int64_t time = 0;  // of its modification, as it went out
-  std::u16string folder;  // where the program leaves copies of its own; empty for none
-  FileTraces old = {};    // what lay about before and is no result
+  std::int64_t time = 0;  // modification time as it was sent
+  std::u16string folder;  // of the program's own copies; empty for none
+  FileTraces old = {};    // earlier files, which are no results
   std::int64_t process = 0;
   std::shared_ptr<NoteCopy> record = {};  // of all this, for the next start; null for none
 };
 
-/// Deletes the copies of the note at `document`, and those under the common name, that an earlier
-/// exchange left in `folder`, whatever their form; never the note itself. Failures are ignored.
+/// Deletes the copies of the note at `document`, and those named SavNotes, that an earlier round
+/// trip left in `folder`, in any format; never the note itself. Failures are ignored.
 void PurgeSavNotes(Files& files, std::u16string_view folder, std::u16string_view document);
-/// Copies what a program has saved in `folder` under the common name beside the work file `base`,
-/// with its extension in small letters, over whatever stands there, but for those that `old` tells
-/// of. No other form is taken: the purge leaves those alone, so that one could be an earlier
-/// exchange's. The first one that could not be copied; empty when there is none.
+/// Copies what a program has saved as SavNotes in `folder`, unless `old` lists it, over the work
+/// file `base`, with the extension in lower case. Takes only rtf and txt: the purge spares other
+/// formats, so those may be of an earlier round trip. Returns the first file that could not be
+/// copied, or an empty path.
 std::u16string RapatriFch(Files& files, std::u16string_view folder, std::u16string_view base,
                           const FileTraces& old = {});
-/// The work copy in one of the forms that programs save, in this order: rtf, txt, sav; the latest
-/// one of a form. Empty when there is none but those that `old` tells of.
+/// The work copy in the first format of rtf, txt and sav that there is, the latest of that format.
+/// Empty if there is none that `old` does not list.
 std::u16string TrouverRetour(const Files& files, std::u16string_view workFile,
                              const FileTraces& old = {});
 /// The current state of a file; the time is 0 when it cannot be read.
 FileTrace TraceDe(const Files& files, std::u16string_view path);
 /// Every file that the two functions above would find now.
 FileTraces TracesDe(const Files& files, std::u16string_view workFile, std::u16string_view folder);
-/// What the program has saved of a work file that was sent out, those copies included that it keeps
-/// in a folder of its own. Empty when there is nothing.
+/// The result of a work file, after fetching the program's own copies. Empty if there is none.
 std::u16string Reprendre(Files& files, const SentWorkFile& sent);
-/// Hands every file of it to `keep`, until one is refused; false then. What was kept is no result
-/// of `sent` any more. Nothing is written: `sent` may come from a damaged record.
+/// Passes every file that the program has saved to `keep`, until that returns false; returns false
+/// then. Kept files are added to `old`. Writes nothing, since `sent` may come from a damaged
+/// record.
 bool GarderTout(const Files& files, SentWorkFile& sent,
                 const std::function<bool(const std::u16string& result)>& keep);
 
-/// Whether the file at `path` can be what a program meant to save: RTF is closed as often as it is
-/// opened, a text has bytes, unless `mayBeEmpty`. False for one that cannot be read.
+/// Whether the file at `path` is complete: RTF has its last brace, a text is not empty unless
+/// `mayBeEmpty`. False if it cannot be read.
 bool EstEntier(const Files& files, std::u16string_view path, bool text, bool mayBeEmpty);
-/// Puts `from` in the place of `to` at once or not at all. A read-only `to` is an error.
+/// Replaces `to` by `from` atomically. A read-only `to` is an error.
 void Remplacer(Files& files, std::u16string_view from, std::u16string_view to);
 
 }  // namespace lumenote

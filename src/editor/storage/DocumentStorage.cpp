@@ -168,6 +168,13 @@ bool EcrireDocument(NoteWindow& editor, std::vector<std::u16string>& kept) {
   return written;
 }
 
+bool EcrireEtAnnoncer(NoteWindow& editor) {
+  std::vector<std::u16string> kept;
+  const bool written = EcrireDocument(editor, kept);
+  AnnoncerSecours(editor, Cause::FichierModifie, kept);
+  return written;
+}
+
 void SupprimerFichier(NoteWindow& editor, std::vector<std::u16string>& kept) {
   const auto turn = LockFolder(editor);
   IgnoringErrors([&] {

@@ -54,6 +54,8 @@ void DireEchecChargement(NoteWindow& editor);
 /// version as a rescue copy and appends its path to `kept`, to be announced later. If either fails,
 /// the old file stays whole and the second status panel reports it.
 bool EcrireDocument(NoteWindow& editor, std::vector<std::u16string>& kept);
+/// The same, announced at once.
+bool EcrireEtAnnoncer(NoteWindow& editor);
 /// Deletes the file at the document path, even if read-only, with the same precaution. The file
 /// stays if its changed version could not be kept.
 void SupprimerFichier(NoteWindow& editor, std::vector<std::u16string>& kept);

@@ -3,6 +3,7 @@
 #include "base/RuntimeError.h"
 #include "editor/storage/DocumentStorage.h"
 #include "editor/storage/Secours.h"
+#include "editor/storage/StoredGeometry.h"
 #include "lumenote/Platform.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
@@ -35,6 +36,8 @@ TextEncoding PrepareString(NoteWindow& editor) {
   return EcritNoteTemp(files, session.documentPath, session.note);
 }
 
+enum class Fermeture { Complete, SansGeometrie, Annulee };
+
 Fermeture CloseFile(NoteWindow& editor) {
   Session& session = editor.Values();
   const Sauvegarde outcome = SauveFich(editor, true);
@@ -63,6 +66,13 @@ Fermeture CloseString(NoteWindow& editor) {
   return Fermeture::Complete;
 }
 
+Fermeture CloseReadOnly(NoteWindow& editor) {
+  editor.AskOver({.text = u"Attribut 'Lecture Seule'\r\nAbandon des modifications",
+                  .title = u"Attention",
+                  .icon = MessageBox::Icon::Exclamation});
+  return KeepUnreturned(editor) ? Fermeture::SansGeometrie : Fermeture::Annulee;
+}
+
 }  // namespace
 
 void CommencerSession(Session& session) {
@@ -88,15 +98,24 @@ bool OuvrirDocument(NoteWindow& editor) {
   return false;
 }
 
-Fermeture TerminerEdition(NoteWindow& editor) {
+bool TerminerEdition(NoteWindow& editor) {
   const Session& session = editor.Values();
-  if (session.readOnly && session.dirty) {
-    editor.AskOver({.text = u"Attribut 'Lecture Seule'\r\nAbandon des modifications",
-                    .title = u"Attention",
-                    .icon = MessageBox::Icon::Exclamation});
-    return KeepUnreturned(editor) ? Fermeture::SansGeometrie : Fermeture::Annulee;
-  }
-  return session.fileMode ? CloseFile(editor) : CloseString(editor);
+  const bool refused = session.readOnly && session.dirty;
+  const Fermeture decision = refused            ? CloseReadOnly(editor)
+                             : session.fileMode ? CloseFile(editor)
+                                                : CloseString(editor);
+  if (decision == Fermeture::Complete)
+    EcrireGeometrie(editor.Services().UserSettings(), session.settingsKey, editor.WindowBounds());
+  return decision != Fermeture::Annulee;
+}
+
+bool FermerNote(NoteWindow& editor) {
+  const Session& session = editor.Values();
+  if (session.deleted || !session.loaded) return true;
+  editor.SuspendreDessus();
+  if (!TerminerEdition(editor)) return false;
+  Maj_StrOrChm(editor);
+  return true;
 }
 
 void CloreSession(Session& session) {

@@ -18,11 +18,12 @@ std::optional<TextEncoding> PreparerDocument(NoteWindow& editor);
 /// Prepares and loads the document. Reports a failure to the user and returns false.
 bool OuvrirDocument(NoteWindow& editor);
 
-enum class Fermeture { Complete, SansGeometrie, Annulee };
 /// Decides about closing: refuses the changes of a read-only note, asks whether to save, deletes
-/// the twin. Returns whether to store the geometry, or that the window must stay because the note
-/// cannot be kept anywhere.
-Fermeture TerminerEdition(NoteWindow& editor);
+/// the twin, and stores the window's geometry unless changes were refused. Returns whether the
+/// window may go; it must stay if the note cannot be kept anywhere.
+bool TerminerEdition(NoteWindow& editor);
+/// The same for any editor, loaded or not, and returns a string note to the host.
+bool FermerNote(NoteWindow& editor);
 /// Makes a note that the host wrote while the editor was open the next one to open; after a
 /// deletion makes that an empty note, so that the file is not created again.
 void CloreSession(Session& session);

@@ -1,7 +1,8 @@
-#include "editor/StoredGeometry.h"
+#include "editor/storage/StoredGeometry.h"
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "forms/Form.h"
 #include "platform/Settings.h"
 
 namespace lumenote {
@@ -22,8 +23,6 @@ constexpr Dimension kDimensions[] = {{u"DimRtfH", &Rect::height, 4350},
                                      {u"DimRtfT", &Rect::top, 3250},
                                      {u"DimRtfL", &Rect::left, 5000}};
 
-}  // namespace
-
 Rect LireGeometrie(const Settings& settings, std::u16string_view section) {
   Rect bounds;
   for (const Dimension& dimension : kDimensions) {
@@ -34,6 +33,16 @@ Rect LireGeometrie(const Settings& settings, std::u16string_view section) {
     });
   }
   return bounds;
+}
+
+}  // namespace
+
+void RetablirGeometrie(Form& window, const Settings& settings, std::u16string_view section) {
+  const Rect bounds = LireGeometrie(settings, section);
+  IgnoringErrors([&] { window.Height(bounds.height); });
+  IgnoringErrors([&] { window.Width(bounds.width); });
+  window.Top(bounds.top);
+  window.Left(bounds.left);
 }
 
 void EcrireGeometrie(Settings& settings, std::u16string_view section, const Rect& bounds) {
