@@ -3,6 +3,6 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 count() { git ls-files -co --exclude-standard -- "$@" | tr '\n' '\0' | xargs -0 cat | grep -cvE '^[[:space:]]*(//.*|#.*)?$'; }
-code=$(count 'src/*.cpp' 'src/*.h' 'hosts/*.cpp' 'tools/*.cpp' 'tools/*.h')
+code=$(count 'src/*.cpp' 'src/*.h' 'include/*.h' 'hosts/*.cpp' 'hosts/*.h' 'tools/*.cpp' 'tools/*.h')
 tests=$(count 'tests/*.cpp' 'tests/*.h' 'tests/*.pilot' 'tests/*.py' 'tests/*.sh')
 echo "$tests lines of test to $code lines of code: $((100 * tests / code)) %"

@@ -33,8 +33,7 @@ class QtBackend final : public Backend, private PeerServices {
   WidgetRegistry& Widgets() override { return widgets_; }
   void Used(Form& form) override;
 
-  /// Closes the windows that are still there as the user would, the latest first; what refuses goes
-  /// all the same.
+  /// Closes the remaining windows as the user would, the latest first; abandons those that refuse.
   void CloseForms();
 
  private:
@@ -44,7 +43,7 @@ class QtBackend final : public Backend, private PeerServices {
   };
 
   QtLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
-  /// The window that a box asked for by `over` belongs to; null for none.
+  /// The owner of a box that `over` asks for; null for none.
   QWidget* DialogParent(const Form* over) const;
   void NativelyActive(Form& form) override;
   void Activating(Form& form) override;
@@ -55,7 +54,7 @@ class QtBackend final : public Backend, private PeerServices {
 
   WidgetRegistry widgets_;
   QtTimers timers_;
-  // A box that is made where an earlier one was takes its place here.
+  // By address: a new box may replace a destroyed one.
   std::unordered_map<const Control*, std::unique_ptr<SurfaceLayout>> layouts_;
   std::vector<Form*> forms_;            // with a window, in the order of realising
   Form* awaited_ = nullptr;             // activation requested, not confirmed yet

@@ -91,8 +91,8 @@ class LeafList {
   void ForEachMark(Position first, Position last, Visit visit) const;
 
  private:
-  /// Whether no leaf and no group is empty or too large, for assertions; crumbs may lie about after
-  /// a failed allocation.
+  /// Whether no leaf and no group is empty or too large, for assertions. After a failed allocation
+  /// small leaves may remain.
   bool IsSound() const;
 
   static constexpr Position kMergeThreshold = Leaf::kCapacity / 2;
