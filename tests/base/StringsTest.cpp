@@ -1,34 +1,28 @@
-// Conversions at the edges, text helpers, error descriptions.
+// Encodings, text helpers, error descriptions.
 #include <gtest/gtest.h>
-#include <utility>
+#include <tuple>
 
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
+#include "base/Windows1252.h"
 
 namespace lumenote {
 namespace {
 
-using Pair = std::pair<std::string_view, std::u16string_view>;
-
-TEST(Strings, Utf8BothWays) {
-  for (const auto& [bytes, text] :
-       {Pair("", u""), Pair("a\x7F\xC2\x80\xDF\xBF", u"a\x7F\x80\x7FF"),
-        Pair("\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\x800\xD7FF\xE000\xFFFF"),
-        Pair("\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\xD800\xDC00\xDBFF\xDFFF")}) {
-    EXPECT_TRUE(IsUtf8(bytes));
+TEST(Strings, Utf8BothWaysAndReplacements) {
+  const std::tuple<std::string_view, std::u16string_view, bool> rows[] = {
+      {"", u"", true},
+      {"a\x7F\xC2\x80\xDF\xBF", u"a\x7F\x80\x7FF", true},
+      {"\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF", u"\x800\xD7FF\xE000\xFFFF", true},
+      {"\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", u"\xD800\xDC00\xDBFF\xDFFF", true},
+      {"a\xFFz\x80\xC0\xAF", u"a\xFFFDz\xFFFD\xFFFD\xFFFD", false},
+      {"\xE2\x82x\xE2\xC3\xA9\xE2\x82", u"\xFFFDx\xFFFDé\xFFFD", false},
+      {"\xED\xA0\x80\xF0\x9F\x98", u"\xFFFD\xFFFD\xFFFD\xFFFD", false},
+      {"\xF4\x90\x80\x80", u"\xFFFD\xFFFD\xFFFD\xFFFD", false}};
+  for (const auto& [bytes, text, good] : rows) {
+    EXPECT_EQ(IsUtf8(bytes), good) << bytes;
     EXPECT_EQ(FromUtf8(bytes), text);
-    EXPECT_EQ(ToUtf8(text), bytes);
-  }
-}
-
-TEST(Strings, IllFormedUtf8BecomesReplacements) {
-  for (const auto& [bytes, text] :
-       {Pair("a\xFFz\x80", u"a\xFFFDz\xFFFD"), Pair("\xC0\xAF", u"\xFFFD\xFFFD"),
-        Pair("\xE2\x82", u"\xFFFD"), Pair("\xE2\x82x", u"\xFFFDx"),
-        Pair("\xE2\xC3\xA9", u"\xFFFDé"), Pair("\xED\xA0\x80", u"\xFFFD\xFFFD\xFFFD"),
-        Pair("\xF0\x9F\x98", u"\xFFFD"), Pair("\xF4\x90\x80\x80", u"\xFFFD\xFFFD\xFFFD\xFFFD")}) {
-    EXPECT_FALSE(IsUtf8(bytes));
-    EXPECT_EQ(FromUtf8(bytes), text);
+    EXPECT_TRUE(!good || ToUtf8(text) == bytes) << bytes;
   }
   EXPECT_EQ(ToUtf8(u"\xD800x\xDC00\xD800"), "\xEF\xBF\xBDx\xEF\xBF\xBD\xEF\xBF\xBD");
 }
@@ -42,6 +36,17 @@ TEST(Strings, Helpers) {
   EXPECT_EQ(ReplaceEvery(u"xax", u"x", u""), u"a");
   EXPECT_EQ(WithCrLf(u"a\nb\rc\r\nd"), u"a\r\nb\r\nc\r\nd");
   EXPECT_EQ(WithCrLf(u"\n\r\r\n\n"), u"\r\n\r\n\r\n\r\n");
+}
+
+TEST(Windows1252, TakesEachByteThereAndBackAndWritesAQuestionMarkForWhatItLacks) {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) bytes.push_back(static_cast<char>(byte));
+  const std::u16string text = Decode1252(bytes);
+  EXPECT_EQ(Encode1252(text), bytes);
+  EXPECT_TRUE(Fits1252(text));
+  EXPECT_EQ(text.substr(0x80, 2), u"\u20AC\x81");
+  EXPECT_EQ(Encode1252(u"a\u0416b\U0001F600c\xD83D\x80"), "a?b?c??");
+  EXPECT_FALSE(Fits1252(u"a\u0416"));
 }
 
 TEST(RuntimeErrors, CarryNumberAndFrenchDescription) {

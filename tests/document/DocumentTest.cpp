@@ -1,44 +1,9 @@
-// Positions, paragraphs, limits and formats of the document.
+// What the document shares, tidies up and refuses; edits themselves meet a model in surface.
 #include "Model.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote {
 namespace {
-
-TEST(Document, AnswersEveryPositionWhenEmpty) {
-  const Document document;
-  for (Position position : {-5, 0, 7}) {
-    EXPECT_EQ(document.At(position), 0);
-    EXPECT_EQ(document.ParagraphOf(position), 0);
-    EXPECT_EQ(document.ParagraphStart(position), 0);
-    EXPECT_EQ(document.ParagraphEnd(position), 0);
-    EXPECT_EQ(document.CharFormatAt(position), 0u);
-    EXPECT_EQ(document.ParaFormatAt(position), 0u);
-    EXPECT_EQ(document.SnapBackward(position), 0);
-    EXPECT_EQ(document.Text(position, 9), u"");
-    EXPECT_EQ(document.Copy(position, 9).Length(), 0);
-  }
-  EXPECT_EQ(document.ParagraphCount(), 1);
-}
-
-TEST(Document, MovesEdgesOutOfPairs) {
-  Document document;
-  document.Replace(0, 0, PlainFragment(u"a\nb\U0001F33C", 0, 0));  // a CR LF b and a pair
-  struct Case {
-    Position from, to;
-    Selection outwards;
-  };
-  for (const Case& c : {Case{-1, 99, {0, 6}}, Case{2, 2, {1, 1}}, Case{0, 2, {0, 3}},
-                        Case{2, 4, {1, 4}}, Case{3, 1, {3, 3}}, Case{9, 2, {6, 6}}}) {
-    EXPECT_EQ(document.SnapOutward(c.from, c.to), c.outwards) << c.from << ".." << c.to;
-  }
-  EXPECT_EQ(document.SnapBackward(2), 1);
-  EXPECT_EQ(document.SnapForward(2), 3);
-  EXPECT_EQ(document.SnapBackward(5), 4);
-  EXPECT_EQ(document.SnapForward(5), 6);
-  document.Replace(2, 2, PlainFragment(u"x", 0, 0));
-  EXPECT_EQ(document.Text(0, 99), u"ax\r\nb\U0001F33C");
-}
 
 TEST(Document, MapsEachFormatOnceAndSharesTheText) {
   Document document;

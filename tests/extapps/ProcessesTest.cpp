@@ -10,7 +10,7 @@
 #include "backends/posix/folders/PosixProgramFolders.h"
 #include "backends/posix/programs/PosixProcesses.h"
 #include "backends/posix/settings/IniRegistry.h"
-#include "base/Strings.h"
+#include "base/Rows.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
 #include "posix/Sandbox.h"
@@ -24,10 +24,11 @@ struct FakeWindows : ProgramWindows {
     asked += processes.size();
     return hasWindows;
   }
-  bool AnyTitleContains(std::string_view text) const override { return text == title; }
+  bool AnyTitleContains(std::string_view text) const override { return ++looks, text == title; }
 
   bool hasWindows = true;
   std::size_t asked = 0;
+  mutable int looks = 0;
   std::string title;
 };
 
@@ -135,7 +136,8 @@ TEST_F(ProcessesTest, AFileThatWasHandedOverIsWaitedFor) {
   Script("p.exe", "exit 0\n");
   const ProcessId process = desktop.Start(u"C:\\p.exe \"C:\\Temp\\Sav a.rtf\"");
   windows.title = "Sav a.rtf";
-  std::this_thread::sleep_for(std::chrono::milliseconds(2500));
+  // It looks each quarter of a second, and for two seconds it would wait for the window anyway.
+  EXPECT_TRUE(Soon([&] { return !desktop.IsRunning(process) || windows.looks > 9; }));
   EXPECT_TRUE(desktop.IsRunning(process));
   EXPECT_TRUE(desktop.HoldsFiles());
   windows.title.clear();
@@ -172,20 +174,17 @@ TEST(ProgramFoldersTest, TheComponentsFolderHoldsThisProgram) {
 }
 
 TEST(ProgramCommandTest, SplitsByTheRulesOfDriveLetterPrograms) {
-  const struct {
-    std::u16string line;
-    std::vector<std::u16string> words;
-  } cases[] = {
-      {u"", {}},
-      {u"  a b\t c ", {u"a", u"b", u"c"}},
-      {u"\"C:\\a b\\\" x", {u"C:\\a b\\", u"x"}},
-      {u"p \"C:\\a b\" /l\"\" \"\"", {u"p", u"C:\\a b", u"/l", u""}},
-      {u"p a\\\\\"b c\" \\\"d\\\\e", {u"p", u"a\\b c", u"\"d\\\\e"}},
-      {u"p \"open", {u"p", u"open"}},
-      {u"\"open", {u"open"}},
-      {u"\"C:\\a\"\" b\\\"\"\" x", {u"C:\\a\" b\\\"", u"x"}},
-  };
-  for (const auto& c : cases) EXPECT_EQ(SplitCommandLine(c.line), c.words);
+  for (const auto& [line, words] : Rows<2>(R"(
+␣ => "" ¦ ␣␣a b⇥ c␣ => <a><b><c> ¦ "C:\a b\" x => <C:\a b\><x> ¦ p "open => <p><open>
+p "C:\a b" /l"" "" => <p><C:\a b></l><> ¦ p a\\"b c" \"d\\e => <p><a\b c><"d\\e> ¦ "open => <open>
+"C:\a"" b\""" x => <C:\a" b\"><x>
+)",
+                                           " => ")) {
+    std::string split;
+    for (const std::u16string& word : SplitCommandLine(FromUtf8(Replaced(line, "⇥", "\t"))))
+      split += "<" + ToUtf8(word) + ">";
+    EXPECT_EQ(split, words) << line;
+  }
   const std::u16string paths[] = {u"C:\\a b.rtf", u"C:\\a\"b", u"C:\\\"\"", u"a\\\" \\b\"\\", u""};
   for (const auto& program : paths)
     for (const auto& file : paths)

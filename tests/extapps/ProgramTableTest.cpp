@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "base/ErrorOf.h"
+#include "base/Rows.h"
 #include "extapps/ProgramTable.h"
 #include "pilot/posix/PosixSandbox.h"
 
@@ -34,27 +35,22 @@ TEST_F(ProgramTableTest, TheFirstCandidateGoesBeforeTheFallback) {
                         u"Path", u"C:\\Fine");
   EXPECT_EQ(Find().dossierDocuments, u"C:\\Documents");
   EXPECT_EQ(Find().tmpFileCD, u"C:\\Temp\\TmpFileCD.Txt");
-  const struct {
-    Program program;
-    std::u16string fallback;
-    std::u16string first;
-  } cases[] = {
-      {Program::Qjot, u"C:\\Lumenote\\qjot.exe", u"C:\\Program Files\\qjot\\qjot.exe"},
-      {Program::Atlantis, u"C:\\Lumenote\\Atlantis.exe",
-       u"C:\\Program Files\\Atlantis Nova\\Atlantis.exe"},
-      {Program::WinWord, u"C:\\Office\\WINWORD.EXE",
-       u"C:\\Program Files\\Microsoft\\Office11\\WinWord.exe"},
-      {Program::ReadIris, u"C:\\Iris\\ReadIris.exe",
-       u"C:\\Program Files\\Readiris Pro 10 Demo\\ReadIris.exe"},
-      {Program::FineReader, u"C:\\Fine\\FineReader.exe",
-       u"C:\\Program Files\\ABBYY FineReader 7.0 Professional Edition\\FineReader.exe"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(Find().Path(c.program), u"");
-    Install(c.fallback);
-    EXPECT_EQ(Find().Path(c.program), c.fallback);
-    Install(c.first);
-    EXPECT_EQ(Find().Path(c.program), c.first);
+  constexpr Program kPrograms[] = {Program::Qjot, Program::Atlantis, Program::WinWord,
+                                   Program::ReadIris, Program::FineReader};
+  const Program* program = kPrograms;
+  for (const auto& [fallback, first] : Rows16<2>(R"(
+C:\Lumenote\qjot.exe | C:\Program Files\qjot\qjot.exe
+C:\Lumenote\Atlantis.exe | C:\Program Files\Atlantis Nova\Atlantis.exe
+C:\Office\WINWORD.EXE | C:\Program Files\Microsoft\Office11\WinWord.exe
+C:\Iris\ReadIris.exe | C:\Program Files\Readiris Pro 10 Demo\ReadIris.exe
+C:\Fine\FineReader.exe
+     | C:\Program Files\ABBYY FineReader 7.0 Professional Edition\FineReader.exe
+)")) {
+    EXPECT_EQ(Find().Path(*program), u"");
+    Install(fallback);
+    EXPECT_EQ(Find().Path(*program), fallback);
+    Install(first);
+    EXPECT_EQ(Find().Path(*program++), first);
   }
 }
 
@@ -65,22 +61,13 @@ TEST_F(ProgramTableTest, AServerIsStrippedOfQuotesAndSwitches) {
   EXPECT_EQ(path(), u"");
   sandbox.WriteRegistry(kWordClass, u"", u"{1}");
   EXPECT_EQ(path(), u"");
-  const struct {
-    std::u16string server;
-    std::u16string path;
-  } cases[] = {
-      {u"C:\\w.exe", u"C:\\w.exe"},
-      {u"\"C:\\w.exe /a\"", u"C:\\w.exe"},
-      {u"\"C:\\w.exe\" /a", u"C:\\w.exe\""},
-      {u"C:\\w.exe /a /b", u"C:\\w.exe"},
-      {u"C:\\a/b.exe", u"C:\\a/b.exe"},
-      {u"%ProgramFiles%\\w.exe /a", u"C:\\P & Right(sPath, Len(sPath) - 14)"},
-      {u"\"", u""},
-      {u"", u""},
-  };
-  for (const auto& c : cases) {
-    sandbox.WriteRegistry(kWordServer, u"", c.server);
-    EXPECT_EQ(path(), c.path);
+  for (const auto& [server, expected] : Rows16<2>(R"(
+C:\w.exe | C:\w.exe ¦ "C:\w.exe /a" | C:\w.exe ¦ "C:\w.exe" /a | C:\w.exe" ¦ " | "" ¦ "" | ""
+C:\w.exe /a /b | C:\w.exe ¦ C:\a/b.exe | C:\a/b.exe
+%ProgramFiles%\w.exe /a | C:\P & Right(sPath, Len(sPath) - 14)
+)")) {
+    sandbox.WriteRegistry(kWordServer, u"", server);
+    EXPECT_EQ(path(), expected);
   }
 }
 

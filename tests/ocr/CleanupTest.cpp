@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "base/ErrorOf.h"
+#include "base/Rows.h"
 #include "ocr/Cleanup.h"
 #include "ocr/RtfHeader.h"
 #include "surface/UserBench.h"
@@ -12,28 +13,18 @@ namespace {
 constexpr std::u16string_view kList = u"C:\\ListCorr.txt";
 
 struct Note : UserBench {
-  explicit Note(std::u16string_view text) { surface.Text(text); }
+  explicit Note(std::u16string_view text) { surface.Text(Unmarked(text)); }
 };
 
 TEST(RemplacerTout, GoesOnBehindWhatItPutIn) {
-  const struct {
-    std::u16string_view text, find, replace, result;
-    int count;
-  } rows[] = {{u"", u"a", u"b", u"", 0},
-              {u"abc", u"", u"x", u"abc", 0},
-              {u"Teh teh TEH", u"teh", u"the", u"the the the", 3},
-              {u"modern", u"RN", u"m", u"modem", 1},
-              {u"a,,b", u",", u", ", u"a, ,b", 1},
-              {u"aaaa", u"a", u"", u"aa", 2},
-              {u"aaa", u"a", u"aa", u"aaaaa", 2},
-              {u"aaaaaa", u"aa", u"aa", u"aaaaaa", 2},
-              {u"x\r\nx", u"x", u"y", u"y\r\ny", 2},
-              {u"end", u"d", u"", u"en", 1}};
-  for (const auto& row : rows) {
-    Note note(row.text);
-    const int count = RemplacerTout(note.surface, row.find, row.replace);
-    EXPECT_EQ(note.surface.Text(), row.result) << ToUtf8(row.text);
-    EXPECT_EQ(count, row.count) << ToUtf8(row.text);
+  for (const auto& [text, find, replace, result, count] : Rows16<5>(R"(
+"" | a | b | "" | 0 ¦ abc | "" | x | abc | 0 ¦ Teh teh TEH | teh | the | the the the | 3
+modern | RN | m | modem | 1 ¦ a,,b | , | ,␣ | a, ,b | 1 ¦ aaaa | a | "" | aa | 2
+aaa | a | aa | aaaaa | 2 ¦ aaaaaa | aa | aa | aaaaaa | 2 ¦ x¶x | x | y | y¶y | 2 ¦ end | d | "" | en | 1
+)")) {
+    Note note(text);
+    EXPECT_EQ(RemplacerTout(note.surface, find, replace), count[0] - u'0');
+    EXPECT_EQ(note.surface.Text(), Unmarked(result)) << ToUtf8(text);
   }
 }
 
@@ -48,34 +39,26 @@ TEST(RemplacerTout, HasPositionsOf16Bits) {
 }
 
 TEST(NormaliserEspaces, FollowsItsOrder) {
-  const struct {
-    std::u16string_view text, result;
-  } rows[] = {{u"a,b;c", u"a, b ; c"}, {u"a , b", u"a, b"}, {u"a    b", u"a b"},
-              {u"A,,B", u"A,,B"},      {u"1,5", u"1, 5"},   {u"a:b.c?d!e", u"a:b.c?d!e"},
-              {u"a  ;b", u"a ; b"},    {u";", u" ; "},      {u"a\r\n  b", u"a\r\n b"},
-              {u"         ", u" "}};
-  for (const auto& row : rows) {
-    Note note(row.text);
+  for (const auto& [text, result] : Rows16<2>(R"(
+a,b;c => a, b ; c ¦ a , b => a, b ¦ a    b => a b ¦ A,,B => A,,B ¦ 1,5 => 1, 5 ¦ a  ;b => a ; b
+a:b.c?d!e => a:b.c?d!e ¦ ; => ␣;␣ ¦ a¶  b => a¶ b ¦ ␣␣␣␣␣␣␣␣␣ => ␣
+)",
+                                              " => ")) {
+    Note note(text);
     NormaliserEspaces(note.surface);
-    EXPECT_EQ(note.surface.Text(), row.result) << ToUtf8(row.text);
+    EXPECT_EQ(note.surface.Text(), Unmarked(result)) << ToUtf8(text);
   }
 }
 
 TEST(ApplyListCorr, AppliesPairsInFileOrder) {
-  const struct {
-    std::string_view list;
-    std::u16string_view text, result;
-    int error;
-  } rows[] = {{"a=:=b\r\nb=:=c\r\n", u"a b", u"c c", 0},
-              {"b=:=c\r\na=:=b\r\n", u"a b", u"b c", 0},
-              {"=:=x\r\nteh=:=the", u"Teh", u"the", 0},
-              {"a=:=b\r\n\r\nc=:=d\r\n", u"a c", u"b c", 5},
-              {"a=:=b\r\nno pair\r\n", u"a", u"b", 5}};
-  for (const auto& row : rows) {
-    Note note(row.text);
-    note.files.Write(kList, row.list);
-    EXPECT_EQ(ErrorOf([&] { ApplyListCorr(note.surface, note.files, kList); }), row.error);
-    EXPECT_EQ(note.surface.Text(), row.result) << row.list;
+  for (const auto& [list, text, result, error] : Rows16<4>(R"(
+a=:=b¶b=:=c¶ | a b | c c | 0 ¦ b=:=c¶a=:=b¶ | a b | b c | 0 ¦ =:=x¶teh=:=the | Teh | the | 0
+a=:=b¶¶c=:=d¶ | a c | b c | 5 ¦ a=:=b¶no pair¶ | a | b | 5
+)")) {
+    Note note(text);
+    note.files.Write(kList, ToUtf8(Unmarked(list)));
+    EXPECT_EQ(ErrorOf([&] { ApplyListCorr(note.surface, note.files, kList); }), error[0] - u'0');
+    EXPECT_EQ(note.surface.Text(), Unmarked(result)) << ToUtf8(list);
   }
   Note note(u"a");
   ApplyListCorr(note.surface, note.files, u"C:\\none.txt");
@@ -83,25 +66,17 @@ TEST(ApplyListCorr, AppliesPairsInFileOrder) {
 }
 
 TEST(NormaliserEnteteRtf, RewritesItsThreeWords) {
-  const struct {
-    std::u16string_view source, result;
-  } rows[] = {{u"", u""},
-              {u"x", u"$"},
-              {u"ab", u"$$"},
-              {u"abcd", u"$$ab"},
-              {u"\\sl276\\slmult1 abc", u"$$\\sl240\\slmult1 a"},
-              {u"\\SL276 \\b abc", u"$$\\SL240\\b a"},
-              {u"\\fs48 abc", u"$$\\fs22 a"},
-              {u"\\sl276\\fs48 abc", u"$$\\sl240\\fs48 a"},  // the backslash is used up
-              {u"\\f0\\fcharset0 Arial;}xy", u"$$\\f0\\fcharset0 Times New Roman ;}"},
-              {u"\\fcharset2 Symbol;}xy", u"$$\\fcharset2 Symbol;}"},
-              {u"\\fs48", u"$$\\fs22 "},
-              {u"\\sl", u"$$\\sl240\\"},
-              {u"\\fcharset0 Ar", u"$$\\fcharset0 Times New Roman ;"}};
-  for (const auto& row : rows) {
-    std::u16string source(row.source);
-    EXPECT_EQ(NormaliserEnteteRtf(source), row.result) << ToUtf8(row.source);
-    EXPECT_EQ(source, u"$$" + std::u16string(row.source));
+  for (const auto& [text, result] : Rows16<2>(R"(
+"" => "" ¦ x => $ ¦ ab => $$ ¦ abcd => $$ab ¦ \sl276\slmult1 abc => $$\sl240\slmult1 a
+\SL276 \b abc => $$\SL240\b a ¦ \fs48 abc => $$\fs22 a ¦ \sl276\fs48 abc => $$\sl240\fs48 a
+\f0\fcharset0 Arial;}xy => $$\f0\fcharset0 Times New Roman ;} ¦ \fs48 => $$\fs22␣
+\fcharset2 Symbol;}xy => $$\fcharset2 Symbol;} ¦ \sl => $$\sl240\
+\fcharset0 Ar => $$\fcharset0 Times New Roman ;
+)",
+                                              " => ")) {
+    std::u16string source = text;
+    EXPECT_EQ(NormaliserEnteteRtf(source), result) << ToUtf8(text);
+    EXPECT_EQ(source, u"$$" + text);
   }
 }
 

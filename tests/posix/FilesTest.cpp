@@ -13,6 +13,7 @@
 #include "backends/posix/files/BesideFile.h"
 #include "backends/posix/saving/PosixFiles.h"
 #include "backends/posix/state/PosixStateFolder.h"
+#include "base/Rows.h"
 
 namespace lumenote {
 namespace {
@@ -186,23 +187,19 @@ TEST_F(FilesTest, AnothersFileAndAClosedFolderAreWrittenInPlace) {
 }
 
 TEST_F(FilesTest, AddsLinesBehindTheLastOne) {
-  const struct {
-    std::string old, lines, whole;
-  } kCases[] = {{"(none)", "", ""},
-                {"(none)", "b\r\n", "b\r\n"},
-                {"", "b\r\n", "b\r\n"},
-                {"a\r\n", "b\r\n", "a\r\nb\r\n"},
-                {"a\n", "b\r\n", "a\nb\r\n"},
-                {"a", "b\r\n", "a\r\nb\r\n"},
-                {"a\r", "b\r\n", "a\r\nb\r\n"},
-                {"a", "", "a"}};
   fs::create_symlink("list.txt", Native("link.txt"));
-  for (const auto& c : kCases) {
+  for (const auto& row : Rows<3>(R"(
+(none) | "" | "" ¦ (none) | b¶ | b¶ ¦ "" | b¶ | b¶ ¦ a¶ | b¶ | a¶b¶ ¦ a␊ | b¶ | a␊b¶ ¦ a | b¶ | a¶b¶
+a␍ | b¶ | a¶b¶ ¦ a | "" | a
+)")) {
+    const auto field = [&](std::size_t index) {
+      return Replaced(Replaced(Replaced(row[index], "¶", "\r\n"), "␊", "\n"), "␍", "\r");
+    };
     fs::remove(Native("list.txt"));
-    if (c.old != "(none)") Put("list.txt", c.old, 0640);
-    files_.AppendLines(u"C:\\link.txt", c.lines);
-    EXPECT_EQ(Get("list.txt"), c.whole);
-    EXPECT_EQ(ModeOf("list.txt") == 0640, c.old != "(none)");
+    if (row[0] != "(none)") Put("list.txt", field(0), 0640);
+    files_.AppendLines(u"C:\\link.txt", field(1));
+    EXPECT_EQ(Get("list.txt"), field(2));
+    EXPECT_EQ(ModeOf("list.txt") == 0640, row[0] != "(none)");
   }
   Put("list.txt", "a", 0444);
   EXPECT_EQ(ErrorOf([&] { files_.AppendLines(u"C:\\list.txt", "b"); }), 75);
@@ -270,29 +267,22 @@ TEST_F(FilesTest, FailuresHaveTheirNumbers) {
   fs::create_directory(Native("folder"));
   Put("file", "x");
   ASSERT_EQ(mkfifo(Native("pipe").c_str(), 0666), 0);
-  const struct {
-    std::u16string path;
-    int read, look, write;
-  } kCases[] = {{u"C:\\missing", 53, 53, 0},
-                {u"C:\\none\\missing", 76, 76, 76},
-                {u"C:\\file\\missing", 76, 76, 76},
-                {u"C:\\file\\", 76, 76, 76},
-                {u"C:\\folder", 75, 53, 75},
-                {u"C:\\pipe", 75, 53, 75},
-                {u"C:\\none\\", 76, 76, 76},
-                {u"D:\\file", 76, 76, 76},
-                {u"", 76, 76, 76},
-                {u"C:\\" + std::u16string(300, u'x'), 75, 75, 75}};
-  for (const auto& c : kCases) {
-    SCOPED_TRACE(testing::PrintToString(c.path));
-    EXPECT_FALSE(files_.Exists(c.path));
-    EXPECT_EQ(ErrorOf([&] { files_.ReadAll(c.path); }), c.read);
-    EXPECT_EQ(ErrorOf([&] { files_.ModificationTime(c.path); }), c.look);
-    EXPECT_EQ(ErrorOf([&] { files_.IsReadOnly(c.path); }), c.look);
-    EXPECT_EQ(ErrorOf([&] { files_.Delete(c.path, true); }), c.look);
-    EXPECT_EQ(ErrorOf([&] { files_.Write(c.path, "x"); }), c.write);
-    if (!c.path.ends_with(u'\\')) {
-      EXPECT_EQ(ErrorOf([&] { files_.AppendLines(c.path, "x"); }), c.write);
+  for (const auto& [name, reading, looking, writing] : Rows<4>(R"(
+C:\missing | 53 | 53 | 0 ¦ C:\none\missing | 76 | 76 | 76 ¦ C:\file\missing | 76 | 76 | 76
+C:\file\ | 76 | 76 | 76 ¦ C:\folder | 75 | 53 | 75 ¦ C:\pipe | 75 | 53 | 75 ¦ C:\none\ | 76 | 76 | 76
+D:\file | 76 | 76 | 76 ¦ "" | 76 | 76 | 76 ¦ C:\@ | 75 | 75 | 75
+)")) {
+    SCOPED_TRACE(name);
+    const std::u16string path = FromUtf8(Replaced(name, "@", std::string(300, 'x')));
+    const int read = std::stoi(reading), look = std::stoi(looking), write = std::stoi(writing);
+    EXPECT_FALSE(files_.Exists(path));
+    EXPECT_EQ(ErrorOf([&] { files_.ReadAll(path); }), read);
+    EXPECT_EQ(ErrorOf([&] { files_.ModificationTime(path); }), look);
+    EXPECT_EQ(ErrorOf([&] { files_.IsReadOnly(path); }), look);
+    EXPECT_EQ(ErrorOf([&] { files_.Delete(path, true); }), look);
+    EXPECT_EQ(ErrorOf([&] { files_.Write(path, "x"); }), write);
+    if (!path.ends_with(u'\\')) {
+      EXPECT_EQ(ErrorOf([&] { files_.AppendLines(path, "x"); }), write);
     }
   }
   EXPECT_TRUE(fs::is_directory(Native("folder")));

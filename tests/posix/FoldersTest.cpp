@@ -6,6 +6,7 @@
 #include "Sandbox.h"
 #include "backends/posix/folders/PosixFolders.h"
 #include "backends/posix/folders/UserFolders.h"
+#include "base/Rows.h"
 
 namespace lumenote {
 namespace {
@@ -104,25 +105,16 @@ TEST_F(FoldersTest, DocumentsAreWhatTheConfigurationSays) {
   for (const char* name : {".config", "Documents", "Mes \"textes\"", "abs"}) {
     std::filesystem::create_directory(Native(name));
   }
-  const struct {
-    std::string line;
-    std::u16string folder;
-  } kCases[] = {
-      {"", u"C:\\Documents"},
-      {"XDG_DOCUMENTS_DIR=\"$HOME/Mes \\\"textes\\\"\"", u"C:\\Mes \"textes\""},
-      {"# c\nXDG_MUSIC_DIR=\"$HOME/x\"\nXDG_DOCUMENTS_DIR=\"" + Native("abs") + "/\"\n",
-       u"C:\\abs"},
-      {"XDG_DOCUMENTS_DIR=\"$HOME/\"", u"C:\\"},
-      {"XDG_DOCUMENTS_DIR=\"$HOME/missing\"", u"C:\\Documents"},
-      {"XDG_DOCUMENTS_DIR=\"relative\"", u"C:\\Documents"},
-      {"XDG_DOCUMENTS_DIR=\"$HOME/abs", u"C:\\abs"},
-      {"XDG_DOCUMENTS_DIR=\"\\", u"C:\\Documents"},
-      {"XDG_DOCUMENTS_DIR=", u"C:\\Documents"},
-  };
   PosixFolders folders(drives_);
-  for (const auto& c : kCases) {
-    Put(".config/user-dirs.dirs", c.line);
-    EXPECT_EQ(folders.Documents(), c.folder) << c.line;
+  for (const auto& [line, folder] : Rows<2>(R"(
+"" | C:\Documents ¦ XDG_DOCUMENTS_DIR="$HOME/Mes \"textes\"" | C:\Mes "textes"
+# c␊XDG_MUSIC_DIR="$HOME/x"␊XDG_DOCUMENTS_DIR="@/abs/"␊ | C:\abs ¦ XDG_DOCUMENTS_DIR="$HOME/" | C:\
+XDG_DOCUMENTS_DIR="$HOME/missing" | C:\Documents ¦ XDG_DOCUMENTS_DIR="relative" | C:\Documents
+XDG_DOCUMENTS_DIR="$HOME/abs | C:\abs ¦ XDG_DOCUMENTS_DIR="\ | C:\Documents
+XDG_DOCUMENTS_DIR= | C:\Documents
+)")) {
+    Put(".config/user-dirs.dirs", Replaced(Replaced(line, "␊", "\n"), "@", folder_.Path()));
+    EXPECT_EQ(ToUtf8(folders.Documents()), folder) << line;
   }
   std::filesystem::remove(Native("Documents"));
   Put(".config/user-dirs.dirs", "");

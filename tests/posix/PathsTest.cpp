@@ -2,47 +2,33 @@
 #include <gtest/gtest.h>
 
 #include "Sandbox.h"
+#include "base/Rows.h"
 #include "platform/Paths.h"
 
 namespace lumenote {
 namespace {
 
 TEST(Paths, Parts) {
-  const struct {
-    std::u16string_view path, parent, name, base;
-  } kCases[] = {
-      {u"C:\\a.exe", u"C:\\", u"a.exe", u"a"},
-      {u"C:\\x\\a.b.rtf", u"C:\\x", u"a.b.rtf", u"a.b"},
-      {u"C:\\x.y\\note", u"C:\\x.y", u"note", u"note"},
-      {u"C:\\x\\", u"C:\\x", u"", u""},
-      {u"C:\\", u"C:\\", u"", u""},
-      {u"note.txt", u"", u"note.txt", u"note"},
-      {u".profile", u"", u".profile", u""},
-      {u"ab\\c", u"ab", u"c", u"c"},
-      {u"\\c", u"", u"c", u"c"},
-      {u"", u"", u"", u""},
-  };
-  for (const auto& c : kCases) {
-    EXPECT_EQ(ParentFolder(c.path), c.parent) << testing::PrintToString(c.path);
-    EXPECT_EQ(FileName(c.path), c.name) << testing::PrintToString(c.path);
-    EXPECT_EQ(BaseName(c.path), c.base) << testing::PrintToString(c.path);
+  for (const auto& [path, parent, name, base] : Rows16<4>(R"(
+C:\a.exe | C:\ | a.exe | a ¦ C:\x\a.b.rtf | C:\x | a.b.rtf | a.b ¦ C:\x.y\note | C:\x.y | note | note
+C:\x\ | C:\x | "" | "" ¦ C:\ | C:\ | "" | "" ¦ note.txt | "" | note.txt | note
+.profile | "" | .profile | "" ¦ ab\c | ab | c | c ¦ \c | "" | c | c ¦ "" | "" | "" | ""
+)")) {
+    EXPECT_EQ(ParentFolder(path), parent) << ToUtf8(path);
+    EXPECT_EQ(FileName(path), name) << ToUtf8(path);
+    EXPECT_EQ(BaseName(path), base) << ToUtf8(path);
   }
   EXPECT_EQ(FoldBackslashes(u"C:\\\\a\\\\\\b"), u"C:\\a\\\\b");
 }
 
 TEST(DrivePaths, OfASandboxStayInside) {
   const DrivePaths drives("/box/c/");
-  const std::pair<std::u16string_view, std::string_view> kCases[] = {
-      {u"C:\\a.txt", "/box/c/a.txt"},
-      {u"c:\\Été\\A.TXT", "/box/c/Été/A.TXT"},
-      {u"C:\\x\\\\.\\y/z", "/box/c/x/y/z"},
-      {u"C:\\..\\x\\..\\..\\etc\\passwd", "/box/c/etc/passwd"},
-      {u"C:/x/../../y", "/box/c/y"},
-      {u"C:\\...\\y\\", "/box/c/.../y/"},
-      {u"C:\\", "/box/c/"},
-      {u"C:", "/box/c/"},
-      {u"C:\\a:b*\xD83D\xDE00", "/box/c/a:b*\xF0\x9F\x98\x80"}};
-  for (const auto& [path, native] : kCases) EXPECT_EQ(drives.ToNative(path), native);
+  for (const auto& [path, native] : Rows<2>(R"(
+C:\a.txt | /box/c/a.txt ¦ c:\Été\A.TXT | /box/c/Été/A.TXT ¦ C:\x\\.\y/z | /box/c/x/y/z
+C:\..\x\..\..\etc\passwd | /box/c/etc/passwd ¦ C:/x/../../y | /box/c/y ¦ C:\...\y\ | /box/c/.../y/
+C:\ | /box/c/ ¦ C: | /box/c/ ¦ C:\a:b*😀 | /box/c/a:b*😀
+)"))
+    EXPECT_EQ(drives.ToNative(FromUtf8(path)), native);
   for (const std::u16string_view path :
        {u"", u"C", u"C:a.txt", u"Z:\\etc\\passwd", u"D:\\a.txt", u"\\\\host\\a", u"/etc/passwd",
         u"C:\\a\xD800", u"::\\a", u"CC:\\a"}) {
@@ -80,13 +66,11 @@ TEST(DrivePaths, OfTheUserReachEverything) {
 
 TEST(DrivePaths, ChosenByTheEnvironment) {
   const TemporaryFolder folder;
-  {
-    const ScopedVariable chosen("LUMENOTE_DRIVE_C", folder.Path().c_str());
-    EXPECT_EQ(DrivePaths::OfUser().ToNative(u"C:\\a"), folder.Path() + "/a");
+  for (const std::string& path : {folder.Path(), std::string("/")}) {
+    const ScopedVariable chosen("LUMENOTE_DRIVE_C", path.c_str());
+    EXPECT_EQ(DrivePaths::OfUser().ToNative(u"C:\\a"), path == "/" ? "/a" : path + "/a");
+    EXPECT_TRUE(path != "/" || DrivePaths::OfUser().ToDrivePath("/a") == u"C:\\a");
   }
-  const ScopedVariable root("LUMENOTE_DRIVE_C", "/");
-  EXPECT_EQ(DrivePaths::OfUser().ToNative(u"C:\\a"), "/a");
-  EXPECT_EQ(DrivePaths::OfUser().ToDrivePath("/a"), u"C:\\a");
 }
 
 }  // namespace

@@ -1,55 +1,38 @@
 #include <gtest/gtest.h>
 
+#include "base/Rows.h"
 #include "rtf/codepages/CodePage.h"
 #include "rtf/codepages/CodePageTables.h"
 
 namespace lumenote {
 namespace {
 
-std::u16string Decoded(int page, std::string_view bytes) {
-  std::u16string text;
-  DecodeCodePage(page, bytes, text);
-  return text;
-}
-
 TEST(CodePage, DecodesTheOthers) {
-  struct {
-    int page;
-    const char* bytes;
-    const char16_t* text;
-  } const cases[] = {{437, "\x82\xE1", u"éß"},
-                     {850, "\x9B", u"ø"},
-                     {866, "\x8F\xE0", u"Пр"},
-                     {874, "\xA1\xE0", u"\u0E01\u0E40"},
-                     {1250, "\xE8\xF8", u"čř"},
-                     {1251, "\xCF\xF0", u"Пр"},
-                     {1253, "\xC1\xE1", u"Αα"},
-                     {1254, "\xFD\xFE", u"ış"},
-                     {1255, "\xE0", u"\u05D0"},
-                     {1256, "\xC7", u"\u0627"},
-                     {1257, "\xE0", u"ą"},
-                     {1258, "\xF0", u"đ"},
-                     {10000, "\x8E\xD5", u"é’"},
-                     {65001, "\xC3\xA9", u"é"},
-                     {42, "A \xB7", u"\uF041 \uF0B7"},
-                     {0, "\x80", u"€"},
-                     {932, "\x83\x6F\xB1\xA0\xFD\xF0\x40", u"バｱ\u00A0\uFFFD\uE000"},
-                     {936, "\x80\xD2\xBB\x81\x40\xFE\x4F", u"€一丂\uFA29"},
-                     {949, "\xB0\xA1\x81\x41\xCA\xA1", u"가갂伽"},
-                     {950, "\xA4\x40\xC9\x40\xF9\xD5", u"一乂龘"},
-                     {950, "\xA4 \x81\x81x\x81", u"\uFFFD \uFFFDx\uFFFD"},
-                     {99999, "\xE9\x92", u"é’"}};
-  for (const auto& c : cases) EXPECT_EQ(Decoded(c.page, c.bytes), c.text) << c.page;
+  for (const auto& [page, bytes, expected] : Rows16<3>(R"(
+437 | 82 E1 | éß ¦ 850 | 9B | ø ¦ 866 | 8F E0 | Пр ¦ 874 | A1 E0 | กเ ¦ 1250 | E8 F8 | čř
+1251 | CF F0 | Пр ¦ 1253 | C1 E1 | Αα ¦ 1254 | FD FE | ış ¦ 1255 | E0 | א ¦ 1256 | C7 | ا
+1257 | E0 | ą ¦ 1258 | F0 | đ ¦ 10000 | 8E D5 | é’ ¦ 65001 | C3 A9 | é ¦ 0 | 80 | € ¦ 99999 | E9 92 | é’
+936 | 80 D2 BB 81 40 FE 4F | €一丂﨩 ¦ 949 | B0 A1 81 41 CA A1 | 가갂伽 ¦ 950 | A4 40 C9 40 F9 D5 | 一乂龘
+950 | A4 20 81 81 78 81 | � �x� ¦ 932 | 83 6F B1 FD | バｱ�
+)")) {
+    std::string source;
+    for (const std::string& byte : Split(ToUtf8(bytes), " "))
+      source += static_cast<char>(std::stoi(byte, nullptr, 16));
+    std::u16string text;
+    DecodeCodePage(std::stoi(ToUtf8(page)), source, text);
+    EXPECT_EQ(text, expected) << ToUtf8(page);
+  }
+  std::u16string text;
+  DecodeCodePage(932, "\xA0\xF0\x40", text);
+  DecodeCodePage(42, "A \xB7", text);
+  EXPECT_EQ(text, u"\u00A0\uE000\uF041 \uF0B7");
 }
 
 TEST(CodePage, EveryTableIsWhole) {
   int tables = 0;
-  for (int page = 0; page < 11000; ++page) {
-    const char16_t* upper = UpperHalf(page);
-    if (!upper || page == kPageOfWindows) continue;
-    ++tables;
-    EXPECT_EQ(std::char_traits<char16_t>::length(upper), 128u) << page;
-  }
+  for (int page = 0; page < 11000; ++page)
+    if (const char16_t* upper = page == kPageOfWindows ? nullptr : UpperHalf(page))
+      tables += std::u16string_view(upper).size() == 128u;
   EXPECT_EQ(tables, 32);
 }
 

@@ -4,11 +4,8 @@
 #include <ostream>
 
 #include "FailingNew.h"
-#include "Fakes.h"
-#include "backends/headless/FixedLayouter.h"
-#include "base/RuntimeError.h"
+#include "UserBench.h"
 #include "ocr/Cleanup.h"
-#include "surface/DocumentSurface.h"
 #include "surface/editing/SourceBytes.h"
 
 namespace lumenote {
@@ -28,9 +25,11 @@ std::u16string Note() {
   return WidenSource(rtf);
 }
 
-struct Desk {
-  Desk() {
-    surface.TextMode(kTextModeRichMultilevel);
+struct Desk : UserBench {
+  explicit Desk(Selection selected) {
+    static const std::u16string note = Note();
+    files.Write(u"C:\\b.rtf", "{\\rtf1 \\b neuf\\par}");
+    clipboard.Set({u"texte", "{\\rtf1 \\b riche\\par deux}"});
     surface.TextRTF(note);
     surface.UserType(u"tape");
     surface.SelBold(true);
@@ -38,57 +37,36 @@ struct Desk {
     surface.UserType(u"abc");
     surface.UserSelect(10, 1300);
     surface.SelItalic(true);
+    surface.UserDrop(4000, false);
+    surface.SelUnderline(true);
     surface.Undo();
+    surface.UserSelect(selected.start, selected.end);
   }
-
-  static inline const std::u16string note = Note();
-  MemoryClipboard clipboard;
-  MemoryFiles files;
-  FixedBreaker breaker{5000};
-  DocumentSurface surface{clipboard, files, breaker};
 };
 
 struct Command {
   const char* name;
   void (*act)(Desk&);
-  void (*prepare)(Desk&) = [](Desk&) {};
+  Selection selected{10, 1300};
 };
 std::ostream& operator<<(std::ostream& out, const Command& command) { return out << command.name; }
 
 const Command kCommands[] = {
     {"type", [](Desk& d) { d.surface.UserType(u"x"); }},
-    {"go on typing",
-     [](Desk& d) {
-       d.surface.UserSelect(903, 903);
-       d.surface.UserType(u"\u2640");
-     }},
+    {"type on", [](Desk& d) { d.surface.UserType(u"\u2640"); }, {903, 903}},
     {"return", [](Desk& d) { d.surface.UserType(u"\r\n"); }},
     {"delete", [](Desk& d) { d.surface.Clear(); }},
-    {"backspace",
-     [](Desk& d) {
-       d.surface.UserSelect(2100, 2100);
-       d.surface.UserKey({.name = KeyName::BackSpace});
-     }},
-    {"delete all",
-     [](Desk& d) {
-       d.surface.UserSelect(0, d.surface.TextLength());
-       d.surface.Clear();
-     }},
+    {"backspace", [](Desk& d) { d.Press(u"BackSpace"); }, {2100, 2100}},
+    {"delete all", [](Desk& d) { d.surface.Clear(); }, {0, 9999}},
     {"cut", [](Desk& d) { d.surface.Cut(); }},
-    {"paste",
-     [](Desk& d) {
-       d.clipboard.Set({u"texte", "{\\rtf1 \\b riche\\par deux}"});
-       d.surface.Paste();
-     }},
+    {"paste", [](Desk& d) { d.surface.Paste(); }},
     {"drop", [](Desk& d) { d.surface.UserDrop(4000, false); }},
     {"long text", [](Desk& d) { d.surface.SelText(std::u16string(5000, u'y')); }},
     {"bold", [](Desk& d) { d.surface.SelBold(true); }},
     {"font", [](Desk& d) { d.surface.SelFontName(u"Courier"); }},
     {"indent", [](Desk& d) { d.surface.SelIndent(300); }},
-    {"undo", [](Desk& d) { d.surface.Undo(); }},
+    {"undo a step of many edits", [](Desk& d) { d.surface.Undo(); }},
     {"redo", [](Desk& d) { d.surface.Redo(); }},
-    {"undo a step of many edits", [](Desk& d) { d.surface.Undo(); },
-     [](Desk& d) { d.surface.UserDrop(4000, false); }},
     {"several at once",
      [](Desk& d) {
        AsOneStep(d.surface, [&] {
@@ -99,16 +77,10 @@ const Command kCommands[] = {
      }},
     {"clean up", [](Desk& d) { NettoyerTexte(d.surface, d.files, u"C:\\none"); }},
     {"save", [](Desk& d) { d.surface.SaveFile(u"C:\\a.rtf", FileType::Rtf); }},
-    {"load",
-     [](Desk& d) {
-       d.files.Write(u"C:\\a.rtf", "{\\rtf1 \\b neuf\\par}");
-       d.surface.LoadFile(u"C:\\a.rtf", FileType::Rtf, std::nullopt);
-     }},
+    {"load", [](Desk& d) { d.surface.LoadFile(u"C:\\b.rtf", FileType::Rtf, std::nullopt); }},
     {"write bit by bit",
      [](Desk& d) {
-       std::size_t size = 0;
-       const auto writing = d.surface.WriteSnapshot(
-           FileType::Rtf, [&](std::string_view bytes) { size += bytes.size(); });
+       const auto writing = d.surface.WriteSnapshot(FileType::Rtf, [](std::string_view) {});
        while (writing->Step()) continue;
      }},
 };
@@ -145,15 +117,14 @@ void CheckGoesOn(Desk& desk) {
 }
 
 TEST_P(FailedAllocation, LeavesTheDocumentBeforeOrBehindTheCommand) {
-  Desk whole;
-  GetParam().prepare(whole);
+  const auto& [name, act, selected] = GetParam();
+  Desk whole(selected);
   const std::u16string before = StateOf(whole);
-  GetParam().act(whole);
+  act(whole);
   const std::u16string behind = StateOf(whole);
   bool failed = true;
   for (long number = 1; failed; number += 1 + number / 40) {
-    Desk desk;
-    GetParam().prepare(desk);
+    Desk desk(selected);
     failed = FailsAt(number, GetParam(), desk);
     const std::u16string state = StateOf(desk);
     ASSERT_TRUE(state == before || state == behind) << number;

@@ -31,17 +31,16 @@ class RandomActs : UserBench {
     while (!bytes_.AtEnd() && !testing::Test::HasFailure()) {
       const Model before = now_;
       view.changes.clear();
-      heard_ = 0;
+      heard_ = told_ = 0;
       Act();
       EXPECT_TRUE(Held() == now_);
       CheckHeard(before);
       if (now_.Length() > kMaxText) Load({});
       EXPECT_TRUE(surface.CanUndo() != history_.empty() && surface.CanRedo() != redo_.empty());
       EXPECT_TRUE(!InsidePair(surface.Anchor()) && !InsidePair(surface.Caret()));
+      EXPECT_TRUE(surface.SelText() == now_.text.substr(surface.SelStart(), surface.SelLength()));
       CheckParagraphAt(std::min(Place(), now_.Length()));
     }
-    LineTable fresh(surface.Content(), breaker);
-    EXPECT_TRUE(surface.LineFromChar(surface.Caret()) == fresh.LineOf(surface.Caret()));
     surface.TextRTF(surface.TextRTF());
     EXPECT_TRUE(surface.Text() == now_.text);
   }
@@ -51,6 +50,7 @@ class RandomActs : UserBench {
     Model before;
     bool merges = false;   // perhaps, with its neighbours
     Selection selected{};  // before it
+    Selection left{};      // behind it
   };
 
   void Act() {
@@ -139,7 +139,7 @@ class RandomActs : UserBench {
   }
   /// What the text does not show.
   void Format() {
-    switch (bytes_.Below(5)) {
+    switch (bytes_.Below(6)) {
       case 0:
         surface.SelAlignment(bytes_.UpTo(2));
         break;
@@ -151,6 +151,9 @@ class RandomActs : UserBench {
         break;
       case 3:
         surface.SelColor(bytes_.UpTo(1));
+        break;
+      case 4:
+        surface.SelCharOffset(bytes_.UpTo(1) * 60);
         break;
       default:
         surface.SelFontName(bytes_.Coin() ? u"Symbol" : u"Arial");
@@ -206,9 +209,17 @@ class RandomActs : UserBench {
     Bold();
     if (history_.size() == steps) return;
     history_.resize(steps);
-    history_.push_back({before});
+    history_.push_back({.before = before, .left = surface.Selected()});
   }
-  void Line() { surface.LineFromChar(Place()); }
+  /// What is known of the lines is what a new table says.
+  void Line() {
+    LineTable fresh(surface.Content(), breaker);
+    const Position at = std::min(Place(), now_.Length());
+    EXPECT_EQ(surface.Lines().LineAt(at), fresh.LineAt(at));
+    const std::int32_t line = fresh.LineOf(at);
+    EXPECT_EQ(surface.LineFromChar(at), line);
+    EXPECT_EQ(surface.LineIndex(line + 1), fresh.LineStart(line + 1));
+  }
   void Open() {
     if (bytes_.Below(4) > 0) return;
     bytes_.Coin() ? LoadRtf() : Load(Text(2));
@@ -234,7 +245,7 @@ class RandomActs : UserBench {
   void Undo() {
     surface.Undo();
     if (history_.empty()) return;
-    redo_.push_back(now_);
+    redo_.emplace_back(now_, history_.back().left);
     const Model held = Held();
     for (bool more = true; more;) {
       const bool merges = history_.back().merges;
@@ -247,18 +258,23 @@ class RandomActs : UserBench {
   void Redo() {
     surface.Redo();
     if (redo_.empty()) return;
-    history_.push_back({std::exchange(now_, std::move(redo_.back()))});
+    auto& [model, left] = redo_.back();
+    EXPECT_EQ(surface.Selected(), left);
+    history_.push_back({.before = std::exchange(now_, std::move(model)), .left = left});
     redo_.pop_back();
   }
 
-  /// What changes nothing, not even what is not seen, is no step.
+  /// What changes nothing, not even what is not seen, is no step, and nobody hears of it.
   void Expect(const Model& next, bool merges = false) {
     Model held = Held();
     EXPECT_TRUE(Seen(held) == next);
-    if (held != now_) Remember(std::move(held), merges);
+    if (held != now_) return Remember(std::move(held), merges);
+    EXPECT_EQ(heard_, told_);
   }
   void Remember(Model next, bool merges = false) {
-    history_.push_back({std::exchange(now_, std::move(next)), merges, selected_});
+    told_ = heard_;
+    history_.push_back(
+        {std::exchange(now_, std::move(next)), merges, selected_, surface.Selected()});
     redo_.clear();
   }
   /// Text put in is bold like the first letter it replaces, else as the surface says.
@@ -294,10 +310,11 @@ class RandomActs : UserBench {
 
   Choices bytes_;
   int heard_ = 0;  // changes, by the handler
+  int told_ = 0;   // of these by acts that did change something
   Model now_;
   std::vector<Step> history_;
-  std::vector<Model> redo_;
-  Selection selected_;  // before the act at hand
+  std::vector<std::pair<Model, Selection>> redo_;  // what a step makes, and what is selected then
+  Selection selected_;                             // before the act at hand
 };
 
 }  // namespace lumenote

@@ -103,12 +103,11 @@ TEST_F(TextFiles, BitByBitAreWhatASaveWrites) {
       {u"", u"é\r\n€\x81", u"é♀", u"\x85", u"Ã©", u"Ã©é", u"Ã", u"Ã©Â…", u"ï»¿", u"ÿþ", u"þÿ",
        u"ð\u0178˜€", u"\U0001F600", u"\uFEFFé", u"\xDC00\xD800", u"\xD800é", u"\xD83D\U0001F600"});
   constexpr std::size_t kPiece = 1 << 14;
-  for (const std::u16string_view text : nasty) {
+  for (const std::u16string_view text : nasty)
     for (std::size_t before : {0, 1, 2, 3, 4}) {  // of what stands across the end of a piece
-      const std::u16string whole =
-          before == 0 ? std::u16string(text)
-                      : std::u16string(kPiece - before, u'x').append(text).append(2 * kPiece, u'x');
       SCOPED_TRACE(testing::PrintToString(text) + " " + std::to_string(before));
+      std::u16string whole(before == 0 ? 0 : kPiece - before, u'x');
+      whole.append(text).append(2 * whole.size(), u'x');
       s.Text(whole);
       std::string bytes;
       const auto writing =
@@ -117,7 +116,6 @@ TEST_F(TextFiles, BitByBitAreWhatASaveWrites) {
       EXPECT_TRUE(DecodeText(bytes, DetectEncoding(bytes)) == whole);
       EXPECT_TRUE(bytes == s.FileBytes(FileType::Text));
     }
-  }
 }
 
 TEST_F(TextFiles, EveryUnitComesBackFromRtf) {

@@ -13,21 +13,36 @@ namespace lumenote {
 
 /// Text in tables: "|" is the caret, "^" the other end of a selection, "¶" a paragraph break, "↓" a
 /// line break.
-std::u16string Unmarked(std::u16string_view marked);
-std::u16string Marked(std::u16string text, Position anchor, Position caret);
+inline std::u16string Unmarked(std::u16string_view marked) {
+  std::u16string text = ReplaceEvery(ReplaceEvery(marked, u"|", u""), u"^", u"");
+  return ReplaceEvery(ReplaceEvery(text, u"¶", u"\r\n"), u"↓", u"\v");
+}
+inline std::u16string Marked(std::u16string text, Position anchor, Position caret) {
+  const auto mark = [&](Position at, char16_t sign) {
+    text.insert(static_cast<std::size_t>(at), 1, sign);
+  };
+  mark(std::max(anchor, caret), anchor > caret ? u'^' : u'|');
+  if (anchor != caret) mark(std::min(anchor, caret), anchor > caret ? u'|' : u'^');
+  return ReplaceEvery(ReplaceEvery(text, u"\r\n", u"¶"), u"\v", u"↓");
+}
 /// Where the marks stand in the text without them: {anchor, caret}.
-std::pair<Position, Position> MarksOf(std::u16string_view marked);
+inline std::pair<Position, Position> MarksOf(std::u16string_view marked) {
+  const auto caret = marked.find(u'|');
+  const auto anchor = std::min(marked.find(u'^'), marked.size());
+  const auto place = [&](std::size_t mark) {
+    return static_cast<Position>(Unmarked(marked.substr(0, mark)).size());
+  };
+  return {anchor < marked.size() ? place(anchor) : place(caret), place(caret)};
+}
 
 struct ViewLog final : SurfaceView {
   std::vector<DocumentChange> changes;
-  int selections = 0;
-  int widths = 0;
   int reveals = 0;
   Line (*shownLine)(Position) = nullptr;  // lines of its own
 
   void DocumentChanged(const DocumentChange& change) override { changes.push_back(change); }
-  void SelectionChanged() override { ++selections; }
-  void WrapWidthChanged() override { ++widths; }
+  void SelectionChanged() override {}
+  void WrapWidthChanged() override {}
   void RevealCaret() override { ++reveals; }
   int LinesPerPage() const override { return 3; }
   std::optional<Line> ShownLine(Position position) override {

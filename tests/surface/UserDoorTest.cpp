@@ -1,8 +1,8 @@
 // What the user does: undo kinds, steps, drops, and what a view hears of it.
 #include <gtest/gtest.h>
 
+#include "base/Rows.h"
 #include "surface/UserBench.h"
-#include "surface/keys/Words.h"
 
 namespace lumenote {
 namespace {
@@ -20,27 +20,19 @@ std::u16string Steps(UserBench& bench) {
 }
 
 TEST(UserDoor, RunsOfTypingAndDeletingAreSteps) {
-  struct Row {
-    std::u16string_view before, keys, steps;
-  };
-  const Row rows[] = {{u"|", u"a b c Space d", u"abc d| <1 |"},
-                      {u"x^y|z", u"a b", u"xab|z <1 x^y|z"},
-                      {u"^a¶b|z", u"c d", u"cd|z <1 ^a¶b|z"},
-                      {u"|", u"a b Return c", u"ab¶c| <1 ab¶| <1 |"},
-                      {u"|", u"a b Left Right c", u"abc| <1 ab| <1 |"},
-                      {u"abc|", u"BackSpace BackSpace", u"a| <2 abc|"},
-                      {u"|abc", u"Delete Delete", u"|c <2 |abc"},
-                      {u"a^b|c", u"Delete", u"a|c <2 a^b|c"},
-                      {u"|", u"a b BackSpace", u"a| <2 ab| <1 |"},
-                      {u"ab|c", u"BackSpace Delete", u"a| <2 ab|c"},
-                      {u"|", u"Tab Space", u"\t | <1 |"},
-                      {u"|", u"a Ctrl+z Ctrl+y b", u"ab| <1 a| <1 |"},
-                      {u"a^b|c", u"Ctrl+x Ctrl+v Ctrl+v", u"abb|c <5 ab|c <5 a|c <4 a^b|c"}};
-  for (const Row& row : rows) {
+  for (const auto& [before, keys, steps] : Rows16<3>(R"(
+| => a b c Space d => abc d| <1 | ¦ x^y|z => a b => xab|z <1 x^y|z ¦ ^a¶b|z => c d => cd|z <1 ^a¶b|z
+| => a b Return c => ab¶c| <1 ab¶| <1 | ¦ | => a b Left Right c => abc| <1 ab| <1 |
+abc| => BackSpace BackSpace => a| <2 abc| ¦ |abc => Delete Delete => |c <2 |abc
+a^b|c => Delete => a|c <2 a^b|c ¦ | => a b BackSpace => a| <2 ab| <1 | ¦ | => Tab Space => ⇥ | <1 |
+ab|c => BackSpace Delete => a| <2 ab|c ¦ | => a Ctrl+z Ctrl+y b => ab| <1 a| <1 |
+a^b|c => Ctrl+x Ctrl+v Ctrl+v => abb|c <5 ab|c <5 a|c <4 a^b|c
+)",
+                                                     " => ")) {
     UserBench bench;
-    bench.Put(row.before);
-    bench.Press(row.keys);
-    EXPECT_EQ(ToUtf8(Steps(bench)), ToUtf8(row.steps)) << ToUtf8(row.keys);
+    bench.Put(before);
+    bench.Press(keys);
+    EXPECT_EQ(ToUtf8(Steps(bench)), ToUtf8(ReplaceEvery(steps, u"⇥", u"\t"))) << ToUtf8(keys);
   }
 }
 
@@ -99,33 +91,6 @@ TEST(UserDoor, ReturnKeepsBothFormats) {
   bench.Select(u"^a¶b|");
   EXPECT_EQ(bench.surface.SelBold(), true);
   EXPECT_EQ(bench.surface.SelAlignment(), 2);
-}
-
-TEST(UserDoor, ViewHearsOfEachActOnce) {
-  UserBench bench;
-  bench.Put(u"ab^cd|ef");
-  bench.surface.UserType(u"x");
-  EXPECT_EQ(bench.view.changes, (std::vector<DocumentChange>{{2, 2, 1}}));
-  EXPECT_EQ(bench.view.selections, 1);
-  EXPECT_GE(bench.view.reveals, 1);
-  bench.surface.RightMargin(900);
-  EXPECT_EQ(bench.view.widths, 1);
-  const std::size_t before = bench.view.changes.size();
-  bench.surface.UserSelect(3, 3);
-  EXPECT_EQ(bench.view.changes.size(), before);
-}
-
-TEST(UserDoor, DoubleClickTakesAWord) {
-  UserBench bench;
-  bench.Put(u"un l'été, là¶|");
-  const Document& document = bench.surface.Content();
-  struct Row {
-    Position at;
-    Selection word;
-  };
-  for (const auto& [at, word] :
-       {Row{1, {0, 2}}, Row{2, {2, 3}}, Row{6, {5, 8}}, Row{12, {10, 12}}, Row{14, {14, 14}}})
-    EXPECT_EQ(WordAt(document, at), word) << at;
 }
 
 }  // namespace

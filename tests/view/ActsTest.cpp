@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+#include "base/Rows.h"
 #include "view/Window.h"
 #include "view/acts/AccessibleText.h"
 #include "view/acts/TextDrag.h"
@@ -48,40 +49,25 @@ struct User : Window {
   std::int64_t now = 0;
 };
 
-struct Row {
-  std::u16string_view text;
-  std::string acts;
-  std::u16string_view shown;
-};
-
 TEST(Mouse, Selects) {
-  const Row rows[] = {
-      {u"|un deux", "D 3 0 U 3 0", u"un |deux"},
-      {u"|un deux", "D 3.6 0 U 3.6 0", u"un d|eux"},
-      {u"|un deux", "D 30 0", u"un deux|"},
-      {u"un¶deux|", "D 9 0", u"un|¶deux"},
-      {u"|un¶deux", "D 1 9", u"un¶d|eux"},
-      {u"|un deux trois", "D 11 0", u"un deux| trois"},  // the next line begins behind the blank
-      {u"un |deux", "S 5 0", u"un ^de|ux"},
-      {u"u^n d|eux", "S 0 0", u"|u^n deux"},
-      {u"|un deux", "D 1 0 M 5 0 U 5 0", u"u^n de|ux"},
-      {u"|un deux", "D 5 0 M 1 0 U 1 0", u"u|n de^ux"},
-      {u"|un deux trois", "W 4 0", u"un ^deux| trois"},
-      {u"|un deux trois", "W 4 0 M 1 0", u"|un deux^ trois"},
-      {u"|un deux trois", "W 4 0 M 2 1", u"un ^deux trois|"},
-      {u"|un¶deux¶trois", "W 1 1 T 1 1", u"un¶^deux¶|trois"},
-      {u"|un¶deux¶trois", "W 1 1 T 1 1 M 1 2", u"un¶^deux¶trois|"},
-      {u"|un¶deux", "W 1 1 D 1 1 U 1 1", u"un¶d|eux"},  // long after the double click
-      {u"^un| deux", "D 1 0 U 1 0", u"u|n deux"},       // no drag: a click
-      {u"^un| deux", "D 1 0 M 1.5 0 U 1.5 0", u"un| deux"},
-      {u"^un| deux", "S 5 0", u"^un de|ux"},
-      {u"|un deux", "D 1 0 X 0 0 M 5 0", u"u|n deux"},
-  };
-  for (const Row& row : rows) {
+  for (const auto& [text, acts, shown] : Rows<3>(R"(
+|un deux => D 3 0 U 3 0 => un |deux ¦ |un deux => D 3.6 0 U 3.6 0 => un d|eux
+|un deux => D 30 0 => un deux| ¦ un¶deux| => D 9 0 => un|¶deux ¦ |un¶deux => D 1 9 => un¶d|eux
+|un deux trois => D 11 0 => un deux| trois ¦ un |deux => S 5 0 => un ^de|ux
+u^n d|eux => S 0 0 => |u^n deux ¦ |un deux => D 1 0 M 5 0 U 5 0 => u^n de|ux
+|un deux => D 5 0 M 1 0 U 1 0 => u|n de^ux ¦ |un deux trois => W 4 0 => un ^deux| trois
+|un deux trois => W 4 0 M 1 0 => |un deux^ trois ¦ |un deux trois => W 4 0 M 2 1 => un ^deux trois|
+|un l'été, là => W 2 0 => un^ |l'été, là ¦ |un l'été, là => W 6 0 => un l'^été|, là
+|un, deux => W 2 0 => un^,| deux ¦ |un¶deux¶trois => W 1 1 T 1 1 => un¶^deux¶|trois
+|un¶deux¶trois => W 1 1 T 1 1 M 1 2 => un¶^deux¶trois| ¦ ^un| deux => D 1 0 U 1 0 => u|n deux
+|un¶deux => W 1 1 D 1 1 U 1 1 => un¶d|eux ¦ ^un| deux => D 1 0 M 1.5 0 U 1.5 0 => un| deux
+^un| deux => S 5 0 => ^un de|ux ¦ |un deux => D 1 0 X 0 0 M 5 0 => u|n deux
+)",
+                                                 " => ")) {
     User user;
-    user.Type(row.text);
-    user.Do(row.acts);
-    EXPECT_EQ(ToUtf8(user.Shown()), ToUtf8(row.shown)) << ToUtf8(row.text) << ' ' << row.acts;
+    user.Type(FromUtf8(text));
+    user.Do(acts);
+    EXPECT_EQ(ToUtf8(user.Shown()), shown) << text << ' ' << acts;
     EXPECT_TRUE(user.screen == user.Fresh());
   }
 }
@@ -124,10 +110,8 @@ TEST(Keys, AreTheViewsOrTheWindows) {
       user.Type(u"u|n¶deux");
       user.locked = locked;
       EXPECT_EQ(user.keys.Press(ParseKey(row.key), row.typed), locked ? row.usedLocked : row.used);
-      const bool done = !locked || row.usedLocked;
-      EXPECT_EQ(user.Shown(), done ? row.shown : u"u|n¶deux") << ToUtf8(row.key);
-      const bool menu = row.key == u"Shift+F10";
-      EXPECT_EQ(user.menu.x, menu ? 10 : 0);
+      EXPECT_EQ(user.Shown(), locked && !row.usedLocked ? u"u|n¶deux" : row.shown);
+      EXPECT_EQ(user.menu.x, row.key == u"Shift+F10" ? 10 : 0);
       EXPECT_EQ(user.pane.Zoom(), row.key == u"Ctrl+0" ? 1 : 1.5);
     }
 }
@@ -202,22 +186,19 @@ TEST(AccessibleTexts, TellUnitsAndEdit) {
     return Selection{before == within.npos ? 0 : static_cast<Position>(before) + 1,
                      static_cast<Position>(std::min(behind, within.size()))};
   });
-  struct UnitRow {
-    Position offset;
-    TextUnit unit;
-    std::u16string_view before, at, behind;
-  };
-  const UnitRow rows[] = {{4, TextUnit::Line, u"", u"un deux ", u"trois\r\n"},
-                          {9, TextUnit::Line, u"un deux ", u"trois\r\n", u"quatre"},
-                          {4, TextUnit::Paragraph, u"", u"un deux trois\r\n", u"quatre"},
-                          {99, TextUnit::Paragraph, u"un deux trois\r\n", u"quatre", u""},
-                          {4, TextUnit::Word, u"un", u"deux", u"deux"},
-                          {-5, TextUnit::All, u"", u"un deux trois\r\nquatre", u""}};
-  for (const UnitRow& row : rows) {
-    EXPECT_EQ(text.Text(text.Before(row.offset, row.unit)), row.before) << row.offset;
-    EXPECT_EQ(text.Text(text.At(row.offset, row.unit)), row.at) << row.offset;
-    if (row.unit != TextUnit::Word) {
-      EXPECT_EQ(text.Text(text.Behind(row.offset, row.unit)), row.behind) << row.offset;
+  constexpr TextUnit kUnits[] = {TextUnit::Line, TextUnit::Paragraph, TextUnit::Word,
+                                 TextUnit::All};
+  for (const auto& [offset, unit, before, at, behind] : Rows16<5>(R"(
+4 | 0 | "" | un deux␣ | trois¶ ¦ 9 | 0 | un deux␣ | trois¶ | quatre ¦ 4 | 2 | un | deux | deux
+4 | 1 | "" | un deux trois¶ | quatre ¦ 99 | 1 | un deux trois¶ | quatre | ""
+-5 | 3 | "" | un deux trois¶quatre | ""
+)")) {
+    const Position place = std::stoi(ToUtf8(offset));
+    const TextUnit of = kUnits[unit[0] - u'0'];
+    EXPECT_EQ(text.Text(text.Before(place, of)), Unmarked(before)) << place;
+    EXPECT_EQ(text.Text(text.At(place, of)), Unmarked(at)) << place;
+    if (of != TextUnit::Word) {
+      EXPECT_EQ(text.Text(text.Behind(place, of)), Unmarked(behind)) << place;
     }
   }
   EXPECT_EQ(text.BoxOf(9), (PixelRect{10, 25, 20, 50}));

@@ -1,6 +1,7 @@
 // Pieces of the fixed layouter: breaks, edges, boxes in a line, rows of cells.
 #include <gtest/gtest.h>
 
+#include "base/Rows.h"
 #include "document/kept/Kept.h"
 #include "view/Window.h"
 
@@ -8,41 +9,28 @@ namespace lumenote {
 namespace {
 
 TEST(FixedBreaker, Wraps) {
-  struct Row {
-    std::u16string_view text;
-    int width;  // in characters
-    std::u16string_view lines;
-  };
-  const Row rows[] = {{u"un deux trois", 7, u"un deux |trois"},
-                      {u"un    deux", 4, u"un    |deux"},
-                      {u"porte-avions", 8, u"porte-|avions"},
-                      {u"abcdefgh", 3, u"abc|def|gh"},
-                      {u"a abcdefgh", 3, u"a |abc|def|gh"},
-                      {u"a𝄞𝄞b", 2, u"a𝄞|𝄞b"},
-                      {u"𝄞𝄞𝄞", 0, u"𝄞𝄞|𝄞"},
-                      {u"a\tb", 8, u"a\t|b"},
-                      {u"a\vb\v", 9, u"a\v|b\v|"},
-                      {u"", 5, u""}};
-  for (const Row& row : rows) {
+  for (const auto& [lines, width] : Rows16<2>(R"(
+un deux |trois => 7 ¦ un    |deux => 4 ¦ porte-|avions => 8 ¦ abc|def|gh => 3 ¦ a |abc|def|gh => 3
+a𝄞|𝄞b => 2 ¦ 𝄞𝄞|𝄞 => 0 ¦ a⇥|b => 8 ¦ a↓|b↓| => 9 ¦ "" => 5
+)",
+                                              " => ")) {  // in characters
     Document document;
-    document.Replace(0, 0, PlainFragment(row.text, 0, 0));
-    FixedBreaker breaker(row.width * 100.0);
-    std::u16string lines(row.text);
+    std::u16string broken = ReplaceEvery(ReplaceEvery(lines, u"⇥", u"\t"), u"↓", u"\v");
+    document.Replace(0, 0, PlainFragment(ReplaceEvery(broken, u"|", u""), 0, 0));
+    FixedBreaker breaker((width[0] - u'0') * 100.0);
+    std::u16string shown = document.Text(0, document.Length());
     std::vector<Position> starts = breaker.Break(document, 0, document.Length());
     for (auto at = starts.rbegin(); at != starts.rend(); ++at)
-      lines.insert(static_cast<std::size_t>(*at), 1, u'|');
-    EXPECT_EQ(ToUtf8(lines), ToUtf8(row.lines));
+      shown.insert(static_cast<std::size_t>(*at), 1, u'|');
+    EXPECT_EQ(ToUtf8(shown), ToUtf8(broken));
   }
 }
 
 TEST(FixedBreaker, IndentsNarrowTheLinesAndShiftX) {
   Document document;
-  ParaFormat format;
-  format.firstIndent = 300;
-  format.hangingIndent = -150;
-  format.rightIndent = 450;
   Fragment text = PlainFragment(u"abcdefghij", 0, 0);
-  text.mark = FinalMark{0, document.Formats().paragraphs.Intern(format)};
+  text.mark = FinalMark{0, document.Formats().paragraphs.Intern(
+                               {.firstIndent = 300, .hangingIndent = -150, .rightIndent = 450})};
   document.Replace(0, 0, text);
   FixedBreaker breaker(1250);
   EXPECT_EQ(breaker.Break(document, 0, 10), (std::vector<Position>{5}));
@@ -87,19 +75,18 @@ TEST_F(RowsTest, LieBesideEachOther) {
   EXPECT_TRUE(Row().opens && Row().closes);
   EXPECT_EQ(Row().lines.size(), 3u + 2 + 1);
   EXPECT_EQ(Row().height, 3 * 25);
-  struct Place {
-    std::u16string_view word;
-    double left, top;
-  };
-  for (const Place& place :
-       {Place{u"trois", 0, 75}, Place{u"quatre", 60, 25}, Place{u"cinq", 60, 50},
-        Place{u"six", 150, 25}, Place{u"apr", 0, 100}}) {
-    const auto at = static_cast<Position>(window.surface.Text().find(place.word));
-    EXPECT_EQ(window.pane.CaretAt(at)->left, place.left) << ToUtf8(place.word);
-    EXPECT_EQ(window.pane.LineAt(at)->top, place.top) << ToUtf8(place.word);
-    EXPECT_EQ(window.pane.PositionAt({place.left + 1, place.top + 12}), at);
+  const std::tuple<const char16_t*, double, double> places[] = {{u"trois", 0, 75},
+                                                                {u"quatre", 60, 25},
+                                                                {u"cinq", 60, 50},
+                                                                {u"six", 150, 25},
+                                                                {u"apr", 0, 100}};
+  for (const auto& [word, left, top] : places) {
+    const auto at = static_cast<Position>(window.surface.Text().find(word));
+    EXPECT_EQ(window.pane.CaretAt(at)->left, left) << ToUtf8(word);
+    EXPECT_EQ(window.pane.LineAt(at)->top, top) << ToUtf8(word);
+    EXPECT_EQ(window.pane.PositionAt({left + 1, top + 12}), at);
     EXPECT_EQ(window.surface.Lines().LineAt(at).start, at);
-    EXPECT_EQ(window.breaker.XOf(window.surface.Content(), at, at + 1), place.left + 10);
+    EXPECT_EQ(window.breaker.XOf(window.surface.Content(), at, at + 1), left + 10);
   }
 }
 

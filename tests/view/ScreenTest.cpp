@@ -47,9 +47,17 @@ void CompareWithWhole(Window& window, std::mt19937& random) {
   const ShownPiece top = pane.Visible().front();
   const double offset = whole.PlaceOf(top.piece->from).y - top.piece->lines.front().top - top.y;
   for (int look = 0; look < 8; ++look) {
-    const Line& line = whole.Lines()[random() % whole.Lines().size()];
+    const std::size_t number = random() % whole.Lines().size();
+    const Line& line = whole.Lines()[number];
     if (window.layouter.Composed().text.empty()) {
-      ASSERT_EQ(window.surface.Lines().LineAt(line.start), line);
+      LineTable& lines = window.surface.Lines();
+      ASSERT_EQ(lines.LineAt(std::max(line.start, line.end - 1)).start, line.start);
+      ASSERT_EQ(lines.LineAt(line.start), line);
+      if (look == 7) {  // which lays out all before it
+        ASSERT_EQ(lines.LineOf(line.start), static_cast<int>(number));
+        ASSERT_EQ(lines.LineStart(static_cast<int>(number)), line.start);
+        ASSERT_EQ(lines.LineEnd(static_cast<int>(number)), line.end);
+      }
     }
     ASSERT_EQ(pane.ShownLine(line.start), line);
     const PixelPoint point{1.0 * Below(random, 300), 1.0 * Below(random, 200)};
