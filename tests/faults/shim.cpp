@@ -86,21 +86,17 @@ void Mark(const std::string& path) {
     return Real<type parameters>(#name) arguments;               \
   }
 
-#define WATCH_OPEN(name)                                               \
-  NAMED(int, name, (const char* path, int flags, mode_t mode))         \
-  int shim_##name(const char* path, int flags, mode_t mode) {          \
-    Mark(path);                                                        \
-    if (Watched(path) && Chosen(#name)) {                              \
-      Strike();                                                        \
-      return -1;                                                       \
-    }                                                                  \
-    return Real<int(const char*, int, ...)>(#name)(path, flags, mode); \
+NAMED(int, open, (const char* path, int flags, mode_t mode))
+int shim_open(const char* path, int flags, mode_t mode) {
+  Mark(path);
+  if (Watched(path) && Chosen("open")) {
+    Strike();
+    return -1;
   }
+  return Real<int(const char*, int, ...)>("open")(path, flags, mode);
+}
 
-WATCH_OPEN(open)
-WATCH_OPEN(open64)
 WATCH(int, fsync, -1, (int file), (file), file)
-WATCH(int, fdatasync, -1, (int file), (file), file)
 WATCH(int, fchmod, -1, (int file, mode_t mode), (file, mode), file)
 WATCH(int, fchown, -1, (int file, uid_t user, gid_t group), (file, user, group), file)
 WATCH(int, ftruncate, -1, (int file, off_t size), (file, size), file)

@@ -8,33 +8,15 @@ namespace lumenote {
 namespace {
 
 TEST(MeasuresTest, LengthsSnapToTheGridUpToItsLastMultiple) {
-  const struct {
-    std::int32_t value, step, snapped;
-  } cases[] = {{0, 150, 0},
-               {74, 150, 0},
-               {75, 150, 150},
-               {-75, 150, 0},
-               {-76, 150, -76},
-               {224, 150, 150},
-               {225, 150, 300},
-               {-1000, 150, -1000},
-               {37574, 150, 37500},
-               {37575, 150, 37650},
-               {37724, 150, 37650},
-               {37725, 150, 37725},
-               {37800, 150, 37800},
-               {251 * 3, 3, 251 * 3},
-               {252 * 3, 3, 252 * 3},
-               {251 * 3 + 2, 3, 755},
-               {7, 5, 7},
-               {8, 5, 10},
-               {2, 5, 2},
-               {1, 5, 0},
-               {3, 5, 5},
-               {INT32_MAX, 150, INT32_MAX},
-               {INT32_MIN, 150, INT32_MIN}};
-  for (const auto& c : cases)
-    EXPECT_EQ(CorrValIndent(c.value, c.step), c.snapped) << c.value << " by " << c.step;
+  const std::pair<std::int32_t, std::int32_t> by150[] = {
+      {0, 0},         {74, 0},        {75, 150},      {-75, 0},       {-76, -76},
+      {224, 150},     {225, 300},     {-1000, -1000}, {37574, 37500}, {37575, 37650},
+      {37724, 37650}, {37725, 37725}, {37800, 37800}};
+  for (const auto& [value, snapped] : by150) EXPECT_EQ(CorrValIndent(value, 150), snapped) << value;
+  const std::pair<std::int32_t, std::int32_t> by5[] = {{1, 0}, {2, 2}, {3, 5}, {7, 7}, {8, 10}};
+  for (const auto& [value, snapped] : by5) EXPECT_EQ(CorrValIndent(value, 5), snapped) << value;
+  for (const std::int32_t beyond : {753, 755, 756, INT32_MAX, INT32_MIN})
+    EXPECT_EQ(CorrValIndent(beyond, 3), beyond);
 }
 
 TEST(MeasuresTest, TwipsAsMillimetresAreCutDown) {

@@ -98,34 +98,27 @@ TEST_F(WindowsTest, AfterAnUnloadItsOwnerIsActiveElseTheLatestShown) {
 TEST_F(WindowsTest, AWindowThatMayNotGoStaysAsItWas) {
   first.Show();
   first.mayGo = false;
-  first.Asking = [&] {
-    EXPECT_TRUE(first.IsUnloading());
-    EXPECT_FALSE(first.Unload());
-  };
+  first.Asking = [&] { EXPECT_TRUE(first.IsUnloading() && !first.Unload()); };
   EXPECT_FALSE(first.Unload());
   EXPECT_TRUE(first.IsLoaded() && first.Visible() && !first.IsUnloading() && !first.IsUnloaded());
-  EXPECT_EQ(windows.Active(), &first);
   first.mayGo = true;
-  EXPECT_TRUE(first.Unload());
-  EXPECT_TRUE(first.Unload());
-  EXPECT_TRUE(first.IsUnloaded());
+  EXPECT_TRUE(first.Unload() && first.Unload() && first.IsUnloaded());
 }
 
 TEST_F(WindowsTest, ReturnAndEscapeClickTheirButtonsWhileThoseCanBeClicked) {
   const KeyStroke enter{.name = KeyName::Return}, escape{.name = KeyName::Escape};
+  const auto keys = [&] { return std::pair(first.UserKey(enter), first.UserKey(escape)); };
   first.Show();
   EXPECT_TRUE(first.UserKey({.name = KeyName::Home}));
-  EXPECT_FALSE(first.UserKey(escape));
+  first.close.Visible(false);
+  EXPECT_EQ(keys(), std::pair(false, false));
   first.CancelButton(&first.escape);
-  EXPECT_TRUE(first.UserKey(escape));
+  EXPECT_EQ(keys(), std::pair(false, true));
   EXPECT_FALSE(first.UserKey({.name = KeyName::Escape, .control = true}));
   first.escape.Enabled(false);
-  EXPECT_FALSE(first.UserKey(escape));
-  EXPECT_EQ(first.escapes, 1);
-  first.close.Visible(false);
-  EXPECT_FALSE(first.UserKey(enter));
   first.close.Visible(true);
-  EXPECT_TRUE(first.UserKey(enter));
+  EXPECT_EQ(keys(), std::pair(true, false));
+  EXPECT_EQ(first.escapes, 1);
   EXPECT_FALSE(first.IsLoaded());
   second.Show();
   second.EscapeCloses(true);
@@ -161,36 +154,32 @@ TEST_F(WindowsTest, SizesResizeOnceAndNegativeOnesAreRefused) {
 }
 
 TEST_F(WindowsTest, ATimerTicksWhileItsWindowIsLoadedOnly) {
+  auto window = std::make_unique<Window>(windows, "window");
+  Timer& timer = window->timer;
   int ticks = 0;
-  first.timer.Interval(10);
-  first.timer.Enabled(true);
-  first.timer.Tick = [&] { ++ticks; };
-  backend.Advance(10);
-  first.Load();
-  backend.Advance(9);
-  EXPECT_EQ(ticks, 0);
-  backend.Advance(1);
-  first.timer.Interval(5);
-  backend.Advance(10);
-  EXPECT_EQ(ticks, 3);
-  first.timer.Enabled(false);
-  backend.Advance(10);
-  first.timer.Enabled(true);
-  backend.Advance(4);
-  first.timer.Interval(5);  // as it was, so it counts on
-  backend.Advance(1);
-  EXPECT_EQ(ticks, 4);
-  first.Unload();
-  backend.Advance(10);
-  EXPECT_EQ(ticks, 4);
-  auto fourth = std::make_unique<Window>(windows, "fourth");
-  fourth->timer.Tick = first.timer.Tick;
-  fourth->timer.Interval(10);
-  fourth->timer.Enabled(true);
-  fourth->Load();
-  fourth.reset();
-  backend.Advance(10);
-  EXPECT_EQ(ticks, 4);
+  timer.Interval(10);
+  timer.Enabled(true);
+  timer.Tick = [&] { ++ticks; };
+  const struct {
+    std::function<void()> act;
+    int milliseconds, ticks;
+  } rows[] = {
+      {[] {}, 10, 0},
+      {[&] { window->Load(); }, 9, 0},
+      {[] {}, 1, 1},
+      {[&] { timer.Interval(5); }, 10, 3},
+      {[&] { timer.Enabled(false); }, 10, 3},
+      {[&] { timer.Enabled(true); }, 4, 3},
+      {[&] { timer.Interval(5); }, 1, 4},  // as it was, so it counts on
+      {[&] { window->Unload(); }, 10, 4},
+      {[&] { window->Load(); }, 5, 5},
+      {[&] { window.reset(); }, 10, 5},
+  };
+  for (const auto& row : rows) {
+    row.act();
+    backend.Advance(row.milliseconds);
+    EXPECT_EQ(ticks, row.ticks) << &row - rows;
+  }
 }
 
 TEST_F(WindowsTest, AWindowInUseOutlivesItsUnloadBesideTheNextOne) {

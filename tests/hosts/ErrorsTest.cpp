@@ -53,23 +53,18 @@ TEST_F(ErrorsTest, OnlyAPathWithADriveNamesAFile) {
 
 TEST_F(ErrorsTest, AnotherThreadIsRefusedAtOnceByEveryMember) {
   Open(u"note");
-  const std::pair<std::u16string, std::function<void()>> members[] = {
-      {u"pNomAppli", [&] { control->pNomAppli(u"x"); }},
-      {u"pChmAppli", [&] { control->pChmAppli(u"C:\\x\\y.exe"); }},
-      {u"pTitreFenêtre", [&] { control->pTitreFenêtre(u"x"); }},
-      {u"pTitreCadre", [&] { control->pTitreCadre(u"x"); }},
-      {u"pCouleurFen", [&] { control->pCouleurFen(u"x"); }},
-      {u"pSScléReg", [&] { control->pSScléReg(u"x"); }},
-      {u"pAttribut", [&] { control->pAttribut(u"x"); }},
-      {u"pModelWord", [&] { control->pModelWord(u"x"); }},
-      {u"pStrOrchm", [&] { control->pStrOrchm(u"x"); }},
-      {u"pStrOrchm", [&] { control->pStrOrchm(); }},
-      {u"ShowMicroEdit", [&] { control->ShowMicroEdit(1); }}};
-  for (const auto& [name, call] : members) {
-    Error raised;
-    std::thread([&, &call = call] { raised = Raised(call); }).join();
-    EXPECT_EQ(raised, Error(5, name));
-  }
+  const std::pair<std::u16string, void (CoBxRtf::*)(std::u16string_view)> properties[] = {
+      {u"pNomAppli", &CoBxRtf::pNomAppli},     {u"pChmAppli", &CoBxRtf::pChmAppli},
+      {u"pTitreCadre", &CoBxRtf::pTitreCadre}, {u"pTitreFenêtre", &CoBxRtf::pTitreFenêtre},
+      {u"pCouleurFen", &CoBxRtf::pCouleurFen}, {u"pSScléReg", &CoBxRtf::pSScléReg},
+      {u"pAttribut", &CoBxRtf::pAttribut},     {u"pModelWord", &CoBxRtf::pModelWord},
+      {u"pStrOrchm", &CoBxRtf::pStrOrchm}};
+  std::thread([&] {
+    for (const auto& [name, write] : properties)
+      EXPECT_EQ(Raised([&] { ((*control).*write)(u"C:\\x\\y.exe"); }), Error(5, name));
+    EXPECT_EQ(Raised([&] { control->pStrOrchm(); }), Error(5, u"pStrOrchm"));
+    EXPECT_EQ(Raised([&] { control->ShowMicroEdit(1); }), Error(5, u"ShowMicroEdit"));
+  }).join();
   EXPECT_TRUE(IsOpen());
   EXPECT_EQ(control->pStrOrchm(), u"note");
 }
@@ -96,8 +91,8 @@ TEST_F(ErrorsTest, WithoutAWindowSystemNothingCanBeWaitedFor) {
   PilotPlatform machine(sandbox, nobody, fonts);
   CoBxRtf lonely(machine);
   lonely.pCouleurFen(u"0");
-  lonely.pStrOrchm(u"note");
-  EXPECT_EQ(Raised([&] { lonely.ShowMicroEdit(1); }), Error(5, u"ShowMicroEdit"));
+  EXPECT_EQ(Raised([&] { Open(lonely, u"note"), lonely.ShowMicroEdit(1); }),
+            Error(5, u"ShowMicroEdit"));
   EXPECT_EQ(lonely.pStrOrchm(), u"note");
 }
 

@@ -34,15 +34,6 @@ const Act kActs[] = {
      }},
     {"the font dialog", [](Co_Rtf& editor) { editor.Bar.mnuFmtPolice.UserClick(); }},
     {"a refusal", [](Co_Rtf& editor) { editor.Pop.mnuPopOcrApprendre.UserClick(); }},
-    {"the question before a deletion",
-     [](Co_Rtf& editor) { editor.Pop.mnuPopSupprDoc.UserClick(); }},
-    {"a box of the find dialog",
-     [](Co_Rtf& editor) {
-       editor.Bar.mnuEdtTrouver.UserClick();
-       auto& dialog = dynamic_cast<Co_Trouver&>(*editor.Windows().Active());
-       dialog.cboFind.Text(u"absent");
-       dialog.cmdFind.UserClick();
-     }},
     {"the question before a style is stored",
      [](Co_Rtf& editor) {
        editor.Bar.mnuFmtParagraph.UserClick();
@@ -144,20 +135,6 @@ TEST_F(ReentryTest, InsideTheClosingQuestionNothingCanBeWaitedFor) {
     control->pStrOrchm(u"suivante");
   });
   EXPECT_EQ(control->pStrOrchm(), u"suivante");
-}
-
-TEST_F(ReentryTest, TheControlGoesInsideItsOwnWaitAndItsOwnClosingQuestion) {
-  OnEvent([&] { control.reset(); });
-  control->pStrOrchm(kOld);
-  control->ShowMicroEdit(1);
-  EXPECT_EQ(control, nullptr);
-
-  SetUp();
-  Open(kOld);
-  Type(u"bien ");
-  OnEvent([&] { control.reset(); });
-  Editor().UserClose();
-  EXPECT_EQ(disk.ReadAll(kOld), "bien ancienne");
 }
 
 TEST_F(ReentryTest, ANoteWrittenWhileTheLoadingFailsIsTheNextOne) {

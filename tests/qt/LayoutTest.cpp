@@ -39,39 +39,30 @@ std::vector<Position> LineStarts(LineTable& lines) {
   return starts;
 }
 
-struct LayoutCase {
-  const char* name;
-  std::u16string rtf;
-};
-
-class LayoutAgreement : public testing::TestWithParam<LayoutCase> {};
-
-TEST_P(LayoutAgreement, OfViewAndLineTable) {
-  TestSurface test;
-  test.surface.TextRTF(u"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}" + GetParam().rtf + u"}");
-  LayoutCache cache(test.surface.Content(), test.layouter);
-  EXPECT_EQ(LineStarts(cache), LineStarts(test.surface.Lines()));
-  EXPECT_GT(LineStarts(cache).size(), 1u);
-  TextPane pane(test.surface, test.layouter);
-  for (const Position start : LineStarts(cache))
-    EXPECT_EQ(pane.ShownLine(start), test.surface.Lines().LineAt(start)) << start;
+TEST(LayoutTest, ViewAndLineTableAgree) {
+  const std::u16string words = Words(700);
+  const std::u16string notes[] = {words + u"\\par\\par " + words,
+                                  Words(9000),
+                                  std::u16string(5000, u'x'),
+                                  u"\\li600\\fi-300\\ri500 " + words,
+                                  u"\\qj\\fi400 " + Words(4000),
+                                  u"\\tx1500\\tqr\\tx3000 a\\tab b\\tab c " + words,
+                                  words + u"\\line x\\line\\line " + words,
+                                  u"\\fs40 " + words + u"\\fs16\\b " + words,
+                                  words + u"{\\v " + words + u"}" + words,
+                                  u"\\li30000\\ri30000 " + Words(60)};
+  for (const std::u16string& note : notes) {
+    SCOPED_TRACE(&note - notes);
+    TestSurface test;
+    test.surface.TextRTF(u"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}" + note + u"}");
+    LayoutCache cache(test.surface.Content(), test.layouter);
+    EXPECT_EQ(LineStarts(cache), LineStarts(test.surface.Lines()));
+    EXPECT_GT(LineStarts(cache).size(), 1u);
+    TextPane pane(test.surface, test.layouter);
+    for (const Position start : LineStarts(cache))
+      EXPECT_EQ(pane.ShownLine(start), test.surface.Lines().LineAt(start)) << start;
+  }
 }
-
-const std::u16string kWords = Words(700);
-
-INSTANTIATE_TEST_SUITE_P(
-    Paragraphs, LayoutAgreement,
-    testing::Values(LayoutCase{"Plain", kWords + u"\\par\\par " + kWords},
-                    LayoutCase{"Long", Words(9000)},
-                    LayoutCase{"WithoutBlanks", std::u16string(5000, u'x')},
-                    LayoutCase{"Indented", u"\\li600\\fi-300\\ri500 " + kWords},
-                    LayoutCase{"Justified", u"\\qj\\fi400 " + Words(4000)},
-                    LayoutCase{"Tabs", u"\\tx1500\\tqr\\tx3000 a\\tab b\\tab c " + kWords},
-                    LayoutCase{"LineBreaks", kWords + u"\\line x\\line\\line " + kWords},
-                    LayoutCase{"Sizes", u"\\fs40 " + kWords + u"\\fs16\\b " + kWords},
-                    LayoutCase{"Hidden", kWords + u"{\\v " + kWords + u"}" + kWords},
-                    LayoutCase{"NoRoom", u"\\li30000\\ri30000 " + Words(60)}),
-    [](const auto& info) { return info.param.name; });
 
 /// As the widget does, without its window.
 QImage Painted(RichTextView& view, const ViewMarks& marks, QImage image, const Damage& damage) {

@@ -68,25 +68,5 @@ TEST_F(UnitsTest, ProperCaseBeginsAfterEachSeparatorAndNoOtherSign) {
         << int{other};
 }
 
-TEST_F(UnitsTest, CaseCommandsRewriteTheSelectionAlone) {
-  const struct {
-    void (*command)(RichTextSurface&);
-    std::u16string_view result;
-  } cases[] = {{MettreEnMajuscules, u"un ÉTÉ À deux"}, {MettreEnMinuscules, u"un été à deux"}};
-  for (const auto& c : cases) {
-    Selected(SelectTout, u"un Été à deux", 0);
-    surface.SelStart(3);
-    surface.SelLength(5);
-    c.command(surface);
-    EXPECT_EQ(surface.Text(), c.result);
-  }
-  Selected(SelectTout, u"un été à deux", 0);
-  surface.SelStart(3);
-  surface.SelLength(5);
-  MettreEnTitre(surface, clipboard);
-  EXPECT_EQ(surface.Text(), u"un Été À deux");
-  EXPECT_FALSE(clipboard.HasContent());
-}
-
 }  // namespace
 }  // namespace lumenote
