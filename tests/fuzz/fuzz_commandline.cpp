@@ -1,32 +1,24 @@
 // Any command line is read or refused with its own error; any two paths are two words of one.
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
 #include <vector>
 
+#include "Target.h"
 #include "base/CommandLine.h"
 #include "base/Strings.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
 
-namespace {
-
 using namespace lumenote;
 
 /// A path without a quote is never escaped, though a backslash at its end would need it.
-void CheckWords(const std::u16string& program, const std::u16string& file) {
+static void CheckWords(const std::u16string& program, const std::u16string& file) {
   if (!file.empty() && file.back() == u'\\' && file.find(u'"') == file.npos) return;
   const auto words = SplitCommandLine(QuotedProgram(program) + u" " + Quoted(file));
-  if (words != std::vector{FoldBackslashes(program), FoldBackslashes(file)}) std::abort();
+  Check(words == std::vector{FoldBackslashes(program), FoldBackslashes(file)});
 }
 
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void Try(std::string_view rest) {
   constexpr OptionRule kRules[] = {{"--title", true}, {"--readonly"}, {"-o", true}};
-  std::string_view rest(reinterpret_cast<const char*>(data), size);
   std::vector<std::string_view> arguments;
   while (!rest.empty()) {
     const std::size_t end = std::min(rest.find('\n'), rest.size());
@@ -39,5 +31,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     (void)line.Value("--title");
   } catch (const CommandLineError&) {
   }
-  return 0;
 }

@@ -1,20 +1,13 @@
 // Any bytes as RTF, as a note and as a part to put into one: both hold the same text, and no more
 // than there can be. Written and read again, whole and in part as the clipboard takes it, they keep
 // their text, and from then on their bytes.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
+#include "Target.h"
 #include "rtf/Reading.h"
 #include "rtf/write/Writer.h"
 
 namespace {
 
 using namespace lumenote;
-
-void Check(bool holds) {
-  if (!holds) std::abort();
-}
 
 std::u16string UnitsOf(const Document& document) { return document.Text(0, document.Length()); }
 
@@ -26,14 +19,12 @@ void CheckPart(const Document& document, Position from, Position to) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view rtf(reinterpret_cast<const char*>(data), size);
+void Try(std::string_view rtf) {
   const Document note = Read(rtf);
   const std::u16string part = UnitsOf(Read(rtf, RtfTarget::Selection));
   Check(part == UnitsOf(note) || part == UnitsOf(note) + u"\r\n");
-  Check(part.size() <= 2 * size);
+  Check(part.size() <= 2 * rtf.size());
   Check(LossOf(note).empty());
   const Position third = note.Length() / 3;
   CheckPart(note, third, note.Length() - third);
-  return 0;
 }

@@ -1,10 +1,6 @@
 // Any bytes as a text file: unedited they are saved as they were, edited the text reads as it was
 // written. Any text as a note in a string, plain or in RTF source, comes back.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
+#include "Target.h"
 #include "backends/headless/FixedLayouter.h"
 #include "base/Strings.h"
 #include "base/TextEncoding.h"
@@ -17,10 +13,6 @@ namespace {
 using namespace lumenote;
 
 constexpr std::u16string_view kPath = u"C:\\a.txt";
-
-void Check(bool holds) {
-  if (!holds) std::abort();
-}
 
 struct Desk {
   MemoryClipboard clipboard;
@@ -61,11 +53,9 @@ void CheckSource(const std::u16string& note) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+void Try(std::string_view bytes) {
   const std::u16string units = DecodeText(bytes, TextEncoding::Utf16Le);
   CheckFile(bytes);
   CheckNote(units);
   CheckSource(units);
-  return 0;
 }
