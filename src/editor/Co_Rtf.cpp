@@ -58,7 +58,7 @@ void Co_Rtf::Form_Activate() {
   try {
     OpenNote();
   } catch (...) {
-    if (!session_.loaded) Unload();  // what is typed into it would be nobody's
+    if (!session_.loaded) Unload();  // nobody would save what is typed into it
     throw;
   }
 }
@@ -84,7 +84,7 @@ void Co_Rtf::Form_Resize() {
            Height(), session_.menuBarShown);
 }
 
-// The session of the next editor is made here, where a lack of memory keeps the window open.
+// The next editor's session is created here, where a failed allocation keeps the window open.
 bool Co_Rtf::Form_QueryUnload() {
   if (!FermerNote(*this)) return false;
   next_ = std::make_shared<Session>(session_);

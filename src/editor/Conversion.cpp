@@ -18,8 +18,8 @@
 namespace lumenote {
 namespace {
 
-/// Writes the document to `path` and loads it from there; the file as it is then. Where that fails,
-/// what stood there before is put back.
+/// Writes the document to `path`, reloads it from there and returns the file's state. On failure
+/// restores the earlier file and raises.
 FileState WriteAndReload(NoteWindow& editor, std::u16string_view path, FileType type) {
   Files& files = editor.Services().FileSystem();
   std::optional<std::string> before;
@@ -34,7 +34,7 @@ FileState WriteAndReload(NoteWindow& editor, std::u16string_view path, FileType 
   }
 }
 
-/// The same, or nothing when it fails, which only a lack of memory says aloud.
+/// The same, but returns empty on failure; only a lack of memory is raised.
 std::optional<FileState> TryConversion(NoteWindow& editor, std::u16string_view path,
                                        FileType type) {
   try {
@@ -45,7 +45,7 @@ std::optional<FileState> TryConversion(NoteWindow& editor, std::u16string_view p
   }
 }
 
-/// Makes the new file the document's at its end, whatever becomes of the old one.
+/// Its destructor makes the new file the document's, even if the old one cannot be deleted.
 struct Renaming {
   ~Renaming() {
     editor.Values().documentPath.swap(path);

@@ -40,7 +40,7 @@ const Editor& EditorOf(std::int32_t type) { return kEditors[static_cast<std::siz
 
 constexpr int kPatience = 250;  // ticks in which programs may end
 
-// The states that do something; those between them let time pass.
+// The states with an action; the others only let time pass.
 enum State : std::int16_t {
   kTerminate = 1,
   kPrepare = 2,
@@ -97,7 +97,7 @@ void RoundTrip::EditerAvec(std::int32_t type) {
   waiting_ = false;
 }
 
-// --- the watch
+// --- ticks
 
 // A tick is ignored while an earlier one still shows a box.
 void RoundTrip::TimerWpd_Timer() {

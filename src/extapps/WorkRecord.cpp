@@ -15,7 +15,7 @@
 namespace lumenote {
 namespace {
 
-constexpr std::u16string_view kOrigin = u"*";  // in no name of a note
+constexpr std::u16string_view kOrigin = u"*";  // never the name of a note
 constexpr std::size_t kFixed = 4;              // texts before the traces
 
 std::string Written(const SentWorkFile& sent) {

@@ -59,8 +59,8 @@ std::u16string Numbered(std::int64_t copy, std::u16string_view name) {
   return u"Secours_" + number + std::u16string(name);
 }
 
-/// Tries name after name until `write` takes one. What stands already is never replaced, not even
-/// when another program puts it there at the same moment.
+/// Tries one name after another until `write` succeeds. Never replaces a file, not even one that
+/// another program creates at the same moment.
 template <class Write>
 std::optional<std::u16string> FirstFree(std::u16string_view name, Write write) {
   for (std::int64_t copy = 1; copy <= kMaxCopies; ++copy) {
@@ -86,20 +86,20 @@ bool IsStored(const Files& files, const OrphanedCopy& copy) {
          bytes == copy.bytes;
 }
 
-/// Leaves the record for the next start, less the results that have been kept by now.
+/// Leaves the record, without the results already kept, for the next start.
 void LeaveRecord(Platform& machine, SentWorkFile& sent) {
   Record(machine.State(), sent);
   if (sent.record) sent.record->Leave();
 }
 
-/// Whether the program may save yet.
+/// Whether the program may still save.
 bool GoesOn(Platform& machine, const SentWorkFile& sent) {
   bool running = true;
   IgnoringErrors([&] { running = machine.Programs().IsRunning(sent.process); });
   return running;
 }
 
-/// Adds the paths of rescue copies of what a program has saved; false when one could not be made.
+/// Makes rescue copies of what a program has saved and adds their paths. False if one failed.
 bool KeepResults(Platform& machine, SentWorkFile& sent, std::vector<std::u16string>& paths) {
   return GarderTout(machine.FileSystem(), sent, [&](const std::u16string& result) {
     auto copy = CopierFichier(machine, result);
@@ -108,15 +108,15 @@ bool KeepResults(Platform& machine, SentWorkFile& sent, std::vector<std::u16stri
   });
 }
 
-/// Whether a program at that path may still save what another editor gave it.
+/// The same for a program that another editor started.
 bool StillRuns(Platform& machine, std::u16string_view program) {
   bool running = false;
   IgnoringErrors([&] { running = machine.Programs().StillRunning(program).has_value(); });
   return running;
 }
 
-/// The same for an editor that died. False when the record has to wait, for the program's end or
-/// for a place.
+/// Makes rescue copies of the results for a dead editor. False if the record has to wait until the
+/// program ends or a copy can be written.
 bool KeepLate(Platform& machine, const OrphanedCopy& record, std::vector<std::u16string>& paths) {
   auto sent = SentOf(record);
   if (!sent) return true;

@@ -58,9 +58,7 @@ bool TellsOfField(const Token& word) {
 }  // namespace
 
 KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
-  constexpr std::size_t kEscaped = 3;  // extra bytes of an escaped byte
-  const auto bare = std::ranges::count_if(source, [](char c) { return c < ' ' || c > '~'; });
-  text.reserve(source.size() + kEscaped * static_cast<std::size_t>(bare) + kEscaped);
+  Reserve(source);
   Tokenizer tokens(source);
   HiddenGroup hidden(piece == Piece::Hidden);
   std::size_t end = 0;
@@ -87,11 +85,20 @@ KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
     unicode |= word && token.text == "u";
   }
   if (delimited) text.pop_back();
-  if (!unicode || fallback == kOwnFallback) return;
-  const bool opening = piece == Piece::FieldOpening;
-  if (opening && text[firstWordEnd] == ' ') text.erase(firstWordEnd, 1);
-  text.insert(firstWordEnd, "\\uc" + std::to_string(fallback));
-  if (opening) text += "\\uc" + std::to_string(kOwnFallback);
+  if (unicode && fallback != kOwnFallback)
+    StateFallback(firstWordEnd, fallback, piece == Piece::FieldOpening);
+}
+
+void KeptSource::Reserve(std::string_view source) {
+  constexpr std::size_t kEscaped = 3;  // extra bytes of an escaped byte
+  const auto bare = std::ranges::count_if(source, [](char c) { return c < ' ' || c > '~'; });
+  text.reserve(source.size() + kEscaped * static_cast<std::size_t>(bare) + kEscaped);
+}
+
+void KeptSource::StateFallback(std::size_t at, int fallback, bool restore) {
+  if (restore && text[at] == ' ') text.erase(at, 1);
+  text.insert(at, "\\uc" + std::to_string(fallback));
+  if (restore) text += "\\uc" + std::to_string(kOwnFallback);
 }
 
 void KeptSource::Append(const Token& token, std::string_view source) {

@@ -24,7 +24,10 @@ struct KeptSource {
   std::string Closed() && { return std::move(text.append(open, '}')); }
 
  private:
+  void Reserve(std::string_view source);
   void Append(const Token& token, std::string_view source);
+  /// Inserts a \uc of `fallback` at `at`, and `restore`s the writer's own at the end.
+  void StateFallback(std::size_t at, int fallback, bool restore);
 };
 
 /// The source of a word.
