@@ -20,7 +20,7 @@
 #include "ocr/Cleanup.h"
 #include "pilot/machine/PilotPlatform.h"
 #include "pilot/machine/ReportedFonts.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "pilot/sandbox/FolderSandbox.h"
 #include "surface/Fakes.h"
 
 using namespace lumenote;
@@ -164,7 +164,7 @@ void Measure(const std::string& rtf, const std::string& name) {
 
 /// On a window that is shown, up to the frame that shows the page as it is then.
 double CleanUp() {
-  PosixSandbox sandbox;
+  FolderSandbox sandbox;
   QtBackend backend;
   const ReportedFonts fonts;
   PilotPlatform platform(sandbox, backend, fonts);

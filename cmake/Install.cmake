@@ -1,8 +1,9 @@
-# The CMake package: find_package(Lumenote), targets Lumenote::Core, Posix, Headless and Qt.
+# The CMake package: find_package(Lumenote), targets Lumenote::Core, Headless, Qt, and Posix or Win32.
 include(CMakePackageConfigHelpers)
 include(GNUInstallDirs)
 
-set(targets lumenote_core lumenote_posix lumenote_headless)
+string(TOLOWER lumenote_${LUMENOTE_SYSTEM} system)
+set(targets lumenote_core ${system} lumenote_headless)
 if(LUMENOTE_QT)
   list(APPEND targets lumenote_qt)
 endif()

@@ -37,7 +37,7 @@ def complaint(source, path, quote, target):
         return "no such header"
     if layer == "lumenote" or public:
         return None if public else "private header in a public one"
-    if target.startswith("backends/") and layer == "pilot" and path.parts[1] != "posix":
+    if target.startswith("backends/") and layer == "pilot" and path.parts[1] != "sandbox":
         return "backend from above"
     return "points up" if RANK[target.split("/")[0]] > RANK[layer] else None
 

@@ -18,7 +18,7 @@
 #include "lumenote/CoBxRtf.h"
 #include "lumenote/QtPlatform.h"
 #include "pilot/RunPilot.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "pilot/sandbox/FolderSandbox.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "rtf/read/Reader.h"
@@ -126,7 +126,7 @@ int DrivePilot(const CommandLine& line) {
   if (!script) return Fail(*line.Value("--pilot") + " : lecture impossible", 2);
   const auto root = line.Value("--root");
   const auto sandbox =
-      root ? std::make_unique<PosixSandbox>(*root) : std::make_unique<PosixSandbox>();
+      root ? std::make_unique<FolderSandbox>(*root) : std::make_unique<FolderSandbox>();
   QtBackend backend;
   QtUserActs acts(backend);
   PilotRun run{script, std::cout, std::cerr, *sandbox, backend, acts};

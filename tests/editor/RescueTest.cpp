@@ -2,8 +2,9 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
+#include "backends/native/files/OpenFile.h"
+#include "backends/native/state/NativeStateFolder.h"
 #include "backends/posix/programs/PosixProcesses.h"
-#include "backends/posix/state/PosixStateFolder.h"
 #include "editor/storage/Secours.h"
 #include "hosts/Host.h"
 
@@ -271,7 +272,7 @@ TEST_F(RescueTest, ADamagedRecordDoesNoHarm) {
     disk.Write(u"C:\\n\\SavNotes.rtf", "{\\rtf1 autre}");
     sandbox.ReadOnly(u"C:\\n\\a.rtf", true);
     {
-      PosixStateFolder dead(folder.Path() + "/state", drives);
+      NativeStateFolder dead(folder.Path() + "/state", drives);
       const auto copy = dead.MakeCopy();
       copy->Begin(u"*");
       copy->Append(c.bytes);
@@ -297,7 +298,7 @@ TEST_F(RescueTest, AConversionDeletesInItsTurn) {
   platform.files.before = [&](std::string_view operation, std::u16string_view path) {
     if (operation != "delete" || path != u"C:\\n\\a.txt") return;
     deleted = true;
-    const Descriptor other(open((folder.Path() + "/c/n").c_str(), O_RDONLY | O_DIRECTORY));
+    const lumenote::OpenFile other(open((folder.Path() + "/c/n").c_str(), O_RDONLY | O_DIRECTORY));
     ASSERT_TRUE(other.IsOpen());
     EXPECT_NE(flock(other.Number(), LOCK_EX | LOCK_NB), 0);
   };

@@ -7,9 +7,9 @@
 #include <sys/wait.h>
 #include <thread>
 
-#include "backends/posix/folders/PosixProgramFolders.h"
+#include "backends/native/folders/NativeProgramFolders.h"
+#include "backends/native/settings/IniRegistry.h"
 #include "backends/posix/programs/PosixProcesses.h"
-#include "backends/posix/settings/IniRegistry.h"
 #include "base/Rows.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
@@ -168,7 +168,7 @@ TEST_F(ProcessesTest, TheFirstFileThatHoldsAValueCounts) {
 }
 
 TEST(ProgramFoldersTest, TheComponentsFolderHoldsThisProgram) {
-  const PosixProgramFolders folders(DrivePaths::OfUser());
+  const NativeProgramFolders folders(DrivePaths::OfUser());
   const std::string native = DrivePaths::OfUser().ToNative(folders.Component());
   EXPECT_EQ(native, std::filesystem::read_symlink("/proc/self/exe").parent_path().string());
 }

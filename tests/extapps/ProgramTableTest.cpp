@@ -4,7 +4,7 @@
 #include "base/ErrorOf.h"
 #include "base/Rows.h"
 #include "extapps/ProgramTable.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "pilot/sandbox/FolderSandbox.h"
 
 namespace lumenote {
 namespace {
@@ -24,7 +24,7 @@ class ProgramTableTest : public testing::Test {
                            sandbox.InstalledPrograms(), sandbox.MachineRegistry()});
   }
 
-  PosixSandbox sandbox;
+  FolderSandbox sandbox;
 };
 
 TEST_F(ProgramTableTest, TheFirstCandidateGoesBeforeTheFallback) {

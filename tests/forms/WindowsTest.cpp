@@ -8,7 +8,7 @@
 #include "forms/Timer.h"
 #include "pilot/machine/PilotPlatform.h"
 #include "pilot/machine/ReportedFonts.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "pilot/sandbox/FolderSandbox.h"
 
 namespace lumenote {
 namespace {
@@ -63,7 +63,7 @@ class Window : public Form {
 
 class WindowsTest : public testing::Test {
  protected:
-  PosixSandbox sandbox;
+  FolderSandbox sandbox;
   CountingBackend backend;
   ReportedFonts fonts;
   PilotPlatform platform{sandbox, backend, fonts};

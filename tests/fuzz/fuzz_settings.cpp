@@ -1,7 +1,7 @@
 // Any bytes as a settings file, and as names and a value: the value is found again, nothing is
 // lost.
 #include "Target.h"
-#include "backends/posix/settings/IniText.h"
+#include "backends/native/settings/IniText.h"
 #include "base/TextEncoding.h"
 
 void Try(std::string_view bytes) {

@@ -18,7 +18,7 @@
 #include "lumenote/CoBxRtf.h"
 #include "pilot/machine/PilotPlatform.h"
 #include "pilot/machine/ReportedFonts.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "pilot/sandbox/FolderSandbox.h"
 #include "session/Session.h"
 
 namespace lumenote {
@@ -62,30 +62,30 @@ class HostBackend final : public HeadlessBackend {
 };
 
 /// The disk, but for what a test lets happen before an operation on a path.
-class DisturbedFiles final : public PosixFiles {
+class DisturbedFiles final : public NativeFiles {
  public:
-  explicit DisturbedFiles(const PosixFiles& disk) : PosixFiles(disk) {}
+  explicit DisturbedFiles(const NativeFiles& disk) : NativeFiles(disk) {}
 
   bool Exists(std::u16string_view path) const override {
     before("look", path);
-    return PosixFiles::Exists(path);
+    return NativeFiles::Exists(path);
   }
   std::string ReadAll(std::u16string_view path) const override {
     before("read", path);
-    return PosixFiles::ReadAll(path);
+    return NativeFiles::ReadAll(path);
   }
   void Write(std::u16string_view path, std::string_view bytes) override {
     before("write", path);
-    PosixFiles::Write(path, bytes);
+    NativeFiles::Write(path, bytes);
   }
   void WriteNew(std::u16string_view path, std::string_view bytes,
                 Permissions permissions) override {
     before("write", path);
-    PosixFiles::WriteNew(path, bytes, permissions);
+    NativeFiles::WriteNew(path, bytes, permissions);
   }
   void Delete(std::u16string_view path, bool force) override {
     before("delete", path);
-    PosixFiles::Delete(path, force);
+    NativeFiles::Delete(path, force);
   }
 
   /// May raise, or change something on the disk.
@@ -96,9 +96,9 @@ class DisturbedFiles final : public PosixFiles {
 /// A sandbox with that disk, and with the programs that a test puts in its place.
 class HostPlatform final : public PilotPlatform {
  public:
-  HostPlatform(PosixSandbox& sandbox, Backend& windows, const Fonts& fonts)
+  HostPlatform(FolderSandbox& sandbox, Backend& windows, const Fonts& fonts)
       : PilotPlatform(sandbox, windows, fonts),
-        files(dynamic_cast<PosixFiles&>(sandbox.FileSystem())),
+        files(dynamic_cast<NativeFiles&>(sandbox.FileSystem())),
         programs(&sandbox.Programs()) {}
 
   Files& FileSystem() override { return files; }
@@ -166,7 +166,7 @@ class HostTest : public testing::Test {
   }
 
   TemporaryFolder folder;
-  PosixSandbox sandbox{folder.Path()};
+  FolderSandbox sandbox{folder.Path()};
   Files& disk = sandbox.FileSystem();
   HostBackend backend;
   ReportedFonts fonts;

@@ -9,7 +9,7 @@
 #include "forms/controls/RichTextBox.h"
 #include "pilot/ScriptRunner.h"
 #include "pilot/machine/PilotPlatform.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "pilot/sandbox/FolderSandbox.h"
 
 namespace lumenote {
 namespace {
@@ -67,7 +67,7 @@ class PilotTest : public testing::Test {
   std::string log;
   std::ostringstream out;
   std::ostringstream err;
-  PosixSandbox sandbox;
+  FolderSandbox sandbox;
   ReportedFonts fonts;
   SkewedBackend inner;
   HeadlessActs acts{inner};

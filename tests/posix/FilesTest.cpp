@@ -10,9 +10,10 @@
 #include <vector>
 
 #include "Sandbox.h"
-#include "backends/posix/files/BesideFile.h"
-#include "backends/posix/saving/PosixFiles.h"
-#include "backends/posix/state/PosixStateFolder.h"
+#include "backends/native/files/BesideFile.h"
+#include "backends/native/files/Disk.h"
+#include "backends/native/saving/NativeFiles.h"
+#include "backends/native/state/NativeStateFolder.h"
 #include "base/Rows.h"
 
 namespace lumenote {
@@ -25,7 +26,7 @@ class FilesTest : public SandboxTest {
   /// What dead saves have left, as the next start of the component finds it.
   std::map<std::u16string, std::string> Left() {
     std::map<std::u16string, std::string> left;
-    PosixStateFolder(Native("state"), drives_).ClaimOrphans([&](const OrphanedCopy& copy) {
+    NativeStateFolder(Native("state"), drives_).ClaimOrphans([&](const OrphanedCopy& copy) {
       left.emplace(copy.origin, copy.bytes);
       return false;
     });
@@ -38,8 +39,8 @@ class FilesTest : public SandboxTest {
     return info;
   }
 
-  PosixStateFolder state_{Native("state"), drives_};
-  PosixFiles files_{drives_, &state_};
+  NativeStateFolder state_{Native("state"), drives_};
+  NativeFiles files_{drives_, &state_};
 };
 
 /// The error that `act` raises in a process of its own.
@@ -122,7 +123,7 @@ TEST_F(FilesTest, AReadOnlyFileIsRefusedWhoeverRuns) {
 
 TEST_F(FilesTest, AFullDiskLeavesTheOldFile) {
   Put("a.txt", "old");
-  for (const auto write : {&PosixFiles::Write, &PosixFiles::AppendLines}) {
+  for (const auto write : {&NativeFiles::Write, &NativeFiles::AppendLines}) {
     const auto onFullDisk = [&] {
       const struct rlimit tight = {10, 10};
       setrlimit(RLIMIT_FSIZE, &tight);
@@ -145,7 +146,7 @@ TEST_F(FilesTest, WhatARenameWouldLoseIsWrittenInPlace) {
     EXPECT_TRUE(StatOf("a.txt").st_ino == before && StatOf("b.txt").st_ino == before);
   }
   EXPECT_TRUE(Left().empty());
-  EXPECT_EQ(ErrorOf([&] { PosixFiles(drives_).Write(u"C:\\a.txt", "x"); }), 75);
+  EXPECT_EQ(ErrorOf([&] { NativeFiles(drives_).Write(u"C:\\a.txt", "x"); }), 75);
 }
 
 TEST_F(FilesTest, AnothersFileAndAClosedFolderAreWrittenInPlace) {
@@ -228,14 +229,14 @@ TEST_F(FilesTest, WritingThroughALinkKeepsTheLink) {
 /// What a save that dies leaves beside its target.
 std::string LeftBeside(const std::string& target) {
   std::string name;
-  { const Descriptor file = CreateBeside(target, 0600, name); }
+  { const OpenFile file = CreateBeside(target, Permissions::UserOnly, name); }
   std::ofstream(name) << "leftover";
   return name;
 }
 
 TEST_F(FilesTest, ASaveRemovesWhatDeadSavesOfItsNoteLeft) {
   std::string living;
-  const Descriptor lock = CreateBeside(Native("a.txt"), 0600, living);
+  const OpenFile lock = CreateBeside(Native("a.txt"), Permissions::UserOnly, living);
   const std::string dead = LeftBeside(Native("a.txt"));
   const std::string other = LeftBeside(Native("b.txt"));
   fs::create_symlink("a.txt", dead.substr(0, dead.size() - 1) + "2");
@@ -302,7 +303,7 @@ TEST_F(FilesTest, CopiesAndMovesContentAndMode) {
   files_.Copy(u"C:\\from", u"C:\\to");
   EXPECT_EQ(Get("to"), "content");
   EXPECT_EQ(ModeOf("to"), 0500U);
-  for (const auto place : {&PosixFiles::Copy, &PosixFiles::Move}) {
+  for (const auto place : {&NativeFiles::Copy, &NativeFiles::Move}) {
     EXPECT_EQ(ErrorOf([&] { (files_.*place)(u"C:\\from", u"C:\\locked"); }), 70);
     EXPECT_EQ(ErrorOf([&] { (files_.*place)(u"C:\\missing", u"C:\\new"); }), 53);
     EXPECT_EQ(ErrorOf([&] { (files_.*place)(u"C:\\from", u"C:\\none\\new"); }), 76);

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "Sandbox.h"
-#include "backends/posix/folders/PosixFolders.h"
+#include "backends/native/folders/NativeFolders.h"
 #include "backends/posix/folders/UserFolders.h"
 #include "base/Rows.h"
 
@@ -19,7 +19,7 @@ class FoldersTest : public SandboxTest {
 };
 
 TEST_F(FoldersTest, TempIsPrivateAndGoesWithItsOwner) {
-  PosixFolders folders(drives_);
+  NativeFolders folders(drives_);
   const std::unique_ptr<TempFolder> other = folders.MakeTemp();
   std::unique_ptr<TempFolder> temp = folders.MakeTemp();
   EXPECT_NE(temp->Path(), other->Path());
@@ -34,7 +34,7 @@ TEST_F(FoldersTest, TempIsPrivateAndGoesWithItsOwner) {
 TEST_F(FoldersTest, AProgramThatWorksInATemporaryFolderKeepsIt) {
   for (const bool outlivesAll : {false, true}) {
     bool inUse = true;
-    std::optional<PosixFolders> folders(std::in_place, drives_, [&] { return inUse; });
+    std::optional<NativeFolders> folders(std::in_place, drives_, [&] { return inUse; });
     std::unique_ptr<TempFolder> temp = folders->MakeTemp();
     const std::string native = drives_.ToNative(temp->Path());
     temp.reset();
@@ -105,7 +105,7 @@ TEST_F(FoldersTest, DocumentsAreWhatTheConfigurationSays) {
   for (const char* name : {".config", "Documents", "Mes \"textes\"", "abs"}) {
     std::filesystem::create_directory(Native(name));
   }
-  PosixFolders folders(drives_);
+  NativeFolders folders(drives_);
   for (const auto& [line, folder] : Rows<2>(R"(
 "" | C:\Documents ¦ XDG_DOCUMENTS_DIR="$HOME/Mes \"textes\"" | C:\Mes "textes"
 # c␊XDG_MUSIC_DIR="$HOME/x"␊XDG_DOCUMENTS_DIR="@/abs/"␊ | C:\abs ¦ XDG_DOCUMENTS_DIR="$HOME/" | C:\
@@ -124,7 +124,7 @@ XDG_DOCUMENTS_DIR= | C:\Documents
 TEST_F(FoldersTest, NoUsableHomeIsNoCrash) {
   for (const char* value : {static_cast<const char*>(nullptr), "", "relative", "/nonexistent"}) {
     const ScopedVariable home("HOME", value);
-    EXPECT_NO_THROW(PosixFolders(DrivePaths("/nonexistent")).Documents());
+    EXPECT_NO_THROW(NativeFolders(DrivePaths("/nonexistent")).Documents());
     EXPECT_TRUE(HomeFolder().empty() || HomeFolder().starts_with('/'));
   }
 }

@@ -9,8 +9,8 @@
 #include <string>
 #include <sys/stat.h>
 
-#include "backends/posix/folders/DrivePaths.h"
-#include "backends/posix/folders/TemporaryFolder.h"
+#include "backends/native/folders/DrivePaths.h"
+#include "backends/native/folders/TemporaryFolder.h"
 #include "base/ErrorOf.h"
 
 namespace lumenote {

@@ -3,7 +3,8 @@
 #include <unistd.h>
 
 #include "Sandbox.h"
-#include "backends/posix/settings/IniSettings.h"
+#include "backends/native/settings/IniSettings.h"
+#include "backends/posix/folders/UserFolders.h"
 
 namespace lumenote {
 namespace {
@@ -106,7 +107,7 @@ TEST_F(SettingsTest, FailingToWriteIsPathAccessAndHurtsNothing) {
 
 TEST_F(SettingsTest, TheUsersFileIsPrivate) {
   const ScopedVariable config("XDG_CONFIG_HOME", Native("config").c_str());
-  IniSettings().Write(u"a", u"s", u"k", u"v");
+  IniSettings(SettingsFile()).Write(u"a", u"s", u"k", u"v");
   EXPECT_EQ(Get("config/lumenote/settings.ini"), "[a/s]\nk=v\n");
   EXPECT_EQ(ModeOf("config/lumenote/settings.ini"), 0600U);
 }

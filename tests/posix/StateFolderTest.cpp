@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "Sandbox.h"
-#include "backends/posix/state/PosixStateFolder.h"
+#include "backends/native/state/NativeStateFolder.h"
 #include "base/Strings.h"
 
 namespace lumenote {
@@ -13,7 +13,7 @@ namespace {
 
 class StateFolderTest : public SandboxTest {
  protected:
-  PosixStateFolder Start() const { return PosixStateFolder(Native("state"), drives_); }
+  NativeStateFolder Start() const { return NativeStateFolder(Native("state"), drives_); }
 
   /// "origin=content" of each copy handed over, in any order sorted by the set.
   std::set<std::string> Left(bool rescued = true) const {
@@ -29,7 +29,7 @@ class StateFolderTest : public SandboxTest {
   void Die(const std::string& origin, const std::string& bytes) const {
     const pid_t child = fork();
     if (child == 0) {
-      PosixStateFolder state = Start();
+      NativeStateFolder state = Start();
       const auto copy = state.MakeStateCopy();
       Write(*copy, origin, bytes);
       copy->BeginFor(origin);
@@ -57,7 +57,7 @@ TEST_F(StateFolderTest, WhatADeadProgramLeftIsHandedOverOnce) {
   Die("C:\\a.rtf", "{\\rtf1}");
   Die(Native("b.txt"), "text");
   {
-    PosixStateFolder state = Start();
+    NativeStateFolder state = Start();
     const auto backup = state.MakeStateCopy();
     Write(*backup, "c.txt", "on purpose");
     backup->Leave();
@@ -70,7 +70,7 @@ TEST_F(StateFolderTest, WhatADeadProgramLeftIsHandedOverOnce) {
 }
 
 TEST_F(StateFolderTest, ALivingOwnerKeepsItsCopies) {
-  PosixStateFolder state = Start();
+  NativeStateFolder state = Start();
   const auto copy = state.MakeStateCopy();
   Write(*copy, "a.txt", "one");
   EXPECT_EQ(Left(), std::set<std::string>{});
@@ -98,24 +98,24 @@ TEST_F(StateFolderTest, ForeignFoldersStay) {
 }
 
 TEST_F(StateFolderTest, KeptForGood) {
-  PosixStateFolder state = Start();
+  NativeStateFolder state = Start();
   EXPECT_EQ(state.KeepForGood(u"Secours_a.txt", "one"), u"C:\\state\\rescue\\Secours_a.txt");
   EXPECT_EQ(ErrorOf([&] { state.KeepForGood(u"Secours_a.txt", "two"); }), 70);
   EXPECT_EQ(Get("state/rescue/Secours_a.txt"), "one");
-  PosixStateFolder outside(Native("state"), DrivePaths(Native("c")));
+  NativeStateFolder outside(Native("state"), DrivePaths(Native("c")));
   EXPECT_EQ(outside.KeepForGood(u"b", ""), FromUtf8(Native("state/rescue/b")));
 }
 
 TEST_F(StateFolderTest, WithoutAFolderNothingIsKept) {
   Put("file", "");
   for (const std::string& path : {std::string(), Native("file/state")}) {
-    PosixStateFolder state(path, drives_);
+    NativeStateFolder state(path, drives_);
     EXPECT_EQ(ErrorOf([&] { state.MakeCopy()->Begin(u"a"); }), 75) << path;
     EXPECT_EQ(ErrorOf([&] { state.KeepForGood(u"a", ""); }), 75) << path;
     state.ClaimOrphans([](const OrphanedCopy&) { return ADD_FAILURE(), true; });
   }
   const ScopedVariable chosen("XDG_STATE_HOME", "/chosen/");
-  EXPECT_EQ(PosixStateFolder::OfUser(), "/chosen/lumenote");
+  EXPECT_EQ(NativeStateFolder::OfUser(), "/chosen/lumenote");
 }
 
 }  // namespace

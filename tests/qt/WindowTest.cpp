@@ -15,7 +15,7 @@
 #include "forms/controls/RichTextBox.h"
 #include "pilot/machine/PilotPlatform.h"
 #include "pilot/machine/ReportedFonts.h"
-#include "pilot/posix/PosixSandbox.h"
+#include "pilot/sandbox/FolderSandbox.h"
 
 namespace lumenote {
 namespace {
@@ -47,7 +47,7 @@ struct WindowTest : testing::Test {
   }
 
   const std::vector<std::string> none;
-  PosixSandbox sandbox;
+  FolderSandbox sandbox;
   QtBackend backend;
   ReportedFonts fonts;
   PilotPlatform platform{sandbox, backend, fonts};

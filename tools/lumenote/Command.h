@@ -2,6 +2,7 @@
 #pragma once
 #include <span>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 namespace lumenote::tool {
@@ -21,5 +22,9 @@ int Pilot(Arguments arguments);
 int Clean(Arguments arguments);
 int Link(Arguments arguments);
 int Links(Arguments arguments);
+
+/// Runs the command that the arguments, the program's name left out, begin with. Prints what fails
+/// and returns the exit status.
+int RunTool(std::span<const std::string> arguments);
 
 }  // namespace lumenote::tool

@@ -1,9 +1,8 @@
 // lumenote links: lists the external programs.
-#include <system_error>
-
 #include "Command.h"
 #include "NoteFile.h"
 #include "UserPrograms.h"
+#include "backends/native/files/Disk.h"
 #include "base/CommandLine.h"
 #include "base/Strings.h"
 
@@ -13,10 +12,7 @@ namespace {
 /// The program behind all links; "-" if it is missing.
 std::string Target(const DrivePaths& drives, const std::u16string& path) {
   if (path.empty()) return "-";
-  const std::filesystem::path native = NativePath(drives, path);
-  std::error_code error;
-  const std::filesystem::path target = std::filesystem::canonical(native, error);
-  return error ? native.string() : target.string();
+  return FollowLinks(NativePath(drives, path));
 }
 
 }  // namespace

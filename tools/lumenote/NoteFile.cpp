@@ -1,15 +1,13 @@
 // Reads and writes notes and detects their format.
 #include "NoteFile.h"
 
-#include <filesystem>
 #include <iostream>
 #include <iterator>
-#include <system_error>
 
 #include "Command.h"
-#include "backends/posix/files/Descriptor.h"
-#include "backends/posix/saving/ReplaceFile.h"
-#include "backends/posix/state/PosixStateFolder.h"
+#include "backends/native/files/Disk.h"
+#include "backends/native/saving/SaveFile.h"
+#include "backends/native/state/NativeStateFolder.h"
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
@@ -32,12 +30,6 @@ void WriteStandardOutput(std::string_view bytes) {
 
 }  // namespace
 
-std::string Absolute(const std::string& name) {
-  std::error_code error;
-  const std::filesystem::path path = std::filesystem::absolute(name, error);
-  return error ? name : path.string();
-}
-
 std::optional<Note::Format> FormatOfName(std::string_view name) {
   const std::u16string lower = Lower(FromUtf8(name));
   if (lower.ends_with(u".rtf")) return Note::Format::Rtf;
@@ -56,18 +48,17 @@ Note ReadNote(const std::string& name) {
 std::string ReadBytes(const std::string& name) {
   if (name == kStream) return ReadStandardInput();
   try {
-    return ReadWholeFile(Absolute(name));
+    return ReadWholeFile(AbsolutePath(name));
   } catch (const RuntimeError& error) {
     throw Failure(name + " : lecture impossible : " + error.what());
   }
 }
 
 void WriteBytes(const std::string& name, std::string_view bytes) {
-  constexpr mode_t kNewFileMode = 0666;
   if (name == kStream) return WriteStandardOutput(bytes);
   try {
-    PosixStateFolder backups(PosixStateFolder::OfUser(), DrivePaths("/"));
-    SaveFile(Absolute(name), bytes, kNewFileMode, &backups);
+    NativeStateFolder backups(NativeStateFolder::OfUser(), DrivePaths("/"));
+    SaveFile(AbsolutePath(name), bytes, &backups);
   } catch (const RuntimeError& error) {
     throw Failure(name + " : écriture impossible : " + error.what());
   }

@@ -15,9 +15,6 @@ std::optional<Note::Format> FormatOfName(std::string_view name);
 /// Raises `Failure` for a file named .rtf whose content is not RTF.
 Note ReadNote(const std::string& name);
 
-/// Absolute, so that errors can tell whether the parent folder is missing.
-std::string Absolute(const std::string& name);
-
 /// `name` is a native path, or "-" for a standard stream. Both raise `Failure`.
 std::string ReadBytes(const std::string& name);
 /// Replaces a file atomically.

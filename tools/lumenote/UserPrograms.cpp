@@ -2,38 +2,37 @@
 #include "UserPrograms.h"
 
 #include "Command.h"
-#include "backends/posix/folders/PosixFolders.h"
-#include "backends/posix/folders/PosixProgramFolders.h"
-#include "backends/posix/saving/PosixFiles.h"
-#include "backends/posix/settings/IniRegistry.h"
+#include "backends/headless/NoFiles.h"
+#include "backends/native/folders/FixedFolders.h"
+#include "backends/native/folders/NativeProgramFolders.h"
+#include "backends/native/saving/NativeFiles.h"
+#include "backends/native/settings/MachineRegistry.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote::tool {
 namespace {
 
 /// A file system in which every program exists at the first place searched.
-class EveryFile : public PosixFiles {
+class EveryFile : public NoFiles {
  public:
-  using PosixFiles::PosixFiles;
   bool Exists(std::u16string_view) const override { return true; }
 };
 
 ProgramTable LookUp(const DrivePaths& drives, const Files& files) {
   const FixedFolders noFolders(u"", u"");
-  const PosixProgramFolders programs(drives);
-  const IniRegistry registry;
-  return ChercherApplis({files, noFolders, u"", programs, registry});
+  const NativeProgramFolders programs(drives);
+  return ChercherApplis({files, noFolders, u"", programs, *MakeMachineRegistry()});
 }
 
 }  // namespace
 
 ProgramTable InstalledPrograms(const DrivePaths& drives) {
-  return LookUp(drives, PosixFiles(drives));
+  return LookUp(drives, NativeFiles(drives));
 }
 
-ProgramTable FirstCandidates(const DrivePaths& drives) { return LookUp(drives, EveryFile(drives)); }
+ProgramTable FirstCandidates(const DrivePaths& drives) { return LookUp(drives, EveryFile()); }
 
-std::filesystem::path NativePath(const DrivePaths& drives, std::u16string_view path) {
+std::string NativePath(const DrivePaths& drives, std::u16string_view path) {
   try {
     return drives.ToNative(path);
   } catch (const RuntimeError& error) {

@@ -1,8 +1,8 @@
 // The user's external programs.
 #pragma once
-#include <filesystem>
+#include <string>
 
-#include "backends/posix/folders/DrivePaths.h"
+#include "backends/native/folders/DrivePaths.h"
 #include "extapps/ProgramTable.h"
 
 namespace lumenote::tool {
@@ -12,6 +12,6 @@ ProgramTable InstalledPrograms(const DrivePaths& drives);
 /// The first place where the editor would look for each program, whether or not it exists.
 ProgramTable FirstCandidates(const DrivePaths& drives);
 /// The native form of a path in a table. Raises `Failure` for an unknown drive.
-std::filesystem::path NativePath(const DrivePaths& drives, std::u16string_view path);
+std::string NativePath(const DrivePaths& drives, std::u16string_view path);
 
 }  // namespace lumenote::tool

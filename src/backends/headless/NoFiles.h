@@ -6,7 +6,7 @@
 namespace lumenote {
 
 /// No path exists and none can be created: PathNotFound (76).
-class NoFiles final : public Files {
+class NoFiles : public Files {
  public:
   bool Exists(std::u16string_view) const override { return false; }
   bool IsReadOnly(std::u16string_view) const override { Refuse(); }

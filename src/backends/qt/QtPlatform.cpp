@@ -6,14 +6,15 @@
 #include <QTimer>
 #include <QTranslator>
 
-#include "backends/posix/folders/DrivePaths.h"
-#include "backends/posix/folders/PosixFolders.h"
-#include "backends/posix/folders/PosixProgramFolders.h"
+#include "backends/native/folders/DrivePaths.h"
+#include "backends/native/folders/NativeFolders.h"
+#include "backends/native/folders/NativeProgramFolders.h"
+#include "backends/native/saving/NativeFiles.h"
+#include "backends/native/settings/IniRegistry.h"
+#include "backends/native/settings/IniSettings.h"
+#include "backends/native/state/NativeStateFolder.h"
+#include "backends/posix/folders/UserFolders.h"
 #include "backends/posix/programs/PosixProcesses.h"
-#include "backends/posix/saving/PosixFiles.h"
-#include "backends/posix/settings/IniRegistry.h"
-#include "backends/posix/settings/IniSettings.h"
-#include "backends/posix/state/PosixStateFolder.h"
 #include "backends/qt/ApplicationEnd.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
@@ -87,14 +88,14 @@ class ReapingProcesses final : public PosixProcesses {
 /// The parts that need no application object.
 struct QtPlatform::Parts {
   DrivePaths drives = DrivePaths::OfUser();
-  PosixStateFolder state{PosixStateFolder::OfUser(), drives};
-  PosixFiles files{drives, &state};
-  IniSettings settings;
-  IniRegistry registry;
-  PosixProgramFolders programFolders{drives};
+  NativeStateFolder state{NativeStateFolder::OfUser(), drives};
+  NativeFiles files{drives, &state};
+  IniSettings settings{SettingsFile()};
+  IniRegistry registry{RegistryFiles()};
+  NativeProgramFolders programFolders{drives};
   X11Windows programWindows;
   ReapingProcesses programs{drives, programWindows};
-  PosixFolders folders{drives, [this] { return programs.HoldsFiles(); }};
+  NativeFolders folders{drives, [this] { return programs.HoldsFiles(); }};
 };
 
 struct QtPlatform::Desktop {

@@ -1,5 +1,5 @@
 // Maps system errors to run-time errors.
-#include "backends/posix/files/Errors.h"
+#include "backends/native/files/Errors.h"
 
 #include <cerrno>
 #include <filesystem>

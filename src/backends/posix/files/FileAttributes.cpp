@@ -1,5 +1,5 @@
 // Copies attributes and verifies the result.
-#include "backends/posix/files/FileAttributes.h"
+#include "backends/native/files/FileAttributes.h"
 
 #include <cerrno>
 #include <cstddef>
@@ -80,7 +80,7 @@ bool TakeOwner(int file, const struct stat& old) {
 
 }  // namespace
 
-bool CopyAttributes(const Descriptor& from, const Descriptor& to) {
+bool CopyAttributes(const OpenFile& from, const OpenFile& to) {
   struct stat old = {};
   if (fstat(from.Number(), &old) != 0) return false;
   const int file = to.Number();
@@ -89,6 +89,18 @@ bool CopyAttributes(const Descriptor& from, const Descriptor& to) {
   const bool same = CopyExtended(from.Number(), file);
   fchmod(file, inGroup ? wanted : (wanted & ~S_IRWXG) | (wanted & S_IRWXO) << 3);
   return same && HasOwner(file, old) && HasMode(file, wanted);
+}
+
+void CopyMode(const OpenFile& from, const OpenFile& to) {
+  struct stat info = {};
+  if (fstat(from.Number(), &info) == 0) fchmod(to.Number(), info.st_mode & 0777);
+}
+
+void CopyTime(const OpenFile& from, const OpenFile& to) {
+  struct stat info = {};
+  if (fstat(from.Number(), &info) != 0) return;
+  const struct timespec times[] = {{0, UTIME_OMIT}, info.st_mtim};
+  futimens(to.Number(), times);
 }
 
 }  // namespace lumenote

@@ -10,7 +10,8 @@
 #include <system_error>
 #include <unistd.h>
 
-#include "backends/posix/files/Descriptor.h"
+#include "backends/native/files/Disk.h"
+#include "backends/native/folders/UserFolders.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote {
@@ -76,8 +77,36 @@ std::string DataFolder() { return VariableOrHomeBased("XDG_DATA_HOME", "/.local/
 
 std::string ConfigFolder() { return VariableOrHomeBased("XDG_CONFIG_HOME", "/.config"); }
 
-std::string StateFolderOfUser() { return VariableOrHomeBased("XDG_STATE_HOME", "/.local/state"); }
+std::string SettingsFile() {
+  const std::string folder = ConfigFolder();
+  return folder.empty() ? folder : folder + "/lumenote/settings.ini";
+}
 
+std::vector<std::string> RegistryFiles() {
+  constexpr const char* kName = "/lumenote/registry.ini";
+  std::vector<std::string> files;
+  if (!ConfigFolder().empty()) files.push_back(ConfigFolder() + kName);
+  const char* chosen = std::getenv("XDG_CONFIG_DIRS");
+  std::istringstream folders(chosen && *chosen ? chosen : "/etc/xdg");
+  for (std::string folder; std::getline(folders, folder, ':');)
+    if (folder.starts_with('/')) files.push_back(folder + kName);
+  return files;
+}
+
+/// $XDG_STATE_HOME/lumenote, else .local/state/lumenote in the home folder.
+std::string ComponentStateFolder() {
+  const std::string folder = VariableOrHomeBased("XDG_STATE_HOME", "/.local/state");
+  return folder.empty() ? folder : folder + "/lumenote";
+}
+
+std::vector<std::string> TemporaryParents() {
+  const std::string chosen = AbsoluteVariable("TMPDIR");
+  return chosen.empty() ? std::vector<std::string>{"/tmp"}
+                        : std::vector<std::string>{chosen, "/tmp"};
+}
+
+/// The folder set in user-dirs.dirs, else Documents in the home folder, else the home folder; the
+/// first one that exists.
 std::string DocumentsFolder() {
   std::string lines;
   IgnoringErrors([&] { lines = ReadWholeFile(ConfigFolder() + "/user-dirs.dirs"); });

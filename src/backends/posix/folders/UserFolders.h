@@ -1,6 +1,7 @@
 // The user's native folders by the desktop's base-directory rules.
 #pragma once
 #include <string>
+#include <vector>
 
 namespace lumenote {
 
@@ -10,10 +11,10 @@ std::string HomeFolder();
 std::string DataFolder();
 /// $XDG_CONFIG_HOME, else .config in the home folder.
 std::string ConfigFolder();
-/// $XDG_STATE_HOME, else .local/state in the home folder.
-std::string StateFolderOfUser();
-/// The personal documents: the folder set in user-dirs.dirs, else Documents in the home folder,
-/// else the home folder; the first one that exists.
-std::string DocumentsFolder();
+
+/// The settings: lumenote/settings.ini in the configuration folder; empty without one.
+std::string SettingsFile();
+/// The registry: lumenote/registry.ini in the user's configuration folder, then in the system's.
+std::vector<std::string> RegistryFiles();
 
 }  // namespace lumenote

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "backends/posix/folders/DrivePaths.h"
+#include "backends/native/folders/DrivePaths.h"
 #include "backends/posix/programs/ProgramWindows.h"
 #include "backends/posix/programs/StartedProgram.h"
 #include "platform/Processes.h"

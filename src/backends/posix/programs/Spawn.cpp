@@ -5,7 +5,7 @@
 #include <spawn.h>
 #include <unistd.h>
 
-#include "backends/posix/files/Errors.h"
+#include "backends/native/files/Errors.h"
 
 namespace lumenote {
 namespace {
