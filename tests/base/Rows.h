@@ -1,5 +1,6 @@
 // Tables of tests as text.
 #pragma once
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
 #include <string>
@@ -53,10 +54,8 @@ template <std::size_t count>
 std::vector<std::array<std::u16string, count>> Rows16(std::string_view table,
                                                       std::string_view between = " | ") {
   std::vector<std::array<std::u16string, count>> rows;
-  for (const std::array<std::string, count>& row : Rows<count>(table, between)) {
-    rows.emplace_back();
-    for (std::size_t i = 0; i < count; ++i) rows.back()[i] = FromUtf8(row[i]);
-  }
+  for (const auto& row : Rows<count>(table, between))
+    std::ranges::transform(row, rows.emplace_back().begin(), FromUtf8);
   return rows;
 }
 

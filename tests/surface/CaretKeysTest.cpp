@@ -91,15 +91,10 @@ TEST(Keys, OthersAreTheWindowsToUse) {
 }
 
 TEST(Keys, NamesAreRead) {
-  const std::pair<std::u16string_view, KeyStroke> rows[] = {
-      {u"Delete", {.name = KeyName::Delete}},
-      {u"Shift+End", {.name = KeyName::End, .shift = true}},
-      {u"Ctrl+Z", {.character = u'z', .control = true}},
-      {u"Ctrl+Shift+Alt+é", {.character = u'é', .shift = true, .control = true, .alt = true}},
-      {u"Ctrl++", {.character = u'+', .control = true}},
-      {u"F12", {.name = KeyName::Function, .character = 12}},
-      {u"f", {.character = u'f'}}};
-  for (const auto& [name, key] : rows) EXPECT_EQ(ParseKey(name), key) << ToUtf8(name);
+  EXPECT_EQ(ParseKey(u"Ctrl+Shift+Alt+é"),
+            (KeyStroke{.character = u'é', .shift = true, .control = true, .alt = true}));
+  EXPECT_EQ(ParseKey(u"Ctrl++"), (KeyStroke{.character = u'+', .control = true}));
+  EXPECT_EQ(ParseKey(u"F12"), (KeyStroke{.name = KeyName::Function, .character = 12}));
   for (const auto* none : {u"F25", u"F05", u"Delette", u"Ctrl+", u""})
     EXPECT_FALSE(ParseKey(none)) << ToUtf8(none);
 }

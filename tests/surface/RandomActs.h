@@ -139,25 +139,14 @@ class RandomActs : UserBench {
   }
   /// What the text does not show.
   void Format() {
-    switch (bytes_.Below(6)) {
-      case 0:
-        surface.SelAlignment(bytes_.UpTo(2));
-        break;
-      case 1:
-        surface.SelIndent(bytes_.UpTo(2) * 150);
-        break;
-      case 2:
-        surface.SelFontSize(static_cast<float>(10 + bytes_.UpTo(1)));
-        break;
-      case 3:
-        surface.SelColor(bytes_.UpTo(1));
-        break;
-      case 4:
-        surface.SelCharOffset(bytes_.UpTo(1) * 60);
-        break;
-      default:
-        surface.SelFontName(bytes_.Coin() ? u"Symbol" : u"Arial");
-    }
+    static constexpr void (*kSetters[])(DocumentSurface&, Position) = {
+        [](DocumentSurface& s, Position choice) { s.SelAlignment(choice); },
+        [](DocumentSurface& s, Position choice) { s.SelIndent(choice * 150); },
+        [](DocumentSurface& s, Position choice) { s.SelFontSize(10.0F + choice); },
+        [](DocumentSurface& s, Position choice) { s.SelColor(choice); },
+        [](DocumentSurface& s, Position choice) { s.SelCharOffset(choice * 60); },
+        [](DocumentSurface& s, Position choice) { s.SelFontName(choice ? u"Symbol" : u"Arial"); }};
+    bytes_.Of(kSetters)(surface, bytes_.UpTo(2));
     Expect(Seen(now_));
   }
   void Erase() {

@@ -37,27 +37,20 @@ inline void EditAtRandom(DocumentSurface& surface, std::mt19937& random) {
   const Position length = surface.Content().Length();
   const Position from = Below(random, length + 1);
   surface.UserSelect(from, std::min(length, from + (Below(random, 3) ? 0 : Below(random, 200))));
-  switch (Below(random, 10)) {
-    case 0:
-      return surface.UserType(u"\r\n");
-    case 1:
-      return surface.Clear();
-    case 2:
-      return surface.SelFontSize(static_cast<float>(8 + Below(random, 12)));
-    case 3:
-      return surface.SelIndent(100 * Below(random, 9));
-    case 4:
-      return surface.SelBullet(Below(random, 2));
-    case 5:
-      return surface.Undo();
-    case 6:
-      return surface.SelText(Words(static_cast<std::size_t>(Below(random, 400))));
-    case 7:
-      return surface.SetParaFormat(
-          {.mask = ParagraphRecord::kSpaceBefore, .spaceBefore = 100 * Below(random, 4)});
-    default:
-      return surface.UserType(u"mot ");
-  }
+  static constexpr void (*kEdits[])(DocumentSurface&, std::mt19937&) = {
+      [](DocumentSurface& s, std::mt19937&) { s.UserType(u"\r\n"); },
+      [](DocumentSurface& s, std::mt19937&) { s.Clear(); },
+      [](DocumentSurface& s, std::mt19937& r) { s.SelFontSize(8.0F + Below(r, 12)); },
+      [](DocumentSurface& s, std::mt19937& r) { s.SelIndent(100 * Below(r, 9)); },
+      [](DocumentSurface& s, std::mt19937& r) { s.SelBullet(Below(r, 2)); },
+      [](DocumentSurface& s, std::mt19937&) { s.Undo(); },
+      [](DocumentSurface& s, std::mt19937& r) { s.SelText(Words(r() % 400)); },
+      [](DocumentSurface& s, std::mt19937& r) {
+        s.SetParaFormat({.mask = ParagraphRecord::kSpaceBefore, .spaceBefore = 100 * Below(r, 4)});
+      },
+      [](DocumentSurface& s, std::mt19937&) { s.UserType(u"mot "); },
+      [](DocumentSurface& s, std::mt19937&) { s.UserType(u"mot "); }};
+  kEdits[Below(random, std::size(kEdits))](surface, random);
 }
 
 }  // namespace lumenote

@@ -9,33 +9,31 @@ namespace {
 
 constexpr PixelSize kSize{300, 200};
 
-/// Something that changes what is shown.
+/// Something that changes what is shown: an edit, or one of these.
 void ActAtRandom(Window& window, std::mt19937& random) {
-  const Position length = window.surface.Content().Length();
-  switch (Below(random, 12)) {
-    case 0:
-      return window.view.ScrollBy(Below(random, 400) - 200);
-    case 1:
-      return window.view.Select(Below(random, length + 1), Below(random, length + 1));
-    case 2:
-      return window.view.DropCaret(Below(random, length + 1));
-    case 3:
-      return window.view.Compose({window.surface.Caret(), u"composé", Below(random, 8)});
-    case 4:
-      return window.pane.Scroll().To(Below(random, 20'000));
-    case 5:
-      return window.view.Blink();
-    case 6:
-      return window.view.Resize({200.0 + Below(random, 100), 200});
-    case 7:
-      return window.surface.RightMargin(static_cast<float>(6000 * Below(random, 2)));
-    case 8:
-      return window.surface.SetParaFormat({.mask = ParagraphRecord::kLineSpacing,
-                                           .lineSpacingRule = LineRule::Exact,
-                                           .lineSpacing = 150 + 50 * Below(random, 6)});
-    default:
-      return EditAtRandom(window.surface, random);
-  }
+  static constexpr void (*kActs[])(Window&, std::mt19937&, Position) = {
+      [](Window& w, std::mt19937& r, Position) { w.view.ScrollBy(Below(r, 400) - 200); },
+      [](Window& w, std::mt19937& r, Position at) {
+        w.view.Select(at, Below(r, w.surface.Content().Length() + 1));
+      },
+      [](Window& w, std::mt19937&, Position at) { w.view.DropCaret(at); },
+      [](Window& w, std::mt19937& r, Position) {
+        w.view.Compose({w.surface.Caret(), u"composé", Below(r, 8)});
+      },
+      [](Window& w, std::mt19937& r, Position) { w.pane.Scroll().To(Below(r, 20'000)); },
+      [](Window& w, std::mt19937&, Position) { w.view.Blink(); },
+      [](Window& w, std::mt19937& r, Position) {
+        w.view.Resize({200.0 + Below(r, 100), 200});
+      },
+      [](Window& w, std::mt19937& r, Position) { w.surface.RightMargin(6000.0F * Below(r, 2)); },
+      [](Window& w, std::mt19937& r, Position) {
+        w.surface.SetParaFormat({.mask = ParagraphRecord::kLineSpacing,
+                                 .lineSpacingRule = LineRule::Exact,
+                                 .lineSpacing = 150 + 50 * Below(r, 6)});
+      }};
+  const auto act = static_cast<std::size_t>(Below(random, 12));
+  if (act >= std::size(kActs)) return EditAtRandom(window.surface, random);
+  kActs[act](window, random, Below(random, window.surface.Content().Length() + 1));
 }
 
 /// Lines, places and points as in a layout of everything. Where a paragraph has several pieces an
