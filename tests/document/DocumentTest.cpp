@@ -1,9 +1,21 @@
 // What the document shares, tidies up and refuses; edits themselves meet a model in surface.
+#include <tuple>
+
 #include "Model.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote {
 namespace {
+
+TEST(Document, MovesEdgesOutOfPairs) {
+  Document document;
+  document.Replace(0, 0, PlainFragment(u"a\nb\U0001F33C", 0, 0));  // a CR LF b and a pair
+  const std::tuple<Position, Position, Selection> rows[] = {{-1, 99, {0, 6}}, {2, 2, {1, 1}},
+                                                            {0, 2, {0, 3}},   {2, 4, {1, 4}},
+                                                            {3, 1, {3, 3}},   {9, 2, {6, 6}}};
+  for (const auto& [from, to, outwards] : rows)
+    EXPECT_EQ(document.SnapOutward(from, to), outwards) << from << ".." << to;
+}
 
 TEST(Document, MapsEachFormatOnceAndSharesTheText) {
   Document document;

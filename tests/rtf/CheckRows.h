@@ -1,18 +1,11 @@
 // Tables of sources and what becomes of them.
 #pragma once
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 
+#include "base/DataFile.h"
 #include "base/Rows.h"
 
 namespace lumenote {
-
-inline std::string SampleBytes(const std::string& name) {
-  std::ifstream file(std::filesystem::path(LUMENOTE_SAMPLES) / name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// Checks rows "source => result": what `result` makes of the source between `head` and `end`. "¶",
 /// "⇥" and "↓" in a result are a break, a tab and a line break; "␍", "␊" and "⇥" in a source are

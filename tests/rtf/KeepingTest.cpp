@@ -24,7 +24,7 @@ std::string Rewritten(const std::string& rtf) {
 
 TEST(Keeping, WritesWhatItRead) {
   const auto rewritten = [](const std::string& rtf) { return Body(Rewritten(rtf)); };
-  CheckRows(SampleBytes("writer.rows"), rewritten, "{\\rtf1 ", "}");
+  CheckRows(DataFile("writer.rows"), rewritten, "{\\rtf1 ", "}");
 }
 
 // "~" is how a source usually begins.
@@ -32,7 +32,7 @@ TEST(Keeping, WritesTheHeadItReadOrOneOfWhatIsInUse) {
   const auto whole = [](const std::string& rtf) {
     return Replaced(Rewritten(rtf), "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1036", "~");
   };
-  CheckRows(SampleBytes("heads.rows"), whole, "{\\rtf1 ", "}");
+  CheckRows(DataFile("heads.rows"), whole, "{\\rtf1 ", "}");
 }
 
 TEST(Keeping, TheBaseFormatHoldsWhereNoDefaultFontIsNamed) {
@@ -49,25 +49,23 @@ TEST(Keeping, TheBaseFormatHoldsWhereNoDefaultFontIsNamed) {
 }
 
 TEST(Keeping, FieldsThatBeginANoteKeepItsText) {
-  const std::string_view heads[] = {"",
-                                    R"({\fonttbl{\f0 Arial;}})",
-                                    R"({\fonttbl{\f0 Arial;}}{\info{\title T}})",
-                                    R"({\stylesheet{\s1 T;}}\paperw9\foo1)",
-                                    R"({\*\bkmkstart h}{\*\bkmkend h}\sectd\cols2)",
-                                    R"({\header h}{\info x}\ls1{\listtext\tab}{\*\y})",
-                                    R"({\listtext{\*\listtable{\list\listid1}}}{\*\x})"};
-  const std::string_view inField[] = {R"(\trowd)",
-                                      R"(\trowd{\*\bkmkstart _T1}{\*\bkmkend _T1})",
-                                      R"(\sectd\cols2{\*\bkmkstart _T1})",
-                                      R"(\pard\s1{\*\x{\z}})",
-                                      R"(\page{\*\x}\plain)",
-                                      R"({\field{\*\fldinst X}{\fldrslt\trowd{\*\q}}})",
-                                      R"({\field{\*\fldinst X})",
-                                      R"({\stylesheet{\s1 U;}}{\info y}\foo)",
-                                      R"(\bin3 {b}{\bin5 12345}{\*\x\bin1 {}{\b\bin2 xy})",
-                                      "{\\*\\x\x01\x7F\\\x02\\\t\\\n}\\\x7F"};
-  for (const std::string_view head : heads) {
-    for (const std::string_view words : inField) {
+  const auto heads =
+      Split(R"( ¦ {\fonttbl{\f0 Arial;}} ¦ {\fonttbl{\f0 Arial;}}{\info{\title T}} ¦ )"
+            R"({\stylesheet{\s1 T;}}\paperw9\foo1 ¦ )"
+            R"({\*\bkmkstart h}{\*\bkmkend h}\sectd\cols2 ¦ )"
+            R"({\header h}{\info x}\ls1{\listtext\tab}{\*\y} ¦ )"
+            R"({\listtext{\*\listtable{\list\listid1}}}{\*\x})",
+            " ¦ ");
+  const auto inField =
+      Split(R"(\trowd ¦ \trowd{\*\bkmkstart _T1}{\*\bkmkend _T1} ¦ )"
+            R"(\sectd\cols2{\*\bkmkstart _T1} ¦ \pard\s1{\*\x{\z}} ¦ )"
+            R"(\page{\*\x}\plain ¦ {\field{\*\fldinst X}{\fldrslt\trowd{\*\q}}} ¦ )"
+            R"({\field{\*\fldinst X} ¦ {\stylesheet{\s1 U;}}{\info y}\foo ¦ )"
+            R"(\bin3 {b}{\bin5 12345}{\*\x\bin1 {}{\b\bin2 xy} ¦ )"
+            "{\\*\\x\x01\x7F\\\x02\\\t\\\n}\\\x7F",
+            " ¦ ");
+  for (const std::string& head : heads) {
+    for (const std::string& words : inField) {
       for (const bool asResult : {false, true}) {
         std::string rtf = "{\\rtf1";
         rtf.append(head).append("{\\field{\\*\\fldinst TOC}");
@@ -111,7 +109,6 @@ TEST(Keeping, ASelectionLeavesTheHeadAndItsNumbersBehind) {
   EXPECT_EQ(TextOf(Read(part, RtfTarget::Selection)), "1.\ta");
 }
 
-// Where the edit begins and ends, what it puts there, the note before, and after.
 TEST(Keeping, AnEditLeavesTextOnItsPageAndInItsRow) {
   const auto edited = [](const std::string& row) {
     std::istringstream words(row);
@@ -126,15 +123,7 @@ TEST(Keeping, AnEditLeavesTextOnItsPageAndInItsRow) {
     EXPECT_EQ(TextOf(Read(written)), TextOf(document));
     return Body(written);
   };
-  CheckRows(R"(
-3 5 - \trowd\cellx9\pard\intbl a\cell b\cell\row\pard c\par d
-     => \f0\fs24\trowd\cellx9 a\tab bc\par¶d\par }
-0 1 - \trowd\cellx9\pard\intbl a\cell b\cell\row\pard c
-     => \intbl\f0\fs24\cell b\cell\trowd\cellx9\row¶\pard c\par }
-3 3 x \pard a\par\page b => \f0\fs24 a\par¶\page xb\par }
-0 1 - \pard a\page b => \page\f0\fs24\par¶b\par }
-)",
-            edited);
+  CheckRows(DataFile("edits.rows"), edited);
 }
 
 TEST(Keeping, WhatAnEditLeavesOfANumberIsText) {

@@ -9,13 +9,8 @@ namespace {
 
 TEST(Reader, BringsOutTheText) {
   const auto text = [](const std::string& rtf) { return TextOf(Read(rtf)); };
-  CheckRows(SampleBytes("reader.rows"), text, "{\\rtf1 ", "}");
-  CheckRows(
-      "a\\~b\\_c\\-d\\|e\\:f => a\u00A0b\u2011c\u00ADdef\n"
-      "\\emspace\\enspace\\qmspace\\ltrmark\\rtlmark\\zwj\\zwnj => ␣␣␣\u200E\u200F\u200D\u200C\n"
-      "{\\fonttbl{\\f1\\fcharset2 Symbol;}}x\\f1 A\\'b7 B => x\uF041\uF0B7 \uF042\n"
-      "\\u233?x\\u-3913?y => éx\uF0B7y\na\tb\xE9\\\xE9z => a⇥bééz",
-      text, "{\\rtf1 ", "}");
+  CheckRows(DataFile("reader.rows"), text, "{\\rtf1 ", "}");
+  CheckRows("a\tb\xE9\\\xE9z => a⇥bééz", text, "{\\rtf1 ", "}");
   CheckRows(R"(
 {\rtf1 Hello}␍␊trailing => Hello ¦ {\rtf1 a{\b b{\i c => abc ¦ {\rtf1 caf\'e => caf
 no RTF at all => no RTF at all ¦ a}b{c => abc ¦ {\rtf1 Hello}␣␣ => Hello ¦ {\rtf1 => "" ¦ \ => ""

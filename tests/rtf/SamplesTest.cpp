@@ -11,29 +11,19 @@ namespace {
 
 TEST(Samples, ReadAs) {
   const auto text = [](const std::string& file) {
-    const Document document = Read(SampleBytes(file));
+    const Document document = Read(DataFile(file));
     EXPECT_EQ(LossOf(document), "");
     return TextOf(document);
   };
-  CheckRows(R"(
-processor.rtf => Relevé¶un bois¶une haie¶1.⇥premier¶nom⇥date¶Site example ł fin
-pictures.rtf => avant ￼ milieu ￼ après ¦ truncated.rtf => Le début est là, la fin
-stray_braces.rtf => Un deux trois¶quatre ¦ wild_numbers.rtf => grand� texte
-empty.rtf => "" ¦ nul_bytes.rtf => ␣Zoe gras
-fields.rtf => Voir un lien, p.¶1.⇥bacX fin ¦ tables.rtf => ab⇥c⇥d¶e¶f¶g¶h¶i¶k¶l¶m
-)"
-            "note.rtf => Campanula rotundifolia¶Tige grêle, rarement simple\u00A0; feuilles "
-            "«\u00A0rondes\u00A0».¶\uF0B7⇥¶Corolle bleue¶Calice vert \uF061¶Alt.⇥300–1 900 m↓H2O, "
-            "10e jour\npages.rtf => é При čř αβ ış \uF06C Ж\n"
-            "characters.rtf => ソ π€😀ł\x7F\x01\x01\x7Fé↓\u00A0\u00AD\u2011⇥⇥.¶fin¶z",
-            text);
+  CheckRows(DataFile("samples.rows"), text);
+  CheckRows("characters.rtf => ソ π€😀ł\x7F\x01\x01\x7Fé↓\u00A0\u00AD\u2011⇥⇥.¶fin¶z", text);
 }
 
 TEST(Samples, DamagedAtRandomStayReadable) {
   std::mt19937 random(7);
-  for (const auto& entry : std::filesystem::directory_iterator(LUMENOTE_SAMPLES)) {
+  for (const auto& entry : std::filesystem::directory_iterator(LUMENOTE_TEST_DATA)) {
     if (entry.path().extension() != ".rtf") continue;
-    const std::string whole = SampleBytes(entry.path().filename());
+    const std::string whole = DataFile(entry.path().filename());
     for (int times = 0; times < 60; ++times) {
       std::string damaged = whole.substr(0, whole.size() - random() % (whole.size() / 4));
       for (int bytes = times % 8; bytes > 0; --bytes) {

@@ -207,7 +207,7 @@ class RandomActs : UserBench {
     EXPECT_EQ(surface.Lines().LineAt(at), fresh.LineAt(at));
     const std::int32_t line = fresh.LineOf(at);
     EXPECT_EQ(surface.LineFromChar(at), line);
-    EXPECT_EQ(surface.LineIndex(line + 1), fresh.LineStart(line + 1));
+    EXPECT_EQ(LineTable(surface.Content(), breaker).LineStart(line), fresh.LineAt(at).start);
   }
   void Open() {
     if (bytes_.Below(4) > 0) return;

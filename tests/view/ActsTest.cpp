@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+#include "base/DataFile.h"
 #include "base/Rows.h"
 #include "view/Window.h"
 #include "view/acts/AccessibleText.h"
@@ -50,20 +51,7 @@ struct User : Window {
 };
 
 TEST(Mouse, Selects) {
-  for (const auto& [text, acts, shown] : Rows<3>(R"(
-|un deux => D 3 0 U 3 0 => un |deux ¦ |un deux => D 3.6 0 U 3.6 0 => un d|eux
-|un deux => D 30 0 => un deux| ¦ un¶deux| => D 9 0 => un|¶deux ¦ |un¶deux => D 1 9 => un¶d|eux
-|un deux trois => D 11 0 => un deux| trois ¦ un |deux => S 5 0 => un ^de|ux
-u^n d|eux => S 0 0 => |u^n deux ¦ |un deux => D 1 0 M 5 0 U 5 0 => u^n de|ux
-|un deux => D 5 0 M 1 0 U 1 0 => u|n de^ux ¦ |un deux trois => W 4 0 => un ^deux| trois
-|un deux trois => W 4 0 M 1 0 => |un deux^ trois ¦ |un deux trois => W 4 0 M 2 1 => un ^deux trois|
-|un l'été, là => W 2 0 => un^ |l'été, là ¦ |un l'été, là => W 6 0 => un l'^été|, là
-|un, deux => W 2 0 => un^,| deux ¦ |un¶deux¶trois => W 1 1 T 1 1 => un¶^deux¶|trois
-|un¶deux¶trois => W 1 1 T 1 1 M 1 2 => un¶^deux¶trois| ¦ ^un| deux => D 1 0 U 1 0 => u|n deux
-|un¶deux => W 1 1 D 1 1 U 1 1 => un¶d|eux ¦ ^un| deux => D 1 0 M 1.5 0 U 1.5 0 => un| deux
-^un| deux => S 5 0 => ^un de|ux ¦ |un deux => D 1 0 X 0 0 M 5 0 => u|n deux
-)",
-                                                 " => ")) {
+  for (const auto& [text, acts, shown] : Rows<3>(DataFile("mouse.rows"), " => ")) {
     User user;
     user.Type(FromUtf8(text));
     user.Do(acts);
