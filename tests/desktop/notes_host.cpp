@@ -33,12 +33,7 @@ using namespace lumenote;
 namespace {
 
 std::string OnOneLine(std::u16string_view text) {
-  std::string line;
-  for (const char character : ToUtf8(text)) {
-    if (character == '\n') line += "\\n";
-    if (character != '\n' && character != '\r') line += character;
-  }
-  return line;
+  return ToUtf8(ReplaceEvery(ReplaceEvery(text, u"\r", u""), u"\n", u"\\n"));
 }
 
 class Host {
@@ -75,13 +70,11 @@ class Host {
     if (verb == "wait") control.ShowMicroEdit(1);
     if (verb == "read") return OnOneLine(control.pStrOrchm());
     Co_Rtf* editor = control.Parts().editor.Loaded();
-    if (verb == "focus") return Focus(control.Parts().windows.Active());
+    const Form* active = control.Parts().windows.Active();
+    if (verb == "focus")
+      return active && active->ActiveControl() ? active->ActiveControl()->Name() : "nobody";
     if (verb == "ontop") return control.Parts().session->onTop ? "yes" : "no";
     return editor ? Answer(verb, editor->Document()) : "ok";
-  }
-
-  static std::string Focus(const Form* active) {
-    return active && active->ActiveControl() ? active->ActiveControl()->Name() : "nobody";
   }
 
   static std::string Answer(const std::string& verb, const RichTextSurface& surface) {

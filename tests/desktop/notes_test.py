@@ -13,23 +13,15 @@ class Files(Notes):
         self.file.write_text("un")
         self.open("C:\\notes\\note.txt")
 
-    def click_close_box(self):
-        """Of the title bar, at its right end."""
-        sides = self.run_x("xprop", "-id", self.note, "-notype", "_NET_FRAME_EXTENTS")
-        top = int(sides.split(",")[2])
-        size = dict(line.split("=") for line in self.run_x(
-            "xdotool", "getwindowgeometry", "--shell", self.note).split())
-        self.mouse(self.note, (int(size["WIDTH"]) - top // 2, -top // 2), "click 1")
-
     def test_a_close_box_is_refused_while_the_note_has_no_place(self):
         self.edit()
         self.leave_no_place(self.folder)
-        self.click_close_box()
+        self.ask_to_close(self.note)
         self.agree()
         self.host.waits_for("text 1", "xun")
         self.assertEqual(self.window("Note 1"), self.note)
         self.folder.mkdir()
-        self.click_close_box()
+        self.ask_to_close(self.note)
         self.agree()
         self.wait(lambda: not self.window("Note 1"), "the closing")
         self.assertEqual(self.file.read_text(), "xun")

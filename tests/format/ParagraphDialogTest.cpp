@@ -86,8 +86,6 @@ TEST_F(ParagraphDialogTest, EachActChangesWhatBelongsToIt) {
        "Bx_IndentGauche.Text='2,64' SelIndent=150 style.LeftFront=150 style.LeftIndent=150"},
       {[&] { dialog->UD_RightIndent.UserSpin(false); },
        "Bx_IndentDroite.Text='2,64' SelRightIndent=150 style.RightIndent=150"},
-      {[&] { dialog->UD_RightIndent.UserSpin(true); },
-       "Bx_IndentDroite.Text='0' SelRightIndent=0 style.RightIndent=0"},
       {[&] { dialog->UD_HangingIndent.UserSpin(true); },
        "Bx_HangingIndent.Text='2,64' SelHangingIndent=150 style.HangingIndent=150 "
        "style.LeftFront=300"},

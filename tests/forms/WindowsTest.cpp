@@ -47,18 +47,12 @@ class Window : public Form {
   Button escape{*this, "escape", {0, 300, 600, 300}, u"Annuler"};
   Timer timer{*this, "timer"};
   int activations = 0, resizes = 0, escapes = 0;
-  bool mayGo = true;
-  std::function<void()> Asking = [] {};
   std::function<void()> Gone = [] {};
 
  private:
   void Form_Activate() override { ++activations; }
   void Form_Resize() override { ++resizes; }
   bool Form_KeyDown(const KeyStroke& key) override { return key.name == KeyName::Home; }
-  bool Form_QueryUnload() override {
-    Asking();
-    return mayGo;
-  }
 };
 
 class WindowsTest : public testing::Test {
@@ -93,16 +87,6 @@ TEST_F(WindowsTest, AfterAnUnloadItsOwnerIsActiveElseTheLatestShown) {
   third.Unload();
   EXPECT_EQ(windows.Active(), nullptr);
   EXPECT_TRUE(windows.Loaded().empty());
-}
-
-TEST_F(WindowsTest, AWindowThatMayNotGoStaysAsItWas) {
-  first.Show();
-  first.mayGo = false;
-  first.Asking = [&] { EXPECT_TRUE(first.IsUnloading() && !first.Unload()); };
-  EXPECT_FALSE(first.Unload());
-  EXPECT_TRUE(first.IsLoaded() && first.Visible() && !first.IsUnloading() && !first.IsUnloaded());
-  first.mayGo = true;
-  EXPECT_TRUE(first.Unload() && first.Unload() && first.IsUnloaded());
 }
 
 TEST_F(WindowsTest, ReturnAndEscapeClickTheirButtonsWhileThoseCanBeClicked) {

@@ -59,11 +59,6 @@ class PilotTest : public testing::Test {
     return out.str();
   }
 
-  static void Arm(Timer& timer, int interval) {
-    timer.Interval(interval);
-    timer.Enabled(true);
-  }
-
   std::string log;
   std::ostringstream out;
   std::ostringstream err;
@@ -95,8 +90,10 @@ TEST_F(PilotTest, TimersTickInTheOrderOfTimeAlsoInsideATick) {
     }
   };
   first.fast.Tick = [&] { log += "f"; };
-  Arm(first.slow, 20);
-  Arm(first.fast, 15);
+  first.slow.Interval(20);
+  first.fast.Interval(15);
+  first.slow.Enabled(true);
+  first.fast.Enabled(true);
   first.Load();
   Run("tick 40\n");
   EXPECT_TRUE(log.starts_with("fsffend;")) << log;

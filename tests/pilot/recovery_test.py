@@ -1,12 +1,20 @@
 #!/usr/bin/env python3
 """What is left of an edited note when the program dies.   usage: recovery_test.py LUMENOTE"""
+import contextlib
 import shutil
 import unittest
 
 from program import SandboxTest
 
 
+LEFT = "Note retrouv\u00e9e apr\u00e8s un arr\u00eat"
+
+
 class Recovery(SandboxTest):
+    def setUp(self):
+        super().setUp()
+        (self.root / "c/n").mkdir(parents=True)
+
     def copies(self):
         return sorted(path.read_bytes() for path in self.root.glob("state/*/*.note"))
 
@@ -20,7 +28,6 @@ class Recovery(SandboxTest):
         for note, text in (("C:\\absent\\a.txt", "un"), ("abc", "")):
             self.edit(note, text, 60000).end()
             self.assertFalse((self.root / "state").exists())  # nothing was loaded, nothing edited
-        (self.root / "c/n").mkdir()
         program = self.edit("C:\\n\\a.txt", "un", wait=4000)
         self.assertEqual(self.copies(), [])
         program.type("", wait=6000)
@@ -37,18 +44,15 @@ class Recovery(SandboxTest):
         program.do("answer No", "close Co_Rtf", "forms")
         self.assertEqual(self.copies(), [])
 
-    def found(self, prepare=lambda: None):
-        """The boxes that the next start shows."""
-        program = self.start()
-        program.do("forms")
-        prepare()
+    def found(self, program=None):
+        """The boxes that the next start, or a program that has started, shows."""
+        program = program or self.start()
         program.open("autre")
         boxes = [text.split("\r\n") for text in program.boxes()]
         program.end()
         return boxes
 
     def test_the_next_start_makes_rescue_copies_and_tells_once(self):
-        (self.root / "c/n").mkdir(parents=True)
         string = self.edit("\u00e9t\u00e9 ", "un")
         rtf = self.edit("C:\\n\\a.rtf", "deux")
         self.edit("C:\\n\\b.txt", "trois").kill()
@@ -56,8 +60,7 @@ class Recovery(SandboxTest):
         for program in (string, rtf):
             program.kill()
         [(cause, title, *paths)] = self.found()
-        self.assertEqual((cause, title), ("Note retrouv\u00e9e apr\u00e8s un arr\u00eat",
-                                          "Copie de secours :"))
+        self.assertEqual((cause, title), (LEFT, "Copie de secours :"))
         self.assertEqual(sorted(paths), ["C:\\Documents\\Secours_TmpFlStr.txt",
                                          "C:\\Documents\\Secours_a.rtf"])
         copies = self.documents()
@@ -68,7 +71,6 @@ class Recovery(SandboxTest):
 
     def send_out(self):
         """An editor whose note another program works on, and the work file."""
-        (self.root / "c/n").mkdir(parents=True, exist_ok=True)
         program = self.start()
         program.tell('program "C:\\\\Program Files\\\\qjot\\\\qjot.exe"')
         program.open("C:\\n\\a.txt")
@@ -76,8 +78,8 @@ class Recovery(SandboxTest):
         return program, self.root / "c/Temp/Sava.txt"
 
     def finds_the_result(self):
-        self.assertEqual(self.found(), [["Note retrouv\u00e9e apr\u00e8s un arr\u00eat",
-                                         "Copie de secours :", "C:\\Documents\\Secours_Sava.txt"]])
+        self.assertEqual(self.found(), [[LEFT, "Copie de secours :",
+                                         "C:\\Documents\\Secours_Sava.txt"]])
         self.assertEqual(self.documents(), {"Secours_Sava.txt": b"retour"})
         self.assertEqual((self.found(), self.copies()), ([], []))
 
@@ -94,14 +96,12 @@ class Recovery(SandboxTest):
         program, work = self.send_out()
         program.do("click Co_Rtf.mnuPopQuitter", "forms")
         work.write_bytes(b"retour")
-        self.obstruct()
-        program.do("finish", "forms")
-        program.end()
-        self.clear()
+        with self.no_place():
+            program.do("finish", "forms")
+            program.end()
         self.finds_the_result()
 
     def test_two_starts_at_once_share_what_was_left(self):
-        (self.root / "c/n").mkdir(parents=True)
         names = [f"C:\\n\\{letter}.txt" for letter in "abcdefgh"]
         dead = [self.edit(name) for name in names]
         living = self.edit("C:\\n\\z.txt", "z")
@@ -117,25 +117,25 @@ class Recovery(SandboxTest):
         self.assertEqual(self.copies(), [b"z"])
         living.kill()
 
-    def places(self):
-        return [self.root / place for place in ("c/Documents", "state/rescue")]
-
-    def obstruct(self):
-        """Leaves no place for rescue copies."""
-        for place in self.places():
+    @contextlib.contextmanager
+    def no_place(self):
+        """Neither folder of rescue copies can be had."""
+        places = [self.root / place for place in ("c/Documents", "state/rescue")]
+        for place in places:
             shutil.rmtree(place, ignore_errors=True)
             place.write_text("in the way")
-
-    def clear(self):
-        for place in self.places():
+        yield
+        for place in places:
             place.unlink()
-        self.places()[0].mkdir()
+        places[0].mkdir()
 
     def test_what_cannot_be_rescued_stays_for_another_start(self):
         self.edit("abc").kill()
-        self.assertEqual(self.found(self.obstruct), [])
-        self.assertEqual(self.copies(), [b"xabc"])
-        self.clear()
+        program = self.start()
+        program.do("forms")
+        with self.no_place():
+            self.assertEqual(self.found(program), [])
+            self.assertEqual(self.copies(), [b"xabc"])
         self.assertEqual(len(self.found()), 1)
 
 

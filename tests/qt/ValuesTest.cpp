@@ -1,4 +1,4 @@
-// Values that cross the edge to the toolkit: lengths, keys, clipboard content.
+// Values that cross the edge to the toolkit: lengths, typed text, clipboard content.
 #include <QGuiApplication>
 #include <gtest/gtest.h>
 
@@ -6,7 +6,6 @@
 #include "backends/qt/toolkit/MimeContent.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
-#include "backends/qt/windows/WindowGeometry.h"
 
 namespace lumenote {
 namespace {
@@ -18,40 +17,6 @@ TEST(UnitsTest, NeighboursNeitherGapNorOverlap) {
     EXPECT_EQ(ToPixels(one).right() + 1, ToPixels(other).left());
   }
   EXPECT_EQ(ToPixels({-10, 0, 25, 1e30F}), QRect(-1, 0, 2, 32000));
-}
-
-constexpr Rect kPlace{5000, 3250, 5650, 4350};
-
-TEST(WindowGeometryTest, NeverWritesRoundedPixelsBack) {
-  WindowGeometry geometry;
-  geometry.Asked(kPlace);
-  EXPECT_EQ(WindowGeometry::ClientSize(kPlace), QSize(369, 263));
-  EXPECT_EQ(geometry.Resized({369, 263}, kPlace), std::nullopt);
-  EXPECT_EQ(geometry.Resized({368, 264}, kPlace), std::nullopt) << "a fractional scale";
-  EXPECT_EQ(geometry.Moved({340, 250}, kPlace), std::nullopt) << "the window manager";
-}
-
-TEST(KeysTest, NamesBothWays) {
-  const struct {
-    int key;
-    Qt::KeyboardModifiers modifiers;
-    const char16_t* name;
-  } cases[] = {{Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier, u"Ctrl+Shift+Left"},
-               {Qt::Key_Return, {}, u"Return"},
-               {Qt::Key_Backspace, {}, u"BackSpace"},
-               {Qt::Key_Backtab, Qt::ShiftModifier, u"Shift+Tab"},
-               {Qt::Key_Z, Qt::ControlModifier, u"Ctrl+Z"},
-               {Qt::Key_F10, Qt::ShiftModifier, u"Shift+F10"}};
-  for (const auto& c : cases) {
-    const QKeyEvent pressed(QEvent::KeyPress, c.key, c.modifiers);
-    const auto stroke = ParseKey(c.name);
-    ASSERT_TRUE(stroke) << ToUtf8(c.name);
-    EXPECT_EQ(StrokeOf(pressed), stroke) << ToUtf8(c.name);
-    const QKeyEvent made = EventOf(*stroke, QEvent::KeyPress);
-    EXPECT_EQ(made.key(), c.key) << ToUtf8(c.name);
-    EXPECT_EQ(made.modifiers(), c.modifiers) << ToUtf8(c.name);
-  }
-  EXPECT_EQ(StrokeOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Shift, {})), std::nullopt);
 }
 
 TEST(KeysTest, OnlyTextIsTyped) {

@@ -35,6 +35,12 @@ std::unique_ptr<CoBxRtf> MakeControl(QtPlatform& platform) {
   return control;
 }
 
+struct QtHostTest : testing::Test {
+  std::optional<Application<>> application;
+  QtPlatform platform;
+  std::unique_ptr<CoBxRtf> control = MakeControl(platform);
+};
+
 Co_Rtf& EditorOf(CoBxRtf& control) { return *control.Parts().editor.Loaded(); }
 
 void Edit(CoBxRtf& control, std::u16string_view typed) {
@@ -59,34 +65,27 @@ void AnswerBox(std::function<void()> before = [] {}) {
   timer->start(5);
 }
 
-TEST(QtHostTest, ThePlatformMayComeBeforeTheApplicationAndOutliveIt) {
-  QtPlatform platform;
+TEST_F(QtHostTest, ThePlatformMayComeBeforeTheApplicationAndOutliveIt) {
   EXPECT_EQ(platform.ToDrivePath("/n/a.rtf"), u"Z:\\n\\a.rtf");
-  const auto control = MakeControl(platform);
-  {
-    const Application<> application;
-    control->ShowMicroEdit();
-    Edit(*control, u"ma ");
-    AnswerBox();
-  }
+  application.emplace();
+  control->ShowMicroEdit();
+  Edit(*control, u"ma ");
+  AnswerBox();
+  application.reset();
   EXPECT_EQ(control->pStrOrchm(), u"ma note");
   EXPECT_EQ(ErrorOf([&] { control->ShowMicroEdit(); }), 5);
   EXPECT_EQ(control->pStrOrchm(), u"ma note");
 }
 
-TEST(QtHostTest, WithoutAnApplicationThePlatformMakesOne) {
-  QtPlatform platform;
-  const auto control = MakeControl(platform);
+TEST_F(QtHostTest, WithoutAnApplicationThePlatformMakesOne) {
   control->ShowMicroEdit();
   EXPECT_NE(qApp, nullptr);
   Soon([&] { EditorOf(*control).UserClose(); });
   control->ShowMicroEdit(1);
 }
 
-TEST(QtHostTest, AnApplicationWithoutWindowsIsRefused) {
-  const Application<QCoreApplication> application;
-  QtPlatform platform;
-  const auto control = MakeControl(platform);
+TEST_F(QtHostTest, AnApplicationWithoutWindowsIsRefused) {
+  const Application<QCoreApplication> windowless;
   try {
     control->ShowMicroEdit(1);
     FAIL();
@@ -96,9 +95,8 @@ TEST(QtHostTest, AnApplicationWithoutWindowsIsRefused) {
   EXPECT_EQ(control->pStrOrchm(), u"note");
 }
 
-TEST(QtHostTest, AnotherThreadThanTheApplicationsIsRefused) {
-  const Application<> application;
-  QtPlatform platform;
+TEST_F(QtHostTest, AnotherThreadThanTheApplicationsIsRefused) {
+  application.emplace();
   int elsewhere = 0;
   std::thread([&] {
     elsewhere = ErrorOf([&] { MakeControl(platform)->ShowMicroEdit(1); });
@@ -119,11 +117,9 @@ void EditNext(CoBxRtf& control) {
   control.ShowMicroEdit(1);
 }
 
-TEST(QtHostTest, TheNextNoteOpensWhileAModalWindowOrABoxOfTheOldOneIsUp) {
-  const Application<> application;
-  QtPlatform platform;
+TEST_F(QtHostTest, TheNextNoteOpensWhileAModalWindowOrABoxOfTheOldOneIsUp) {
+  application.emplace();
   for (const bool picker : {true, false}) {
-    const auto control = MakeControl(platform);
     control->ShowMicroEdit();
     Soon([&] { EditNext(*control); });
     Co_Rtf& editor = EditorOf(*control);
@@ -133,32 +129,28 @@ TEST(QtHostTest, TheNextNoteOpensWhileAModalWindowOrABoxOfTheOldOneIsUp) {
   }
 }
 
-TEST(QtHostTest, TwoControlsFindTheirOwnNotesAfterARoundTrip) {
-  const Application<> application;
-  QtPlatform platform;
+TEST_F(QtHostTest, TwoControlsFindTheirOwnNotesAfterARoundTrip) {
+  application.emplace();
   const QString programs = QDir::homePath() + "/Program Files/qjot";
   QDir().mkpath(programs);
   QFile::link("/bin/true", programs + "/qjot.exe");
-  const auto first = MakeControl(platform);
   const auto second = MakeControl(platform);
   second->pStrOrchm(u"autre note");
   const auto watching = [](CoBxRtf& control) { return EditorOf(control).TimerWpd.Enabled(); };
-  for (CoBxRtf* control : {first.get(), second.get()}) {
-    control->ShowMicroEdit();
-    EditorOf(*control).Pop.mnuPopQjot.UserClick();
+  for (CoBxRtf* each : {control.get(), second.get()}) {
+    each->ShowMicroEdit();
+    EditorOf(*each).Pop.mnuPopQjot.UserClick();
   }
-  while (watching(*first) || watching(*second))
+  while (watching(*control) || watching(*second))
     QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  EXPECT_EQ(first->pStrOrchm(), u"note");
+  EXPECT_EQ(control->pStrOrchm(), u"note");
   EXPECT_EQ(second->pStrOrchm(), u"autre note");
 }
 
-TEST(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
-  const Application<> application;
-  QtPlatform platform;
+TEST_F(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
+  application.emplace();
   QWidget host;
   host.show();
-  const auto control = MakeControl(platform);
   const auto owner = [&] { return QApplication::topLevelWindows().constLast()->transientParent(); };
   control->ShowMicroEdit();
   EXPECT_EQ(owner(), nullptr);
@@ -168,10 +160,8 @@ TEST(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
   EXPECT_EQ(owner(), host.windowHandle());
 }
 
-TEST(QtHostTest, TheControlGoesWhileItWaitsOrAsks) {
-  const Application<> application;
-  QtPlatform platform;
-  auto control = MakeControl(platform);
+TEST_F(QtHostTest, TheControlGoesWhileItWaitsOrAsks) {
+  application.emplace();
   Soon([&] { control.reset(); });
   control->ShowMicroEdit(1);
 
