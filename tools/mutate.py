@@ -105,11 +105,14 @@ class Bench:
         self.source, self.tests = source, tests
         self.build_folder = source / "build" / "test"
         launcher, linker = shutil.which("ccache"), shutil.which("ld.lld")  # quicker with them
+        folders = os.environ["PATH"].split(os.pathsep)
+        # The compiler itself: the launcher finds nothing again behind a link to itself.
+        plain = dict(os.environ, PATH=os.pathsep.join(f for f in folders if not f.endswith("/ccache")))
         subprocess.run(["cmake", "-S", source, "-B", self.build_folder, "-G", "Ninja",
                         "-DLUMENOTE_QT=OFF", "-DCMAKE_BUILD_TYPE=Release",
                         *(["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if linker else []),
                         *([f"-DCMAKE_CXX_COMPILER_LAUNCHER={launcher}"] if launcher else [])],
-                       check=True, stdout=subprocess.DEVNULL)
+                       check=True, stdout=subprocess.DEVNULL, env=plain)
 
     def compiles(self, target="all"):
         return subprocess.run(["ninja", "-C", self.build_folder, target],
