@@ -1,8 +1,7 @@
-// The arithmetic of the paragraph dialog at its edges, the ruler's zones.
+// The arithmetic of the paragraph dialog at its edges.
 #include <gtest/gtest.h>
 
 #include "format/Measures.h"
-#include "format/Ruler.h"
 
 namespace lumenote {
 namespace {
@@ -51,17 +50,6 @@ TEST(MeasuresTest, NumberBoxesAreBroughtIntoForm) {
   for (const auto& [typed, formed] : cases) EXPECT_EQ(NormalisedNumber(typed), formed);
   EXPECT_TRUE(IsNumericText(u"-1-", true));
   EXPECT_FALSE(IsNumericText(u"-1", false));
-}
-
-TEST(MeasuresTest, TheBoundariesOfTheRulersZonesBelongToTheMiddle) {
-  const struct {
-    float x, width, middle;
-    Zone zone;
-  } cases[] = {{0, 300, 300, Zone::Left},       {99.9F, 300, 300, Zone::Left},
-               {100, 300, 300, Zone::Middle},   {200, 300, 300, Zone::Middle},
-               {200.1F, 300, 300, Zone::Right}, {110, 300, 360, Zone::Left},
-               {250, 300, 900, Zone::Right}};
-  for (const auto& c : cases) EXPECT_EQ(ZoneAt(c.x, c.width, c.middle), c.zone) << c.x;
 }
 
 }  // namespace

@@ -144,7 +144,7 @@ TEST_F(ParagraphDialogTest, EachActChangesWhatBelongsToIt) {
 
 TEST_F(ParagraphDialogTest, StylesOfAHostThatIsAPathAreReadUnderItsProgramsName) {
   const std::pair<std::u16string_view, std::u16string_view> cases[] = {
-      {u"Rosa", u"Rosa"},
+      {u"Rosa 2.0", u"Rosa 2.0"},
       {u"C:\\Hotes\\Rosa.exe", u"Rosa"},
       {u"C:\\", u""},
       {u"C:", u"C:"},

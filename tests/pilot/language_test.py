@@ -37,8 +37,6 @@ class Language(unittest.TestCase):
             self.lines("host pStrOrchm " + source + "\nhost pStrOrchm\n", answer)
         self.lines("\ufeff# comment\n\n  \t\n   clip   \r\n", '{"text":null,"rtf":null}')
         self.lines("")
-        self.lines(OPEN + "show\nget Co_Rtf.Caption Session.Dirty Co_Rtf.Bx_RTF.Text\n",
-                   '["",false,"abc"]')
 
     def test_not_understood(self):
         wrong = ["foo", "get", "get Co_Rtf", "get Nulle.Caption", "get Session.Rien", "clip a b", "clip 5",

@@ -40,7 +40,6 @@ TEST_F(UnitsTest, EachDelimiterEndsItsUnitsOnBothSides) {
   EXPECT_EQ(Selected(SelectPhrase, u"ab\r\nmn.yz", 5), u"ab\r\nmn");
   EXPECT_EQ(Selected(SelectParagraphe, u"ab\r\nm. n\r\nyz", 5), u"m. n");
   EXPECT_EQ(Selected(SelectParagraphe, u"ab\r\nmn\r\nyz", 1, 4), u"ab\r\nmn");
-  EXPECT_EQ(Selected(SelectTout, u"ab\r\nmn", 1), u"ab\r\nmn");
 }
 
 TEST_F(UnitsTest, ALineIsSelectedUnlessItsNumberIsBeyondSixteenBits) {

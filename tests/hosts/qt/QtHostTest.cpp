@@ -120,6 +120,7 @@ void EditNext(CoBxRtf& control) {
 TEST_F(QtHostTest, TheNextNoteOpensWhileAModalWindowOrABoxOfTheOldOneIsUp) {
   application.emplace();
   for (const bool picker : {true, false}) {
+    control->pStrOrchm(u"note");
     control->ShowMicroEdit();
     Soon([&] { EditNext(*control); });
     Co_Rtf& editor = EditorOf(*control);
