@@ -6,8 +6,8 @@
 #include <memory>
 
 #include "backends/qt/text/QtLayouter.h"
-#include "backends/qt/toolkit/Differences.h"
 #include "forms/Control.h"
+#include "forms/Differences.h"
 
 namespace lumenote {
 

@@ -6,8 +6,8 @@
 #include <memory>
 #include <unordered_map>
 
-#include "backends/qt/toolkit/Differences.h"
 #include "backends/qt/toolkit/WidgetRegistry.h"
+#include "forms/Differences.h"
 #include "forms/Menu.h"
 
 namespace lumenote {

@@ -1,29 +1,24 @@
 // The launcher: opens the editor on a note's file.
-#include <QApplication>
+#include "Launcher.h"
+
 #include <fstream>
 #include <iostream>
-#include <memory>
-#include <vector>
 
-#include "SuddenEnds.h"
-#include "backends/qt/QtBackend.h"
-#include "backends/qt/QtUserActs.h"
-#include "backends/qt/windows/Shot.h"
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "base/TextEncoding.h"
 #include "control/Component.h"
 #include "editor/storage/DocumentStorage.h"
+#include "forms/Backend.h"
 #include "lumenote/CoBxRtf.h"
-#include "lumenote/QtPlatform.h"
 #include "pilot/RunPilot.h"
 #include "pilot/sandbox/FolderSandbox.h"
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "rtf/read/Reader.h"
 
-using namespace lumenote;
+namespace lumenote {
 
 namespace {
 
@@ -94,52 +89,45 @@ void Describe(CoBxRtf& control, const CommandLine& line) {
 }
 
 /// Opens the editor and renders it to a file. Returns the exit status.
-int Capture(CoBxRtf& control, QtPlatform& platform, const std::string& png) {
+int Capture(CoBxRtf& control, Desk& desk, const std::string& png) {
   control.ShowMicroEdit();
   const Form* editor = control.Parts().windows.Active();
   if (!editor) return 1;  // the user was told why
-  auto& windows = static_cast<QtBackend&>(platform.Windows());
-  SaveWindowShot(windows.Widgets(), *editor, QString::fromStdString(png));
+  desk.Capture(*editor, png);
   return 0;
 }
 
-int Edit(const CommandLine& line) {
+int Edit(const CommandLine& line, Desk& desk) {
   const std::string& note = line.Operands().front();
-  QtPlatform platform;
   const std::u16string typed = FromUtf8(note);
-  const std::u16string path = IsDrivePath(typed) ? typed : platform.ToDrivePath(note);
+  const std::u16string path = IsDrivePath(typed) ? typed : desk.ToDrivePath(note);
   if (!IsDrivePath(path)) return Fail(note + " : chemin trop court", 2);
-  if (const std::string why = Obstacle(platform.FileSystem(), path); !why.empty())
+  const Files& files = desk.Machine().FileSystem();
+  if (const std::string why = Obstacle(files, path); !why.empty())
     return Fail(note + " : " + why, 1);
-  CoBxRtf control(platform);
+  CoBxRtf control(desk.Machine());
   Describe(control, line);
-  HandOver(control, platform.FileSystem(), path, line.Has("--readonly"));
-  if (const auto png = line.Value("--capture")) return Capture(control, platform, *png);
-  const SuddenEnds ends([&control] { control.KeepUnsaved(); });
+  HandOver(control, files, path, line.Has("--readonly"));
+  if (const auto png = line.Value("--capture")) return Capture(control, desk, *png);
+  const auto ends = desk.WatchEnds([&control] { control.KeepUnsaved(); });
   control.ShowMicroEdit(1);
   return control.Parts().session->loaded ? 0 : 1;
 }
 
-/// Runs a script in a sandbox, on real widgets.
-int DrivePilot(const CommandLine& line) {
+/// Runs a script in a sandbox, on real windows.
+int DrivePilot(const CommandLine& line, Desk& desk) {
   std::ifstream script(*line.Value("--pilot"), std::ios::binary);
   if (!script) return Fail(*line.Value("--pilot") + " : lecture impossible", 2);
   const auto root = line.Value("--root");
   const auto sandbox =
       root ? std::make_unique<FolderSandbox>(*root) : std::make_unique<FolderSandbox>();
-  QtBackend backend;
-  QtUserActs acts(backend);
-  PilotRun run{script, std::cout, std::cerr, *sandbox, backend, acts};
+  PilotRun run{script, std::cout, std::cerr, *sandbox, desk.ScriptWindows(), desk.ScriptUser()};
   if (const auto png = line.Value("--shot"))
-    run.atEnd = [&backend, file = QString::fromStdString(*png)](const Form& active) {
-      SaveWindowShot(backend.Widgets(), active, file);
-    };
+    run.atEnd = [&desk, png](const Form& active) { desk.Capture(active, *png); };
   return RunPilot(run);
 }
 
-int Launch(int argc, char** argv) {
-  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-  const CommandLine line(arguments, kOptions);
+int Follow(const CommandLine& line, Desk& desk) {
   if (line.Has("--help")) {
     std::cout << kUsage;
     return 0;
@@ -150,18 +138,19 @@ int Launch(int argc, char** argv) {
   }
   if (line.Operands().size() != (line.Has("--pilot") ? 0 : 1))
     return Fail("une note est attendue (voir --help)", 2);
-  const QApplication application(argc, argv);
-  return line.Has("--pilot") ? DrivePilot(line) : Edit(line);
+  return line.Has("--pilot") ? DrivePilot(line, desk) : Edit(line, desk);
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int Launch(std::span<const std::string_view> arguments, Desk& desk) {
   try {
-    return Launch(argc, argv);
+    return Follow(CommandLine(arguments, kOptions), desk);
   } catch (const CommandLineError& error) {
     return Fail(error.what(), 2);
   } catch (const RuntimeError& error) {
     return Fail(ToUtf8(error.Description()), 1);
   }
 }
+
+}  // namespace lumenote

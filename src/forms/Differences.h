@@ -1,4 +1,4 @@
-// Collects where widgets differ from the form they show; for tests.
+// Collects where native windows differ from the form they show; for tests.
 #pragma once
 #include <string>
 #include <vector>
