@@ -108,7 +108,7 @@ bool KeepResults(Platform& machine, SentWorkFile& sent, std::vector<std::u16stri
   });
 }
 
-/// The same for a program that another editor started.
+/// Whether the program that a dead editor started may still save.
 bool StillRuns(Platform& machine, std::u16string_view program) {
   bool running = false;
   IgnoringErrors([&] { running = machine.Programs().StillRunning(program).has_value(); });
