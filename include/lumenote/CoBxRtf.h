@@ -27,6 +27,8 @@ class CoBxRtf {
  public:
   /// `platform` must outlive the control and every call on it that has not returned yet.
   explicit CoBxRtf(Platform& platform);
+  /// Keeps the platform alive for that long, for hosts that cannot know when the last call returns.
+  explicit CoBxRtf(const std::shared_ptr<Platform>& platform);
   /// Closes an open editor as the user would. An edited string note becomes a rescue copy, since
   /// nobody can read it any more. Call on the control's thread only.
   ~CoBxRtf();

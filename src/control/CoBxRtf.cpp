@@ -101,6 +101,10 @@ void PutNote(Component& parts, std::u16string_view note, NoteKind kind) {
 CoBxRtf::CoBxRtf(Platform& platform)
     : parts_(Named(u"CoBxRtf", [&] { return std::make_shared<Component>(platform); })) {}
 
+CoBxRtf::CoBxRtf(const std::shared_ptr<Platform>& platform) : CoBxRtf(*platform) {
+  parts_->platform = platform;
+}
+
 CoBxRtf::~CoBxRtf() {
   const auto close = [&] {
     parts_->closed = nullptr;

@@ -21,6 +21,8 @@ class Platform;
 struct Component {
   explicit Component(Platform& platform);
 
+  /// Null unless the component owns it; goes after everything else.
+  std::shared_ptr<Platform> platform;
   /// The thread that created the control, the only one that may use it.
   const std::thread::id thread = std::this_thread::get_id();
   /// That of the open editor, else of the next one. A closed editor keeps its own, so that late

@@ -86,10 +86,18 @@ TEST_F(ReentryTest, TheControlGoesWhileAnActOfItsEditorGoesOn) {
   for (const Act& act : kActs) {
     SCOPED_TRACE(act.name);
     SetUp();
+    auto owned = std::make_shared<HostPlatform>(sandbox, backend, fonts);
+    const std::weak_ptr<Platform> machine = owned;
+    control = std::make_unique<CoBxRtf>(std::move(owned));
+    control->pCouleurFen(u"0");
     Open(kOld);
     Type(u"bien ");
-    OnEvent([&] { control.reset(); });
+    OnEvent([&] {
+      control.reset();
+      EXPECT_FALSE(machine.expired());
+    });
     act.begin(Editor());
+    EXPECT_TRUE(machine.expired());
     EXPECT_EQ(control, nullptr);
     EXPECT_TRUE(!disk.Exists(kOld) || disk.ReadAll(kOld) == "bien ancienne");
   }
