@@ -1,0 +1,13 @@
+// Entering the control in the registry and removing it without a trace.
+#pragma once
+#include "../support/Ole.h"
+
+namespace lumenote {
+
+/// Registers for all users; where that is not allowed, for the current one.
+HRESULT Register();
+HRESULT RegisterForUser();
+/// Removes both registrations. What hosts of the other width use stays while they are registered.
+HRESULT Unregister();
+
+}  // namespace lumenote
