@@ -1,6 +1,8 @@
 #include "document/LineTable.h"
 
 #include <algorithm>
+#include <cassert>
+#include <functional>
 
 namespace lumenote {
 
@@ -49,6 +51,7 @@ bool LineStarts::Extend() {
     break;
   }
   piece_ = std::min(2 * piece_, LineTable::kPiece);
+  assert(IsSound(known - 1));
   return true;
 }
 
@@ -70,6 +73,7 @@ bool LineStarts::Has(std::size_t line) {
 }
 
 Line LineStarts::At(std::size_t line) {
+  assert(line < starts_.size());
   const Position start = starts_[line].at;
   if (!Has(line + 1)) return {start, document_.Length(), -1};
   const Position next = starts_[line + 1].at;
@@ -90,6 +94,7 @@ bool LineStarts::FollowsSpace(Position start) const {
 // word was broken over several lines, even the first of them may. A change of the paragraph format
 // moves all its lines.
 void LineStarts::Edited(Position at) {
+  assert(at >= First());
   std::size_t line = LastUpTo(at);
   const bool reformatted = document_.ParaFormatAt(starts_[line].at) != starts_[line].format;
   for (int cut = 0; line > 0 && !StartsParagraph(starts_[line].at); --line) {
@@ -101,6 +106,18 @@ void LineStarts::Edited(Position at) {
   if (reformatted) starts_[line].format = document_.ParaFormatAt(starts_[line].at);
   piece_ = kFirstPiece;
   complete_ = false;
+  assert(IsSound(line) && StartsParagraph(First()));
+}
+
+// Of the lines from index `from` on.
+bool LineStarts::IsSound(std::size_t from) const {
+  const auto first = starts_.begin() + static_cast<std::ptrdiff_t>(from);
+  const auto isSound = [&](Start start) {
+    return start.at <= document_.Length() && start.format == document_.ParaFormatAt(start.at);
+  };
+  return std::all_of(first, starts_.end(), isSound) &&
+         std::ranges::adjacent_find(first, starts_.end(), std::greater_equal(), &Start::at) ==
+             starts_.end();
 }
 
 LineTable::LineTable(const Document& document, LineBreaker& breaker)

@@ -32,8 +32,9 @@ struct Line {
   bool operator==(const Line&) const = default;
 };
 
-/// The line starts from one paragraph on, as far as they were asked for. Invariant: each is a line
-/// start of the whole document's layout.
+/// The line starts from one paragraph on, as far as they were asked for. Invariants: each is a line
+/// start of the whole document's layout; they ascend, the first starts a paragraph, and each has
+/// its paragraph's format.
 class LineStarts {
  public:
   LineStarts(const Document& document, LineBreaker& breaker);
@@ -61,6 +62,7 @@ class LineStarts {
   std::size_t LastUpTo(Position position) const;
   bool FollowsSpace(Position start) const;
   bool StartsParagraph(Position start) const;
+  bool IsSound(std::size_t from) const;
 
   const Document& document_;
   LineBreaker& breaker_;

@@ -243,7 +243,7 @@ FontMetrics FixedLayouter::MetricsOf(const Document&, const CharFormat& format) 
   return {Pixels(format.size * kAscent), Pixels(format.size * kDescent), 0};
 }
 
-std::unique_ptr<Piece> FixedLayouter::LayOut(const Document& document, const PieceSpan& span) {
+std::unique_ptr<Piece> FixedLayouter::Make(const Document& document, const PieceSpan& span) {
   if (cellsOf) {
     const Position paragraph = document.ParagraphOf(span.from);
     auto row = std::make_unique<FixedPiece>();

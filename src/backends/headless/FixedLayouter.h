@@ -20,8 +20,10 @@ class FixedLayouter final : public TextLayouter {
   /// the cells are text separated by tabs.
   std::function<std::vector<double>(const Kept&)> cellsOf;
 
-  std::unique_ptr<Piece> LayOut(const Document& document, const PieceSpan& span) override;
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
+
+ private:
+  std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& span) override;
 };
 
 /// Breaks lines with a layouter of its own.

@@ -1,6 +1,7 @@
 #include "view/layout/LayoutCache.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace lumenote {
 
@@ -36,13 +37,15 @@ const Piece& LayoutCache::Add(std::unique_ptr<Piece> piece) {
   const Position end = piece->to + (piece->closes ? 1 : 0);
   const Iterator last =
       std::find_if(first, pieces_.end(), [&](const auto& other) { return other->from >= end; });
-  return **pieces_.insert(pieces_.erase(first, last), std::move(piece));
+  const Piece& added = **pieces_.insert(pieces_.erase(first, last), std::move(piece));
+  assert(IsSound(added.from));
+  return added;
 }
 
 const Piece& LayoutCache::LayOutFrom(Position from, Position paragraphEnd) {
   const Iterator behind = FirstBehind(from);
   PieceSpan span{.from = from};
-  if (behind != pieces_.end() && (*behind)->from <= paragraphEnd) span.nextKnown = (*behind)->from;
+  if (behind != pieces_.end() && (*behind)->from < paragraphEnd) span.nextKnown = (*behind)->from;
   const bool nextIsNear = span.nextKnown >= 0 && span.nextKnown - from <= kPieceLength;
   Position length = nextIsNear ? span.nextKnown - from + kPieceLength / 4 : kPieceLength;
   for (;; length *= 2) {
@@ -133,6 +136,7 @@ void LayoutCache::Changed(const DocumentChange& change) {
   pieces_.erase(first, last);
   DropOldFormat(change.at);
   DropOldFormat(change.at + change.inserted);
+  assert(IsSound(change.at) && IsSound(change.at + change.inserted));
 }
 
 // After a change of the paragraph's format, its other pieces are invalid, too.
@@ -144,6 +148,19 @@ void LayoutCache::DropOldFormat(Position position) {
   pieces_.erase(
       std::remove_if(first, last, [&](const auto& piece) { return piece->format != format; }),
       last);
+}
+
+// Whether the order is kept, and each piece at `position` is sound.
+bool LayoutCache::IsSound(Position position) const {
+  const auto overlap = [](const auto& piece, const auto& next) {
+    return piece->to + (piece->closes ? 1 : 0) > next->from;
+  };
+  const auto isSound = [&](const auto& piece) {
+    const bool near = piece->from <= position && piece->to >= position;
+    return !near || piece->IsSound(document_);
+  };
+  return std::ranges::adjacent_find(pieces_, overlap) == pieces_.end() &&
+         std::ranges::all_of(pieces_, isSound);
 }
 
 void LayoutCache::Trim(Position from, Position to) {

@@ -8,8 +8,9 @@
 
 namespace lumenote {
 
-/// Lays out only what is asked for, and caches some of it. Invariants: pieces do not overlap and
-/// are in text order. A returned piece is valid until the next `Changed`, `Clear` or `Trim`.
+/// Lays out only what is asked for, and caches some of it. Invariants: pieces are sound, do not
+/// overlap and are in text order. A returned piece is valid until the next `Changed`, `Clear` or
+/// `Trim`.
 class LayoutCache {
  public:
   LayoutCache(const Document& document, TextLayouter& layouter)
@@ -39,6 +40,7 @@ class LayoutCache {
   const Piece& LayOutFrom(Position from, Position paragraphEnd);
   const Piece& LayOutTo(Position position);
   Position StartNear(Position position, Position paragraphStart);
+  bool IsSound(Position position) const;
 
   const Document& document_;
   TextLayouter& layouter_;

@@ -66,4 +66,24 @@ PieceLine Piece::Row() const {
   return row;
 }
 
+bool Piece::IsSound(const Document& document) const {
+  const Position paragraph = document.ParagraphOf(from);
+  const Position end = document.ParagraphEnd(paragraph);
+  return HasOrderedParts() && to <= end && opens == (from == document.ParagraphStart(paragraph)) &&
+         (!closes || to == end) && (cells.empty() || (opens && closes)) &&
+         format == document.ParaFormatAt(from);
+}
+
+// Lines cover the text without gaps, and only the last one may be empty.
+bool Piece::HasOrderedParts() const {
+  if (lines.empty() || lines.front().start != 0 || ToPosition(lines.back().end) != to) return false;
+  const auto apart = [](const PieceLine& line, const PieceLine& next) {
+    return line.end != next.start || line.start >= next.start;
+  };
+  return std::ranges::adjacent_find(lines, apart) == lines.end() &&
+         std::ranges::is_sorted(runs, {}, &PieceRun::start) &&
+         std::ranges::is_sorted(boxes, {}, &InlineBox::index) &&
+         std::ranges::is_sorted(cells, {}, &PieceCell::firstLine);
+}
+
 }  // namespace lumenote

@@ -91,6 +91,9 @@ class Piece {
   int ToIndex(Position position) const;
   Position ToPosition(int index) const;
 
+  /// Whether the invariants hold, for assertions.
+  bool IsSound(const Document& document) const;
+
   /// Distance from the text's left edge to the caret before unit `index` of that line.
   virtual double CaretX(int line, int index) const = 0;
 
@@ -105,6 +108,7 @@ class Piece {
  private:
   static std::size_t Index(int line) { return static_cast<std::size_t>(line); }
   PieceLine Row() const;
+  bool HasOrderedParts() const;
 };
 
 }  // namespace lumenote

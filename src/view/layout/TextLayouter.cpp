@@ -1,6 +1,7 @@
 #include "view/layout/TextLayouter.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace lumenote {
 
@@ -15,6 +16,13 @@ void TextLayouter::Zoom(double factor) {
 
 double TextLayouter::Pixels(double twips) const {
   return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsInPixel * zoom_;
+}
+
+std::unique_ptr<Piece> TextLayouter::LayOut(const Document& document, const PieceSpan& span) {
+  auto piece = Make(document, span);
+  assert(piece || !span.complete);
+  assert(!piece || piece->IsSound(document));
+  return piece;
 }
 
 bool TextLayouter::Open(Piece& piece, const Document& document, const PieceSpan& span) const {

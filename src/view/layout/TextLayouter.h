@@ -49,11 +49,14 @@ class TextLayouter {
   double Pixels(double twips) const;
 
   /// Null if an incomplete span has at most one line, whose end is thus unknown.
-  virtual std::unique_ptr<Piece> LayOut(const Document& document, const PieceSpan& span) = 0;
+  std::unique_ptr<Piece> LayOut(const Document& document, const PieceSpan& span);
   /// For a format that no text need have.
   virtual FontMetrics MetricsOf(const Document& document, const CharFormat& format) = 0;
 
  protected:
+  /// Realises `LayOut`. The same text at the same width and zoom must give the same lines, whatever
+  /// span of its paragraph is asked for: the screen, the line queries and the caret rely on it.
+  virtual std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& span) = 0;
   /// Called after a zoom change: discard everything derived from formats.
   virtual void Zoomed() {}
   /// Initialises the piece's position; returns true if it contains composed text.

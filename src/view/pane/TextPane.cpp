@@ -1,6 +1,7 @@
 #include "view/pane/TextPane.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <utility>
 
@@ -68,14 +69,25 @@ Position TextPane::CharacterAt(PixelPoint point) {
 }
 
 Line TextPane::ShownLine(Position position) {
-  const Position length = Content().Length();
-  const Piece& piece = cache_.At(std::clamp(position, 0, length));
-  const int line = piece.LineOf(std::min(position, piece.to));
+  const Piece& piece = cache_.At(std::clamp(position, 0, Content().Length()));
+  const Line shown = LineIn(piece, piece.LineOf(std::min(position, piece.to)));
+  assert(AgreesWithLineTable(piece, shown));
+  return shown;
+}
+
+Line TextPane::LineIn(const Piece& piece, int line) const {
   const Position start = piece.LineStart(line);
   const bool last = line + 1 == std::ssize(piece.lines);
-  if (last && piece.closes) return {start, piece.to, piece.to < length ? piece.to + 2 : -1};
+  const Position behind = piece.to < Content().Length() ? piece.to + 2 : -1;
+  if (last && piece.closes) return {start, piece.to, behind};
   const Position next = last ? piece.to : piece.LineStart(line + 1);
   return {start, Content().At(next - 1) == u'\v' ? next - 1 : next, next};
+}
+
+// The contract with the line table: they agree in every paragraph that is one piece.
+bool TextPane::AgreesWithLineTable(const Piece& piece, const Line& line) {
+  const bool whole = piece.opens && piece.closes && piece.composedLength == 0;
+  return !whole || surface_.Lines().LineAt(line.start) == line;
 }
 
 std::optional<PixelRect> TextPane::LineAt(Position position) {

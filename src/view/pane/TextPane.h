@@ -63,6 +63,8 @@ class TextPane {
   LineHit LineNear(PixelPoint point);
   double WrapWidth() const;
   void RevealAcross(Position position);
+  Line LineIn(const Piece& piece, int line) const;
+  bool AgreesWithLineTable(const Piece& piece, const Line& line);
 
   DocumentSurface& surface_;
   TextLayouter& layouter_;

@@ -262,7 +262,7 @@ FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& fo
   return {style.ascent, style.descent, style.raise};
 }
 
-std::unique_ptr<Piece> QtLayouter::LayOut(const Document& document, const PieceSpan& span) {
+std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpan& span) {
   auto piece = std::make_unique<QtPiece>();
   SpanText text(document, span, styles);
   if (Open(*piece, document, span))

@@ -13,10 +13,10 @@ class QtLayouter final : public TextLayouter {
   /// Formats of the composed text, relative to its start.
   QList<QTextLayout::FormatRange> composedFormats;
 
-  std::unique_ptr<Piece> LayOut(const Document& document, const PieceSpan& span) override;
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 
  private:
+  std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& span) override;
   void Zoomed() override { styles.Zoom(Zoom()); }
 };
 
