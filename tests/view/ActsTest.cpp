@@ -165,29 +165,47 @@ TEST(InputMethods, ComposeReplaceAndCommit) {
   EXPECT_EQ(user.surface.Content().Length(), 2000);
 }
 
+TEST(TextUnits, DivideTheText) {
+  struct UnitsRow {
+    TextUnit unit;
+    std::u16string_view units;
+  };
+  const UnitsRow rows[] = {
+      {TextUnit::Character, u"a|𝄞|\r\n|é"},
+      {TextUnit::Word, u"l'|été|, |de |fin |...|\r\n|  |a"},
+      {TextUnit::Sentence, u"Env. dix, 1.5 m. |« Oui ! » |Il dit « non ! » et part.\r\n|Où ?\v"},
+      {TextUnit::Sentence, u"(Fin.) |\"Ou...\" |Et"},
+      {TextUnit::Paragraph, u"a\r\n|\r\n|b"}};
+  for (const UnitsRow& row : rows) {
+    std::u16string text(row.units);
+    std::erase(text, u'|');
+    Document document;
+    document.Replace(0, 0, PlainFragment(text, 0, 0));
+    for (Position at = document.Length() - 1; at >= 0; --at) {
+      const Selection unit = UnitAt(document, at, row.unit);
+      EXPECT_TRUE(unit.start <= at && at < unit.end) << at;
+      if (unit.start == at && at > 0) text.insert(static_cast<std::size_t>(at), 1, u'|');
+    }
+    EXPECT_EQ(ToUtf8(text), ToUtf8(row.units));
+  }
+}
+
 TEST(AccessibleTexts, TellUnitsAndEdit) {
   User user;
   user.Type(u"|un deux trois¶quatre");
-  AccessibleText text(user.view, [](TextUnit, std::u16string_view within, int index) {
-    const auto before = within.substr(0, static_cast<std::size_t>(index)).rfind(u' ');
-    const auto behind = within.find(u' ', static_cast<std::size_t>(index));
-    return Selection{before == within.npos ? 0 : static_cast<Position>(before) + 1,
-                     static_cast<Position>(std::min(behind, within.size()))};
-  });
+  AccessibleText text(user.view);
   constexpr TextUnit kUnits[] = {TextUnit::Line, TextUnit::Paragraph, TextUnit::Word,
                                  TextUnit::All};
   for (const auto& [offset, unit, before, at, behind] : Rows16<5>(R"(
-4 | 0 | "" | un deux␣ | trois¶ ¦ 9 | 0 | un deux␣ | trois¶ | quatre ¦ 4 | 2 | un | deux | deux
+4 | 0 | "" | un deux␣ | trois¶ ¦ 9 | 0 | un deux␣ | trois¶ | quatre ¦ 4 | 2 | un␣ | deux␣ | trois
 4 | 1 | "" | un deux trois¶ | quatre ¦ 99 | 1 | un deux trois¶ | quatre | ""
--5 | 3 | "" | un deux trois¶quatre | ""
+99 | 2 | quatre | "" | "" ¦ -5 | 3 | "" | un deux trois¶quatre | ""
 )")) {
     const Position place = std::stoi(ToUtf8(offset));
     const TextUnit of = kUnits[unit[0] - u'0'];
     EXPECT_EQ(text.Text(text.Before(place, of)), Unmarked(before)) << place;
     EXPECT_EQ(text.Text(text.At(place, of)), Unmarked(at)) << place;
-    if (of != TextUnit::Word) {
-      EXPECT_EQ(text.Text(text.Behind(place, of)), Unmarked(behind)) << place;
-    }
+    EXPECT_EQ(text.Text(text.Behind(place, of)), Unmarked(behind)) << place;
   }
   EXPECT_EQ(text.BoxOf(9), (PixelRect{10, 25, 20, 50}));
   EXPECT_EQ(text.OffsetAt(User::At(1, 1)), 9);

@@ -10,31 +10,14 @@ std::u16string AccessibleText::Text(Selection range) const {
   return Content().Text(std::max(range.start, 0), std::max(range.end, 0));
 }
 
-Selection AccessibleText::ParagraphAt(Position offset) const {
-  const Position number = Content().ParagraphOf(offset);
-  return {Content().ParagraphStart(number),
-          std::min(Content().ParagraphEnd(number) + 2, Content().Length())};
-}
-
 Selection AccessibleText::LineAt(Position offset) const {
   const Line line = view_.Pane().ShownLine(offset);
   return {line.start, line.next < 0 ? line.end : line.next};
 }
 
-Selection AccessibleText::UnitIn(Selection paragraph, Position offset, TextUnit unit) const {
-  constexpr Position kReach = 2'000;  // in long paragraphs
-  const Position from = std::max(paragraph.start, offset - kReach);
-  const Selection found =
-      boundaries_(unit, Text({from, std::min(paragraph.end, offset + kReach)}), offset - from);
-  return {from + found.start, from + found.end};
-}
-
 Selection AccessibleText::At(Position offset, TextUnit unit) const {
   offset = std::clamp(offset, 0, Content().Length());
-  if (unit == TextUnit::All) return {0, Content().Length()};
-  if (unit == TextUnit::Line) return LineAt(offset);
-  const Selection paragraph = ParagraphAt(offset);
-  return unit == TextUnit::Paragraph ? paragraph : UnitIn(paragraph, offset, unit);
+  return unit == TextUnit::Line ? LineAt(offset) : UnitAt(Content(), offset, unit);
 }
 
 Selection AccessibleText::Before(Position offset, TextUnit unit) const {
@@ -76,7 +59,7 @@ void AccessibleText::Reveal(Selection range) {
 }
 
 std::optional<AccessibleText::Run> AccessibleText::RunAt(Position offset) const {
-  const Selection paragraph = ParagraphAt(std::clamp(offset, 0, Content().Length()));
+  const Selection paragraph = At(offset, TextUnit::Paragraph);
   std::optional<Run> found;
   Content().ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView run, CharId id) {
     const Position behind = at + static_cast<Position>(run.Size());

@@ -1,29 +1,22 @@
 // A view as seen by assistive programs.
 #pragma once
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "view/acts/TextUnits.h"
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
-
-enum class TextUnit { Character, Word, Sentence, Line, Paragraph, All };
 
 /// Offsets are document positions, clipped to the document. Rectangles are in pane pixels. Must not
 /// be used on a detached view.
 class AccessibleText {
  public:
-  /// Returns the bounds of the unit at an index of some text: a character, word or sentence by the
-  /// system's implementation of Unicode's rules.
-  using Boundaries = std::function<Selection(TextUnit, std::u16string_view text, int index)>;
-
-  AccessibleText(NoteView& view, Boundaries boundaries)
-      : view_(view), boundaries_(std::move(boundaries)) {}
+  explicit AccessibleText(NoteView& view) : view_(view) {}
 
   std::u16string Text(Selection range) const;
-  /// The unit at (before, after) an offset; empty at the text's ends.
+  /// The unit at (before, after) an offset; empty at the text's ends. A line is one on screen.
   Selection At(Position offset, TextUnit unit) const;
   Selection Before(Position offset, TextUnit unit) const;
   Selection Behind(Position offset, TextUnit unit) const;
@@ -47,12 +40,9 @@ class AccessibleText {
 
  private:
   const Document& Content() const { return view_.Surface().Content(); }
-  Selection ParagraphAt(Position offset) const;
   Selection LineAt(Position offset) const;
-  Selection UnitIn(Selection paragraph, Position offset, TextUnit unit) const;
 
   NoteView& view_;
-  Boundaries boundaries_;
 };
 
 }  // namespace lumenote

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "surface/keys/Words.h"
+#include "view/acts/TextUnits.h"
 
 namespace lumenote {
 
@@ -19,9 +20,7 @@ Selection ViewMouse::Around(Position position) const {
   const Document& document = view_.Surface().Content();
   if (unit_ == Unit::Word) return WordAt(document, position);
   if (unit_ == Unit::Character) return {position, position};
-  const Position paragraph = document.ParagraphOf(position);
-  return {document.ParagraphStart(paragraph),
-          std::min(document.ParagraphEnd(paragraph) + 2, document.Length())};
+  return UnitAt(document, position, TextUnit::Paragraph);
 }
 
 void ViewMouse::Begin(Unit unit, Position position, bool extend) {

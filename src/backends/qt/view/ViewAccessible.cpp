@@ -1,7 +1,6 @@
 #include "backends/qt/view/ViewAccessible.h"
 
 #include <QAccessibleWidget>
-#include <QTextBoundaryFinder>
 #include <algorithm>
 
 #include "backends/qt/toolkit/Pixels.h"
@@ -31,19 +30,6 @@ TextUnit UnitOf(QAccessible::TextBoundaryType type) {
   return TextUnit::All;
 }
 
-Selection FindBoundaries(TextUnit unit, std::u16string_view text, int index) {
-  const auto kind = unit == TextUnit::Word       ? QTextBoundaryFinder::Word
-                    : unit == TextUnit::Sentence ? QTextBoundaryFinder::Sentence
-                                                 : QTextBoundaryFinder::Grapheme;
-  QTextBoundaryFinder finder(kind, ToQString(text));
-  finder.setPosition(index);
-  const auto start = finder.isAtBoundary() ? index : finder.toPreviousBoundary();
-  finder.setPosition(index);
-  const auto end = finder.toNextBoundary();
-  return {static_cast<Position>(std::max<qsizetype>(start, 0)),
-          static_cast<Position>(end < 0 ? std::ssize(text) : end)};
-}
-
 /// Adapts `AccessibleText` to Qt's interfaces.
 class AccessibleView final : public QAccessibleWidget,
                              public QAccessibleTextInterface,
@@ -52,9 +38,7 @@ class AccessibleView final : public QAccessibleWidget,
   using Boundary = QAccessible::TextBoundaryType;
 
   explicit AccessibleView(RichTextView& view)
-      : QAccessibleWidget(&view, QAccessible::EditableText),
-        view_(view),
-        text_(view.Text(), FindBoundaries) {}
+      : QAccessibleWidget(&view, QAccessible::EditableText), view_(view), text_(view.Text()) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override;
   QAccessible::State state() const override;

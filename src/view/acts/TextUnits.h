@@ -1,0 +1,15 @@
+// The units that assistive programs read a text by.
+#pragma once
+#include "document/Document.h"
+
+namespace lumenote {
+
+enum class TextUnit { Character, Word, Sentence, Line, Paragraph, All };
+
+/// The unit that holds the character at `offset`, which must lie in the document; any but a line,
+/// which only a view knows. Units of one kind follow each other without gaps, but a character, word
+/// or sentence at the document's end is empty. Characters and words are what the caret keys move
+/// by, so the blanks after a word belong to it; a paragraph includes its break.
+Selection UnitAt(const Document& document, Position offset, TextUnit unit);
+
+}  // namespace lumenote
