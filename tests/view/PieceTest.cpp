@@ -59,9 +59,9 @@ TEST(Pieces, GiveABoxItsRoomInTheLine) {
 
 struct RowsTest : testing::Test {
   RowsTest() {
-    window.layouter.cellsOf = [](const Kept&) { return std::vector<double>{60, 150, 200}; };
+    window.layouter.cells = true;
     window.surface.TextRTF(
-        u"{\\rtf1 avant\\par\\trowd\\cellx900\\cellx2250\\cellx3000\\intbl "
+        u"{\\rtf1 avant\\par\\trowd\\cellx600\\cellx1500\\cellx2000\\intbl "
         u"un deux trois\\cell quatre cinq\\cell six\\cell\\row apr\\'e8s}");
     window.view.Settle();
   }
@@ -87,6 +87,32 @@ TEST_F(RowsTest, LieBesideEachOther) {
     EXPECT_EQ(window.pane.PositionAt({left + 1, top + 12}), at);
     EXPECT_EQ(window.surface.Lines().LineAt(at).start, at);
     EXPECT_EQ(window.breaker.XOf(window.surface.Content(), at, at + 1), left + 10);
+  }
+}
+
+TEST_F(RowsTest, AreAsWideAsDefined) {
+  struct Definition {
+    std::u16string_view row;
+    std::vector<double> rights;
+    double left = 0;
+  };
+  const Definition definitions[] = {
+      {u"\\cellx600\\cellx1500\\intbl a\\cell\\cell", {60, 150}},
+      {u"\\intbl a\\cell b\\cell", {150, 300}},
+      {u"\\cellx600\\intbl a\\cell b\\cell c\\cell", {60, 180, 300}},
+      {u"\\cellx600\\cellx100\\intbl a\\cell b\\cell", {60, 84}},
+      {u"\\cellx600{\\*\\x}\\cellx1500\\intbl a\\tab b\\cell c\\cell", {60, 150}},
+      {u"\\cellx600\\cellx1500\\intbl a\\cell b\\par c\\cell", {150}, 60}};
+  for (const Definition& one : definitions) {
+    window.surface.TextRTF(u"{\\rtf1\\trowd" + std::u16string(one.row) + u"\\row}");
+    window.view.Settle();
+    const Document& document = window.surface.Content();
+    const Piece& row =
+        window.pane.Cache().At(document.ParagraphStart(document.ParagraphCount() - 1));
+    std::vector<double> rights;
+    for (const PieceCell& cell : row.cells) rights.push_back(cell.right);
+    EXPECT_EQ(rights, one.rights) << ToUtf8(one.row);
+    EXPECT_EQ(row.cells.front().left, one.left) << ToUtf8(one.row);
   }
 }
 

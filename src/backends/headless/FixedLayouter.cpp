@@ -5,6 +5,7 @@
 
 #include "base/Strings.h"
 #include "view/layout/LineStack.h"
+#include "view/layout/RowCells.h"
 
 namespace lumenote {
 
@@ -26,6 +27,9 @@ struct Glyph {
   double advance;  // pixels; 0 for the second half of a surrogate pair
   double ascent;
   double descent;
+
+  /// Turns a tab into the invisible end of a table cell.
+  void EndCell() { unit = 0, advance = 0; }
 };
 
 class FixedPiece final : public Piece {
@@ -68,7 +72,6 @@ class PieceBuilder {
       : layouter_(layouter),
         document_(document),
         piece_(piece),
-        end_(document.ParagraphEnd(document.ParagraphOf(piece.from))),
         tabStep_(layouter.Pixels(kDefaultTabStep)) {}
 
   /// Returns false if an incomplete span gave no whole line.
@@ -84,15 +87,18 @@ class PieceBuilder {
   double Behind(int index, double x) const;
   int LineEnd(int start, int limit, double left, double room) const;
   void AddLine(int start, int end, double left);
-  void Place(LineStack& stack, std::size_t line);
-  int EndCell(int start);
-  char16_t UnitAt(int index) const { return piece_.glyphs[static_cast<std::size_t>(index)].unit; }
+  void AddCell(const RowCell& cell, int start, int end);
+  void PlaceFrom(LineStack& stack, std::size_t line);
+  void Place(LineStack& stack, PieceLine& line);
+  bool EndsWithLineBreak() const {
+    return !piece_.glyphs.empty() && piece_.glyphs.back().unit == kLineBreak;
+  }
+  int IndexBehind(const RowCell& cell, bool last) const;
   std::u16string Text() const;
 
   const FixedLayouter& layouter_;
   const Document& document_;
   FixedPiece& piece_;
-  const Position end_;
   const double tabStep_;
 };
 
@@ -165,8 +171,11 @@ void PieceBuilder::AddLine(int start, int end, double left) {
   for (int i = start; i < end; ++i) piece_.rights.push_back(left = Behind(i, left));
 }
 
-void PieceBuilder::Place(LineStack& stack, std::size_t index) {
-  PieceLine& line = piece_.lines[index];
+void PieceBuilder::PlaceFrom(LineStack& stack, std::size_t line) {
+  for (; line < piece_.lines.size(); ++line) Place(stack, piece_.lines[line]);
+}
+
+void PieceBuilder::Place(LineStack& stack, PieceLine& line) {
   const Position at = piece_.ToPosition(line.start);
   const Glyph none = GlyphOf(0, document_.CharFormatAt(at));
   double ascent = line.start == line.end ? none.ascent : 0;
@@ -198,43 +207,44 @@ bool PieceBuilder::BuildLines(const PieceSpan& span) {
   if (piece_.lines.empty()) return false;
   piece_.to = piece_.ToPosition(piece_.lines.back().end);
   piece_.closes = piece_.closes && piece_.to == span.to;
-  if (piece_.closes && count > 0 && UnitAt(count - 1) == kLineBreak)
-    AddLine(count, count, stack.Edges().following);
-  for (std::size_t i = 0; i < piece_.lines.size(); ++i) Place(stack, i);
+  if (piece_.closes && EndsWithLineBreak()) AddLine(count, count, stack.Edges().following);
+  PlaceFrom(stack, 0);
   stack.Finish(Text());
   return true;
 }
 
-// Each cell ends with a tab of no width; the last cell takes the rest of the paragraph.
 bool PieceBuilder::BuildRow() {
-  const Kept& row = KeptOf(document_.CharFormatAt(end_));
-  const bool isRow = layouter_.cellsOf && row.kind == Kept::Kind::Row;
-  const std::vector<double> edges = isRow ? layouter_.cellsOf(row) : std::vector<double>();
-  if (edges.empty()) return false;
-  AddText(piece_.from, end_);
+  const std::vector<RowCell> cells = RowCellsAt(layouter_, document_, piece_.from);
+  if (cells.empty()) return false;
+  AddText(piece_.from, piece_.to);
   LineStack stack(layouter_, document_, piece_);
-  const int count = static_cast<int>(piece_.glyphs.size());
   int start = 0;
-  for (std::size_t cell = 0; cell < edges.size(); ++cell) {
-    const double left = cell == 0 ? 0 : edges[cell - 1];
-    const int limit = cell + 1 < edges.size() ? EndCell(start) : count;
-    stack.BeginCell(left, edges[cell]);
-    for (int end = -1; end != limit; start = end) {
-      end = LineEnd(start, limit, left, edges[cell] - left);
-      AddLine(start, end, left);
-      Place(stack, piece_.lines.size() - 1);
-    }
+  for (const RowCell& cell : cells) {
+    const bool last = &cell == &cells.back();
+    const int end = IndexBehind(cell, last);
+    if (!last) piece_.glyphs[static_cast<std::size_t>(end) - 1].EndCell();
+    const std::size_t line = piece_.lines.size();
+    AddCell(cell, start, end);
+    if (last && EndsWithLineBreak()) AddLine(end, end, cell.left);
+    stack.BeginCell(cell.left, cell.right);
+    PlaceFrom(stack, line);
+    start = end;
   }
   stack.Finish(Text());
   return true;
 }
 
-int PieceBuilder::EndCell(int start) {
-  const auto tab = std::find_if(piece_.glyphs.begin() + start, piece_.glyphs.end(),
-                                [](const Glyph& glyph) { return glyph.unit == u'\t'; });
-  if (tab == piece_.glyphs.end()) return static_cast<int>(piece_.glyphs.size());
-  *tab = {.unit = 0, .advance = 0, .ascent = tab->ascent, .descent = tab->descent};
-  return static_cast<int>(tab - piece_.glyphs.begin()) + 1;
+void PieceBuilder::AddCell(const RowCell& cell, int start, int end) {
+  for (int lineEnd = -1; lineEnd != end; start = lineEnd) {
+    lineEnd = LineEnd(start, end, cell.left, cell.right - cell.left);
+    AddLine(start, lineEnd, cell.left);
+  }
+}
+
+// Text composed where a cell begins belongs to that cell.
+int PieceBuilder::IndexBehind(const RowCell& cell, bool last) const {
+  const int index = cell.end - piece_.from;
+  return last || index > piece_.composedAt ? index + piece_.composedLength : index;
 }
 
 }  // namespace
@@ -244,7 +254,7 @@ FontMetrics FixedLayouter::MetricsOf(const Document&, const CharFormat& format) 
 }
 
 std::unique_ptr<Piece> FixedLayouter::Make(const Document& document, const PieceSpan& span) {
-  if (cellsOf) {
+  if (cells) {
     const Position paragraph = document.ParagraphOf(span.from);
     auto row = std::make_unique<FixedPiece>();
     Open(*row, document,

@@ -16,9 +16,9 @@ class FixedLayouter final : public TextLayouter {
   /// The size of the box shown for a character with kept content; unset, such a character is an
   /// ordinary one.
   std::function<PixelSize(const Kept&)> boxOf;
-  /// The right edges, in pixels, of the cells of the table row that a break ends. Unset or empty,
-  /// the cells are text separated by tabs.
-  std::function<std::vector<double>(const Kept&)> cellsOf;
+  /// Whether table rows are laid out as cells beside each other; else their cells are text
+  /// separated by tabs.
+  bool cells = false;
 
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 

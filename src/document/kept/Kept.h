@@ -32,6 +32,7 @@ struct KeptItem {
   Kind kind = Kind::Group;
   ItemId next = 0;
   std::string source{};
+  std::vector<std::int32_t> cells{};  // right edges that a row states, twips from the text's left
   bool operator==(const KeptItem&) const = default;
 };
 using KeptItems = std::vector<KeptItem>;  // in order, not chained yet

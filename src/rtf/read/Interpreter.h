@@ -51,6 +51,7 @@ class Interpreter {
   void KeepWord(int value, const Token& word);
   void KeepSection(int value, const Token& word);
   void KeepRow(int value, const Token& word);
+  void KeepCell(int value, const Token& word);
   void KeepStyle(int value, const Token& word);
   void KeepMark(int value, const Token& word);
   void KeepAssociated(int value, const Token& word);
@@ -137,7 +138,7 @@ class Interpreter {
   }
   bool PrepareBreak();
   void BreakAs(Kept kept);
-  static std::string RowDefinition(const KeptItems& items);
+  static KeptItem RowDefinition(const KeptItems& items);
   CharId CharacterWith(Kept kept);
   CharId NextCharacter();
   HeadId Head();
@@ -174,7 +175,7 @@ class Interpreter {
   ItemKeeper items_;
   WordKeeper words_;
   bool needsTables_ = false;      // some kept content refers to the source's tables
-  std::string row_;               // definition of the current row, if it preceded the cells
+  KeptItem row_;                  // definition of the current row, if it preceded the cells
   std::size_t contentCount_ = 0;  // count of texts, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
   bool inHead_ = true;  // the body has not started

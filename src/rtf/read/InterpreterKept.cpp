@@ -75,6 +75,11 @@ void Interpreter::KeepRow(int, const Token& word) {
   items_.Keep(KeptItem::Kind::Row, SourceOf(word));
 }
 
+void Interpreter::KeepCell(int, const Token& word) {
+  items_.Keep(KeptItem::Kind::Words, SourceOf(word));
+  items_.KeepCell(word.number);
+}
+
 // --- groups
 
 /// The source of the group from its first word, at `from`, to the current position.
@@ -121,13 +126,16 @@ void Interpreter::KeepInHead(std::string source) {
 
 // --- characters
 
-/// The words of the last table row that the items define; empty if there is none.
-std::string Interpreter::RowDefinition(const KeptItems& items) {
+/// The last table row that the items define, with the words after it; without source if there is
+/// none.
+KeptItem Interpreter::RowDefinition(const KeptItems& items) {
   using Kind = KeptItem::Kind;
-  std::string row;
+  KeptItem row{.kind = Kind::Row};
   for (const KeptItem& item : items) {
-    if (item.kind == Kind::Row) row.clear();
-    if (item.kind == Kind::Row || (item.kind == Kind::Words && !row.empty())) row += item.source;
+    if (item.kind == Kind::Row) row = {.kind = Kind::Row};
+    if (item.kind != Kind::Row && (item.kind != Kind::Words || row.source.empty())) continue;
+    row.source += item.source;
+    row.cells.insert(row.cells.end(), item.cells.begin(), item.cells.end());
   }
   return row;
 }
@@ -135,7 +143,7 @@ std::string Interpreter::RowDefinition(const KeptItems& items) {
 /// Adds all items kept before the character.
 CharId Interpreter::CharacterWith(Kept kept) {
   KeptItems before = items_.Take();
-  if (std::string row = RowDefinition(before); !row.empty()) row_ = std::move(row);
+  if (KeptItem row = RowDefinition(before); !row.source.empty()) row_ = std::move(row);
   kept.before = formats_.items.Chain(std::move(before), kept.before);
   kept.field = State().field;
   if (kept.before != 0) kept.serial = formats_.NextSerial();

@@ -67,8 +67,8 @@ void Interpreter::Row(int nested, const Token&) {
   CountContent();
   Kept row{.kind = Kept::Kind::Row, .nested = static_cast<std::uint8_t>(nested)};
   KeptItems items = items_.Take();
-  const bool defined = nested != 0 || row_.empty() || !RowDefinition(items).empty();
-  if (!defined) items.insert(items.begin(), {.kind = KeptItem::Kind::Row, .source = row_});
+  const bool defined = nested != 0 || row_.source.empty() || !RowDefinition(items).source.empty();
+  if (!defined) items.insert(items.begin(), row_);
   row.self = formats_.items.Chain(std::move(items));
   ParaId paragraph = ParagraphNumber();
   if (const auto cell = body_.LastCell()) {
@@ -81,7 +81,7 @@ void Interpreter::Row(int nested, const Token&) {
   const int deep = std::clamp(std::max(declared, State().paragraph.nesting), 2, 0xFF);
   format.nesting = static_cast<std::uint8_t>(nested ? deep : std::min(declared, 1));
   body_.Row({CharacterWith(row), formats_.paragraphs.Intern(format)});
-  if (nested == 0) row_.clear();
+  if (nested == 0) row_ = {};
 }
 
 }  // namespace lumenote

@@ -21,15 +21,22 @@ bool GoesOn(Kind last, Kind kind) {
 void ItemKeeper::Keep(KeptItem::Kind kind, std::string_view source) {
   const bool goesOn = !sealed_ && Pending() && GoesOn(pending_.back().kind, kind);
   sealed_ = false;
-  if (!goesOn) pending_.push_back({kind, 0});
+  if (!goesOn) pending_.push_back({kind});
   sources_ += source;
   pending_.back().end = static_cast<std::uint32_t>(sources_.size());
+  pending_.back().cells = static_cast<std::uint32_t>(cells_.size());
+}
+
+void ItemKeeper::KeepCell(std::int32_t edge) {
+  cells_.push_back(edge);
+  ++pending_.back().cells;
 }
 
 void ItemKeeper::Keep(const KeptItems& items) {
   for (const KeptItem& item : items) {
     sealed_ = true;
     Keep(item.kind, item.source);
+    for (const std::int32_t edge : item.cells) KeepCell(edge);
   }
 }
 
@@ -38,16 +45,22 @@ ItemKeeper::Index ItemKeeper::NextIndex() {
   return taken_ + pending_.size();
 }
 
+KeptItem ItemKeeper::Between(const Stretch& before, const Stretch& stretch) const {
+  return {.kind = stretch.kind,
+          .source = sources_.substr(before.end, stretch.end - before.end),
+          .cells = {cells_.begin() + before.cells, cells_.begin() + stretch.cells}};
+}
+
 KeptItems ItemKeeper::TakeSince(Index index) {
   const std::size_t first = std::clamp(index, taken_, NextIndex()) - taken_;
-  const std::size_t start = first == 0 ? 0 : pending_[first - 1].end;
+  const Stretch start = first == 0 ? Stretch() : pending_[first - 1];
   KeptItems items;
-  std::size_t from = start;
-  for (std::size_t i = first; i < pending_.size(); from = pending_[i++].end)
-    items.push_back(
-        {.kind = pending_[i].kind, .source = sources_.substr(from, pending_[i].end - from)});
+  Stretch before = start;
+  for (std::size_t i = first; i < pending_.size(); before = pending_[i++])
+    items.push_back(Between(before, pending_[i]));
   pending_.resize(first);
-  sources_.resize(start);
+  sources_.resize(start.end);
+  cells_.resize(start.cells);
   return items;
 }
 
@@ -55,7 +68,8 @@ KeptItems ItemKeeper::Take() {
   const Index behind = NextIndex();
   KeptItems items;
   if (pending_.size() > kMaxItems) {
-    pending_[kMaxItems - 1] = {Kind::Group, pending_.back().end};
+    pending_[kMaxItems - 1] = pending_.back();
+    pending_[kMaxItems - 1].kind = Kind::Group;
     pending_.resize(kMaxItems);
   }
   items = TakeSince(taken_);

@@ -17,6 +17,8 @@ class ItemKeeper {
   bool Pending() const { return !pending_.empty(); }
   void Keep(KeptItem::Kind kind, std::string_view source);
   void Keep(const KeptItems& items);
+  /// A right edge that the item kept last states.
+  void KeepCell(std::int32_t edge);
 
   /// A position in the sequence of all items ever kept; taking earlier items does not invalidate
   /// it.
@@ -30,12 +32,16 @@ class ItemKeeper {
 
  private:
   struct Stretch {
-    KeptItem::Kind kind;
-    std::uint32_t end;  // end of its source in `sources_`
+    KeptItem::Kind kind = KeptItem::Kind::Group;
+    std::uint32_t end = 0;    // end of its source in `sources_`
+    std::uint32_t cells = 0;  // end of its cells in `cells_`
   };
+
+  KeptItem Between(const Stretch& before, const Stretch& stretch) const;
 
   std::vector<Stretch> pending_;
   std::string sources_;
+  std::vector<std::int32_t> cells_;
   Index taken_ = 0;      // position of the first element of `pending_`
   bool sealed_ = false;  // nothing more is merged into the last item
 };

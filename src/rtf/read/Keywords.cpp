@@ -162,6 +162,7 @@ constexpr Keyword kOwnWords[] = {
     {"s", &I::KeepStyle},
     {"sectd", &I::KeepSection},
     {"trowd", &I::KeepRow},
+    {"cellx", &I::KeepCell},
     {"rtlch", &I::KeepMark, Of(KeptWord::Kind::Direction)},
     {"ltrch", &I::KeepMark, Of(KeptWord::Kind::Direction)},
     {"loch", &I::KeepMark, Of(KeptWord::Kind::Script)},
@@ -194,11 +195,11 @@ constexpr std::string_view kKeptOfParagraphs[] = {
     "saauto",       "sbauto",      "sbys",      "shading",    "widctlpar",   "wraparound",
     "wrapdefault",  "wrapthrough", "wraptight"};
 constexpr std::string_view kKeptOfPlaces[] = {
-    "binfsxn",   "cellx",   "chatn",   "chdate",   "chftn",    "chpgn",    "chtime",
-    "colno",     "cols",    "colsr",   "colsx",    "colw",     "endnhere", "footery",
-    "guttersxn", "headery", "htmlrtf", "irow",     "irowband", "lastrow",  "linebetcol",
-    "lndscpsxn", "ltrrow",  "ltrsect", "margbsxn", "marglsxn", "margrsxn", "margtsxn",
-    "pghsxn",    "pgwsxn",  "rtlrow",  "rtlsect",  "sectnum",  "titlepg",  "ts"};
+    "binfsxn", "chatn",   "chdate",   "chftn",    "chpgn",    "chtime",     "colno",
+    "cols",    "colsr",   "colsx",    "colw",     "endnhere", "footery",    "guttersxn",
+    "headery", "htmlrtf", "irow",     "irowband", "lastrow",  "linebetcol", "lndscpsxn",
+    "ltrrow",  "ltrsect", "margbsxn", "marglsxn", "margrsxn", "margtsxn",   "pghsxn",
+    "pgwsxn",  "rtlrow",  "rtlsect",  "sectnum",  "titlepg",  "ts"};
 
 constexpr std::string_view NameOf(std::string_view name) { return name; }
 template <class Word>
