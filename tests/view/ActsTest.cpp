@@ -159,7 +159,7 @@ TEST(InputMethods, ComposeReplaceAndCommit) {
   user.surface.UserSelect(1000, 1000);
   EXPECT_EQ(user.input.Surroundings(), (Selection{500, 1500}));
   user.surface.UserSelect(0, 2000);
-  EXPECT_EQ(user.input.ToldSelection(), (Selection{0, 500}));
+  EXPECT_EQ(user.input.SelectedExcerpt(), (Selection{0, 500}));
   user.locked = true;
   user.input.Take({.committed = u"x"});
   EXPECT_EQ(user.surface.Content().Length(), 2000);

@@ -36,7 +36,7 @@ Selection ViewInput::Surroundings() const {
       document.SnapBackward(std::min(document.ParagraphEnd(paragraph), caret + kSurroundings))};
 }
 
-Selection ViewInput::ToldSelection() const {
+Selection ViewInput::SelectedExcerpt() const {
   const Selection selection = view_.Surface().Selected();
   return {selection.start, std::min(selection.end, selection.start + kSurroundings)};
 }

@@ -10,7 +10,8 @@ class ViewInput {
  public:
   explicit ViewInput(NoteView& view) : view_(view) {}
 
-  /// One event of an input method.
+  /// One event of an input method: replaces, then commits, then shows what is composed now.
+  /// Whatever was composed before is gone.
   struct Message {
     Position replaceFrom = 0;  // relative to the caret
     Position replaceLength = 0;
@@ -21,10 +22,10 @@ class ViewInput {
   /// Ignored if the view is locked. May detach the view.
   void Take(const Message& message);
 
-  /// The range of text around the caret that an input method gets.
+  /// The range of text around the caret that an input method gets, within the caret's paragraph.
   Selection Surroundings() const;
-  /// The selection relative to that range.
-  Selection ToldSelection() const;
+  /// The selection, or only its start if it is long.
+  Selection SelectedExcerpt() const;
 
  private:
   void Replace(const Message& message);

@@ -19,8 +19,9 @@ class ViewMouse {
     std::int64_t time = 0;  // milliseconds on any monotonic clock
     bool extend = false;    // with Shift
   };
-  /// The left button was pressed; a second press soon after and nearby is a double click.
+  /// The left button was pressed; soon after a double click, this is the third click.
   void Down(const Press& press);
+  /// Instead of `Down` for the second press of a double click, as the system counts them.
   void DoubleClick(const Press& press);
   /// The mouse moved; `held` tells whether the left button is down.
   void Move(PixelPoint at, bool held);

@@ -123,6 +123,21 @@ void NoteView::ScrollBy(double pixels) {
   Settle();
 }
 
+// A page keeps a line of the one before in sight.
+void NoteView::ScrollByPages(double pages) {
+  ScrollBy(pages * std::max(kScrollStep, pane_.Size().height - kScrollStep));
+}
+
+void NoteView::ScrollTo(double value) {
+  pane_.Scroll().To(value);
+  Settle();
+}
+
+void NoteView::ScrollAcrossTo(double pixels) {
+  pane_.ScrolledRight(pixels);
+  Settle();
+}
+
 void NoteView::Zoom(double factor) {
   pane_.Zoom(std::clamp(factor, kLeastZoom, kMaxZoom));
   damage_.Everything();

@@ -13,6 +13,9 @@ namespace lumenote {
 /// called.
 class NoteView : private SurfaceView {
  public:
+  /// Pixels of a scroll bar's step; a wheel's notch scrolls as many as the system has lines for it.
+  static constexpr double kScrollStep = 20;
+
   /// All must outlive the view; the surface's breaker uses the same layouter.
   NoteView(DocumentSurface& surface, TextLayouter& layouter, ViewHost& host);
   ~NoteView() override;
@@ -43,10 +46,18 @@ class NoteView : private SurfaceView {
   void Blink();
   /// Scrolls by pixels, as the user does.
   void ScrollBy(double pixels);
+  /// The same by clicks on a scroll bar's arrows, or beside its slider; upwards if negative.
+  void ScrollBySteps(double steps) { ScrollBy(steps * kScrollStep); }
+  void ScrollByPages(double pages);
+  /// The sliders have been moved: to a value on the scale of `ScrollModel::Read`, and to a distance
+  /// up to `TextPane::MostRight`.
+  void ScrollTo(double value);
+  void ScrollAcrossTo(double pixels);
   void Zoom(double factor);
   /// Zooms in by that many steps, or out if negative.
   void ZoomBy(double steps);
-  /// Colours or fonts have changed: lays out and paints everything again.
+  /// Colours have changed: lays out and paints everything again at the same width. After a change
+  /// of fonts, `Zoom` to the present factor, which also empties the line table.
   void Restyle();
   /// Discards the layout to free memory; it is recreated when it is shown.
   void Forget() { pane_.Cache().Clear(); }

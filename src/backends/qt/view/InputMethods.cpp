@@ -53,7 +53,7 @@ QVariant AnswerText(RichTextView& view, Qt::InputMethodQuery query) {
     case Qt::ImAbsolutePosition:
       return surface.Caret();
     case Qt::ImCurrentSelection:
-      return text(view.Input().ToldSelection());
+      return text(view.Input().SelectedExcerpt());
     default:
       return {};
   }

@@ -24,7 +24,6 @@ namespace {
 
 constexpr int kFramelessHeight = 20;  // a lower box gets no frame
 constexpr double kMargin = 3;
-constexpr double kWheelLine = 20;  // pixels
 constexpr double kWheelNotch = 120;
 constexpr int kScrollInterval = 30;  // milliseconds
 
@@ -182,7 +181,7 @@ void RichTextView::wheelEvent(QWheelEvent* event) {
   const QPointF notches = QPointF(event->angleDelta()) / kWheelNotch;
   if (event->modifiers() & Qt::ControlModifier) return text_.ZoomBy(notches.y());
   const QPointF pixels = event->pixelDelta().isNull()
-                             ? notches * kWheelLine * QApplication::wheelScrollLines()
+                             ? notches * NoteView::kScrollStep * QApplication::wheelScrollLines()
                              : QPointF(event->pixelDelta());
   bars_.Turn(pixels.x(), pixels.y());
 }

@@ -11,13 +11,13 @@ namespace lumenote {
 
 namespace {
 constexpr int kBarlessHeight = 48;  // a lower box gets no scroll bars
-constexpr int kLineStep = 20;       // pixels
 constexpr double kMaxRange = 1e9;
 }  // namespace
 
 ViewBars::ViewBars(RichTextView& view) : view_(view) {
-  view.verticalScrollBar()->setSingleStep(kLineStep);
-  view.horizontalScrollBar()->setSingleStep(kLineStep);
+  constexpr int kStep = static_cast<int>(NoteView::kScrollStep);
+  view.verticalScrollBar()->setSingleStep(kStep);
+  view.horizontalScrollBar()->setSingleStep(kStep);
   QObject::connect(view.verticalScrollBar(), &QScrollBar::actionTriggered, &view,
                    [this](int action) { Step(action); });
 }
@@ -58,25 +58,23 @@ void ViewBars::SyncVertical() {
 
 void ViewBars::Follow(int dx, int dy) {
   if (syncing_) return;
-  if (dx != 0) view_.Pane().ScrolledRight(view_.horizontalScrollBar()->value());
-  if (dy != 0) view_.Pane().Scroll().To(view_.verticalScrollBar()->value());
-  view_.Settle();
+  if (dx != 0) view_.Text().ScrollAcrossTo(view_.horizontalScrollBar()->value());
+  if (dy != 0) view_.Text().ScrollTo(view_.verticalScrollBar()->value());
 }
 
 void ViewBars::Step(int action) {
-  const double page = std::max<double>(kLineStep, view_.viewport()->height() - kLineStep);
   switch (action) {
     case QAbstractSlider::SliderSingleStepAdd:
-      view_.Text().ScrollBy(kLineStep);
+      view_.Text().ScrollBySteps(1);
       break;
     case QAbstractSlider::SliderSingleStepSub:
-      view_.Text().ScrollBy(-kLineStep);
+      view_.Text().ScrollBySteps(-1);
       break;
     case QAbstractSlider::SliderPageStepAdd:
-      view_.Text().ScrollBy(page);
+      view_.Text().ScrollByPages(1);
       break;
     case QAbstractSlider::SliderPageStepSub:
-      view_.Text().ScrollBy(-page);
+      view_.Text().ScrollByPages(-1);
       break;
     default:
       return;

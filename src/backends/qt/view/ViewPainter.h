@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include "backends/qt/text/QtLayouter.h"
+#include "view/pane/RangeBoxes.h"
 #include "view/pane/ViewDamage.h"
 
 namespace lumenote {
@@ -25,11 +26,9 @@ class ViewPainter {
 
  private:
   void PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area);
-  void PaintSelectedBreak(QPainter& painter, const ShownPiece& item);
   void PaintBullet(QPainter& painter, const ShownPiece& item);
   void PaintSelection(QPainter& painter, const ShownPiece& item);
-  void PaintSelectedText(QPainter& painter, const QtPiece& piece, QPointF origin, int line,
-                         int start, int end);
+  void PaintSelectedText(QPainter& painter, const ShownPiece& item, const RangeBox& part);
 
   TextPane& pane_;
   QtLayouter& layouter_;
