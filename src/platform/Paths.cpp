@@ -53,8 +53,13 @@ std::vector<std::u16string> EnTouteCasse(const Files& files, std::u16string_view
       if (other[place] != c) spellings.push_back(std::move(other));
     }
   }
-  std::erase_if(spellings, [&](const std::u16string& one) { return !files.Exists(one); });
-  return spellings;
+  std::vector<std::u16string> found;
+  for (std::u16string& one : spellings) {
+    const auto isThis = [&](const std::u16string& other) { return files.SameFile(one, other); };
+    if (files.Exists(one) && std::none_of(found.begin(), found.end(), isThis))
+      found.push_back(std::move(one));
+  }
+  return found;
 }
 
 }  // namespace lumenote

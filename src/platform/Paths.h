@@ -23,7 +23,7 @@ std::u16string FoldBackslashes(std::u16string_view path);
 /// Replaces the last three characters by `extension`; empty if the path is shorter.
 std::u16string ChmExts(std::u16string_view path, std::u16string_view extension);
 /// The existing files that match `path` with its last three characters in any letter case, the
-/// exact name first. A case-insensitive file system may yield the same file several times.
+/// exact name first; each file once, though the system may find it under several spellings.
 std::vector<std::u16string> EnTouteCasse(const Files& files, std::u16string_view path);
 
 }  // namespace lumenote

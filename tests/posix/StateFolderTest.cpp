@@ -8,7 +8,7 @@
 namespace lumenote {
 namespace {
 
-class StateFolderTest : public SandboxTest {
+class StateFolderTest : public PosixTest {
  protected:
   NativeStateFolder Start() const { return NativeStateFolder(Native("state"), drives_); }
 
@@ -45,43 +45,6 @@ TEST_F(StateFolderTest, WhatIsLeftIsHandedOverUntilItIsRescued) {
     EXPECT_EQ(Left(rescued), std::set<std::string>{"C:\\a.rtf={\\rtf1}"});
   EXPECT_EQ(Left(), std::set<std::string>{});
   EXPECT_EQ(CountOfEntries("state"), 0U);
-}
-
-TEST_F(StateFolderTest, ALivingOwnerKeepsItsCopies) {
-  NativeStateFolder state = Start();
-  const auto copy = state.MakeStateCopy();
-  Write(*copy, "a.txt", "one");
-  EXPECT_EQ(Left(), std::set<std::string>{});
-  copy->Begin(u"a.txt");
-  copy->Append("two");
-  const auto name = [&] { return copy->Path().substr(Native("").size()); };
-  EXPECT_EQ(Get(name()), "one");
-  const std::string own = name().substr(0, name().rfind('/'));
-  copy->Remove();
-  EXPECT_EQ(CountOfEntries(own), 1U);  // the mark
-  EXPECT_THROW(copy->Append("x"), RuntimeError);
-  EXPECT_THROW(copy->Commit(), RuntimeError);
-  std::filesystem::remove_all(Native("state"));
-  Write(*copy, "a.txt", "again");
-  EXPECT_EQ(Get(name()), "again");
-}
-
-TEST_F(StateFolderTest, ForeignFoldersStay) {
-  for (const char* name : {"state/owner-ABCDEF", "state/rescue"}) {
-    std::filesystem::create_directories(Native(name));
-    Put(std::string(name) + "/1.note", "theirs");
-  }
-  EXPECT_EQ(Left(), std::set<std::string>{});
-  EXPECT_EQ(Get("state/owner-ABCDEF/1.note"), "theirs");
-}
-
-TEST_F(StateFolderTest, KeptForGood) {
-  NativeStateFolder state = Start();
-  EXPECT_EQ(state.KeepForGood(u"Secours_a.txt", "one"), u"C:\\state\\rescue\\Secours_a.txt");
-  EXPECT_EQ(ErrorOf([&] { state.KeepForGood(u"Secours_a.txt", "two"); }), 70);
-  EXPECT_EQ(Get("state/rescue/Secours_a.txt"), "one");
-  NativeStateFolder outside(Native("state"), DrivePaths(Native("c")));
-  EXPECT_EQ(outside.KeepForGood(u"b", ""), FromUtf8(Native("state/rescue/b")));
 }
 
 TEST_F(StateFolderTest, WithoutAFolderNothingIsKept) {

@@ -23,7 +23,7 @@ TEST(Samples, DamagedAtRandomStayReadable) {
   std::mt19937 random(7);
   for (const auto& entry : std::filesystem::directory_iterator(LUMENOTE_TEST_DATA)) {
     if (entry.path().extension() != ".rtf") continue;
-    const std::string whole = DataFile(entry.path().filename());
+    const std::string whole = DataFile(entry.path().filename().string());
     for (int times = 0; times < 60; ++times) {
       std::string damaged = whole.substr(0, whole.size() - random() % (whole.size() / 4));
       for (int bytes = times % 8; bytes > 0; --bytes) {

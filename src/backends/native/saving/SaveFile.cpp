@@ -26,10 +26,11 @@ bool HasOtherNames(const std::string& target) {
 /// False, with nothing changed, if that would lose something or the folder refuses it.
 bool Replaced(const std::string& target, std::string_view bytes, Keep keep) {
   if (keep == Keep::All && HasOtherNames(target)) return false;
-  const OpenFile old = OpenToRead(target);
+  OpenFile old = OpenToRead(target);
   AtomicFile file(target, Permissions::UserOnly);
   if (file.Refused()) return false;
   if (!file.TakeAttributes(old) && keep == Keep::All) return false;
+  old.Close();  // some systems replace no file that is open
   file.Write(bytes);
   return file.TryCommit();
 }

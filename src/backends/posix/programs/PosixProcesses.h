@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "backends/native/folders/DrivePaths.h"
-#include "backends/posix/programs/ProgramWindows.h"
+#include "backends/native/programs/ProgramWindows.h"
 #include "backends/posix/programs/StartedProgram.h"
 #include "platform/Processes.h"
 

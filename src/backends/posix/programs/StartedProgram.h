@@ -1,12 +1,11 @@
 // A started program, until all its processes have ended.
 #pragma once
-#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <sys/types.h>
 
-#include "backends/posix/programs/ProgramWindows.h"
+#include "backends/native/programs/HandedFile.h"
 #include "platform/Processes.h"
 
 namespace lumenote {
@@ -21,7 +20,7 @@ class StartedProgram {
   StartedProgram(ProcessId id, pid_t leader, std::string program, std::string file);
 
   ProcessId Id() const { return id_; }
-  bool HasFile() const { return !file_.empty(); }
+  bool HasFile() const { return !file_.IsNone(); }
   /// The process group while its number cannot have been reused: as long as the leader is not
   /// reaped.
   std::optional<pid_t> GroupOf(std::string_view program) const;
@@ -29,21 +28,15 @@ class StartedProgram {
   bool IsRunning(const ProgramWindows* windows);
 
  private:
-  using Clock = std::chrono::steady_clock;
-
   bool IsGroupAlive();
-  bool IsHandedOver(const ProgramWindows& windows);
 
   ProcessId id_;
   pid_t leader_;
   std::string program_;
-  std::string file_;
+  HandedFile file_;
+  bool ended_ = false;
   bool leaderEnded_ = false;
   pid_t member_ = 0;  // a process of the group that ran at the last check
-  Clock::time_point start_ = Clock::now();
-  std::optional<Clock::time_point> end_;  // when the group ended
-  Clock::time_point nextLook_ = start_;
-  bool shown_ = false;
 };
 
 }  // namespace lumenote

@@ -1,6 +1,6 @@
 // Other programs' windows on an X11 desktop.
 #pragma once
-#include "backends/posix/programs/ProgramWindows.h"
+#include "backends/native/programs/ProgramWindows.h"
 
 namespace lumenote {
 

@@ -85,7 +85,10 @@ OpenFile OpenToAppend(const std::string& path) {
 
 bool IsTaken(int error) { return error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS; }
 
-bool IsMissing(int error) { return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND; }
+bool IsMissing(int error) {
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ||
+         error == ERROR_DIRECTORY || error == ERROR_INVALID_NAME;
+}
 
 bool IsElsewhere(int error) { return error == ERROR_NOT_SAME_DEVICE; }
 
@@ -96,10 +99,13 @@ int SyncToDisk(const std::string& path) {
   return ErrorUnless(file.IsOpen() && FlushFileBuffers(HandleOf(file)));
 }
 
+// A target that somebody has open for a moment is "access denied" here.
 int RenameOver(const std::string& from, const std::string& to) {
   constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
   return Patiently([&] {
-    return ErrorUnless(MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(), kHow));
+    const int error =
+        ErrorUnless(MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(), kHow));
+    return error == ERROR_ACCESS_DENIED ? ERROR_SHARING_VIOLATION : error;
   });
 }
 

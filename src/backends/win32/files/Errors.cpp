@@ -1,6 +1,7 @@
 // Maps system errors to run-time errors.
 #include "backends/native/files/Errors.h"
 
+#include "backends/native/files/Disk.h"
 #include "backends/win32/system/System.h"
 
 namespace lumenote {
@@ -8,11 +9,15 @@ namespace {
 
 constexpr int kQuotaExceeded = 1295;  // lacks a name in some headers
 
-ErrorNumber NumberOf(int error, ErrorNumber refusal) {
+ErrorNumber MissingAt(const std::string& path) {
+  return IsOwnFolder(ParentOf(path)) ? ErrorNumber::FileNotFound : ErrorNumber::PathNotFound;
+}
+
+ErrorNumber NumberOf(int error, const std::string& path, ErrorNumber refusal) {
   switch (error) {
     case ERROR_FILE_NOT_FOUND:
-      return ErrorNumber::FileNotFound;
     case ERROR_PATH_NOT_FOUND:
+      return MissingAt(path);
     case ERROR_INVALID_NAME:
     case ERROR_BAD_PATHNAME:
     case ERROR_DIRECTORY:
@@ -39,12 +44,12 @@ bool IsRefusal(int error) {
          error == ERROR_USER_MAPPED_FILE;
 }
 
-RuntimeError AccessError(int error, const std::string&) {
-  return RuntimeError(NumberOf(error, ErrorNumber::PathAccess));
+RuntimeError AccessError(int error, const std::string& path) {
+  return RuntimeError(NumberOf(error, path, ErrorNumber::PathAccess));
 }
 
-RuntimeError RemovalError(int error, const std::string&) {
-  return RuntimeError(NumberOf(error, ErrorNumber::PermissionDenied));
+RuntimeError RemovalError(int error, const std::string& path) {
+  return RuntimeError(NumberOf(error, path, ErrorNumber::PermissionDenied));
 }
 
 }  // namespace lumenote

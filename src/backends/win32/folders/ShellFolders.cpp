@@ -1,7 +1,5 @@
 #include "backends/win32/folders/ShellFolders.h"
 
-#include <shlobj.h>
-
 #include "backends/win32/files/WideNames.h"
 #include "backends/win32/system/System.h"
 

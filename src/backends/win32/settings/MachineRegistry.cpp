@@ -12,7 +12,7 @@ class SystemRegistry final : public Registry {
   std::optional<std::u16string> Read(std::u16string_view key,
                                      std::u16string_view name) const override {
     for (const REGSAM view : {KEY_WOW64_64KEY, KEY_WOW64_32KEY})
-      if (auto value = RegistryKey(HKEY_LOCAL_MACHINE, key, KEY_READ | view).Read(name))
+      if (auto value = RegistryKey::Open(HKEY_LOCAL_MACHINE, key, KEY_READ | view).Read(name))
         return value;
     return std::nullopt;
   }

@@ -3,24 +3,34 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "backends/win32/system/System.h"
 
 namespace lumenote {
 
+/// Or none, which has no values and takes none.
 class RegistryKey {
  public:
-  /// Opens an existing key; `path` below `root`.
-  RegistryKey(HKEY root, std::u16string_view path, REGSAM access);
+  /// An existing key, `path` below `root`.
+  static RegistryKey Open(HKEY root, std::u16string_view path, REGSAM access);
+  /// Made with its parents if it is missing.
+  static RegistryKey Create(HKEY root, std::u16string_view path);
+
+  RegistryKey(RegistryKey&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
   RegistryKey(const RegistryKey&) = delete;
   RegistryKey& operator=(const RegistryKey&) = delete;
   ~RegistryKey();
 
-  /// A string value; an empty name is the default value. Nothing if there is none, or no such key.
+  /// A string; an empty name is the key's default value.
   std::optional<std::u16string> Read(std::u16string_view name) const;
+  /// Returns whether it is stored.
+  bool Write(std::u16string_view name, std::u16string_view value) const;
 
  private:
-  HKEY key_ = nullptr;
+  explicit RegistryKey(HKEY key) : key_(key) {}
+
+  HKEY key_;
 };
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// The system's own header, without its macros that take our names. Nothing else includes it.
+// The system's own headers, without its macros that take our names. Nothing else includes it.
 #pragma once
 
 #ifndef NOMINMAX
@@ -9,7 +9,12 @@
 #define UNICODE
 #endif
 
+// The others need the first.
+// clang-format off
 #include <windows.h>
+#include <shlobj.h>
+#include <tlhelp32.h>
+// clang-format on
 
 #undef ChooseFont
 #undef FindText

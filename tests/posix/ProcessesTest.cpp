@@ -1,4 +1,4 @@
-// Real programs: starting, watching and ending them; the files of the registry.
+// Real programs: starting, watching and ending them.
 #include <cerrno>
 #include <chrono>
 #include <csignal>
@@ -7,13 +7,12 @@
 #include <sys/wait.h>
 #include <thread>
 
+#include "Sandbox.h"
 #include "backends/native/folders/NativeProgramFolders.h"
-#include "backends/native/settings/IniRegistry.h"
 #include "backends/posix/programs/PosixProcesses.h"
-#include "base/Rows.h"
+#include "base/Strings.h"
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
-#include "posix/Sandbox.h"
 
 namespace lumenote {
 namespace {
@@ -32,7 +31,7 @@ struct FakeWindows : ProgramWindows {
   std::string title;
 };
 
-class ProcessesTest : public SandboxTest {
+class ProcessesTest : public PosixTest {
  protected:
   void Script(const std::string& name, const std::string& lines) {
     Put(name, "#!/bin/sh\n" + lines, 0755);
@@ -158,43 +157,10 @@ TEST_F(ProcessesTest, AProgramThatRefusesLingers) {
   EXPECT_TRUE(EndsSoon(process));
 }
 
-TEST_F(ProcessesTest, TheFirstFileThatHoldsAValueCounts) {
-  Put("a.ini", "[Machine/SOFTWARE\\\\Ab]\nPath=one\n");
-  Put("b.ini", "[Machine/Software\\\\ab]\nPath=two\n=default\n");
-  const IniRegistry registry({Native("none.ini"), Native("a.ini"), Native("b.ini")});
-  EXPECT_EQ(registry.Read(u"software\\AB", u"Path"), u"one");
-  EXPECT_EQ(registry.Read(u"software\\AB", u""), u"default");
-  EXPECT_EQ(registry.Read(u"software", u"Path"), std::nullopt);
-}
-
 TEST(ProgramFoldersTest, TheComponentsFolderHoldsThisProgram) {
   const NativeProgramFolders folders(DrivePaths::OfUser());
   const std::string native = DrivePaths::OfUser().ToNative(folders.Component());
   EXPECT_EQ(native, std::filesystem::read_symlink("/proc/self/exe").parent_path().string());
-}
-
-TEST(ProgramCommandTest, SplitsByTheRulesOfDriveLetterPrograms) {
-  for (const auto& [line, words] : Rows<2>(R"(
-␣ => "" ¦ ␣␣a b⇥ c␣ => <a><b><c> ¦ "C:\a b\" x => <C:\a b\><x> ¦ p "open => <p><open>
-p "C:\a b" /l"" "" => <p><C:\a b></l><> ¦ p a\\"b c" \"d\\e => <p><a\b c><"d\\e> ¦ "open => <open>
-"C:\a"" b\""" x => <C:\a" b\"><x>
-)",
-                                           " => ")) {
-    std::string split;
-    for (const std::u16string& word : SplitCommandLine(FromUtf8(Replaced(line, "⇥", "\t"))))
-      split += "<" + ToUtf8(word) + ">";
-    EXPECT_EQ(split, words) << line;
-  }
-  const std::u16string paths[] = {u"C:\\a b.rtf", u"C:\\a\"b", u"C:\\\"\"", u"a\\\" \\b\"\\", u""};
-  for (const auto& program : paths)
-    for (const auto& file : paths)
-      EXPECT_EQ(
-          SplitCommandLine(QuotedProgram(program) + u" " + Quoted(file) + u" /l" + Quoted(file)),
-          (std::vector{program, file, u"/l" + file}));
-  EXPECT_EQ(QuotedProgram(u"C:\\\\a b\\"), u"\"C:\\a b\\\"");
-  EXPECT_EQ(Quoted(u"C:\\\\a b\\"), u"\"C:\\a b\\\"");
-  EXPECT_EQ(ChmExts(u"C:\\a.rtf", u"txt"), u"C:\\a.txt");
-  EXPECT_EQ(ChmExts(u"ab", u"txt"), u"");
 }
 
 }  // namespace

@@ -1,0 +1,19 @@
+# Sourced by test-windows.sh: wine with a prefix of its own, silent and without an X server.
+
+# usage: start_wine PREFIX
+start_wine() {
+  # File names are UTF-8 only where the locale says so.
+  export WINEPREFIX=$1 WINEDEBUG=-all LC_ALL=C.UTF-8
+  # No installers of other run-times, no debugger's box, no entries in the user's menus.
+  export WINEDLLOVERRIDES='mscoree,mshtml=;winedbg.exe=d;winemenubuilder.exe=d'
+  unset DISPLAY WAYLAND_DISPLAY
+  mkdir -p "$WINEPREFIX"
+  # A server and services that a later command starts would keep that command's output open.
+  wineserver -p >/dev/null 2>&1 </dev/null
+  {
+    wine wineboot --init
+    wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
+  } >"$WINEPREFIX/start.log" 2>&1 </dev/null
+}
+
+stop_wine() { wineserver -k >/dev/null 2>&1 </dev/null || true; }

@@ -1,0 +1,87 @@
+#include "backends/win32/clipboard/SystemClipboard.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "backends/win32/files/WideNames.h"
+
+namespace lumenote {
+namespace {
+
+/// Open as long as this lives.
+class OpenedClipboard {
+ public:
+  explicit OpenedClipboard(HWND owner) {
+    for (int i = 0; i < 20 && !open_; ++i) {
+      if (i > 0) Sleep(10);
+      open_ = OpenClipboard(owner);
+    }
+  }
+  OpenedClipboard(const OpenedClipboard&) = delete;
+  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+  ~OpenedClipboard() {
+    if (open_) CloseClipboard();
+  }
+  explicit operator bool() const { return open_; }
+
+ private:
+  bool open_ = false;
+};
+
+/// What the open clipboard holds in a format, up to the first zero unit.
+template <class Text>
+std::optional<Text> Taken(UINT format) {
+  using Unit = typename Text::value_type;
+  const HANDLE data = GetClipboardData(format);
+  const auto* units = data ? static_cast<const Unit*>(GlobalLock(data)) : nullptr;
+  if (!units) return std::nullopt;
+  const std::size_t size = GlobalSize(data) / sizeof(Unit);
+  Text text(units, std::find(units, units + size, Unit()));
+  GlobalUnlock(data);
+  return text;
+}
+
+/// Gives the open clipboard a copy with a zero unit at its end.
+template <class Text>
+void Put(UINT format, const Text& text) {
+  const std::size_t size = (text.size() + 1) * sizeof(text[0]);
+  const HGLOBAL data = GlobalAlloc(GMEM_MOVEABLE, size);
+  if (!data) return;
+  std::memcpy(GlobalLock(data), text.c_str(), size);
+  GlobalUnlock(data);
+  if (!SetClipboardData(format, data)) GlobalFree(data);
+}
+
+}  // namespace
+
+SystemClipboard::SystemClipboard()
+    : rtf_(RegisterClipboardFormatW(L"Rich Text Format")),
+      owner_(CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
+                             nullptr)) {}
+
+SystemClipboard::~SystemClipboard() { DestroyWindow(owner_); }
+
+ClipboardContent SystemClipboard::Get() const {
+  ClipboardContent content;
+  const OpenedClipboard clipboard(owner_);
+  if (!clipboard) return content;
+  if (const auto text = Taken<std::wstring>(CF_UNICODETEXT)) content.text = FromWide(*text);
+  content.rtf = Taken<std::string>(rtf_);
+  if (content.rtf && content.rtf->empty()) content.rtf.reset();
+  return content;
+}
+
+bool SystemClipboard::HasContent() const {
+  return IsClipboardFormatAvailable(CF_UNICODETEXT) || IsClipboardFormatAvailable(rtf_);
+}
+
+void SystemClipboard::Set(const ClipboardContent& content) {
+  const OpenedClipboard clipboard(owner_);
+  if (!clipboard || !EmptyClipboard()) return;
+  if (content.text) Put(CF_UNICODETEXT, ToWide(*content.text));
+  if (content.rtf) Put(rtf_, *content.rtf);
+}
+
+void SystemClipboard::Clear() { Set({}); }
+
+}  // namespace lumenote
