@@ -146,6 +146,8 @@ TEST_F(QtHostTest, TwoControlsFindTheirOwnNotesAfterARoundTrip) {
     QApplication::processEvents(QEventLoop::WaitForMoreEvents);
   EXPECT_EQ(control->pStrOrchm(), u"note");
   EXPECT_EQ(second->pStrOrchm(), u"autre note");
+  control.reset();
+  EXPECT_EQ(QDir::temp().entryList({"lumenote-*"}).size(), 1);
 }
 
 TEST_F(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
