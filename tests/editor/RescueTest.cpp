@@ -10,20 +10,7 @@ namespace {
 const std::u16string kQjot = u"C:\\Program Files\\qjot\\qjot.exe";
 const std::u16string kQuestion = u"Voulez-vous enregistrer les modifs en cours";
 
-class RescueTest : public HostTest {
- protected:
-  /// Whether a file of the user's holds that text; temporary ones do not count.
-  bool OnDisk(const std::string& text) {
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {
-      const std::string path = entry.path().generic_string();
-      if (!entry.is_regular_file() || path.find("/c/Temp/") != path.npos) continue;
-      std::ifstream file(entry.path());
-      const std::string bytes(std::istreambuf_iterator<char>(file), {});
-      if (bytes.find(text) != bytes.npos) return true;
-    }
-    return false;
-  }
-};
+class RescueTest : public HostTest {};
 
 TEST_F(RescueTest, WithoutAnyPlaceTheWindowStays) {
   const struct {
@@ -347,7 +334,7 @@ TEST_F(RescueTest, NoActOfTheHostInABoxLosesText) {
         Mend();
         sandbox.Programs().Finish();
         const std::u16string note = control->pStrOrchm();
-        EXPECT_TRUE(note.find(u"SAISI") != note.npos || OnDisk("SAISI"))
+        EXPECT_TRUE(note.find(u"SAISI") != note.npos || OnDisk("SAISI", "/c/Temp/"))
             << fileMode << " user " << user << " host " << host;
         control->pStrOrchm(u"");
         Clear();

@@ -274,6 +274,7 @@ TEST_F(RoundTripTest, AResultInAFormWithoutFormatsWaitsForWhatWasTyped) {
     Type(u"d'");
     disk.Write(u"C:\\Temp\\Sava.txt", "retour");
   });
+  EXPECT_EQ(Boxes(), Texts{u"Erreur fichier temporaire"});
   EXPECT_EQ(disk.ReadAll(u"C:\\Temp\\Sava.txt"), "retour");
   sandbox.MakeParents(u"C:\\Documents\\x");
   Editor().Unload();

@@ -157,6 +157,18 @@ class HostTest : public testing::Test {
     std::filesystem::remove_all(folder.Path() + "/state");
     std::ofstream(folder.Path() + "/state") << "no folder";
   }
+  /// Whether a file holds that text; those with `except` in their path do not count.
+  bool OnDisk(std::string_view text, std::string_view except = "//") const {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {
+      if (!entry.is_regular_file() ||
+          entry.path().generic_string().find(except) != std::string::npos)
+        continue;
+      std::ifstream file(entry.path());
+      const std::string bytes(std::istreambuf_iterator<char>(file), {});
+      if (bytes.find(text) != bytes.npos) return true;
+    }
+    return false;
+  }
   /// An empty disk, but for the programs.
   void Clear() {
     for (const std::u16string used : {u"C:\\n", u"C:\\Temp", u"C:\\Documents"}) {

@@ -140,6 +140,9 @@ TEST(Keeping, WhatAnEditLeavesOfANumberIsText) {
 }
 
 TEST(Keeping, LongSourcesComeInTheirTurn) {
+  std::string items;
+  for (int i = 0; i < 600; ++i) items += "{\\*\\bkmkstart k}{\\*\\x}";
+  EXPECT_EQ(Body(Rewritten("{\\rtf1 a" + items + "b}")), "\\f0\\fs24 a" + items + "b\\par }");
   const std::string picture = "{\\pict\\wmetafile8 " + std::string(200'000, '0') + "}";
   EXPECT_EQ(LossOf(Read("{\\rtf1{\\info{\\title " + std::string(100'000, 't') + "}}a" + picture +
                         "b" + picture + picture + "c\\par d" + picture + "}")),
