@@ -1,4 +1,4 @@
-// The layout: what is shown, what the line queries say and what the document holds agree.
+// The layout by Qt keeps the contract of layouters, and what it lays out is painted.
 #include <QImage>
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -8,9 +8,13 @@
 #include "backends/qt/view/RichTextView.h"
 #include "surface/Fakes.h"
 #include "view/Edits.h"
+#include "view/LayoutContract.h"
 #include "view/layout/PieceBreaker.h"
 
 namespace lumenote {
+
+std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<QtLayouter>(); }
+
 namespace {
 
 /// A surface as the backend makes it, without a window.
@@ -23,46 +27,6 @@ struct TestSurface {
   PieceBreaker breaker{layouter};
   DocumentSurface surface{clipboard, files, breaker};
 };
-
-/// Line starts as a view lays them out, walking from piece to piece.
-std::vector<Position> LineStarts(LayoutCache& cache) {
-  std::vector<Position> starts;
-  for (const Piece* piece = &cache.At(0); piece; piece = cache.After(*piece))
-    for (int line = 0; line < std::ssize(piece->lines); ++line)
-      starts.push_back(piece->LineStart(line));
-  return starts;
-}
-
-std::vector<Position> LineStarts(LineTable& lines) {
-  std::vector<Position> starts;
-  for (int line = 0; lines.LineStart(line) >= 0; ++line) starts.push_back(lines.LineStart(line));
-  return starts;
-}
-
-TEST(LayoutTest, ViewAndLineTableAgree) {
-  const std::u16string words = Words(700);
-  const std::u16string notes[] = {words + u"\\par\\par " + words,
-                                  Words(9000),
-                                  std::u16string(5000, u'x'),
-                                  u"\\li600\\fi-300\\ri500 " + words,
-                                  u"\\qj\\fi400 " + Words(4000),
-                                  u"\\tx1500\\tqr\\tx3000 a\\tab b\\tab c " + words,
-                                  words + u"\\line x\\line\\line " + words,
-                                  u"\\fs40 " + words + u"\\fs16\\b " + words,
-                                  words + u"{\\v " + words + u"}" + words,
-                                  u"\\li30000\\ri30000 " + Words(60)};
-  for (const std::u16string& note : notes) {
-    SCOPED_TRACE(&note - notes);
-    TestSurface test;
-    test.surface.TextRTF(u"{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}" + note + u"}");
-    LayoutCache cache(test.surface.Content(), test.layouter);
-    EXPECT_EQ(LineStarts(cache), LineStarts(test.surface.Lines()));
-    EXPECT_GT(LineStarts(cache).size(), 1u);
-    TextPane pane(test.surface, test.layouter);
-    for (const Position start : LineStarts(cache))
-      EXPECT_EQ(pane.ShownLine(start), test.surface.Lines().LineAt(start)) << start;
-  }
-}
 
 /// As the widget does, without its window.
 QImage Painted(RichTextView& view, const ViewMarks& marks, QImage image, const Damage& damage) {

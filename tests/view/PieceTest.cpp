@@ -3,9 +3,13 @@
 
 #include "base/Rows.h"
 #include "document/kept/Kept.h"
+#include "view/LayoutContract.h"
 #include "view/Window.h"
 
 namespace lumenote {
+
+std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<FixedLayouter>(); }
+
 namespace {
 
 TEST(FixedBreaker, Wraps) {

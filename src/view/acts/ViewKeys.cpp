@@ -30,7 +30,7 @@ bool ViewKeys::Edit(const std::optional<KeyStroke>& key, std::u16string_view tex
 }
 
 bool ViewKeys::Zoom(const KeyStroke& key) {
-  if (!key.control || key.name != KeyName::Character) return false;
+  if (!key.control || key.alt || key.name != KeyName::Character) return false;
   switch (key.character) {
     case u'+':
     case u'=':

@@ -3,7 +3,6 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <algorithm>
-#include <cmath>
 
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/Colours.h"
@@ -15,48 +14,7 @@ namespace {
 
 constexpr std::size_t kMaxStyles = 4096;
 constexpr double kLeastPoints = 1;
-constexpr double kMaxPoints = 1638;
 constexpr int kMaxStretch = 4000;  // per cent
-constexpr double kScriptSize = 0.65;
-constexpr double kSuperscriptRaise = 0.33;  // of the full size
-constexpr double kSubscriptRaise = -0.14;
-constexpr double kSmallCapitalSize = 0.8;
-constexpr double kPlaceholderSize = 1.6;
-constexpr double kLeastContrast = 2;
-
-double Luminance(const QColor& colour) {
-  const auto linear = [](double c) {
-    return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-         0.0722 * linear(colour.blueF());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const auto [low, high] = std::minmax({Luminance(one), Luminance(other)});
-  return (high + 0.05) / (low + 0.05);
-}
-
-/// The size of a character and its baseline shift, from superscript, subscript and offset.
-struct Script {
-  double points;
-  double raise;  // pixels
-};
-
-Script ScriptSize(const CharFormat& format) {
-  const double full = std::clamp(format.size / 2.0, kLeastPoints, kMaxPoints);
-  const double pixels = full * 4 / 3;
-  const double offset = ToPixels(format.offset);
-  if (format.effects & kSuperscript)
-    return {full * kScriptSize, offset + pixels * kSuperscriptRaise};
-  if (format.effects & kSubscript) return {full * kScriptSize, offset + pixels * kSubscriptRaise};
-  return {full, offset};
-}
-
-int StrikesOf(unsigned effects) {
-  if (effects & kDoubleStrike) return 2;
-  return effects & (kStrike | kDeleted) ? 1 : 0;
-}
 
 QFont MakeFont(const FontFace& face, const CharFormat& format, double points, double zoom) {
   QFont font(MachineFamily(face));
@@ -69,6 +27,14 @@ QFont MakeFont(const FontFace& face, const CharFormat& format, double points, do
     font.setLetterSpacing(QFont::AbsoluteSpacing, std::max(ToPixels(format.spacing), least) * zoom);
   }
   return QFont(font, CharStyles::Device());
+}
+
+void SetColours(CharStyle& style) {
+  if (style.ground != kAutoColour) style.format.setBackground(FromBgr(style.ground));
+  if (style.object)
+    style.format.setForeground(QColor(Qt::transparent));
+  else if (style.ink != kAutoColour)
+    style.format.setForeground(FromBgr(style.ink));
 }
 
 }  // namespace
@@ -97,27 +63,18 @@ const CharStyle& CharStyles::Of(const Document& document, const CharFormat& form
 }
 
 CharStyle CharStyles::Make(const Document& document, const CharFormat& format) const {
-  const Script script = ScriptSize(format);
+  CharStyle style{LookOf(document.Formats(), format, zoom_, ground_), {}, {}};
   const FontFace& face = document.Formats().fonts[format.font];
-  const bool embedded = document.Formats().kept[format.kept].kind == Kept::Kind::Embedded;
-  const double points = script.points * (embedded ? kPlaceholderSize : 1);
-  const QFont font = MakeFont(face, format, points, zoom_);
+  const QFont font = MakeFont(face, format, style.points, zoom_);
   const QFontMetricsF metrics(font);
-  CharStyle style;
   style.ascent = metrics.ascent();
   style.descent = metrics.descent();
-  style.raise = script.raise * zoom_;
-  style.hidden = format.effects & kHidden;
-  style.object = embedded;
-  style.underline = format.underline;
-  style.strikes = StrikesOf(format.effects);
   style.format.setFont(font);
   style.format.setBaselineOffset(100 * style.raise / (style.ascent + style.descent));
-  SetColours(style, format);
-  style.capitals = format.effects & (kAllCaps | kSmallCaps);
-  if ((format.effects & (kAllCaps | kSmallCaps)) == kSmallCaps) {
+  SetColours(style);
+  if (style.smallCapitals) {
     style.smallLetter = style.format;
-    style.smallLetter->setFont(MakeFont(face, format, points * kSmallCapitalSize, zoom_),
+    style.smallLetter->setFont(MakeFont(face, format, style.points * kSmallCapitalSize, zoom_),
                                QTextCharFormat::FontPropertiesSpecifiedOnly);
   }
   return style;
@@ -129,32 +86,13 @@ void CharStyles::Zoom(double factor) {
 }
 
 void CharStyles::Ground(const QColor& colour) {
-  ground_ = colour;
+  ground_ = ToBgr(colour);
   Forget();
 }
 
 void CharStyles::Forget() {
   styles_.clear();
   lastStyle_.reset();
-}
-
-void CharStyles::SetColours(CharStyle& style, const CharFormat& format) const {
-  const bool highlit = format.highlight != kAutoColour;
-  const QColor ground = highlit ? FromBgr(format.highlight) : ground_;
-  if (highlit) style.format.setBackground(ground);
-  if (style.object)
-    style.format.setForeground(QColor(Qt::transparent));
-  else if (format.colour != kAutoColour)
-    style.format.setForeground(highlit ? FromBgr(format.colour) : Readable(format.colour));
-  else if (highlit)
-    style.format.setForeground(InkOn(ground));
-}
-
-QColor CharStyles::Readable(Colour colour) const {
-  const QColor wanted = FromBgr(colour);
-  const bool darkGround = ground_.lightness() < 128;
-  if (!darkGround || Contrast(wanted, ground_) >= kLeastContrast) return wanted;
-  return QColor::fromHsl(wanted.hslHue(), wanted.hslSaturation(), 255 - wanted.lightness());
 }
 
 }  // namespace lumenote

@@ -6,21 +6,14 @@
 #include <unordered_map>
 
 #include "document/Document.h"
+#include "view/layout/CharLook.h"
 
 namespace lumenote {
 
-/// A character format at one zoom; lengths in pixels.
-struct CharStyle {
-  QTextCharFormat format;  // font, colours, raise
-  double ascent = 0;       // of the font, above its baseline
-  double descent = 0;
-  double raise = 0;  // of the font's baseline above the line's
-  Underline underline = Underline::None;
-  int strikes = 0;  // lines through the text
-  bool hidden = false;
-  bool capitals = false;                       // shown instead of small letters
+/// A character format at one zoom.
+struct CharStyle : CharLook {
+  QTextCharFormat format;                      // font, colours, raise
   std::optional<QTextCharFormat> smallLetter;  // the look of small letters shown as small capitals
-  bool object = false;                         // an invisible placeholder, painted separately
 };
 
 /// The styles of a document's formats, created on demand.
@@ -41,16 +34,13 @@ class CharStyles {
 
  private:
   CharStyle Make(const Document& document, const CharFormat& format) const;
-  void SetColours(CharStyle& style, const CharFormat& format) const;
-  QColor Readable(Colour colour) const;
-
   void Forget();
 
   std::unordered_map<CharId, CharStyle> styles_;
   CharFormat lastFormat_;  // the last one requested directly
   std::optional<CharStyle> lastStyle_;
   double zoom_ = 1;
-  QColor ground_ = Qt::white;
+  Colour ground_ = 0xFFFFFF;
 };
 
 }  // namespace lumenote

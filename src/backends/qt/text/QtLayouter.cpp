@@ -5,132 +5,26 @@
 #include <cmath>
 
 #include "backends/qt/toolkit/QtText.h"
-#include "base/Characters.h"
 #include "view/layout/LineStack.h"
+#include "view/layout/ShownText.h"
 
 namespace lumenote {
 
 namespace {
 
 constexpr double kOutOfSight = 1e6;  // pixels; drawing stops at the first line below this
-constexpr char16_t kLineBreak = u'\v';
-constexpr char16_t kObject = u'\uFFFC';
-// Stand-ins in the layout's text, one unit each.
-constexpr char16_t kLineSeparator = u'\u2028';
-constexpr char16_t kPlaceholder = u'\u25A1';
-constexpr char16_t kInvisible = u'\u200C';
 
 using FormatRange = QTextLayout::FormatRange;
 
-/// Text and formats of a span in Qt's terms.
-class SpanText {
- public:
-  SpanText(const Document& document, const PieceSpan& span, CharStyles& styles)
-      : document_(document), styles_(styles) {
-    text_.reserve(span.to - span.from);
-    document.ForEachRun(span.from, span.to,
-                        [&](Position, TextView run, CharId id) { Append(run.String(), id); });
+/// The formats of a text in Qt's terms.
+QList<FormatRange> FormatsOf(const ShownText& text, const Document& document, CharStyles& styles) {
+  QList<FormatRange> formats;
+  for (const ShownPart& part : text.parts) {
+    const CharStyle& style = styles.Of(document, part.format);
+    formats.push_back(
+        {part.start, part.end - part.start, part.reduced ? *style.smallLetter : style.format});
   }
-
-  void Insert(const QString& composed, const QList<FormatRange>& formats, int at);
-  void MoveTo(QtPiece& piece);
-  bool HasTabs() const { return text_.contains(u'\t'); }
-
- private:
-  void Append(std::u16string_view run, CharId id);
-  void AppendCharacters(std::u16string_view run, const CharStyle& style);
-  void AppendSmallCapitals(std::u16string_view run, const CharStyle& style, int start);
-  void Decorate(const CharStyle& style, int start);
-
-  const Document& document_;
-  CharStyles& styles_;
-  QString text_;
-  QList<FormatRange> formats_;
-  std::vector<Decoration> decorations_;
-  std::vector<PieceRun> runs_;
-};
-
-void SpanText::Append(std::u16string_view run, CharId id) {
-  const int start = static_cast<int>(text_.size());
-  const CharStyle& style = styles_.Of(document_, id);
-  const bool goesOn = !runs_.empty() && runs_.back().format == id;
-  if (!goesOn) runs_.push_back({start, id});
-  AppendCharacters(run, style);
-  if (style.smallLetter)
-    AppendSmallCapitals(run, style, start);
-  else if (goesOn)
-    formats_.back().length += static_cast<int>(run.size());
-  else
-    formats_.push_back({start, static_cast<int>(run.size()), style.format});
-  Decorate(style, start);
-}
-
-void SpanText::AppendCharacters(std::u16string_view run, const CharStyle& style) {
-  if (style.hidden) {
-    text_.append(QString(static_cast<qsizetype>(run.size()), QChar(kInvisible)));
-    return;
-  }
-  const qsizetype start = text_.size();
-  text_.append(style.capitals ? ToQString(Upper(run)) : ToQString(run));
-  if (run.find_first_of(u"\v\uFFFC") == run.npos) return;
-  std::replace(text_.begin() + start, text_.end(), QChar(kLineBreak), QChar(kLineSeparator));
-  std::replace(text_.begin() + start, text_.end(), QChar(kObject), QChar(kPlaceholder));
-}
-
-void SpanText::AppendSmallCapitals(std::u16string_view run, const CharStyle& style, int start) {
-  const auto isSmall = [](char16_t c) { return ToUpper(c) != c; };
-  for (std::size_t from = 0; from < run.size();) {
-    const bool small = isSmall(run[from]);
-    std::size_t to = from + 1;
-    while (to < run.size() && isSmall(run[to]) == small) ++to;
-    formats_.push_back({start + static_cast<int>(from), static_cast<int>(to - from),
-                        small ? *style.smallLetter : style.format});
-    from = to;
-  }
-}
-
-void SpanText::Decorate(const CharStyle& style, int start) {
-  const bool underlined = style.underline != Underline::None;
-  if (!underlined && style.strikes == 0 && !style.object && style.raise == 0) return;
-  if (style.hidden) return;
-  Decoration decoration;
-  decoration.start = start;
-  decoration.end = static_cast<int>(text_.size());
-  decoration.underline = style.underline;
-  decoration.strikes = style.strikes;
-  decoration.object = style.object;
-  decoration.ascent = style.ascent;
-  decoration.descent = style.descent;
-  decoration.raise = style.raise;
-  if (!style.object && style.format.hasProperty(QTextFormat::ForegroundBrush))
-    decoration.colour = style.format.foreground().color();
-  decorations_.push_back(decoration);
-}
-
-void SpanText::Insert(const QString& composed, const QList<FormatRange>& formats, int at) {
-  const int length = static_cast<int>(composed.size());
-  text_.insert(at, composed);
-  for (FormatRange& range : formats_) {
-    if (range.start >= at && range.start > 0)
-      range.start += length;
-    else if (range.start + range.length >= at)
-      range.length += length;
-  }
-  for (Decoration& decoration : decorations_) {
-    if (decoration.start >= at) decoration.start += length;
-    if (decoration.end > at) decoration.end += length;
-  }
-  for (FormatRange range : formats) {
-    range.start += at;
-    formats_.push_back(range);
-  }
-}
-
-void SpanText::MoveTo(QtPiece& piece) {
-  piece.layout.setText(text_);
-  piece.layout.setFormats(formats_);
-  piece.decorations = std::move(decorations_);
-  piece.runs = std::move(runs_);
+  return formats;
 }
 
 /// Breaks the text of a piece into lines.
@@ -246,11 +140,7 @@ bool LineMaker::Build(const PieceSpan& span) {
 void LineMaker::Place(QTextLine line, PieceLine& box) {
   double ascent = line.ascent();
   double descent = line.descent();
-  for (const Decoration& run : piece_.decorations) {
-    if (run.end <= box.start || run.start >= box.end) continue;
-    ascent = std::max(ascent, run.ascent + run.raise);
-    descent = std::max(descent, run.descent - run.raise);
-  }
+  Extend(piece_.decorations, box, ascent, descent);
   stack_.Place(box, ascent, descent);
   line.setPosition({line.position().x(), box.baseline - line.ascent()});
 }
@@ -264,14 +154,25 @@ FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& fo
 
 std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpan& span) {
   auto piece = std::make_unique<QtPiece>();
-  SpanText text(document, span, styles);
-  if (Open(*piece, document, span))
-    text.Insert(ToQString(Composed().text), composedFormats, piece->composedAt);
+  ShownText text(document, span.from, span.to,
+                 [&](CharId id) -> const CharLook& { return styles.Of(document, id); });
+  const bool composing = Open(*piece, document, span);
+  if (composing) text.Insert(piece->composedAt, Composed().text);
+  QList<FormatRange> formats = FormatsOf(text, document, styles);
+  if (composing)
+    for (FormatRange range : composedFormats) {
+      range.start += piece->composedAt;
+      formats.push_back(range);
+    }
   const QTextCharFormat& first = styles.Of(document, document.CharFormatAt(span.from)).format;
   piece->layout.setFont(QFont(first.font(), CharStyles::Device()));
   piece->layout.setCacheEnabled(true);
-  text.MoveTo(*piece);
-  if (!LineMaker(*this, document, *piece, text.HasTabs()).Build(span)) return nullptr;
+  piece->layout.setText(ToQString(text.text));
+  piece->layout.setFormats(formats);
+  piece->decorations = std::move(text.decorations);
+  piece->runs = std::move(text.runs);
+  const bool tabs = text.text.find(u'\t') != text.text.npos;
+  if (!LineMaker(*this, document, *piece, tabs).Build(span)) return nullptr;
   return piece;
 }
 

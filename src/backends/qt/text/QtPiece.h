@@ -1,25 +1,11 @@
 // A piece laid out by Qt.
 #pragma once
-#include <QColor>
 #include <QTextLayout>
 #include <vector>
 
-#include "view/layout/Piece.h"
+#include "view/layout/Strokes.h"
 
 namespace lumenote {
-
-/// Something drawn over or under characters `start`..`end` of the layout's text.
-struct Decoration {
-  int start = 0;
-  int end = 0;
-  Underline underline = Underline::None;
-  int strikes = 0;
-  bool object = false;  // a placeholder for an object that cannot be shown
-  double ascent = 0;    // of the font, pixels
-  double descent = 0;
-  double raise = 0;  // of its baseline above the line's
-  QColor colour;     // invalid: the text's automatic colour
-};
 
 class QtPiece final : public Piece {
  public:

@@ -10,6 +10,10 @@ inline QColor FromBgr(std::uint32_t colour) {
   return QColor(colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF);
 }
 
+inline std::uint32_t ToBgr(const QColor& colour) {
+  return static_cast<std::uint32_t>(colour.red() | colour.green() << 8 | colour.blue() << 16);
+}
+
 /// Black or white, whichever contrasts more.
 inline QColor InkOn(const QColor& ground) {
   return qGray(ground.rgb()) >= 128 ? QColor(Qt::black) : QColor(Qt::white);

@@ -7,6 +7,7 @@
 namespace lumenote {
 
 inline PixelPoint ToPoint(QPointF point) { return {point.x(), point.y()}; }
+inline QPointF ToQPoint(PixelPoint point) { return {point.x, point.y}; }
 
 inline QRectF ToQRect(const PixelRect& rect) {
   return {rect.left, rect.top, rect.Width(), rect.Height()};

@@ -1,0 +1,29 @@
+// How a character format looks, as far as no toolkit is needed to say so.
+#pragma once
+#include "document/FormatTables.h"
+
+namespace lumenote {
+
+/// Size of capitals shown for small letters, relative to the font's.
+inline constexpr double kSmallCapitalSize = 0.8;
+
+/// A character format at one zoom. The backend adds the extent of its font.
+struct CharLook {
+  double points = 0;  // of the font, not zoomed
+  double raise = 0;   // pixels, of the font's baseline above the line's
+  double ascent = 0;  // pixels, of the font, above its baseline
+  double descent = 0;
+  Underline underline = Underline::None;
+  int strikes = 0;  // lines through the text
+  bool hidden = false;
+  bool capitals = false;       // shown instead of small letters
+  bool smallCapitals = false;  // and these are smaller
+  bool object = false;         // an invisible placeholder, painted separately
+  Colour ink = kAutoColour;
+  Colour ground = kAutoColour;
+};
+
+/// `ground` is that of the note; ink with too little contrast is lightened on a dark one.
+CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground);
+
+}  // namespace lumenote
