@@ -14,8 +14,13 @@ void TextLayouter::Zoom(double factor) {
   Zoomed();
 }
 
+void TextLayouter::Scale(double factor) {
+  scale_ = factor;
+  Zoomed();
+}
+
 double TextLayouter::Pixels(double twips) const {
-  return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsInPixel * zoom_;
+  return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsInPixel * zoom_ * scale_;
 }
 
 std::unique_ptr<Piece> TextLayouter::LayOut(const Document& document, const PieceSpan& span) {

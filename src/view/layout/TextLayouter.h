@@ -43,9 +43,13 @@ class TextLayouter {
   void Width(double pixels) { width_ = pixels; }
   double Zoom() const { return zoom_; }
   void Zoom(double factor);
+  /// Pixels of the device in one at 96 dots per inch; the zoom does not count.
+  double Scale() const { return scale_; }
+  void Scale(double factor);
   const Composition& Composed() const { return composed_; }
   void Composed(Composition text) { composed_ = std::move(text); }
-  /// Converts a length in the document to zoomed pixels; clamps it to the largest page.
+  /// Converts a length in the document to zoomed pixels of the device; clamps it to the largest
+  /// page.
   double Pixels(double twips) const;
 
   /// Null if an incomplete span has at most one line, whose end is thus unknown.
@@ -57,7 +61,7 @@ class TextLayouter {
   /// Realises `LayOut`. The same text at the same width and zoom must give the same lines, whatever
   /// span of its paragraph is asked for: the screen, the line queries and the caret rely on it.
   virtual std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& span) = 0;
-  /// Called after a zoom change: discard everything derived from formats.
+  /// Called after a change of zoom or scale: discard everything derived from formats.
   virtual void Zoomed() {}
   /// Initialises the piece's position; returns true if it contains composed text.
   bool Open(Piece& piece, const Document& document, const PieceSpan& span) const;
@@ -65,6 +69,7 @@ class TextLayouter {
  private:
   double width_ = 400;
   double zoom_ = 1;
+  double scale_ = 1;
   Composition composed_;
 };
 

@@ -1,0 +1,20 @@
+// Lays out paragraphs with Uniscribe and the fonts of GDI.
+#pragma once
+#include "backends/win32/text/CharStyles.h"
+#include "view/layout/TextLayouter.h"
+
+namespace lumenote {
+
+/// Creates `UniscribePiece`s. Needs no window; measures in whole pixels of the device.
+class UniscribeLayouter final : public TextLayouter {
+ public:
+  CharStyles styles;
+
+  FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
+
+ private:
+  std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& span) override;
+  void Zoomed() override { styles.Zoom(Zoom() * Scale()); }
+};
+
+}  // namespace lumenote

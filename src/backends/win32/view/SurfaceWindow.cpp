@@ -1,0 +1,387 @@
+#include "backends/win32/view/SurfaceWindow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <new>
+#include <utility>
+
+#include "backends/win32/toolkit/Keys.h"
+#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/view/Composing.h"
+#include "backends/win32/view/EditMessages.h"
+#include "backends/win32/view/ViewAccessible.h"
+#include "base/Strings.h"
+
+// After the system's own header.
+#include <windowsx.h>
+
+namespace lumenote {
+
+namespace {
+
+constexpr UINT kSettle = WM_APP + 1;
+constexpr UINT_PTR kScrolling = 1;  // a timer
+constexpr UINT kScrollInterval = 30;
+constexpr int kFramelessHeight = 20;  // a lower window gets no frame
+constexpr double kMargin = 3;
+constexpr DWORD kStyle = WS_CHILD | WS_TABSTOP | WS_VSCROLL | WS_HSCROLL;
+
+PixelPoint PointOf(LPARAM at) { return {1.0 * GET_X_LPARAM(at), 1.0 * GET_Y_LPARAM(at)}; }
+
+/// A key whose text comes as a WM_CHAR: a character, also one made with AltGr.
+bool Types(const KeyStroke& key) {
+  const bool text = key.name == KeyName::Character || key.name == KeyName::Space;
+  return text && key.control == key.alt;
+}
+
+RECT RectOf(const PixelRect& rect) {
+  return {std::lround(rect.left), std::lround(rect.top), std::lround(rect.right),
+          std::lround(rect.bottom)};
+}
+
+}  // namespace
+
+SurfaceWindow::SurfaceWindow(HWND parent, DocumentSurface& surface, UniscribeLayouter& layouter,
+                             ViewCallbacks callbacks)
+    : Window(parent,
+             {OwnClass(L"LumenoteSurface", CS_DBLCLKS, IDC_IBEAM), kStyle, WS_EX_CLIENTEDGE}),
+      layouter_(layouter),
+      callbacks_(std::move(callbacks)),
+      text_(surface, layouter, *this) {
+  TakeScale();
+  ShowGround();
+}
+
+SurfaceWindow::~SurfaceWindow() { target_->Revoke(); }
+
+void SurfaceWindow::Detach() {
+  target_->Revoke();
+  caret_.Remove();
+  text_.Detach();
+}
+
+bool SurfaceWindow::Drop(PixelPoint at) {
+  const int edits = text_.Edits();
+  drop_.DropOwn(at, false);
+  return text_.Edits() != edits;
+}
+
+// --- requests of the view
+
+void SurfaceWindow::Act(const std::function<void()>& act) {
+  if (callbacks_.act)
+    callbacks_.act(act);
+  else
+    act();
+}
+
+PointerManners SurfaceWindow::Pointer() const {
+  return {.dragDistance = 1.0 * GetSystemMetrics(SM_CXDRAG) + GetSystemMetrics(SM_CYDRAG),
+          .doubleClickTime = 1.0 * GetDoubleClickTime()};
+}
+
+void SurfaceWindow::SettleSoon() { PostMessageW(Handle(), kSettle, 0, 0); }
+
+// Pixels that are themselves still to be painted cannot be moved.
+void SurfaceWindow::ShowDamage(const Damage& damage) {
+  const HWND window = Handle();
+  if (const auto& shift = damage.shift) {
+    const RECT both =
+        RectOf(PixelRect{0, shift->top, text_.Pane().Size().width, shift->bottom}.United(
+            shift->Target(text_.Pane().Size().width)));
+    if (GetUpdateRect(window, nullptr, FALSE))
+      InvalidateRect(window, &both, FALSE);
+    else
+      ScrollWindowEx(window, 0, static_cast<int>(shift->by), &both, &both, nullptr, nullptr,
+                     SW_INVALIDATE);
+  }
+  for (const PixelRect& area : damage.areas) {
+    const RECT rect = RectOf(area);
+    InvalidateRect(window, &rect, FALSE);
+  }
+  ShowCaretPlace();
+}
+
+void SurfaceWindow::ShowCaretPlace() {
+  if (focused_) caret_.Place(text_.Pane().CaretAt(text_.Surface().Caret()));
+}
+
+void SurfaceWindow::Changed(const DocumentChange&) { AnnounceChange(Handle()); }
+
+void SurfaceWindow::SelectionMoved() {
+  AnnounceSelection(Handle());
+  if (!focused_) return;
+  if (const auto caret = text_.Pane().CaretAt(text_.Surface().Caret()))
+    PlaceComposition(Handle(), *caret);
+}
+
+void SurfaceWindow::ScrollTimer(bool on) {
+  if (on)
+    SetTimer(Handle(), kScrolling, kScrollInterval, nullptr);
+  else
+    KillTimer(Handle(), kScrolling);
+}
+
+void SurfaceWindow::ReleaseMouse(MouseButton button, PixelPoint at) {
+  if (!callbacks_.mouseUp || !Handle()) return;
+  RECT frame;
+  GetWindowRect(Handle(), &frame);
+  POINT corner{0, 0};
+  ClientToScreen(Handle(), &corner);
+  const Scale scale = Scale::Of(Handle());
+  callbacks_.mouseUp(
+      {button,
+       {scale.Twips(at.x + corner.x - frame.left), scale.Twips(at.y + corner.y - frame.top)}});
+}
+
+// --- messages
+
+// Exceptions must not pass through the system. What could not be laid out or painted for lack of
+// memory is shown later.
+LRESULT SurfaceWindow::Receive(const Message& message) {
+  try {
+    if (message.id == WM_GETDLGCODE) return DLGC_WANTALLKEYS;
+    if (message.id == WM_DESTROY) target_->Revoke();
+    if (IsAttached())
+      if (const std::optional<LRESULT> answer = Tell(message)) return *answer;
+    if (IsAttached() && Answer(message)) return message.id == WM_ERASEBKGND ? 1 : 0;
+  } catch (const std::bad_alloc&) {
+    text_.Forget();
+    return 0;
+  }
+  return Handle() ? Default(message) : 0;
+}
+
+// What others ask of the window's text.
+std::optional<LRESULT> SurfaceWindow::Tell(const Message& message) {
+  if (message.id != WM_GETOBJECT) return AnswerEdit(text_, message);
+  if (static_cast<LONG>(message.l) != OBJID_CLIENT) return std::nullopt;
+  return AnswerAccessible(Handle(), text_, message.w);
+}
+
+bool SurfaceWindow::Answer(const Message& message) {
+  if (message.id >= WM_MOUSEFIRST && message.id <= WM_MOUSELAST) return HandleMouse(message);
+  if (message.id >= WM_KEYFIRST && message.id <= WM_KEYLAST && message.id < WM_IME_STARTCOMPOSITION)
+    return HandleKeys(message);
+  return HandleComposing(message) || HandleWindow(message);
+}
+
+bool SurfaceWindow::HandleWindow(const Message& message) {
+  switch (message.id) {
+    case kSettle:
+      Settle();
+      return true;
+    case WM_PAINT:
+      Paint();
+      return true;
+    case WM_ERASEBKGND:
+      return true;
+    case WM_SIZE:
+      Resize();
+      return true;
+    case WM_SHOWWINDOW:
+      text_.Show(message.w != 0);
+      return false;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      Focus(message.id == WM_SETFOCUS);
+      return true;
+    case WM_DPICHANGED_AFTERPARENT:
+      TakeScale();
+      return true;
+    case WM_ENABLE:
+    case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE:
+      ShowGround();
+      return true;
+    case WM_CAPTURECHANGED:
+      mouse_.Cancel();
+      return true;
+    case WM_TIMER:
+      if (message.w == kScrolling) mouse_.ScrollOn();
+      return true;
+    case WM_VSCROLL:
+      bars_.Down(Handle(), LOWORD(message.w));
+      return true;
+    case WM_HSCROLL:
+      bars_.Across(Handle(), LOWORD(message.w));
+      return true;
+    case WM_SETCURSOR:
+      if (!arrow_ || LOWORD(message.l) != HTCLIENT) return false;
+      SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+      return true;
+  }
+  return false;
+}
+
+// --- painting and size
+
+void SurfaceWindow::Paint() {
+  if (!text_.IsSettled()) Settle();
+  const PaintScope paint(Handle());
+  const ViewMarks marks = text_.Marks();
+  const ViewColours colours = ViewColours::OfSystem(IsWindowEnabled(Handle()));
+  ViewPainter(text_.Pane(), layouter_, marks, colours).Paint(paint.Get(), paint.Area());
+}
+
+void SurfaceWindow::ShowGround() {
+  layouter_.styles.Ground(ViewColours::OfSystem(IsWindowEnabled(Handle())).ground);
+  text_.Restyle();
+}
+
+void SurfaceWindow::TakeScale() {
+  constexpr double kUsualDpi = 96;
+  layouter_.Scale(Scale::Of(Handle()).Dpi() / kUsualDpi);
+  text_.Pane().Margin(kMargin * layouter_.Scale() + (framed_ ? 0 : GetSystemMetrics(SM_CXEDGE)));
+  text_.Zoom(text_.Pane().Zoom());
+}
+
+// The text starts at the same position with and without a frame.
+void SurfaceWindow::Resize() {
+  const HWND window = Handle();
+  RECT outer;
+  GetWindowRect(window, &outer);
+  const int height = outer.bottom - outer.top;
+  const bool framed = height >= kFramelessHeight * layouter_.Scale();
+  if (std::exchange(framed_, framed) != framed) {
+    SetWindowLongPtrW(window, GWL_EXSTYLE, framed ? WS_EX_CLIENTEDGE : 0);
+    TakeScale();
+    SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  }
+  bars_.Choose(window, height);
+  RECT area;
+  GetClientRect(window, &area);
+  text_.Resize({1.0 * area.right, 1.0 * area.bottom});
+}
+
+void SurfaceWindow::Focus(bool has) {
+  focused_ = has;
+  if (!has) caret_.Remove();
+  text_.Focus(has);
+}
+
+// --- keyboard
+
+bool SurfaceWindow::HandleKeys(const Message& message) {
+  switch (message.id) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      return PressKey(message.w);
+    case WM_CHAR:
+      TypeUnit(static_cast<char16_t>(message.w));
+      return true;
+  }
+  return false;
+}
+
+bool SurfaceWindow::PressKey(WPARAM virtualKey) {
+  if (virtualKey == VK_APPS) {
+    keys_.OpenMenu();
+    return true;
+  }
+  const std::optional<KeyStroke> key = StrokeOf(virtualKey);
+  if (!key || Types(*key)) return false;
+  const HWND window = Handle();
+  const bool used = keys_.Press(key, {}) || Offer(*key);
+  if (used) SwallowCharacter(window);
+  return used;
+}
+
+bool SurfaceWindow::Offer(const KeyStroke& key) {
+  return IsAttached() && callbacks_.key && callbacks_.key(key);
+}
+
+// The halves of a surrogate pair come one by one.
+void SurfaceWindow::TypeUnit(char16_t unit) {
+  if (IsHighSurrogate(unit)) {
+    highSurrogate_ = unit;
+    return;
+  }
+  const char16_t high = std::exchange(highSurrogate_, 0);
+  constexpr char16_t kDelete = 0x7F;
+  if (unit < u' ' || unit == kDelete) return;
+  keys_.Press(std::nullopt,
+              high && IsLowSurrogate(unit) ? std::u16string{high, unit} : std::u16string{unit});
+}
+
+bool SurfaceWindow::HandleComposing(const Message& message) {
+  switch (message.id) {
+    case WM_IME_SETCONTEXT:  // the view shows what is composed
+      DefWindowProcW(Handle(), message.id, message.w,
+                     message.l & ~static_cast<LPARAM>(ISC_SHOWUICOMPOSITIONWINDOW));
+      return true;
+    case WM_IME_STARTCOMPOSITION:
+      SelectionMoved();
+      return true;
+    case WM_IME_COMPOSITION:
+      input_.Take(CompositionOf(Handle(), message.l));
+      return true;
+    case WM_IME_ENDCOMPOSITION:
+      input_.Take({});
+      return true;
+  }
+  return false;
+}
+
+// --- mouse
+
+bool SurfaceWindow::HandleMouse(const Message& message) {
+  switch (message.id) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      PressLeft(message);
+      return true;
+    case WM_MOUSEMOVE:
+      mouse_.Move(PointOf(message.l), message.w & MK_LBUTTON);
+      return true;
+    case WM_LBUTTONUP:
+      mouse_.Up(PointOf(message.l));
+      ReleaseCapture();
+      Release(MouseButton::Left, message.l);
+      return true;
+    case WM_RBUTTONUP:
+      mouse_.Cancel();
+      Release(MouseButton::Right, message.l);
+      return true;
+    case WM_MBUTTONUP:
+      mouse_.Cancel();
+      Release(MouseButton::Middle, message.l);
+      return true;
+    case WM_MOUSEWHEEL:
+    case WM_MOUSEHWHEEL:
+      Turn(message);
+      return true;
+  }
+  return false;
+}
+
+void SurfaceWindow::PressLeft(const Message& message) {
+  const HWND window = Handle();
+  if (GetFocus() != window) SetFocus(window);
+  if (!IsAttached()) return;
+  SetCapture(window);
+  const ViewMouse::Press press{.at = PointOf(message.l),
+                               .time = static_cast<std::int64_t>(GetTickCount64()),
+                               .extend = (message.w & MK_SHIFT) != 0};
+  if (message.id == WM_LBUTTONDBLCLK)
+    mouse_.DoubleClick(press);
+  else
+    mouse_.Down(press);
+}
+
+void SurfaceWindow::Release(MouseButton button, LPARAM at) {
+  if (IsAttached()) ReleaseMouse(button, PointOf(at));
+}
+
+void SurfaceWindow::Turn(const Message& message) {
+  const double notches = 1.0 * GET_WHEEL_DELTA_WPARAM(message.w) / WHEEL_DELTA;
+  if (message.id == WM_MOUSEHWHEEL)
+    bars_.TurnAcross(notches);
+  else if (GET_KEYSTATE_WPARAM(message.w) & MK_CONTROL)
+    text_.ZoomBy(notches);
+  else
+    bars_.Turn(notches);
+}
+
+}  // namespace lumenote

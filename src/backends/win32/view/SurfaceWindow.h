@@ -1,0 +1,111 @@
+// The window that shows a rich-text surface and receives the user's input.
+#pragma once
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "backends/win32/text/UniscribeLayouter.h"
+#include "backends/win32/toolkit/Window.h"
+#include "backends/win32/view/DropTarget.h"
+#include "backends/win32/view/SystemCaret.h"
+#include "backends/win32/view/ViewBars.h"
+#include "backends/win32/view/ViewPainter.h"
+#include "forms/Control.h"
+#include "surface/keys/KeyStroke.h"
+#include "view/acts/ViewDrop.h"
+#include "view/acts/ViewInput.h"
+#include "view/acts/ViewKeys.h"
+#include "view/acts/ViewMouse.h"
+#include "view/pane/NoteView.h"
+
+namespace lumenote {
+
+/// Callbacks from a view to its form; each may be empty.
+struct ViewCallbacks {
+  /// Executes user input on the surface, as an event of the form.
+  std::function<void(const std::function<void()>&)> act{};
+  /// A button was released at a point in twips from the window's corner.
+  std::function<void(const MouseEvent&)> mouseUp{};
+  /// Whether user edits are blocked.
+  std::function<bool()> locked{};
+  /// A key that the view has no use for; true if the form has.
+  std::function<bool(const KeyStroke&)> key{};
+};
+
+/// Shows a `NoteView` in a window of its own class: translates messages and paints. The surface may
+/// be destroyed first, after `Detach`; the window is inert then.
+class SurfaceWindow final : public Window, private ViewHost {
+ public:
+  /// `layouter`, shared with the surface's breaker, must outlive the window.
+  SurfaceWindow(HWND parent, DocumentSurface& surface, UniscribeLayouter& layouter,
+                ViewCallbacks callbacks);
+
+  ~SurfaceWindow() override;
+
+  void Detach();
+  bool IsAttached() const { return text_.IsAttached(); }
+  bool IsLocked() const override { return callbacks_.locked && callbacks_.locked(); }
+  NoteView& Text() { return text_; }
+  void Settle() { text_.Settle(); }
+  std::vector<std::string> Differences() { return text_.Differences(); }
+  /// Moves the selection to a point, as a drag does; false if nothing changed.
+  bool Drop(PixelPoint at);
+
+ protected:
+  LRESULT Receive(const Message& message) override;
+
+ private:
+  // ViewHost
+  void Act(const std::function<void()>& act) override;
+  PointerManners Pointer() const override;
+  void SettleSoon() override;
+  void ShowScrolling() override { bars_.Sync(Handle()); }
+  void ShowDamage(const Damage& damage) override;
+  void Changed(const DocumentChange&) override;
+  void SelectionMoved() override;
+  void ShowArrow(bool arrow) override { arrow_ = arrow; }
+  void ScrollTimer(bool on) override;
+  void Drag() override { drag_.Run(text_); }
+  void OpenMenu(PixelPoint at) override { ReleaseMouse(MouseButton::Right, at); }
+
+  std::optional<LRESULT> Tell(const Message& message);
+  // Each returns whether it has answered the message; the system has the rest.
+  bool Answer(const Message& message);
+  bool HandleWindow(const Message& message);
+  bool HandleKeys(const Message& message);
+  bool HandleMouse(const Message& message);
+  bool HandleComposing(const Message& message);
+
+  void Paint();
+  void Resize();
+  void ShowGround();
+  void TakeScale();
+  void Focus(bool has);
+  bool PressKey(WPARAM virtualKey);
+  bool Offer(const KeyStroke& key);
+  void TypeUnit(char16_t unit);
+  void Turn(const Message& message);
+  void PressLeft(const Message& message);
+  void Release(MouseButton button, LPARAM at);
+  void ReleaseMouse(MouseButton button, PixelPoint at);
+  void ShowCaretPlace();
+
+  UniscribeLayouter& layouter_;
+  ViewCallbacks callbacks_;
+  NoteView text_;
+  ViewKeys keys_{text_};
+  ViewMouse mouse_{text_};
+  ViewInput input_{text_};
+  ViewDrop drop_{text_};
+  ViewBars bars_{text_};
+  SystemCaret caret_{Handle()};
+  OleScope ole_;
+  DragOut drag_;
+  ComOwner<DropTarget> target_{new DropTarget(Handle(), text_, drag_)};
+  char16_t highSurrogate_ = 0;  // typed, its other half still to come
+  bool focused_ = false;
+  bool arrow_ = false;
+  bool framed_ = true;
+};
+
+}  // namespace lumenote

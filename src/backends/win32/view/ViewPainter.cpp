@@ -1,0 +1,143 @@
+#include "backends/win32/view/ViewPainter.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "backends/win32/view/GdiPencil.h"
+#include "view/pane/RangeBoxes.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr wchar_t kBullet = L'\u2022';
+
+int Rounded(double pixels) { return static_cast<int>(std::lround(pixels)); }
+
+const UniscribePiece& PieceOf(const ShownPiece& item) {
+  return static_cast<const UniscribePiece&>(*item.piece);
+}
+
+/// The left and right edges of some units of one part.
+std::pair<int, int> EdgesOf(const UniscribePiece& piece, Selection units) {
+  const auto& first = piece.units[static_cast<std::size_t>(units.start)];
+  const auto& last = piece.units[static_cast<std::size_t>(units.end) - 1];
+  return std::minmax({first.before, last.behind});
+}
+
+/// The part of `units` that is selected; empty at its nearer end if none is.
+Selection SelectedOf(Selection units, Selection selected) {
+  const Position start = std::clamp(selected.start, units.start, units.end);
+  return {start, std::clamp(selected.end, start, units.end)};
+}
+
+bool IsHighContrast() {
+  HIGHCONTRASTW contrast = {};
+  contrast.cbSize = sizeof contrast;
+  return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+         (contrast.dwFlags & HCF_HIGHCONTRASTON);
+}
+
+}  // namespace
+
+ViewColours ViewColours::OfSystem(bool enabled) {
+  return {.ground = GetSysColor(enabled ? COLOR_WINDOW : COLOR_BTNFACE),
+          .ink = GetSysColor(enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT),
+          .highlight = GetSysColor(COLOR_HIGHLIGHT),
+          .highlightInk = GetSysColor(COLOR_HIGHLIGHTTEXT),
+          .plain = IsHighContrast()};
+}
+
+void ViewPainter::Paint(HDC dc, const RECT& area) {
+  const int width = area.right - area.left;
+  const int height = area.bottom - area.top;
+  if (width <= 0 || height <= 0) return;
+  const GdiObject<HBITMAP> bitmap(CreateCompatibleBitmap(dc, width, height));
+  const MemoryDc buffer(dc);
+  const SelectScope selected(buffer.Get(), bitmap.Get());
+  SetViewportOrgEx(buffer.Get(), -area.left, -area.top, nullptr);
+  PaintArea(buffer.Get(), {1.0 * area.left, 1.0 * area.top, 1.0 * area.right, 1.0 * area.bottom});
+  BitBlt(dc, area.left, area.top, width, height, buffer.Get(), area.left, area.top, SRCCOPY);
+}
+
+void ViewPainter::PaintArea(HDC dc, const PixelRect& area) {
+  SetBkMode(dc, TRANSPARENT);
+  Fill(dc, area, colours_.ground);
+  for (const ShownPiece& item : pane_.Visible())
+    if (item.y < area.bottom && item.y + item.piece->height > area.top) PaintPiece(dc, item);
+  if (marks_.dropCaret) Fill(dc, *marks_.dropCaret, colours_.ink);
+}
+
+void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item) {
+  const UniscribePiece& piece = PieceOf(item);
+  const Selection selected{piece.ToIndex(std::max(marks_.selection.start, piece.from)),
+                           piece.ToIndex(std::min(marks_.selection.end, piece.to))};
+  const double left = std::round(pane_.TextLeft());
+  if (const auto stripe = BreakBoxOf(pane_, item, marks_.selection))
+    Fill(dc, *stripe, colours_.highlight);
+  PaintBullet(dc, item);
+  for (std::size_t line = 0; line < piece.lines.size(); ++line)
+    PaintGrounds(dc, {piece, left, item.y, line}, selected);
+  for (std::size_t line = 0; line < piece.lines.size(); ++line)
+    PaintText(dc, {piece, left, item.y, line}, selected);
+  GdiPencil pencil(dc, colours_.ink, colours_.plain);
+  DrawDecorations(pencil, piece, piece.text, piece.decorations, {left, item.y});
+}
+
+void ViewPainter::PaintGrounds(HDC dc, const LinePlace& place, Selection selected) const {
+  for (const LinePart& part : place.piece.parts[place.line]) {
+    const CharStyle& style = StyleOf(place.piece.glyphs[part.run]);
+    if (style.ground != kAutoColour && !colours_.plain)
+      FillUnits(dc, place, part, {part.start, part.end}, style.ground);
+    FillUnits(dc, place, part, SelectedOf({part.start, part.end}, selected), colours_.highlight);
+  }
+}
+
+void ViewPainter::FillUnits(HDC dc, const LinePlace& place, const LinePart&, Selection units,
+                            COLORREF colour) const {
+  if (units.Length() <= 0) return;
+  const auto [left, right] = EdgesOf(place.piece, units);
+  const double top = place.top + place.Box().top;
+  Fill(dc, {place.left + left, top, place.left + right, top + place.Box().height}, colour);
+}
+
+void ViewPainter::PaintText(HDC dc, const LinePlace& place, Selection selected) const {
+  for (const LinePart& part : place.piece.parts[place.line]) {
+    const GlyphRun& run = place.piece.glyphs[part.run];
+    const CharStyle& style = StyleOf(run);
+    if (!run.font || style.object) continue;
+    const bool own = style.ink != kAutoColour && !colours_.plain;
+    const Selection inside = SelectedOf({part.start, part.end}, selected);
+    DrawUnits(dc, place, part, {part.start, inside.start}, own ? style.ink : colours_.ink);
+    DrawUnits(dc, place, part, inside, colours_.highlightInk);
+    DrawUnits(dc, place, part, {inside.end, part.end}, own ? style.ink : colours_.ink);
+  }
+}
+
+void ViewPainter::DrawUnits(HDC dc, const LinePlace& place, const LinePart& part, Selection units,
+                            COLORREF ink) const {
+  if (units.Length() <= 0) return;
+  const GlyphRun& run = place.piece.glyphs[part.run];
+  const auto [first, end] = run.GlyphsOf(units.start, units.end);
+  if (first >= end) return;
+  const SelectScope selected(dc, run.font->Get());
+  SetTextColor(dc, ink);
+  const double baseline = place.top + place.Box().baseline - StyleOf(run).raise;
+  ScriptTextOut(dc, run.font->Cache(), Rounded(place.left + EdgesOf(place.piece, units).first),
+                Rounded(baseline) - run.font->Ascent(), 0, nullptr, &run.analysis, nullptr, 0,
+                run.glyphs.data() + first, static_cast<int>(end - first),
+                run.advances.data() + first, nullptr, run.offsets.data() + first);
+}
+
+void ViewPainter::PaintBullet(HDC dc, const ShownPiece& item) const {
+  const Piece& piece = *item.piece;
+  if (piece.bulletX < 0) return;
+  const CharId format = pane_.Content().CharFormatAt(piece.from);
+  const std::shared_ptr<const GdiFont> font = layouter_.styles.Of(pane_.Content(), format).font;
+  const SelectScope selected(dc, font->Get());
+  SetTextColor(dc, colours_.ink);
+  TextOutW(dc, Rounded(pane_.TextLeft() + piece.bulletX),
+           Rounded(item.y + piece.lines.front().baseline) - font->Ascent(), &kBullet, 1);
+}
+
+}  // namespace lumenote

@@ -1,0 +1,225 @@
+// The surface's window, driven by the messages that the system sends.
+#include <gtest/gtest.h>
+
+#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/view/SurfaceWindow.h"
+#include "backends/win32/view/TransferData.h"
+#include "surface/UserBench.h"
+#include "view/Edits.h"
+#include "view/layout/PieceBreaker.h"
+
+// After the system's own header.
+#include <oleacc.h>
+
+namespace lumenote {
+namespace {
+
+class SurfaceWindowTest : public testing::Test {
+ protected:
+  SurfaceWindowTest() {
+    callbacks.locked = [this] { return locked; };
+    callbacks.mouseUp = [this](const MouseEvent& event) { released.push_back(event); };
+    callbacks.key = [this](const KeyStroke& key) {
+      unused.push_back(key);
+      return true;
+    };
+    window = std::make_shared<SurfaceWindow>(top, surface, layouter, callbacks);
+    SetWindowPos(Handle(), nullptr, 0, 0, 300, 200, SWP_NOZORDER);
+    ShowWindow(top, SW_SHOW);
+    ShowWindow(Handle(), SW_SHOW);
+    SetFocus(Handle());
+  }
+  ~SurfaceWindowTest() override {
+    window->Detach();
+    window.reset();
+    DestroyWindow(top);
+  }
+
+  HWND Handle() const { return window->Handle(); }
+  LRESULT Send(UINT id, WPARAM w = 0, LPARAM l = 0) const {
+    return SendMessageW(Handle(), id, w, l);
+  }
+  void Put(std::u16string_view marked) {
+    surface.Text(Unmarked(marked));
+    const auto [anchor, caret] = MarksOf(marked);
+    surface.UserSelect(anchor, caret);
+    window->Settle();
+  }
+  std::string Shown() const {
+    return ToUtf8(Marked(surface.Text(), surface.Anchor(), surface.Caret()));
+  }
+  LPARAM PointOf(Position position) {
+    const PixelRect caret = window->Text().Pane().CaretAt(position).value_or(PixelRect());
+    return MAKELPARAM(static_cast<int>(caret.left) + 1, static_cast<int>(caret.top) + 4);
+  }
+  POINTL OnScreen(Position position) {
+    const LPARAM at = PointOf(position);
+    POINT point{LOWORD(at), HIWORD(at)};
+    ClientToScreen(Handle(), &point);
+    return {point.x, point.y};
+  }
+
+  bool locked = false;
+  std::vector<MouseEvent> released;
+  std::vector<KeyStroke> unused;
+  ViewCallbacks callbacks;
+  HWND top = CreateWindowExW(0, L"STATIC", L"Essai", WS_OVERLAPPEDWINDOW, 0, 0, 400, 300, nullptr,
+                             nullptr, nullptr, nullptr);
+  MemoryClipboard clipboard;
+  MemoryFiles files;
+  UniscribeLayouter layouter;
+  PieceBreaker breaker{layouter};
+  DocumentSurface surface{clipboard, files, breaker};
+  std::shared_ptr<SurfaceWindow> window;
+};
+
+TEST_F(SurfaceWindowTest, KeysAndCharactersEdit) {
+  struct Row {
+    const char16_t* before;
+    UINT id;
+    std::vector<WPARAM> keys;
+    const char* after;
+  };
+  const Row rows[] = {{u"|", WM_CHAR, {L'a', L'\u00E9'}, "aé|"},
+                      {u"|", WM_CHAR, {0xD834, 0xDD1E}, "𝄞|"},
+                      {u"|", WM_CHAR, {3, 0x7F, L'\r'}, "|"},
+                      {u"ab|", WM_KEYDOWN, {VK_RETURN}, "ab¶|"},
+                      {u"ab|", WM_KEYDOWN, {VK_TAB}, "ab\t|"},
+                      {u"ab|", WM_KEYDOWN, {VK_LEFT, VK_BACK}, "|b"},
+                      {u"ab|¶c", WM_KEYDOWN, {VK_DELETE, VK_END, L'X'}, "abc|"}};
+  for (const Row& row : rows) {
+    Put(row.before);
+    for (const WPARAM key : row.keys) Send(row.id, key);
+    EXPECT_EQ(Shown(), row.after);
+  }
+  locked = true;
+  Put(u"ab|");
+  Send(WM_CHAR, L'c');
+  Send(WM_KEYDOWN, VK_BACK);
+  Send(WM_KEYDOWN, VK_LEFT);
+  EXPECT_EQ(Shown(), "a|b");
+  Send(WM_KEYDOWN, VK_ESCAPE);
+  EXPECT_EQ(unused.back().name, KeyName::Escape);
+}
+
+TEST_F(SurfaceWindowTest, MouseSelectsAndScrolls) {
+  Put(u"un deux trois|");
+  Send(WM_LBUTTONDOWN, MK_LBUTTON, PointOf(3));
+  Send(WM_MOUSEMOVE, MK_LBUTTON, PointOf(7));
+  Send(WM_LBUTTONUP, 0, PointOf(7));
+  EXPECT_EQ(Shown(), "un ^deux| trois");
+  ASSERT_EQ(released.size(), 1u);
+  EXPECT_EQ(released[0].button, MouseButton::Left);
+  Send(WM_LBUTTONDBLCLK, MK_LBUTTON, PointOf(9));
+  Send(WM_LBUTTONUP, 0, PointOf(9));
+  EXPECT_EQ(Shown(), "un deux ^trois|");
+  surface.Text(Words(5000));
+  window->Settle();
+  Send(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)), 0);
+  const double turned = window->Text().Pane().Scroll().Read().value;
+  EXPECT_GT(turned, 0);
+  Send(WM_VSCROLL, SB_PAGEDOWN);
+  EXPECT_GT(window->Text().Pane().Scroll().Read().value, turned);
+  EXPECT_EQ(window->Differences(), std::vector<std::string>());
+}
+
+TEST_F(SurfaceWindowTest, SystemCaretFollows) {
+  Put(u"un deux|");
+  POINT at;
+  ASSERT_TRUE(GetCaretPos(&at));
+  EXPECT_EQ(at.x, static_cast<LONG>(window->Text().Pane().CaretAt(7)->left));
+  Send(WM_KEYDOWN, VK_HOME);
+  window->Settle();
+  GetCaretPos(&at);
+  EXPECT_EQ(at.x, static_cast<LONG>(window->Text().Pane().CaretAt(0)->left));
+}
+
+// A drag offers what was selected when it began; a drop is one step of undo.
+TEST_F(SurfaceWindowTest, DropsTextAndRtf) {
+  auto* const target = static_cast<IDropTarget*>(GetPropW(Handle(), L"OleDropTargetInterface"));
+  ASSERT_TRUE(target);
+  Put(u"^un| deux");
+  const ComOwner<TransferData> data(new TransferData(TextExcerpt(surface)));
+  Put(u"trois|");
+  DWORD effect = DROPEFFECT_COPY;
+  target->DragEnter(data.get(), MK_LBUTTON, OnScreen(0), &effect);
+  target->Drop(data.get(), MK_LBUTTON, OnScreen(0), &effect);
+  EXPECT_EQ(effect, DWORD{DROPEFFECT_COPY});
+  EXPECT_EQ(Shown(), "^un|trois");
+  EXPECT_EQ(ReadTransfer(*data).text, u"un");
+  surface.Undo();
+  EXPECT_EQ(surface.Text(), u"trois");
+  locked = true;
+  effect = DROPEFFECT_COPY;
+  target->Drop(data.get(), MK_LBUTTON, OnScreen(0), &effect);
+  EXPECT_EQ(effect, DWORD{DROPEFFECT_NONE});
+}
+
+TEST_F(SurfaceWindowTest, TellsAssistivePrograms) {
+  Put(u"un^ de|ux¶trois");
+  EXPECT_EQ(Send(EM_GETSEL), MAKELRESULT(2, 5));
+  EXPECT_EQ(Send(EM_GETLINECOUNT), 2);
+  EXPECT_EQ(Send(EM_LINEINDEX, 1), 9);
+  EXPECT_EQ(Send(EM_LINELENGTH, 10), 5);
+  EXPECT_EQ(Send(EM_LINEFROMCHAR, static_cast<WPARAM>(-1)), 0);
+  EXPECT_EQ(Send(EM_CHARFROMPOS, 0, Send(EM_POSFROMCHAR, 4)), 4);
+  EXPECT_EQ(TextOf(Handle()), u"un deux\r\ntrois");
+  Send(EM_SETSEL, 3, 7);
+  EXPECT_EQ(Shown(), "un ^deux|¶trois");
+  void* found = nullptr;
+  ASSERT_EQ(AccessibleObjectFromWindow(Handle(), static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                                       &found),
+            S_OK);
+  const ComOwner<IAccessible> object(static_cast<IAccessible*>(found));
+  VARIANT self = {};
+  self.vt = VT_I4;
+  VARIANT answer = {};
+  EXPECT_EQ(object->get_accRole(self, &answer), S_OK);
+  EXPECT_EQ(answer.lVal, ROLE_SYSTEM_TEXT);
+  BSTR text = nullptr;
+  EXPECT_EQ(object->get_accValue(self, &text), S_OK);
+  EXPECT_EQ(std::wstring(text), L"un deux\r\ntrois");
+  SysFreeString(text);
+  locked = true;
+  EXPECT_EQ(object->get_accState(self, &answer), S_OK);
+  EXPECT_TRUE(answer.lVal & STATE_SYSTEM_READONLY);
+}
+
+/// What the window shows.
+std::vector<COLORREF> PixelsOf(SurfaceWindow& window, UniscribeLayouter& layouter) {
+  const MemoryDc dc;
+  BITMAPINFO info = {};
+  info.bmiHeader = {sizeof info.bmiHeader, 280, -180, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  void* bits = nullptr;
+  const GdiObject<HBITMAP> bitmap(
+      CreateDIBSection(dc.Get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+  const SelectScope selected(dc.Get(), bitmap.Get());
+  const ViewMarks marks = window.Text().Marks();
+  const ViewColours colours = ViewColours::OfSystem(true);
+  ViewPainter(window.Text().Pane(), layouter, marks, colours).Paint(dc.Get(), {0, 0, 280, 180});
+  const auto* pixels = static_cast<const COLORREF*>(bits);
+  return {pixels, pixels + 280 * 180};
+}
+
+TEST_F(SurfaceWindowTest, PaintsTextAndSelectionAndLeavesNothingBehind) {
+  Put(u"|");
+  const std::vector<COLORREF> empty = PixelsOf(*window, layouter);
+  EXPECT_EQ(std::ranges::count(empty, empty[0]), std::ssize(empty));
+  surface.TextRTF(u"{\\rtf1{\\colortbl;\\red255\\green0\\blue0;}\\cf1\\fs40\\ul rouge\\par}");
+  const std::vector<COLORREF> red = PixelsOf(*window, layouter);
+  EXPECT_GT(std::ranges::count(red, COLORREF{0xFF0000}), 50);
+  surface.UserSelect(0, 5);
+  const std::vector<COLORREF> selected = PixelsOf(*window, layouter);
+  EXPECT_GT(std::ranges::count(selected, selected[90 * 280 + 279]), 1000);
+  EXPECT_NE(selected, red);
+  surface.UserSelect(2, 3);
+  const auto left = std::ranges::count(PixelsOf(*window, layouter), COLORREF{0xFF0000});
+  EXPECT_GT(left, 50) << "beside the selection";
+  EXPECT_LT(left, std::ranges::count(red, COLORREF{0xFF0000}));
+  const int alive = GdiCount::Alive();
+  PixelsOf(*window, layouter);
+  EXPECT_EQ(GdiCount::Alive(), alive);
+}
+
+}  // namespace
+}  // namespace lumenote
