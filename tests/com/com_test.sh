@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Registers Lumenote.dll as its users do, runs hosts of several languages against it, and removes it.
-# usage: com_test.sh DLL TEST_COM MAKE_TYPE_LIBRARY SOURCE_FOLDER   (paths of this system; in a wine
-# prefix). The output of every wine command goes to a file: its services would keep a pipe open.
+# usage: com_test.sh BUILD_FOLDER   in a wine prefix. The output of every wine command goes to a file: its
+# services would keep a pipe open.
 set -euo pipefail
-dll=$1 host=$2 maker=$3 source=$4
-here=$source/tests/com
+here=$(cd "$(dirname "$0")" && pwd)
+kept=$here/../../hosts/com/typelib
+dll=$1/hosts/com/Lumenote.dll maker=$1/hosts/com/lumenote_typelib.exe host=$1/tests/com/test_com.exe
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -32,11 +33,10 @@ script() {
   [ "$(tr -d '\r' <"$work/out" | tail -1)" = PASS ] || fail "$1"
 }
 
-for width in 32 64; do
-  made=$work/made-$width.tlb
-  run "$maker" "$(windows "$made")" "win$width" || fail "the type library was not made"
-  kept=$source/hosts/com/typelib/Lumenote-x$([ $width = 32 ] && echo 86 || echo 64).tlb
-  cmp "$made" "$kept" || fail "$kept differs from the table of members: build type_library"
+for width in 64 86; do
+  name=Lumenote-x$width.tlb
+  run "$maker" "$(windows "$work/$name")" "win${width/86/32}" || fail "$name is not made"
+  cmp "$work/$name" "$kept/$name" || fail "$name does not match the table: build type_library"
 done
 
 run regsvr32 /s /u "$(windows "$dll")" || true  # what a test that ended early has left

@@ -14,6 +14,7 @@
 #include <windows.h>
 #include <shlobj.h>
 #include <tlhelp32.h>
+#include <winspool.h>
 // clang-format on
 
 #undef ChooseFont
