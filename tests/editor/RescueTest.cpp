@@ -133,8 +133,9 @@ TEST_F(RescueTest, AFileIsReadAgainBeforeASaveOnlyWhenItMayHaveChanged) {
 TEST_F(RescueTest, AnEmptyNoteNeverTakesThePlaceOfAnothersFile) {
   for (const std::u16string path : {u"C:\\n\\a.txt", u"C:\\n\\a.rtf"}) {
     sandbox.MakeParents(path);
-    platform.files.before = [&](std::string_view operation, std::u16string_view) {
-      if (operation == "write") disk.Write(path, "{\\rtf1 leur}");
+    int acts = 0;
+    platform.files.before = [&](std::string_view, std::u16string_view of) {
+      if (of == path && acts++ == 1) disk.Write(path, "{\\rtf1 leur}");  // after the first look
     };
     Open(path);
     EXPECT_EQ(disk.ReadAll(path), "{\\rtf1 leur}");

@@ -85,9 +85,12 @@ TextEncoding EcritNoteTemp(Files& files, std::u16string_view path, std::u16strin
   return form;
 }
 
-void CreFVideRtf(Files& files, std::u16string_view path) {
-  if (files.Exists(path)) return files.Write(path, kEmptyRtf);
-  files.WriteNew(path, kEmptyRtf, Permissions::Default);
+void CreFVideRtf(Files& files, std::u16string_view path) { files.Write(path, kEmptyRtf); }
+
+void CreerSiAbsent(Files& files, std::u16string_view path) {
+  const std::u16string format = FormatDe(path);
+  if (format == u"rtf" || format == u"txt")
+    files.WriteNew(path, format == u"rtf" ? kEmptyRtf : "", Permissions::Default);
 }
 
 std::u16string EspDvtDer(std::u16string_view path) {

@@ -21,9 +21,11 @@ std::u16string NomFichTemp(const TempFolder& temp, std::u16string_view prefix,
 /// Writes the note without adding a line end and returns the encoding: code page 1252, or the
 /// result of `EncodingFor`. RTF source gets escapes for characters outside that page.
 TextEncoding EcritNoteTemp(Files& files, std::u16string_view path, std::u16string_view note);
-/// Creates an empty RTF document, over an existing file. One that another program creates
-/// meanwhile is left alone (PermissionDenied).
+/// Writes an empty RTF document, over an existing file.
 void CreFVideRtf(Files& files, std::u16string_view path);
+/// Creates an empty document if its path names a kind that the editor knows. A file that is there
+/// after all is left alone (PermissionDenied): one that cannot be looked at only seems missing.
+void CreerSiAbsent(Files& files, std::u16string_view path);
 /// The path between three spaces on each side, for the status bar.
 std::u16string EspDvtDer(std::u16string_view path);
 /// The last three characters of a path, lower-cased.

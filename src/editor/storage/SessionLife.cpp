@@ -17,12 +17,8 @@ void PrepareFile(NoteWindow& editor) {
   Session& session = editor.Values();
   Files& files = editor.Services().FileSystem();
   session.format = FormatDe(session.documentPath);
-  if (!files.Exists(session.documentPath)) {
-    if (session.format == u"txt")
-      IgnoringErrors([&] { files.WriteNew(session.documentPath, "", Permissions::Default); });
-    else if (session.format == u"rtf")
-      IgnoringErrors([&] { CreFVideRtf(files, session.documentPath); });
-  }
+  if (!files.Exists(session.documentPath))
+    IgnoringErrors([&] { CreerSiAbsent(files, session.documentPath); });
   IgnoringErrors([&] { session.readOnly = files.IsReadOnly(session.documentPath); });
 }
 

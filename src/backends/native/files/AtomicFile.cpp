@@ -16,7 +16,7 @@ AtomicFile::AtomicFile(std::string target, Permissions permissions)
 }
 
 AtomicFile::~AtomicFile() {
-  file_.Close();
+  // Unlinked while it is locked: another save may take a free name at once.
   if (!name_.empty()) RemoveFile(name_);
 }
 

@@ -49,10 +49,15 @@ void MakePrivateFolder(const std::string& path);
 /// Creates such a folder in `parent` under a new name: `prefix` and six letters or digits. Returns
 /// its path, or nothing on failure.
 std::string MakeUniqueFolder(const std::string& parent, const std::string& prefix);
-/// Whether this is a folder, not a link to one, and the user's own.
+/// Whether this is a folder, not a link to one; whether it is the user's own as well.
+bool IsRealFolder(const std::string& path);
 bool IsOwnFolder(const std::string& path);
-/// The names in a folder; empty if it cannot be read.
-std::vector<std::string> NamesIn(const std::string& folder);
+/// The names in a folder; nothing unless all of it can be read.
+std::optional<std::vector<std::string>> AllNamesIn(const std::string& folder);
+/// The same; empty if they cannot be read.
+inline std::vector<std::string> NamesIn(const std::string& folder) {
+  return AllNamesIn(folder).value_or(std::vector<std::string>());
+}
 
 /// Return 0 or the system's error number; read-only files go as well. The last one removes a file,
 /// a link, or a folder with all that is in it.

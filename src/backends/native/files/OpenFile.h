@@ -41,7 +41,8 @@ int Resize(const OpenFile& file, std::uint64_t size);
 int Reserve(const OpenFile& file, std::uint64_t size);
 /// Flushes the content to the disk.
 int Flush(const OpenFile& file);
-std::uint64_t SizeOf(const OpenFile& file);
+/// In bytes; nothing, with `LastError`, if the system does not tell.
+std::optional<std::uint64_t> SizeOf(const OpenFile& file);
 /// The last byte; empty for an empty or unreadable file.
 std::optional<char> LastByteOf(const OpenFile& file);
 

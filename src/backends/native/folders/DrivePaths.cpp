@@ -80,7 +80,7 @@ std::u16string DrivePaths::ToDrivePath(std::string_view native) const {
   std::u16string text(onDriveC ? u"C:" : kOtherDrive);
   text += FromUtf8(onDriveC ? path.substr(driveC_->size()) : path);
   std::replace(text.begin(), text.end(), u'/', u'\\');
-  return text.ends_with(u':') ? text + u'\\' : text;
+  return text.size() == 2 ? text + u'\\' : text;
 }
 
 }  // namespace lumenote

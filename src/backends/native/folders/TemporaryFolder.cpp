@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <ctime>
+#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -44,12 +45,15 @@ OpenFile MarkIn(const std::string& folder) {
   return ours ? std::move(mark) : OpenFile();
 }
 
-/// Last change of the folder or anything in it, at any depth.
+/// Last change of the folder or anything in it, at any depth; far in the future if a part cannot be
+/// read.
 std::int64_t LastChangeWithin(const std::string& folder) {
+  const auto names = AllNamesIn(folder);
+  if (!names) return std::numeric_limits<std::int64_t>::max();
   std::int64_t last = LastChangeOf(folder);
-  for (const std::string& name : NamesIn(folder)) {
+  for (const std::string& name : *names) {
     const std::string path = folder + "/" + name;
-    last = std::max(last, IsOwnFolder(path) ? LastChangeWithin(path) : LastChangeOf(path));
+    last = std::max(last, IsRealFolder(path) ? LastChangeWithin(path) : LastChangeOf(path));
   }
   return last;
 }

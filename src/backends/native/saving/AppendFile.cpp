@@ -30,10 +30,11 @@ void AppendLinesTo(const std::string& path, std::string_view lines) {
   if (lines.empty()) return;
   // Appending alone would need no lock, but two writers might both end the last line.
   AwaitLock(file);
-  const std::uint64_t size = SizeOf(file);
+  const std::optional<std::uint64_t> size = SizeOf(file);
+  if (!size) throw AccessError(LastError(), path);
   const int error = WriteAndFlush(file, std::string(MissingEnd(file)).append(lines));
   if (error == 0) return;
-  const int restored = Resize(file, size);
+  const int restored = Resize(file, *size);
   throw AccessError(restored == 0 ? error : restored, path);
 }
 

@@ -91,7 +91,7 @@ void NativeFiles::Copy(std::u16string_view from, std::u16string_view to) {
   const std::string target = FollowLinks(drives_.ToNative(to));
   if (!MayReplace(target)) throw RuntimeError(ErrorNumber::PermissionDenied);
   StatusOfFile(source);
-  AtomicFile file(target, Permissions::Default);
+  AtomicFile file(target, Permissions::UserOnly);
   file.Write(ReadWholeFile(source));
   file.TakeMode(OpenToRead(source));
   file.Commit();

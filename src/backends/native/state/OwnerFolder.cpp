@@ -64,7 +64,8 @@ OwnerFolder::~OwnerFolder() {
 }
 
 void OwnerFolder::RemoveIfEmpty() {
-  if (NamesIn(path_).size() != 1) return;
+  const auto names = AllNamesIn(path_);
+  if (!names || names->size() != 1) return;
   RemoveFile(MarkIn(path_));
   mark_.Close();  // on some systems an open file keeps its folder
   RemoveEmptyFolder(path_);

@@ -135,18 +135,24 @@ std::string MakeUniqueFolder(const std::string& parent, const std::string& prefi
   return mkdtemp(folder.data()) ? folder : std::string();
 }
 
+bool IsRealFolder(const std::string& path) {
+  struct stat info = {};
+  return lstat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
 bool IsOwnFolder(const std::string& path) {
   struct stat info = {};
   return lstat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode) && info.st_uid == geteuid();
 }
 
-std::vector<std::string> NamesIn(const std::string& folder) {
+std::optional<std::vector<std::string>> AllNamesIn(const std::string& folder) {
   std::vector<std::string> names;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
     names.push_back(entry->path().filename().string());
   }
+  if (error) return std::nullopt;
   return names;
 }
 

@@ -38,14 +38,15 @@ int Reserve(const OpenFile& file, std::uint64_t size) {
 
 int Flush(const OpenFile& file) { return fsync(file.Number()) == 0 ? 0 : errno; }
 
-std::uint64_t SizeOf(const OpenFile& file) {
+std::optional<std::uint64_t> SizeOf(const OpenFile& file) {
   struct stat info = {};
-  return fstat(file.Number(), &info) == 0 ? static_cast<std::uint64_t>(info.st_size) : 0;
+  if (fstat(file.Number(), &info) != 0) return std::nullopt;
+  return static_cast<std::uint64_t>(info.st_size);
 }
 
 std::optional<char> LastByteOf(const OpenFile& file) {
   char last = 0;
-  const auto size = static_cast<off_t>(SizeOf(file));
+  const auto size = static_cast<off_t>(SizeOf(file).value_or(0));
   if (size == 0 || pread(file.Number(), &last, 1, size - 1) != 1) return std::nullopt;
   return last;
 }

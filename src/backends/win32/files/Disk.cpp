@@ -42,12 +42,13 @@ int LastError() { return static_cast<int>(GetLastError()); }
 std::string ReadWholeFile(const std::string& path) {
   const OpenFile file = OpenToRead(path);
   if (!file.IsOpen()) throw AccessError(LastError(), path);
-  const std::uint64_t size = SizeOf(file);
-  if (size > kLargestFile || GetFileType(HandleOf(file)) != FILE_TYPE_DISK)
+  const std::optional<std::uint64_t> size = SizeOf(file);
+  if (!size) throw AccessError(LastError(), path);
+  if (*size > kLargestFile || GetFileType(HandleOf(file)) != FILE_TYPE_DISK)
     throw RuntimeError(ErrorNumber::PathAccess);
-  std::string bytes(size, '\0');
+  std::string bytes(*size, '\0');
   DWORD filled = 0;
-  if (!ReadFile(HandleOf(file), bytes.data(), static_cast<DWORD>(size), &filled, nullptr))
+  if (!ReadFile(HandleOf(file), bytes.data(), static_cast<DWORD>(*size), &filled, nullptr))
     throw AccessError(LastError(), path);
   bytes.resize(filled);
   return bytes;
@@ -140,20 +141,25 @@ std::string MakeUniqueFolder(const std::string& parent, const std::string& prefi
   return {};
 }
 
-bool IsOwnFolder(const std::string& path) {
+bool IsRealFolder(const std::string& path) {
   const DWORD attributes = AttributesOf(path);
   return IsFolder(attributes) && !IsLink(attributes);
 }
 
-std::vector<std::string> NamesIn(const std::string& folder) {
+bool IsOwnFolder(const std::string& path) { return IsRealFolder(path); }
+
+std::optional<std::vector<std::string>> AllNamesIn(const std::string& folder) {
   std::vector<std::string> names;
   WIN32_FIND_DATAW entry = {};
   const HANDLE search = FindFirstFileW(SystemPath(folder + "/*").c_str(), &entry);
-  for (bool more = search != INVALID_HANDLE_VALUE; more; more = FindNextFileW(search, &entry)) {
+  if (search == INVALID_HANDLE_VALUE) return std::nullopt;
+  for (bool more = true; more; more = FindNextFileW(search, &entry)) {
     const std::string name = NativePath(entry.cFileName);
     if (name != "." && name != "..") names.push_back(name);
   }
-  if (search != INVALID_HANDLE_VALUE) FindClose(search);
+  const bool all = GetLastError() == ERROR_NO_MORE_FILES;
+  FindClose(search);
+  if (!all) return std::nullopt;
   return names;
 }
 

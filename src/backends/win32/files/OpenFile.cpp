@@ -46,22 +46,26 @@ int Resize(const OpenFile& file, std::uint64_t size) {
 
 // An allocation below the present length would cut the file.
 int Reserve(const OpenFile& file, std::uint64_t size) {
-  if (size <= SizeOf(file)) return 0;
+  const std::optional<std::uint64_t> present = SizeOf(file);
+  if (!present) return LastError();
+  if (size <= *present) return 0;
   FILE_ALLOCATION_INFO space = {};
   space.AllocationSize.QuadPart = static_cast<LONGLONG>(size);
-  SetFileInformationByHandle(HandleOf(file), FileAllocationInfo, &space, sizeof space);
-  return LastError() == ERROR_DISK_FULL ? ERROR_DISK_FULL : 0;
+  const int error = ErrorUnless(
+      SetFileInformationByHandle(HandleOf(file), FileAllocationInfo, &space, sizeof space));
+  return error == ERROR_DISK_FULL ? error : 0;
 }
 
 int Flush(const OpenFile& file) { return ErrorUnless(FlushFileBuffers(HandleOf(file))); }
 
-std::uint64_t SizeOf(const OpenFile& file) {
+std::optional<std::uint64_t> SizeOf(const OpenFile& file) {
   LARGE_INTEGER size = {};
-  return GetFileSizeEx(HandleOf(file), &size) ? static_cast<std::uint64_t>(size.QuadPart) : 0;
+  if (!GetFileSizeEx(HandleOf(file), &size)) return std::nullopt;
+  return static_cast<std::uint64_t>(size.QuadPart);
 }
 
 std::optional<char> LastByteOf(const OpenFile& file) {
-  const std::uint64_t size = SizeOf(file);
+  const std::uint64_t size = SizeOf(file).value_or(0);
   if (size == 0) return std::nullopt;
   OVERLAPPED place = {};
   place.Offset = static_cast<DWORD>(size - 1);
