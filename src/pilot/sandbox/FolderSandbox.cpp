@@ -16,7 +16,7 @@ constexpr std::u16string_view kRegistry = u"Machine";
 
 /// Creates the drive with its folders and returns its native path.
 std::string MakeDrive(const std::string& root) {
-  const std::string drive = root + "/c";
+  std::string drive = root + "/c";
   for (const char* folder : {"/Temp", "/Documents", "/Program Files", "/Lumenote"})
     if (root.empty() || MakeFolders(drive + folder) != 0)
       throw RuntimeError(ErrorNumber::PathAccess);

@@ -72,7 +72,7 @@ void RemoveAbandonedIn(const std::string& parent) {
 
 std::string MakeIn(const std::string& parent) {
   RemoveAbandonedIn(parent);
-  const std::string folder = MakeUniqueFolder(parent, std::string(kPrefix));
+  std::string folder = MakeUniqueFolder(parent, std::string(kPrefix));
   if (folder.empty() || PutMark(folder)) return folder;
   RemoveTree(folder);
   return {};
