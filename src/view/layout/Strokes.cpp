@@ -14,7 +14,7 @@ constexpr double kDashDot[] = {4, 2, 1, 2};
 constexpr double kDashDotDot[] = {4, 2, 1, 2, 1, 2};
 
 struct NamedStroke {
-  Underline kind;
+  Underline kind{};
   Stroke stroke;
 };
 constexpr NamedStroke kStrokes[] = {
