@@ -1,0 +1,396 @@
+#include "backends/win32/windows/Win32FormPeer.h"
+
+#include "backends/win32/toolkit/Keys.h"
+#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/windows/KeyNavigation.h"
+#include "base/ScopedFlag.h"
+
+namespace lumenote {
+namespace {
+
+WindowKind FormKind() {
+  return {OwnClass(L"LumenoteForm"), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+}
+
+bool Has(HWND window, int which, LONG_PTR style) {
+  return (GetWindowLongPtrW(window, which) & style) != 0;
+}
+
+}  // namespace
+
+Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
+    : form_(form),
+      services_(services),
+      window_(std::make_shared<Window>(nullptr, FormKind())),
+      scale_(Scale::Of(window_->Handle())),
+      bar_(std::make_shared<MenuBarWindow>(Handle())),
+      content_(std::make_shared<ContentWindow>(Handle())),
+      menus_(form.Menus()) {
+  services_.Windows().Add(form, *window_);
+  bar_->opens = [this](Menu& menu, const RECT& below) { OpenList(menu, below); };
+  content_->mouseMoved = [this](POINT at) {
+    form_.UserMouseMove({MouseButton::None, {scale_.Twips(at.x), scale_.Twips(at.y)}});
+  };
+  window_->Listener(this);
+  AddControls(form, content_->Handle());
+  for (const Property property : {Property::Caption, Property::BackColor, Property::Geometry})
+    UpdateForm(property);
+  ShowMenuBar();
+}
+
+// A box above a closing window would lock the next window. What the system makes active then is not
+// the user's doing.
+Win32FormPeer::~Win32FormPeer() {
+  window_->Listener(nullptr);
+  content_->mouseMoved = nullptr;
+  bar_->opens = nullptr;
+  bar_->Show({});
+  for (const auto& [control, peer] : controls_) services_.Windows().Remove(*control);
+  services_.Windows().Remove(form_);
+  services_.Gone(form_);
+  EndBoxes();
+  lock_.reset();
+  if (Handle()) ShowWindow(Handle(), SW_HIDE);
+  controls_.clear();
+}
+
+void Win32FormPeer::EndBoxes() {
+  const auto end = [](HWND window, LPARAM owner) -> BOOL {
+    if (GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner) && IsWindowVisible(window) &&
+        !Window::Of(window))
+      EndDialog(window, IDNO);
+    return TRUE;
+  };
+  EnumThreadWindows(GetCurrentThreadId(), end, reinterpret_cast<LPARAM>(Handle()));
+}
+
+void Win32FormPeer::AddControls(const Container& container, HWND parent) {
+  for (Control* control : container.Controls()) Add(*control, parent);
+}
+
+void Win32FormPeer::Add(Control& control, HWND parent) {
+  auto peer = MakeControlPeer(control, parent, *this);
+  const HWND native = peer->Native().Handle();
+  if (peer->IsDocked()) {
+    SetParent(native, Handle());
+    docked_ = native;
+  }
+  services_.Windows().Add(control, peer->Native());
+  if (const auto* container = dynamic_cast<const Container*>(&control))
+    AddControls(*container, native);
+  controls_[&control] = std::move(peer);
+}
+
+void Win32FormPeer::Add(Control& control) {
+  const auto* outer = dynamic_cast<const Control*>(&control.Parent());
+  Add(control, outer ? controls_.at(outer)->Native().Handle() : content_->Handle());
+}
+
+void Win32FormPeer::Remove(Control& control) {
+  if (!controls_.contains(&control)) return;
+  services_.Windows().Remove(control);
+  controls_.erase(&control);
+}
+
+ControlPeer* Win32FormPeer::PeerOf(const Control& control) const {
+  const auto found = controls_.find(&control);
+  return found == controls_.end() ? nullptr : found->second.get();
+}
+
+// --- state
+
+void Win32FormPeer::Update(Element& element, Property property) {
+  if (const auto peer = controls_.find(&element); peer != controls_.end()) {
+    peer->second->Update(property);
+    if (peer->second->IsDocked()) LayOutParts();
+  } else if (const auto* menu = dynamic_cast<const Menu*>(&element)) {
+    menus_.Update(*menu);
+    ShowMenuBar();
+  } else if (&element == &form_) {
+    UpdateForm(property);
+  }
+}
+
+void Win32FormPeer::UpdateForm(Property property) {
+  if (property == Property::Caption) SetWindowTextW(Handle(), Wide(form_.Caption()));
+  if (property == Property::Geometry) ShowGeometry();
+  if (property == Property::Visible) ShowVisible();
+  if (property == Property::OnTop) services_.Restack();
+  if (property == Property::BackColor) content_->Ground(form_.BackColor());
+}
+
+// A minimised window is placed when it is restored.
+void Win32FormPeer::ShowGeometry() {
+  const ScopedFlag placing(placing_);
+  WindowGeometry::Place(Handle(), form_.Bounds(), scale_);
+  geometry_.Settle(Handle());
+  LayOutParts();
+}
+
+void Win32FormPeer::ShowMenuBar() {
+  const auto font = reinterpret_cast<WPARAM>(services_.Fonts().Get({}, 0, scale_));
+  SendMessageW(bar_->Handle(), WM_SETFONT, font, TRUE);
+  bar_->Show(form_.Menus());
+  LayOutParts();
+}
+
+void Win32FormPeer::LayOutParts() {
+  RECT client;
+  GetClientRect(Handle(), &client);
+  const int height = scale_.Pixels(kBarHeight);
+  const int top = form_.HasMenuBar() ? height : 0;
+  MoveWindow(bar_->Handle(), 0, 0, client.right, height, TRUE);
+  ShowWindow(bar_->Handle(), form_.HasMenuBar() ? SW_SHOWNA : SW_HIDE);
+  MoveWindow(content_->Handle(), 0, top, client.right, client.bottom - top, TRUE);
+  if (docked_)
+    SetWindowPos(docked_, HWND_TOP, 0, client.bottom - height, client.right, height,
+                 SWP_NOACTIVATE);
+}
+
+void Win32FormPeer::ShowVisible() {
+  lock_.reset();
+  if (!form_.Visible()) {
+    ShowWindow(Handle(), SW_HIDE);
+    return;
+  }
+  owner_ = OwnerWindow();
+  ShowOnTop();
+  Join(true);
+  ShowGeometry();
+  ShowWindow(Handle(), SW_SHOWNA);
+  if (form_.IsModal()) lock_ = std::make_unique<ModalLock>(Handle());
+}
+
+// A modal window without an owner stays above the window it was opened from.
+HWND Win32FormPeer::OwnerWindow() const {
+  const Form* owner = form_.OwnerWindow();
+  if (!owner && form_.IsModal()) owner = form_.Windows().Active();
+  if (owner && owner != &form_)
+    if (const Window* window = services_.Windows().Find(*owner)) return window->Handle();
+  const HWND host = reinterpret_cast<HWND>(form_.HostWindow());
+  return IsWindow(host) ? host : nullptr;
+}
+
+bool Win32FormPeer::StaysOnTop() const {
+  return form_.OnTop() || (owner_ && Has(owner_, GWL_EXSTYLE, WS_EX_TOPMOST));
+}
+
+void Win32FormPeer::ShowOnTop() {
+  SetWindowPos(Handle(), StaysOnTop() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+void Win32FormPeer::Join(bool owner) {
+  SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT,
+                    reinterpret_cast<LONG_PTR>(owner ? owner_ : nullptr));
+}
+
+// --- focus and activation
+
+// A window that is not active gives the keyboard to its control when it becomes so.
+void Win32FormPeer::Focus(Control& control) {
+  if (GetActiveWindow() == Handle()) SetFocus(controls_.at(&control)->FocusTarget());
+}
+
+void Win32FormPeer::FocusInside() {
+  const Control* control = form_.ActiveControl();
+  if (!control || !control->Visible() || !control->Enabled()) return;
+  if (const ControlPeer* peer = PeerOf(*control)) SetFocus(peer->FocusTarget());
+}
+
+void Win32FormPeer::Activate() {
+  if (IsIconic(Handle())) ShowWindow(Handle(), SW_RESTORE);
+  SetForegroundWindow(Handle());
+  SetActiveWindow(Handle());
+  FocusInside();
+}
+
+bool Win32FormPeer::UnusedKey(Control& control, const KeyStroke& key) {
+  const bool plain = !key.control && !key.alt;
+  if (plain && key.name == KeyName::Tab) {
+    Control* const next = NextInTabOrder(form_, &control, !key.shift);
+    if (next) next->SetFocus();
+    return next != nullptr;
+  }
+  const bool forward = key.name == KeyName::Down || key.name == KeyName::Right;
+  const bool arrow = forward || key.name == KeyName::Up || key.name == KeyName::Left;
+  if (auto* option = dynamic_cast<OptionButton*>(&control); option && plain && arrow) {
+    OptionButton* const next = NextOption(*option, forward);
+    if (!next) return false;
+    next->SetFocus();
+    next->UserClick();
+    return true;
+  }
+  return form_.UserKey(key);
+}
+
+bool Win32FormPeer::UseMnemonic(char16_t character) {
+  Element* const marked = WithMnemonic(form_, character);
+  if (!marked) return false;
+  if (auto* menu = dynamic_cast<Menu*>(marked)) {
+    bar_->Open(*menu);
+    return true;
+  }
+  auto& control = dynamic_cast<Control&>(*marked);
+  const std::shared_ptr<Window> kept = window_;
+  if (Control* target = FocusFor(form_, control)) target->SetFocus();
+  if (kept->HasListener() && control.TakesFocus()) control.UserClick();
+  return true;
+}
+
+// --- the user's acts on the window
+
+std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
+  switch (message.id) {
+    case WM_ACTIVATE:
+      if (LOWORD(message.w) == WA_INACTIVE || HIWORD(message.w) != 0) return std::nullopt;
+      FocusInside();
+      form_.UserActivate();
+      return 0;
+    case WM_SETFOCUS:
+      FocusInside();
+      return 0;
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_SYSCHAR:
+      return HearKey(message);
+    case WM_CLOSE:
+      form_.UserClose();
+      return 0;
+    case WM_DESTROY:
+      form_.Abandon();
+      return 0;
+    case WM_SIZE:
+    case WM_MOVE:
+      if (!placing_) FollowUser();
+      return 0;
+    case WM_GETMINMAXINFO:
+      WindowGeometry::AllowAnySize(*reinterpret_cast<MINMAXINFO*>(message.l));
+      return 0;
+    case WM_DPICHANGED:
+      Rescaled(*reinterpret_cast<const RECT*>(message.l));
+      return 0;
+    case WM_INITMENUPOPUP:
+      if (Menu* menu = menus_.WithList(reinterpret_cast<HMENU>(message.w));
+          menu && menu != poppedUp_)
+        menu->UserOpen();
+      return 0;
+    case WM_COMMAND:
+      Choose(LOWORD(message.w));
+      return 0;
+    case WM_QUERYENDSESSION:
+      form_.Keep();
+      return TRUE;
+    case WM_ENDSESSION:
+      EndSession(message.w != 0);
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> Win32FormPeer::HearKey(const Message& message) {
+  if (message.id == WM_SYSCHAR)
+    return UseMnemonic(static_cast<char16_t>(message.w)) ? std::optional<LRESULT>(0) : std::nullopt;
+  const std::optional<KeyStroke> key = StrokeOf(message.w);
+  const HWND handle = Handle();
+  if (!key || !form_.UserKey(*key)) return std::nullopt;
+  SwallowCharacter(handle);
+  return 0;
+}
+
+void Win32FormPeer::FollowUser() {
+  if (IsIconic(Handle())) return;
+  LayOutParts();
+  const Rect before = form_.Bounds();
+  const Rect now = geometry_.Followed(Handle(), before, scale_);
+  if (now.left != before.left || now.top != before.top) form_.UserMove(now.left, now.top);
+  if (now.width != before.width || now.height != before.height)
+    form_.UserResize(now.width, now.height);
+}
+
+void Win32FormPeer::DragTo(float width, float height) {
+  {
+    const ScopedFlag placing(placing_);
+    WindowGeometry::Place(Handle(), {form_.Left(), form_.Top(), width, height}, scale_);
+    geometry_.Settle(Handle());
+    LayOutParts();
+  }
+  form_.UserResize(width, height);
+}
+
+void Win32FormPeer::Rescaled(const RECT& suggested) {
+  scale_ = Scale::Of(Handle());
+  const ScopedFlag placing(placing_);
+  WindowGeometry::Place(Handle(), form_.Bounds(), scale_);
+  SetWindowPos(Handle(), nullptr, suggested.left, suggested.top, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  geometry_.Settle(Handle());
+  for (const auto& [control, peer] : controls_)
+    for (const Property property : {Property::Geometry, Property::Font}) peer->Update(property);
+  ShowMenuBar();
+}
+
+// A note that can be kept nowhere does not hold the system.
+void Win32FormPeer::EndSession(bool ends) {
+  if (ends && !form_.Unload()) form_.Abandon();
+}
+
+// --- menus
+
+void Win32FormPeer::Choose(UINT command) {
+  if (Menu* menu = menus_.WithCommand(command)) menu->UserClick();
+}
+
+void Win32FormPeer::OpenList(Menu& menu, const RECT& below) {
+  if (menus_.ListOf(menu))
+    Track(menu, {below.left, below.bottom}, &below);
+  else
+    menu.UserClick();
+}
+
+void Win32FormPeer::PopUp(Menu& menu, Point at) {
+  if (!menus_.ListOf(menu)) return;
+  POINT corner = {scale_.Pixels(at.x), scale_.Pixels(at.y)};
+  ClientToScreen(content_->Handle(), &corner);
+  const std::shared_ptr<Window> kept = window_;
+  poppedUp_ = &menu;
+  Track(menu, corner, nullptr);
+  if (kept->HasListener()) poppedUp_ = nullptr;
+}
+
+// The form may be closed while the list is open.
+void Win32FormPeer::Track(Menu& menu, POINT at, const RECT* beside) {
+  const std::shared_ptr<Window> kept = window_;
+  TPMPARAMS around = {sizeof around, beside ? *beside : RECT{}};
+  const auto command = static_cast<UINT>(
+      TrackPopupMenuEx(menus_.ListOf(menu), TPM_RETURNCMD | TPM_VERTICAL | TPM_RIGHTBUTTON, at.x,
+                       at.y, Handle(), beside ? &around : nullptr));
+  if (command && kept->HasListener()) Choose(command);
+}
+
+// --- tests
+
+std::vector<std::string> Win32FormPeer::Differences() const {
+  DifferenceList differences;
+  Compare(differences);
+  menus_.Compare(differences);
+  for (const auto& [control, peer] : controls_) peer->Compare(differences);
+  return differences.Lines();
+}
+
+void Win32FormPeer::Compare(DifferenceList& differences) const {
+  const auto check = [&](const char* member, bool same) { differences.Check(form_, member, same); };
+  check("Visible", Has(Handle(), GWL_STYLE, WS_VISIBLE) == form_.Visible());
+  check("Caption", TextOf(Handle()) == form_.Caption());
+  check("BackColor", content_->Ground() == form_.BackColor());
+  if (!form_.Visible()) return;
+  RECT client;
+  GetClientRect(Handle(), &client);
+  const SIZE wanted = WindowGeometry::ClientSize(form_.Bounds(), scale_);
+  check("Size", client.right == wanted.cx && client.bottom == wanted.cy);
+  check("TopMost", Has(Handle(), GWL_EXSTYLE, WS_EX_TOPMOST) == StaysOnTop());
+  check("menu bar", Has(bar_->Handle(), GWL_STYLE, WS_VISIBLE) == form_.HasMenuBar());
+}
+
+}  // namespace lumenote

@@ -1,0 +1,103 @@
+// The native side of one form.
+#pragma once
+#include <memory>
+#include <unordered_map>
+
+#include "backends/win32/peers/ControlPeer.h"
+#include "backends/win32/toolkit/WindowRegistry.h"
+#include "backends/win32/windows/ContentWindow.h"
+#include "backends/win32/windows/MenuBarWindow.h"
+#include "backends/win32/windows/MenuTree.h"
+#include "backends/win32/windows/ModalLock.h"
+#include "backends/win32/windows/WindowGeometry.h"
+#include "forms/Form.h"
+
+namespace lumenote {
+
+/// What the peers of all forms share; outlives each of them.
+class PeerServices {
+ public:
+  virtual ~PeerServices() = default;
+  virtual WindowRegistry& Windows() = 0;
+  virtual ControlFonts& Fonts() = 0;
+  virtual UniscribeLayouter& LayouterOf(const Control& box) = 0;
+  /// A form is on top now, or not any more: so are those above it.
+  virtual void Restack() = 0;
+  virtual void Gone(Form& form) = 0;
+};
+
+/// Builds the windows of any form from its elements: menu bar, content with the controls, docked
+/// status bar. The native windows outlive the peer while their own messages are handled, hidden.
+class Win32FormPeer final : public FormPeer, private PeerHost, private MessageListener {
+ public:
+  Win32FormPeer(Form& form, PeerServices& services);
+  ~Win32FormPeer() override;
+
+  void Update(Element& element, Property property) override;
+  void Focus(Control& control) override;
+  void Activate() override;
+  void Add(Control& control) override;
+  void Remove(Control& control) override;
+  void PopUp(Menu& menu, Point at) override;
+  std::vector<std::string> Differences() const override;
+
+  HWND Handle() const { return window_->Handle(); }
+  const MenuTree& Menus() const { return menus_; }
+  /// The peer of a control of the form; null for none.
+  ControlPeer* PeerOf(const Control& control) const;
+  /// Puts the window on top of all others, or takes it down, while it is apart from its owner.
+  void ShowOnTop();
+  /// Ties the window to its owner, or parts them.
+  void Join(bool owner);
+  /// Resizes as if the user had dragged the border to this outer size, in twips.
+  void DragTo(float width, float height);
+
+ private:
+  // PeerHost
+  Scale Resolution() const override { return scale_; }
+  ControlFonts& Fonts() override { return services_.Fonts(); }
+  UniscribeLayouter& LayouterOf(const Control& box) override { return services_.LayouterOf(box); }
+  bool UnusedKey(Control& control, const KeyStroke& key) override;
+  bool UseMnemonic(char16_t character) override;
+  void Used() override { form_.UserActivate(); }
+  // MessageListener
+  std::optional<LRESULT> Hear(const Message& message) override;
+  std::optional<LRESULT> HearNotice(const Message&) override { return std::nullopt; }
+
+  void AddControls(const Container& container, HWND parent);
+  void Add(Control& control, HWND parent);
+  void UpdateForm(Property property);
+  void ShowGeometry();
+  void ShowVisible();
+  bool StaysOnTop() const;
+  void ShowMenuBar();
+  void LayOutParts();
+  HWND OwnerWindow() const;
+  void FocusInside();
+  void FollowUser();
+  void Rescaled(const RECT& suggested);
+  std::optional<LRESULT> HearKey(const Message& message);
+  void EndSession(bool ends);
+  void Choose(UINT command);
+  void OpenList(Menu& menu, const RECT& below);
+  void Track(Menu& menu, POINT at, const RECT* beside);
+  void EndBoxes();
+  void Compare(DifferenceList& differences) const;
+
+  Form& form_;
+  PeerServices& services_;
+  std::shared_ptr<Window> window_;
+  Scale scale_;
+  std::shared_ptr<MenuBarWindow> bar_;
+  std::shared_ptr<ContentWindow> content_;
+  MenuTree menus_;
+  std::unordered_map<const Element*, std::unique_ptr<ControlPeer>> controls_;
+  HWND docked_ = nullptr;  // the status bar; null for none
+  HWND owner_ = nullptr;   // the window below, possibly the host's; null for none
+  WindowGeometry geometry_;
+  std::unique_ptr<ModalLock> lock_;
+  bool placing_ = false;            // what the window tells of its place is an echo
+  const Menu* poppedUp_ = nullptr;  // its opening event has been raised already
+};
+
+}  // namespace lumenote
