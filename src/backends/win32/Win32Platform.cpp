@@ -1,33 +1,18 @@
 #include "lumenote/Win32Platform.h"
 
-#include "backends/headless/HeadlessBackend.h"
 #include "backends/native/folders/NativeFolders.h"
 #include "backends/native/folders/NativeProgramFolders.h"
 #include "backends/native/saving/NativeFiles.h"
 #include "backends/native/settings/MachineRegistry.h"
 #include "backends/native/state/NativeStateFolder.h"
 #include "backends/win32/InstalledFonts.h"
+#include "backends/win32/Win32Backend.h"
 #include "backends/win32/clipboard/SystemClipboard.h"
 #include "backends/win32/programs/TopWindows.h"
 #include "backends/win32/programs/WinProcesses.h"
 #include "backends/win32/settings/UserSettings.h"
 
 namespace lumenote {
-
-namespace {
-
-/// Windows that are not shown, until there are native ones; the host's events come meanwhile, and
-/// its end is passed on.
-class HiddenWindows final : public HeadlessBackend {
- public:
-  void RunUntil(const std::function<bool()>& done) override {
-    MSG message;
-    while (!done() && GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
-    if (!done()) PostQuitMessage(static_cast<int>(message.wParam));
-  }
-};
-
-}  // namespace
 
 struct Win32Platform::Parts {
   DrivePaths drives = DrivePaths::OfUser();
@@ -39,14 +24,14 @@ struct Win32Platform::Parts {
   TopWindows programWindows;
   WinProcesses programs{drives, programWindows};
   NativeFolders folders{drives, [this] { return programs.HoldsFiles(); }};
-  HiddenWindows windows;
+  Win32Backend windows;
   class SystemClipboard clipboard;
   InstalledFonts fonts;
 };
 
 Win32Platform::Win32Platform() : parts_(std::make_unique<Parts>()) {}
 
-Win32Platform::~Win32Platform() = default;
+Win32Platform::~Win32Platform() { parts_->windows.CloseForms(); }
 
 Backend& Win32Platform::Windows() { return parts_->windows; }
 

@@ -1,0 +1,66 @@
+// The launcher on Windows.
+#include <cstdio>
+#include <optional>
+
+#include "Launcher.h"
+#include "backends/win32/Win32Backend.h"
+#include "backends/win32/Win32UserActs.h"
+#include "backends/win32/programs/ConsoleProgram.h"
+#include "backends/win32/windows/Shot.h"
+#include "base/Strings.h"
+#include "lumenote/Win32Platform.h"
+
+using namespace lumenote;
+
+namespace {
+
+class Win32Desk final : public Desk {
+ public:
+  Platform& Machine() override {
+    if (!platform_) platform_.emplace();
+    return *platform_;
+  }
+  std::u16string ToDrivePath(std::string_view native) override {
+    Machine();
+    return platform_->ToDrivePath(native);
+  }
+  Backend& ScriptWindows() override {
+    if (!windows_) windows_.emplace();
+    return *windows_;
+  }
+  UserActs& ScriptUser() override {
+    ScriptWindows();
+    if (!user_) user_.emplace(*windows_);
+    return *user_;
+  }
+  void Capture(const Form& form, const std::string& png) override {
+    Backend& shown = windows_ ? *windows_ : Machine().Windows();
+    SaveWindowShot(static_cast<Win32Backend&>(shown).PeerOf(form)->Handle(), FromUtf8(png));
+  }
+  /// The windows themselves hear of the session's end.
+  std::shared_ptr<void> WatchEnds(std::function<void()>) override { return nullptr; }
+
+ private:
+  std::optional<Win32Platform> platform_;
+  std::optional<Win32Backend> windows_;
+  std::optional<Win32UserActs> user_;
+};
+
+/// A program with windows prints on the console that it was started from, unless its output goes
+/// elsewhere.
+void UseConsoleOfParent() {
+  if (GetStdHandle(STD_OUTPUT_HANDLE) || !AttachConsole(ATTACH_PARENT_PROCESS)) return;
+  std::freopen("CONOUT$", "w", stdout);
+  std::freopen("CONOUT$", "w", stderr);
+}
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+  UseConsoleOfParent();
+  UseUtf8Streams();
+  std::vector<std::string> words = Utf8Arguments(argc, argv);
+  const std::vector<std::string_view> arguments(words.begin(), words.end());
+  Win32Desk desk;
+  return Launch(arguments, desk);
+}

@@ -1,0 +1,12 @@
+// Screenshots of windows.
+#pragma once
+#include <string>
+
+#include "backends/win32/system/System.h"
+
+namespace lumenote {
+
+/// Renders a window with its frame to a PNG file. Raises PathAccess if that cannot be written.
+void SaveWindowShot(HWND window, const std::u16string& path);
+
+}  // namespace lumenote
