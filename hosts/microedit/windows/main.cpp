@@ -59,7 +59,7 @@ void UseConsoleOfParent() {
 int wmain(int argc, wchar_t** argv) {
   UseConsoleOfParent();
   UseUtf8Streams();
-  std::vector<std::string> words = Utf8Arguments(argc, argv);
+  const std::vector<std::string> words = Utf8Arguments(argc - 1, argv + 1);
   const std::vector<std::string_view> arguments(words.begin(), words.end());
   Win32Desk desk;
   return Launch(arguments, desk);

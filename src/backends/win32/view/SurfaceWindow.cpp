@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "backends/win32/toolkit/Keys.h"
+#include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/toolkit/Units.h"
 #include "backends/win32/view/Composing.h"
 #include "backends/win32/view/EditMessages.h"
@@ -61,6 +62,7 @@ void SurfaceWindow::Detach() {
 }
 
 bool SurfaceWindow::Drop(PixelPoint at) {
+  if (IsLocked()) return false;
   const int edits = text_.Edits();
   drop_.DropOwn(at, false);
   return text_.Edits() != edits;
@@ -120,18 +122,6 @@ void SurfaceWindow::ScrollTimer(bool on) {
     SetTimer(Handle(), kScrolling, kScrollInterval, nullptr);
   else
     KillTimer(Handle(), kScrolling);
-}
-
-void SurfaceWindow::ReleaseMouse(MouseButton button, PixelPoint at) {
-  if (!callbacks_.mouseUp || !Handle()) return;
-  RECT frame;
-  GetWindowRect(Handle(), &frame);
-  POINT corner{0, 0};
-  ClientToScreen(Handle(), &corner);
-  const Scale scale = Scale::Of(Handle());
-  callbacks_.mouseUp(
-      {button,
-       {scale.Twips(at.x + corner.x - frame.left), scale.Twips(at.y + corner.y - frame.top)}});
 }
 
 // --- messages
@@ -371,7 +361,8 @@ void SurfaceWindow::PressLeft(const Message& message) {
 }
 
 void SurfaceWindow::Release(MouseButton button, LPARAM at) {
-  if (IsAttached()) ReleaseMouse(button, PointOf(at));
+  if (IsAttached() && callbacks_.mouseUp)
+    callbacks_.mouseUp({button, PointOf(Handle(), {.l = at})});
 }
 
 void SurfaceWindow::Turn(const Message& message) {

@@ -1,5 +1,6 @@
 // The window that shows a rich-text surface and receives the user's input.
 #pragma once
+#include <cmath>
 #include <functional>
 #include <string>
 #include <vector>
@@ -66,7 +67,9 @@ class SurfaceWindow final : public Window, private ViewHost {
   void ShowArrow(bool arrow) override { arrow_ = arrow; }
   void ScrollTimer(bool on) override;
   void Drag() override { drag_.Run(text_); }
-  void OpenMenu(PixelPoint at) override { ReleaseMouse(MouseButton::Right, at); }
+  void OpenMenu(PixelPoint at) override {
+    Release(MouseButton::Right, MAKELPARAM(std::lround(at.x), std::lround(at.y)));
+  }
 
   std::optional<LRESULT> Tell(const Message& message);
   // Each returns whether it has answered the message; the system has the rest.
@@ -87,7 +90,6 @@ class SurfaceWindow final : public Window, private ViewHost {
   void Turn(const Message& message);
   void PressLeft(const Message& message);
   void Release(MouseButton button, LPARAM at);
-  void ReleaseMouse(MouseButton button, PixelPoint at);
   void ShowCaretPlace();
 
   UniscribeLayouter& layouter_;

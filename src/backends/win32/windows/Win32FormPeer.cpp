@@ -244,9 +244,8 @@ std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
   switch (message.id) {
     case WM_ACTIVATE:
       if (LOWORD(message.w) == WA_INACTIVE || HIWORD(message.w) != 0) return std::nullopt;
-      FocusInside();
       form_.UserActivate();
-      return 0;
+      return std::nullopt;  // the system gives the window the keyboard
     case WM_SETFOCUS:
       FocusInside();
       return 0;
