@@ -39,12 +39,14 @@ void SaveWindowShot(HWND window, const std::u16string& path) {
   RECT place;
   GetWindowRect(window, &place);
   const SIZE size = SizeOf(place);
-  RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
   const Pictures pictures;
   Gdiplus::Bitmap shot(size.cx, size.cy, PixelFormat24bppRGB);
   Gdiplus::Graphics canvas(&shot);
   const HDC dc = canvas.GetHDC();
-  PrintWindow(window, dc, 0);
+  const HDC shown = GetWindowDC(window);
+  BitBlt(dc, 0, 0, size.cx, size.cy, shown, 0, 0, SRCCOPY);
+  ReleaseDC(window, shown);
   canvas.ReleaseHDC(dc);
   if (shot.Save(Wide(path), &kPng, nullptr) != Gdiplus::Ok)
     throw RuntimeError(ErrorNumber::PathAccess);
