@@ -89,45 +89,46 @@ void Describe(CoBxRtf& control, const CommandLine& line) {
 }
 
 /// Opens the editor and renders it to a file. Returns the exit status.
-int Capture(CoBxRtf& control, Desk& desk, const std::string& png) {
+int Capture(CoBxRtf& control, Desktop& desktop, const std::string& png) {
   control.ShowMicroEdit();
   const Form* editor = control.Parts().windows.Active();
   if (!editor) return 1;  // the user was told why
-  desk.Capture(*editor, png);
+  desktop.Capture(*editor, png);
   return 0;
 }
 
-int Edit(const CommandLine& line, Desk& desk) {
+int Edit(const CommandLine& line, Desktop& desktop) {
   const std::string& note = line.Operands().front();
   const std::u16string typed = FromUtf8(note);
-  const std::u16string path = IsDrivePath(typed) ? typed : desk.ToDrivePath(note);
+  const std::u16string path = IsDrivePath(typed) ? typed : desktop.ToDrivePath(note);
   if (!IsDrivePath(path)) return Fail(note + " : chemin trop court", 2);
-  const Files& files = desk.Machine().FileSystem();
+  const Files& files = desktop.Machine().FileSystem();
   if (const std::string why = Obstacle(files, path); !why.empty())
     return Fail(note + " : " + why, 1);
-  CoBxRtf control(desk.Machine());
+  CoBxRtf control(desktop.Machine());
   Describe(control, line);
   HandOver(control, files, path, line.Has("--readonly"));
-  if (const auto png = line.Value("--capture")) return Capture(control, desk, *png);
-  const auto ends = desk.WatchEnds([&control] { control.KeepUnsaved(); });
+  if (const auto png = line.Value("--capture")) return Capture(control, desktop, *png);
+  const auto ends = desktop.WatchEnds([&control] { control.KeepUnsaved(); });
   control.ShowMicroEdit(1);
   return control.Parts().session->loaded ? 0 : 1;
 }
 
 /// Runs a script in a sandbox, on real windows.
-int DrivePilot(const CommandLine& line, Desk& desk) {
+int DrivePilot(const CommandLine& line, Desktop& desktop) {
   std::ifstream script(*line.Value("--pilot"), std::ios::binary);
   if (!script) return Fail(*line.Value("--pilot") + " : lecture impossible", 2);
   const auto root = line.Value("--root");
   const auto sandbox =
       root ? std::make_unique<FolderSandbox>(*root) : std::make_unique<FolderSandbox>();
-  PilotRun run{script, std::cout, std::cerr, *sandbox, desk.ScriptWindows(), desk.ScriptUser()};
+  PilotRun run{
+      script, std::cout, std::cerr, *sandbox, desktop.ScriptWindows(), desktop.ScriptUser()};
   if (const auto png = line.Value("--shot"))
-    run.atEnd = [&desk, png](const Form& active) { desk.Capture(active, *png); };
+    run.atEnd = [&desktop, png](const Form& active) { desktop.Capture(active, *png); };
   return RunPilot(run);
 }
 
-int Follow(const CommandLine& line, Desk& desk) {
+int Follow(const CommandLine& line, Desktop& desktop) {
   if (line.Has("--help")) {
     std::cout << kUsage;
     return 0;
@@ -138,14 +139,14 @@ int Follow(const CommandLine& line, Desk& desk) {
   }
   if (line.Operands().size() != (line.Has("--pilot") ? 0 : 1))
     return Fail("une note est attendue (voir --help)", 2);
-  return line.Has("--pilot") ? DrivePilot(line, desk) : Edit(line, desk);
+  return line.Has("--pilot") ? DrivePilot(line, desktop) : Edit(line, desktop);
 }
 
 }  // namespace
 
-int Launch(std::span<const std::string_view> arguments, Desk& desk) {
+int Launch(std::span<const std::string_view> arguments, Desktop& desktop) {
   try {
-    return Follow(CommandLine(arguments, kOptions), desk);
+    return Follow(CommandLine(arguments, kOptions), desktop);
   } catch (const CommandLineError& error) {
     return Fail(error.what(), 2);
   } catch (const RuntimeError& error) {

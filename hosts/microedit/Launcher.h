@@ -15,9 +15,9 @@ class Form;
 class UserActs;
 
 /// What the launcher needs of its desktop.
-class Desk {
+class Desktop {
  public:
-  virtual ~Desk() = default;
+  virtual ~Desktop() = default;
   /// The user's own machine.
   virtual Platform& Machine() = 0;
   /// The drive-letter path of a native path.
@@ -32,6 +32,6 @@ class Desk {
 };
 
 /// Runs the program; the arguments exclude its name. Returns the exit status.
-int Launch(std::span<const std::string_view> arguments, Desk& desk);
+int Launch(std::span<const std::string_view> arguments, Desktop& desktop);
 
 }  // namespace lumenote

@@ -15,9 +15,9 @@ using namespace lumenote;
 namespace {
 
 /// Its application object is made with the first need for windows, so that help needs no display.
-class QtDesk final : public Desk {
+class QtDesktop final : public Desktop {
  public:
-  QtDesk(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+  QtDesktop(int& argc, char** argv) : argc_(argc), argv_(argv) {}
 
   Platform& Machine() override {
     NeedApplication();
@@ -63,6 +63,6 @@ class QtDesk final : public Desk {
 
 int main(int argc, char** argv) {
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-  QtDesk desk(argc, argv);
-  return Launch(arguments, desk);
+  QtDesktop desktop(argc, argv);
+  return Launch(arguments, desktop);
 }

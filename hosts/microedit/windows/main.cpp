@@ -14,7 +14,7 @@ using namespace lumenote;
 
 namespace {
 
-class Win32Desk final : public Desk {
+class Win32Desktop final : public Desktop {
  public:
   Platform& Machine() override {
     if (!platform_) platform_.emplace();
@@ -61,6 +61,6 @@ int wmain(int argc, wchar_t** argv) {
   UseUtf8Streams();
   const std::vector<std::string> words = Utf8Arguments(argc - 1, argv + 1);
   const std::vector<std::string_view> arguments(words.begin(), words.end());
-  Win32Desk desk;
-  return Launch(arguments, desk);
+  Win32Desktop desktop;
+  return Launch(arguments, desktop);
 }
