@@ -61,6 +61,8 @@ run_scripts() {
       >"$logs/$name.wine" 2>&1 </dev/null || fail "$name.pilot" "$logs/$name.wine"
     diff <(without_places "$logs/$name.native") <(without_places "$logs/$name.wine") >"$logs/$name.diff" ||
       fail "$name.pilot prints something else" "$logs/$name.diff"
+    wine "$x64/hosts/microedit/microedit.exe" --pilot "Z:${script//\//\\}" \
+      >"$logs/$name.windows" 2>&1 </dev/null || fail "$name.pilot on native windows" "$logs/$name.windows"
     count=$((count + 1))
   done
   printf '%d scripts\n' "$count"
@@ -85,7 +87,7 @@ check_exports() {
 # Programs and libraries need nothing that a fresh system lacks.
 check_imports() {
   local file own='libgcc|libstdc|libwinpthread'
-  for file in {"$x64","$x86"}/{hosts/com/Lumenote.dll,tools/lumenote/lumenote.exe}; do
+  for file in {"$x64","$x86"}/{hosts/com/Lumenote.dll,hosts/microedit/microedit.exe,tools/lumenote/lumenote.exe}; do
     x86_64-w64-mingw32-objdump -p "$file" | sed -n 's/.*DLL Name: //p' >"$logs/imports"
     ! grep -iqE "$own" "$logs/imports" || fail "imports of $file" "$logs/imports"
     printf '%s: %d KB, %s\n' "${file#"$top"/}" $(($(stat -c %s "$file") / 1024)) \

@@ -8,12 +8,16 @@ start_wine() {
   export WINEDLLOVERRIDES='mscoree,mshtml=;winedbg.exe=d;winemenubuilder.exe=d'
   unset DISPLAY WAYLAND_DISPLAY
   mkdir -p "$WINEPREFIX"
-  # A server and services that a later command starts would keep that command's output open.
-  wineserver -p >/dev/null 2>&1 </dev/null
   {
     wine wineboot --init
     wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
+    # Only a new start takes the driver; without it no window can be made.
+    wineserver -k
+    wineserver -w
   } >"$WINEPREFIX/start.log" 2>&1 </dev/null
+  # A server and services that a later command starts would keep that command's output open.
+  wineserver -p >/dev/null 2>&1 </dev/null
+  wine wineboot >/dev/null 2>&1 </dev/null
 }
 
 stop_wine() { wineserver -k >/dev/null 2>&1 </dev/null || true; }
