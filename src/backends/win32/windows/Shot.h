@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// Copies a window as the screen shows it to a PNG file. Raises PathAccess if that cannot be written.
+/// Copies a window as the screen shows it to a PNG file. Raises PathAccess if that fails.
 void SaveWindowShot(HWND window, const std::u16string& path);
 
 }  // namespace lumenote
