@@ -1,5 +1,4 @@
 // Maps each kind of control to its peer: one line here per kind, and a class of its own.
-#include <stdexcept>
 
 #include "backends/win32/peers/ButtonPeer.h"
 #include "backends/win32/peers/ComboBoxPeer.h"
@@ -11,42 +10,26 @@
 #include "backends/win32/peers/StatusBarPeer.h"
 #include "backends/win32/peers/TextBoxPeer.h"
 #include "backends/win32/peers/UpDownPeer.h"
+#include "forms/controls/PeerTable.h"
 
 namespace lumenote {
 namespace {
 
-using Maker = std::unique_ptr<ControlPeer> (*)(Control&, HWND, PeerHost&);
+using Peers = PeerTable<ControlPeer, HWND, PeerHost&>;
 
-template <class Kind, class Peer>
-std::unique_ptr<ControlPeer> Make(Control& control, HWND parent, PeerHost& host) {
-  auto* kind = dynamic_cast<Kind*>(&control);
-  return kind ? std::make_unique<Peer>(*kind, parent, host) : nullptr;
-}
-
-constexpr Maker kMakers[] = {
-    Make<Button, ButtonPeer>,         Make<CheckBox, CheckBoxPeer>,
-    Make<ComboBox, ComboBoxPeer>,     Make<Frame, FramePeer>,
-    Make<Label, LabelPeer>,           Make<OptionButton, OptionButtonPeer>,
-    Make<PictureBox, PictureBoxPeer>, Make<RichTextBox, RichTextPeer>,
-    Make<ScrollBar, ScrollBarPeer>,   Make<StatusBar, StatusBarPeer>,
-    Make<TextBox, TextBoxPeer>,       Make<UpDown, UpDownPeer>,
+constexpr Peers::Maker kPeers[] = {
+    Peers::Make<Button, ButtonPeer>,         Peers::Make<CheckBox, CheckBoxPeer>,
+    Peers::Make<ComboBox, ComboBoxPeer>,     Peers::Make<Frame, FramePeer>,
+    Peers::Make<Label, LabelPeer>,           Peers::Make<OptionButton, OptionButtonPeer>,
+    Peers::Make<PictureBox, PictureBoxPeer>, Peers::Make<RichTextBox, RichTextPeer>,
+    Peers::Make<ScrollBar, ScrollBarPeer>,   Peers::Make<StatusBar, StatusBarPeer>,
+    Peers::Make<TextBox, TextBoxPeer>,       Peers::Make<UpDown, UpDownPeer>,
 };
-
-constexpr Property kAllOfAControl[] = {Property::Geometry, Property::Font,    Property::Caption,
-                                       Property::Enabled,  Property::Checked, Property::Panels,
-                                       Property::List,     Property::Content, Property::Value,
-                                       Property::Locked,   Property::Visible};
 
 }  // namespace
 
 std::unique_ptr<ControlPeer> MakeControlPeer(Control& control, HWND parent, PeerHost& host) {
-  for (const Maker make : kMakers) {
-    auto peer = make(control, parent, host);
-    if (!peer) continue;
-    for (const Property property : kAllOfAControl) peer->Update(property);
-    return peer;
-  }
-  throw std::logic_error("no window for the control " + control.Name());
+  return Peers::Realise(kPeers, control, parent, host);
 }
 
 }  // namespace lumenote
