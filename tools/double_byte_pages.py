@@ -4,10 +4,19 @@
     tools/double_byte_pages.py > src/rtf/codepages/DoubleByteTables.cpp
 
 The pages come from Python's own codecs. Each is the list of its characters by rising lead byte
-(0x81 to 0xFE), then by rising trail byte (0x40 to 0xFE), written as differences; the C++ side of
+(0x81 to 0xFE), then by rising trail byte (0x31 to 0xFE), written as differences; the C++ side of
 the packing is DoubleBytePage.cpp."""
 
-PAGES = (932, "cp932"), (936, "gbk"), (949, "cp949"), (950, "cp950")
+PAGES = (932, "cp932"), (936, "gbk"), (949, "cp949"), (950, "cp950"), (1361, "johab")
+# Characters that users define: first and last lead byte, their trail bytes. They fill the private
+# use area from U+E000 in this order. Page 932 has them in the codec.
+HIGH, LOW = range(0xA1, 0xFF), [*range(0x40, 0x7F), *range(0x80, 0xA1)]
+BOTH = [*range(0x40, 0x7F), *HIGH]
+USERS = {
+    936: [(0xAA, 0xAF, HIGH), (0xF8, 0xFE, HIGH), (0xA1, 0xA7, LOW)],
+    949: [(0xC9, 0xC9, HIGH), (0xFE, 0xFE, HIGH)],
+    950: [(0xFA, 0xFE, BOTH), (0x8E, 0xA0, BOTH), (0x81, 0x8D, BOTH), (0xC6, 0xC6, HIGH), (0xC7, 0xC8, BOTH)],
+}
 DIGITS = [chr(c) for c in range(ord("#"), 0x7F) if chr(c) not in "?\\"]
 BASE = len(DIGITS)  # 90
 # The first digit of an item tells its kind; the limits are those of DoubleBytePage.cpp.
@@ -34,9 +43,18 @@ def counted(kind, count):
     return "".join(items) + (DIGITS[kind] + DIGITS[rest - 1] if rest else "")
 
 
-def units(codec):
+def of_users(page):
+    pairs = ((lead, trail) for first, last, trails in USERS.get(page, []) for lead in range(first, last + 1) for trail in trails)
+    return {pair: 0xE000 + i for i, pair in enumerate(pairs)}
+
+
+def units(page, codec):
+    users = of_users(page)
     for lead in range(0x81, 0xFF):
-        for trail in range(0x40, 0xFF):
+        for trail in range(0x31, 0xFF):
+            if (lead, trail) in users:
+                yield users[lead, trail]
+                continue
             try:
                 text = bytes([lead, trail]).decode(codec)
             except UnicodeDecodeError:
@@ -69,9 +87,9 @@ def main():
     print("// The double-byte code pages, packed. Made by tools/double_byte_pages.py: not to be edited.")
     print('#include "rtf/codepages/DoubleBytePage.h"\n\nnamespace lumenote {\n')
     print("// clang-format off")
-    print("const PackedPage kDoubleBytePages[4] = {")
+    print("const PackedPage kDoubleBytePages[5] = {")
     for number, codec in PAGES:
-        text = packed(list(units(codec)))
+        text = packed(list(units(number, codec)))
         lines = [text[at : at + 96] for at in range(0, len(text), 96)]
         print("{%d," % number)
         print("\n".join('"%s"' % line for line in lines) + "},")

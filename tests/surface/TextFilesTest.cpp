@@ -118,9 +118,9 @@ TEST_F(TextFiles, BitByBitAreWhatASaveWrites) {
     }
 }
 
-TEST_F(TextFiles, EveryUnitComesBackFromRtf) {
+TEST_F(TextFiles, EveryUnitButNulComesBackFromRtf) {
   std::u16string text;
-  for (char32_t unit = 0; unit <= 0xFFFF; ++unit)
+  for (char32_t unit = 1; unit <= 0xFFFF; ++unit)
     if (unit != u'\r' && unit != u'\n') text.append({static_cast<char16_t>(unit), u'x'});
   s.Text(text);
   s.TextRTF(std::u16string(s.TextRTF()));

@@ -40,6 +40,16 @@ void DecodeCodePage(int page, std::string_view bytes, std::u16string& out) {
   for (const char byte : bytes) out.push_back(decode[static_cast<unsigned char>(byte)]);
 }
 
+std::string EncodeCodePage(int page, char16_t unit) {
+  constexpr char16_t kUnknown = u'\uFFFD';
+  if (unit == kUnknown || IsSurrogate(unit)) return {};
+  if (page == kPageUtf8) return ToUtf8(std::u16string_view(&unit, 1));
+  if (const DoubleBytePage* pairs = DoubleBytePage::Find(page)) return pairs->Encode(unit);
+  const std::size_t at = std::u16string_view(UpperHalfOrWindows(page), 0x80).find(unit);
+  if (at == std::u16string_view::npos) return {};
+  return {static_cast<char>(0x80 + at)};
+}
+
 int CodePageOfCharset(int charset) {
   struct Pair {
     int charset, page;

@@ -1,4 +1,4 @@
-// Code pages to UTF-16.
+// Code pages to UTF-16 and back.
 #pragma once
 #include <string>
 #include <string_view>
@@ -8,10 +8,13 @@ namespace lumenote {
 inline constexpr int kPageOfWindows = 1252;
 inline constexpr int kPageOfSymbols = 42;  // of symbol fonts: byte n is U+F000 + n
 inline constexpr int kPageUtf8 = 65001;
+inline constexpr int kDefaultCharset = 1;  // \fcharset of fonts that leave it to the document
 
 /// Decodes bytes of a Windows, OEM or Mac code page, given by number as in \ansicpg, and appends to
 /// `out`; an unknown page is read as 1252. Must not split a multi-byte character.
 void DecodeCodePage(int page, std::string_view bytes, std::u16string& out);
+/// The bytes of a unit from U+0080 on; none if the page lacks it, as it does half a surrogate pair.
+std::string EncodeCodePage(int page, char16_t unit);
 /// The code page of a font's character set (\fcharset); 0 for the document's own.
 int CodePageOfCharset(int charset);
 

@@ -16,7 +16,7 @@ namespace lumenote {
 namespace {
 
 constexpr int kFirstLead = 0x81, kLastLead = 0xFE;
-constexpr int kFirstTrail = 0x40, kLastTrail = 0xFE;
+constexpr int kFirstTrail = 0x31, kLastTrail = 0xFE;
 constexpr int kRow = kLastTrail - kFirstTrail + 1;
 constexpr std::size_t kCells = (kLastLead - kFirstLead + 1) * std::size_t{kRow};
 
@@ -87,6 +87,16 @@ int OwnNumber(int number) {
 DoubleBytePage::DoubleBytePage(const PackedPage& packed) : number_(packed.number) {
   cells_.reserve(kCells);
   Unpacker(packed.cells, cells_).Run();
+  bytes_.resize(0x10000);
+  for (std::size_t cell = cells_.size(); cell-- > 0;) {
+    const std::size_t pair = (kFirstLead + cell / kRow) << 8 | (kFirstTrail + cell % kRow);
+    bytes_[cells_[cell]] = static_cast<std::uint16_t>(pair);
+  }
+  for (int byte = 0x80; byte <= 0xFF; ++byte) {
+    const auto single = static_cast<unsigned char>(byte);
+    if (!Leads(single)) bytes_[Single(single)] = single;
+  }
+  bytes_[0] = bytes_[kUnknown] = 0;
 }
 
 bool DoubleBytePage::Is(int number) {
@@ -120,6 +130,13 @@ void DoubleBytePage::Decode(std::string_view bytes, std::u16string& out) const {
     out.push_back(unit != 0 ? unit : kUnknown);
     if (unit != 0 || trail >= 0x80) ++i;
   }
+}
+
+std::string DoubleBytePage::Encode(char16_t unit) const {
+  const std::uint16_t bytes = bytes_[unit];
+  if (bytes == 0) return {};
+  if (bytes <= 0xFF) return {static_cast<char>(bytes)};
+  return {static_cast<char>(bytes >> 8), static_cast<char>(bytes)};
 }
 
 bool DoubleBytePage::Leads(unsigned char byte) const {

@@ -1,6 +1,7 @@
-// The double-byte code pages 932, 936, 949 and 950. They also serve for the Macintosh pages 10001,
-// 10008, 10003 and 10002, which differ in a few signs only.
+// The double-byte code pages 932, 936, 949, 950 and 1361. They also serve for the Macintosh pages
+// 10001, 10008, 10003 and 10002, which differ in a few signs only.
 #pragma once
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,7 @@ struct PackedPage {
   int number;
   std::string_view cells;
 };
-extern const PackedPage kDoubleBytePages[4];
+extern const PackedPage kDoubleBytePages[5];
 
 /// An unpacked page: a cell for each pair of lead and trail byte.
 class DoubleBytePage {
@@ -24,6 +25,8 @@ class DoubleBytePage {
   /// Appends to `out`. An invalid byte becomes U+FFFD; an ASCII byte that does not pair with the
   /// lead byte before it is itself.
   void Decode(std::string_view bytes, std::u16string& out) const;
+  /// The bytes of a character beyond ASCII; none if the page lacks it.
+  std::string Encode(char16_t unit) const;
 
  private:
   explicit DoubleBytePage(const PackedPage& packed);
@@ -35,6 +38,7 @@ class DoubleBytePage {
 
   int number_;
   std::vector<char16_t> cells_;
+  std::vector<std::uint16_t> bytes_;  // by character: one byte, or a pair with the lead byte high
 };
 
 }  // namespace lumenote

@@ -142,6 +142,7 @@ class Interpreter {
   CharId CharacterWith(Kept kept);
   CharId NextCharacter();
   HeadId Head();
+  bool NeedsPage() const;
   void UseDefaultFont(GroupState& state);
   bool HasBullet() const;
 

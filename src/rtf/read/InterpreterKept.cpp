@@ -173,7 +173,17 @@ void Interpreter::BeginBody() {
   if (target_ == RtfTarget::Document) headItems_ = std::move(items);
 }
 
+/// Whether some font leaves its bytes to a document's page other than that of Windows.
+bool Interpreter::NeedsPage() const {
+  if (documentPage_ == kPageOfWindows) return false;
+  return std::ranges::any_of(fonts_.All(), [&](const auto& entry) {
+    const SourceFont& font = entry.second;
+    return font.page == 0 && formats_.fonts[font.font].charset == kDefaultCharset;
+  });
+}
+
 HeadId Interpreter::Head() {
+  needsTables_ |= NeedsPage();
   if (needsTables_) {
     for (const auto& [number, font] : fonts_.All())
       head_.fonts.push_back({number, font.font, font.page});

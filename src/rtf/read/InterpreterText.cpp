@@ -14,11 +14,11 @@ void Interpreter::Unicode(int, const Token& word) {
   const int number = word.number < kFirst || word.number > kLast ? 0xFFFD : word.number;
   if (number == '\r' || number == '\n') {
     Break(0, word);
-  } else if (number <= 0xFFFF) {
-    Put(static_cast<char16_t>(number));
-  } else {
+  } else if (number > 0xFFFF) {
     Put(static_cast<char16_t>(0xD7C0 + (number >> 10)));
     Put(static_cast<char16_t>(0xDC00 + (number & 0x3FF)));
+  } else if (number != 0) {
+    Put(static_cast<char16_t>(number));
   }
   swallow_ = State().fallback;
 }

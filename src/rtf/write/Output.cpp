@@ -8,6 +8,7 @@
 #include <cstring>
 #include <type_traits>
 
+#include "rtf/codepages/CodePage.h"
 #include "rtf/source/PlainText.h"
 
 namespace lumenote {
@@ -124,7 +125,8 @@ bool StopsText(char16_t unit) {
 
 }  // namespace
 
-Output::Output(const ByteSink& sink) : sink_(sink), buffer_(kPiece + kShort) {}
+Output::Output(const ByteSink& sink, int page)
+    : sink_(sink), page_(page), buffer_(kPiece + kShort) {}
 
 void Output::Append(std::string_view source) {
   if (source.size() > kShort) return AppendLong(source);
@@ -265,9 +267,15 @@ void Output::Character(char16_t unit, Encoding encoding) {
     Raw(symbol);
   } else if (const int byte = ByteFor(unit, encoding); byte >= 0) {
     Hex(byte);
-  } else {
+  } else if (unit != 0 && !(encoding == Encoding::Document && InDocumentPage(unit))) {
     Unicode(unit);
   }
+}
+
+bool Output::InDocumentPage(char16_t unit) {
+  const std::string bytes = EncodeCodePage(page_, unit);
+  for (const char byte : bytes) Hex(static_cast<unsigned char>(byte));
+  return !bytes.empty();
 }
 
 }  // namespace lumenote

@@ -13,14 +13,20 @@
 namespace lumenote {
 
 /// How the characters of a font are encoded.
-enum class Encoding : std::uint8_t { Windows, Symbols, UnicodeOnly };
+enum class Encoding : std::uint8_t {
+  Windows,
+  Symbols,
+  Document,  // bytes of the document's page, which is not that of Windows
+  UnicodeOnly
+};
 
 /// Buffers the output and emits pieces of about 64 KB, the rest on `Flush`. A longer piece of
 /// source, such as a picture, is not copied but queued for `HandOn`, together with everything after
 /// it; it must stay valid until then. Tracks whether the last control word needs a delimiter.
 class Output {
  public:
-  explicit Output(const ByteSink& sink);
+  /// `page` is the document's.
+  Output(const ByteSink& sink, int page);
 
   /// Writes a control word, given without its backslash; of ordinary length.
   void Word(std::string_view name);
@@ -64,7 +70,11 @@ class Output {
   void AppendLong(std::string_view source);
   void Grow(std::size_t count);
 
+  /// Writes the bytes of a character in the document's page; false if it has none.
+  bool InDocumentPage(char16_t unit);
+
   const ByteSink& sink_;
+  int page_;
   std::deque<Waiting> waiting_;
   std::vector<char> buffer_;
   std::size_t size_ = 0;

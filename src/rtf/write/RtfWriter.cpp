@@ -34,7 +34,7 @@ RtfWriter::RtfWriter(const Document& document, Selection range, std::optional<Fi
       at_(range_.start),
       scan_(document, range_.start, mark_ ? &*mark_ : nullptr),
       formats_(document.Formats(), document.Mark().head),
-      out_(sink) {}
+      out_(sink, document.Formats().heads[document.Mark().head].page) {}
 
 bool RtfWriter::Step(Position units) {
   if (out_.HandOn()) return out_.Waits() || stage_ != Stage::Done;

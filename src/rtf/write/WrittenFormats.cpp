@@ -26,14 +26,17 @@ std::uint16_t WrittenEffects(std::uint16_t effects) {
   return static_cast<std::uint16_t>(both ? effects & ~kSubscript : effects);
 }
 
-Encoding EncodingOf(int page) {
-  switch (page) {
+/// The encoding of a font whose own page is `page`, 0 if it has none. Readers differ about the
+/// bytes of a font without a character set, so these stay as they came.
+Encoding EncodingOf(const FontFace& face, int page, int documentPage) {
+  const bool ofDocument = page == 0 && face.charset == kDefaultCharset;
+  switch (page == 0 ? documentPage : page) {
     case kPageOfWindows:
       return Encoding::Windows;
     case kPageOfSymbols:
       return Encoding::Symbols;
     default:
-      return Encoding::UnicodeOnly;
+      return ofDocument ? Encoding::Document : Encoding::UnicodeOnly;
   }
 }
 
@@ -59,10 +62,11 @@ WrittenFormats::WrittenFormats(const FormatTables& tables, HeadId id)
   const KeptHead& head = Head();
   for (const KeptHead::Font& font : head.fonts) {
     const std::uint32_t known = faces_.Size();
-    faces_.Intern(tables.fonts[font.font]);
+    const FontFace& face = tables.fonts[font.font];
+    faces_.Intern(face);
     if (font.number < kWildNumber) nextFont_ = std::max(nextFont_, font.number + 1);
     if (faces_.Size() != known)
-      fonts_.push_back({font.number, EncodingOf(font.page == 0 ? head.page : font.page)});
+      fonts_.push_back({font.number, EncodingOf(face, font.page, head.page)});
   }
   keptFonts_ = faces_.Size();
   for (const Colour colour : head.colours) {
@@ -81,7 +85,7 @@ std::uint32_t WrittenFormats::FontIndex(const FontFace& face) {
   const std::uint32_t index = faces_.Intern(face);
   if (index == fonts_.size()) {
     const int page = CodePageOfCharset(face.charset);
-    fonts_.push_back({nextFont_++, EncodingOf(page == 0 ? Head().page : page)});
+    fonts_.push_back({nextFont_++, EncodingOf(face, page, Head().page)});
   }
   return index;
 }

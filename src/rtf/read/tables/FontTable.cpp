@@ -33,6 +33,8 @@ class Entry {
   void EndFallback() { fallback_ = 0; }
   /// Decodes the bytes of the name read so far.
   void EndBytes();
+  /// A name may say for which script the font is, if nothing else does.
+  void UseScriptOfName();
 
  private:
   int documentPage_;
@@ -59,7 +61,7 @@ void Entry::Word(const Token& word) {
     face_.pitch = Small(word.number);
   } else if (word.text == "u") {
     EndBytes();
-    face_.name.push_back(static_cast<char16_t>(word.number));
+    if (word.number != 0) face_.name.push_back(static_cast<char16_t>(word.number));
     fallback_ = 1;
   } else {
     const auto family = std::find(std::begin(kFamilies), std::end(kFamilies), word.text);
@@ -81,12 +83,28 @@ void Entry::EndBytes() {
   DecodeCodePage(ownPage ? page_ : documentPage_, std::exchange(bytes_, {}), face_.name);
 }
 
+void Entry::UseScriptOfName() {
+  struct Script {
+    std::u16string_view ending;
+    std::uint8_t charset;
+  };
+  static constexpr Script kScripts[] = {
+      {u" CE", 238}, {u" Cyr", 204}, {u" Greek", 161}, {u" Tur", 162}, {u" Baltic", 186}};
+  const std::u16string_view name = TrimSpaces(face_.name);
+  for (const Script& script : kScripts) {
+    if (page_ != 0 || !name.ends_with(script.ending)) continue;
+    face_.charset = script.charset;
+    page_ = CodePageOfCharset(script.charset);
+  }
+}
+
 }  // namespace
 
 void FontTable::Read(Tokenizer& tokens, InternTable<FontFace>& faces, int documentPage) {
   Entry entry(documentPage);
   const auto start = [&](int number) {
     entry.EndBytes();
+    entry.UseScriptOfName();
     if (entry.Number() >= 0) fonts_[entry.Number()] = {faces.Intern(entry.Face()), entry.Page()};
     entry = Entry(documentPage, number);
   };
