@@ -77,7 +77,7 @@ TEST_P(LayoutContract, CaretsAndPointsAreInverse) {
 TEST_P(LayoutContract, SpansOfAParagraphGiveTheSameLines) {
   const Position end = document.ParagraphEnd(0);
   const auto whole = layouter->LayOut(document, {.from = 0, .to = end});
-  const int lines = static_cast<int>(whole->lines.size());
+  const int lines = whole->cells.empty() ? static_cast<int>(whole->lines.size()) : 0;
   for (int line = 1; line < lines; line += 3) {
     const Position from = whole->LineStart(line);
     const auto rest = layouter->LayOut(document, {.from = from, .to = end});
@@ -104,7 +104,50 @@ TEST_P(LayoutContract, ComposedTextIsShownButNotCounted) {
   EXPECT_GT(piece->lines.front().height, 0);
 }
 
+// A row that is laid out as cells is one piece, whatever is asked for; its cells do not overlap.
+TEST_P(LayoutContract, CellsLieBesideEachOther) {
+  const Position end = document.ParagraphEnd(0);
+  const auto row = layouter->LayOut(document, {.from = 0, .to = end});
+  if (row->cells.empty()) return;
+  const auto part = layouter->LayOut(document, {.from = end / 2, .to = end});
+  EXPECT_EQ(std::pair(part->from, part->to), std::pair(0, end));
+  for (std::size_t i = 0; i < row->cells.size(); ++i) {
+    const PieceCell& cell = row->cells[i];
+    const bool last = i + 1 == row->cells.size();
+    const int behind = last ? static_cast<int>(row->lines.size()) : row->cells[i + 1].firstLine;
+    for (int line = cell.firstLine; line < behind; ++line) {
+      const PieceLine& box = row->lines[static_cast<std::size_t>(line)];
+      EXPECT_EQ(row->LineAt(box.top, cell.right - 1), line);
+      for (int index = box.start; index < box.end; ++index) {
+        EXPECT_GE(row->CaretX(line, index), cell.left - 0.5);
+        EXPECT_LE(row->CaretX(line, index), cell.right + 0.5);
+      }
+    }
+  }
+}
+
+// As high as its highest box, and the carets of a box are its edges.
+TEST_P(LayoutContract, BoxesTakeTheirRoom) {
+  const auto piece = layouter->LayOut(document, {.from = 0, .to = document.ParagraphEnd(0)});
+  for (const InlineBox& box : piece->boxes) {
+    const int line = piece->LineOf(piece->ToPosition(box.index));
+    const PieceLine& shown = piece->lines[static_cast<std::size_t>(line)];
+    EXPECT_GE(shown.baseline - shown.top, box.size.height);
+    const double left = piece->CaretX(line, box.index);
+    EXPECT_NEAR(piece->CaretX(line, box.index + 1) - left, box.size.width, 0.02);
+    EXPECT_EQ(piece->CharacterAt(line, left + box.size.width / 2), piece->ToPosition(box.index));
+  }
+}
+
 const std::u16string kWords = Words(700);
+const std::u16string kHebrew = u"\\u1513?\\u1500?\\u1493?\\u1501? ";
+const std::u16string kObject = u"{\\pict\\pngblip\\picw900\\pich600 00}";
+
+std::u16string Times(int count, const std::u16string& text) {
+  std::u16string all;
+  while (count-- > 0) all += text;
+  return all;
+}
 
 INSTANTIATE_TEST_SUITE_P(
     Paragraphs, LayoutContract,
@@ -120,6 +163,14 @@ INSTANTIATE_TEST_SUITE_P(
                     LayoutCase{"Capitals", u"{\\scaps " + kWords + u"}{\\caps " + kWords + u"}"},
                     LayoutCase{"Raised", kWords + u"{\\super " + kWords + u"}\\expnd4 " + kWords},
                     LayoutCase{"BeyondOneUnit", kWords + u"\\u-10188?\\u-8930? " + kWords},
+                    LayoutCase{"BothDirections", Times(30, u"un " + kHebrew + u"12 (" + kHebrew)},
+                    LayoutCase{"FromTheRight", u"\\rtlpar " + Times(90, kHebrew)},
+                    LayoutCase{"Objects", Times(40, u"un" + kObject + kObject + u" ")},
+                    LayoutCase{"Row",
+                               u"\\trowd\\cellx900\\cellx3000\\intbl un deux\\line\\cell\\cell " +
+                                   Words(90) + u"\\tab x" + kHebrew + u"\\row " + kWords},
+                    LayoutCase{"JustifiedRow", u"\\trowd\\cellx2400\\cellx4800\\qj\\intbl " +
+                                                   Words(90) + u"\\cell " + Words(80) + u"\\row"},
                     LayoutCase{"NoRoom", u"\\li30000\\ri30000 " + Words(60)}),
     [](const auto& info) { return info.param.name; });
 

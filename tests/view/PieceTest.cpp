@@ -8,7 +8,12 @@
 
 namespace lumenote {
 
-std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<FixedLayouter>(); }
+std::unique_ptr<TextLayouter> MakeLayouter() {
+  auto layouter = std::make_unique<FixedLayouter>();
+  layouter->boxOf = [](const Kept&) { return PixelSize{60, 40}; };
+  layouter->cells = true;
+  return layouter;
+}
 
 namespace {
 

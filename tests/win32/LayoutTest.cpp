@@ -4,6 +4,10 @@
 
 namespace lumenote {
 
-std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<UniscribeLayouter>(); }
+std::unique_ptr<TextLayouter> MakeLayouter() {
+  auto layouter = std::make_unique<UniscribeLayouter>();
+  layouter->boxOf = [](const Kept&) { return PixelSize{60, 40}; };
+  return layouter;
+}
 
 }  // namespace lumenote

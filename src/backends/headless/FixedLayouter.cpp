@@ -93,7 +93,6 @@ class PieceBuilder {
   bool EndsWithLineBreak() const {
     return !piece_.glyphs.empty() && piece_.glyphs.back().unit == kLineBreak;
   }
-  int IndexBehind(const RowCell& cell, bool last) const;
   std::u16string Text() const;
 
   const FixedLayouter& layouter_;
@@ -221,7 +220,7 @@ bool PieceBuilder::BuildRow() {
   int start = 0;
   for (const RowCell& cell : cells) {
     const bool last = &cell == &cells.back();
-    const int end = IndexBehind(cell, last);
+    const int end = EndOf(cell, piece_, last);
     if (!last) piece_.glyphs[static_cast<std::size_t>(end) - 1].EndCell();
     const std::size_t line = piece_.lines.size();
     AddCell(cell, start, end);
@@ -239,12 +238,6 @@ void PieceBuilder::AddCell(const RowCell& cell, int start, int end) {
     lineEnd = LineEnd(start, end, cell.left, cell.right - cell.left);
     AddLine(start, lineEnd, cell.left);
   }
-}
-
-// Text composed where a cell begins belongs to that cell.
-int PieceBuilder::IndexBehind(const RowCell& cell, bool last) const {
-  const int index = cell.end - piece_.from;
-  return last || index > piece_.composedAt ? index + piece_.composedLength : index;
 }
 
 }  // namespace

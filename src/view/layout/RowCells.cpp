@@ -65,4 +65,9 @@ std::vector<RowCell> RowCellsAt(const TextLayouter& layouter, const Document& do
   return cells;
 }
 
+int EndOf(const RowCell& cell, const Piece& row, bool last) {
+  const int index = cell.end - row.from;
+  return last || index > row.composedAt ? index + row.composedLength : index;
+}
+
 }  // namespace lumenote

@@ -19,4 +19,8 @@ struct RowCell {
 std::vector<RowCell> RowCellsAt(const TextLayouter& layouter, const Document& document,
                                 Position position);
 
+/// The unit behind a cell in the text of the row's piece; `last` tells the row's last cell. Text
+/// composed where a cell begins belongs to that cell.
+int EndOf(const RowCell& cell, const Piece& row, bool last);
+
 }  // namespace lumenote

@@ -15,9 +15,7 @@ class QtPiece final : public Piece {
   double CaretX(int line, int index) const override { return layout.lineAt(line).cursorToX(index); }
 
  protected:
-  int CaretAt(int line, double x) const override {
-    return layout.lineAt(line).xToCursor(x, QTextLine::CursorBetweenCharacters);
-  }
+  int CaretAt(int line, double x) const override;
   int UnitAt(int line, double x) const override;
   int CaretBefore(int index) const override { return layout.previousCursorPosition(index); }
 };

@@ -9,6 +9,7 @@ namespace lumenote {
 namespace {
 
 constexpr double kTolerance = 1e-6;  // pixels
+constexpr double kCellGap = 90;      // twips between the text of a cell and the next cell
 
 int Rounded(double pixels) { return static_cast<int>(std::lround(pixels)); }
 
@@ -22,22 +23,25 @@ LineMaker::LineMaker(const TextLayouter& layouter, const Document& document, Cha
       stack_(layouter, document, piece),
       units_(std::move(shaped.units)),
       tabs_(TabsOf(layouter, document.Formats().tabs[stack_.Format().tabs], stack_.Edges())),
-      tabStep_(layouter.Pixels(kDefaultTabStep)) {
+      tabStep_(layouter.Pixels(kDefaultTabStep)),
+      cellGap_(layouter.Pixels(kCellGap)) {
   for (PixelTab& tab : tabs_) tab.x = std::round(tab.x);  // as the text before it ends
   piece_.glyphs = std::move(shaped.runs);
   piece_.units.resize(units_.size());
+  column_ = {.end = static_cast<int>(units_.size()), .edges = stack_.Edges()};
+  for (const InlineBox& box : piece_.boxes) Unit(box.index).width = Rounded(box.size.width);
 }
 
 // --- breaking
 
-// The end of the line that starts at `start`; the text's if everything fits.
+// The end of the line that starts at `start`; the column's if everything fits.
 // Blanks may hang.
-int LineMaker::LineEnd(int start, double left) {
-  const int count = static_cast<int>(units_.size());
-  const double right = left + stack_.Edges().Room(left);
+int LineMaker::LineEnd(int start) {
+  const double left = LeftEdge(start);
+  const double right = left + column_.edges.Room(left);
   int breakAt = start;
   double x = left;
-  for (int i = start; i < count; ++i) {
+  for (int i = start; i < column_.end; ++i) {
     ShapedUnit& unit = Unit(i);
     if (i > start && unit.breakBefore) breakAt = i;
     if (UnitAt(i) == kShownLineBreak) return i + 1;
@@ -46,7 +50,7 @@ int LineMaker::LineEnd(int start, double left) {
     const bool mayStay = UnitAt(i) == u' ' || unit.width == 0 || i == start;
     if (x > right + kTolerance && !mayStay) return breakAt > start ? breakAt : i;
   }
-  return count;
+  return column_.end;
 }
 
 int LineMaker::TabWidth(int tab, double x) const {
@@ -64,7 +68,7 @@ int LineMaker::TabWidth(int tab, double x) const {
 double LineMaker::TabRoom(int tab, TabKind kind) const {
   if (kind == TabKind::Left || kind == TabKind::Bar) return 0;
   double width = 0;
-  for (int i = tab + 1; i < std::ssize(units_); ++i) {
+  for (int i = tab + 1; i < column_.end; ++i) {
     const char16_t unit = UnitAt(i);
     if (unit == u'\t' || unit == kShownLineBreak) break;
     if (kind == TabKind::Decimal && unit == u',') break;
@@ -73,22 +77,46 @@ double LineMaker::TabRoom(int tab, TabKind kind) const {
   return kind == TabKind::Centre ? width / 2 : width;
 }
 
-bool LineMaker::Build(const PieceSpan& span) {
-  const int count = static_cast<int>(units_.size());
-  const int known = span.nextKnown < 0 ? count : piece_.ToIndex(span.nextKnown);
-  for (int start = 0, end = -1; end != count && end != known; start = end) {
-    end = LineEnd(start, LeftEdge(start));
-    if (end == count && !span.complete) break;
+// Adds the column's lines from one start to its end, or to another start that is `known`.
+void LineMaker::AddLines(int start, int known, bool omitLast) {
+  for (int end = -1; end != column_.end && end != known; start = end) {
+    end = LineEnd(start);
+    if (end == column_.end && omitLast) return;
     piece_.lines.push_back({.start = start, .end = end});
   }
+}
+
+void LineMaker::EndWithLineBreak() {
+  const int count = static_cast<int>(units_.size());
+  if (count > 0 && UnitAt(count - 1) == kShownLineBreak)
+    piece_.lines.push_back({.start = count, .end = count});
+}
+
+bool LineMaker::Build(const PieceSpan& span) {
+  AddLines(0, span.nextKnown < 0 ? column_.end : piece_.ToIndex(span.nextKnown), !span.complete);
   if (piece_.lines.empty()) return false;
   piece_.to = piece_.ToPosition(piece_.lines.back().end);
   piece_.closes = piece_.closes && piece_.to == span.to;
-  if (piece_.closes && count > 0 && UnitAt(count - 1) == kShownLineBreak)
-    piece_.lines.push_back({.start = count, .end = count});
+  if (piece_.closes) EndWithLineBreak();
   for (PieceLine& line : piece_.lines) PlaceLine(line);
   stack_.Finish(piece_.text);
   return true;
+}
+
+void LineMaker::BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends) {
+  int start = 0;
+  for (std::size_t i = 0; i < cells.size(); start = ends[i++]) AddCell(cells[i], start, ends[i]);
+  stack_.Finish(piece_.text);
+}
+
+void LineMaker::AddCell(const RowCell& cell, int start, int end) {
+  const double room = cell.right - cell.left - cellGap_;
+  column_ = {.end = end, .edges = {.right = room}, .left = std::round(cell.left)};
+  const std::size_t first = piece_.lines.size();
+  AddLines(start, end, false);
+  if (end == std::ssize(units_)) EndWithLineBreak();
+  stack_.BeginCell(cell.left, cell.right);
+  for (std::size_t i = first; i < piece_.lines.size(); ++i) PlaceLine(piece_.lines[i]);
 }
 
 // --- placing
@@ -114,7 +142,7 @@ void LineMaker::Justify(int start, int end) {
   const int last = FirstHanging(first, end);
   int blanks = 0;
   for (int i = first; i < last; ++i) blanks += UnitAt(i) == u' ' ? 1 : 0;
-  const double room = stack_.Edges().Room(LeftEdge(start));
+  const double room = column_.edges.Room(LeftEdge(start));
   int extra = static_cast<int>(room) - Measure(start, end).width;
   auto run = std::ranges::upper_bound(piece_.glyphs, first, {}, &GlyphRun::end);
   for (int i = first; i < last && extra > 0; ++i) {
@@ -132,13 +160,15 @@ void LineMaker::Justify(int start, int end) {
 int LineMaker::LeftOf(const PieceLine& line, const Extent& extent) const {
   const ParaFormat& format = stack_.Format();
   const double edge = LeftEdge(line.start);
-  const double room = stack_.Edges().Room(edge);
+  const double room = column_.edges.Room(edge);
   const double rest = std::max(0.0, room - extent.width);
   double shift = 0;
   if (format.alignment == Alignment::Right) shift = rest;
   if (format.alignment == Alignment::Centre) shift = rest / 2;
-  if (!format.rightToLeft) return Rounded(edge + shift);
-  return Rounded(stack_.Edges().right - edge - shift - extent.width - extent.hanging);
+  const double left = format.rightToLeft
+                          ? column_.edges.right - edge - shift - extent.width - extent.hanging
+                          : edge + shift;
+  return Rounded(column_.left + left);
 }
 
 std::vector<LinePart> LineMaker::PartsOf(int start, int end) const {
@@ -195,8 +225,7 @@ void LineMaker::PlaceUnits(const LinePart& part) {
 
 bool LineMaker::IsJustified(const PieceLine& line) const {
   return stack_.Format().alignment == Alignment::Justify && line.end > line.start &&
-         !(piece_.closes && line.end == std::ssize(units_)) &&
-         UnitAt(line.end - 1) != kShownLineBreak;
+         !(piece_.closes && line.end == column_.end) && UnitAt(line.end - 1) != kShownLineBreak;
 }
 
 void LineMaker::PlaceLine(PieceLine& line) {
@@ -227,6 +256,8 @@ void LineMaker::Stack(PieceLine& line) {
     ascent = style.ascent;
     descent = style.descent;
   }
+  for (const InlineBox& box : piece_.boxes)
+    if (box.index >= line.start && box.index < line.end) ascent = std::max(ascent, box.size.height);
   Extend(piece_.decorations, line, ascent, descent);
   stack_.Place(line, ascent, descent);
 }

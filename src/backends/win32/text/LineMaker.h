@@ -2,6 +2,7 @@
 #pragma once
 #include "backends/win32/text/UniscribePiece.h"
 #include "view/layout/LineStack.h"
+#include "view/layout/RowCells.h"
 
 namespace lumenote {
 
@@ -13,8 +14,17 @@ class LineMaker {
 
   /// Returns false if an incomplete span gave no whole line.
   bool Build(const PieceSpan& span);
+  /// Lays out a row; `ends` are those of the cells in the piece's text.
+  void BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends);
 
  private:
+  /// What lies between the same edges: a paragraph, or a cell of a row.
+  struct Column {
+    int end = 0;
+    LineEdges edges;
+    double left = 0;  // pixels from the text's left edge, whence `edges` are measured
+  };
+
   /// A line's text, and what of it hangs beyond the edge: the blanks at its
   /// end.
   struct Extent {
@@ -22,7 +32,10 @@ class LineMaker {
     int hanging = 0;
   };
 
-  int LineEnd(int start, double left);
+  void AddLines(int start, int known, bool omitLast);
+  void AddCell(const RowCell& cell, int start, int end);
+  void EndWithLineBreak();
+  int LineEnd(int start);
   int TabWidth(int tab, double x) const;
   double TabRoom(int tab, TabKind kind) const;
   Extent Measure(int start, int end) const;
@@ -36,7 +49,7 @@ class LineMaker {
   void PlaceLine(PieceLine& line);
   void Stack(PieceLine& line);
 
-  double LeftEdge(int start) const { return stack_.Edges().Left(piece_.opens && start == 0); }
+  double LeftEdge(int start) const { return column_.edges.Left(piece_.opens && start == 0); }
   char16_t UnitAt(int index) const { return piece_.text[static_cast<std::size_t>(index)]; }
   ShapedUnit& Unit(int index) { return units_[static_cast<std::size_t>(index)]; }
   const ShapedUnit& Unit(int index) const { return units_[static_cast<std::size_t>(index)]; }
@@ -48,6 +61,8 @@ class LineMaker {
   std::vector<ShapedUnit> units_;
   std::vector<PixelTab> tabs_;
   const double tabStep_;
+  const double cellGap_;
+  Column column_;
 };
 
 }  // namespace lumenote

@@ -37,28 +37,32 @@ GlyphRun::Range GlyphRun::GlyphsOf(int from, int to) const {
   return {cluster(from), to == end ? glyphs.size() : cluster(to)};
 }
 
-ShapedText Shaper::Shape(bool rightToLeft) {
+ShapedText Shaper::Shape(bool rightToLeft, const std::vector<int>& ends) {
   shaped_.units.resize(text_.text.size());
-  if (text_.text.empty()) return {};
-  const std::vector<SCRIPT_ITEM> items = Itemise(rightToLeft);
-  FindBreaks(items);
-  for (std::size_t i = 0; i + 1 < items.size(); ++i)
-    ShapeItem(items[i].iCharPos, items[i + 1].iCharPos, items[i].a);
+  int start = 0;
+  for (const int end : ends) {
+    if (end == start) continue;
+    const std::vector<SCRIPT_ITEM> items = Itemise(start, end, rightToLeft);
+    FindBreaks(items);
+    for (std::size_t i = 0; i + 1 < items.size(); ++i)
+      ShapeItem(items[i].iCharPos, items[i + 1].iCharPos, items[i].a);
+    start = end;
+  }
   return std::move(shaped_);
 }
 
 // The last item only marks the end.
-std::vector<SCRIPT_ITEM> Shaper::Itemise(bool rightToLeft) const {
-  const int length = static_cast<int>(text_.text.size());
+std::vector<SCRIPT_ITEM> Shaper::Itemise(int start, int end, bool rightToLeft) const {
   SCRIPT_CONTROL control = {};
   SCRIPT_STATE state = {};
   state.uBidiLevel = rightToLeft ? 1 : 0;
   std::vector<SCRIPT_ITEM> items(16);
   int count = 0;
-  while (ScriptItemize(At(0), length, static_cast<int>(items.size()) - 1, &control, &state,
+  while (ScriptItemize(At(start), end - start, static_cast<int>(items.size()) - 1, &control, &state,
                        items.data(), &count) == E_OUTOFMEMORY)
     items.resize(2 * items.size());
   items.resize(static_cast<std::size_t>(count) + 1);
+  for (SCRIPT_ITEM& item : items) item.iCharPos += start;
   return items;
 }
 

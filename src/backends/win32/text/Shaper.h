@@ -52,7 +52,9 @@ class Shaper {
   Shaper(const Document& document, CharStyles& styles, const ShownText& text)
       : document_(document), styles_(styles), text_(text) {}
 
-  ShapedText Shape(bool rightToLeft);
+  /// `ends` are those of the cells of a row, or of the whole text: each has its own order of
+  /// directions.
+  ShapedText Shape(bool rightToLeft, const std::vector<int>& ends);
 
  private:
   /// Units of one part and item.
@@ -64,7 +66,7 @@ class Shaper {
     SCRIPT_ANALYSIS analysis = {};
   };
 
-  std::vector<SCRIPT_ITEM> Itemise(bool rightToLeft) const;
+  std::vector<SCRIPT_ITEM> Itemise(int start, int end, bool rightToLeft) const;
   void FindBreaks(const std::vector<SCRIPT_ITEM>& items);
   bool MayBreakBefore(int index, bool soft) const;
   void ShapeItem(int start, int end, const SCRIPT_ANALYSIS& analysis);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "backends/win32/text/LineMaker.h"
+#include "document/kept/Kept.h"
 
 namespace lumenote {
 
@@ -17,6 +18,29 @@ Decoration ComposedLine(const Piece& piece, const CharStyle& style) {
           .descent = style.descent};
 }
 
+/// The paragraph if it is a row, which is always laid out whole.
+PieceSpan SpanOf(const std::vector<RowCell>& cells, const Document& document,
+                 const PieceSpan& wanted) {
+  if (cells.empty()) return wanted;
+  const Position paragraph = document.ParagraphOf(wanted.from);
+  return {.from = document.ParagraphStart(paragraph), .to = document.ParagraphEnd(paragraph)};
+}
+
+/// Where the cells end in the text of a row's piece; only the text's end if there are none.
+std::vector<int> EndsOf(const std::vector<RowCell>& cells, const Piece& piece,
+                        const std::u16string& text) {
+  if (cells.empty()) return {static_cast<int>(text.size())};
+  std::vector<int> ends;
+  for (const RowCell& cell : cells) ends.push_back(EndOf(cell, piece, &cell == &cells.back()));
+  return ends;
+}
+
+/// The tabs that end cells show nothing.
+void HideCellEnds(const std::vector<int>& ends, std::u16string& text) {
+  for (std::size_t i = 0; i + 1 < ends.size(); ++i)
+    text[static_cast<std::size_t>(ends[i]) - 1] = kShownHidden;
+}
+
 }  // namespace
 
 FontMetrics UniscribeLayouter::MetricsOf(const Document& document, const CharFormat& format) {
@@ -24,21 +48,51 @@ FontMetrics UniscribeLayouter::MetricsOf(const Document& document, const CharFor
   return {style.ascent, style.descent, style.raise};
 }
 
-std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const PieceSpan& span) {
-  auto piece = std::make_unique<UniscribePiece>();
+ShownText UniscribeLayouter::Show(UniscribePiece& piece, const Document& document,
+                                  const PieceSpan& span) {
   ShownText text(document, span.from, span.to,
                  [&](CharId id) -> const CharLook& { return styles.Of(document, id); });
-  if (Open(*piece, document, span)) {
-    text.Insert(piece->composedAt, Composed().text);
-    const CharId format = document.CharFormatAt(piece->from + piece->composedAt);
-    text.decorations.push_back(ComposedLine(*piece, styles.Of(document, format)));
+  if (!Open(piece, document, span)) return text;
+  text.Insert(piece.composedAt, Composed().text);
+  const CharId format = document.CharFormatAt(piece.from + piece.composedAt);
+  text.decorations.push_back(ComposedLine(piece, styles.Of(document, format)));
+  return text;
+}
+
+std::vector<InlineBox> UniscribeLayouter::BoxesIn(const Piece& piece, const ShownText& text,
+                                                  const Document& document) const {
+  std::vector<InlineBox> boxes;
+  if (!boxOf) return boxes;
+  const FormatTables& tables = document.Formats();
+  for (const ShownPart& part : text.parts) {
+    const Kept& kept = tables.kept[tables.characters[part.format].kept];
+    if (kept.kind != Kept::Kind::Embedded) continue;
+    for (int i = part.start; i < part.end; ++i) {
+      const bool composed = i >= piece.composedAt && i < piece.composedAt + piece.composedLength;
+      if (!composed) boxes.push_back({i, boxOf(kept)});
+    }
   }
-  ShapedText shaped = Shaper(document, styles, text)
-                          .Shape(document.Formats().paragraphs[piece->format].rightToLeft);
+  return boxes;
+}
+
+std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const PieceSpan& wanted) {
+  auto piece = std::make_unique<UniscribePiece>();
+  const std::vector<RowCell> cells = RowCellsAt(*this, document, wanted.from);
+  const PieceSpan span = SpanOf(cells, document, wanted);
+  ShownText text = Show(*piece, document, span);
+  const std::vector<int> ends = EndsOf(cells, *piece, text.text);
+  HideCellEnds(ends, text.text);
+  const bool rightToLeft = document.Formats().paragraphs[piece->format].rightToLeft;
+  ShapedText shaped = Shaper(document, styles, text).Shape(rightToLeft, ends);
+  piece->boxes = BoxesIn(*piece, text, document);
   piece->text = std::move(text.text);
   piece->decorations = std::move(text.decorations);
   piece->runs = std::move(text.runs);
-  if (!LineMaker(*this, document, styles, *piece, std::move(shaped)).Build(span)) return nullptr;
+  LineMaker lines(*this, document, styles, *piece, std::move(shaped));
+  if (!cells.empty())
+    lines.BuildRow(cells, ends);
+  else if (!lines.Build(span))
+    return nullptr;
   return piece;
 }
 
