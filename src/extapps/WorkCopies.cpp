@@ -21,14 +21,21 @@ std::u16string CommonName(std::u16string_view folder, std::u16string_view extens
   return FoldBackslashes(std::u16string(folder) + u"\\SavNotes." + std::u16string(extension));
 }
 
+/// Whether a file is as it was at an earlier moment. The system may find it under several
+/// spellings.
+bool IsUnchanged(const Files& files, const std::u16string& path, const FileTraces& old) {
+  const FileTrace now = TraceDe(files, path);
+  return std::any_of(old.begin(), old.end(), [&](const FileTrace& then) {
+    return then.time == now.time && files.SameFile(then.path, path);
+  });
+}
+
 /// The existing files at that path, with the extension in any letter case, that are new or changed
 /// since `old`; latest first.
 std::vector<std::u16string> Fresh(const Files& files, std::u16string_view path,
                                   const FileTraces& old) {
   std::vector<std::u16string> found = EnTouteCasse(files, path);
-  std::erase_if(found, [&](const std::u16string& one) {
-    return std::find(old.begin(), old.end(), TraceDe(files, one)) != old.end();
-  });
+  std::erase_if(found, [&](const auto& one) { return IsUnchanged(files, one, old); });
   std::stable_sort(found.begin(), found.end(), [&](const auto& a, const auto& b) {
     return TraceDe(files, a).time > TraceDe(files, b).time;
   });

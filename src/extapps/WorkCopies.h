@@ -16,7 +16,6 @@ class NoteCopy;
 struct FileTrace {
   std::u16string path;
   std::int64_t time = 0;
-  bool operator==(const FileTrace&) const = default;
 };
 using FileTraces = std::vector<FileTrace>;
 

@@ -1,6 +1,7 @@
 // The exchange of the editor with an external program, tick by tick, among stand-in programs.
 #include <optional>
 
+#include "base/Characters.h"
 #include "base/Rows.h"
 #include "hosts/Host.h"
 #include "platform/Paths.h"
@@ -85,12 +86,14 @@ Word | a.txt | Temp\Sava.rtf | {\rtf1 a{\b b} | kept
     });
     EXPECT_EQ(Shown().substr(0, 6), returns ? u"retour" : u"avant");
     EXPECT_EQ(disk.ReadAll(u"C:\\n\\L.rtf"), "{\\rtf1 autre}");
-    EXPECT_EQ(Boxes(), kept ? Texts{Told(u"Erreur fichier temporaire", name)} : Texts());
-    if (kept) {
+    const Texts boxes = Boxes();
+    ASSERT_EQ(boxes.size(), kept ? 1U : 0U);
+    if (kept) {  // where letter case tells no files apart, under one of its spellings
+      EXPECT_EQ(Lower(boxes[0]), Lower(Told(u"Erreur fichier temporaire", name)));
       EXPECT_EQ(disk.ReadAll(result), ToUtf8(bytes));
       EXPECT_EQ(disk.ReadAll(u"C:\\Documents\\Secours_" + name), ToUtf8(bytes));
     }
-    EXPECT_EQ(control->pStrOrchm(), u"C:\\n\\" + (returns ? after : note));
+    EXPECT_TRUE(disk.SameFile(control->pStrOrchm(), u"C:\\n\\" + (returns ? after : note)));
     Clear();
   }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "backends/win32/files/WideNames.h"
+#include "backends/win32/toolkit/FontFamilies.h"
 #include "backends/win32/toolkit/Gdi.h"
 #include "base/RuntimeError.h"
 
@@ -13,16 +14,12 @@ namespace {
 /// Each family once; those for vertical text are left out.
 std::vector<std::u16string> FamiliesOf(HDC device) {
   std::vector<std::u16string> names;
-  LOGFONTW all = {};
-  all.lfCharSet = DEFAULT_CHARSET;
-  const auto add = [](const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM list) -> int {
-    auto& known = *reinterpret_cast<std::vector<std::u16string>*>(list);
-    const std::u16string name = FromWide(font->lfFaceName);
-    if (name.starts_with(u'@')) return 1;
-    if (std::ranges::find(known, name) == known.end()) known.push_back(name);
-    return 1;
-  };
-  EnumFontFamiliesExW(device, &all, add, reinterpret_cast<LPARAM>(&names), 0);
+  ForEachFont(device, {}, [&](const LOGFONTW& font) {
+    const std::u16string name = FromWide(font.lfFaceName);
+    if (!name.starts_with(u'@') && std::ranges::find(names, name) == names.end())
+      names.push_back(name);
+    return true;
+  });
   return names;
 }
 

@@ -11,8 +11,8 @@ namespace {
 constexpr double kLeastWidth = 16;
 constexpr double kBulletRoom = 240;  // twips; the minimum
 
-std::size_t Mixed(std::size_t hash, std::size_t value) {
-  constexpr std::size_t kGolden = 0x9E3779B97F4A7C15;
+std::uint64_t Mixed(std::uint64_t hash, std::uint64_t value) {
+  constexpr std::uint64_t kGolden = 0x9E3779B97F4A7C15;
   return (hash ^ (value + kGolden + (hash << 6) + (hash >> 2))) * kGolden;
 }
 
@@ -103,20 +103,20 @@ void LineStack::Finish(std::u16string_view text) {
 
 // Composed text changes its look without a document change, and a line's content may extend into
 // the next one: such lines never compare equal to others.
-std::size_t LineStack::LookOf(const PieceLine& line, std::u16string_view text) const {
-  static std::size_t serial = 0;
+std::uint64_t LineStack::LookOf(const PieceLine& line, std::u16string_view text) const {
+  static std::uint64_t serial = 0;
   if (piece_.composedLength > 0 || piece_.overlaps) return ++serial;
   const bool opens = piece_.opens && line.start == 0;
   const bool ends = piece_.closes && line.end == std::ssize(text);
   const auto start = static_cast<std::size_t>(line.start);
-  std::size_t look = std::hash<std::u16string_view>()(
+  std::uint64_t look = std::hash<std::u16string_view>()(
       text.substr(start, static_cast<std::size_t>(line.end) - start));
-  look = Mixed(look, piece_.format * std::size_t{4} + (opens ? 2 : 0) + (ends ? 1 : 0));
+  look = Mixed(look, piece_.format * std::uint64_t{4} + (opens ? 2 : 0) + (ends ? 1 : 0));
   auto run = std::upper_bound(piece_.runs.begin(), piece_.runs.end(), line.start,
                               [](int at, const PieceRun& one) { return at < one.start; });
   if (run != piece_.runs.begin()) --run;
   for (; run != piece_.runs.end() && run->start < line.end; ++run)
-    look = Mixed(Mixed(look, static_cast<std::size_t>(std::max(run->start - line.start, 0))),
+    look = Mixed(Mixed(look, static_cast<std::uint64_t>(std::max(run->start - line.start, 0))),
                  run->format);
   return look;
 }

@@ -1,5 +1,6 @@
 // Positions the lines of a paragraph: edges, tab stops, heights. All layouters use it.
 #pragma once
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -53,7 +54,7 @@ class LineStack {
 
  private:
   double LineHeight(double natural) const;
-  std::size_t LookOf(const PieceLine& line, std::u16string_view text) const;
+  std::uint64_t LookOf(const PieceLine& line, std::u16string_view text) const;
 
   const TextLayouter& layouter_;
   Piece& piece_;

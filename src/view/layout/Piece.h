@@ -1,6 +1,7 @@
 // A laid-out paragraph, or some lines of a long one.
 #pragma once
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "document/Document.h"
@@ -15,7 +16,7 @@ struct PieceLine {
   double top = 0;
   double height = 0;
   double baseline = 0;
-  std::size_t look = 0;  // lines that look different at the same width differ in this value
+  std::uint64_t look = 0;  // lines that look different at the same width differ in this value
 };
 
 /// A format run in the layout's text, up to the start of the next run.

@@ -1,6 +1,6 @@
 // What of a pane has to be painted anew, and what of it has only moved.
 #pragma once
-#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -47,7 +47,7 @@ class ViewDamage {
 
  private:
   struct Seen {
-    std::size_t look = 0;
+    std::uint64_t look = 0;
     double top = 0;
     double bottom = 0;
     double baseline = 0;

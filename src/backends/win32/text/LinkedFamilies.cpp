@@ -4,6 +4,7 @@
 #include <map>
 
 #include "backends/win32/system/System.h"
+#include "backends/win32/toolkit/FontFamilies.h"
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/NativeText.h"
 
@@ -36,16 +37,11 @@ constexpr const char16_t* kBroadFamilies[] = {u"Segoe UI",
                                               u"Arial Unicode MS"};
 
 bool IsInstalled(const std::u16string& family) {
-  LOGFONTW wanted = {};
-  wanted.lfCharSet = DEFAULT_CHARSET;
-  std::copy_n(family.begin(), std::min<std::size_t>(family.size(), LF_FACESIZE - 1),
-              wanted.lfFaceName);
-  const auto stop = [](const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) -> int {
-    *reinterpret_cast<bool*>(found) = true;
-    return 0;
-  };
   bool found = false;
-  EnumFontFamiliesExW(DcScope(nullptr).Get(), &wanted, stop, reinterpret_cast<LPARAM>(&found), 0);
+  ForEachFont(DcScope(nullptr).Get(), family, [&](const LOGFONTW&) {
+    found = true;
+    return false;
+  });
   return found;
 }
 

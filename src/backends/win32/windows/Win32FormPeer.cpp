@@ -16,6 +16,13 @@ bool Has(HWND window, int which, LONG_PTR style) {
   return (GetWindowLongPtrW(window, which) & style) != 0;
 }
 
+BOOL CALLBACK EndBox(HWND window, LPARAM owner) {
+  if (GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner) && IsWindowVisible(window) &&
+      !Window::Of(window))
+    EndDialog(window, IDNO);
+  return TRUE;
+}
+
 }  // namespace
 
 Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
@@ -55,13 +62,7 @@ Win32FormPeer::~Win32FormPeer() {
 }
 
 void Win32FormPeer::EndBoxes() {
-  const auto end = [](HWND window, LPARAM owner) -> BOOL {
-    if (GetWindow(window, GW_OWNER) == reinterpret_cast<HWND>(owner) && IsWindowVisible(window) &&
-        !Window::Of(window))
-      EndDialog(window, IDNO);
-    return TRUE;
-  };
-  EnumThreadWindows(GetCurrentThreadId(), end, reinterpret_cast<LPARAM>(Handle()));
+  EnumThreadWindows(GetCurrentThreadId(), EndBox, reinterpret_cast<LPARAM>(Handle()));
 }
 
 void Win32FormPeer::AddControls(const Container& container, HWND parent) {

@@ -1,0 +1,24 @@
+#include "backends/win32/toolkit/FontFamilies.h"
+
+#include <algorithm>
+
+namespace lumenote {
+namespace {
+
+using Visitor = std::function<bool(const LOGFONTW&)>;
+
+int CALLBACK Visit(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM visitor) {
+  return (*reinterpret_cast<const Visitor*>(visitor))(*font) ? 1 : 0;
+}
+
+}  // namespace
+
+void ForEachFont(HDC device, std::u16string_view family, const Visitor& visit) {
+  LOGFONTW wanted = {};
+  wanted.lfCharSet = DEFAULT_CHARSET;
+  std::copy_n(family.begin(), std::min<std::size_t>(family.size(), LF_FACESIZE - 1),
+              wanted.lfFaceName);
+  EnumFontFamiliesExW(device, &wanted, Visit, reinterpret_cast<LPARAM>(&visit), 0);
+}
+
+}  // namespace lumenote
