@@ -1,5 +1,7 @@
 // The state that a group may change and its closing brace restores.
 #pragma once
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 
 #include "document/formats/Formats.h"
@@ -37,6 +39,9 @@ struct GroupState {
   ParagraphState paragraph;
   CodePage page;     // of text bytes
   int fallback = 1;  // \uc: number of fallback characters after a \u
+
+  std::uint32_t paragraphEdit = 0;  // number of the last change of `paragraph`
+  std::size_t contentAtStart = 0;   // the reader's content count when the group began
 
   FieldId field = 0;                 // the innermost one, 0 none
   KeptId inField = 0;                // the kept number of plain characters in that field

@@ -67,7 +67,7 @@ Fragment Interpreter::Read() {
   State().field = State().inField = 0;
   State().characterKnown = false;
   if (!marker_.empty()) PlaceMarker();
-  Fragment fragment = body_.Finish(target_, {CharacterNumber(), ParagraphNumber()});
+  Fragment fragment = body_.Finish(target_, {CharacterNumber(), EndedParagraph()});
   if (fragment.mark) fragment.mark->head = Head();
   return fragment;
 }
@@ -160,6 +160,7 @@ void Interpreter::Open() {
   opened_ = true;
   if (groups_.size() < kDeepest) {
     groups_.push_back(groups_.back());
+    State().contentAtStart = contentCount_;
   } else {
     ++uncounted_;
   }
@@ -170,10 +171,16 @@ void Interpreter::Close() {
   borderOf_ = WordScope::None;
   if (uncounted_ > 0) return void(--uncounted_);
   EndField(State(), Outer());
-  if (groups_.size() > outermost_)
-    groups_.pop_back();
-  else
-    State().fieldAt = GroupState::kNowhere;
+  if (groups_.size() <= outermost_) return void(State().fieldAt = GroupState::kNowhere);
+  HoldParagraph();
+  groups_.pop_back();
+}
+
+/// What a group says of the paragraph holds for its text, though the paragraph ends outside.
+void Interpreter::HoldParagraph() {
+  const GroupState& group = State();
+  if (group.paragraphEdit == Outer().paragraphEdit || placingMarker_) return;
+  if (contentCount_ > std::max(group.contentAtStart, paragraphStart_)) held_ = group.paragraph;
 }
 
 /// A word counts as one fallback character of a \u, but only words for characters are skipped: no
@@ -257,6 +264,7 @@ CharFormat& Interpreter::EditCharacter() {
 
 ParagraphState& Interpreter::EditParagraph() {
   State().paragraphKnown = false;
+  State().paragraphEdit = ++paragraphEdits_;
   return State().paragraph;
 }
 
@@ -274,18 +282,31 @@ CharId Interpreter::CharacterNumber() {
 ParaId Interpreter::ParagraphNumber() {
   GroupState& state = State();
   if (!state.paragraphKnown) {
-    ParaFormat format = state.paragraph.Resolved();
-    format.bullet = HasBullet();
-    const bool listed = state.paragraph.list >= 0 && !state.paragraph.bullet;
-    if (target_ == RtfTarget::Document && listed) {
-      format.list = static_cast<std::uint16_t>(std::min(state.paragraph.list, 0xFFFE) + 1);
-      format.level = static_cast<std::uint8_t>(std::clamp(state.paragraph.level, 0, 0xFF));
-    }
-    if (state.paragraph.tabs) format.tabs = TabsNumber(*state.paragraph.tabs);
-    state.paragraphId = formats_.paragraphs.Intern(format);
+    state.paragraphId = NumberOf(state.paragraph);
     state.paragraphKnown = true;
   }
   return state.paragraphId;
+}
+
+ParaId Interpreter::NumberOf(const ParagraphState& paragraph) {
+  ParaFormat format = paragraph.Resolved();
+  format.bullet = HasBullet(paragraph);
+  const bool listed = paragraph.list >= 0 && !paragraph.bullet;
+  if (target_ == RtfTarget::Document && listed) {
+    format.list = static_cast<std::uint16_t>(std::min(paragraph.list, 0xFFFE) + 1);
+    format.level = static_cast<std::uint8_t>(std::clamp(paragraph.level, 0, 0xFF));
+  }
+  if (paragraph.tabs) format.tabs = TabsNumber(*paragraph.tabs);
+  return formats_.paragraphs.Intern(format);
+}
+
+ParaId Interpreter::EndedParagraph() {
+  paragraphStart_ = contentCount_;
+  if (!held_) return ParagraphNumber();
+  ParagraphState ended = *std::exchange(held_, std::nullopt);
+  ended.inTable |= State().paragraph.inTable;
+  ended.nesting = std::max(ended.nesting, State().paragraph.nesting);
+  return NumberOf(ended);
 }
 
 /// Groups can restore long lists at no cost in source bytes, so their total is limited.
@@ -297,8 +318,7 @@ TabsId Interpreter::TabsNumber(const TabStops& stops) {
   return number;
 }
 
-bool Interpreter::HasBullet() const {
-  const ParagraphState& paragraph = State().paragraph;
+bool Interpreter::HasBullet(const ParagraphState& paragraph) const {
   return paragraph.bullet || lists_.IsBullet(paragraph.list, paragraph.level);
 }
 

@@ -1,6 +1,7 @@
 // Interprets RTF control words to build a note.
 #pragma once
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -144,7 +145,7 @@ class Interpreter {
   HeadId Head();
   bool NeedsPage() const;
   void UseDefaultFont(GroupState& state);
-  bool HasBullet() const;
+  bool HasBullet(const ParagraphState& paragraph) const;
 
   GroupState& State() { return groups_.back(); }
   const GroupState& State() const { return groups_.back(); }
@@ -154,6 +155,10 @@ class Interpreter {
   ParagraphState& EditParagraph();
   CharId CharacterNumber();
   ParaId ParagraphNumber();
+  ParaId NumberOf(const ParagraphState& paragraph);
+  void HoldParagraph();
+  /// The format of the paragraph or cell that ends here.
+  ParaId EndedParagraph();
   TabsId TabsNumber(const TabStops& stops);
 
   Tokenizer tokens_;
@@ -172,6 +177,10 @@ class Interpreter {
   int documentPage_ = kPageOfWindows;
 
   std::size_t tabsLeft_;  // tab stops that paragraph formats may still use
+
+  std::uint32_t paragraphEdits_ = 0;
+  std::size_t paragraphStart_ = 0;          // the content count when the paragraph began
+  std::optional<ParagraphState> held_ = {};  // of a closed group with text of the paragraph
 
   ItemKeeper items_;
   WordKeeper words_;

@@ -86,7 +86,7 @@ bool Interpreter::IsNumbered() const {
 /// paragraph do not end it.
 void Interpreter::PlaceMarker() {
   const std::string_view marker = std::exchange(marker_, {});
-  if (HasBullet()) return;
+  if (HasBullet(State().paragraph)) return;
   const auto depth = static_cast<std::ptrdiff_t>(groups_.size());
   groups_.push_back(groups_.back());
   State().fieldAt = GroupState::kNowhere;

@@ -30,6 +30,7 @@ void Interpreter::Numbering(int, const Token&) {
     paragraph.format.words = words_.WithNumbering(GroupSource(from), paragraph.format.words);
   Outer().paragraph = paragraph;
   Outer().paragraphKnown = false;
+  Outer().paragraphEdit = State().paragraphEdit;
 }
 
 void Interpreter::Fonts(int, const Token&) {

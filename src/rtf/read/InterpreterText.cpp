@@ -39,7 +39,7 @@ void Interpreter::BreakAs(Kept kept) {
   if (!PrepareBreak()) return;
   CountContent();
   const bool plain = !items_.Pending() && kept == Kept();
-  body_.Break({plain ? CharacterNumber() : CharacterWith(kept), ParagraphNumber()});
+  body_.Break({plain ? CharacterNumber() : CharacterWith(kept), EndedParagraph()});
 }
 
 /// A page, column or section break ends a paragraph that has begun.
@@ -54,7 +54,7 @@ void Interpreter::EndParagraph(int value, const Token& word) {
 void Interpreter::Cell(int nested, const Token&) {
   if (!PrepareBreak()) return;
   CountContent();
-  body_.Cell(CharacterWith({.paragraph = ParagraphNumber(),
+  body_.Cell(CharacterWith({.paragraph = EndedParagraph(),
                             .kind = Kept::Kind::Cell,
                             .nested = static_cast<std::uint8_t>(nested)}));
 }
@@ -70,7 +70,7 @@ void Interpreter::Row(int nested, const Token&) {
   const bool defined = nested != 0 || row_.source.empty() || !RowDefinition(items).source.empty();
   if (!defined) items.insert(items.begin(), row_);
   row.self = formats_.items.Chain(std::move(items));
-  ParaId paragraph = ParagraphNumber();
+  ParaId paragraph = EndedParagraph();
   if (const auto cell = body_.LastCell()) {
     const Kept& last = formats_.kept[formats_.characters[*cell].kept];
     row.before = last.before;
