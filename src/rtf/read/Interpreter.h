@@ -45,6 +45,7 @@ class Interpreter {
   void SkipGroup(int value, const Token& word);
   void KeepGroup(int value, const Token& word);
   void KeepAside(int value, const Token& word);
+  void KeepDestination(int value, const Token& word);
   void KeepTable(int value, const Token& word);
   void Field(int value, const Token& word);
   void FieldResult(int value, const Token& word);

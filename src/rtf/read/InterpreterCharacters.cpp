@@ -49,7 +49,9 @@ void Interpreter::DefaultLanguage(int, const Token& word) {
   EditCharacter().language = default_.language;
 }
 
-void Interpreter::Fallback(int, const Token& word) { State().fallback = std::max(word.number, 0); }
+void Interpreter::Fallback(int, const Token& word) {
+  State().fallback = word.hasNumber ? std::max(word.number, 0) : 1;
+}
 
 void Interpreter::Plain(int, const Token&) {
   BeginBody();
@@ -68,7 +70,8 @@ void Interpreter::Font(int, const Token& word) {
 }
 
 void Interpreter::Size(int, const Token& word) {
-  if (word.number > 0) EditCharacter().size = Clipped<std::uint16_t>(word.number);
+  const int size = word.hasNumber ? word.number : kStandardSize;
+  if (size > 0) EditCharacter().size = Clipped<std::uint16_t>(size);
 }
 
 void Interpreter::Effect(int value, const Token& word) {
@@ -89,7 +92,7 @@ void Interpreter::UnderlineAs(int value, const Token& word) {
 void Interpreter::Number(int row, const Token& word) {
   using Kind = NumberWord::Kind;
   const NumberWord& attribute = kNumberWords[row];
-  std::int64_t number = word.number;
+  std::int64_t number = word.hasNumber ? word.number : attribute.get(CharFormat());
   if (attribute.kind != Kind::Number) number = colours_[word.number];
   if (attribute.kind == Kind::Background && word.number == 0) number = kAutoColour;
   attribute.set(EditCharacter(), number);

@@ -108,6 +108,11 @@ void Interpreter::KeepAside(int value, const Token&) {
   items_.Keep(static_cast<KeptItem::Kind>(value), GroupSource(from));
 }
 
+/// The same for a word that has this meaning only as the first of its group.
+void Interpreter::KeepDestination(int value, const Token& word) {
+  if (wasOpened_ || wasStarred_) KeepAside(value, word);
+}
+
 /// The same for a table of the head.
 void Interpreter::KeepTable(int, const Token&) {
   const std::size_t from = tokens_.Start();

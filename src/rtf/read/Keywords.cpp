@@ -201,16 +201,37 @@ constexpr std::string_view kKeptOfPlaces[] = {
     "ltrrow",  "ltrsect", "margbsxn", "marglsxn", "margrsxn", "margtsxn",   "pghsxn",
     "pgwsxn",  "rtlrow",  "rtlsect",  "sectnum",  "titlepg",  "ts"};
 
+// Destinations that show nothing; in the body, only the first word of a group is one.
+// clang-format off
+constexpr std::string_view kDestinations[] = {
+    "aftncn", "aftnsep", "aftnsepc", "atnauthor", "atndate", "atnicn", "atnid", "atnparent",
+    "atnref", "atntime", "atrfend", "atrfstart", "author", "background", "blipuid", "buptim",
+    "category", "comment", "company", "creatim", "datafield", "defchp", "defpap", "doccomm",
+    "docvar", "ebcend", "ebcstart", "factoidname", "falt", "fchars", "ffdeftext", "ffentrymcr",
+    "ffexitmcr", "ffformat", "ffhelptext", "ffl", "ffname", "ffstattext", "file", "fldtype", "fname",
+    "fontemb", "fontfile", "formfield", "ftncn", "ftnsep", "ftnsepc", "g", "gridtbl", "hl", "hlfr",
+    "hlinkbase", "hlloc", "hlsrc", "hsv", "htmltag", "keycode", "keywords", "lchars", "levelnumbers",
+    "leveltext", "lfolevel", "linkval", "list", "listlevel", "listname", "listoverride",
+    "listpicture", "liststylename", "lsdlockedexcept", "mailmerge", "manager", "mhtmltag",
+    "nextfile", "objalias", "objclass", "objdata", "objname", "objsect", "objtime", "oldcprops",
+    "oldpprops", "oldsprops", "oldtprops", "oleclsid", "operator", "panose", "password",
+    "passwordhash", "pgp", "pgptbl", "picprop", "printim", "propname", "protend", "protstart",
+    "protusertbl", "pxe", "revtim", "shprslt", "sn", "sp", "staticval", "subject", "sv", "svb",
+    "template", "title", "txe", "userprops", "windowcaption", "writereservation", "writereservhash",
+    "xform", "xmlattrname", "xmlattrvalue", "xmlclose", "xmlname", "xmlopen"};
+// clang-format on
+
 constexpr std::string_view NameOf(std::string_view name) { return name; }
 template <class Word>
 constexpr std::string_view NameOf(const Word& word) {
   return word.name;
 }
 
-constexpr std::size_t kCount =
-    std::size(kOwnWords) + std::size(kEffectWords) + std::size(kUnderlineWords) +
-    std::size(kNumberWords) + std::size(kAlignmentWords) + std::size(kLengthWords) +
-    std::size(kKeptOfRuns) + std::size(kKeptOfParagraphs) + std::size(kKeptOfPlaces);
+constexpr std::size_t kCount = std::size(kOwnWords) + std::size(kEffectWords) +
+                               std::size(kUnderlineWords) + std::size(kNumberWords) +
+                               std::size(kAlignmentWords) + std::size(kLengthWords) +
+                               std::size(kKeptOfRuns) + std::size(kKeptOfParagraphs) +
+                               std::size(kKeptOfPlaces) + std::size(kDestinations);
 
 /// The words of all tables; the value of one that the writer knows too is its row.
 constexpr std::array<Keyword, kCount> kKeywords = [] {
@@ -229,6 +250,7 @@ constexpr std::array<Keyword, kCount> kKeywords = [] {
   add(kKeptOfRuns, &I::KeepWord, [](int) { return Of(WordScope::Character); });
   add(kKeptOfParagraphs, &I::KeepWord, [](int) { return Of(WordScope::Paragraph); });
   add(kKeptOfPlaces, &I::KeepWord, [](int) { return Of(WordScope::Anchored); });
+  for (const std::string_view name : kDestinations) *out++ = {name, &I::KeepDestination, 0, true};
   return all;
 }();
 
