@@ -171,9 +171,14 @@ void Interpreter::Close() {
   borderOf_ = WordScope::None;
   if (uncounted_ > 0) return void(--uncounted_);
   EndField(State(), Outer());
-  if (groups_.size() <= outermost_) return void(State().fieldAt = GroupState::kNowhere);
-  HoldParagraph();
-  groups_.pop_back();
+  const bool surplus = groups_.size() <= outermost_;
+  if (surplus) {
+    State().fieldAt = GroupState::kNowhere;
+  } else {
+    HoldParagraph();
+    groups_.pop_back();
+  }
+  if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
 }
 
 /// What a group says of the paragraph holds for its text, though the paragraph ends outside.

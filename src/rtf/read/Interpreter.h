@@ -129,6 +129,7 @@ class Interpreter {
   void KeepInHead(std::string source);
   std::string GroupSource(std::size_t from);
   void PassTable();
+  void SkipTableTail(bool surplus);
   void EnterField(KeptField::Kind kind, std::string opening);
   void EndField(const GroupState& group, const GroupState& around);
   void BeginBody();
@@ -180,7 +181,7 @@ class Interpreter {
   std::size_t tabsLeft_;  // tab stops that paragraph formats may still use
 
   std::uint32_t paragraphEdits_ = 0;
-  std::size_t paragraphStart_ = 0;          // the content count when the paragraph began
+  std::size_t paragraphStart_ = 0;           // the content count when the paragraph began
   std::optional<ParagraphState> held_ = {};  // of a closed group with text of the paragraph
 
   ItemKeeper items_;
@@ -189,8 +190,9 @@ class Interpreter {
   KeptItem row_;                  // definition of the current row, if it preceded the cells
   std::size_t contentCount_ = 0;  // count of texts, breaks and tables so far
   WordScope borderOf_ = WordScope::None;
-  bool inHead_ = true;  // the body has not started
-  bool begun_ = false;  // there has been text
+  bool inHead_ = true;         // the body has not started
+  std::size_t tailKnown_ = 0;  // offset before which no table's tail is left
+  bool begun_ = false;         // there has been text
   KeptHead head_;
   KeptItems headItems_;
 

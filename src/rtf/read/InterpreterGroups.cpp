@@ -1,6 +1,7 @@
 // Words that give their group a meaning: tables, lists, groups to skip or keep.
 #include "rtf/read/Interpreter.h"
 #include "rtf/read/KeptSource.h"
+#include "rtf/read/tables/TableTail.h"
 
 namespace lumenote {
 /// The group's text is ordinary text.
@@ -58,6 +59,14 @@ void Interpreter::PassTable() {
     if (token.kind == Token::Kind::Close) --depth;
     return depth > 0 || !EndsTable(token);
   });
+}
+
+/// After a group of the head, or a surplus "}" there.
+void Interpreter::SkipTableTail(bool surplus) {
+  if (placingMarker_ || tokens_.At() < tailKnown_) return;
+  const TableTail tail = FindTableTail(tokens_, surplus);
+  tailKnown_ = tail.end;
+  if (tail.found) tokens_.GoTo(tail.end);
 }
 
 void Interpreter::Styles(int, const Token&) {

@@ -60,6 +60,8 @@ class Tokenizer {
   /// Whether the next brace or backslash starts a document.
   bool DocumentFollows() const;
   bool AtEnd() const { return at_ == end_; }
+  /// Goes on at an offset.
+  void GoTo(std::size_t offset) { at_ = begin_ + offset; }
   /// Un-reads the last token.
   void Unread() { at_ = start_; }
   /// Un-reads the last `count` bytes of a text token.
