@@ -11,10 +11,10 @@ import pathlib
 import re
 import sys
 
-LAYERS = ["base", "document", "rtf", "platform", "surface", "view", "forms", "session",
+LAYERS = ["base", "document", ("rtf", "html"), "platform", "surface", "view", "forms", "session",
           ("selection", "extapps"), ("find", "symbols", "ocr", "format"),
           "editor", "control", "backends", "pilot"]
-APART = {"rtf/read", "rtf/write"}  # know nothing of each other
+APART = [{"rtf/read", "rtf/write"}, {"html/read", "html/write"}]  # know nothing of each other
 FOREIGN = re.compile(r"^(Q[A-Z]|q[a-z]+/|sys/|X11/|unistd|fcntl|windows|dirent|spawn|pwd|grp)")
 RANK = {name: rank for rank, names in enumerate(LAYERS)
         for name in ([names] if isinstance(names, str) else names)}
@@ -72,8 +72,10 @@ def main():
             room, other = str(path.parent), str(pathlib.Path(target).parent)
             if quote == '"' and room != other:
                 rooms[room].add(other)
-            if room != other and {room, other} == APART:
+            if {room, other} in APART:
                 bad.append(f"{path}:{number}: reader and writer stand apart: {target}")
+            if {room.split("/")[0], other.split("/")[0]} == {"rtf", "html"}:
+                bad.append(f"{path}:{number}: RTF and HTML stand apart: {target}")
     for room in sorted(rooms):
         way = way_back(rooms, room)
         if way:

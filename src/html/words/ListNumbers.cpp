@@ -1,0 +1,81 @@
+#include "html/words/ListNumbers.h"
+
+#include <string_view>
+
+#include "base/Characters.h"
+#include "base/Strings.h"
+
+namespace lumenote {
+namespace {
+
+std::string Letters(int number) {
+  std::string letters;
+  for (; number > 0; number = (number - 1) / 26)
+    letters.insert(letters.begin(), static_cast<char>('a' + (number - 1) % 26));
+  return letters;
+}
+
+std::string Roman(int number) {
+  struct Digit {
+    int value;
+    std::string_view text;
+  };
+  constexpr Digit kDigits[] = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"},
+                               {90, "xc"},  {50, "l"},   {40, "xl"}, {10, "x"},   {9, "ix"},
+                               {5, "v"},    {4, "iv"},   {1, "i"}};
+  std::string text;
+  for (const Digit& digit : kDigits)
+    for (; number >= digit.value; number -= digit.value) text += digit.text;
+  return text;
+}
+
+/// The number of decimal digits, letters, or Roman digits; 0 for anything else.
+int ValueOf(std::u16string_view text, char style) {
+  constexpr std::size_t kLongest = 15;
+  if (text.empty() || text.size() > kLongest) return 0;
+  int value = 0;
+  if (style == '1') {
+    for (const char16_t c : text.substr(0, 9)) value = value * 10 + (c - u'0');
+  } else if (style == 'a' || style == 'A') {
+    for (const char16_t c : text.substr(0, 4)) value = value * 26 + (c - u'a' + 1);
+  } else {
+    constexpr std::u16string_view kDigits = u"ivxlcdm";
+    constexpr int kValues[] = {1, 5, 10, 50, 100, 500, 1000};
+    int last = 0;
+    for (std::size_t i = text.size(); i-- > 0;) {
+      const std::size_t digit = kDigits.find(text[i]);
+      const int own = digit == kDigits.npos ? 0 : kValues[digit];
+      value += own < last ? -own : own;
+      last = own;
+    }
+  }
+  return value;
+}
+
+}  // namespace
+
+std::u16string ListNumber(int number, char style) {
+  const bool roman = (style == 'i' || style == 'I') && number < 4000;
+  const bool letters = style == 'a' || style == 'A';
+  const bool decimal = number < 1 || (!roman && !letters);
+  const std::string text = decimal ? std::to_string(number)
+                           : roman ? Roman(number)
+                                   : Letters(number);
+  const bool capital = style == 'A' || style == 'I';
+  return (capital ? Upper(FromUtf8(text)) : FromUtf8(text)) + u'.';
+}
+
+std::optional<ReadNumber> ReadListNumber(std::u16string_view text, char style) {
+  while (!text.empty() && (text.back() == u'\t' || text.back() == u' ')) text.remove_suffix(1);
+  if (!text.ends_with(u'.')) return std::nullopt;
+  text.remove_suffix(1);
+  const std::u16string lower = Lower(text);
+  for (const char one : {style, lower == u"i" ? 'i' : 'a', 'I', '1', 'A', 'i'}) {
+    const int number = ValueOf(one == 'A' || one == 'I' ? lower : std::u16string(text), one);
+    if (number > 0 && ListNumber(number, one) == std::u16string(text) + u'.')
+      return ReadNumber{number, one};
+  }
+  return std::nullopt;
+}
+
+}  // namespace lumenote

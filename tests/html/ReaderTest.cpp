@@ -1,0 +1,70 @@
+// What becomes of HTML: characters, white space, formats, items.
+#include <gtest/gtest.h>
+
+#include "HtmlReading.h"
+#include "base/DataFile.h"
+#include "html/source/HtmlBytes.h"
+#include "rtf/CheckRows.h"
+#include "rtf/Reading.h"
+
+namespace lumenote {
+namespace {
+
+/// The text, with U+FFFC and the rest as they are; nothing is lost as RTF either.
+std::string TextOfHtml(const std::string& html) {
+  const Document note = ReadPage(html);
+  EXPECT_EQ(LossOf(note), "") << html;
+  return TextOf(note);
+}
+
+TEST(HtmlReader, Text) { CheckRows(DataFile("html_text.rows"), TextOfHtml); }
+
+TEST(HtmlReader, Formats) {
+  for (const auto& [html, formats] : Rows<2>(DataFile("html_formats.rows"), " => "))
+    EXPECT_EQ(FormatsOf(ReadPage(html)), formats) << html;
+}
+
+TEST(HtmlReader, Selections) {
+  constexpr std::string_view kRows =
+      "<p>a<p>b => a¶b ¦ <p>a</p> => a ¦ a => a ¦ <ul><li>a<li>b</ul> => a¶b¶ ¦ <li>a => a\n"
+      "<table><td>a<td>b</table> => a⇥b¶ ¦ <p>a</p><p><br></p> => a¶ ¦ \"\" => \"\"\n"
+      "<html><body><!--StartFragment--><b>a</b><!--EndFragment--></body></html> => a";
+  CheckRows(kRows,
+            [](const std::string& html) { return TextOf(ReadPage(html, HtmlTarget::Selection)); });
+}
+
+TEST(HtmlReader, Bytes) {
+  constexpr std::string_view kUtf8 = "<meta charset=utf-8>\xC3\xA9";
+  EXPECT_EQ(DecodeHtml("\xEF\xBB\xBF\xC3\xA9"), u"é");
+  EXPECT_EQ(DecodeHtml("\xE9"), u"é");
+  EXPECT_EQ(DecodeHtml("\xC3\xA9"), u"é");
+  EXPECT_EQ(DecodeHtml(kUtf8).back(), u'é');
+  EXPECT_EQ(DecodeHtml("<META CONTENT='text/html; Charset=\"UTF-8\"'>\xFF").back(), u'\uFFFD');
+  EXPECT_EQ(DecodeHtml(std::string_view("\xFF\xFE"
+                                        "<\0"
+                                        "a\0",
+                                        6)),
+            u"<a");
+}
+
+/// `piece` until the source is long.
+std::string Repeated(std::string_view piece) {
+  std::string html;
+  while (html.size() < 1'000'000) html += piece;
+  return html;
+}
+
+// Work or memory by the square of the length would not end here.
+TEST(HtmlHostile, CostsItsLengthOnly) {
+  for (const std::string& piece : Split("<b>|<b>a<p>|<div>|<table><tr><td>|<td>a|<ul><li>|</p>|<a "
+                                        "href=x>a|<!--|<!|<|&|&am|<a b=|"
+                                        "<a b c d|<script><!--|<title>&amp;|<p "
+                                        "style='a:(\"|<b><i></b></i>|<ol type=i><li>a|<textarea>",
+                                        "|")) {
+    const Document note = ReadPage(Repeated(piece));
+    EXPECT_LT(note.Length(), 4'000'000) << piece;
+  }
+}
+
+}  // namespace
+}  // namespace lumenote

@@ -1,0 +1,56 @@
+// What is written as HTML, and that it reads back.
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "HtmlReading.h"
+#include "base/DataFile.h"
+#include "html/write/Writer.h"
+#include "rtf/CheckRows.h"
+#include "rtf/Reading.h"
+
+namespace lumenote {
+namespace {
+
+std::string Body(const Document& document) {
+  const std::string page = WriteHtml(document);
+  return Split(Split(page, "<body>\n").at(1), "\n</body>").at(0);
+}
+
+/// The document, written and read again; from then on its bytes stay.
+Document Again(const Document& note) {
+  Document again = ReadPage(WriteHtml(note));
+  const std::string written = WriteHtml(again);
+  EXPECT_EQ(WriteHtml(ReadPage(written)), written);
+  return again;
+}
+
+TEST(HtmlWriter, WritesAs) {
+  for (const auto& [html, body] : Rows<2>(DataFile("html_writer.rows"), " => "))
+    EXPECT_EQ(Body(ReadPage(html)), Replaced(body, "␊", "\n")) << html;
+}
+
+TEST(HtmlWriter, ReadsBackWhatItWrites) {
+  for (const auto& [html, formats] : Rows<2>(DataFile("html_formats.rows"), " => "))
+    EXPECT_EQ(FormatsOf(Again(ReadPage(html))), FormatsOf(ReadPage(html))) << html;
+  for (const auto& [html, text] : Rows<2>(DataFile("html_text.rows"), " => "))
+    EXPECT_EQ(TextOf(Again(ReadPage(html))), TextOf(ReadPage(html))) << html;
+}
+
+/// Without what HTML cannot hold.
+std::string Bare(std::string_view text) {
+  std::string bare;
+  for (const char c : Replaced(text, "\uFFFC", ""))
+    if (c >= ' ' || c < 0 || c == '\n' || c == '\t' || c == '\v') bare += c;
+  return Replaced(bare, "\x7F", "");
+}
+
+TEST(HtmlWriter, KeepsTheTextOfNotes) {
+  for (const auto& entry : std::filesystem::directory_iterator(LUMENOTE_TEST_DATA)) {
+    if (entry.path().extension() != ".rtf") continue;
+    const Document note = Read(DataFile(entry.path().filename().string()));
+    EXPECT_EQ(Bare(TextOf(Again(note))), Bare(TextOf(note))) << entry.path();
+  }
+}
+
+}  // namespace
+}  // namespace lumenote
