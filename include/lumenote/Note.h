@@ -14,16 +14,17 @@ namespace lumenote {
 /// by one thread at a time. A failed allocation throws std::bad_alloc.
 class Note {
  public:
-  enum class Format { Rtf, Text };
+  enum class Format { Rtf, Text, Html };
 
   /// Whether a file with these bytes is RTF.
   static bool IsRtf(std::string_view bytes);
 
   /// Reads the bytes of a note's file. Plain text may be UTF-8, UTF-16 with a byte order mark, or
   /// code page 1252; the encoding is detected. `Rtf` raises InvalidPropertyValue (380) when the
-  /// bytes are not RTF; damaged RTF is read as far as possible.
+  /// bytes are not RTF; damaged RTF is read as far as possible. `Html` takes any bytes, in the
+  /// encoding that they state.
   Note(std::string_view bytes, Format format);
-  /// Detects the format, too.
+  /// Detects whether it is RTF or plain text, too.
   explicit Note(std::string_view bytes) : Note(bytes, IsRtf(bytes) ? Format::Rtf : Format::Text) {}
   ~Note();
   Note(Note&&) noexcept;
@@ -34,7 +35,8 @@ class Note {
   /// Paragraphs end with CR LF, lines within them with VT; an embedded object is U+FFFC.
   std::u16string Text() const;
   /// The note as a file: RTF, or text with CR LF line ends in the UTF-8 form it was read in, else
-  /// in code page 1252, or as UTF-8 with a byte order mark if page 1252 lacks a character.
+  /// in code page 1252, or as UTF-8 with a byte order mark if page 1252 lacks a character; or an
+  /// HTML page in UTF-8.
   std::string Bytes(Format format) const;
 
   /// Cleans up recognised text as the editor does: applies the correction list, then tidies spaces,

@@ -1,4 +1,4 @@
-// The system clipboard, limited to plain text and RTF.
+// The system clipboard, limited to plain text, RTF and HTML.
 #pragma once
 #include <optional>
 #include <string>
@@ -7,14 +7,15 @@
 namespace lumenote {
 
 struct ClipboardContent {
-  std::optional<std::u16string> text;
-  std::optional<std::string> rtf;  // source bytes
+  std::optional<std::u16string> text{};
+  std::optional<std::string> rtf{};   // source bytes
+  std::optional<std::string> html{};  // a page or a part of one, in UTF-8, without an envelope
 };
 
 class Clipboard {
  public:
   virtual ~Clipboard() = default;
-  /// What can be pasted; both members are empty if the clipboard holds neither.
+  /// What can be pasted; all members are empty if the clipboard holds none of them.
   virtual ClipboardContent Get() const = 0;
   /// Whether `Get` would return anything, without transferring it.
   virtual bool HasContent() const = 0;

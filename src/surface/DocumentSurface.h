@@ -31,6 +31,7 @@ class DocumentSurface final : public RichTextSurface {
   /// RTF as it stands in a file, which takes a third of the memory. Anything else raises
   /// InvalidArgument (5).
   void LoadSource(std::string_view bytes) { transfer_.LoadSource(bytes); }
+  void LoadHtml(std::string_view bytes) { transfer_.LoadHtml(bytes); }
 
   Position SelStart() const override { return core_.Selected().start; }
   void SelStart(Position start) override;

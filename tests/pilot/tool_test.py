@@ -42,6 +42,7 @@ class Tool(unittest.TestCase):
             ("g.txt", RTF[:12], RTF[:12].decode() + "\n"),
             ("h.note", RTF, "café gras\nz\nfin\n"),
             ("i.rtf", RTF[:-9], "café gras\nz\n"),
+            ("j.htm", "<title>x</title><p>é<p>b".encode("cp1252"), "é\nb\n"),
         ]:
             self.write(name, data)
             self.assertEqual(self.run_tool("text", name).decode(), text, name)
@@ -55,6 +56,12 @@ class Tool(unittest.TestCase):
         self.assertEqual(self.run_tool("text", "c.rtf").decode(), "café gras\nz\nfin\n")
         self.run_tool("convert", "c.rtf", "d.rtf")
         self.assertEqual(self.read("c.rtf"), self.read("d.rtf"))
+        self.run_tool("convert", "a.rtf", "d.html")
+        self.assertIn("<b>gras</b>".encode(), self.read("d.html"))
+        self.run_tool("convert", "d.html", "d2.rtf")
+        self.run_tool("convert", "d2.rtf", "d2.HTM")
+        self.assertEqual(self.read("d.html"), self.read("d2.HTM"))
+        self.assertEqual(self.run_tool("convert", "--to=html", "d.html", "-"), self.read("d.html"))
         self.assertEqual(self.run_tool("convert", "a.rtf", "-"), self.read("b.txt"))
         self.assertEqual(self.run_tool("convert", "-", "-", data=b"x")[:6], b"{\\rtf1")
         self.run_tool("convert", "--to=txt", "a.rtf", "e.note")

@@ -31,7 +31,7 @@ TEST(KeysTest, OnlyTextIsTyped) {
   EXPECT_EQ(typed(Qt::ControlModifier, "\x03"), QString());
 }
 
-TEST(MimeTest, NormalisesTextAndReadsRtfUnderItsNamesAndHtmlAsText) {
+TEST(MimeTest, NormalisesTextAndReadsRtfUnderItsNamesAndHtml) {
   QMimeData data;
   data.setText(QString::fromUtf16(u"a\nb\r\nc\rd\0e\0\0", 12));
   EXPECT_EQ(ReadMime(data).text, std::u16string(u"a\r\nb\r\nc\r\nd\0e", 12));
@@ -39,6 +39,8 @@ TEST(MimeTest, NormalisesTextAndReadsRtfUnderItsNamesAndHtmlAsText) {
   QMimeData html;
   html.setHtml(QStringLiteral("<p>un <b>deux</b></p>"));
   EXPECT_EQ(ReadMime(html).text, u"un deux");
+  EXPECT_EQ(ReadMime(html).html, "<p>un <b>deux</b></p>");
+  EXPECT_EQ(WriteMime(ReadMime(html))->html(), html.html());
   for (const char* name : {"text/rtf", "application/rtf", "Rich Text Format"}) {
     QMimeData rtf;
     rtf.setData(QLatin1String(name), "{\\rtf1 x}");

@@ -188,6 +188,22 @@ TEST_F(SurfaceContract, WhatIsNoRtfIsPastedAsTextInTheFormatAround) {
   EXPECT_EQ(s.SelBold(), true);
 }
 
+TEST_F(SurfaceContract, PastesRtfBeforeHtmlBeforeTextInOneStep) {
+  for (const auto& [rtf, pasted] : {std::pair("{\\rtf1 r\\par s}", u"ar\r\ns"), {"", u"a<h"}}) {
+    Put(u"a^|");
+    clipboard.Set({u"t", rtf, "<p>&lt;<b>h</b></p>"});
+    s.Paste();
+    EXPECT_EQ(s.Text(), pasted);
+    EXPECT_EQ(s.UndoType(), UndoKind::Paste);
+    s.Undo();
+    EXPECT_EQ(s.Text(), u"a");
+  }
+  Put(u"un ^deux|");
+  s.SelBold(true);
+  s.Copy();
+  EXPECT_NE(clipboard.Get().html->find("<b>deux</b>"), std::string::npos);
+}
+
 TEST_F(SurfaceContract, FailedLoadsAndSavesLeaveEverything) {
   Put(u"a^b|");
   s.SelBold(true);

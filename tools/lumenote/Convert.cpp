@@ -1,4 +1,4 @@
-// lumenote convert: converts a note between RTF and plain text.
+// lumenote convert: converts a note between RTF, plain text and HTML.
 #include "Command.h"
 #include "NoteFile.h"
 #include "base/CommandLine.h"
@@ -14,11 +14,12 @@ std::optional<Note::Format> AskedFormat(const CommandLine& line) {
   if (const auto to = line.Value("--to")) {
     if (*to == "rtf") return Note::Format::Rtf;
     if (*to == "txt") return Note::Format::Text;
-    throw CommandLineError("--to attend rtf ou txt");
+    if (*to == "html") return Note::Format::Html;
+    throw CommandLineError("--to attend rtf, txt ou html");
   }
   const std::optional<Note::Format> named = FormatOfName(target);
   if (!named && target != "-")
-    throw CommandLineError(target + " : extension .rtf ou .txt attendue, ou --to");
+    throw CommandLineError(target + " : extension .rtf, .txt ou .html attendue, ou --to");
   return named;
 }
 

@@ -34,6 +34,7 @@ std::optional<Note::Format> FormatOfName(std::string_view name) {
   const std::u16string lower = Lower(FromUtf8(name));
   if (lower.ends_with(u".rtf")) return Note::Format::Rtf;
   if (lower.ends_with(u".txt")) return Note::Format::Text;
+  if (lower.ends_with(u".html") || lower.ends_with(u".htm")) return Note::Format::Html;
   return {};
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kUsage =
     R"(Utilisation : lumenote text NOTE
-              lumenote convert [--to rtf|txt] SOURCE CIBLE
+              lumenote convert [--to rtf|txt|html] SOURCE CIBLE
               lumenote clean [--list LISTE] [-o CIBLE] [--dry-run] NOTE...
               lumenote link NOM PROGRAMME
               lumenote links
@@ -21,7 +21,7 @@ constexpr std::string_view kUsage =
               lumenote --help | --version
 
   text      écrit le texte de la note en UTF-8
-  convert   convertit une note entre RTF et texte, remplaçant CIBLE d'un coup
+  convert   convertit une note entre RTF, texte et HTML, remplaçant CIBLE d'un coup
   clean     met au propre des notes RTF issues d'une reconnaissance de texte : les
             paires de LISTE, les blancs, un seul format ; remplace chaque note d'un
             coup, ou écrit l'unique NOTE dans CIBLE. --dry-run n'écrit rien et dit,
@@ -31,11 +31,11 @@ constexpr std::string_view kUsage =
   links     dit où mène chaque application, "-" pour une absente
   pilot     conduit l'éditeur, sans fenêtre, par un script (voir docs/pilot.md)
 
-Les fichiers sont des chemins du système ; l'extension .rtf ou .txt en dit le
-format. Avec text, convert et clean "-" est l'entrée ou la sortie standard : en entrée le
-RTF se reconnaît à son début, en sortie c'est l'autre format, sauf avec --to. Un
-fichier texte est en page de code 1252 avec CR LF ; en entrée, une marque d'ordre
-des octets est suivie.
+Les fichiers sont des chemins du système ; l'extension .rtf, .txt, .html ou .htm en
+dit le format. Avec text, convert et clean "-" est l'entrée ou la sortie standard :
+en entrée le RTF se reconnaît à son début, en sortie c'est l'autre format (RTF pour
+du HTML), sauf avec --to. Un fichier texte est en page de code 1252 avec CR LF ; en
+entrée, une marque d'ordre des octets est suivie.
 
 État de sortie : 0, 1 quand une note ne peut être lue ou écrite ou une application
 liée, 2 pour une ligne de commande incorrecte. De pilot : 1 quand une attente n'est

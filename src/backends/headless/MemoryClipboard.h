@@ -8,7 +8,7 @@ namespace lumenote {
 class MemoryClipboard final : public Clipboard {
  public:
   ClipboardContent Get() const override { return content_; }
-  bool HasContent() const override { return content_.text || content_.rtf; }
+  bool HasContent() const override { return content_.text || content_.rtf || content_.html; }
   void Set(const ClipboardContent& content) override { content_ = content; }
   void Clear() override { content_ = {}; }
 

@@ -4,6 +4,7 @@
 #include "backends/headless/MemoryClipboard.h"
 #include "backends/headless/NoFiles.h"
 #include "base/TextEncoding.h"
+#include "html/write/Writer.h"
 #include "ocr/Cleanup.h"
 #include "rtf/read/Reader.h"
 #include "rtf/write/Writer.h"
@@ -27,6 +28,8 @@ Note::Note(std::string_view bytes, Format format) : parts_(std::make_unique<Part
   if (format == Format::Rtf) {
     if (!IsRtf(bytes)) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     parts_->surface.LoadSource(bytes);
+  } else if (format == Format::Html) {
+    parts_->surface.LoadHtml(bytes);
   } else {
     parts_->form = DetectEncoding(bytes);
     parts_->surface.Text(DecodeText(bytes, parts_->form));
@@ -42,8 +45,9 @@ Note::Format Note::Source() const { return parts_->source; }
 std::u16string Note::Text() const { return parts_->surface.Text(); }
 
 std::string Note::Bytes(Format format) const {
-  return format == Format::Rtf ? WriteRtf(parts_->surface.Content())
-                               : EncodeTextFile(Text(), parts_->form);
+  const Document& content = parts_->surface.Content();
+  if (format == Format::Text) return EncodeTextFile(Text(), parts_->form);
+  return format == Format::Rtf ? WriteRtf(content) : WriteHtml(content);
 }
 
 std::vector<std::int16_t> Note::Clean(std::string_view correctionList) {

@@ -4,6 +4,9 @@
 
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
+#include "html/read/Reader.h"
+#include "html/source/HtmlBytes.h"
+#include "html/write/Writer.h"
 #include "rtf/read/Reader.h"
 #include "rtf/write/Writer.h"
 #include "surface/editing/SourceBytes.h"
@@ -40,7 +43,10 @@ void Transfer::Text(std::u16string_view text) {
   const ParaId paragraph = core_.Formats().paragraphs.Intern({});
   Fragment whole = PlainFragment(text, format, paragraph);
   whole.mark = FinalMark{.character = format, .paragraph = paragraph};
-  std::u16string font(kDefaultFont);
+  LoadWhole(whole, std::u16string(kDefaultFont));
+}
+
+void Transfer::LoadWhole(const Fragment& whole, std::u16string font) {
   core_.Load(whole);
   baseFontName_ = std::move(font);
 }
@@ -48,9 +54,13 @@ void Transfer::Text(std::u16string_view text) {
 void Transfer::LoadRtf(std::string_view bytes) {
   FormatTables& formats = core_.Formats();
   const RtfNote note = ReadRtfNote(bytes, formats, defaultFormat_);
-  std::u16string font = formats.fonts[note.plainFont].name;
-  core_.Load(note.content);
-  baseFontName_ = std::move(font);
+  LoadWhole(note.content, formats.fonts[note.plainFont].name);
+}
+
+void Transfer::LoadHtml(std::string_view bytes) {
+  const Fragment whole =
+      ReadHtml(DecodeHtml(bytes), core_.Formats(), HtmlTarget::Document, defaultFormat_);
+  LoadWhole(whole, std::u16string(kDefaultFont));
 }
 
 std::u16string Transfer::Rtf() const { return WidenSource(WriteRtf(core_.Content())); }
@@ -129,7 +139,8 @@ void Transfer::Copy() {
   const Selection selection = core_.Selected();
   const Document& document = core_.Content();
   clipboard_.Set({document.Text(selection.start, selection.end),
-                  WriteRtf(document, selection.start, selection.end)});
+                  WriteRtf(document, selection.start, selection.end),
+                  WriteHtml(document, selection.start, selection.end)});
 }
 
 void Transfer::Cut() {
@@ -148,11 +159,14 @@ void Transfer::Drop(const ClipboardContent& content, Position target) {
   text_.Drop(FragmentOf(content), core_.Caret());
 }
 
-// RTF before text; plain text looks like what would be typed.
+// RTF before HTML before text; plain text looks like what would be typed.
 Fragment Transfer::FragmentOf(const ClipboardContent& content) {
   Fragment fragment;
   if (content.rtf && LooksLikeRtf(*content.rtf))
     fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, defaultFormat_);
+  if (fragment.Length() == 0 && content.html)
+    fragment =
+        ReadHtml(FromUtf8(*content.html), core_.Formats(), HtmlTarget::Selection, defaultFormat_);
   if (fragment.Length() == 0 && content.text) fragment = text_.Plain(*content.text);
   return fragment;
 }

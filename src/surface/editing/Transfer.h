@@ -26,6 +26,8 @@ class Transfer {
 
   /// RTF as it stands in a file.
   void LoadSource(std::string_view bytes);
+  /// The same for HTML.
+  void LoadHtml(std::string_view bytes);
   std::string Load(std::u16string_view path, FileType type, std::optional<TextEncoding> encoding);
   std::string Save(std::u16string_view path, FileType type);
   /// What `Save` writes.
@@ -42,6 +44,7 @@ class Transfer {
 
  private:
   void LoadRtf(std::string_view bytes);
+  void LoadWhole(const Fragment& whole, std::u16string font);
   void LoadText(const std::string& bytes, std::optional<TextEncoding> encoding);
   std::string PlainBytes() const;
   Fragment FragmentOf(const ClipboardContent& content);

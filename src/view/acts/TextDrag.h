@@ -17,6 +17,7 @@ class TextExcerpt {
   /// Generated on request.
   std::u16string Text() const { return document_.Text(range_.start, range_.end); }
   std::string Rtf() const;
+  std::string Html() const;
 
  private:
   Document document_;

@@ -37,9 +37,17 @@ std::optional<std::u16string> TextOf(const QMimeData& data) {
   return WithCrLf(FromQString(text));
 }
 
+std::optional<std::string> HtmlOf(const QMimeData& data) {
+  if (!data.hasHtml()) return std::nullopt;
+  const std::string html = data.html().toStdString();
+  return html.empty() ? std::nullopt : std::optional(html);
+}
+
 }  // namespace
 
-ClipboardContent ReadMime(const QMimeData& data) { return {TextOf(data), RtfOf(data)}; }
+ClipboardContent ReadMime(const QMimeData& data) {
+  return {TextOf(data), RtfOf(data), HtmlOf(data)};
+}
 
 bool HasMimeContent(const QMimeData& data) {
   const auto isThere = [&](const char* name) { return data.hasFormat(QLatin1String(name)); };
@@ -49,6 +57,7 @@ bool HasMimeContent(const QMimeData& data) {
 std::unique_ptr<QMimeData> WriteMime(const ClipboardContent& content) {
   auto data = std::make_unique<QMimeData>();
   if (content.text) data->setText(ToLines(*content.text));
+  if (content.html) data->setHtml(QString::fromStdString(*content.html));
   if (!content.rtf) return data;
   const QByteArray bytes = QByteArray::fromStdString(*content.rtf);
   for (int i = 0; i < kWrittenNames; ++i) data->setData(QLatin1String(kRtfNames[i]), bytes);

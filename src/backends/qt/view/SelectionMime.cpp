@@ -26,14 +26,17 @@ QStringList SelectionMime::formats() const {
   ClipboardContent names;
   names.text.emplace();
   names.rtf.emplace();
+  names.html.emplace();
   return WriteMime(names)->formats();
 }
 
 QVariant SelectionMime::retrieveData(const QString& format, QMetaType type) const {
   const std::optional<TextExcerpt> content = hasFormat(format) ? Content() : std::nullopt;
   if (!content) return {};
-  if (format != QLatin1String("text/plain")) return QByteArray::fromStdString(content->Rtf());
-  const QString text = ToLines(content->Text());
+  const bool html = format == QLatin1String("text/html");
+  if (!html && format != QLatin1String("text/plain"))
+    return QByteArray::fromStdString(content->Rtf());
+  const QString text = html ? QString::fromStdString(content->Html()) : ToLines(content->Text());
   return type.id() == QMetaType::QByteArray ? QVariant(text.toUtf8()) : QVariant(text);
 }
 

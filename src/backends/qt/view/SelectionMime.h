@@ -10,8 +10,8 @@ namespace lumenote {
 
 class RichTextView;
 
-/// Text and RTF are generated on request, whatever their size: of the selection at that time, or of
-/// the selection when this was created.
+/// Text, RTF and HTML are generated on request, whatever their size: of the selection at that time,
+/// or of the selection when this was created.
 class SelectionMime : public QMimeData {
  public:
   enum class Of { Then, Now };
