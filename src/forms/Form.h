@@ -85,6 +85,7 @@ class Form : public Element, public Container {
   /// What Return and Escape click, where the control with the keyboard has no use for them; null
   /// for none. A button that is disabled or hidden is not clicked.
   void DefaultButton(Button* button) { defaultButton_ = button; }
+  Button* DefaultButton() const { return defaultButton_; }
   void CancelButton(Button* button) { cancelButton_ = button; }
   /// Escape closes the window, which has no cancel button.
   void EscapeCloses(bool on) { escapeCloses_ = on; }

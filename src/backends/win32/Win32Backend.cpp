@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <commctrl.h>
 
+#include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/windows/FontDialog.h"
 #include "backends/win32/windows/MessageBoxes.h"
 #include "forms/controls/RichTextBox.h"
@@ -35,6 +36,7 @@ bool IsInSight(HWND window) {
 }  // namespace
 
 Win32Backend::Win32Backend() {
+  const VisualStyles styles;
   const INITCOMMONCONTROLSEX kinds = {sizeof kinds,
                                       ICC_STANDARD_CLASSES | ICC_BAR_CLASSES | ICC_UPDOWN_CLASS};
   InitCommonControlsEx(&kinds);

@@ -37,6 +37,10 @@ void ButtonPeer::Compare(DifferenceList& differences) const {
   differences.Check(control_, "Value", (Tell(BM_GETCHECK) == BST_CHECKED) == IsChecked());
 }
 
+void ButtonPeer::ShowDefault(bool isDefault) {
+  if (returnClicks_) Tell(BM_SETSTYLE, isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON, TRUE);
+}
+
 // Return clicks a push button as Space does; a native one leaves that to dialogs.
 std::optional<LRESULT> ButtonPeer::Hear(const Message& message) {
   if (message.id != WM_KEYDOWN || message.w != VK_RETURN || !returnClicks_)

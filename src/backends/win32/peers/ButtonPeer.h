@@ -15,6 +15,7 @@ class ButtonPeer : public ControlPeer {
 
   void Update(Property property) override;
   void Compare(DifferenceList& differences) const override;
+  void ShowDefault(bool isDefault) override;
 
  protected:
   ButtonPeer(CaptionedControl& control, std::shared_ptr<Window> window, PeerHost& host);

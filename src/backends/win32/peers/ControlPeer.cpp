@@ -57,6 +57,11 @@ void ControlPeer::Place(const RECT& bounds) {
                SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void ControlPeer::Rescale() {
+  Update(Property::Geometry);
+  Update(Property::Font);
+}
+
 void ControlPeer::ShowVisible() {
   if (!control_.Visible()) LeaveFocus();
   ShowWindow(Handle(), control_.Visible() ? SW_SHOWNA : SW_HIDE);
@@ -93,7 +98,7 @@ void ControlPeer::Compare(DifferenceList& differences) const {
 }
 
 std::optional<LRESULT> ControlPeer::Hear(const Message& message) {
-  if (message.id == WM_SETFOCUS) control_.Owner().ActiveControl(&control_);
+  if (message.id == WM_SETFOCUS) host_.Focused(control_);
   if (!PassesInput()) return std::nullopt;
   if (message.id == WM_KEYDOWN || message.id == WM_SYSKEYDOWN || message.id == WM_SYSCHAR)
     return HearKey(message);

@@ -27,6 +27,10 @@ class ControlPeer : protected MessageListener {
   /// Copies the changed state from the control.
   virtual void Update(Property property);
   virtual void Compare(DifferenceList& differences) const;
+  /// Marks the control as the one that Return clicks, or not; only push buttons show it.
+  virtual void ShowDefault(bool) {}
+  /// The window has come to a screen of another resolution.
+  virtual void Rescale();
 
  protected:
   std::optional<LRESULT> Hear(const Message& message) override;

@@ -1,5 +1,6 @@
 #include "backends/win32/peers/FramePeer.h"
 
+#include "backends/win32/toolkit/Colours.h"
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/NativeText.h"
 
@@ -14,8 +15,9 @@ void PaintBorder(HDC dc, const RECT& area, const RECT& title) {
   const int saved = SaveDC(dc);
   if (title.right > title.left)
     ExcludeClipRect(dc, title.left - kTitleGap, title.top, title.right + kTitleGap, title.bottom);
-  RECT border = {area.left, title.bottom / 2, area.right, area.bottom};
-  DrawEdge(dc, &border, EDGE_ETCHED, BF_RECT);
+  const RECT border = {area.left, title.bottom / 2, area.right, area.bottom};
+  const GdiObject<HBRUSH> line(CreateSolidBrush(LineOn(GetBkColor(dc), GetTextColor(dc))));
+  FrameRect(dc, &border, line.Get());
   RestoreDC(dc, saved);
 }
 
@@ -31,8 +33,7 @@ void FrameWindow::Paint(HDC dc, const RECT& area) {
   const std::u16string caption = Caption();
   PaintGround(dc);
   RECT title = {kTitleLeft, 0, kTitleLeft, 0};
-  DrawTextW(dc, Wide(caption.empty() ? u"X" : caption), -1, &title, DT_CALCRECT | DT_SINGLELINE);
-  if (caption.empty()) title.right = title.left;
+  if (!caption.empty()) DrawTextW(dc, Wide(caption), -1, &title, DT_CALCRECT | DT_SINGLELINE);
   PaintBorder(dc, area, title);
   SetBkMode(dc, TRANSPARENT);
   DrawTextW(dc, Wide(caption), -1, &title, DT_SINGLELINE);

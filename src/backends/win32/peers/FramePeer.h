@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// An etched border with the title in its top edge, on the ground of what is behind.
+/// A border with the title in its top edge, on the ground of what is behind.
 class FrameWindow final : public PaintedWindow {
  public:
   explicit FrameWindow(HWND parent);

@@ -1,5 +1,6 @@
 #include "backends/win32/peers/LabelPeer.h"
 
+#include "backends/win32/toolkit/Colours.h"
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/NativeText.h"
 
@@ -29,8 +30,10 @@ void LabelWindow::Paint(HDC dc, const RECT& area) {
 
 void LabelWindow::PaintCell(HDC dc, RECT area) const {
   FillRect(dc, &area, GetSysColorBrush(COLOR_WINDOW));
-  FrameRect(dc, &area, GetSysColorBrush(COLOR_ACTIVEBORDER));
-  SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+  const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
+  const GdiObject<HBRUSH> line(CreateSolidBrush(LineOn(GetSysColor(COLOR_WINDOW), ink)));
+  FrameRect(dc, &area, line.Get());
+  SetTextColor(dc, ink);
   SetBkMode(dc, TRANSPARENT);
   DrawTextW(dc, Wide(Caption()), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }

@@ -13,6 +13,8 @@ class PeerHost {
   virtual ControlFonts& Fonts() = 0;
   /// What lays out the text of the box's surface.
   virtual UniscribeLayouter& LayouterOf(const Control& box) = 0;
+  /// The control has the keyboard.
+  virtual void Focused(Control& control) = 0;
   /// A key that its control had no use for: moves the focus, or goes to the form. Returns whether
   /// it was used; the window may be gone then.
   virtual bool UnusedKey(Control& control, const KeyStroke& key) = 0;

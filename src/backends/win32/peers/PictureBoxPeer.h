@@ -2,6 +2,7 @@
 #pragma once
 #include "backends/win32/peers/ControlPeer.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
+#include "backends/win32/toolkit/VisualStyles.h"
 #include "forms/controls/PictureBox.h"
 
 namespace lumenote {
@@ -17,7 +18,9 @@ class PictureWindow final : public PaintedWindow {
  protected:
   LRESULT Receive(const Message& message) override {
     if (message.id == WM_LBUTTONDOWN) SetFocus(Handle());
-    return PaintedWindow::Receive(message);
+    const LRESULT answer = PaintedWindow::Receive(message);
+    if (message.id == WM_NCPAINT) PaintStyledEdge(Handle());
+    return answer;
   }
   void Paint(HDC dc, const RECT&) override { PaintGround(dc); }
 };

@@ -27,6 +27,12 @@ RichTextPeer::RichTextPeer(RichTextBox& box, std::shared_ptr<SurfaceWindow> wind
 
 RichTextPeer::~RichTextPeer() { window_.Detach(); }
 
+// Only the newest mode of a host's makes the system tell child windows.
+void RichTextPeer::Rescale() {
+  Tell(WM_DPICHANGED_AFTERPARENT);
+  ControlPeer::Rescale();
+}
+
 void RichTextPeer::Compare(DifferenceList& differences) const {
   ControlPeer::Compare(differences);
   for (const std::string& difference : window_.Differences()) differences.Add(box_, difference);

@@ -12,6 +12,7 @@ class RichTextPeer final : public ControlPeer {
   ~RichTextPeer() override;
 
   void Compare(DifferenceList& differences) const override;
+  void Rescale() override;
 
  protected:
   bool PassesInput() const override { return false; }  // the surface's own window does

@@ -51,6 +51,7 @@ LRESULT PaintedWindow::Receive(const Message& message) {
     case WM_SETTEXT:
     case WM_ENABLE:
     case WM_SIZE:
+    case WM_SYSCOLORCHANGE:
       Repaint();
       return Default(message);
     default:

@@ -1,11 +1,15 @@
 #include "backends/win32/toolkit/Window.h"
 
+#include "backends/win32/toolkit/VisualStyles.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote {
 namespace {
 
 constexpr const wchar_t* kProperty = L"LumenoteWindow";
+
+/// The icon of a program or DLL with the component, if it has one.
+constexpr WORD kIcon = 100;
 
 /// Its address lies in the module.
 const char kInside = 0;
@@ -31,6 +35,7 @@ HWND Teller(const Message& message) {
 int Window::alive_ = 0;
 
 Window::Window(HWND parent, const WindowKind& kind) : owned_(true) {
+  const VisualStyles styles;
   handle_ = CreateWindowExW(kind.exStyle, kind.className, nullptr, kind.style, 0, 0, 0, 0, parent,
                             nullptr, OwnModule(), nullptr);
   if (!handle_) throw RuntimeError(ErrorNumber::OutOfMemory);
@@ -105,6 +110,7 @@ const wchar_t* OwnClass(const wchar_t* name, UINT style, LPCWSTR cursor) {
   made.style = style;
   made.lpfnWndProc = &DefWindowProcW;
   made.hInstance = OwnModule();
+  made.hIcon = LoadIconW(OwnModule(), MAKEINTRESOURCEW(kIcon));
   made.hCursor = LoadCursorW(nullptr, cursor);
   made.lpszClassName = name;
   RegisterClassExW(&made);

@@ -8,6 +8,7 @@
 #include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/toolkit/Units.h"
+#include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/view/Composing.h"
 #include "backends/win32/view/EditMessages.h"
 #include "backends/win32/view/ViewAccessible.h"
@@ -165,6 +166,10 @@ bool SurfaceWindow::HandleWindow(const Message& message) {
       Paint();
       return true;
     case WM_ERASEBKGND:
+      return true;
+    case WM_NCPAINT:
+      Default(message);
+      if (framed_) PaintStyledEdge(Handle());
       return true;
     case WM_SIZE:
       Resize();

@@ -2,16 +2,9 @@
 
 #include <windowsx.h>
 
+#include "backends/win32/toolkit/Colours.h"
+
 namespace lumenote {
-namespace {
-
-/// Black or white, whichever contrasts more.
-COLORREF InkOn(COLORREF ground) {
-  const int grey = 11 * GetRValue(ground) + 16 * GetGValue(ground) + 5 * GetBValue(ground);
-  return grey >= 128 * 32 ? RGB(0, 0, 0) : RGB(255, 255, 255);
-}
-
-}  // namespace
 
 ContentWindow::ContentWindow(HWND parent)
     : PaintedWindow(parent, WindowKind{OwnClass(L"LumenoteContent"),
@@ -25,8 +18,10 @@ void ContentWindow::Ground(std::int32_t colour) {
   RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
+bool ContentWindow::IsSystems() const { return ground_ < 0 || HighContrast(); }
+
 COLORREF ContentWindow::Colour() const {
-  return ground_ < 0 ? GetSysColor(COLOR_BTNFACE) : static_cast<COLORREF>(ground_);
+  return IsSystems() ? GetSysColor(COLOR_BTNFACE) : static_cast<COLORREF>(ground_);
 }
 
 LRESULT ContentWindow::Receive(const Message& message) {
@@ -35,6 +30,7 @@ LRESULT ContentWindow::Receive(const Message& message) {
     case WM_CTLCOLORBTN:
       return ColourOfControl(reinterpret_cast<HDC>(message.w));
     case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE:
       Ground(ground_);
       return 0;
     case WM_MOUSEMOVE:
@@ -46,7 +42,7 @@ LRESULT ContentWindow::Receive(const Message& message) {
 }
 
 LRESULT ContentWindow::ColourOfControl(HDC dc) const {
-  SetTextColor(dc, ground_ < 0 ? GetSysColor(COLOR_BTNTEXT) : InkOn(Colour()));
+  SetTextColor(dc, IsSystems() ? GetSysColor(COLOR_BTNTEXT) : InkOn(Colour()));
   SetBkColor(dc, Colour());
   return reinterpret_cast<LRESULT>(brush_.Get());
 }

@@ -24,6 +24,8 @@ class ContentWindow final : public PaintedWindow {
   void Paint(HDC dc, const RECT& area) override;
 
  private:
+  /// Whether the ground has the desktop's own colour.
+  bool IsSystems() const;
   COLORREF Colour() const;
   LRESULT ColourOfControl(HDC dc) const;
 

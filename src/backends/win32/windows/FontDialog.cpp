@@ -7,6 +7,7 @@
 
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/windows/ModalLock.h"
 
 namespace lumenote {
@@ -70,6 +71,7 @@ std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, HWND over) {
   dialog.Flags = FlagsOf(shown);
   dialog.rgbColors = static_cast<COLORREF>(shown.colour.value_or(0));
   const ModalLock others(over);
+  const VisualStyles styles;
   if (!ChooseFontW(&dialog)) return std::nullopt;
   FontChoice choice = Changes(before, after);
   choice.size =

@@ -63,6 +63,12 @@ OptionButton* NextOption(const OptionButton& from, bool forward) {
   return Neighbour<OptionButton>(options, &from, forward);
 }
 
+Menu* NextMenu(Form& form, const Menu* from, bool forward) {
+  std::vector<Menu*> menus = form.Menus();
+  std::erase_if(menus, [](const Menu* menu) { return !menu->Visible() || !menu->Enabled(); });
+  return Neighbour<Menu>(menus, from, forward);
+}
+
 Element* WithMnemonic(Form& form, char16_t character) {
   const char16_t wanted = ToLower(character);
   for (Control* control : UsableControls(form))

@@ -1,26 +1,36 @@
 // A low menu bar: the system's own is higher than the windows' design allows.
 #pragma once
 #include <functional>
-#include <optional>
 #include <vector>
 
 #include "backends/win32/toolkit/PaintedWindow.h"
 #include "backends/win32/toolkit/Units.h"
+#include "forms/Form.h"
 #include "forms/Menu.h"
 
 namespace lumenote {
 
-/// Shows the captions of the visible menus; the spaces in them are the only separation.
+/// Shows the captions of the form's visible menus; the spaces in them are the only separation. With
+/// the keyboard it has one of them lit.
 class MenuBarWindow final : public PaintedWindow {
  public:
-  explicit MenuBarWindow(HWND parent);
+  MenuBarWindow(HWND parent, Form& form);
 
-  void Show(std::vector<Menu*> menus);
-  /// Opens one of the menus below its caption.
-  void Open(Menu& menu);
-  /// Shows the list of a menu at a point of the screen, as far as it lies beside `below`. The
-  /// window may be gone when it returns. May be empty.
-  std::function<void(Menu& menu, const RECT& below)> opens;
+  /// Takes the menus from the form anew.
+  void Show();
+  /// The form is going; the window may stay.
+  void Detach();
+
+  /// Null for none.
+  void Light(Menu* menu);
+  void TakeKeyboard(Menu& lit);
+  /// The menu at a point of the screen; null for none.
+  Menu* MenuAt(POINT at) const;
+  /// On the screen.
+  RECT PlaceOf(const Menu& menu) const;
+
+  /// The user has pressed a menu. May be empty.
+  std::function<void(Menu& menu)> chosen;
 
  protected:
   LRESULT Receive(const Message& message) override;
@@ -29,12 +39,16 @@ class MenuBarWindow final : public PaintedWindow {
  private:
   /// Where the captions stand, from left to right.
   std::vector<RECT> Places(HDC dc) const;
-  std::optional<std::size_t> MenuAt(POINT at) const;
-  void Light(std::optional<std::size_t> menu);
-  void OpenAt(std::size_t place);
+  RECT OnScreen(RECT place) const;
+  /// The pointer is at a menu; with the keyboard, one stays lit.
+  void Point(Menu* menu);
+  void Press(Menu* menu);
+  void HearKey(WPARAM key);
+  void PaintMenu(HDC dc, Menu& menu, RECT place) const;
 
+  Form* form_;  // null once it is going
   std::vector<Menu*> menus_;
-  std::optional<std::size_t> lit_;
+  Menu* lit_ = nullptr;
 };
 
 }  // namespace lumenote

@@ -1,9 +1,11 @@
 #include "backends/win32/windows/MessageBoxes.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/windows/ModalLock.h"
 
 namespace lumenote {
@@ -65,6 +67,31 @@ std::u16string TitleOf(const MessageBox& box) {
   return program.empty() ? u"Lumenote" : program;
 }
 
+bool IsAnswer(int answer, MessageBox::Buttons buttons) {
+  if (buttons == MessageBox::Buttons::Ok) return answer == IDOK || answer == IDCANCEL;
+  return answer == IDYES || answer == IDNO;
+}
+
+/// Takes a request to quit off the queue, if there is one.
+bool TakeQuit(std::optional<WPARAM>& quit) {
+  MSG message;
+  if (!PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) return false;
+  quit = message.wParam;
+  return true;
+}
+
+/// The system takes a box down when its program is asked to quit; the user has still to answer.
+int AnswerTo(const MessageBox& box, HWND over, UINT kind) {
+  const std::u16string title = TitleOf(box);
+  std::optional<WPARAM> quit;
+  int answer = 0;
+  do {
+    answer = MessageBoxW(over, Wide(box.text), Wide(title), kind);
+  } while (!IsAnswer(answer, box.buttons) && TakeQuit(quit));
+  if (quit) PostQuitMessage(static_cast<int>(*quit));
+  return answer;
+}
+
 }  // namespace
 
 // The system locks the window below only.
@@ -72,7 +99,8 @@ Answer ShowMessageBox(const MessageBox& box, HWND over) {
   const bool question = box.buttons == MessageBox::Buttons::YesNo;
   const UINT kind = IconOf(box.icon) | (question ? MB_YESNO : MB_OK);
   const ModalLock others(over);
-  const int answer = MessageBoxW(over, Wide(box.text), Wide(TitleOf(box)), kind);
+  const VisualStyles styles;
+  const int answer = AnswerTo(box, over, kind);
   if (!question) return Answer::Ok;
   return answer == IDYES ? Answer::Yes : Answer::No;
 }

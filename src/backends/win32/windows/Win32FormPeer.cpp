@@ -4,6 +4,7 @@
 #include "backends/win32/toolkit/NativeText.h"
 #include "backends/win32/windows/KeyNavigation.h"
 #include "base/ScopedFlag.h"
+#include "forms/Button.h"
 
 namespace lumenote {
 namespace {
@@ -30,11 +31,9 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
       services_(services),
       window_(std::make_shared<Window>(nullptr, FormKind())),
       scale_(Scale::Of(window_->Handle())),
-      bar_(std::make_shared<MenuBarWindow>(Handle())),
-      content_(std::make_shared<ContentWindow>(Handle())),
-      menus_(form.Menus()) {
+      menus_(form, window_),
+      content_(std::make_shared<ContentWindow>(Handle())) {
   services_.Windows().Add(form, *window_);
-  bar_->opens = [this](Menu& menu, const RECT& below) { OpenList(menu, below); };
   content_->mouseMoved = [this](POINT at) {
     form_.UserMouseMove({MouseButton::None, {scale_.Twips(at.x), scale_.Twips(at.y)}});
   };
@@ -43,6 +42,7 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
   for (const Property property : {Property::Caption, Property::BackColor, Property::Geometry})
     UpdateForm(property);
   ShowMenuBar();
+  ShowDefault();
 }
 
 // A box above a closing window would lock the next window. What the system makes active then is not
@@ -50,8 +50,6 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
 Win32FormPeer::~Win32FormPeer() {
   window_->Listener(nullptr);
   content_->mouseMoved = nullptr;
-  bar_->opens = nullptr;
-  bar_->Show({});
   for (const auto& [control, peer] : controls_) services_.Windows().Remove(*control);
   services_.Windows().Remove(form_);
   services_.Gone(form_);
@@ -130,8 +128,7 @@ void Win32FormPeer::ShowGeometry() {
 
 void Win32FormPeer::ShowMenuBar() {
   const auto font = reinterpret_cast<WPARAM>(services_.Fonts().Get({}, 0, scale_));
-  SendMessageW(bar_->Handle(), WM_SETFONT, font, TRUE);
-  bar_->Show(form_.Menus());
+  SendMessageW(menus_.Bar().Handle(), WM_SETFONT, font, TRUE);
   LayOutParts();
 }
 
@@ -140,8 +137,8 @@ void Win32FormPeer::LayOutParts() {
   GetClientRect(Handle(), &client);
   const int height = scale_.Pixels(kBarHeight);
   const int top = form_.HasMenuBar() ? height : 0;
-  MoveWindow(bar_->Handle(), 0, 0, client.right, height, TRUE);
-  ShowWindow(bar_->Handle(), form_.HasMenuBar() ? SW_SHOWNA : SW_HIDE);
+  MoveWindow(menus_.Bar().Handle(), 0, 0, client.right, height, TRUE);
+  ShowWindow(menus_.Bar().Handle(), form_.HasMenuBar() ? SW_SHOWNA : SW_HIDE);
   MoveWindow(content_->Handle(), 0, top, client.right, client.bottom - top, TRUE);
   if (docked_)
     SetWindowPos(docked_, HWND_TOP, 0, client.bottom - height, client.right, height,
@@ -154,12 +151,21 @@ void Win32FormPeer::ShowVisible() {
     ShowWindow(Handle(), SW_HIDE);
     return;
   }
+  ChooseBoxes();
   owner_ = OwnerWindow();
   ShowOnTop();
   Join(true);
   ShowGeometry();
   ShowWindow(Handle(), SW_SHOWNA);
   if (form_.IsModal()) lock_ = std::make_unique<ModalLock>(Handle());
+}
+
+// A dialog goes with its owner.
+void Win32FormPeer::ChooseBoxes() {
+  constexpr LONG_PTR kBoxes = WS_MINIMIZEBOX | WS_MAXIMIZEBOX;
+  const bool dialog = form_.OwnerWindow() || form_.IsModal();
+  const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
+  SetWindowLongPtrW(Handle(), GWL_STYLE, dialog ? style & ~kBoxes : style | kBoxes);
 }
 
 // A modal window without an owner stays above the window it was opened from.
@@ -186,6 +192,12 @@ void Win32FormPeer::Join(bool owner) {
                     reinterpret_cast<LONG_PTR>(owner ? owner_ : nullptr));
 }
 
+void Win32FormPeer::PopUp(Menu& menu, Point at) {
+  POINT corner = {scale_.Pixels(at.x), scale_.Pixels(at.y)};
+  ClientToScreen(content_->Handle(), &corner);
+  menus_.PopUp(menu, corner);
+}
+
 // --- focus and activation
 
 // A window that is not active gives the keyboard to its control when it becomes so.
@@ -197,6 +209,18 @@ void Win32FormPeer::FocusInside() {
   const Control* control = form_.ActiveControl();
   if (!control || !control->Visible() || !control->Enabled()) return;
   if (const ControlPeer* peer = PeerOf(*control)) SetFocus(peer->FocusTarget());
+}
+
+void Win32FormPeer::Focused(Control& control) {
+  form_.ActiveControl(&control);
+  ShowDefault();
+}
+
+// A button with the keyboard is the one that Return clicks.
+void Win32FormPeer::ShowDefault() {
+  const Control* marked = dynamic_cast<const Button*>(form_.ActiveControl());
+  if (!marked) marked = form_.DefaultButton();
+  for (const auto& [control, peer] : controls_) peer->ShowDefault(control == marked);
 }
 
 void Win32FormPeer::Activate() {
@@ -229,7 +253,7 @@ bool Win32FormPeer::UseMnemonic(char16_t character) {
   Element* const marked = WithMnemonic(form_, character);
   if (!marked) return false;
   if (auto* menu = dynamic_cast<Menu*>(marked)) {
-    bar_->Open(*menu);
+    menus_.Open(*menu);
     return true;
   }
   auto& control = dynamic_cast<Control&>(*marked);
@@ -268,21 +292,28 @@ std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
       WindowGeometry::AllowAnySize(*reinterpret_cast<MINMAXINFO*>(message.l));
       return 0;
     case WM_DPICHANGED:
-      Rescaled(*reinterpret_cast<const RECT*>(message.l));
+      Rescaled(LOWORD(message.w), *reinterpret_cast<const RECT*>(message.l));
       return 0;
+    case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE:
+      TellAll(message);
+      return std::nullopt;
     case WM_INITMENUPOPUP:
-      if (Menu* menu = menus_.WithList(reinterpret_cast<HMENU>(message.w));
-          menu && menu != poppedUp_)
-        menu->UserOpen();
+      menus_.Opening(reinterpret_cast<HMENU>(message.w));
       return 0;
     case WM_COMMAND:
-      Choose(LOWORD(message.w));
+      menus_.Chosen(LOWORD(message.w));
+      return 0;
+    case WM_SYSCOMMAND:
+      if ((message.w & 0xFFF0) != SC_KEYMENU || message.l != 0 || !form_.HasMenuBar())
+        return std::nullopt;
+      menus_.ToggleKeyboard();
       return 0;
     case WM_QUERYENDSESSION:
       form_.Keep();
       return TRUE;
     case WM_ENDSESSION:
-      EndSession(message.w != 0);
+      if (message.w != 0) form_.Abandon();  // a question would hold the system
       return 0;
     default:
       return std::nullopt;
@@ -319,54 +350,25 @@ void Win32FormPeer::DragTo(float width, float height) {
   form_.UserResize(width, height);
 }
 
-void Win32FormPeer::Rescaled(const RECT& suggested) {
-  scale_ = Scale::Of(Handle());
+void Win32FormPeer::Rescaled(int dpi, const RECT& suggested) {
+  scale_ = Scale(dpi);
   const ScopedFlag placing(placing_);
   WindowGeometry::Place(Handle(), form_.Bounds(), scale_);
   SetWindowPos(Handle(), nullptr, suggested.left, suggested.top, 0, 0,
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   geometry_.Settle(Handle());
-  for (const auto& [control, peer] : controls_)
-    for (const Property property : {Property::Geometry, Property::Font}) peer->Update(property);
+  for (const auto& [control, peer] : controls_) peer->Rescale();
   ShowMenuBar();
 }
 
-// A note that can be kept nowhere does not hold the system.
-void Win32FormPeer::EndSession(bool ends) {
-  if (ends && !form_.Unload()) form_.Abandon();
-}
-
-// --- menus
-
-void Win32FormPeer::Choose(UINT command) {
-  if (Menu* menu = menus_.WithCommand(command)) menu->UserClick();
-}
-
-void Win32FormPeer::OpenList(Menu& menu, const RECT& below) {
-  if (menus_.ListOf(menu))
-    Track(menu, {below.left, below.bottom}, &below);
-  else
-    menu.UserClick();
-}
-
-void Win32FormPeer::PopUp(Menu& menu, Point at) {
-  if (!menus_.ListOf(menu)) return;
-  POINT corner = {scale_.Pixels(at.x), scale_.Pixels(at.y)};
-  ClientToScreen(content_->Handle(), &corner);
-  const std::shared_ptr<Window> kept = window_;
-  poppedUp_ = &menu;
-  Track(menu, corner, nullptr);
-  if (kept->HasListener()) poppedUp_ = nullptr;
-}
-
-// The form may be closed while the list is open.
-void Win32FormPeer::Track(Menu& menu, POINT at, const RECT* beside) {
-  const std::shared_ptr<Window> kept = window_;
-  TPMPARAMS around = {sizeof around, beside ? *beside : RECT{}};
-  const auto command = static_cast<UINT>(
-      TrackPopupMenuEx(menus_.ListOf(menu), TPM_RETURNCMD | TPM_VERTICAL | TPM_RIGHTBUTTON, at.x,
-                       at.y, Handle(), beside ? &around : nullptr));
-  if (command && kept->HasListener()) Choose(command);
+// The system tells a window on the desktop only.
+void Win32FormPeer::TellAll(Message message) {
+  const auto tell = [](HWND child, LPARAM told) -> BOOL {
+    const auto& [id, w, l] = *reinterpret_cast<const Message*>(told);
+    SendMessageW(child, id, w, l);
+    return TRUE;
+  };
+  EnumChildWindows(Handle(), tell, reinterpret_cast<LPARAM>(&message));
 }
 
 // --- tests
@@ -374,7 +376,7 @@ void Win32FormPeer::Track(Menu& menu, POINT at, const RECT* beside) {
 std::vector<std::string> Win32FormPeer::Differences() const {
   DifferenceList differences;
   Compare(differences);
-  menus_.Compare(differences);
+  menus_.Tree().Compare(differences);
   for (const auto& [control, peer] : controls_) peer->Compare(differences);
   return differences.Lines();
 }
@@ -390,7 +392,7 @@ void Win32FormPeer::Compare(DifferenceList& differences) const {
   const SIZE wanted = WindowGeometry::ClientSize(form_.Bounds(), scale_);
   check("Size", client.right == wanted.cx && client.bottom == wanted.cy);
   check("TopMost", Has(Handle(), GWL_EXSTYLE, WS_EX_TOPMOST) == StaysOnTop());
-  check("menu bar", Has(bar_->Handle(), GWL_STYLE, WS_VISIBLE) == form_.HasMenuBar());
+  check("menu bar", Has(menus_.Bar().Handle(), GWL_STYLE, WS_VISIBLE) == form_.HasMenuBar());
 }
 
 }  // namespace lumenote

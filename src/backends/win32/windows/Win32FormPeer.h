@@ -6,8 +6,7 @@
 #include "backends/win32/peers/ControlPeer.h"
 #include "backends/win32/toolkit/WindowRegistry.h"
 #include "backends/win32/windows/ContentWindow.h"
-#include "backends/win32/windows/MenuBarWindow.h"
-#include "backends/win32/windows/MenuTree.h"
+#include "backends/win32/windows/FormMenus.h"
 #include "backends/win32/windows/ModalLock.h"
 #include "backends/win32/windows/WindowGeometry.h"
 #include "forms/Form.h"
@@ -42,7 +41,7 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   std::vector<std::string> Differences() const override;
 
   HWND Handle() const { return window_->Handle(); }
-  const MenuTree& Menus() const { return menus_; }
+  const MenuTree& Menus() const { return menus_.Tree(); }
   /// The peer of a control of the form; null for none.
   ControlPeer* PeerOf(const Control& control) const;
   /// Puts the window on top of all others, or takes it down, while it is apart from its owner.
@@ -57,6 +56,7 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   Scale Resolution() const override { return scale_; }
   ControlFonts& Fonts() override { return services_.Fonts(); }
   UniscribeLayouter& LayouterOf(const Control& box) override { return services_.LayouterOf(box); }
+  void Focused(Control& control) override;
   bool UnusedKey(Control& control, const KeyStroke& key) override;
   bool UseMnemonic(char16_t character) override;
   void Used() override { form_.UserActivate(); }
@@ -69,18 +69,17 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   void UpdateForm(Property property);
   void ShowGeometry();
   void ShowVisible();
+  void ChooseBoxes();
   bool StaysOnTop() const;
   void ShowMenuBar();
   void LayOutParts();
   HWND OwnerWindow() const;
   void FocusInside();
+  void ShowDefault();
   void FollowUser();
-  void Rescaled(const RECT& suggested);
+  void Rescaled(int dpi, const RECT& suggested);
+  void TellAll(Message message);
   std::optional<LRESULT> HearKey(const Message& message);
-  void EndSession(bool ends);
-  void Choose(UINT command);
-  void OpenList(Menu& menu, const RECT& below);
-  void Track(Menu& menu, POINT at, const RECT* beside);
   void EndBoxes();
   void Compare(DifferenceList& differences) const;
 
@@ -88,16 +87,14 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   PeerServices& services_;
   std::shared_ptr<Window> window_;
   Scale scale_;
-  std::shared_ptr<MenuBarWindow> bar_;
+  FormMenus menus_;
   std::shared_ptr<ContentWindow> content_;
-  MenuTree menus_;
   std::unordered_map<const Element*, std::unique_ptr<ControlPeer>> controls_;
   HWND docked_ = nullptr;  // the status bar; null for none
   HWND owner_ = nullptr;   // the window below, possibly the host's; null for none
   WindowGeometry geometry_;
   std::unique_ptr<ModalLock> lock_;
-  bool placing_ = false;            // what the window tells of its place is an echo
-  const Menu* poppedUp_ = nullptr;  // its opening event has been raised already
+  bool placing_ = false;  // what the window tells of its place is an echo
 };
 
 }  // namespace lumenote
