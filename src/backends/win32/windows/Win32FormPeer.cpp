@@ -24,6 +24,12 @@ BOOL CALLBACK EndBox(HWND window, LPARAM owner) {
   return TRUE;
 }
 
+BOOL CALLBACK TellChild(HWND child, LPARAM told) {
+  const auto& [id, w, l] = *reinterpret_cast<const Message*>(told);
+  SendMessageW(child, id, w, l);
+  return TRUE;
+}
+
 }  // namespace
 
 Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
@@ -363,12 +369,7 @@ void Win32FormPeer::Rescaled(int dpi, const RECT& suggested) {
 
 // The system tells a window on the desktop only.
 void Win32FormPeer::TellAll(Message message) {
-  const auto tell = [](HWND child, LPARAM told) -> BOOL {
-    const auto& [id, w, l] = *reinterpret_cast<const Message*>(told);
-    SendMessageW(child, id, w, l);
-    return TRUE;
-  };
-  EnumChildWindows(Handle(), tell, reinterpret_cast<LPARAM>(&message));
+  EnumChildWindows(Handle(), &TellChild, reinterpret_cast<LPARAM>(&message));
 }
 
 // --- tests

@@ -1,0 +1,193 @@
+// The editor on native windows: in a host's plain loop, closed in every way, at the session's end.
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+#include "Input.h"
+#include "backends/win32/Win32Backend.h"
+#include "control/Component.h"
+#include "lumenote/CoBxRtf.h"
+#include "pilot/machine/PilotPlatform.h"
+#include "pilot/machine/ReportedFonts.h"
+#include "pilot/sandbox/FolderSandbox.h"
+
+namespace lumenote {
+namespace {
+
+constexpr const char16_t* kTitle = u"Lumenote";  // of boxes, in a program without a name
+
+class EditorTest : public testing::Test {
+ protected:
+  EditorTest() {
+    control->pCouleurFen(u"14737632");
+    control->pTitreFenêtre(u"Note");
+    sandbox.MakeParents(u"C:\\n\\x");
+    sandbox.FileSystem().Write(u"C:\\n\\a.txt", "abc");
+    control->pStrOrchm(u"C:\\n\\a.txt");
+  }
+
+  ~EditorTest() override {
+    if (Editor()) Editor()->Abandon();
+  }
+
+  Co_Rtf* Editor() { return control->Parts().editor.Loaded(); }
+  HWND Handle() { return backend.PeerOf(*Editor())->Handle(); }
+  void Open() {
+    control->ShowMicroEdit();
+    Pump();
+  }
+  void Type(std::initializer_list<WORD> keys) {
+    for (const WORD key : keys) Press({key});
+    Pump();
+  }
+  std::u16string Shown() { return Editor()->Document().Text(); }
+  std::string Saved() { return sandbox.FileSystem().ReadAll(u"C:\\n\\a.txt"); }
+  /// Runs the host's loop until its end, or until the editor has closed; the host's exit code.
+  std::optional<WPARAM> RunHost() {
+    MSG message;
+    while (Editor() && GetMessageW(&message, nullptr, 0, 0) > 0) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+    return TakeQuit();
+  }
+  static std::optional<WPARAM> TakeQuit() {
+    MSG message;
+    const bool asked = PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    return asked ? std::optional(message.wParam) : std::nullopt;
+  }
+  bool OnDisk(const std::string& text) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path())) {
+      if (!entry.is_regular_file()) continue;
+      std::ifstream file(entry.path(), std::ios::binary);
+      if (std::string(std::istreambuf_iterator<char>(file), {}).find(text) != std::string::npos)
+        return true;
+    }
+    return false;
+  }
+
+  TemporaryFolder folder;
+  FolderSandbox sandbox{folder.Path()};
+  Win32Backend backend;
+  ReportedFonts fonts;
+  PilotPlatform machine{sandbox, backend, fonts};
+  std::unique_ptr<CoBxRtf> control = std::make_unique<CoBxRtf>(machine);
+};
+
+TEST_F(EditorTest, KeysReachEditorAndDialogsInAPlainLoop) {
+  Open();
+  Type({VK_END, VK_LEFT, 'D', 'B'});
+  EXPECT_EQ(Shown(), u"abdbc");
+  Press({VK_CONTROL, 'Z'});
+  Pump();
+  EXPECT_EQ(Shown(), u"abc");
+  Press({VK_CONTROL, 'F'});
+  Pump();
+  const HWND find = WindowTitled(u"Trouver / Remplacer");
+  ASSERT_TRUE(find);
+  EXPECT_EQ(GetActiveWindow(), find);
+  EXPECT_EQ(GetWindow(find, GW_OWNER), Handle());
+  Type({'B', VK_RETURN});
+  EXPECT_EQ(Editor()->Document().SelText(), u"b");
+  EXPECT_EQ(GetActiveWindow(), Handle());
+  SetActiveWindow(find);
+  Press({VK_MENU, 'M'});
+  Pump();
+  Type({VK_ESCAPE});
+  EXPECT_FALSE(WindowTitled(u"Trouver / Remplacer"));
+  EXPECT_EQ(GetActiveWindow(), Handle());
+  Type({VK_DELETE});
+  EXPECT_EQ(Shown(), u"ac");
+}
+
+TEST_F(EditorTest, HoweverItIsClosedTheNoteIsSaved) {
+  const std::pair<UINT, WPARAM> ways[] = {
+      {WM_CLOSE, 0}, {WM_SYSCOMMAND, SC_CLOSE}, {WM_QUIT, 7}, {WM_NULL, 0}};
+  for (const auto& [message, parameter] : ways) {
+    sandbox.FileSystem().Write(u"C:\\n\\a.txt", "abc");
+    for (const bool waits : {false, true}) {
+      const std::string before = Saved();
+      bool typed = false;
+      Meanwhile user([&] {
+        if (!Editor() || !IsWindowVisible(Handle())) return false;
+        if (std::exchange(typed, true)) return Answers(kTitle, IDYES)();
+        Type({'X'});
+        PostMessageW(message == WM_QUIT ? nullptr : Handle(), message, parameter, 0);
+        if (message == WM_NULL) Editor()->Pop.mnuPopQuitter.UserClick();
+        return false;
+      });
+      control->ShowMicroEdit(waits ? 1 : 0);
+      std::optional<WPARAM> quit = TakeQuit();
+      if (!waits) quit = RunHost();
+      if (Editor()) control->pStrOrchm();
+      EXPECT_EQ(Saved(), "x" + before) << message << waits;
+      EXPECT_EQ(quit.has_value(), message == WM_QUIT && waits) << message << waits;
+    }
+  }
+}
+
+TEST_F(EditorTest, AQuitDuringAQuestionLosesNothing) {
+  Open();
+  Type({'X'});
+  int step = 0;
+  Meanwhile user([&] {
+    if (!WindowTitled(kTitle)) return false;
+    if (++step == 1) PostQuitMessage(9);
+    return step > 3 && Answers(kTitle, IDYES)();
+  });
+  PostMessageW(Handle(), WM_CLOSE, 0, 0);
+  EXPECT_EQ(RunHost(), 9u);
+  EXPECT_EQ(Saved(), "xabc");
+}
+
+TEST_F(EditorTest, TheSessionsEndAsksNothingAndKeepsTheNote) {
+  Open();
+  Type({'Q', 'Q', 'Q'});
+  EXPECT_TRUE(SendMessageW(Handle(), WM_QUERYENDSESSION, 0, 0));
+  EXPECT_TRUE(OnDisk("qqqabc"));
+  EXPECT_FALSE(SendMessageW(Handle(), WM_ENDSESSION, FALSE, 0));
+  ASSERT_TRUE(Editor());
+  Type({'Z'});
+  SendMessageW(Handle(), WM_ENDSESSION, TRUE, 0);
+  EXPECT_FALSE(Editor());
+  EXPECT_TRUE(OnDisk("qqqzabc"));
+  EXPECT_EQ(Saved(), "abc");
+}
+
+TEST_F(EditorTest, TheHostMayCloseItUnderAnOpenMenu) {
+  Open();
+  Type({'X'});
+  bool opened = false;
+  Meanwhile host([&] {
+    if (!FindWindowW(L"#32768", nullptr)) return false;
+    opened = true;
+    Editor()->Abandon();
+    return true;
+  });
+  const HWND surface = GetFocus();
+  PostMessageW(surface, WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(20, 10));
+  PostMessageW(surface, WM_RBUTTONUP, 0, MAKELPARAM(20, 10));
+  RunHost();
+  EXPECT_TRUE(opened);
+  EXPECT_FALSE(Editor());
+}
+
+TEST_F(EditorTest, OnTopIsChangedInPlaceAndActivatesNothing) {
+  Open();
+  const HWND other = CreateWindowExW(0, L"STATIC", L"Autre", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                     100, 100, nullptr, nullptr, nullptr, nullptr);
+  SetActiveWindow(other);
+  const HWND editor = Handle();
+  for (const bool on : {true, false, true}) {
+    Editor()->Pop.mnuPopMettreDessus.UserClick();
+    const bool shown = (GetWindowLongW(editor, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    EXPECT_EQ(shown, Editor()->OnTop());
+    EXPECT_EQ(backend.IsTopmost(*Editor()), shown || GetTopWindow(nullptr) == editor) << on;
+    EXPECT_EQ(GetActiveWindow(), other);
+    EXPECT_EQ(Handle(), editor);
+  }
+  DestroyWindow(other);
+}
+
+}  // namespace
+}  // namespace lumenote

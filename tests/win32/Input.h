@@ -1,0 +1,86 @@
+// A user at the keyboard and mouse of the system, and a host's plain message loop.
+#pragma once
+#include <functional>
+#include <initializer_list>
+#include <string>
+
+#include "backends/win32/toolkit/NativeText.h"
+
+namespace lumenote {
+
+/// Dispatches what is there, as a host does that knows nothing of dialogs.
+inline void Pump() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+/// Presses keys together and releases them; whoever reads messages next gets them.
+inline void Press(std::initializer_list<WORD> keys) {
+  const auto send = [](WORD key, DWORD flags) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+  };
+  for (const WORD key : keys) send(key, 0);
+  for (auto key = keys.end(); key != keys.begin();) send(*--key, KEYEVENTF_KEYUP);
+}
+
+/// The visible window of this thread with that title; null for none.
+inline HWND WindowTitled(const std::u16string& title) {
+  struct Search {
+    static BOOL CALLBACK Look(HWND window, LPARAM l) {
+      auto& wanted = *reinterpret_cast<Search*>(l);
+      if (IsWindowVisible(window) && TextOf(window) == wanted.title) wanted.found = window;
+      return wanted.found == nullptr;
+    }
+    const std::u16string& title;
+    HWND found = nullptr;
+  } search{title};
+  EnumThreadWindows(GetCurrentThreadId(), &Search::Look, reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+/// Calls `act` again and again, in whatever loop runs, until it says that it is done.
+class Meanwhile {
+ public:
+  explicit Meanwhile(std::function<bool()> act) : act_(std::move(act)) {
+    current = this;
+    timer_ = SetTimer(nullptr, 0, 10, &Tick);
+  }
+  ~Meanwhile() { Stop(); }
+  Meanwhile(const Meanwhile&) = delete;
+  Meanwhile& operator=(const Meanwhile&) = delete;
+
+  bool IsDone() const { return timer_ == 0; }
+
+ private:
+  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
+    if (current && current->act_() && current) current->Stop();
+  }
+  void Stop() {
+    if (timer_) KillTimer(nullptr, timer_);
+    timer_ = 0;
+    current = nullptr;
+  }
+
+  inline static Meanwhile* current = nullptr;
+  std::function<bool()> act_;
+  UINT_PTR timer_ = 0;
+};
+
+/// Clicks a button of the box with that title once it is there.
+inline std::function<bool()> Answers(const std::u16string& title, int button) {
+  return [=] {
+    const HWND box = WindowTitled(title);
+    const HWND shown = box ? GetDlgItem(box, button) : nullptr;
+    if (shown) PostMessageW(shown, BM_CLICK, 0, 0);
+    return shown != nullptr;
+  };
+}
+
+}  // namespace lumenote
