@@ -4,8 +4,8 @@
 #include <commctrl.h>
 
 #include "backends/win32/toolkit/VisualStyles.h"
-#include "backends/win32/windows/FontDialog.h"
-#include "backends/win32/windows/MessageBoxes.h"
+#include "backends/win32/windows/boxes/FontDialog.h"
+#include "backends/win32/windows/boxes/MessageBoxes.h"
 #include "forms/controls/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 

@@ -1,15 +1,15 @@
 // Maps each kind of control to its peer: one line here per kind, and a class of its own.
 
-#include "backends/win32/peers/ButtonPeer.h"
-#include "backends/win32/peers/ComboBoxPeer.h"
-#include "backends/win32/peers/FramePeer.h"
-#include "backends/win32/peers/LabelPeer.h"
-#include "backends/win32/peers/PictureBoxPeer.h"
-#include "backends/win32/peers/RichTextPeer.h"
-#include "backends/win32/peers/ScrollBarPeer.h"
-#include "backends/win32/peers/StatusBarPeer.h"
-#include "backends/win32/peers/TextBoxPeer.h"
-#include "backends/win32/peers/UpDownPeer.h"
+#include "backends/win32/peers/buttons/ButtonPeer.h"
+#include "backends/win32/peers/buttons/ScrollBarPeer.h"
+#include "backends/win32/peers/buttons/UpDownPeer.h"
+#include "backends/win32/peers/edits/ComboBoxPeer.h"
+#include "backends/win32/peers/edits/RichTextPeer.h"
+#include "backends/win32/peers/edits/TextBoxPeer.h"
+#include "backends/win32/peers/labels/FramePeer.h"
+#include "backends/win32/peers/labels/LabelPeer.h"
+#include "backends/win32/peers/labels/PictureBoxPeer.h"
+#include "backends/win32/peers/labels/StatusBarPeer.h"
 #include "forms/controls/PeerTable.h"
 
 namespace lumenote {

@@ -2,7 +2,7 @@
 
 #include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/NativeText.h"
-#include "backends/win32/windows/KeyNavigation.h"
+#include "backends/win32/windows/keys/KeyNavigation.h"
 #include "base/ScopedFlag.h"
 #include "forms/Button.h"
 

@@ -3,12 +3,12 @@
 #include <memory>
 #include <unordered_map>
 
-#include "backends/win32/peers/ControlPeer.h"
+#include "backends/win32/peers/base/ControlPeer.h"
 #include "backends/win32/toolkit/WindowRegistry.h"
 #include "backends/win32/windows/ContentWindow.h"
-#include "backends/win32/windows/FormMenus.h"
 #include "backends/win32/windows/ModalLock.h"
 #include "backends/win32/windows/WindowGeometry.h"
+#include "backends/win32/windows/menus/FormMenus.h"
 #include "forms/Form.h"
 
 namespace lumenote {

@@ -1,0 +1,27 @@
+// The peer of scroll bars.
+#pragma once
+#include "backends/win32/peers/base/ControlPeer.h"
+#include "forms/controls/ScrollBar.h"
+
+namespace lumenote {
+
+class ScrollBarPeer final : public ControlPeer {
+ public:
+  ScrollBarPeer(ScrollBar& bar, HWND parent, PeerHost& host);
+
+  void Update(Property property) override;
+  void Compare(DifferenceList& differences) const override;
+
+ protected:
+  std::optional<LRESULT> HearNotice(const Message& message) override;
+  bool Wants(const KeyStroke& key) const override;
+
+ private:
+  /// What the bar shows; `nTrackPos` is where it is dragged to.
+  SCROLLINFO Shown() const;
+  int Wanted(int action) const;
+
+  ScrollBar& bar_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,23 @@
+// The peer of spinners.
+#pragma once
+#include "backends/win32/peers/base/ControlPeer.h"
+#include "forms/controls/UpDown.h"
+
+namespace lumenote {
+
+class UpDownPeer final : public ControlPeer {
+ public:
+  UpDownPeer(UpDown& spinner, HWND parent, PeerHost& host);
+
+ protected:
+  std::optional<LRESULT> Hear(const Message& message) override;
+  std::optional<LRESULT> HearNotice(const Message& message) override;
+  bool Wants(const KeyStroke& key) const override {
+    return key.name == KeyName::Up || key.name == KeyName::Down;
+  }
+
+ private:
+  UpDown& spinner_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,55 @@
+#include "backends/win32/peers/labels/FramePeer.h"
+
+#include "backends/win32/toolkit/Colours.h"
+#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/NativeText.h"
+
+namespace lumenote {
+namespace {
+
+constexpr int kTitleLeft = 8;
+constexpr int kTitleGap = 3;
+
+/// The line of the border is covered where the title stands.
+void PaintBorder(HDC dc, const RECT& area, const RECT& title) {
+  const int saved = SaveDC(dc);
+  if (title.right > title.left)
+    ExcludeClipRect(dc, title.left - kTitleGap, title.top, title.right + kTitleGap, title.bottom);
+  const RECT border = {area.left, title.bottom / 2, area.right, area.bottom};
+  const GdiObject<HBRUSH> line(CreateSolidBrush(LineOn(GetBkColor(dc), GetTextColor(dc))));
+  FrameRect(dc, &border, line.Get());
+  RestoreDC(dc, saved);
+}
+
+}  // namespace
+
+FrameWindow::FrameWindow(HWND parent)
+    : PaintedWindow(
+          parent, WindowKind{OwnClass(L"LumenoteFrame"),
+                             WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT}) {}
+
+void FrameWindow::Paint(HDC dc, const RECT& area) {
+  const SelectScope font(dc, Font());
+  const std::u16string caption = Caption();
+  PaintGround(dc);
+  RECT title = {kTitleLeft, 0, kTitleLeft, 0};
+  if (!caption.empty()) DrawTextW(dc, Wide(caption), -1, &title, DT_CALCRECT | DT_SINGLELINE);
+  PaintBorder(dc, area, title);
+  SetBkMode(dc, TRANSPARENT);
+  DrawTextW(dc, Wide(caption), -1, &title, DT_SINGLELINE);
+}
+
+FramePeer::FramePeer(Frame& frame, HWND parent, PeerHost& host)
+    : ControlPeer(frame, std::make_shared<FrameWindow>(parent), host), frame_(frame) {}
+
+void FramePeer::Update(Property property) {
+  ControlPeer::Update(property);
+  if (property == Property::Caption) SetWindowTextW(Handle(), Wide(frame_.Caption()));
+}
+
+void FramePeer::Compare(DifferenceList& differences) const {
+  ControlPeer::Compare(differences);
+  differences.Check(frame_, "Caption", TextOf(Handle()) == frame_.Caption());
+}
+
+}  // namespace lumenote

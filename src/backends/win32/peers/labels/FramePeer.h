@@ -1,0 +1,29 @@
+// The peer of frames.
+#pragma once
+#include "backends/win32/peers/base/ControlPeer.h"
+#include "backends/win32/toolkit/PaintedWindow.h"
+#include "forms/controls/Frame.h"
+
+namespace lumenote {
+
+/// A border with the title in its top edge, on the ground of what is behind.
+class FrameWindow final : public PaintedWindow {
+ public:
+  explicit FrameWindow(HWND parent);
+
+ protected:
+  void Paint(HDC dc, const RECT& area) override;
+};
+
+class FramePeer final : public ControlPeer {
+ public:
+  FramePeer(Frame& frame, HWND parent, PeerHost& host);
+
+  void Update(Property property) override;
+  void Compare(DifferenceList& differences) const override;
+
+ private:
+  Frame& frame_;
+};
+
+}  // namespace lumenote

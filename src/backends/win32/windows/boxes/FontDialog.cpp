@@ -1,0 +1,83 @@
+#include "backends/win32/windows/boxes/FontDialog.h"
+
+#include <commdlg.h>
+#undef ChooseFont
+
+#include <algorithm>
+
+#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/toolkit/VisualStyles.h"
+#include "backends/win32/windows/ModalLock.h"
+
+namespace lumenote {
+namespace {
+
+constexpr float kUsualSize = 10;  // points
+constexpr int kTenths = 10;       // in which the dialog gives sizes
+constexpr int kPointsPerInch = 72;
+
+LOGFONTW FontOf(const FontChoice& shown, int dpi) {
+  LOGFONTW font = {};
+  const std::u16string name = shown.name.value_or(u"");
+  const std::size_t length = std::min(name.size(), std::size_t{LF_FACESIZE} - 1);
+  std::copy_n(name.begin(), length, font.lfFaceName);
+  font.lfHeight = -static_cast<LONG>(shown.size.value_or(kUsualSize) * static_cast<float>(dpi) /
+                                     kPointsPerInch);
+  font.lfWeight = shown.bold.value_or(false) ? FW_BOLD : FW_NORMAL;
+  font.lfItalic = shown.italic.value_or(false);
+  font.lfUnderline = shown.underline.value_or(false);
+  font.lfStrikeOut = shown.strike.value_or(false);
+  font.lfCharSet = DEFAULT_CHARSET;
+  return font;
+}
+
+/// What is mixed in the selection is shown as not chosen.
+DWORD FlagsOf(const FontChoice& shown) {
+  DWORD flags = CF_SCREENFONTS | CF_EFFECTS | CF_INITTOLOGFONTSTRUCT | CF_NOSCRIPTSEL;
+  if (!shown.name) flags |= CF_NOFACESEL;
+  if (!shown.size) flags |= CF_NOSIZESEL;
+  if (!shown.bold || !shown.italic) flags |= CF_NOSTYLESEL;
+  return flags;
+}
+
+/// What of an attribute the user has changed.
+template <class T>
+std::optional<T> Changed(const T& before, const T& after) {
+  return before == after ? std::optional<T>() : after;
+}
+
+FontChoice Changes(const LOGFONTW& before, const LOGFONTW& after) {
+  FontChoice choice;
+  choice.name =
+      Changed(std::u16string(Utf16(before.lfFaceName)), std::u16string(Utf16(after.lfFaceName)));
+  choice.bold = Changed(before.lfWeight >= FW_BOLD, after.lfWeight >= FW_BOLD);
+  choice.italic = Changed(before.lfItalic != 0, after.lfItalic != 0);
+  choice.underline = Changed(before.lfUnderline != 0, after.lfUnderline != 0);
+  choice.strike = Changed(before.lfStrikeOut != 0, after.lfStrikeOut != 0);
+  return choice;
+}
+
+}  // namespace
+
+std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, HWND over) {
+  const int dpi = GetDeviceCaps(DcScope(nullptr).Get(), LOGPIXELSY);
+  const LOGFONTW before = FontOf(shown, dpi);
+  LOGFONTW after = before;
+  CHOOSEFONTW dialog = {};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = over;
+  dialog.lpLogFont = &after;
+  dialog.Flags = FlagsOf(shown);
+  dialog.rgbColors = static_cast<COLORREF>(shown.colour.value_or(0));
+  const ModalLock others(over);
+  const VisualStyles styles;
+  if (!ChooseFontW(&dialog)) return std::nullopt;
+  FontChoice choice = Changes(before, after);
+  choice.size =
+      Changed(shown.size.value_or(kUsualSize), static_cast<float>(dialog.iPointSize) / kTenths);
+  choice.colour = Changed(shown.colour.value_or(0), static_cast<std::int32_t>(dialog.rgbColors));
+  return choice;
+}
+
+}  // namespace lumenote
