@@ -133,7 +133,7 @@ TEST(RoundTrip, ReachesAFixedPointFromWhatNoSourceSays) {
   const auto paragraph = [&](ParaFormat format) {
     builder.AppendBreak(0, tables.paragraphs.Intern(format));
   };
-  paragraph({.lineSpacing = 20, .lineRule = LineRule::Multiple});
+  paragraph({.lineSpacing = kLine, .lineRule = LineRule::Multiple});
   paragraph({.lineSpacing = 77, .lineRule = LineRule::Single});
   paragraph({.lineSpacing = -5, .lineRule = LineRule::Exact});
   paragraph({.firstIndent = 2'000'000'000, .hangingIndent = 2'000'000'000});

@@ -94,6 +94,9 @@ struct CharFormat {
 };
 static_assert(std::has_unique_object_representations_v<CharFormat>);
 
+/// A line's height under LineRule::Multiple.
+inline constexpr std::int32_t kLine = 240;
+
 enum class Alignment : std::uint8_t { Left = 0, Right = 1, Centre = 2, Justify = 3 };
 
 /// All attributes of a paragraph; lengths are twips. Plain data like `CharFormat`.
@@ -103,7 +106,7 @@ struct ParaFormat {
   std::int32_t rightIndent = 0;
   std::int32_t spaceBefore = 0;
   std::int32_t spaceAfter = 0;
-  std::int32_t lineSpacing = 0;  // twips; twentieths of a line under LineRule::Multiple
+  std::int32_t lineSpacing = 0;  // twips; under LineRule::Multiple, in units of `kLine`
   TabsId tabs = 0;
   LineRule lineRule = LineRule::Single;
   Alignment alignment = Alignment::Left;

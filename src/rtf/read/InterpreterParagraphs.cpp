@@ -12,26 +12,26 @@ constexpr std::size_t kMaxTabs = 64;
 
 int Clipped(int length) { return std::clamp(length, -kMaxLength, kMaxLength); }
 
-void SetMultiple(int twentieths, ParaFormat& format) {
-  switch (twentieths) {
-    case 20:
+void SetMultiple(int spacing, ParaFormat& format) {
+  switch (spacing) {
+    case kLine:
       return;
-    case 30:
+    case kLine * 3 / 2:
       format.lineRule = LineRule::OneAndHalf;
       return;
-    case 40:
+    case kLine * 2:
       format.lineRule = LineRule::Double;
       return;
     default:
       format.lineRule = LineRule::Multiple;
-      format.lineSpacing = std::max(twentieths, 1);
+      format.lineSpacing = spacing;
   }
 }
 
 void SetLineSpacing(int spacing, bool multiple, ParaFormat& format) {
   if (spacing == 0) return;
   const int size = std::abs(spacing);
-  if (multiple) return SetMultiple((size + kUnitsOfTwentieth / 2) / kUnitsOfTwentieth, format);
+  if (multiple) return SetMultiple(size, format);
   format.lineRule = spacing > 0 ? LineRule::AtLeast : LineRule::Exact;
   format.lineSpacing = size;
 }

@@ -8,7 +8,6 @@
 namespace lumenote {
 
 inline constexpr int kMaxLength = 1'000'000;  // twips; far beyond any paper size
-inline constexpr int kUnitsOfTwentieth = 12;  // \sl counts 240 units per line, the format 20
 
 /// A length that the format stores as RTF writes it, in twips: a row here makes it read and
 /// written.

@@ -31,15 +31,15 @@ LineWords WordsOf(LineRule rule, int spacing) {
   const int size = std::clamp(spacing, 0, kMaxLength);
   switch (rule) {
     case LineRule::OneAndHalf:
-      return {360, true};
+      return {kLine * 3 / 2, true};
     case LineRule::Double:
-      return {480, true};
+      return {kLine * 2, true};
     case LineRule::AtLeast:
       return {size, false};
     case LineRule::Exact:
       return {-size, false};
     case LineRule::Multiple:
-      return {std::min(size, kMaxLength / kUnitsOfTwentieth) * kUnitsOfTwentieth, true};
+      return {size, true};
     default:
       return {};
   }
@@ -77,7 +77,7 @@ class ParagraphWriter {
     if (twips != 0 || whole_) Number(name, twips);
   }
   void LineSpacing(LineWords line) {
-    const bool single = line.spacing == 0 || (line.multiple && line.spacing == 240);
+    const bool single = line.spacing == 0 || (line.multiple && line.spacing == kLine);
     if (single && whole_) return void(words_ += "\\sl240\\slmult1");
     if (single) return;
     Number("sl", line.spacing);

@@ -1,9 +1,32 @@
 #include "surface/editing/ParagraphFormats.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "base/RuntimeError.h"
 #include "document/KeptEdits.h"
 
 namespace lumenote {
+
+namespace {
+
+constexpr int kTwentieth = kLine / 20;
+
+/// The line spacing in the record's units.
+std::int32_t RecordedSpacing(const ParaFormat& format) {
+  if (format.lineRule != LineRule::Multiple) return format.lineSpacing;
+  return static_cast<std::int32_t>(std::lround(1.0 * format.lineSpacing / kTwentieth));
+}
+
+void SetRecordedSpacing(ParaFormat& format, LineRule rule, std::int32_t spacing) {
+  constexpr std::int32_t kMax = std::numeric_limits<std::int32_t>::max() / kTwentieth;
+  const bool multiple = rule == LineRule::Multiple;
+  format.lineRule = rule;
+  format.lineSpacing = multiple ? std::clamp(spacing, -kMax, kMax) * kTwentieth : spacing;
+}
+
+}  // namespace
 
 // Number of the last paragraph that the selection touches.
 Position ParagraphFormats::LastTouched() const {
@@ -89,7 +112,7 @@ ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
   record.mask = mask;
   if (mask & ParagraphRecord::kLineSpacing) {
     record.lineSpacingRule = format.lineRule;
-    record.lineSpacing = format.lineSpacing;
+    record.lineSpacing = RecordedSpacing(format);
   }
   if (mask & ParagraphRecord::kSpaceBefore) record.spaceBefore = format.spaceBefore;
   if (mask & ParagraphRecord::kSpaceAfter) record.spaceAfter = format.spaceAfter;
@@ -98,10 +121,8 @@ ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
 
 void ParagraphFormats::Record(const ParagraphRecord& record) {
   Apply(UndoKind::Unknown, [&](ParaFormat& format) {
-    if (record.mask & ParagraphRecord::kLineSpacing) {
-      format.lineRule = record.lineSpacingRule;
-      format.lineSpacing = record.lineSpacing;
-    }
+    if (record.mask & ParagraphRecord::kLineSpacing)
+      SetRecordedSpacing(format, record.lineSpacingRule, record.lineSpacing);
     if (record.mask & ParagraphRecord::kSpaceBefore) format.spaceBefore = record.spaceBefore;
     if (record.mask & ParagraphRecord::kSpaceAfter) format.spaceAfter = record.spaceAfter;
   });
