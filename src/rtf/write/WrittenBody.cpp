@@ -25,7 +25,7 @@ void WrittenBody::BeginParagraph() {
 }
 
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
-  const Known wanted{&Words(id), Nesting(id), tables_.paragraphs[id].bullet != 0};
+  const Known wanted{&Words(id), Nesting(), tables_.paragraphs[id].bullet != 0};
   const bool sameWords =
       wanted.words == known_.words || (known_.words && *wanted.words == *known_.words);
   const bool changed =
@@ -86,10 +86,10 @@ int WrittenBody::RowDepth() const {
   return HasFormat() ? paragraphs_.rowDepths[index_] : WrittenParagraphs::kNoRow;
 }
 
-/// The table nesting to write for the current paragraph, of format `paragraph`.
-int WrittenBody::Nesting(ParaId paragraph) const {
-  const int row = std::max(RowDepth(), 0);
-  return row > 1 ? row : std::min<int>(tables_.paragraphs[paragraph].nesting, row);
+/// The table nesting to write for the current paragraph. Readers drop cells that are not in a
+/// table, even if their source did not say so.
+int WrittenBody::Nesting() const {
+  return RowDepth() == WrittenParagraphs::kNoRow ? 0 : std::max(RowDepth(), 1);
 }
 
 /// The format of the current cell, or of the paragraph.

@@ -56,7 +56,7 @@ class WrittenBody {
   bool InRow() const { return Cell() && Cell()->whole; }
   /// Nesting of the complete row being written.
   int RowDepth() const;
-  int Nesting(ParaId paragraph) const;
+  int Nesting() const;
   /// Whether there is a current paragraph; there is none after the last break.
   bool HasFormat() const { return index_ < paragraphs_.formats.size(); }
   ParaId Governing() const;
