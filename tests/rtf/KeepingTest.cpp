@@ -30,22 +30,16 @@ TEST(Keeping, WritesWhatItRead) {
 // "~" is how a source usually begins.
 TEST(Keeping, WritesTheHeadItReadOrOneOfWhatIsInUse) {
   const auto whole = [](const std::string& rtf) {
-    return Replaced(Rewritten(rtf), "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1036", "~");
+    return Replaced(Rewritten(rtf), "{\\rtf1\\ansi\\ansicpg1252", "~");
   };
   CheckRows(DataFile("heads.rows"), whole, "{\\rtf1 ", "}");
 }
 
-TEST(Keeping, TheBaseFormatHoldsWhereNoDefaultFontIsNamed) {
-  const auto body = [](std::string_view rtf) {
-    return Body(WriteRtf(Read(rtf, RtfTarget::Document, {.size = 20})));
-  };
-  EXPECT_EQ(body(R"({\rtf1 a\plain b})"), "\\f0\\fs20 a\\fs24 b\\par }");
-  EXPECT_EQ(body(R"({\rtf1\deff0 a})"), "\\f0\\fs24 a\\par }");
-  EXPECT_EQ(
-      body("{\\rtf1{\\pict\\bin4 \xE9}{\\\xE8}}"),
-      "\\fi0\\li0\\ri0\\sb0\\sa0\\sl240\\slmult1\\ql\\f0\\fs20{\\pict\r\ne97d7b5c\\'e8}\\par }");
-  EXPECT_EQ(body("{\\rtf1{\\object{\\result x"), "\\f0\\fs20{\\object{\\result x}}\\par }");
-  EXPECT_EQ(body("{\\rtf1{\\object a\\'e"), "\\f0\\fs20{\\object a}\\par }");
+TEST(Keeping, DamagedGroupsAreClosed) {
+  const auto body = [](std::string_view rtf) { return Body(WriteRtf(Read(rtf))); };
+  EXPECT_EQ(body("{\\rtf1{\\pict\\bin4 \xE9}{\\\xE8}}"), "{\\pict\r\ne97d7b5c\\'e8}\\par }");
+  EXPECT_EQ(body("{\\rtf1{\\object{\\result x"), "{\\object{\\result x}}\\par }");
+  EXPECT_EQ(body("{\\rtf1{\\object a\\'e"), "{\\object a}\\par }");
 }
 
 TEST(Keeping, FieldsThatBeginANoteKeepItsText) {
@@ -95,9 +89,9 @@ TEST(Keeping, AFieldMeansTheSameWhereverAnEditPutsIt) {
 TEST(Keeping, ASelectionIsWrittenWithoutAFinalParagraph) {
   const Document document = Read(R"({\rtf1 ab\par\qc\b cd\b0\par})");
   const auto body = [&](Position from, Position to) { return Body(WriteRtf(document, from, to)); };
-  EXPECT_EQ(body(1, 5), "\\f0\\fs24 b\\par\r\n\\pard\\qc\\b c}");
-  EXPECT_EQ(body(0, 4), "\\f0\\fs24 ab\\par\r\n}");
-  EXPECT_EQ(body(4, 5), "\\qc\\b\\f0\\fs24 c}");
+  EXPECT_EQ(body(1, 5), " b\\par\r\n\\pard\\qc\\b c}");
+  EXPECT_EQ(body(0, 4), " ab\\par\r\n}");
+  EXPECT_EQ(body(4, 5), "\\qc\\b c}");
   EXPECT_EQ(body(1, 1), "}");
 }
 
@@ -142,7 +136,7 @@ TEST(Keeping, WhatAnEditLeavesOfANumberIsText) {
 TEST(Keeping, LongSourcesComeInTheirTurn) {
   std::string items;
   for (int i = 0; i < 600; ++i) items += "{\\*\\bkmkstart k}{\\*\\x}";
-  EXPECT_EQ(Body(Rewritten("{\\rtf1 a" + items + "b}")), "\\f0\\fs24 a" + items + "b\\par }");
+  EXPECT_EQ(Body(Rewritten("{\\rtf1 a" + items + "b}")), " a" + items + "b\\par }");
   const std::string picture = "{\\pict\\wmetafile8 " + std::string(200'000, '0') + "}";
   EXPECT_EQ(LossOf(Read("{\\rtf1{\\info{\\title " + std::string(100'000, 't') + "}}a" + picture +
                         "b" + picture + picture + "c\\par d" + picture + "}")),

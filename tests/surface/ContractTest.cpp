@@ -137,6 +137,31 @@ TEST_F(SurfaceContract, JustifiedReadsAsLeftUntilAnAlignmentIsSet) {
   EXPECT_EQ(s.TextRTF().find(u"\\qj"), std::u16string::npos);
 }
 
+// An edit states what it sets, even if it looks the same.
+TEST_F(SurfaceContract, WhatNobodyStatesIsShownAndStaysUnsaid) {
+  const auto saved = [&] {
+    const std::u16string rtf = s.TextRTF();
+    return rtf.substr(rtf.find(u"\\pard") + 5);
+  };
+  for (const auto& [source, font, points, body] : Rows16<4>(R"(
+\b ab => Arial => 10 => \b ab ¦ \fs24\li0 ab => Arial => 12 => \li0\fs24 ab
+\deff1{\fonttbl{\f1 Courier;}}\plain\qc ab => Courier => 10 => \qc ab
+{\fonttbl{\f0 Courier;}}\f0\cf0 ab => Courier => 10 => \cf0\f0 ab
+)",
+                                                            " => ")) {
+    s.TextRTF(u"{\\rtf1" + source + u"\\par}");
+    EXPECT_EQ(s.SelFontName(), font);
+    EXPECT_EQ(s.SelFontSize(), std::stof(ToUtf8(points)));
+    EXPECT_EQ(saved(), body + u"\\par }\r\n");
+  }
+  s.TextRTF(u"{\\rtf1 ab\\par}");
+  Select(u"^a|b");
+  s.SelFontName(*s.SelFontName());
+  EXPECT_EQ(saved(), u"\\f1 a{}\\plain b\\par }\r\n");
+  s.SelFontSize(*s.SelFontSize());
+  EXPECT_EQ(saved(), u"\\f1\\fs20 a{}\\plain b\\par }\r\n");
+}
+
 TEST_F(SurfaceContract, LineSpacing) {
   Put(u"^ab¶cd|");
   for (const int value : {20, 1, 100, 101}) {
@@ -236,7 +261,7 @@ class Kept : public SurfaceContract {
 TEST_F(Kept, BeginningsStayWhenTheTextBehindThemGoesAndCutNoRunOfUndo) {
   for (const auto& [note, selected, keys, left] : Rows16<4>(R"(
 note | 3 4 | Delete | \sectd\cols2 c\par ¦ note | 3 5 | Delete | \sectd\cols2\par
-note | 3 7 | Delete | \sectd\cols2\page{\*\bkmkstart k}d ¦ note | 1 4 | Delete | fs20 ac\par
+note | 3 7 | Delete | \sectd\cols2\page{\*\bkmkstart k}d ¦ note | 1 4 | Delete | pard ac\par
 note | 3 5 | x y | \sectd\cols2 xy\par ¦ note | 7 8 | Delete | \page{\*\bkmkend k}{\pict 01}\par }
 note | 7 9 | Delete | \page\par } ¦ note | 4 5 | Delete | b\par
 note | 3 3 | Delete Delete Delete | \cols2\page{\*\bkmkstart k}d

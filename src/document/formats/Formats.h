@@ -74,6 +74,11 @@ enum CharEffect : std::uint16_t {
 using Colour = std::uint32_t;
 inline constexpr Colour kAutoColour = 0xFF000000;
 
+/// The attributes of a run that its source or an edit states. A font or size that nobody states is
+/// the note's default one, to be shown, and is not written. A colour that is not automatic is
+/// written anyway.
+enum CharStated : std::uint8_t { kStatesFont = 1, kStatesSize = 2, kStatesColour = 4 };
+
 /// All attributes of a run. Plain data without padding, so that it can be hashed and compared
 /// bytewise.
 struct CharFormat {
@@ -89,15 +94,29 @@ struct CharFormat {
   std::int16_t spacing = 0;    // twips between characters
   std::uint16_t scale = 100;   // per cent of the width
   Underline underline = Underline::None;
-  std::uint8_t reserved[3] = {};
+  std::uint8_t stated = kStatesFont | kStatesSize;  // CharStated
+  std::uint8_t reserved[2] = {};
   bool operator==(const CharFormat&) const = default;
 };
 static_assert(std::has_unique_object_representations_v<CharFormat>);
 
 /// A line's height under LineRule::Multiple.
-inline constexpr std::int32_t kLine = 240;
+inline constexpr std::int32_t kSingleLine = 240;
 
 enum class Alignment : std::uint8_t { Left = 0, Right = 1, Centre = 2, Justify = 3 };
+
+/// The attributes of a paragraph that its source states. Values other than the default ones are
+/// written anyway; those that nobody stated may come from a list or a style in other programs.
+enum ParaStated : std::uint16_t {
+  kStatesLeftIndent = 1,
+  kStatesFirstIndent = 2,
+  kStatesRightIndent = 4,
+  kStatesSpaceBefore = 8,
+  kStatesSpaceAfter = 16,
+  kStatesLineSpacing = 32,
+  kStatesAlignment = 64,
+  kStatesDirection = 128
+};
 
 /// All attributes of a paragraph; lengths are twips. Plain data like `CharFormat`.
 struct ParaFormat {
@@ -106,7 +125,7 @@ struct ParaFormat {
   std::int32_t rightIndent = 0;
   std::int32_t spaceBefore = 0;
   std::int32_t spaceAfter = 0;
-  std::int32_t lineSpacing = 0;  // twips; under LineRule::Multiple, in units of `kLine`
+  std::int32_t lineSpacing = 0;  // twips; under LineRule::Multiple, in units of `kSingleLine`
   TabsId tabs = 0;
   LineRule lineRule = LineRule::Single;
   Alignment alignment = Alignment::Left;
@@ -116,6 +135,8 @@ struct ParaFormat {
   std::uint16_t list = 0;    // RTF \ls, counted from 1; 0 none
   std::uint8_t level = 0;    // in that list
   std::uint8_t nesting = 0;  // of the enclosing table, 0 none
+  std::uint16_t stated = 0;  // ParaStated
+  std::uint16_t reserved = 0;
   bool operator==(const ParaFormat&) const = default;
 };
 static_assert(std::has_unique_object_representations_v<ParaFormat>);

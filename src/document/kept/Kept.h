@@ -76,13 +76,14 @@ struct KeptField {
   bool operator==(const KeptField&) const = default;
 };
 
-/// The source's head and tail. Kept content names fonts and colours by number, so both tables keep
-/// their entries; new ones are appended. A font's entry says more than `Font`, hence `fontTable`.
+/// The source's head and tail. Fonts keep their numbers, since readers differ in which one text
+/// has that states none. If kept content names fonts and colours by number, both tables keep all
+/// their entries, and a font's entry says more than `Font`, hence `fontTable`.
 struct KeptHead {
   struct Font {
     int number = 0;
     FontId font = 0;
-    int page = 0;  // code page of its bytes; 0: the document's
+    int page = 0;  // code page of its bytes; 0: that of its charset, else the document's
     bool operator==(const Font&) const = default;
   };
   ItemId items = 0;               // without the font and colour tables
@@ -92,7 +93,7 @@ struct KeptHead {
   std::vector<Font> fonts{};      // by ascending number
   std::vector<Colour> colours{};  // by number
   int page = 1252;                // code page of bytes in fonts without their own
-  int defaultFont = 0;
+  int defaultFont = -1;           // one of `fonts`; -1: none
   bool operator==(const KeptHead&) const = default;
 };
 

@@ -30,7 +30,7 @@ class HtmlInterpreter {
   struct Open {
     const HtmlElement* element = nullptr;
     LookChange change;
-    Look around;     // before the change
+    Look around{};   // before the change
     int margin = 0;  // twips above and below, unless stated
     int begun = 0;   // paragraphs begun before
     // Of a list.

@@ -18,12 +18,11 @@ Number Clipped(int value) {
 }
 
 void SetLines(const LookChange::LineSpacing& lines, Look& look) {
-  constexpr double kTwentieths = 20;
   look.paragraph.lineRule = lines.rule;
   look.paragraph.lineSpacing = 0;
   if (lines.rule == LineRule::Multiple) {
-    const double twentieths = std::round(lines.length.value * kTwentieths);
-    look.paragraph.lineSpacing = static_cast<std::int32_t>(std::clamp(twentieths, 1.0, kLongest));
+    const double spacing = std::round(lines.length.value * kSingleLine);
+    look.paragraph.lineSpacing = static_cast<std::int32_t>(std::clamp(spacing, 1.0, kLongest));
   } else if (lines.rule >= LineRule::AtLeast) {
     look.paragraph.lineSpacing = lines.length.Twips(look.character);
   }

@@ -96,7 +96,7 @@ void AddTag(std::string_view name, std::string_view attributes, HtmlTags& tags) 
 }
 
 void DeclareLines(const ParaFormat& format, std::string& style) {
-  constexpr std::int64_t kHundredths = 5;  // of a line, in a twentieth
+  constexpr std::int64_t kHundredths = 100 * 100;  // of a per cent, in a line
   switch (format.lineRule) {
     case LineRule::Single:
       return;
@@ -105,7 +105,8 @@ void DeclareLines(const ParaFormat& format, std::string& style) {
     case LineRule::Double:
       return Declare("line-height", "2", style);
     case LineRule::Multiple:
-      return Declare("line-height", Decimal(format.lineSpacing * kHundredths), style);
+      return Declare("line-height", Decimal(format.lineSpacing * kHundredths / kSingleLine) + "%",
+                     style);
     default:
       DeclareLength("line-height", format.lineSpacing, style);
       Declare("mso-line-height-rule", format.lineRule == LineRule::Exact ? "exactly" : "at-least",

@@ -54,7 +54,8 @@ Interpreter::Interpreter(std::string_view source, RtfTarget target, FormatTables
       default_(base),
       tabsLeft_(source.size() / kBytesOfTab + kLeastTabs),
       words_(formats, source.size()) {
-  State().character = base;
+  default_.stated = 0;
+  State().character = default_;
   groups_.resize(groups_.size() + opened, groups_.front());
 }
 

@@ -69,7 +69,6 @@ class Interpreter {
   // The document.
   void DocumentPage(int value, const Token& word);
   void DefaultFont(int value, const Token& word);
-  void DefaultLanguage(int value, const Token& word);
   void Fallback(int value, const Token& word);
 
   // Characters.
@@ -154,7 +153,9 @@ class Interpreter {
   /// The enclosing group's state, for groups that affect what follows them.
   GroupState& Outer() { return groups_.size() > 1 ? groups_[groups_.size() - 2] : groups_.back(); }
   CharFormat& EditCharacter();
+  CharFormat& StatedCharacter(CharStated attribute);
   ParagraphState& EditParagraph();
+  ParaFormat& StatedFormat(ParaStated attribute);
   CharId CharacterNumber();
   ParaId ParagraphNumber();
   ParaId NumberOf(const ParagraphState& paragraph);
@@ -174,7 +175,7 @@ class Interpreter {
   FontTable fonts_;
   ColourTable colours_;
   ListTable lists_;
-  CharFormat default_;    // result of \plain, except for the size
+  CharFormat default_;    // result of \plain
   int defaultFont_ = -1;  // \deff
   int documentPage_ = kPageOfWindows;
 

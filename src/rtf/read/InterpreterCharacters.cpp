@@ -8,9 +8,8 @@
 namespace lumenote {
 namespace {
 
-constexpr std::uint16_t kStandardSize = 24;  // half-points, RTF's default
-constexpr int kOwnLanguage = 1036;           // the meaning of language number 0
-constexpr int kStandardRaise = 6;            // half-points: \up and \dn without a number
+constexpr int kStandardSize = 24;  // half-points: \fs without a number
+constexpr int kStandardRaise = 6;  // half-points: \up and \dn without a number
 
 bool On(const Token& word) { return !word.hasNumber || word.number != 0; }
 
@@ -29,24 +28,19 @@ void Interpreter::DocumentPage(int value, const Token& word) {
 
 void Interpreter::DefaultFont(int, const Token& word) {
   defaultFont_ = word.number;
-  default_.size = kStandardSize;
-  EditCharacter().size = kStandardSize;
   UseDefaultFont(State());
 }
 
+/// A selection goes to a note with another default font, so all its text states its own.
 void Interpreter::UseDefaultFont(GroupState& state) {
-  const SourceFont* font = defaultFont_ < 0 ? nullptr : fonts_.Find(defaultFont_);
+  const SourceFont* font = fonts_.Find(defaultFont_);
   if (!font) return;
   default_.font = font->font;
-  state.character.font = font->font;
+  if (target_ == RtfTarget::Selection) default_.stated |= kStatesFont;
+  state.character.font = default_.font;
+  state.character.stated |= default_.stated;
   state.characterKnown = false;
   state.page = CodePage(font->page ? font->page : documentPage_);
-}
-
-void Interpreter::DefaultLanguage(int, const Token& word) {
-  default_.language =
-      word.number == kOwnLanguage ? std::uint16_t{0} : Clipped<std::uint16_t>(word.number);
-  EditCharacter().language = default_.language;
 }
 
 void Interpreter::Fallback(int, const Token& word) {
@@ -55,23 +49,28 @@ void Interpreter::Fallback(int, const Token& word) {
 
 void Interpreter::Plain(int, const Token&) {
   BeginBody();
-  CharFormat& plain = EditCharacter();
-  plain = default_;
-  plain.size = kStandardSize;
+  EditCharacter() = default_;
   const SourceFont* font = fonts_.Find(defaultFont_);
   State().page = CodePage(font && font->page ? font->page : documentPage_);
+}
+
+/// The character format, to change an attribute that the source states.
+CharFormat& Interpreter::StatedCharacter(CharStated attribute) {
+  CharFormat& format = EditCharacter();
+  format.stated |= attribute;
+  return format;
 }
 
 void Interpreter::Font(int, const Token& word) {
   const SourceFont* font = fonts_.Find(word.number);
   if (!font) return;
-  EditCharacter().font = font->font;
+  StatedCharacter(kStatesFont).font = font->font;
   State().page = CodePage(font->page ? font->page : documentPage_);
 }
 
 void Interpreter::Size(int, const Token& word) {
   const int size = word.hasNumber ? word.number : kStandardSize;
-  if (size > 0) EditCharacter().size = Clipped<std::uint16_t>(size);
+  if (size > 0) StatedCharacter(kStatesSize).size = Clipped<std::uint16_t>(size);
 }
 
 void Interpreter::Effect(int value, const Token& word) {
@@ -95,7 +94,8 @@ void Interpreter::Number(int row, const Token& word) {
   std::int64_t number = word.hasNumber ? word.number : attribute.get(CharFormat());
   if (attribute.kind != Kind::Number) number = colours_[word.number];
   if (attribute.kind == Kind::Background && word.number == 0) number = kAutoColour;
-  attribute.set(EditCharacter(), number);
+  const bool colour = attribute.kind == Kind::Colour;
+  attribute.set(colour ? StatedCharacter(kStatesColour) : EditCharacter(), number);
 }
 
 void Interpreter::Raise(int value, const Token& word) {

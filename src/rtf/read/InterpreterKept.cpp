@@ -190,15 +190,18 @@ bool Interpreter::NeedsPage() const {
 HeadId Interpreter::Head() {
   needsTables_ |= NeedsPage();
   if (needsTables_) {
-    for (const auto& [number, font] : fonts_.All())
-      head_.fonts.push_back({number, font.font, font.page});
-    std::ranges::sort(head_.fonts, {}, &KeptHead::Font::number);
     head_.colours = colours_.All();
     if (head_.fontTable.empty()) head_.page = documentPage_;
-    head_.defaultFont = std::max(defaultFont_, 0);
   } else {
     head_ = {};
   }
+  for (const auto& [number, font] : fonts_.All()) {
+    const int page =
+        needsTables_ ? font.page : CodePageOfCharset(formats_.fonts[font.font].charset);
+    head_.fonts.push_back({number, font.font, page});
+  }
+  std::ranges::sort(head_.fonts, {}, &KeptHead::Font::number);
+  if (fonts_.Find(defaultFont_)) head_.defaultFont = defaultFont_;
   head_.tables = needsTables_;
   head_.items = formats_.items.Chain(std::move(headItems_));
   head_.tail = formats_.items.Chain(items_.Take());

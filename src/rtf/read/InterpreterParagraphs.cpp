@@ -14,12 +14,12 @@ int Clipped(int length) { return std::clamp(length, -kMaxLength, kMaxLength); }
 
 void SetMultiple(int spacing, ParaFormat& format) {
   switch (spacing) {
-    case kLine:
+    case kSingleLine:
       return;
-    case kLine * 3 / 2:
+    case kSingleLine * 3 / 2:
       format.lineRule = LineRule::OneAndHalf;
       return;
-    case kLine * 2:
+    case kSingleLine * 2:
       format.lineRule = LineRule::Double;
       return;
     default:
@@ -68,24 +68,35 @@ void Interpreter::DefaultParagraph(int, const Token&) {
   EditParagraph() = {};
 }
 
+/// The paragraph's format, to change an attribute that the source states.
+ParaFormat& Interpreter::StatedFormat(ParaStated attribute) {
+  ParaFormat& format = EditParagraph().format;
+  format.stated |= attribute;
+  return format;
+}
+
 void Interpreter::Align(int value, const Token&) {
-  EditParagraph().format.alignment = static_cast<Alignment>(value);
+  StatedFormat(kStatesAlignment).alignment = static_cast<Alignment>(value);
 }
 
 void Interpreter::Length(int row, const Token& word) {
-  EditParagraph().format.*kLengthWords[row].length = Clipped(word.number);
+  const LengthWord& length = kLengthWords[row];
+  StatedFormat(length.stated).*length.length = Clipped(word.number);
 }
 
 void Interpreter::LeftIndent(int, const Token& word) {
-  EditParagraph().left = Clipped(word.number);
+  StatedFormat(kStatesLeftIndent);
+  State().paragraph.left = Clipped(word.number);
 }
 
 void Interpreter::FirstIndent(int, const Token& word) {
-  EditParagraph().first = Clipped(word.number);
+  StatedFormat(kStatesFirstIndent);
+  State().paragraph.first = Clipped(word.number);
 }
 
 void Interpreter::LineSpacing(int, const Token& word) {
-  EditParagraph().line = Clipped(word.number);
+  StatedFormat(kStatesLineSpacing);
+  State().paragraph.line = Clipped(word.number);
 }
 
 void Interpreter::MultipleLines(int, const Token& word) {
@@ -107,7 +118,7 @@ void Interpreter::TabLeaderIs(int value, const Token&) {
 }
 
 void Interpreter::RightToLeft(int value, const Token&) {
-  EditParagraph().format.rightToLeft = value != 0;
+  StatedFormat(kStatesDirection).rightToLeft = value != 0;
 }
 
 void Interpreter::InTable(int, const Token& word) {

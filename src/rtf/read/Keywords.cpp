@@ -28,7 +28,6 @@ constexpr Keyword kOwnWords[] = {
     {"pca", &I::DocumentPage, 850},
     {"ansicpg", &I::DocumentPage, 0},
     {"deff", &I::DefaultFont},
-    {"deflang", &I::DefaultLanguage},
     {"uc", &I::Fallback},
 
     // Groups.

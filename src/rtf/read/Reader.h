@@ -19,8 +19,7 @@ enum class RtfTarget {
 
 /// Accepts any bytes: damaged or truncated RTF yields the text that is there; hostile RTF takes
 /// bounded time and memory. Interns formats in `formats`. Throws only if an allocation fails.
-/// `base` is the initial format for a source that names no default font; RTF's own size is 12
-/// points.
+/// `base` shows what the source does not state; its font, where the source names no default one.
 Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target,
                  CharFormat base = {.size = 24});
 

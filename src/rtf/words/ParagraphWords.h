@@ -14,11 +14,12 @@ inline constexpr int kMaxLength = 1'000'000;  // twips; far beyond any paper siz
 struct LengthWord {
   std::string_view name;
   std::int32_t ParaFormat::*length;
+  ParaStated stated;
 };
 inline constexpr LengthWord kLengthWords[] = {
-    {"ri", &ParaFormat::rightIndent},
-    {"sb", &ParaFormat::spaceBefore},
-    {"sa", &ParaFormat::spaceAfter},
+    {"ri", &ParaFormat::rightIndent, kStatesRightIndent},
+    {"sb", &ParaFormat::spaceBefore, kStatesSpaceBefore},
+    {"sa", &ParaFormat::spaceAfter, kStatesSpaceAfter},
 };
 
 /// Index of the row of that name, for its synonyms.

@@ -176,6 +176,7 @@ void Output::Word(std::string_view name) {
   std::copy_n(name.data(), name.size(), buffer_.data() + size_ + 1);
   Grow(name.size() + 1);
   openWord_ = true;
+  afterText_ = false;
 }
 
 void Output::Word(std::string_view name, int number) {
@@ -186,15 +187,27 @@ void Output::Word(std::string_view name, int number) {
                                 digits));
 }
 
+void Output::Reset() {
+  if (afterText_) Raw("{}");
+  Word("plain");
+}
+
+void Output::Symbol(std::string_view name) {
+  Word(name);
+  afterText_ = true;
+}
+
 void Output::Words(std::string_view source) {
   if (source.empty()) return;
   Append(source);
   openWord_ = source.back() != '}';
+  afterText_ = false;
 }
 
 void Output::Raw(std::string_view source) {
   Append(source);
   openWord_ = false;
+  afterText_ = false;
 }
 
 void Output::Hex(int byte) {
@@ -223,6 +236,7 @@ std::size_t Output::WriteForms(std::basic_string_view<Unit> text) {
     done += count;
   } while (count == room);
   if (done > 0) openWord_ = false;
+  afterText_ |= done > 0;
   return done;
 }
 
@@ -270,6 +284,7 @@ void Output::Character(char16_t unit, Encoding encoding) {
   } else if (unit != 0 && !(encoding == Encoding::Document && InDocumentPage(unit))) {
     Unicode(unit);
   }
+  afterText_ = true;
 }
 
 bool Output::InDocumentPage(char16_t unit) {

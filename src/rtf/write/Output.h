@@ -31,6 +31,11 @@ class Output {
   /// Writes a control word, given without its backslash; of ordinary length.
   void Word(std::string_view name);
   void Word(std::string_view name, int number);
+  /// Writes \plain. After text it is set apart, since some readers format text only when they meet
+  /// the next word.
+  void Reset();
+  /// Writes a control word that stands for a character.
+  void Symbol(std::string_view name);
   /// Writes control words with their backslashes, and groups among them.
   void Words(std::string_view source);
   /// Writes braces, line ends and anything else that delimits a control word.
@@ -79,6 +84,7 @@ class Output {
   std::vector<char> buffer_;
   std::size_t size_ = 0;
   bool openWord_ = false;
+  bool afterText_ = false;  // the last characters have no word or brace behind them
 };
 
 }  // namespace lumenote

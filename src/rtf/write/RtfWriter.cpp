@@ -15,8 +15,7 @@ void WriteHead(const WrittenFormats& formats, const FormatTables& tables, const 
                bool whole, Output& out) {
   out.Raw("{\\rtf1\\ansi");
   out.Word("ansicpg", head.page);
-  out.Word("deff", head.defaultFont);
-  out.Words("\\deflang1036");
+  if (formats.DefaultFont() >= 0) out.Word("deff", formats.DefaultFont());
   formats.WriteFontTable(out);
   formats.WriteColourTable(out);
   if (whole) WriteItems(tables.items, head.items, out);

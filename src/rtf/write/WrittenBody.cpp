@@ -48,7 +48,7 @@ ParaFormat WrittenBody::WrittenOf(ParaId paragraph) const {
 
 const std::string& WrittenBody::Words(ParaId paragraph) {
   std::optional<std::string>& known = knownWords_[paragraph];
-  if (!known) known = ParagraphWords(WrittenOf(paragraph), tables_, formats_.HasStyles());
+  if (!known) known = ParagraphWords(WrittenOf(paragraph), tables_);
   return *known;
 }
 
@@ -144,7 +144,7 @@ void WrittenBody::OpenField(FieldId id) {
   fields_.push_back({id, known_, format_});
   out_.Words(tables_.fields[id].opening);
   if (!IsListNumber(id)) return;
-  out_.Word("plain");
+  out_.Reset();
   format_ = {};
 }
 
@@ -287,7 +287,7 @@ std::size_t WrittenBody::Special(char16_t unit) {
   if (unit == u'\uFFFC') {
     out_.Character(unit, format_.encoding);
   } else {
-    out_.Word(unit == u'\t' ? "tab" : "line");
+    out_.Symbol(unit == u'\t' ? "tab" : "line");
   }
   return 1;
 }

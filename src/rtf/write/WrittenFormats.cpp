@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <ranges>
 
 #include "base/Strings.h"
 #include "base/Windows1252.h"
@@ -58,18 +59,31 @@ void WriteFontName(const FontFace& face, Output& out) {
 
 WrittenFormats::WrittenFormats(const FormatTables& tables, HeadId id)
     : tables_(tables), numbers_(tables.characters.Size()), head_(id) {
-  written_.Intern({});
-  const KeptHead& head = Head();
-  for (const KeptHead::Font& font : head.fonts) {
-    const std::uint32_t known = faces_.Size();
-    const FontFace& face = tables.fonts[font.font];
-    faces_.Intern(face);
+  defaultEncoding_ = EncodingOf({}, 0, Head().page);
+  AddFonts();
+  AddColours();
+}
+
+void WrittenFormats::AddFonts() {
+  for (const KeptHead::Font& font : Head().fonts) {
+    const FontFace& face = tables_.fonts[font.font];
+    const std::uint32_t index = faces_.Intern(face);
+    if (index == fonts_.size())
+      fonts_.push_back({font.number, EncodingOf(face, font.page, Head().page)});
+    if (font.number == Head().defaultFont) UseDefault(fonts_[index]);
     if (font.number < kWildNumber) nextFont_ = std::max(nextFont_, font.number + 1);
-    if (faces_.Size() != known)
-      fonts_.push_back({font.number, EncodingOf(face, font.page, head.page)});
   }
-  keptFonts_ = faces_.Size();
-  for (const Colour colour : head.colours) {
+  headFonts_ = faces_.Size();
+}
+
+void WrittenFormats::UseDefault(Font& font) {
+  font.used = true;
+  defaultFont_ = font.number;
+  defaultEncoding_ = font.encoding;
+}
+
+void WrittenFormats::AddColours() {
+  for (const Colour colour : Head().colours) {
     if (colour != kAutoColour)
       colourNumbers_.try_emplace(colour, static_cast<int>(colours_.size()));
     colours_.push_back(colour);
@@ -77,28 +91,29 @@ WrittenFormats::WrittenFormats(const FormatTables& tables, HeadId id)
   if (colours_.empty()) colours_.push_back(kAutoColour);
 }
 
-void WrittenFormats::UseBullets() {
-  bulletFont_ = fonts_[FontIndex({.name = u"Symbol", .charset = 2})].number;
+void WrittenFormats::UseFontZero() {
+  if (!fonts_.empty() && fonts_.front().number == 0) fonts_.front().used = true;
 }
 
-std::uint32_t WrittenFormats::FontIndex(const FontFace& face) {
+void WrittenFormats::UseBullets() {
+  bulletFont_ = FontOf({.name = u"Symbol", .charset = 2}).number;
+}
+
+const WrittenFormats::Font& WrittenFormats::FontOf(const FontFace& face) {
   const std::uint32_t index = faces_.Intern(face);
   if (index == fonts_.size()) {
     const int page = CodePageOfCharset(face.charset);
     fonts_.push_back({nextFont_++, EncodingOf(face, page, Head().page)});
   }
-  return index;
+  fonts_[index].used = true;
+  return fonts_[index];
 }
 
 WrittenFormat WrittenFormats::Written(const CharFormat& format) {
-  FontFace face = tables_.fonts[format.font];
-  face.name = TrimSpaces(face.name);
   WrittenFormat written;
-  const Font& font = fonts_[FontIndex(face)];
-  written.font = font.number;
-  written.encoding = font.encoding;
+  SetFont(format, written);
   written.words = format.words;
-  written.size = std::max<int>(format.size, 1);
+  if ((format.stated & kStatesSize) != 0) written.size = std::max<int>(format.size, 1);
   written.halfPoints = HalfPoints(format.offset);
   for (std::size_t i = 0; i < written.numbers.size(); ++i)
     written.numbers[i] = Number(kNumberWords[i], format);
@@ -107,10 +122,23 @@ WrittenFormat WrittenFormats::Written(const CharFormat& format) {
   return written;
 }
 
+/// Some readers give text that states no font font 0, not the default one.
+void WrittenFormats::SetFont(const CharFormat& format, WrittenFormat& written) {
+  written.encoding = defaultEncoding_;
+  if ((format.stated & kStatesFont) == 0) return UseFontZero();
+  FontFace face = tables_.fonts[format.font];
+  face.name = TrimSpaces(face.name);
+  const Font& font = FontOf(face);
+  written.font = font.number;
+  written.encoding = font.encoding;
+}
+
 std::int32_t WrittenFormats::Number(const NumberWord& word, const CharFormat& format) {
   const std::int64_t number = word.get(format);
-  if (word.kind != NumberWord::Kind::Number) return ColourNumber(static_cast<Colour>(number));
-  return static_cast<std::int32_t>(number);
+  if (word.kind == NumberWord::Kind::Number) return static_cast<std::int32_t>(number);
+  const bool unstated = number == kAutoColour && (format.stated & kStatesColour) == 0;
+  if (word.kind == NumberWord::Kind::Colour && unstated) return kUnstated;
+  return ColourNumber(static_cast<Colour>(number));
 }
 
 int WrittenFormats::ColourNumber(Colour colour) {
@@ -122,24 +150,31 @@ int WrittenFormats::ColourNumber(Colour colour) {
 }
 
 void WrittenFormats::WriteFontTable(Output& out) const {
-  static constexpr std::string_view kFamilies[] = {"fnil",    "froman", "fswiss", "fmodern",
-                                                   "fscript", "fdecor", "ftech",  "fbidi"};
-  out.Raw("{\\fonttbl");
-  for (std::uint32_t index = keptFonts_; index < faces_.Size(); ++index) {
-    const FontFace& face = faces_[index];
-    out.Raw("{");
-    out.Word("f", fonts_[index].number);
-    out.Word(kFamilies[face.family % std::size(kFamilies)]);
-    if (face.pitch != 0) out.Word("fprq", face.pitch);
-    out.Word("fcharset", face.charset);
-    out.Raw(" ");
-    WriteFontName(face, out);
-    out.Raw(";}");
-  }
   const std::string& kept = Head().fontTable;
+  const auto written = [&](std::uint32_t index) {
+    return index >= headFonts_ || (!Head().tables && fonts_[index].used);
+  };
+  const auto indexes = std::views::iota(std::uint32_t{0}, faces_.Size());
+  if (kept.empty() && std::ranges::none_of(indexes, written)) return;
+  out.Raw("{\\fonttbl");
+  for (const std::uint32_t index : indexes)
+    if (written(index)) WriteFont(faces_[index], fonts_[index], out);
   if (!kept.empty() && kept[0] != '{' && kept[0] != '\\') out.Raw(" ");
   out.Words(kept);
   out.Raw("}\r\n");
+}
+
+void WrittenFormats::WriteFont(const FontFace& face, const Font& font, Output& out) const {
+  static constexpr std::string_view kFamilies[] = {"fnil",    "froman", "fswiss", "fmodern",
+                                                   "fscript", "fdecor", "ftech",  "fbidi"};
+  out.Raw("{");
+  out.Word("f", font.number);
+  out.Word(kFamilies[face.family % std::size(kFamilies)]);
+  if (face.pitch != 0) out.Word("fprq", face.pitch);
+  out.Word("fcharset", face.charset);
+  out.Raw(" ");
+  WriteFontName(face, out);
+  out.Raw(";}");
 }
 
 void WrittenFormats::WriteColourTable(Output& out) const {

@@ -13,7 +13,9 @@
 
 namespace lumenote {
 
-/// The numbers of `kNumberWords`; those of colours are their places in the table, 0 automatic.
+/// The numbers of `kNumberWords`; those of colours are their places in the table, 0 automatic,
+/// `kUnstated` for text that states none.
+inline constexpr std::int32_t kUnstated = -1;
 using WrittenNumbers = std::array<std::int32_t, std::size(kNumberWords)>;
 inline constexpr WrittenNumbers kDefaultNumbers = [] {
   WrittenNumbers numbers{};
@@ -21,6 +23,8 @@ inline constexpr WrittenNumbers kDefaultNumbers = [] {
     const NumberWord& word = kNumberWords[i];
     if (word.kind == NumberWord::Kind::Number)
       numbers[i] = static_cast<std::int32_t>(word.get(CharFormat()));
+    else if (word.kind == NumberWord::Kind::Colour)
+      numbers[i] = kUnstated;
   }
   return numbers;
 }();
@@ -28,7 +32,7 @@ inline constexpr WrittenNumbers kDefaultNumbers = [] {
 /// A character format in the values of RTF's control words; formats that are written alike compare
 /// equal.
 struct WrittenFormat {
-  int font = -1;  // -1 and size 0: unknown
+  int font = -1;  // -1 and size 0: not stated
   int size = 0;
   int halfPoints = 0;
   WrittenNumbers numbers = kDefaultNumbers;
@@ -39,8 +43,9 @@ struct WrittenFormat {
   bool operator==(const WrittenFormat&) const = default;
 };
 
-/// The font table, colour table and character formats of a text. Fonts and colours keep their
-/// numbers from the head of the note's source; others are appended in order of first use.
+/// The font table, colour table and character formats of a text. Fonts, and colours that kept
+/// content names, keep their numbers from the head of the note's source; others are appended in
+/// order of first use.
 class WrittenFormats {
  public:
   /// The tables may grow meanwhile, but only formats that they contain now can be used.
@@ -49,39 +54,50 @@ class WrittenFormats {
   /// Registers a format that the text uses.
   void Use(CharId format) {
     if (numbers_[format] == 0)
-      numbers_[format] = written_.Intern(Written(tables_.characters[format]));
+      numbers_[format] = written_.Intern(Written(tables_.characters[format])) + 1;
   }
   /// Registers the font of bullets.
   void UseBullets();
 
   /// A registered format.
-  const WrittenFormat& operator[](CharId format) const { return written_[numbers_[format]]; }
+  const WrittenFormat& operator[](CharId format) const { return written_[numbers_[format] - 1]; }
+  /// -1: none.
+  int DefaultFont() const { return defaultFont_; }
   int BulletFont() const { return bulletFont_; }
-  bool HasStyles() const { return Head().tables; }
 
   void WriteFontTable(Output& out) const;
-  /// Writes nothing if no colour is used.
+  // Each writes nothing if the table is empty.
   void WriteColourTable(Output& out) const;
 
  private:
   const KeptHead& Head() const { return tables_.heads[head_]; }
   WrittenFormat Written(const CharFormat& format);
-  std::uint32_t FontIndex(const FontFace& face);
+  void SetFont(const CharFormat& format, WrittenFormat& written);
+  struct Font {
+    int number;
+    Encoding encoding;
+    bool used = false;
+  };
+
+  void AddFonts();
+  void AddColours();
+  void UseDefault(Font& font);
+  void UseFontZero();
+  const Font& FontOf(const FontFace& face);
+  void WriteFont(const FontFace& face, const Font& font, Output& out) const;
   int ColourNumber(Colour colour);
   std::int32_t Number(const NumberWord& word, const CharFormat& format);
 
   const FormatTables& tables_;
-  InternTable<WrittenFormat> written_;  // number 0: nothing known
-  std::vector<std::uint32_t> numbers_;  // in it, by CharId
+  InternTable<WrittenFormat> written_;
+  std::vector<std::uint32_t> numbers_;  // in it, plus one, by CharId; 0: not registered
   HeadId head_;
-  struct Font {
-    int number;
-    Encoding encoding;
-  };
   InternTable<FontFace> faces_;
-  std::vector<Font> fonts_;  // of the font faces, kept ones first
-  std::uint32_t keptFonts_ = 0;
-  int nextFont_ = 0;
+  std::vector<Font> fonts_;      // of the font faces, the head's first
+  std::uint32_t headFonts_ = 0;  // their count
+  int nextFont_ = 1;             // readers give font 0 to text that states none
+  int defaultFont_ = -1;
+  Encoding defaultEncoding_ = Encoding::Windows;  // of text that states no font
   std::vector<Colour> colours_;
   std::unordered_map<Colour, int> colourNumbers_;
   int bulletFont_ = -1;
@@ -91,8 +107,7 @@ class WrittenFormats {
 /// sizes and effects for those of right-to-left text, so these are written before it.
 void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out);
-/// The words of a paragraph format after \pard, without bullet and table. `styled` means that the
-/// source has styles.
-std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled);
+/// The words of a paragraph format after \pard, without bullet and table.
+std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables);
 
 }  // namespace lumenote

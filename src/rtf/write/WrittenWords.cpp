@@ -31,9 +31,9 @@ LineWords WordsOf(LineRule rule, int spacing) {
   const int size = std::clamp(spacing, 0, kMaxLength);
   switch (rule) {
     case LineRule::OneAndHalf:
-      return {kLine * 3 / 2, true};
+      return {kSingleLine * 3 / 2, true};
     case LineRule::Double:
-      return {kLine * 2, true};
+      return {kSingleLine * 2, true};
     case LineRule::AtLeast:
       return {size, false};
     case LineRule::Exact:
@@ -61,10 +61,23 @@ void WriteWords(WordsId first, WordsId end, const FormatTables& tables, Output& 
   });
 }
 
+constexpr WrittenFormat kPlain;  // what \plain makes
+
+/// Whether `to` leaves something unsaid that `from` says: only \plain takes it back.
+bool TakesBack(const WrittenFormat& from, const WrittenFormat& to) {
+  const auto takesBack = [](auto one, auto other, auto plain) {
+    return one != plain && other == plain;
+  };
+  const auto takesBackNumber = [&](std::size_t i) {
+    return takesBack(from.numbers[i], to.numbers[i], kPlain.numbers[i]);
+  };
+  return takesBack(from.font, to.font, kPlain.font) || takesBack(from.size, to.size, kPlain.size) ||
+         takesBackNumber(NumberWordCalled("cf")) || takesBackNumber(NumberWordCalled("lang"));
+}
+
 class ParagraphWriter {
  public:
-  /// With `whole`, also writes default values.
-  explicit ParagraphWriter(bool whole) : whole_(whole) {}
+  explicit ParagraphWriter(const ParaFormat& format) : format_(format) {}
 
   void Kept(KeptWord word, const FormatTables& tables);
 
@@ -73,24 +86,38 @@ class ParagraphWriter {
     Word(name);
     words_ += std::to_string(std::clamp<std::int64_t>(number, -kMaxLength, kMaxLength));
   }
-  void Length(std::string_view name, std::int64_t twips) {
-    if (twips != 0 || whole_) Number(name, twips);
+  void Direction();
+  void Length(std::string_view name, std::int64_t twips, ParaStated attribute) {
+    if (twips != 0 || Stated(attribute)) Number(name, twips);
   }
   void LineSpacing(LineWords line) {
-    const bool single = line.spacing == 0 || (line.multiple && line.spacing == kLine);
-    if (single && whole_) return void(words_ += "\\sl240\\slmult1");
-    if (single) return;
+    const bool single = line.spacing == 0 || (line.multiple && line.spacing == kSingleLine);
+    if (single) line = {kSingleLine, true};
+    if (single && !Stated(kStatesLineSpacing)) return;
     Number("sl", line.spacing);
     Number("slmult", line.multiple ? 1 : 0);
   }
+  void Aligned();
   void Tab(const TabStop& tab);
 
   std::string Take() { return std::move(words_); }
 
  private:
+  bool Stated(ParaStated attribute) const { return (format_.stated & attribute) != 0; }
+
+  const ParaFormat& format_;
   std::string words_;
-  bool whole_;
 };
+
+void ParagraphWriter::Direction() {
+  const bool rightToLeft = format_.rightToLeft != 0;
+  if (rightToLeft || Stated(kStatesDirection)) Word(rightToLeft ? "rtlpar" : "ltrpar");
+}
+
+void ParagraphWriter::Aligned() {
+  if (format_.alignment != Alignment::Left || Stated(kStatesAlignment))
+    Word(kAlignmentWords[static_cast<std::size_t>(format_.alignment)]);
+}
 
 void ParagraphWriter::Kept(KeptWord word, const FormatTables& tables) {
   const std::string& name = tables.names[word.name];
@@ -113,14 +140,12 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 
 void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out) {
-  static constexpr WrittenFormat kNothing;
   const WordsId high = HighPart(to.words, tables);
-  const bool anew = from.words != to.words || high != 0;
-  const WrittenFormat& base = anew && from.words != 0 ? kNothing : from;
-  if (anew) {
-    if (from.words != 0) out.Word("plain");
-    WriteWords(to.words, high, tables, out);
-  }
+  const bool rewords = from.words != to.words || high != 0;
+  const bool anew = (rewords && from.words != 0) || TakesBack(from, to);
+  const WrittenFormat& base = anew ? kPlain : from;
+  if (anew) out.Reset();
+  if (anew || rewords) WriteWords(to.words, high, tables, out);
   if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
   if (base.underline != to.underline)
     out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
@@ -133,25 +158,23 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   if (base.size != to.size) out.Word("fs", to.size);
   if (high == 0) return;
   WriteWords(high, 0, tables, out);
-  out.Word("f", to.font);
+  if (to.font >= 0) out.Word("f", to.font);
 }
 
-std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables, bool styled) {
+std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables) {
   const std::int64_t hanging = format.hangingIndent;
-  const std::string_view alignment = kAlignmentWords[static_cast<std::size_t>(format.alignment)];
-  // Styles and lists impose their own formats on paragraphs that leave something unsaid.
-  const bool whole = styled || format.list != 0;
-  ParagraphWriter words(whole);
+  ParagraphWriter words(format);
   tables.words.ForEach(format.words, [&](KeptWord word) { words.Kept(word, tables); });
-  if (format.rightToLeft != 0) words.Word("rtlpar");
+  words.Direction();
   if (format.list != 0) words.Number("ls", format.list - 1);
   if (format.list != 0) words.Number("ilvl", format.level);
-  words.Length("fi", -hanging);
-  words.Length("li", format.firstIndent + hanging);
-  for (const LengthWord& word : kLengthWords) words.Length(word.name, format.*word.length);
+  words.Length("fi", -hanging, kStatesFirstIndent);
+  words.Length("li", format.firstIndent + hanging, kStatesLeftIndent);
+  for (const LengthWord& word : kLengthWords)
+    words.Length(word.name, format.*word.length, word.stated);
   words.LineSpacing(WordsOf(format.lineRule, format.lineSpacing));
   for (const TabStop& tab : tables.tabs[format.tabs]) words.Tab(tab);
-  if (whole || format.alignment != Alignment::Left) words.Word(alignment);
+  words.Aligned();
   return words.Take();
 }
 

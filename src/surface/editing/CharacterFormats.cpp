@@ -119,8 +119,14 @@ void CharacterFormats::FontName(std::u16string_view name) {
   face.name = name;
   face.charset = IsSymbolFont(name) ? kSymbolCharset : 0;
   const FontId font = fonts.Intern(face);
-  Apply([&](const CharFormat& format) { return fonts[format.font].name != name; },
-        [=](CharFormat& format) { format.font = font; });
+  Apply(
+      [&](const CharFormat& format) {
+        return (format.stated & kStatesFont) == 0 || fonts[format.font].name != name;
+      },
+      [=](CharFormat& format) {
+        format.font = font;
+        format.stated |= kStatesFont;
+      });
 }
 
 std::optional<float> CharacterFormats::FontSize() const {
@@ -131,8 +137,14 @@ void CharacterFormats::FontSize(float points) {
   const bool allowed = points >= kLeastSize && points <= kMaxSize;
   if (!allowed) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
   const auto size = static_cast<std::uint16_t>(std::lround(points * 2));
-  Apply([=](const CharFormat& format) { return format.size != size; },
-        [=](CharFormat& format) { format.size = size; });
+  Apply(
+      [=](const CharFormat& format) {
+        return (format.stated & kStatesSize) == 0 || format.size != size;
+      },
+      [=](CharFormat& format) {
+        format.size = size;
+        format.stated |= kStatesSize;
+      });
 }
 
 std::optional<std::int32_t> CharacterFormats::TextColour() const { return Common(VisibleColour); }

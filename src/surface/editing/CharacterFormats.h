@@ -10,7 +10,8 @@
 
 namespace lumenote {
 
-/// Reads the attributes common to the selection and writes them to the runs that differ. With an
+/// Reads the attributes common to the selection and writes them to the runs that differ or do not
+/// state them. With an
 /// empty selection they apply to the text typed next. Ranges and errors: see `RichTextSurface`.
 class CharacterFormats {
  public:

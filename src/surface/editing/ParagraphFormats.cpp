@@ -11,7 +11,7 @@ namespace lumenote {
 
 namespace {
 
-constexpr int kTwentieth = kLine / 20;
+constexpr int kTwentieth = kSingleLine / 20;
 
 /// The line spacing in the record's units.
 std::int32_t RecordedSpacing(const ParaFormat& format) {

@@ -18,13 +18,15 @@ namespace {
 constexpr std::uint16_t kFrench = 1036;
 constexpr std::u16string_view kDefaultFont = u"Arial";
 
-CharFormat DefaultFormat(FormatTables& formats) {
-  FontFace face;
-  face.name = kDefaultFont;
+CharFormat BaseFormat(FormatTables& formats) {
   CharFormat format;
-  format.font = formats.fonts.Intern(face);
-  format.language = kFrench;
+  format.font = formats.fonts.Intern({.name = std::u16string(kDefaultFont)});
   return format;
+}
+
+/// The head of a note that has no source.
+HeadId OwnHead(const CharFormat& base, FormatTables& formats) {
+  return formats.heads.Intern({.fonts = {{.number = 0, .font = base.font}}, .defaultFont = 0});
 }
 
 }  // namespace
@@ -34,33 +36,45 @@ Transfer::Transfer(EditingCore& core, TextEditing& text, Clipboard& clipboard, F
       text_(text),
       clipboard_(clipboard),
       files_(files),
-      defaultFormat_(DefaultFormat(core.Formats())) {
+      base_(BaseFormat(core.Formats())),
+      unstated_(base_) {
   Text({});
 }
 
 void Transfer::Text(std::u16string_view text) {
-  const CharId format = core_.Formats().characters.Intern(defaultFormat_);
-  const ParaId paragraph = core_.Formats().paragraphs.Intern({});
+  FormatTables& formats = core_.Formats();
+  const CharId format = formats.characters.Intern(OwnFormat());
+  const ParaId paragraph = formats.paragraphs.Intern({});
   Fragment whole = PlainFragment(text, format, paragraph);
-  whole.mark = FinalMark{.character = format, .paragraph = paragraph};
-  LoadWhole(whole, std::u16string(kDefaultFont));
+  whole.mark = FinalMark{format, paragraph, OwnHead(base_, formats)};
+  LoadWhole(whole, base_.font);
 }
 
-void Transfer::LoadWhole(const Fragment& whole, std::u16string font) {
+CharFormat Transfer::OwnFormat() const {
+  CharFormat own = base_;
+  own.language = kFrench;
+  return own;
+}
+
+void Transfer::LoadWhole(const Fragment& whole, FontId plainFont) {
   core_.Load(whole);
-  baseFontName_ = std::move(font);
+  unstated_.font = plainFont;
 }
 
 void Transfer::LoadRtf(std::string_view bytes) {
-  FormatTables& formats = core_.Formats();
-  const RtfNote note = ReadRtfNote(bytes, formats, defaultFormat_);
-  LoadWhole(note.content, formats.fonts[note.plainFont].name);
+  const RtfNote note = ReadRtfNote(bytes, core_.Formats(), base_);
+  LoadWhole(note.content, note.plainFont);
 }
 
 void Transfer::LoadHtml(std::string_view bytes) {
-  const Fragment whole =
-      ReadHtml(DecodeHtml(bytes), core_.Formats(), HtmlTarget::Document, defaultFormat_);
-  LoadWhole(whole, std::u16string(kDefaultFont));
+  FormatTables& formats = core_.Formats();
+  Fragment whole = ReadHtml(DecodeHtml(bytes), formats, HtmlTarget::Document, OwnFormat());
+  whole.mark->head = OwnHead(base_, formats);
+  LoadWhole(whole, base_.font);
+}
+
+std::u16string Transfer::BaseFontName() const {
+  return core_.Content().Formats().fonts[unstated_.font].name;
 }
 
 std::u16string Transfer::Rtf() const { return WidenSource(WriteRtf(core_.Content())); }
@@ -81,7 +95,7 @@ std::u16string Transfer::SelectedRtf() const {
 void Transfer::SelectedRtf(std::u16string_view rtf) {
   const std::string bytes = NarrowSource(rtf);
   if (!LooksLikeRtf(bytes)) return text_.ReplaceSelection(UndoKind::Unknown, rtf);
-  const Fragment fragment = ReadRtf(bytes, core_.Formats(), RtfTarget::Selection, defaultFormat_);
+  const Fragment fragment = ReadRtf(bytes, core_.Formats(), RtfTarget::Selection, unstated_);
   if (fragment.Length() > 0)
     text_.ReplaceSelection(UndoKind::Unknown, fragment);
   else
@@ -163,10 +177,10 @@ void Transfer::Drop(const ClipboardContent& content, Position target) {
 Fragment Transfer::FragmentOf(const ClipboardContent& content) {
   Fragment fragment;
   if (content.rtf && LooksLikeRtf(*content.rtf))
-    fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, defaultFormat_);
+    fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, unstated_);
   if (fragment.Length() == 0 && content.html)
     fragment =
-        ReadHtml(FromUtf8(*content.html), core_.Formats(), HtmlTarget::Selection, defaultFormat_);
+        ReadHtml(FromUtf8(*content.html), core_.Formats(), HtmlTarget::Selection, OwnFormat());
   if (fragment.Length() == 0 && content.text) fragment = text_.Plain(*content.text);
   return fragment;
 }

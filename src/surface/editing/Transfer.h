@@ -15,7 +15,7 @@ namespace lumenote {
 /// Turns foreign content into fragments and back. Behaviour and errors: see `RichTextSurface`.
 class Transfer {
  public:
-  /// All four outlive this object. The document takes the default format.
+  /// All four outlive this object. The document takes the base format.
   Transfer(EditingCore& core, TextEditing& text, Clipboard& clipboard, Files& files);
 
   void Text(std::u16string_view text);
@@ -40,11 +40,13 @@ class Transfer {
   void Drop(const ClipboardContent& content, Position target);
 
   /// The font that the content names as its default.
-  std::u16string BaseFontName() const { return baseFontName_; }
+  std::u16string BaseFontName() const;
 
  private:
   void LoadRtf(std::string_view bytes);
-  void LoadWhole(const Fragment& whole, std::u16string font);
+  CharFormat OwnFormat() const;
+  /// `plainFont` is the font of text that states none.
+  void LoadWhole(const Fragment& whole, FontId plainFont);
   void LoadText(const std::string& bytes, std::optional<TextEncoding> encoding);
   std::string PlainBytes() const;
   Fragment FragmentOf(const ClipboardContent& content);
@@ -53,8 +55,8 @@ class Transfer {
   TextEditing& text_;
   Clipboard& clipboard_;
   Files& files_;
-  CharFormat defaultFormat_;
-  std::u16string baseFontName_;
+  const CharFormat base_;  // of text that nobody gave a format
+  CharFormat unstated_;    // of text whose source states no format, in the present note
   TextEncoding encoding_ = TextEncoding::Windows1252;  // of the file loaded last
   /// That file, where writing its text anew would give other bytes; else empty.
   std::string original_;

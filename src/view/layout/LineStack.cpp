@@ -70,7 +70,7 @@ double LineStack::LineHeight(double natural) const {
     case LineRule::Exact:
       return std::max(1.0, layouter_.Pixels(format_.lineSpacing));
     case LineRule::Multiple:
-      return natural * std::clamp(1.0 * format_.lineSpacing / kLine, 0.1, 100.0);
+      return natural * std::clamp(1.0 * format_.lineSpacing / kSingleLine, 0.1, 100.0);
   }
   return natural;
 }
