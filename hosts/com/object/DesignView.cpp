@@ -1,8 +1,8 @@
 #include "DesignView.h"
 
-#include "../support/Module.h"
 #include "ContainedControl.h"
 #include "Resources.h"
+#include "backends/win32/toolkit/Window.h"
 
 namespace lumenote {
 
@@ -12,7 +12,7 @@ namespace {
 void DrawDesignIcon(HDC canvas, const RECTL& bounds) {
   const int width = bounds.right - bounds.left;
   const int height = bounds.bottom - bounds.top;
-  const HANDLE icon = LoadImageW(ThisModule(), MAKEINTRESOURCEW(LUMENOTE_ICON), IMAGE_ICON, width,
+  const HANDLE icon = LoadImageW(OwnModule(), MAKEINTRESOURCEW(LUMENOTE_ICON), IMAGE_ICON, width,
                                  height, LR_DEFAULTCOLOR);
   if (!icon) return;
   DrawIconEx(canvas, bounds.left, bounds.top, static_cast<HICON>(icon), width, height, 0, nullptr,

@@ -1,12 +1,17 @@
 #include "HostMembers.h"
 
 #include "../support/Module.h"
-#include "ModulePlatform.h"
+#include "lumenote/Win32Platform.h"
 
 namespace lumenote {
 
 HostMembers::HostMembers()
-    : control_(std::make_shared<ModulePlatform>()), description_(DescriptionOf(kInterfaceId)) {}
+    : control_(std::make_unique<CoBxRtf>(std::make_shared<Win32Platform>())),
+      description_(DescriptionOf(kInterfaceId)) {}
+
+void HostMembers::Retire() {
+  const auto going = std::move(control_);  // what its end calls finds none
+}
 
 void* HostMembers::Interface(REFIID id) {
   const bool own = IsEqualIID(id, IID_IDispatch) || IsEqualIID(id, kInterfaceId);

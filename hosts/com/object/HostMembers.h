@@ -43,19 +43,23 @@ class HostMembers : public ICoBxRtf {
  protected:
   HostMembers();
   void* Interface(REFIID id);
+  /// Closes an open editor as the user would.
+  void Retire();
 
  private:
-  /// The object outlives the call even when the host lets go of it meanwhile.
+  /// The object outlives the call even when the host lets go of it meanwhile. One that has retired
+  /// has no control any more.
   template <class Body>
   HRESULT Call(Body body) {
+    if (!control_) return CO_E_OBJNOTCONNECTED;
     const ComPtr<ICoBxRtf> alive(this);
     return Guarded([&] {
-      body(control_);
+      body(*control_);
       return S_OK;
     });
   }
 
-  CoBxRtf control_;
+  std::unique_ptr<CoBxRtf> control_;
   const ComPtr<ITypeInfo> description_;
 };
 

@@ -19,7 +19,7 @@ HRESULT ControlFactory::CreateInstance(IUnknown* outer, REFIID id, void** out) {
 }
 
 HRESULT ControlFactory::LockServer(BOOL lock) {
-  lock ? ModuleLock::Add() : ModuleLock::Remove();
+  lock ? CodeInUse::Add() : CodeInUse::Remove();
   return S_OK;
 }
 

@@ -1,6 +1,7 @@
 // The functions that the system calls in the DLL.
 #include <cwchar>
 
+#include "../support/ComPtr.h"
 #include "../support/Errors.h"
 #include "../typelib/Identity.h"
 #include "ClassFactory.h"
@@ -16,14 +17,15 @@ STDAPI DllGetClassObject(REFCLSID asked, REFIID id, void** out) {
       [&] { return ComPtr<ClassFactory>::Owning(new ClassFactory)->QueryInterface(id, out); });
 }
 
-STDAPI DllCanUnloadNow() { return ModuleLock::None() ? S_OK : S_FALSE; }
+STDAPI DllCanUnloadNow() { return CodeInUse::Count() == 0 ? S_OK : S_FALSE; }
 
 STDAPI DllRegisterServer() { return Register(); }
 
 STDAPI DllUnregisterServer() { return Unregister(); }
 
-// `regsvr32 /n /i:user` registers for the current user, whatever is allowed.
+// `regsvr32 /n /i:user` concerns the current user alone, whatever is allowed.
 STDAPI DllInstall(BOOL install, PCWSTR scope) {
-  if (!install) return Unregister();
-  return scope && _wcsicmp(scope, L"user") == 0 ? RegisterForUser() : Register();
+  const bool user = scope && _wcsicmp(scope, L"user") == 0;
+  if (install) return user ? RegisterForUser() : Register();
+  return user ? UnregisterForUser() : Unregister();
 }

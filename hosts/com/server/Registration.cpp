@@ -131,6 +131,10 @@ HRESULT Register() {
 
 HRESULT RegisterForUser() { return RegisterIn(HKEY_CURRENT_USER); }
 
+HRESULT UnregisterForUser() {
+  return WithResult([] { RemoveFrom(HKEY_CURRENT_USER); });
+}
+
 HRESULT Unregister() {
   return WithResult([] {
     RemoveFrom(HKEY_CURRENT_USER);

@@ -9,5 +9,6 @@ HRESULT Register();
 HRESULT RegisterForUser();
 /// Removes both registrations. What hosts of the other width use stays while they are registered.
 HRESULT Unregister();
+HRESULT UnregisterForUser();
 
 }  // namespace lumenote

@@ -10,7 +10,8 @@ namespace {
 
 std::u16string SourceOf(const RuntimeError& error) {
   const std::wstring_view name = kProgId;
-  return std::u16string(name.begin(), name.end()) + u"." + error.Member();
+  const std::u16string source(name.begin(), name.end());
+  return error.Member().empty() ? source : source + u"." + error.Member();
 }
 
 void Publish(const RuntimeError& error) {

@@ -12,9 +12,11 @@ namespace lumenote {
 /// result code that scripting languages show as the error's number.
 HRESULT Report(const RuntimeError& error);
 
-/// Runs a function that returns a result code; what it raises becomes one.
+/// Runs a function that returns a result code; what it raises becomes one. The description of an
+/// earlier error that nobody has asked for is forgotten.
 template <class Function>
 HRESULT Guarded(Function function) {
+  SetErrorInfo(0, nullptr);
   try {
     return function();
   } catch (const RuntimeError& error) {

@@ -1,16 +1,13 @@
 #include "Module.h"
 
-// The linker's name for the first byte of the image.
-extern "C" IMAGE_DOS_HEADER __ImageBase;
+#include "backends/win32/toolkit/Window.h"
 
 namespace lumenote {
-
-HINSTANCE ThisModule() { return reinterpret_cast<HINSTANCE>(&__ImageBase); }
 
 std::wstring ModulePath() {
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
-    const DWORD length = GetModuleFileNameW(ThisModule(), path.data(), DWORD(path.size()));
+    const DWORD length = GetModuleFileNameW(OwnModule(), path.data(), DWORD(path.size()));
     if (length < path.size()) return path.substr(0, length);
     path.resize(path.size() * 2);
   }

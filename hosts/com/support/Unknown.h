@@ -2,16 +2,18 @@
 #pragma once
 #include <atomic>
 
-#include "Module.h"
+#include "Ole.h"
+#include "backends/win32/system/CodeInUse.h"
 
 namespace lumenote {
 
 /// An object of some parts, each of which implements one or more interfaces and has a member
 /// `void* Interface(REFIID)`, null for interfaces that are not its own. The first part is the
-/// object's identity. Made with one reference; deletes itself with the last. The DLL stays loaded
-/// until the parts are destroyed.
+/// object's identity. Made with one reference. When the last one goes, it retires, if the first
+/// part has a member `Retire`, and is then deleted. The DLL stays loaded until the parts are
+/// destroyed.
 template <class First, class... Others>
-class Unknown : ModuleLock, public First, public Others... {
+class Unknown : CodeInUse, public First, public Others... {
  public:
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) final {
     if (!out) return E_POINTER;
@@ -23,7 +25,7 @@ class Unknown : ModuleLock, public First, public Others... {
   ULONG STDMETHODCALLTYPE AddRef() final { return ++references_; }
   ULONG STDMETHODCALLTYPE Release() final {
     const ULONG left = --references_;
-    if (left == 0) Destroy();
+    if (left == 0) LetGo();
     return left;
   }
 
@@ -31,10 +33,16 @@ class Unknown : ModuleLock, public First, public Others... {
   virtual ~Unknown() = default;
 
  private:
-  // References that others take and drop meanwhile must not destroy the object once more.
-  void Destroy() {
+  // The host's events may run while it retires; what takes a reference there finds a whole object.
+  void LetGo() {
+    if (retired_) {
+      delete this;
+      return;
+    }
+    retired_ = true;
     references_ = 1;
-    delete this;
+    if constexpr (requires { First::Retire(); }) First::Retire();
+    Release();
   }
   void* Identity() { return static_cast<First*>(this); }
   void* Find(REFIID id) {
@@ -44,6 +52,7 @@ class Unknown : ModuleLock, public First, public Others... {
   }
 
   std::atomic<ULONG> references_ = 1;
+  bool retired_ = false;
 };
 
 }  // namespace lumenote

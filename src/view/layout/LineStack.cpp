@@ -1,6 +1,7 @@
 #include "view/layout/LineStack.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <functional>
 
@@ -104,7 +105,7 @@ void LineStack::Finish(std::u16string_view text) {
 // Composed text changes its look without a document change, and a line's content may extend into
 // the next one: such lines never compare equal to others.
 std::uint64_t LineStack::LookOf(const PieceLine& line, std::u16string_view text) const {
-  static std::uint64_t serial = 0;
+  static std::atomic<std::uint64_t> serial = 0;
   if (piece_.composedLength > 0 || piece_.overlaps) return ++serial;
   const bool opens = piece_.opens && line.start == 0;
   const bool ends = piece_.closes && line.end == std::ssize(text);

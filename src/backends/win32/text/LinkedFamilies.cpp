@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <mutex>
 
 #include "backends/win32/system/System.h"
 #include "backends/win32/toolkit/FontFamilies.h"
@@ -83,6 +84,8 @@ std::vector<std::u16string> Find(const std::u16string& family) {
 
 const std::vector<std::u16string>& LinkedFamilies(std::u16string_view family) {
   static std::map<std::u16string, std::vector<std::u16string>, std::less<>> known;
+  static std::mutex access;  // of several threads with windows
+  const std::lock_guard lock(access);
   const auto found = known.find(family);
   if (found != known.end()) return found->second;
   const std::u16string name(family);

@@ -1,5 +1,6 @@
 // Owners of the system's drawing objects.
 #pragma once
+#include <atomic>
 #include <utility>
 
 #include "backends/win32/system/System.h"
@@ -18,7 +19,7 @@ class GdiCount {
   ~GdiCount() { --alive_; }
 
  private:
-  inline static int alive_ = 0;
+  static inline std::atomic<int> alive_ = 0;
 };
 
 /// Owns a font, brush, pen, bitmap or region.

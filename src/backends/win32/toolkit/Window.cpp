@@ -32,8 +32,6 @@ HWND Teller(const Message& message) {
 
 }  // namespace
 
-int Window::alive_ = 0;
-
 Window::Window(HWND parent, const WindowKind& kind) : owned_(true) {
   const VisualStyles styles;
   handle_ = CreateWindowExW(kind.exStyle, kind.className, nullptr, kind.style, 0, 0, 0, 0, parent,
@@ -48,7 +46,6 @@ Window::~Window() {
   const HWND handle = handle_;
   Release();
   if (owned_ && handle) DestroyWindow(handle);
-  --alive_;
 }
 
 void Window::TakeOver() {
@@ -56,7 +53,6 @@ void Window::TakeOver() {
   SetPropW(handle_, kProperty, this);
   before_ = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Dispatch)));
-  ++alive_;
 }
 
 void Window::Release() {

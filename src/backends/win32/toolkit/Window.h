@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include "backends/win32/system/CodeInUse.h"
 #include "backends/win32/system/System.h"
 
 namespace lumenote {
@@ -32,7 +33,7 @@ class MessageListener {
 /// Owns one window and receives its messages, whatever loop dispatches them. Made by make_shared:
 /// it lives on while a message of its own, or of a child's, is handled, even when its owner has let
 /// go. What its children tell of themselves goes to their own objects.
-class Window : public std::enable_shared_from_this<Window> {
+class Window : private CodeInUse, public std::enable_shared_from_this<Window> {
  public:
   /// A child of `parent`, if not null; not visible yet. Raises OutOfMemory (7) when the system
   /// refuses.
@@ -51,8 +52,6 @@ class Window : public std::enable_shared_from_this<Window> {
 
   /// The object of a native window; null if it is not one of ours.
   static Window* Of(HWND handle);
-  /// How many there are, for leak tests.
-  static int Alive() { return alive_; }
 
  protected:
   /// Handles a message; the default leaves it to the system.
@@ -65,8 +64,6 @@ class Window : public std::enable_shared_from_this<Window> {
   void Release();
   LRESULT Handle(const Message& message);
   static std::optional<LRESULT> NoticeOfChild(const Message& message);
-
-  static int alive_;
 
   HWND handle_ = nullptr;
   WNDPROC before_ = nullptr;

@@ -2,6 +2,7 @@
 #pragma once
 #include <memory>
 
+#include "backends/win32/system/CodeInUse.h"
 #include "backends/win32/system/System.h"
 
 // After the system's own header.
@@ -12,7 +13,7 @@ namespace lumenote {
 /// An object with one interface beside IUnknown. Made with one reference; deletes itself with the
 /// last.
 template <class Interface>
-class ComObject : public Interface {
+class ComObject : private CodeInUse, public Interface {
  public:
   ComObject() = default;
   ComObject(const ComObject&) = delete;
