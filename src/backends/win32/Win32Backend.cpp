@@ -12,6 +12,12 @@
 namespace lumenote {
 namespace {
 
+/// Hosts that steer the keyboard in windows of their own do so here, too, as in the system's loops.
+bool HostUses(MSG& message) {
+  return !Window::Of(GetAncestor(message.hwnd, GA_ROOT)) &&
+         CallMsgFilterW(&message, MSGF_DIALOGBOX);
+}
+
 /// Takes the next message, if there is one; empty when the program is to end.
 std::optional<WPARAM> DispatchNext() {
   MSG message;
@@ -20,6 +26,7 @@ std::optional<WPARAM> DispatchNext() {
     return std::nullopt;
   }
   if (message.message == WM_QUIT) return message.wParam;
+  if (HostUses(message)) return std::nullopt;
   TranslateMessage(&message);
   DispatchMessageW(&message);
   return std::nullopt;
