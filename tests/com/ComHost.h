@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "EditorUser.h"
 #include "hosts/com/support/Bstr.h"
 #include "hosts/com/support/ComPtr.h"
 #include "hosts/com/support/Ole.h"
@@ -32,9 +33,15 @@ inline Control Create() {
   return made;
 }
 
+inline constexpr const char16_t* kTitle = u"Essai COM";
+inline HWND FindEditor() { return FindEditor(L"Essai COM"); }
+/// A user of the editor that has that title.
+inline EditorUser UserOfEditor(std::wstring text) { return {L"Essai COM", std::move(text)}; }
+
 /// One whose editor can be opened on a note.
 inline Control CreateWith(std::u16string_view note) {
   const Control made = Create();
+  made->put_pTitreFenêtre(Bstr(kTitle).Get());
   made->put_pCouleurFen(Bstr(u"0").Get());
   made->put_pStrOrchm(Bstr(note).Get());
   return made;
@@ -48,27 +55,39 @@ inline std::u16string NoteOf(const Control& control) {
   return note;
 }
 
-/// Runs a function once, from the thread's message loop.
-class Later {
+/// Runs a function from the thread's message loops, again and again until it says true.
+class Meanwhile {
  public:
-  explicit Later(std::function<void()> act) : act_(std::move(act)) {
+  explicit Meanwhile(std::function<bool()> act) : act_(std::move(act)), before_(current_) {
     current_ = this;
-    timer_ = SetTimer(nullptr, 0, 10, &Later::Tick);
+    timer_ = SetTimer(nullptr, 0, 10, &Meanwhile::Tick);
   }
-  ~Later() { KillTimer(nullptr, timer_); }
-  Later(const Later&) = delete;
-  Later& operator=(const Later&) = delete;
+  ~Meanwhile() {
+    KillTimer(nullptr, timer_);
+    current_ = before_;
+  }
+  Meanwhile(const Meanwhile&) = delete;
+  Meanwhile& operator=(const Meanwhile&) = delete;
+
+  bool Done() const { return done_; }
 
  private:
-  static void CALLBACK Tick(HWND, UINT, UINT_PTR timer, DWORD) {
-    KillTimer(nullptr, timer);
-    current_->act_();
+  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
+    if (current_ && !current_->done_ && current_->act_()) current_->done_ = true;
   }
 
-  static inline Later* current_ = nullptr;
-  std::function<void()> act_;
+  static inline thread_local Meanwhile* current_ = nullptr;
+  std::function<bool()> act_;
+  Meanwhile* before_;
   UINT_PTR timer_ = 0;
+  bool done_ = false;
 };
+
+/// Dispatches the thread's messages until a condition holds.
+inline void RunUntil(const std::function<bool()>& done) {
+  MSG message;
+  while (!done() && GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+}
 
 class ComTest : public testing::Test {
  protected:

@@ -42,7 +42,7 @@ class SitePart : public IOleClientSite, public IDispatch {
 class Site final : public Unknown<SitePart> {};
 
 /// The number of pixels that the control draws on a white picture.
-int DrawnPixels(IViewObject2& view) {
+int DrawnPixels(IUnknown& control) {
   constexpr int kSize = 32;
   const HDC canvas = CreateCompatibleDC(nullptr);
   BITMAPINFO about{{sizeof(BITMAPINFOHEADER), kSize, -kSize, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
@@ -50,10 +50,8 @@ int DrawnPixels(IViewObject2& view) {
   const HBITMAP picture = CreateDIBSection(canvas, &about, DIB_RGB_COLORS, &bits, nullptr, 0);
   const HGDIOBJ before = SelectObject(canvas, picture);
   PatBlt(canvas, 0, 0, kSize, kSize, WHITENESS);
-  const RECTL bounds{0, 0, kSize, kSize};
-  EXPECT_EQ(view.Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, canvas, &bounds, nullptr,
-                      nullptr, 0),
-            S_OK);
+  const RECT bounds{0, 0, kSize, kSize};
+  EXPECT_EQ(OleDraw(&control, DVASPECT_CONTENT, canvas, &bounds), S_OK);
   GdiFlush();
   int drawn = 0;
   for (int i = 0; i < kSize * kSize; ++i)
@@ -79,7 +77,6 @@ TEST_F(ContainerTest, AFormTakesTheControlDesignsAndRunsIt) {
   const auto site = ComPtr<Site>::Owning(new Site);
   const auto object = As<IOleObject>(IID_IOleObject);
   const auto persist = As<IPersistStreamInit>(IID_IPersistStreamInit);
-  const auto view = As<IViewObject2>(IID_IViewObject2);
   DWORD status = 0;
   EXPECT_EQ(object->GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);
   EXPECT_TRUE(status & OLEMISC_INVISIBLEATRUNTIME);
@@ -88,12 +85,12 @@ TEST_F(ContainerTest, AFormTakesTheControlDesignsAndRunsIt) {
   SIZEL size{};
   EXPECT_EQ(object->GetExtent(DVASPECT_CONTENT, &size), S_OK);
   EXPECT_GT(size.cx, 0);
-  EXPECT_GT(DrawnPixels(*view.Get()), 100);
+  EXPECT_GT(DrawnPixels(*control_.Get()), 100);
   EXPECT_EQ(persist->IsDirty(), S_FALSE);
 
   site->running = true;
   As<IOleControl>(IID_IOleControl)->OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE);
-  EXPECT_EQ(DrawnPixels(*view.Get()), 0);
+  EXPECT_EQ(DrawnPixels(*control_.Get()), 0);
   const RECT place{0, 0, 32, 32};
   for (const LONG verb : {OLEIVERB_INPLACEACTIVATE, OLEIVERB_SHOW, OLEIVERB_PRIMARY, OLEIVERB_HIDE})
     EXPECT_EQ(object->DoVerb(verb, nullptr, site.Get(), 0, GetDesktopWindow(), &place), S_OK);
@@ -102,6 +99,28 @@ TEST_F(ContainerTest, AFormTakesTheControlDesignsAndRunsIt) {
   EXPECT_EQ(NoteOf(control_), u"note");
   EXPECT_EQ(object->Close(OLECLOSE_NOSAVE), S_OK);
   EXPECT_EQ(object->SetClientSite(nullptr), S_OK);
+}
+
+TEST_F(ContainerTest, ADocumentSavesAndLoadsTheControl) {
+  const auto saved = As<IPersistStreamInit>(IID_IPersistStreamInit);
+  const auto site = ComPtr<Site>::Owning(new Site);
+  ComPtr<IStream> stream;
+  ASSERT_EQ(CreateStreamOnHGlobal(nullptr, TRUE, stream.Out()), S_OK);
+  EXPECT_EQ(saved->Save(stream.Get(), TRUE), S_OK);
+  stream->Seek({}, STREAM_SEEK_SET, nullptr);
+  CLSID id;
+  ASSERT_EQ(saved->GetClassID(&id), S_OK);
+  ComPtr<IPersistStreamInit> loaded;
+  ASSERT_EQ(
+      CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IPersistStreamInit, loaded.OutVoid()),
+      S_OK);
+  EXPECT_EQ(loaded->Load(stream.Get()), S_OK);
+  EXPECT_EQ(OleSetContainedObject(loaded.Get(), TRUE), S_OK);
+  EXPECT_EQ(DrawnPixels(*loaded.Get()), 0) << "without a container it runs";
+  LPOLESTR name = nullptr;
+  EXPECT_EQ(As<IOleObject>(IID_IOleObject)->GetUserType(USERCLASSTYPE_FULL, &name), S_OK);
+  EXPECT_EQ(std::wstring(name ? name : L""), kDescription);
+  CoTaskMemFree(name);
 }
 
 TEST_F(ContainerTest, EveryInterfaceIsTheSameObject) {

@@ -1,5 +1,6 @@
 // What stays behind: of a hundred controls, and of the DLL itself.
 #include <cstdint>
+#include <utility>
 
 #include "ComHost.h"
 
@@ -47,20 +48,16 @@ bool Leaks(const std::function<void()>& round) {
 TEST_F(LifeTest, AHundredEditorsLeaveNothing) {
   const auto round = [] {
     const Control control = CreateWith(u"note");
-    EXPECT_EQ(control->ShowMicroEdit(0), S_OK);
-    EXPECT_EQ(NoteOf(control), u"note");
+    EditorUser user = UserOfEditor(L"é");
+    const Meanwhile meanwhile([&] { return user.Step(); });
+    EXPECT_EQ(control->ShowMicroEdit(1), S_OK);
+    EXPECT_EQ(NoteOf(control), u"énote");
   };
   EXPECT_FALSE(Leaks(round));
-  const auto leakingHandles = [&] {
-    round();
-    CreateEventW(nullptr, FALSE, FALSE, nullptr);
-  };
-  EXPECT_TRUE(Leaks(leakingHandles));
-  const auto leakingWindows = [&] {
-    round();
+  EXPECT_TRUE(Leaks([] { CreateEventW(nullptr, FALSE, FALSE, nullptr); }));
+  EXPECT_TRUE(Leaks([] {
     CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-  };
-  EXPECT_TRUE(Leaks(leakingWindows));
+  }));
 }
 
 /// The DLL as the system loads it for a host.
@@ -124,6 +121,49 @@ TEST_F(LifeTest, TheSystemUnloadsTheDllBetweenEditorsOnly) {
     control = Control();
     EXPECT_FALSE(IsLoadedAfterCleaning());
   }
+}
+
+std::wstring Documents() {
+  wchar_t folder[MAX_PATH];
+  SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, 0, folder);
+  return folder;
+}
+
+/// Removes the rescue copies; how many there were.
+int RescueCopies() {
+  const std::wstring folder = Documents() + L"\\";
+  WIN32_FIND_DATAW found;
+  int count = 0;
+  const HANDLE search = FindFirstFileW((folder + L"Secours_*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return 0;
+  do count += DeleteFileW((folder + found.cFileName).c_str()) != FALSE;
+  while (FindNextFileW(search, &found));
+  FindClose(search);
+  return count;
+}
+
+/// A host lets go of a control whose editor holds an edited note, and of the DLL.
+TEST_F(LifeTest, LettingGoOfAnEditedNoteKeepsIt) {
+  const LoadedDll dll;
+  RescueCopies();
+  Control control = CreateWith(u"note");
+  ICoBxRtf* const going = control.Get();
+  control->ShowMicroEdit(0);
+  SendMessageW(FindChild(FindEditor(), L"LumenoteSurface"), WM_CHAR, L'x', 1);
+  EditorUser user = UserOfEditor(L"");
+  bool asked = false;
+  const Meanwhile meanwhile([&] {
+    if (BoxOver(FindEditor()) && !std::exchange(asked, true)) {
+      EXPECT_EQ(going->put_pNomAppli(nullptr), CO_E_OBJNOTCONNECTED);
+      EXPECT_FALSE(dll.CanGo());
+    }
+    return user.Step();
+  });
+  control = Control();
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(FindEditor());
+  EXPECT_EQ(RescueCopies(), 1);
+  EXPECT_TRUE(dll.CanGo());
 }
 
 TEST_F(LifeTest, AFactoryRefusesWhatItCannotMake) {

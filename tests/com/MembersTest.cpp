@@ -52,47 +52,6 @@ TEST_F(MembersTest, AnErrorHasItsNumberItsTextAndItsMember) {
                      u"Lumenote.CoBxRtf.pCouleurFen"}));
 }
 
-TEST_F(MembersTest, AnotherThreadIsRefused) {
-  const Control control = CreateWith(u"note");
-  const auto put = [](void* it) -> DWORD {
-    return DWORD(static_cast<ICoBxRtf*>(it)->put_pNomAppli(nullptr));
-  };
-  DWORD result = 0;
-  const HANDLE thread = CreateThread(nullptr, 0, put, control.Get(), 0, nullptr);
-  WaitForSingleObject(thread, INFINITE);
-  GetExitCodeThread(thread, &result);
-  CloseHandle(thread);
-  EXPECT_EQ(HRESULT(result), MAKE_HRESULT(1, FACILITY_CONTROL, 5));
-}
-
-TEST_F(MembersTest, TheWaitLetsTheHostsEventsRun) {
-  const Control control = CreateWith(u"note");
-  std::u16string read;
-  const Later later([&] { read = NoteOf(control); });
-  EXPECT_EQ(control->ShowMicroEdit(1), S_OK);
-  EXPECT_EQ(read, u"note");
-}
-
-TEST_F(MembersTest, TheHostsEndEndsTheWaitAndReachesTheHost) {
-  const Control control = CreateWith(u"note");
-  const Later later([] { PostQuitMessage(7); });
-  control->ShowMicroEdit(1);
-  MSG message;
-  EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), 0);
-  EXPECT_EQ(message.wParam, 7U);
-}
-
-/// A host's event that lets go of the control while it waits.
-TEST_F(MembersTest, TheControlOutlivesTheCallThatWaits) {
-  Control control = CreateWith(u"note");
-  ICoBxRtf* const waiting = control.Get();
-  const Later later([&] {
-    NoteOf(control);
-    control = Control();
-  });
-  EXPECT_EQ(waiting->ShowMicroEdit(1), S_OK);
-}
-
 using Kinds = std::map<std::pair<std::wstring, INVOKEKIND>, MEMBERID>;
 
 Kinds KindsOf(ITypeInfo& type, UINT count) {

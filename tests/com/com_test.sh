@@ -6,6 +6,7 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 kept=$here/../../hosts/com/typelib
 dll=$1/hosts/com/Lumenote.dll maker=$1/hosts/com/lumenote_typelib.exe host=$1/tests/com/test_com.exe
+typist=$1/tests/com/typist.exe docs=$here/../../docs/windows.md
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
@@ -26,11 +27,25 @@ classes() {
   done
 }
 
-# cscript takes scripts in code page 1252 and hides what they do not catch.
+# script FILE ARGUMENT...   prints the last line of what it prints. cscript takes scripts in code page
+# 1252 and hides what they do not catch.
 script() {
-  iconv -f UTF-8 -t CP1252 "$here/$1" >"$work/$1"
-  run cscript //nologo "$(windows "$work/$1")" || true
-  [ "$(tr -d '\r' <"$work/out" | tail -1)" = PASS ] || fail "$1"
+  local name=$(basename "$1")
+  iconv -f UTF-8 -t CP1252 "$1" >"$work/script-$name"
+  shift
+  run cscript //nologo "$(windows "$work/script-$name")" "$@" || true
+  tr -d '\r' <"$work/out" | tail -1
+}
+
+# The documentation's example in VBScript, with a user who types.
+example() {
+  local notes=$WINEPREFIX/drive_c/Notes
+  mkdir -p "$notes"
+  sed -n '/^VBScript /,/^VBA /s/^    //p' "$docs" >"$work/example.vbs"
+  wine "$typist" 'Orchis purpurea Huds.' 'Abies' >"$work/typist" 2>&1 </dev/null &
+  [ "$(script "$work/example.vbs")" = 'C:\Notes\orchis.rtf' ] || fail "the example in VBScript"
+  wait
+  grep -q Abies "$notes/orchis.rtf" || fail "the example's note"
 }
 
 for width in 64 86; do
@@ -40,26 +55,40 @@ for width in 64 86; do
 done
 
 run regsvr32 /s /u "$(windows "$dll")" || true  # what a test that ended early has left
+run cscript //nologo "$(windows "$here/host.js")" || true  # registers itself at its first start
 run reg add 'HKCU\Software\Classes' /f  # there on every Windows
 classes >"$work/before"
 run regsvr32 /s "$(windows "$dll")" || fail "not registered"
 classes >"$work/registered"
 grep -q 'Lumenote\.CoBxRtf\.1' "$work/registered" || fail "no ProgID"
-script host.vbs
-script host.js
+for name in host.vbs host.js; do
+  [ "$(script "$here/$name" "$(windows "$typist")")" = PASS ] || fail "$name"
+done
+example
 run "$host" || fail "hosts in C++"
+
+# Names and library stay while hosts of the other width use them.
+class='CLSID\{74F0C059-87F8-4559-8AF9-416FB22805CD}' library='TypeLib\{BB92CC6A-95F6-43C8-BA6C-7192433441A7}'
+machine='HKLM\Software\Classes' user='HKCU\Software\Classes'
+run reg add "$machine\\Wow6432Node\\$class" /f
+run regsvr32 /s /u "$(windows "$dll")" || fail "not removed beside the other width"
+run reg query "$machine\\Lumenote.CoBxRtf" || fail "the other width has lost its name"
+run reg query "$machine\\$library" || fail "the other width has lost its library"
+! run reg query "$machine\\$class" || fail "the class stays"
+run reg delete "$machine\\Wow6432Node\\$class" /f
+
+# For one user, as where the machine's classes cannot be written.
+run regsvr32 /s "$(windows "$dll")" || fail "not registered again"
+run regsvr32 /s /n /i:user "$(windows "$dll")" || fail "not registered for the user"
+for key in "$class\\InprocServer32" "$library\\1.0\\0\\win64"; do
+  run reg query "$user\\$key" /ve || fail "$key"
+  grep -q "$(basename "$dll")" "$work/out" || fail "$key has another path"
+done
+run regsvr32 /s /u /n /i:user "$(windows "$dll")" || fail "not removed for the user"
+! run reg query "$user\\$class" || fail "the user's class stays"
+run reg query "$machine\\$class" || fail "the machine's class is gone"
+run regsvr32 /s /n /i:user "$(windows "$dll")" || fail "not registered for both"
 run regsvr32 /s /u "$(windows "$dll")" || fail "not removed"
 classes >"$work/after"
 diff "$work/before" "$work/after" || fail "registration leaves a trace"
-
-# For one user, as where the machine's classes cannot be written.
-run regsvr32 /s /n /i:user "$(windows "$dll")" || fail "not registered for the user"
-for key in 'CLSID\{74F0C059-87F8-4559-8AF9-416FB22805CD}\InprocServer32' \
-  'TypeLib\{BB92CC6A-95F6-43C8-BA6C-7192433441A7}\1.0\0\win64'; do
-  run reg query "HKCU\\Software\\Classes\\$key" /ve || fail "$key"
-  grep -q "$(basename "$dll")" "$work/out" || fail "$key has another path"
-done
-run regsvr32 /s /u "$(windows "$dll")" || fail "not removed for the user"
-classes >"$work/after"
-diff "$work/before" "$work/after" || fail "a user's registration leaves a trace"
 echo PASS

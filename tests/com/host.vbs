@@ -1,4 +1,5 @@
-' A host in VBScript: properties in any order, the editor shown, the note read back, errors caught.
+' A host in VBScript: properties in any order, the editor shown, typed into and waited for, the note
+' read back, errors caught.   usage: host.vbs TYPIST
 ' Run as code page 1252. The last line printed is PASS; cscript hides uncaught errors.
 Option Explicit
 Dim failures : failures = 0
@@ -39,6 +40,14 @@ Expect "shown again", first.pStrOrchm = "de nouveau"
 Set second = Described(False)
 second.ShowMicroEdit
 Expect "in the other order", second.pStrOrchm = "Forêt"
+
+' A user of another program types meanwhile.
+second.pAttribut = ""
+second.pTitreFenêtre = "Attente VBScript"
+second.pStrOrchm = "note"
+CreateObject("WScript.Shell").Run """" & WScript.Arguments(0) & """ ""Attente VBScript"" ""Forêt, """
+second.ShowMicroEdit 1
+Expect "what was typed " & second.pStrOrchm, second.pStrOrchm = "Forêt, note"
 
 Dim value
 On Error Resume Next

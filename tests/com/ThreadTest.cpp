@@ -1,0 +1,64 @@
+// Several apartments: each uses its own controls; others reach them through the system's proxy
+// alone.
+#include <atomic>
+#include <thread>
+
+#include "ComHost.h"
+
+namespace lumenote {
+namespace {
+
+using ThreadTest = ComTest;
+
+constexpr HRESULT kWrongThread = MAKE_HRESULT(1, FACILITY_CONTROL, 5);
+
+TEST_F(ThreadTest, AnotherThreadIsRefused) {
+  const Control control = CreateWith(u"note");
+  HRESULT result = S_OK;
+  std::thread([&] { result = control->put_pNomAppli(nullptr); }).join();
+  EXPECT_EQ(result, kWrongThread);
+}
+
+TEST_F(ThreadTest, AProxyCarriesCallsAndErrors) {
+  const Control control = CreateWith(u"note");
+  IStream* passed = nullptr;
+  ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(kInterfaceId, control.Get(), &passed), S_OK);
+  std::atomic<bool> done = false;
+  std::u16string read, source;
+  HRESULT shown = S_OK;
+  std::thread other([&] {
+    const Apartment apartment;
+    Control proxy;
+    if (CoGetInterfaceAndReleaseStream(passed, kInterfaceId, proxy.OutVoid()) == S_OK) {
+      EXPECT_EQ(proxy->ShowMicroEdit(0), S_OK);
+      read = NoteOf(proxy);
+      proxy->put_pCouleurFen(Bstr(u"rouge").Get());
+      shown = proxy->ShowMicroEdit(0);
+    }
+    proxy = Control();
+    done = true;
+  });
+  const Meanwhile wake([] { return false; });
+  RunUntil([&] { return done.load(); });
+  other.join();
+  EXPECT_EQ(read, u"note");
+  EXPECT_EQ(shown, MAKE_HRESULT(1, FACILITY_CONTROL, 13));
+}
+
+TEST_F(ThreadTest, ApartmentsWorkAtOnce) {
+  constexpr int kThreads = 3, kRounds = 10;
+  const auto work = [] {
+    const Apartment apartment;
+    for (int i = 0; i < kRounds; ++i) {
+      const Control control = CreateWith(u"{\\rtf1 Abies \\b alba\\b0\\par Picea}");
+      EXPECT_EQ(control->ShowMicroEdit(0), S_OK);
+      EXPECT_NE(NoteOf(control).find(u"alba"), std::u16string::npos);
+    }
+  };
+  std::vector<std::thread> threads;
+  for (int i = 0; i < kThreads; ++i) threads.emplace_back(work);
+  for (std::thread& thread : threads) thread.join();
+}
+
+}  // namespace
+}  // namespace lumenote
