@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes src/rtf/codepages/DoubleByteTables.cpp: the double-byte code pages, packed.
+"""Writes src/base/codepages/DoubleByteTables.cpp: the double-byte code pages, packed.
 
-    tools/double_byte_pages.py > src/rtf/codepages/DoubleByteTables.cpp
+    tools/double_byte_pages.py > src/base/codepages/DoubleByteTables.cpp
 
 The pages come from Python's own codecs. Each is the list of its characters by rising lead byte
 (0x81 to 0xFE), then by rising trail byte (0x31 to 0xFE), written as differences; the C++ side of
@@ -85,7 +85,7 @@ def packed(cells):
 
 def main():
     print("// The double-byte code pages, packed. Made by tools/double_byte_pages.py: not to be edited.")
-    print('#include "rtf/codepages/DoubleBytePage.h"\n\nnamespace lumenote {\n')
+    print('#include "base/codepages/DoubleBytePage.h"\n\nnamespace lumenote {\n')
     print("// clang-format off")
     print("const PackedPage kDoubleBytePages[5] = {")
     for number, codec in PAGES:

@@ -46,7 +46,7 @@ class Drag(Notes):
         self.host.waits_for("text 1", " deux trois")
         self.assertEqual(self.host.ask("undo 1"), "2")
         [line] = self.dropped(other)
-        self.assertRegex(line, r"^/un/ /\{\\rtf1.* un\}\\n/$")
+        self.assertRegex(line, r"^/un/ /\{\\rtf1.* un\}\\n/ /<!DOCTYPE html>.*>un</p>.*/$")
         self.keys(self.note, "ctrl+z")
         self.host.waits_for("text 1", TEXT)
 

@@ -30,8 +30,8 @@ class Target : public QWidget {
   void dropEvent(QDropEvent* event) override {
     Choose(*event);
     const QMimeData& data = *event->mimeData();
-    std::cout << OnOneLine(data.text().toUtf8()) << " " << OnOneLine(data.data("text/rtf"))
-              << std::endl;
+    std::cout << OnOneLine(data.text().toUtf8()) << " " << OnOneLine(data.data("text/rtf")) << " "
+              << OnOneLine(data.data("text/html")) << std::endl;
     if (manner_ == QLatin1String("late")) event->ignore();
   }
 

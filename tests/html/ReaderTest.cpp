@@ -34,17 +34,18 @@ TEST(HtmlReader, Selections) {
 }
 
 TEST(HtmlReader, Bytes) {
-  constexpr std::string_view kUtf8 = "<meta charset=utf-8>\xC3\xA9";
-  EXPECT_EQ(DecodeHtml("\xEF\xBB\xBF\xC3\xA9"), u"é");
-  EXPECT_EQ(DecodeHtml("\xE9"), u"é");
-  EXPECT_EQ(DecodeHtml("\xC3\xA9"), u"é");
-  EXPECT_EQ(DecodeHtml(kUtf8).back(), u'é');
-  EXPECT_EQ(DecodeHtml("<META CONTENT='text/html; Charset=\"UTF-8\"'>\xFF").back(), u'\uFFFD');
-  EXPECT_EQ(DecodeHtml(std::string_view("\xFF\xFE"
-                                        "<\0"
-                                        "a\0",
-                                        6)),
-            u"<a");
+  constexpr std::pair<std::string_view, char16_t> kRows[] = {
+      {"\xEF\xBB\xBF<meta charset=windows-1251>\xC3\xA9", u'é'},
+      {"\xE9", u'é'},
+      {"\xC3\xA9", u'é'},
+      {"<meta charset=utf-8>\xC3\xA9", u'é'},
+      {"<META CONTENT='text/html; Charset=\"UTF-8\"'>\xFF", u'\uFFFD'},
+      {"<meta charset=' Windows-1251 '>\xE9", u'й'},
+      {"<title>\xE9</title><meta content=charset=shift_jis>\x83\x5C", u'ソ'},
+      {"<!-- <meta charset=big5> --><meta charset=nonsense>\xE9", u'é'},
+      {{"\xFF\xFE<\0a\0", 6}, u'a'},
+  };
+  for (const auto& [bytes, last] : kRows) EXPECT_EQ(DecodeHtml(bytes).back(), last) << bytes;
 }
 
 /// `piece` until the source is long.

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "document/formats/Formats.h"
-#include "rtf/codepages/CodePage.h"
+#include "base/codepages/CodePage.h"
 #include "rtf/read/ItemKeeper.h"
 
 namespace lumenote {

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "rtf/codepages/CodePage.h"
+#include "base/codepages/CodePage.h"
 
 namespace lumenote {
 

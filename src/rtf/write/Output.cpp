@@ -8,7 +8,7 @@
 #include <cstring>
 #include <type_traits>
 
-#include "rtf/codepages/CodePage.h"
+#include "base/codepages/CodePage.h"
 #include "rtf/source/PlainText.h"
 
 namespace lumenote {

@@ -7,7 +7,7 @@
 
 #include "base/Strings.h"
 #include "base/Windows1252.h"
-#include "rtf/codepages/CodePage.h"
+#include "base/codepages/CodePage.h"
 
 namespace lumenote {
 namespace {

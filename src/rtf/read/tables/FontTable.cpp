@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "base/Strings.h"
-#include "rtf/codepages/CodePage.h"
+#include "base/codepages/CodePage.h"
 
 namespace lumenote {
 namespace {

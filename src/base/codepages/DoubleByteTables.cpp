@@ -1,5 +1,5 @@
 // The double-byte code pages, packed. Made by tools/double_byte_pages.py: not to be edited.
-#include "rtf/codepages/DoubleBytePage.h"
+#include "base/codepages/DoubleBytePage.h"
 
 namespace lumenote {
 

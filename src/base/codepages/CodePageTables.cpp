@@ -1,7 +1,7 @@
 // Upper halves of the single-byte code pages: one unit for each byte from 0x80. An undefined byte
 // maps to the C1 control of the same number below 0xA0, else to U+FFFD. All but plain printable
 // letters and signs (controls, spaces, marks, right-to-left scripts) are written as escapes.
-#include "rtf/codepages/CodePageTables.h"
+#include "base/codepages/CodePageTables.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "base/Rows.h"
-#include "rtf/codepages/CodePage.h"
-#include "rtf/codepages/CodePageTables.h"
+#include "base/codepages/CodePage.h"
+#include "base/codepages/CodePageTables.h"
 
 namespace lumenote {
 namespace {

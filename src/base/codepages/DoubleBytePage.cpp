@@ -3,7 +3,7 @@
 // A packed page is a sequence of items of one or more digits, which fill the cells in order: a
 // small step forward from the last character, a two-digit step in either direction, a run of
 // consecutive characters, a gap of empty cells, or a character by its number.
-#include "rtf/codepages/DoubleBytePage.h"
+#include "base/codepages/DoubleBytePage.h"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,11 @@
 // Table-driven decoding.
-#include "rtf/codepages/CodePage.h"
+#include "base/codepages/CodePage.h"
 
 #include <array>
 
 #include "base/Strings.h"
-#include "rtf/codepages/CodePageTables.h"
-#include "rtf/codepages/DoubleBytePage.h"
+#include "base/codepages/CodePageTables.h"
+#include "base/codepages/DoubleBytePage.h"
 
 namespace lumenote {
 namespace {
