@@ -92,6 +92,10 @@ void HtmlInterpreter::ReadAttributes(const HtmlElement& element, const HtmlToken
     if (const auto* face = Attribute(tag, "face")) ReadFontFamily(*face, formats_, change);
     if (const auto* size = Attribute(tag, "size")) change.size = SizeOf(*size);
   }
+  // Word processors state the margins of their paragraphs in a style sheet.
+  if (const auto* name = Attribute(tag, "class");
+      name && element.kind == Kind::Paragraph && name->starts_with(u"Mso"))
+    change.above = change.below = CssLength();
   if (const int width = NumberOf(tag, "width", 0); width > 0)
     change.width = CssLength{static_cast<double>(width) * kTwipsPerPixel};
   if (const auto* address = Attribute(tag, "href");

@@ -91,7 +91,7 @@ void NoteText::BeforeContent(const Look& look) {
 
 void NoteText::Append(std::u16string_view text, const CharFormat& format) {
   builder_.Append(text, formats_.characters.Intern(format));
-  open_->character = format;
+  if (format.kept == 0) open_->character = format;  // what ends the paragraph is in no link
 }
 
 CharId NoteText::Plain(CharFormat format) {

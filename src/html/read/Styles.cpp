@@ -238,6 +238,7 @@ constexpr Property kProperties[] = {
     {"mso-list", MsoList},
     {"mso-spacerun", SpaceRun},
     {"mso-tab-count", TabCount},
+    {"padding-inline-start", PaddingLeft},
     {"padding-left", PaddingLeft},
     {"text-align", ReadAlignment},
     {"text-decoration", TextDecoration},

@@ -70,7 +70,8 @@ std::optional<ReadNumber> ReadListNumber(std::u16string_view text, char style) {
   if (!text.ends_with(u'.')) return std::nullopt;
   text.remove_suffix(1);
   const std::u16string lower = Lower(text);
-  for (const char one : {style, lower == u"i" ? 'i' : 'a', 'I', '1', 'A', 'i'}) {
+  const bool roman = lower == u"i" || lower.size() > 1;
+  for (const char one : {style, roman ? 'i' : 'a', roman ? 'I' : 'A', '1', 'a', 'A', 'i', 'I'}) {
     const int number = ValueOf(one == 'A' || one == 'I' ? lower : std::u16string(text), one);
     if (number > 0 && ListNumber(number, one) == std::u16string(text) + u'.')
       return ReadNumber{number, one};

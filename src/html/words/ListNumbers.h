@@ -13,8 +13,8 @@ struct ReadNumber {
   int number = 0;
   char style = '1';
 };
-/// The number that such a text shows, preferably in `style`; "i." alone is Roman. Empty for a text
-/// that shows none.
+/// The number that such a text shows, preferably in `style`; "i." and several letters are Roman if
+/// they can be. Empty for a text that shows none.
 std::optional<ReadNumber> ReadListNumber(std::u16string_view text, char style);
 
 }  // namespace lumenote

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <memory>
 
-#include "document/formats/Formats.h"
 #include "base/codepages/CodePage.h"
+#include "document/formats/Formats.h"
 #include "rtf/read/ItemKeeper.h"
 
 namespace lumenote {
