@@ -19,9 +19,9 @@ std::string Named(const CharFormat& format, const FormatTables& tables) {
     if (format.effects >> i & 1) names.append(" ").append(kEffects[i]);
   if (format.effects & kSuperscript) names += " sup";
   if (format.effects & kSubscript) names += " sub";
-  if (format.font != kBase.font) names += " " + ToUtf8(tables.fonts[format.font].name);
+  if (format.stated & kStatesFont) names += " " + ToUtf8(tables.fonts[format.font].name);
   Name(names, "u", static_cast<int>(format.underline), 0);
-  Name(names, "", format.size, kBase.size);
+  if (format.stated & kStatesSize) Name(names, "", format.size, 0);
   Name(names, "colour", format.colour, kAutoColour);
   Name(names, "back", format.highlight, kAutoColour);
   Name(names, "spacing", format.spacing, 0);

@@ -25,8 +25,7 @@ Document Again(const Document& note) {
 }
 
 TEST(HtmlWriter, WritesAs) {
-  constexpr std::string_view kPlain =
-      "<p style=\"margin-top:0pt;margin-bottom:0pt;font-size:10pt;\">";
+  constexpr std::string_view kPlain = "<p style=\"margin-top:0pt;margin-bottom:0pt;\">";
   const auto body = [&](std::string html) {
     return Replaced(Replaced(Body(ReadPage(html)), kPlain, "◊"), "\n", "␊");
   };

@@ -26,6 +26,7 @@ HtmlInterpreter::HtmlInterpreter(std::u16string_view source, FormatTables& forma
                                  const CharFormat& base)
     : tokens_(source), formats_(formats), text_(formats) {
   look_.character = base;
+  look_.character.stated = 0;
 }
 
 Fragment HtmlInterpreter::Read(HtmlTarget target) {

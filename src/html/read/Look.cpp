@@ -40,12 +40,16 @@ void LookChange::ApplyTo(Look& look) const {
   if (size) {
     const int halfPoints = size->Twips(character) / kTwipsPerHalfPoint;
     character.size = static_cast<std::uint16_t>(std::clamp(halfPoints, 1, kMaxSize));
+    character.stated |= kStatesSize;
+  }
+  if (font) {
+    character.font = *font;
+    character.stated |= kStatesFont;
   }
   constexpr int kRaised = kSuperscript | kSubscript;
   if (on & kRaised) character.effects = static_cast<std::uint16_t>(character.effects & ~kRaised);
   character.effects = static_cast<std::uint16_t>((character.effects | on) & ~off);
   character.underline = underline.value_or(character.underline);
-  character.font = font.value_or(character.font);
   character.colour = colour.value_or(character.colour);
   character.highlight = highlight.value_or(character.highlight);
   character.kept = kept.value_or(character.kept);

@@ -15,7 +15,8 @@ enum class HtmlTarget {
 
 /// Accepts any text: what is no HTML is text, unknown elements are read through. Takes time and
 /// memory proportional to the source. Interns formats in `formats`. Throws only if an allocation
-/// fails. `base` is the format of text about which the source says nothing.
+/// fails. `base` is the format of text about which the source says nothing; its font and size stay
+/// unstated.
 Fragment ReadHtml(std::u16string_view html, FormatTables& formats, HtmlTarget target,
                   const CharFormat& base);
 

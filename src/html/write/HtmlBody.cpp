@@ -106,8 +106,7 @@ void HtmlBody::Paragraph(const HtmlParagraph& paragraph) {
   Position start = paragraph.start;
   const std::optional<ListMark> mark = MarkOf(paragraph, start);
   const bool empty = start == paragraph.end;
-  const CharFormat& around =
-      tables_.characters[empty ? paragraph.ender : document_.CharFormatAt(start)];
+  const CharFormat around = CommonFormat(start, paragraph);
   if (!mark) lists_.Close();
   if (!mark && empty && IsRule(format)) return void(out_ += "<hr>\n");
   if (mark) lists_.BeginItem(*mark, format.firstIndent + format.hangingIndent);
@@ -119,6 +118,17 @@ void HtmlBody::Paragraph(const HtmlParagraph& paragraph) {
   else
     Text(start, paragraph.end, around);
   out_ += mark ? "</p>" : "</p>\n";
+}
+
+/// The format of the first character, of which all characters state what it states; of an empty
+/// paragraph, that of its end.
+CharFormat HtmlBody::CommonFormat(Position start, const HtmlParagraph& paragraph) const {
+  if (start == paragraph.end) return tables_.characters[paragraph.ender];
+  CharFormat common = tables_.characters[document_.CharFormatAt(start)];
+  document_.ForEachRun(start, paragraph.end, [&](Position, TextView, CharId format) {
+    common.stated &= tables_.characters[format].stated;
+  });
+  return common;
 }
 
 /// The bullet or number before the text, which then begins behind it.
@@ -144,7 +154,9 @@ bool HtmlBody::IsRule(const ParaFormat& format) const {
 // --- text
 
 void HtmlBody::Text(Position from, Position to, const CharFormat& around) {
-  if (around.font != around_.font || around.size != around_.size) known_.clear();
+  const bool same =
+      around.font == around_.font && around.size == around_.size && around.stated == around_.stated;
+  if (!same) known_.clear();
   around_ = around;
   const std::u16string text = document_.Text(from, to);
   document_.ForEachRun(from, to, [&](Position at, TextView run, CharId format) {

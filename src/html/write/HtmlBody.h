@@ -30,6 +30,7 @@ class HtmlBody {
 
   // Paragraphs.
   void Paragraph(const HtmlParagraph& paragraph);
+  CharFormat CommonFormat(Position start, const HtmlParagraph& paragraph) const;
   std::optional<ListMark> MarkOf(const HtmlParagraph& paragraph, Position& textStart) const;
   bool IsRule(const ParaFormat& format) const;
 

@@ -59,10 +59,15 @@ void DeclareFont(std::u16string_view name, std::string& style) {
   if (!quoted.empty()) Declare("font-family", "'" + ToUtf8(quoted) + "'", style);
 }
 
+/// Font and size, where they are stated and `around` does not state the same.
 void DeclareFontAndSize(const CharFormat& format, const CharFormat& around,
                         const FormatTables& tables, std::string& style) {
-  if (format.font != around.font) DeclareFont(tables.fonts[format.font].name, style);
-  if (format.size != around.size)
+  const auto declares = [&](CharStated what, bool same) {
+    return (format.stated & what) != 0 && !((around.stated & what) != 0 && same);
+  };
+  if (declares(kStatesFont, format.font == around.font))
+    DeclareFont(tables.fonts[format.font].name, style);
+  if (declares(kStatesSize, format.size == around.size))
     Declare("font-size", Decimal(std::int64_t{format.size} * 50) + "pt", style);
 }
 
@@ -142,7 +147,7 @@ std::string ItemStyle(const ParaFormat& format, const CharFormat& text,
     Declare("text-align", kAlignments[static_cast<std::size_t>(format.alignment)], style);
   if (format.rightToLeft != 0) Declare("direction", "rtl", style);
   DeclareLines(format, style);
-  DeclareFontAndSize(text, {.size = 0}, tables, style);
+  DeclareFontAndSize(text, {.stated = 0}, tables, style);
   return style;
 }
 

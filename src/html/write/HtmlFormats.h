@@ -13,7 +13,7 @@ struct HtmlTags {
 };
 
 /// What gives text its format. `around` is the format of the paragraph's element, which states font
-/// and size; a link's text is blue and underlined unless told otherwise.
+/// and size, if its format does; a link's text is blue and underlined unless told otherwise.
 HtmlTags TagsOf(const CharFormat& format, const CharFormat& around, bool inLink,
                 const FormatTables& tables);
 

@@ -68,7 +68,7 @@ void Transfer::LoadRtf(std::string_view bytes) {
 
 void Transfer::LoadHtml(std::string_view bytes) {
   FormatTables& formats = core_.Formats();
-  Fragment whole = ReadHtml(DecodeHtml(bytes), formats, HtmlTarget::Document, OwnFormat());
+  Fragment whole = ReadHtml(DecodeHtml(bytes), formats, HtmlTarget::Document, base_);
   whole.mark->head = OwnHead(base_, formats);
   LoadWhole(whole, base_.font);
 }
@@ -179,8 +179,7 @@ Fragment Transfer::FragmentOf(const ClipboardContent& content) {
   if (content.rtf && LooksLikeRtf(*content.rtf))
     fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, unstated_);
   if (fragment.Length() == 0 && content.html)
-    fragment =
-        ReadHtml(FromUtf8(*content.html), core_.Formats(), HtmlTarget::Selection, OwnFormat());
+    fragment = ReadHtml(FromUtf8(*content.html), core_.Formats(), HtmlTarget::Selection, unstated_);
   if (fragment.Length() == 0 && content.text) fragment = text_.Plain(*content.text);
   return fragment;
 }
