@@ -130,6 +130,12 @@ TEST_F(FormsTest, KeysMoveChooseAndClick) {
     EXPECT_EQ(Default(), row.shownAsDefault) << row.focus;
   }
   EXPECT_EQ(Peer().Differences(), std::vector<std::string>());
+  form.one.SetFocus();
+  const HWND other = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr,
+                                     nullptr, nullptr, nullptr);
+  for (const HWND window : {other, Peer().Handle()}) SetActiveWindow(window);
+  EXPECT_EQ(GetFocus(), WindowOf(form.one));
+  DestroyWindow(other);
 }
 
 TEST_F(FormsTest, OnlyAChoiceFromTheOpenListIsOne) {
@@ -195,6 +201,10 @@ TEST_F(FormsTest, ArrowsLeadFromOneMenuOfTheBarToTheNext) {
     EXPECT_EQ(form.told, row.chosen) << row.keys.size();
     EXPECT_EQ(GetFocus(), WindowOf(form.name)) << row.chosen;
   }
+  Reset();
+  for (const WORD key : {VK_DOWN, VK_RETURN}) Press({key});
+  form.PopUp(form.edit, form.name, {100, 100});
+  EXPECT_EQ(form.told, "cut");
   Reset();
   for (const WORD key : {VK_F10, VK_RIGHT, VK_RIGHT, VK_DOWN, VK_DOWN, VK_RETURN}) Press({key});
   Pump();
@@ -299,6 +309,24 @@ TEST_F(FormsTest, AnotherResolutionLaysTheWindowOutAnew) {
     EXPECT_EQ(Peer().Differences(), std::vector<std::string>());
   }
   EXPECT_EQ(form.Width(), 6000);
+}
+
+TEST_F(FormsTest, TheGroundFollowsTheSystemsColours) {
+  const HWND label = WindowOf(form.title);
+  const int face = COLOR_BTNFACE;
+  const COLORREF before = GetSysColor(face);
+  for (const COLORREF colour : {COLORREF{RGB(10, 20, 30)}, before}) {
+    SetSysColors(1, &face, &colour);
+    Pump();
+    const DcScope dc(label);
+    const LRESULT brush =
+        SendMessageW(GetParent(label), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.Get()),
+                     reinterpret_cast<LPARAM>(label));
+    LOGBRUSH ground = {};
+    GetObjectW(reinterpret_cast<HGDIOBJ>(brush), sizeof ground, &ground);
+    EXPECT_EQ(ground.lbColor, colour);
+    EXPECT_EQ(GetBkColor(dc.Get()), colour);
+  }
 }
 
 TEST_F(FormsTest, ControlsHaveVisualStylesWhateverTheHostAsksFor) {
