@@ -1,12 +1,14 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds for Windows (64 and 32 bits) and runs the 64-bit tests under wine.
-# Every program's output goes to build/windows-logs.      usage: ./test-windows.sh
+# Installs what is missing, builds for Windows (64 and 32 bits), runs the 64-bit tests under wine and
+# tests the package. Every program's output goes to build/windows-logs.      usage: ./test-windows.sh
 set -euo pipefail
 top=$(cd "$(dirname "$0")" && pwd)
 . "$top/scripts/packages.sh"
+. "$top/scripts/windows.sh"
 . "$top/scripts/wine.sh"
 x64=$top/build/windows-x64 x86=$top/build/windows-x86 logs=$top/build/windows-logs
-failures=0
+native_tool=$top/build/test/tools/lumenote/lumenote  # its output is what the scripts must print
+export top x64 logs native_tool
 
 step() {
   local name=$1 start=$SECONDS
@@ -16,61 +18,65 @@ step() {
 }
 
 fail() {
-  printf 'FAILED %s\n' "$1"
-  tail -n 20 "$2"
-  failures=$((failures + 1))
+  printf 'FAILED %s\n%s\n' "$1" "$(tail -n 20 "$2")"
+  echo "$1" >>"$logs/failures"
 }
 
-# build FOLDER TOOLCHAIN TESTS TARGET...
-build() {
-  local folder=$1 toolchain=$2 tests=$3
-  shift 3
-  cmake -S "$top" -B "$folder" -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMENOTE_QT=OFF \
-    -DLUMENOTE_TESTS="$tests" -DCMAKE_TOOLCHAIN_FILE="$top/cmake/toolchains/$toolchain.cmake" >/dev/null
-  cmake --build "$folder" -- --quiet "$@"
-}
+# usage: in_parallel COMMAND   for each line of the input
+in_parallel() { xargs -d '\n' -P "$(nproc)" -I{} bash -c "$1 "'"$1"' "$1" {}; }
 
-# The tool of this system, whose output is what the scripts must print.
-native_tool=$top/build/test/tools/lumenote/lumenote
 build_native_tool() {
-  [ -x "$native_tool" ] && return
   cmake -S "$top" -B "$top/build/test" -G Ninja -DCMAKE_BUILD_TYPE=Release >/dev/null
   cmake --build "$top/build/test" --target lumenote_tool -- --quiet
 }
 
-run_unit_tests() {
-  local program name
-  for program in "$x64"/tests/test_*.exe; do
-    name=$(basename "$program" .exe)
-    (cd "$top/tests" && wine "$program" >"$logs/$name.log" 2>&1 </dev/null) ||
-      fail "$name" "$logs/$name.log"
-    grep -ahE '^\[  (PASSED|SKIPPED)  \]' "$logs/$name.log" | sed "s/^/$name: /" || true
-  done
+unit_test() {
+  local name log
+  name=$(basename "$1" .exe) log=$logs/$(basename "$1" .exe).log
+  cd "$top/tests"
+  run_wine "$log" 900 "$1" || fail "$name" "$log"
+  grep -ahE '^\[  (PASSED|SKIPPED)  \]' "$log" | sed "s/^/$name: /" || true
 }
+run_unit_tests() { printf '%s\n' "$x64"/tests/test_*.exe | in_parallel unit_test; }
 
 # A script's output without carriage returns and the sandbox's folder.
 without_places() { tr -d '\r' <"$1" | sed -E 's#[^"\]*/lumenote-[A-Za-z0-9]{6}/#SANDBOX/#g'; }
 
-run_scripts() {
-  local script name count=0
-  for script in "$top"/tests/pilot/*.pilot; do
-    name=$(basename "$script" .pilot)
-    [ "$name" != letter-case ] || continue  # names differ by more than that here
-    "$native_tool" pilot "$script" >"$logs/$name.native" 2>&1 || true
-    wine "$x64/tools/lumenote/lumenote.exe" pilot "Z:${script//\//\\}" \
-      >"$logs/$name.wine" 2>&1 </dev/null || fail "$name.pilot" "$logs/$name.wine"
-    diff <(without_places "$logs/$name.native") <(without_places "$logs/$name.wine") >"$logs/$name.diff" ||
-      fail "$name.pilot prints something else" "$logs/$name.diff"
-    wine "$x64/hosts/microedit/microedit.exe" --pilot "Z:${script//\//\\}" \
-      >"$logs/$name.windows" 2>&1 </dev/null || fail "$name.pilot on native windows" "$logs/$name.windows"
-    count=$((count + 1))
-  done
-  printf '%d scripts\n' "$count"
+# A script prints under wine what it prints here.
+script() {
+  local name log
+  name=$(basename "$1") log=$logs/$(basename "$1" .pilot)
+  "$native_tool" pilot "$1" >"$log.native" 2>&1 || true
+  run_wine "$log.wine" 120 "$x64/tools/lumenote/lumenote.exe" pilot "Z:${1//\//\\}" ||
+    fail "$name" "$log.wine"
+  diff <(without_places "$log.native") <(without_places "$log.wine") >"$log.diff" ||
+    fail "$name prints something else" "$log.diff"
+}
+script_on_windows() {
+  local log
+  log=$logs/$(basename "$1" .pilot).windows
+  run_wine "$log" 120 "$x64/hosts/microedit/microedit.exe" --pilot "Z:${1//\//\\}" ||
+    fail "$(basename "$1") on native windows" "$log"
+}
+
+# Names that differ in letter case alone are one name here, so that script has nothing to say.
+scripts() { ls "$top"/tests/pilot/*.pilot | grep -v /letter-case.pilot; }
+
+run_scripts() { scripts | in_parallel script; }
+# One after the other: they share the focus and the mouse.
+run_scripts_on_windows() {
+  local path
+  scripts | while read -r path; do script_on_windows "$path"; done
 }
 
 # Lumenote.dll, registered, in hosts of several languages.
 run_com_hosts() {
-  "$top/tests/com/com_test.sh" "$x64" >"$logs/com.log" 2>&1 || fail com "$logs/com.log"
+  timeout 900 "$top/tests/com/com_test.sh" "$x64" >"$logs/com.log" 2>&1 || fail com "$logs/com.log"
+}
+
+test_package() {
+  timeout 1800 "$top/packaging/windows_test.sh" >"$logs/package.log" 2>&1 || fail package "$logs/package.log"
+  grep -a '\.zip' "$logs/package.log" || true
 }
 
 # Hosts look for these names, undecorated.
@@ -81,6 +87,21 @@ check_exports() {
     for name in CanUnloadNow GetClassObject Install RegisterServer UnregisterServer; do
       grep -qE "\] Dll$name\$" "$logs/exports" || fail "no Dll$name in $folder" "$logs/exports"
     done
+  done
+}
+
+# The DLL of each width carries the type library of that width.
+check_type_libraries() {
+  local width
+  for width in x64 x86; do
+    x86_64-w64-mingw32-objcopy -O binary -j .rsrc "$top/build/windows-$width/hosts/com/Lumenote.dll" \
+      "$logs/resources"
+    python3 - "$logs/resources" "$top/hosts/com/typelib/Lumenote-$width.tlb" <<'END' ||
+import sys
+resources, library = (open(path, "rb").read() for path in sys.argv[1:])
+sys.exit(library not in resources)
+END
+      fail "type library of $width" /dev/null
   done
 }
 
@@ -95,16 +116,22 @@ check_imports() {
   done
 }
 
+export -f fail run_wine unit_test without_places script
 mkdir -p "$logs"
-step "Packages" ensure_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}"
+: >"$logs/failures"
+step "Packages" ensure_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" \
+  "${WINE_PACKAGES[@]}"
 step "This system's tool" build_native_tool
-step "Build, 64 bits" build "$x64" windows-x64 ON
-step "Build, 32 bits" build "$x86" windows-x86 OFF
+step "Build, 64 bits" build_windows x64 all
+step "Build, 32 bits" build_windows x86 all
 step "Imports" check_imports
 step "Exports" check_exports
+step "Type libraries" check_type_libraries
 trap stop_wine EXIT
 step "wine" start_wine "$top/build/windows-prefix"
 step "Unit tests" run_unit_tests
 step "Scripts" run_scripts
+step "Scripts on native windows" run_scripts_on_windows
 step "Hosts of the control" run_com_hosts
-[ "$failures" -eq 0 ]
+step "Package" test_package
+[ ! -s "$logs/failures" ]

@@ -1,4 +1,4 @@
-# Sourced by run.sh, test.sh, test-windows.sh and .ci/run: installs the Debian packages that are missing.
+# Sourced by run.sh, test.sh, test-windows.sh, packaging/windows.sh and .ci/run: installs the Debian packages that are missing.
 # usage: ensure_packages PACKAGE...
 
 ensure_packages() {
@@ -22,6 +22,6 @@ BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev libxcb1-dev
 FONT_PACKAGES=(fonts-liberation fonts-dejavu-core fontconfig)
 # With abiword (15 MB) a real word processor takes part in the tests too; without it they skip that.
 TEST_PACKAGES=(libgtest-dev python3 xvfb xauth openbox xdotool x11-utils procps)
-WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine64 wine
-  googletest)
-CHECK_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev)
+WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
+WINE_PACKAGES=(wine64 wine)
+CHECK_PACKAGES=(ccache clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev)

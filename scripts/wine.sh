@@ -2,15 +2,21 @@
 
 # usage: start_wine PREFIX
 start_wine() {
+  local name
   # File names are UTF-8 only where the locale says so.
   export WINEPREFIX=$1 WINEDEBUG=-all LC_ALL=C.UTF-8
   # No installers of other run-times, no debugger's box, no entries in the user's menus.
   export WINEDLLOVERRIDES='mscoree,mshtml=;winedbg.exe=d;winemenubuilder.exe=d'
   unset DISPLAY WAYLAND_DISPLAY
   mkdir -p "$WINEPREFIX"
+  # In memory, where that can be: the tests make thousands of files.
+  WINE_TEMPORARY=$(mktemp -d /dev/shm/wine-XXXXXX 2>/dev/null || mktemp -d)
   {
     wine wineboot --init
     wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
+    for name in TEMP TMP; do
+      wine reg add 'HKCU\Environment' /v $name /d "Z:${WINE_TEMPORARY//\//\\}" /f
+    done
     # Only a new start takes the driver; without it no window can be made.
     wineserver -k
     wineserver -w
@@ -20,4 +26,15 @@ start_wine() {
   wine wineboot >/dev/null 2>&1 </dev/null
 }
 
-stop_wine() { wineserver -k >/dev/null 2>&1 </dev/null || true; }
+stop_wine() {
+  wineserver -k >/dev/null 2>&1 </dev/null || true
+  [ -z "${WINE_TEMPORARY:-}" ] || rm -rf "$WINE_TEMPORARY"
+}
+
+# usage: run_wine OUTPUT SECONDS COMMAND...   its output in that file: a program that wine starts would
+# keep a pipe open
+run_wine() {
+  local output=$1 seconds=$2
+  shift 2
+  timeout "$seconds" wine "$@" >"$output" 2>&1 </dev/null
+}
