@@ -1,5 +1,6 @@
 #include "document/KeptEdits.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -131,6 +132,13 @@ CharId WithCellFormat(CharId format, FormatTables& tables, const Document::ParaM
   if (kept.kind != Kept::Kind::Cell) return format;
   kept.paragraph = map(kept.paragraph);
   return WithKept(format, kept, tables);
+}
+
+void LeaveScripts(CharFormat& format, FormatTables& tables) {
+  std::vector<KeptWord> words = tables.words.List(format.words);
+  words.erase(std::ranges::find_if(words, IsScript), words.end());
+  std::erase_if(words, [](KeptWord word) { return word.kind == KeptWord::Kind::Font; });
+  format.words = tables.words.Chain(std::move(words));
 }
 
 void LeaveList(ParaFormat& format, FormatTables& tables) {

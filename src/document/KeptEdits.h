@@ -2,7 +2,7 @@
 //
 // An item moves with its character, with three exceptions: the start of a page, column or section
 // stays in place, whatever happens to the text after it; text typed inside a field joins the field;
-// and a paragraph whose bullet is switched leaves its list.
+// and a paragraph whose bullet is switched leaves its list. A font is set for all scripts.
 #pragma once
 #include <functional>
 
@@ -32,6 +32,9 @@ KeptId KeptOfTyping(const Document& document, Position position);
 /// The format of a character with `map` applied to the paragraph format of the table cell that the
 /// character ends, if any.
 CharId WithCellFormat(CharId format, FormatTables& tables, const Document::ParaMap& map);
+
+/// Removes what is said of single scripts from a run.
+void LeaveScripts(CharFormat& format, FormatTables& tables);
 
 /// Removes the paragraph from its list.
 void LeaveList(ParaFormat& format, FormatTables& tables);

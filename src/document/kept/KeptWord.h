@@ -16,6 +16,7 @@ struct KeptWord {
     Script,      // the same for a script: \loch, \dbch
     HighScript,  // \hich
     Numbering,   // not a word but the group that numbers the paragraph
+    Font         // not a word but the place among the markers where the run's own font is said
   };
   NameId name : 24 = 0;
   Kind kind : 8 = Kind::Bare;
@@ -25,6 +26,9 @@ struct KeptWord {
 };
 static_assert(std::has_unique_object_representations_v<KeptWord>);
 
+inline bool IsScript(KeptWord word) {
+  return word.kind == KeptWord::Kind::Script || word.kind == KeptWord::Kind::HighScript;
+}
 inline bool IsMark(KeptWord word) {
   return word.kind >= KeptWord::Kind::Direction && word.kind <= KeptWord::Kind::HighScript;
 }

@@ -64,7 +64,9 @@ CharFormat& Interpreter::StatedCharacter(CharStated attribute) {
 void Interpreter::Font(int, const Token& word) {
   const SourceFont* font = fonts_.Find(word.number);
   if (!font) return;
-  StatedCharacter(kStatesFont).font = font->font;
+  CharFormat& format = StatedCharacter(kStatesFont);
+  format.font = font->font;
+  format.words = words_.WithFont(format.words);
   State().page = CodePage(font->page ? font->page : documentPage_);
 }
 

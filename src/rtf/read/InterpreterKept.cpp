@@ -49,7 +49,8 @@ void Interpreter::KeepStyle(int, const Token& word) {
 void Interpreter::KeepMark(int value, const Token& word) {
   if (target_ == RtfTarget::Selection) return;
   const auto kind = static_cast<KeptWord::Kind>(value);
-  EditCharacter().words = words_.WithMark(word, kind, State().character.words);
+  CharFormat& format = EditCharacter();
+  format.words = words_.WithMark(word, kind, (format.stated & kStatesFont) != 0, format.words);
 }
 
 void Interpreter::KeepAssociated(int, const Token& word) {

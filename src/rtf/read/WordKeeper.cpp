@@ -17,7 +17,7 @@ using Kind = KeptWord::Kind;
 using Words = std::vector<KeptWord>;
 using Iterator = Words::iterator;
 
-bool IsScript(KeptWord word) { return word.kind == Kind::Script || word.kind == Kind::HighScript; }
+bool IsFont(KeptWord word) { return word.kind == Kind::Font; }
 
 struct Part {
   Iterator begin, end;
@@ -46,7 +46,8 @@ WordsId WordKeeper::With(const Token& word, WordsId words) {
   if (name == 0) return words;
   Words all = formats_.words.List(words);
   if (!MayRepeat(word.text)) std::erase_if(all, [=](KeptWord w) { return w.name == name; });
-  all.push_back(Numbered(name, word));
+  const auto ofParts = [](KeptWord w) { return IsMark(w) || IsFont(w); };
+  all.insert(std::ranges::find_if(all, ofParts), Numbered(name, word));
   return Number(std::move(all), words);
 }
 
@@ -58,10 +59,11 @@ WordsId WordKeeper::WithNumbering(const std::string& group, WordsId words) {
   return Number(std::move(all), words);
 }
 
-WordsId WordKeeper::WithMark(const Token& mark, KeptWord::Kind kind, WordsId words) {
+WordsId WordKeeper::WithMark(const Token& mark, KeptWord::Kind kind, bool hasFont, WordsId words) {
   mark_ = Name(mark);
   if (mark_ == 0) return words;
   Words all = formats_.words.List(words);
+  if (hasFont && std::ranges::none_of(all, IsMark)) all.push_back({.kind = Kind::Font});
   const Part part = PartOf(mark_, all);
   Words moved(part.begin, part.end);
   if (moved.empty()) moved.push_back({.name = mark_, .kind = kind});
@@ -81,6 +83,16 @@ WordsId WordKeeper::WithAssociated(const Token& word, WordsId words) {
       std::find_if(part.begin, part.end, [=](KeptWord w) { return w.name == name; });
   if (same != part.end) part.end = all.erase(same) + (part.end - same - 1);
   all.insert(part.end, Numbered(name, word));
+  return Number(std::move(all), words);
+}
+
+WordsId WordKeeper::WithFont(WordsId words) {
+  if (words == 0) return words;
+  Words all = formats_.words.List(words);
+  if (std::ranges::none_of(all, IsMark)) return words;
+  std::erase_if(all, IsFont);
+  const Part part = PartOf(mark_, all);
+  all.insert(part.begin == part.end ? all.end() : part.end, {.kind = Kind::Font});
   return Number(std::move(all), words);
 }
 

@@ -24,10 +24,13 @@ class WordKeeper {
   // The look of other scripts is given in parts, each a marker and the words that apply to it:
   // first for directions, then for scripts. The last part of each kind applies to the run itself.
 
-  /// Makes that marker's part current and the last of its kind.
-  WordsId WithMark(const Token& mark, KeptWord::Kind kind, WordsId words);
+  /// Makes that marker's part current and the last of its kind. `hasFont` tells whether the run's
+  /// own font has been said.
+  WordsId WithMark(const Token& mark, KeptWord::Kind kind, bool hasFont, WordsId words);
   /// Adds a word to the current part.
   WordsId WithAssociated(const Token& word, WordsId words);
+  /// The run's own font is said in the current part.
+  WordsId WithFont(WordsId words);
   void LeavePart() { mark_ = 0; }
 
  private:

@@ -45,19 +45,34 @@ LineWords WordsOf(LineRule rule, int spacing) {
   }
 }
 
-/// The start of the last part if that is \hich's, else the end.
-WordsId HighPart(WordsId words, const FormatTables& tables) {
-  WordsId last = 0;
-  for (WordsId id = words; id != 0; id = tables.words[id].next)
-    if (IsMark(tables.words[id])) last = id;
-  return tables.words[last].kind == KeptWord::Kind::HighScript ? last : 0;
+/// What the kept words of a run say of the order in which it is written.
+struct WordOrder {
+  WordsId script = 0;    // the first marker of a script
+  bool hasFont = false;  // the own font has a place among the words
+  bool settled = true;   // a change of the run's own formats may follow as it is
+};
+
+WordOrder OrderOf(WordsId words, const FormatTables& tables) {
+  WordOrder order;
+  for (WordsId id = words; id != 0; id = tables.words[id].next) {
+    const KeptWord word = tables.words[id];
+    if (order.script == 0 && IsScript(word)) order.script = id;
+    if (word.kind == KeptWord::Kind::Font) order.hasFont = order.settled = true;
+    if (IsMark(word)) order.settled = word.kind != KeptWord::Kind::HighScript && !order.hasFont;
+  }
+  return order;
 }
 
-/// Writes the words of a run, up to `end`.
-void WriteWords(WordsId first, WordsId end, const FormatTables& tables, Output& out) {
+/// Writes the words of a run, up to `end`, and its font among them.
+void WriteWords(WordsId first, WordsId end, int font, const FormatTables& tables, Output& out) {
   tables.words.ForEach(first, end, [&](KeptWord word) {
     const std::string& name = tables.names[word.name];
-    word.kind == KeptWord::Kind::Numbered ? out.Word(name, word.number) : out.Word(name);
+    if (word.kind == KeptWord::Kind::Numbered)
+      out.Word(name, word.number);
+    else if (word.kind != KeptWord::Kind::Font)
+      out.Word(name);
+    else if (font >= 0)
+      out.Word("f", font);
   });
 }
 
@@ -140,12 +155,12 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 
 void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out) {
-  const WordsId high = HighPart(to.words, tables);
-  const bool rewords = from.words != to.words || high != 0;
+  const WordOrder order = OrderOf(to.words, tables);
+  const bool rewords = from.words != to.words || !order.settled;
   const bool anew = (rewords && from.words != 0) || TakesBack(from, to);
   const WrittenFormat& base = anew ? kPlain : from;
   if (anew) out.Reset();
-  if (anew || rewords) WriteWords(to.words, high, tables, out);
+  if (anew || rewords) WriteWords(to.words, order.script, to.font, tables, out);
   if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
   if (base.underline != to.underline)
     out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
@@ -154,11 +169,10 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   }
   for (std::size_t i = 0; i < to.numbers.size(); ++i)
     if (base.numbers[i] != to.numbers[i]) out.Word(kNumberWords[i].name, to.numbers[i]);
-  if (high == 0 && base.font != to.font) out.Word("f", to.font);
+  const bool fontWritten = order.hasFont && (anew || rewords);
+  if (!fontWritten && base.font != to.font) out.Word("f", to.font);
   if (base.size != to.size) out.Word("fs", to.size);
-  if (high == 0) return;
-  WriteWords(high, 0, tables, out);
-  if (to.font >= 0) out.Word("f", to.font);
+  if (anew || rewords) WriteWords(order.script, 0, to.font, tables, out);
 }
 
 std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables) {

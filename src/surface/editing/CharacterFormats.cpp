@@ -7,6 +7,7 @@
 #include "base/Characters.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "document/KeptEdits.h"
 
 namespace lumenote {
 
@@ -123,9 +124,10 @@ void CharacterFormats::FontName(std::u16string_view name) {
       [&](const CharFormat& format) {
         return (format.stated & kStatesFont) == 0 || fonts[format.font].name != name;
       },
-      [=](CharFormat& format) {
+      [&](CharFormat& format) {
         format.font = font;
         format.stated |= kStatesFont;
+        LeaveScripts(format, core_.Formats());
       });
 }
 
