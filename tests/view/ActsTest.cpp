@@ -7,6 +7,7 @@
 #include "view/Window.h"
 #include "view/acts/AccessibleText.h"
 #include "view/acts/TextDrag.h"
+#include "view/acts/TextWalk.h"
 #include "view/acts/ViewDrop.h"
 #include "view/acts/ViewInput.h"
 #include "view/acts/ViewKeys.h"
@@ -215,6 +216,39 @@ TEST(AccessibleTexts, TellUnitsAndEdit) {
   EXPECT_EQ(user.Shown(), u"une| deux trois¶quatre");
   text.Replace({0, 4}, u"");
   EXPECT_EQ(user.Shown(), u"|deux trois¶quatre");
+}
+
+TEST(TextWalks, GoFromUnitToUnit) {
+  User user;
+  user.Type(u"|un deux trois¶quatre¶");
+  const AccessibleText text(user.view);
+  const TextWalk walk(text);
+  struct Row {
+    TextUnit unit;
+    Selection from;
+    int count;
+    Selection to;
+    int moved;
+    Selection edge;  // where the range's start goes alone, and by how many units
+  };
+  const Row rows[] = {{TextUnit::Character, {0, 2}, 3, {3, 4}, 3, {3, 3}},
+                      {TextUnit::Character, {13, 15}, 1, {15, 16}, 1, {15, 1}},
+                      {TextUnit::Character, {21, 23}, 9, {21, 23}, 0, {23, 1}},
+                      {TextUnit::Word, {1, 2}, 1, {3, 8}, 1, {3, 1}},
+                      {TextUnit::Word, {10, 11}, -9, {0, 3}, -2, {0, -3}},
+                      {TextUnit::Line, {4, 5}, 1, {8, 15}, 1, {8, 1}},
+                      {TextUnit::Line, {16, 17}, 9, {23, 23}, 1, {23, 1}},
+                      {TextUnit::Paragraph, {3, 8}, 9, {23, 23}, 2, {23, 2}},
+                      {TextUnit::Paragraph, {20, 23}, -1, {0, 15}, -1, {15, -1}},
+                      {TextUnit::Run, {3, 8}, 0, {3, 8}, 0, {3, 0}},
+                      {TextUnit::All, {3, 8}, -1, {0, 23}, 0, {0, -1}}};
+  for (const Row& row : rows) {
+    const TextWalk::Step step = walk.Moved(row.from, row.unit, row.count);
+    EXPECT_EQ(step.range, row.to) << row.from.start;
+    EXPECT_EQ(step.count, row.moved) << row.from.start;
+    const TextWalk::Step edge = walk.EdgeMoved(row.from.start, row.unit, row.count);
+    EXPECT_EQ((Selection{edge.range.start, edge.count}), row.edge) << row.from.start;
+  }
 }
 
 }  // namespace

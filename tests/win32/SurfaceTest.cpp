@@ -1,77 +1,10 @@
 // The surface's window, driven by the messages that the system sends.
-#include <gtest/gtest.h>
-
-#include "backends/win32/toolkit/NativeText.h"
-#include "backends/win32/view/SurfaceWindow.h"
 #include "backends/win32/view/TransferData.h"
-#include "surface/UserBench.h"
 #include "view/Edits.h"
-#include "view/layout/PieceBreaker.h"
-
-// After the system's own header.
-#include <oleacc.h>
+#include "win32/SurfaceBench.h"
 
 namespace lumenote {
 namespace {
-
-class SurfaceWindowTest : public testing::Test {
- protected:
-  SurfaceWindowTest() {
-    callbacks.locked = [this] { return locked; };
-    callbacks.mouseUp = [this](const MouseEvent& event) { released.push_back(event); };
-    callbacks.key = [this](const KeyStroke& key) {
-      unused.push_back(key);
-      return true;
-    };
-    window = std::make_shared<SurfaceWindow>(top, surface, layouter, callbacks);
-    SetWindowPos(Handle(), nullptr, 0, 0, 300, 200, SWP_NOZORDER);
-    ShowWindow(top, SW_SHOW);
-    ShowWindow(Handle(), SW_SHOW);
-    SetFocus(Handle());
-  }
-  ~SurfaceWindowTest() override {
-    window->Detach();
-    window.reset();
-    DestroyWindow(top);
-  }
-
-  HWND Handle() const { return window->Handle(); }
-  LRESULT Send(UINT id, WPARAM w = 0, LPARAM l = 0) const {
-    return SendMessageW(Handle(), id, w, l);
-  }
-  void Put(std::u16string_view marked) {
-    surface.Text(Unmarked(marked));
-    const auto [anchor, caret] = MarksOf(marked);
-    surface.UserSelect(anchor, caret);
-    window->Settle();
-  }
-  std::string Shown() const {
-    return ToUtf8(Marked(surface.Text(), surface.Anchor(), surface.Caret()));
-  }
-  LPARAM PointOf(Position position) {
-    const PixelRect caret = window->Text().Pane().CaretAt(position).value_or(PixelRect());
-    return MAKELPARAM(static_cast<int>(caret.left) + 1, static_cast<int>(caret.top) + 4);
-  }
-  POINTL OnScreen(Position position) {
-    const LPARAM at = PointOf(position);
-    POINT point{LOWORD(at), HIWORD(at)};
-    ClientToScreen(Handle(), &point);
-    return {point.x, point.y};
-  }
-
-  bool locked = false;
-  std::vector<MouseEvent> released;
-  std::vector<KeyStroke> unused;
-  ViewCallbacks callbacks;
-  HWND top = CreateWindowExW(0, L"STATIC", L"Essai", WS_OVERLAPPEDWINDOW, 0, 0, 400, 300, nullptr,
-                             nullptr, nullptr, nullptr);
-  MemoryClipboard clipboard;
-  MemoryFiles files;
-  UniscribeLayouter layouter;
-  PieceBreaker breaker{layouter};
-  DocumentSurface surface{clipboard, files, breaker};
-  std::shared_ptr<SurfaceWindow> window;
-};
 
 TEST_F(SurfaceWindowTest, KeysAndCharactersEdit) {
   struct Row {
@@ -153,36 +86,6 @@ TEST_F(SurfaceWindowTest, DropsTextAndRtf) {
   effect = DROPEFFECT_COPY;
   target->Drop(data.get(), MK_LBUTTON, OnScreen(0), &effect);
   EXPECT_EQ(effect, DWORD{DROPEFFECT_NONE});
-}
-
-TEST_F(SurfaceWindowTest, TellsAssistivePrograms) {
-  Put(u"un^ de|ux¶trois");
-  EXPECT_EQ(Send(EM_GETSEL), MAKELRESULT(2, 5));
-  EXPECT_EQ(Send(EM_GETLINECOUNT), 2);
-  EXPECT_EQ(Send(EM_LINEINDEX, 1), 9);
-  EXPECT_EQ(Send(EM_LINELENGTH, 10), 5);
-  EXPECT_EQ(Send(EM_LINEFROMCHAR, static_cast<WPARAM>(-1)), 0);
-  EXPECT_EQ(Send(EM_CHARFROMPOS, 0, Send(EM_POSFROMCHAR, 4)), 4);
-  EXPECT_EQ(TextOf(Handle()), u"un deux\r\ntrois");
-  Send(EM_SETSEL, 3, 7);
-  EXPECT_EQ(Shown(), "un ^deux|¶trois");
-  void* found = nullptr;
-  ASSERT_EQ(AccessibleObjectFromWindow(Handle(), static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
-                                       &found),
-            S_OK);
-  const ComOwner<IAccessible> object(static_cast<IAccessible*>(found));
-  VARIANT self = {};
-  self.vt = VT_I4;
-  VARIANT answer = {};
-  EXPECT_EQ(object->get_accRole(self, &answer), S_OK);
-  EXPECT_EQ(answer.lVal, ROLE_SYSTEM_TEXT);
-  BSTR text = nullptr;
-  EXPECT_EQ(object->get_accValue(self, &text), S_OK);
-  EXPECT_EQ(std::wstring(text), L"un deux\r\ntrois");
-  SysFreeString(text);
-  locked = true;
-  EXPECT_EQ(object->get_accState(self, &answer), S_OK);
-  EXPECT_TRUE(answer.lVal & STATE_SYSTEM_READONLY);
 }
 
 /// What the window shows.

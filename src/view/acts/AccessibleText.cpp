@@ -3,11 +3,17 @@
 #include <algorithm>
 
 #include "base/Strings.h"
+#include "view/pane/RangeBoxes.h"
 
 namespace lumenote {
 
 std::u16string AccessibleText::Text(Selection range) const {
   return Content().Text(std::max(range.start, 0), std::max(range.end, 0));
+}
+
+Selection AccessibleText::Visible() const {
+  TextPane& pane = view_.Pane();
+  return {pane.PositionAt({0, 0}), pane.PositionAt({pane.Size().width, pane.Size().height})};
 }
 
 Selection AccessibleText::LineAt(Position offset) const {
@@ -52,6 +58,20 @@ std::optional<PixelRect> AccessibleText::BoxOf(Position offset) const {
   return PixelRect{left->left, line->top, sameLine ? right->left : left->left + 1, line->bottom};
 }
 
+std::vector<PixelRect> AccessibleText::BoxesOf(Selection range) const {
+  const TextPane& pane = view_.Pane();
+  const PixelSize size = pane.Size();
+  std::vector<PixelRect> boxes;
+  for (const ShownPiece& shown : view_.Pane().Visible())
+    for (const RangeBox& one : lumenote::BoxesOf(pane, shown, range)) {
+      const PixelRect box{std::max(one.box.left, 0.0), std::max(one.box.top, 0.0),
+                          std::min(one.box.right, size.width),
+                          std::min(one.box.bottom, size.height)};
+      if (!box.IsEmpty()) boxes.push_back(box);
+    }
+  return boxes;
+}
+
 void AccessibleText::Reveal(Selection range) {
   view_.Pane().Reveal(range.end);
   view_.Pane().Reveal(range.start);
@@ -59,14 +79,9 @@ void AccessibleText::Reveal(Selection range) {
 }
 
 std::optional<AccessibleText::Run> AccessibleText::RunAt(Position offset) const {
-  const Selection paragraph = At(offset, TextUnit::Paragraph);
-  std::optional<Run> found;
-  Content().ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView run, CharId id) {
-    const Position behind = at + static_cast<Position>(run.Size());
-    if (offset >= at && offset < behind)
-      found = Run{{at, behind}, Content().Formats().characters[id]};
-  });
-  return found;
+  if (offset < 0 || offset >= Length()) return std::nullopt;
+  return Run{UnitAt(Content(), offset, TextUnit::Run),
+             Content().Formats().characters[Content().CharFormatAt(offset)]};
 }
 
 }  // namespace lumenote

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "view/acts/TextUnits.h"
 #include "view/pane/NoteView.h"
@@ -15,6 +16,13 @@ class AccessibleText {
  public:
   explicit AccessibleText(NoteView& view) : view_(view) {}
 
+  const Document& Content() const { return view_.Surface().Content(); }
+  Position Length() const { return Content().Length(); }
+  Position Caret() const { return view_.Surface().Caret(); }
+  Selection Selected() const { return view_.Surface().Selected(); }
+  bool IsLocked() const { return view_.IsLocked(); }
+  /// From the first to the last character in the pane.
+  Selection Visible() const;
   std::u16string Text(Selection range) const;
   /// The unit at (before, after) an offset; empty at the text's ends. A line is one on screen.
   Selection At(Position offset, TextUnit unit) const;
@@ -27,6 +35,8 @@ class AccessibleText {
 
   /// A character's rectangle; empty unless it is in or near the pane.
   std::optional<PixelRect> BoxOf(Position offset) const;
+  /// What of a range is in the pane, line by line.
+  std::vector<PixelRect> BoxesOf(Selection range) const;
   Position OffsetAt(PixelPoint point) const { return view_.Pane().PositionAt(point); }
   /// Scrolls to show as much of the range as possible, its start first.
   void Reveal(Selection range);
@@ -39,7 +49,6 @@ class AccessibleText {
   std::optional<Run> RunAt(Position offset) const;
 
  private:
-  const Document& Content() const { return view_.Surface().Content(); }
   Selection LineAt(Position offset) const;
 
   NoteView& view_;

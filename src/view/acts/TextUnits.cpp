@@ -69,6 +69,16 @@ Selection WordAround(const Document& document, Position offset) {
   return {start, NextWord(document, start)};
 }
 
+Selection RunAround(const Document& document, Position offset) {
+  const Selection paragraph = ParagraphAt(document, offset);
+  Selection found;
+  document.ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView run, CharId) {
+    const Position behind = at + static_cast<Position>(run.Size());
+    if (offset >= at && offset < behind) found = {at, behind};
+  });
+  return found;
+}
+
 }  // namespace
 
 Selection UnitAt(const Document& document, Position offset, TextUnit unit) {
@@ -76,6 +86,7 @@ Selection UnitAt(const Document& document, Position offset, TextUnit unit) {
   if (unit == TextUnit::All) return {0, length};
   if (unit == TextUnit::Paragraph) return ParagraphAt(document, offset);
   if (offset == length) return {length, length};
+  if (unit == TextUnit::Run) return RunAround(document, offset);
   if (unit == TextUnit::Word) return WordAround(document, offset);
   if (unit == TextUnit::Sentence) return SentenceAt(document, offset);
   return {document.SnapBackward(offset), document.SnapForward(offset + 1)};

@@ -10,8 +10,6 @@
 #include "backends/win32/toolkit/Units.h"
 #include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/view/Composing.h"
-#include "backends/win32/view/EditMessages.h"
-#include "backends/win32/view/ViewAccessible.h"
 #include "base/Strings.h"
 
 // After the system's own header.
@@ -54,10 +52,16 @@ SurfaceWindow::SurfaceWindow(HWND parent, DocumentSurface& surface, UniscribeLay
   ShowGround();
 }
 
-SurfaceWindow::~SurfaceWindow() { target_->Revoke(); }
+SurfaceWindow::~SurfaceWindow() { Leave(); }
+
+// Others may hold what they got of the window.
+void SurfaceWindow::Leave() {
+  target_->Revoke();
+  assistance_.End();
+}
 
 void SurfaceWindow::Detach() {
-  target_->Revoke();
+  Leave();
   caret_.Remove();
   text_.Detach();
 }
@@ -109,10 +113,8 @@ void SurfaceWindow::ShowCaretPlace() {
   if (focused_) caret_.Place(text_.Pane().CaretAt(text_.Surface().Caret()));
 }
 
-void SurfaceWindow::Changed(const DocumentChange&) { AnnounceChange(Handle()); }
-
 void SurfaceWindow::SelectionMoved() {
-  AnnounceSelection(Handle());
+  assistance_.TellSelection();
   if (!focused_) return;
   if (const auto caret = text_.Pane().CaretAt(text_.Surface().Caret()))
     PlaceComposition(Handle(), *caret);
@@ -132,22 +134,15 @@ void SurfaceWindow::ScrollTimer(bool on) {
 LRESULT SurfaceWindow::Receive(const Message& message) {
   try {
     if (message.id == WM_GETDLGCODE) return DLGC_WANTALLKEYS;
-    if (message.id == WM_DESTROY) target_->Revoke();
+    if (message.id == WM_DESTROY) Leave();
     if (IsAttached())
-      if (const std::optional<LRESULT> answer = Tell(message)) return *answer;
+      if (const std::optional<LRESULT> answer = assistance_.Answer(message)) return *answer;
     if (IsAttached() && Answer(message)) return message.id == WM_ERASEBKGND ? 1 : 0;
   } catch (const std::bad_alloc&) {
     text_.Forget();
     return 0;
   }
   return Handle() ? Default(message) : 0;
-}
-
-// What others ask of the window's text.
-std::optional<LRESULT> SurfaceWindow::Tell(const Message& message) {
-  if (message.id != WM_GETOBJECT) return AnswerEdit(text_, message);
-  if (static_cast<LONG>(message.l) != OBJID_CLIENT) return std::nullopt;
-  return AnswerAccessible(Handle(), text_, message.w);
 }
 
 bool SurfaceWindow::Answer(const Message& message) {

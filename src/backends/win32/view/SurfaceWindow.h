@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "backends/win32/assist/Assistance.h"
 #include "backends/win32/text/UniscribeLayouter.h"
 #include "backends/win32/toolkit/Window.h"
 #include "backends/win32/view/DropTarget.h"
@@ -62,7 +63,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   void SettleSoon() override;
   void ShowScrolling() override { bars_.Sync(Handle()); }
   void ShowDamage(const Damage& damage) override;
-  void Changed(const DocumentChange&) override;
+  void Changed(const DocumentChange&) override { assistance_.TellChange(); }
   void SelectionMoved() override;
   void ShowArrow(bool arrow) override { arrow_ = arrow; }
   void ScrollTimer(bool on) override;
@@ -71,7 +72,6 @@ class SurfaceWindow final : public Window, private ViewHost {
     Release(MouseButton::Right, MAKELPARAM(std::lround(at.x), std::lround(at.y)));
   }
 
-  std::optional<LRESULT> Tell(const Message& message);
   // Each returns whether it has answered the message; the system has the rest.
   bool Answer(const Message& message);
   bool HandleWindow(const Message& message);
@@ -79,6 +79,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   bool HandleMouse(const Message& message);
   bool HandleComposing(const Message& message);
 
+  void Leave();
   void Paint();
   void Resize();
   void ShowGround();
@@ -101,6 +102,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   ViewDrop drop_{text_};
   ViewBars bars_{text_};
   SystemCaret caret_{Handle()};
+  Assistance assistance_{Handle(), text_};
   OleScope ole_;
   DragOut drag_;
   ComOwner<DropTarget> target_{new DropTarget(Handle(), text_, drag_)};

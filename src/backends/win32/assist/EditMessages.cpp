@@ -1,4 +1,4 @@
-#include "backends/win32/view/EditMessages.h"
+#include "backends/win32/assist/EditMessages.h"
 
 #include <algorithm>
 #include <cmath>
@@ -65,6 +65,53 @@ LRESULT PositionAt(NoteView& view, LPARAM at) {
       {1.0 * static_cast<short>(LOWORD(at)), 1.0 * static_cast<short>(HIWORD(at))});
 }
 
+/// The buffer's first unit says how many it holds; no zero ends the copy.
+LRESULT CopyLine(NoteView& view, const Message& message) {
+  const Position start = static_cast<Position>(Lines(view).Start(static_cast<LPARAM>(message.w)));
+  if (start < 0) return 0;
+  auto* out = reinterpret_cast<char16_t*>(message.l);
+  const Line line = view.Surface().Lines().LineAt(start);
+  const Position room = static_cast<WORD>(out[0]);
+  const std::u16string text =
+      view.Surface().Content().Text(start, std::min(line.end, start + room));
+  std::ranges::copy(text, out);
+  return static_cast<LRESULT>(text.size());
+}
+
+struct Command {
+  UINT id;
+  bool edits;
+  void (DocumentSurface::*run)();
+};
+constexpr Command kCommands[] = {
+    {WM_CUT, true, &DocumentSurface::Cut},     {WM_COPY, false, &DocumentSurface::Copy},
+    {WM_PASTE, true, &DocumentSurface::Paste}, {WM_CLEAR, true, &DocumentSurface::Clear},
+    {WM_UNDO, true, &DocumentSurface::Undo},   {EM_UNDO, true, &DocumentSurface::Undo}};
+
+std::optional<LRESULT> Run(NoteView& view, const Message& message) {
+  const auto* command = std::ranges::find(kCommands, message.id, &Command::id);
+  if (command == std::end(kCommands)) return std::nullopt;
+  if (command->edits && view.IsLocked()) return FALSE;
+  view.Act([&] { (view.Surface().*command->run)(); });
+  return TRUE;
+}
+
+std::optional<LRESULT> Change(NoteView& view, const Message& message) {
+  AccessibleText text(view);
+  switch (message.id) {
+    case EM_SETSEL:
+      Select(view, message);
+      return 0;
+    case EM_REPLACESEL:
+      text.Replace(text.Selected(), reinterpret_cast<const char16_t*>(message.l));
+      return 0;
+    case EM_SCROLLCARET:
+      text.Reveal({text.Caret(), text.Caret()});
+      return TRUE;
+  }
+  return Run(view, message);
+}
+
 }  // namespace
 
 std::optional<LRESULT> AnswerEdit(NoteView& view, const Message& message) {
@@ -78,15 +125,18 @@ std::optional<LRESULT> AnswerEdit(NoteView& view, const Message& message) {
       return document.Length();
     case EM_GETSEL:
       return TellSelection(view.Surface().Selected(), message);
-    case EM_SETSEL:
-      Select(view, message);
-      return 0;
+    case EM_CANUNDO:
+      return view.Surface().CanUndo();
     case EM_GETLINECOUNT:
       return Lines(view).Count();
     case EM_LINEFROMCHAR:
       return Lines(view).Of(static_cast<LPARAM>(message.w));
     case EM_LINEINDEX:
       return Lines(view).Start(static_cast<LPARAM>(message.w));
+    case EM_GETLINE:
+      return CopyLine(view, message);
+    case EM_GETFIRSTVISIBLELINE:
+      return Lines(view).Of(AccessibleText(view).Visible().start);
     case EM_LINELENGTH:
       return Lines(view).LengthAt(static_cast<LPARAM>(message.w));
     case EM_POSFROMCHAR:
@@ -94,7 +144,7 @@ std::optional<LRESULT> AnswerEdit(NoteView& view, const Message& message) {
     case EM_CHARFROMPOS:
       return PositionAt(view, message.l);
   }
-  return std::nullopt;
+  return Change(view, message);
 }
 
 }  // namespace lumenote

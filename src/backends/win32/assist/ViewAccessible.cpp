@@ -1,12 +1,9 @@
-#include "backends/win32/view/ViewAccessible.h"
+#include "backends/win32/assist/ViewAccessible.h"
 
-#include <new>
 #include <string>
 
+#include "backends/win32/toolkit/ComObject.h"
 #include "backends/win32/toolkit/NativeText.h"
-#include "backends/win32/toolkit/Window.h"
-#include "backends/win32/view/ComObject.h"
-#include "surface/DocumentSurface.h"
 
 // After the system's own header.
 #include <oleacc.h>
@@ -15,45 +12,43 @@ namespace lumenote {
 
 namespace {
 
-BSTR Told(std::u16string_view text) {
-  return SysAllocStringLen(reinterpret_cast<const wchar_t*>(text.data()),
-                           static_cast<UINT>(text.size()));
-}
-
 bool IsSelf(const VARIANT& child) { return child.vt == VT_I4 && child.lVal == CHILDID_SELF; }
 
 /// What the system says of any window, but for role, name, value and state. An assistive program
 /// may hold it longer than the window lives.
 class AccessibleView final : public ComObject<IAccessible> {
  public:
-  AccessibleView(HWND window, NoteView& view, std::weak_ptr<Window> owner)
-      : window_(window), view_(view), owner_(std::move(owner)) {
+  explicit AccessibleView(ViewLink view) : view_(std::move(view)) {
     void* made = nullptr;
-    CreateStdAccessibleObject(window, OBJID_CLIENT, IID_IAccessible, &made);
+    CreateStdAccessibleObject(view_.Handle(), OBJID_CLIENT, __uuidof(IAccessible), &made);
     rest_.reset(static_cast<IAccessible*>(made));
   }
   bool IsWhole() const { return rest_ != nullptr; }
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override {
-    return ComObject::QueryInterface(id == IID_IDispatch ? IID_IAccessible : id, out);
+    return ComObject::QueryInterface(id == IID_IDispatch ? __uuidof(IAccessible) : id, out);
   }
 
   HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* out) override {
     if (!IsSelf(child)) return E_INVALIDARG;
-    const HWND label = GetWindow(window_, GW_HWNDPREV);
-    *out = Told(TextOf(label ? label : GetAncestor(window_, GA_ROOT)));
+    *out = BstrOf(NameOf(view_.Handle()));
     return *out ? S_OK : E_OUTOFMEMORY;
   }
   HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR* out) override {
     constexpr Position kMost = 10'000;
-    const std::shared_ptr<Window> alive = owner_.lock();
-    if (!IsSelf(child) || !alive || !view_.IsAttached()) return DISP_E_MEMBERNOTFOUND;
-    try {
-      *out = Told(view_.Surface().Content().Text(0, kMost));
-    } catch (const std::bad_alloc&) {
-      *out = nullptr;
-    }
-    return *out ? S_OK : E_OUTOFMEMORY;
+    if (!IsSelf(child)) return DISP_E_MEMBERNOTFOUND;
+    return view_.Ask([&](AccessibleText& text) {
+      *out = BstrOf(text.Text({0, std::min(kMost, text.Length())}));
+      return *out ? S_OK : E_OUTOFMEMORY;
+    });
+  }
+  HRESULT STDMETHODCALLTYPE put_accValue(VARIANT child, BSTR value) override {
+    if (!IsSelf(child)) return DISP_E_MEMBERNOTFOUND;
+    return view_.Ask([&](AccessibleText& text) -> HRESULT {
+      if (text.IsLocked()) return E_ACCESSDENIED;
+      text.Replace({0, text.Length()}, Utf16({value, SysStringLen(value)}));
+      return S_OK;
+    });
   }
   HRESULT STDMETHODCALLTYPE get_accRole(VARIANT child, VARIANT* out) override {
     if (!IsSelf(child)) return E_INVALIDARG;
@@ -63,9 +58,8 @@ class AccessibleView final : public ComObject<IAccessible> {
   }
   HRESULT STDMETHODCALLTYPE get_accState(VARIANT child, VARIANT* out) override {
     const HRESULT result = rest_->get_accState(child, out);
-    const std::shared_ptr<Window> alive = owner_.lock();
-    if (SUCCEEDED(result) && alive && view_.IsAttached() && view_.IsLocked())
-      out->lVal |= STATE_SYSTEM_READONLY;
+    const std::shared_ptr<NoteView> view = view_.Hold();
+    if (SUCCEEDED(result) && view && view->IsLocked()) out->lVal |= STATE_SYSTEM_READONLY;
     return result;
   }
 
@@ -114,7 +108,6 @@ class AccessibleView final : public ComObject<IAccessible> {
     return rest_->accDoDefaultAction(child);
   }
   HRESULT STDMETHODCALLTYPE put_accName(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
-  HRESULT STDMETHODCALLTYPE put_accValue(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* out) override {
     return rest_->GetTypeInfoCount(out);
@@ -132,26 +125,15 @@ class AccessibleView final : public ComObject<IAccessible> {
   }
 
  private:
-  HWND window_;
-  NoteView& view_;  // while the owner lives
-  std::weak_ptr<Window> owner_;
+  ViewLink view_;
   ComOwner<IAccessible> rest_;
 };
 
 }  // namespace
 
-LRESULT AnswerAccessible(HWND window, NoteView& view, WPARAM w) {
-  const ComOwner<AccessibleView> object(
-      new AccessibleView(window, view, Window::Of(window)->weak_from_this()));
-  return object->IsWhole() ? LresultFromObject(IID_IAccessible, w, object.get()) : 0;
-}
-
-void AnnounceChange(HWND window) {
-  NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
-}
-
-void AnnounceSelection(HWND window) {
-  NotifyWinEvent(EVENT_OBJECT_TEXTSELECTIONCHANGED, window, OBJID_CLIENT, CHILDID_SELF);
+LRESULT AnswerAccessible(const ViewLink& view, WPARAM w) {
+  const ComOwner<AccessibleView> object(new AccessibleView(view));
+  return object->IsWhole() ? LresultFromObject(__uuidof(IAccessible), w, object.get()) : 0;
 }
 
 }  // namespace lumenote

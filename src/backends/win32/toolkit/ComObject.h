@@ -50,6 +50,13 @@ struct ComRelease {
 template <class Object>
 using ComOwner = std::unique_ptr<Object, ComRelease>;
 
+/// One more reference to an object.
+template <class Object>
+ComOwner<Object> Shared(Object& object) {
+  object.AddRef();
+  return ComOwner<Object>(&object);
+}
+
 /// OLE of the thread for as long as this lives.
 class OleScope {
  public:
