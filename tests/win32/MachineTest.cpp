@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "backends/native/settings/MachineRegistry.h"
+#include "backends/win32/clipboard/HtmlFormat.h"
 #include "backends/win32/clipboard/SystemClipboard.h"
 #include "backends/win32/programs/TopWindows.h"
 #include "backends/win32/programs/WinProcesses.h"
@@ -36,13 +37,36 @@ TEST(MachineRegistryTest, IsTheSystemsOwn) {
   EXPECT_EQ(registry->Read(u"SOFTWARE\\Lumenote\\none", u""), std::nullopt);
 }
 
-TEST(SystemClipboardTest, HoldsTextAndRtf) {
+TEST(HtmlFormatTest, TellsWhereItsFragmentIs) {
+  const std::string html = "<html><body class=\"a\"><p>\xC3\xA9</p></body></html>";
+  const std::string told = WithHtmlHeader(html);
+  const std::string source = told.substr(told.find('<'));
+  EXPECT_NE(told.find("StartHTML:" + std::string("0000000105")), told.npos) << told;
+  EXPECT_EQ(source.find("<html><body class=\"a\"><!--StartFragment--><p>"), 0u);
+  EXPECT_EQ(WithoutHtmlHeader(told), "<p>\xC3\xA9</p>");
+  const std::pair<const char*, std::optional<std::string>> rows[] = {
+      {"", std::nullopt},
+      {"Version:0.9\r\nStartHTML:12", std::nullopt},
+      {"<b>x</b>", "<b>x</b>"},
+      {"StartFragment:99\r\nEndFragment:2\r\n<b>x</b>", "<b>x</b>"},
+      {"StartFragment:1\r\nEndFragment:9\r\n<b>x</b>", "<b>x</b>"},
+      {"StartFragment:99999999999999999999999\r\nEndFragment:-1\r\n<b>", "<b>"},
+      {"StartHTML:-1\r\nStartFragment:0055\r\nEndFragment:0056\r\n<b>x</b>", "x"},
+      {"StartHTML:28\r\nEndHTML:31\r\n\r\n<b>x</b>", "<b>"}};
+  for (const auto& [data, taken] : rows) EXPECT_EQ(WithoutHtmlHeader(data), taken) << data;
+}
+
+TEST(SystemClipboardTest, HoldsTextRtfAndHtml) {
   SystemClipboard clipboard;
-  clipboard.Set({u"a\r\né\xD83D\xDE00", "{\\rtf1 a}"});
+  clipboard.Set({.html = "<i>a</i>"});
+  EXPECT_TRUE(clipboard.HasContent());
+  EXPECT_EQ(clipboard.Get().html, "<i>a</i>");
+  clipboard.Set({u"a\r\né\xD83D\xDE00", "{\\rtf1 a}", {}});
+  EXPECT_EQ(clipboard.Get().html, std::nullopt);
   EXPECT_TRUE(clipboard.HasContent());
   EXPECT_EQ(clipboard.Get().text, u"a\r\né\xD83D\xDE00");
   EXPECT_EQ(clipboard.Get().rtf, "{\\rtf1 a}");
-  clipboard.Set({u"", std::nullopt});
+  clipboard.Set({u"", std::nullopt, {}});
   EXPECT_EQ(clipboard.Get().text, u"");
   EXPECT_EQ(clipboard.Get().rtf, std::nullopt);
   clipboard.Clear();

@@ -68,7 +68,7 @@ TEST_F(SurfaceWindowTest, SystemCaretFollows) {
 }
 
 // A drag offers what was selected when it began; a drop is one step of undo.
-TEST_F(SurfaceWindowTest, DropsTextAndRtf) {
+TEST_F(SurfaceWindowTest, DropsTextRtfAndHtml) {
   auto* const target = static_cast<IDropTarget*>(GetPropW(Handle(), L"OleDropTargetInterface"));
   ASSERT_TRUE(target);
   Put(u"^un| deux");
@@ -80,6 +80,7 @@ TEST_F(SurfaceWindowTest, DropsTextAndRtf) {
   EXPECT_EQ(effect, DWORD{DROPEFFECT_COPY});
   EXPECT_EQ(Shown(), "^un|trois");
   EXPECT_EQ(ReadTransfer(*data).text, u"un");
+  EXPECT_NE(ReadTransfer(*data).html.value_or("").find("un"), std::string::npos);
   surface.Undo();
   EXPECT_EQ(surface.Text(), u"trois");
   locked = true;

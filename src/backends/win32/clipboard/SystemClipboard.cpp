@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "backends/win32/clipboard/HtmlFormat.h"
 #include "backends/win32/files/WideNames.h"
 
 namespace lumenote {
@@ -68,18 +69,21 @@ ClipboardContent SystemClipboard::Get() const {
   if (const auto text = Taken<std::wstring>(CF_UNICODETEXT)) content.text = FromWide(*text);
   content.rtf = Taken<std::string>(rtf_);
   if (content.rtf && content.rtf->empty()) content.rtf.reset();
+  if (const auto html = Taken<std::string>(HtmlFormat())) content.html = WithoutHtmlHeader(*html);
   return content;
 }
 
 bool SystemClipboard::HasContent() const {
-  return IsClipboardFormatAvailable(CF_UNICODETEXT) || IsClipboardFormatAvailable(rtf_);
+  return IsClipboardFormatAvailable(CF_UNICODETEXT) || IsClipboardFormatAvailable(rtf_) ||
+         IsClipboardFormatAvailable(HtmlFormat());
 }
 
 void SystemClipboard::Set(const ClipboardContent& content) {
   const OpenedClipboard clipboard(owner_);
   if (!clipboard || !EmptyClipboard()) return;
-  if (content.text) Put(CF_UNICODETEXT, ToWide(*content.text));
   if (content.rtf) Put(rtf_, *content.rtf);
+  if (content.html) Put(HtmlFormat(), WithHtmlHeader(*content.html));
+  if (content.text) Put(CF_UNICODETEXT, ToWide(*content.text));
 }
 
 void SystemClipboard::Clear() { Set({}); }

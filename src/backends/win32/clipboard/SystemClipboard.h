@@ -5,8 +5,8 @@
 
 namespace lumenote {
 
-/// Offers and takes Unicode text and RTF. A clipboard that another program holds open for longer
-/// than a moment reads as empty and takes nothing.
+/// Offers and takes Unicode text, RTF and HTML. A clipboard that another program holds open for
+/// longer than a moment reads as empty and takes nothing.
 class SystemClipboard final : public Clipboard {
  public:
   SystemClipboard();

@@ -1,9 +1,12 @@
 #include "backends/win32/view/TransferData.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <new>
+#include <vector>
 
+#include "backends/win32/clipboard/HtmlFormat.h"
 #include "base/Strings.h"
 
 // After the system's own header.
@@ -18,13 +21,19 @@ CLIPFORMAT RtfFormat() {
   return static_cast<CLIPFORMAT>(format);
 }
 
+/// The formats that are offered and taken, the richest first.
+std::array<CLIPFORMAT, 3> Formats() {
+  return {RtfFormat(), static_cast<CLIPFORMAT>(HtmlFormat()), CF_UNICODETEXT};
+}
+
 FORMATETC FormatOf(CLIPFORMAT format) {
   return {format, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
 }
 
 bool IsOffered(const FORMATETC& format) {
+  const auto formats = Formats();
   return (format.tymed & TYMED_HGLOBAL) && format.dwAspect == DVASPECT_CONTENT &&
-         (format.cfFormat == CF_UNICODETEXT || format.cfFormat == RtfFormat());
+         std::ranges::find(formats, format.cfFormat) != formats.end();
 }
 
 /// A copy of the text with a zero unit at its end; null if there is no memory for it.
@@ -36,6 +45,11 @@ HGLOBAL CopyOf(const Text& text) {
   std::memcpy(GlobalLock(memory), text.c_str(), size);
   GlobalUnlock(memory);
   return memory;
+}
+
+HGLOBAL CopyOf(const TextExcerpt& text, CLIPFORMAT format) {
+  if (format == CF_UNICODETEXT) return CopyOf(text.Text());
+  return CopyOf(format == RtfFormat() ? text.Rtf() : WithHtmlHeader(text.Html()));
 }
 
 /// What is offered in a format, up to the first zero unit.
@@ -66,8 +80,7 @@ HRESULT TransferData::GetData(FORMATETC* format, STGMEDIUM* medium) {
   *medium = {};
   try {
     medium->tymed = TYMED_HGLOBAL;
-    medium->hGlobal =
-        format->cfFormat == CF_UNICODETEXT ? CopyOf(text_.Text()) : CopyOf(text_.Rtf());
+    medium->hGlobal = CopyOf(text_, format->cfFormat);
   } catch (const std::bad_alloc&) {
   }
   return medium->hGlobal ? S_OK : E_OUTOFMEMORY;
@@ -80,14 +93,16 @@ HRESULT TransferData::GetCanonicalFormatEtc(FORMATETC*, FORMATETC* out) {
 
 HRESULT TransferData::EnumFormatEtc(DWORD direction, IEnumFORMATETC** out) {
   if (direction != DATADIR_GET) return E_NOTIMPL;
-  const FORMATETC formats[] = {FormatOf(RtfFormat()), FormatOf(CF_UNICODETEXT)};
-  return SHCreateStdEnumFmtEtc(2, formats, out);
+  std::vector<FORMATETC> formats;
+  for (const CLIPFORMAT format : Formats()) formats.push_back(FormatOf(format));
+  return SHCreateStdEnumFmtEtc(static_cast<UINT>(formats.size()), formats.data(), out);
 }
 
 bool HasTransfer(IDataObject& data) {
-  FORMATETC text = FormatOf(CF_UNICODETEXT);
-  FORMATETC rtf = FormatOf(RtfFormat());
-  return data.QueryGetData(&text) == S_OK || data.QueryGetData(&rtf) == S_OK;
+  return std::ranges::any_of(Formats(), [&](CLIPFORMAT format) {
+    FORMATETC wanted = FormatOf(format);
+    return data.QueryGetData(&wanted) == S_OK;
+  });
 }
 
 ClipboardContent ReadTransfer(IDataObject& data) {
@@ -96,6 +111,8 @@ ClipboardContent ReadTransfer(IDataObject& data) {
   content.rtf = Taken<std::string>(data, RtfFormat());
   if (content.text) content.text = WithCrLf(*content.text);
   if (content.rtf && content.rtf->empty()) content.rtf.reset();
+  const auto html = Taken<std::string>(data, static_cast<CLIPFORMAT>(HtmlFormat()));
+  if (html) content.html = WithoutHtmlHeader(*html);
   return content;
 }
 

@@ -1,4 +1,4 @@
-// Text and RTF on their way between programs.
+// Text, RTF and HTML on their way between programs.
 #pragma once
 #include "backends/win32/toolkit/ComObject.h"
 #include "platform/Clipboard.h"
@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-/// Offers an excerpt; text and RTF are generated on request.
+/// Offers an excerpt, the richest form first; each is generated on request.
 class TransferData final : public ComObject<IDataObject> {
  public:
   explicit TransferData(TextExcerpt text) : text_(std::move(text)) {}
