@@ -58,8 +58,7 @@ void Interpreter::EnterField(KeptField::Kind kind, std::string opening) {
 void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
   if (contentCount_ != group.contentBefore) return;
-  KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
-                    KeptSource::Piece::Field);
+  KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback);
   needsTables_ |= source.needsHead;
   items_.TakeSince(group.keptBefore);
   items_.Keep(KeptItem::Kind::Field, "{" + std::move(source).Closed() + "}");

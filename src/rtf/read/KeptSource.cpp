@@ -28,17 +28,16 @@ std::string_view ControlSymbol(unsigned char byte) {
   return byte == '\t' ? "\\'09" : "{}";
 }
 
-/// Tracks whether a token is inside a group whose text is skipped.
-class HiddenGroup {
+/// Tracks whether a token is part of the data of a picture or an object, which may be digits too.
+/// In a destination within, such as the properties of a picture, digits would mean something else.
+class DataGroup {
  public:
-  explicit HiddenGroup(bool fromStart) : depth_(fromStart ? 0 : kNone) {}
-
-  bool Inside() const { return depth_ != kNone; }
+  bool Inside() const { return data_ != kNone && other_ == kNone; }
   /// `open` is the number of open groups after the token.
   void Pass(const Token& token, std::size_t open) {
-    if (Inside() && open < depth_) depth_ = kNone;
-    const bool hides = token.kind == Token::Kind::Word && HidesText(token.text, starred_);
-    if (!Inside() && hides) depth_ = open;
+    if (other_ != kNone && open < other_) other_ = kNone;
+    if (data_ != kNone && open < data_) data_ = kNone;
+    if (token.kind == Token::Kind::Word) Word(token.text, open);
     starred_ = opened_ && token.kind == Token::Kind::Symbol && token.byte == '*';
     opened_ = token.kind == Token::Kind::Open;
   }
@@ -46,7 +45,17 @@ class HiddenGroup {
  private:
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-  std::size_t depth_;
+  void Word(std::string_view word, std::size_t open) {
+    if (word == "pict" || word == "objdata") {
+      data_ = open;
+      other_ = kNone;
+    } else if (Inside() && HidesText(word, starred_)) {
+      other_ = open;
+    }
+  }
+
+  std::size_t data_ = kNone;   // nesting of the group of data
+  std::size_t other_ = kNone;  // of a destination within
   bool opened_ = false;
   bool starred_ = false;
 };
@@ -60,7 +69,7 @@ bool TellsOfField(const Token& word) {
 KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
   Reserve(source);
   Tokenizer tokens(source);
-  HiddenGroup hidden(piece == Piece::Hidden);
+  DataGroup digits;
   std::size_t end = 0;
   std::size_t firstWordEnd = 0;
   bool unicode = false;
@@ -71,15 +80,15 @@ KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
     const bool nothing =
         (token.kind == Token::Kind::Close && open == 0) || (data && token.text.empty());
     if (nothing) continue;
-    const bool ofFormat = piece == Piece::FieldOpening && open == 0 && word && !TellsOfField(token);
-    if (ofFormat || (data && !hidden.Inside())) {
+    const bool ofField = piece == Piece::FieldOpening && open == 0;
+    if (ofField && ((word && !TellsOfField(token)) || data)) {
       end = tokens.At();
       continue;
     }
     if (tokens.Start() != end && !text.ends_with('\n')) text += "\r\n";
     end = tokens.At();
-    Append(token, tokens.Source(tokens.Start(), end));
-    hidden.Pass(token, open);
+    Append(token, tokens.Source(tokens.Start(), end), digits.Inside());
+    digits.Pass(token, open);
     delimited = word && text.ends_with(' ');
     if (word && firstWordEnd == 0) firstWordEnd = text.size() - (delimited ? 1 : 0);
     unicode |= word && token.text == "u";
@@ -101,7 +110,7 @@ void KeptSource::StateFallback(std::size_t at, int fallback, bool restore) {
   if (restore) text += "\\uc" + std::to_string(kOwnFallback);
 }
 
-void KeptSource::Append(const Token& token, std::string_view source) {
+void KeptSource::Append(const Token& token, std::string_view source, bool inDigits) {
   using Kind = Token::Kind;
   if (token.kind == Kind::Open) ++open;
   if (token.kind == Kind::Close) --open;
@@ -110,7 +119,7 @@ void KeptSource::Append(const Token& token, std::string_view source) {
   const bool bare = token.kind == Kind::High || (token.kind == Kind::Byte && source.size() == 1);
   if (bare) return AppendHex(source, "\\'", text);
   if (token.kind == Kind::Symbol && IsControl(token.byte)) source = ControlSymbol(token.byte);
-  if (token.kind != Kind::Binary) return void(text += source);
+  if (token.kind != Kind::Binary || !inDigits) return void(text += source);
   if (!text.ends_with('\n')) text += "\r\n";
   AppendHex(token.text, "", text);
 }
