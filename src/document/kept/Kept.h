@@ -86,14 +86,15 @@ struct KeptHead {
     int page = 0;  // code page of its bytes; 0: that of its charset, else the document's
     bool operator==(const Font&) const = default;
   };
-  ItemId items = 0;               // without the font and colour tables
-  ItemId tail = 0;                // after the text
-  bool tables = false;            // some kept content refers to the tables, so they are kept
-  std::string fontTable{};        // the content of its group, printed as it came
-  std::vector<Font> fonts{};      // by ascending number
-  std::vector<Colour> colours{};  // by number
-  int page = 1252;                // code page of bytes in fonts without their own
-  int defaultFont = -1;           // one of `fonts`; -1: none
+  ItemId items = 0;                  // without the font and colour tables
+  ItemId tail = 0;                   // after the text
+  bool tables = false;               // some kept content refers to the tables, so they are kept
+  std::string fontTable{};           // the content of its group, printed as it came
+  std::vector<Font> fonts{};         // by ascending number
+  std::vector<Colour> colours{};     // by number
+  std::vector<std::string> tints{};  // likewise: words before the colour
+  int page = 1252;                   // code page of bytes in fonts without their own
+  int defaultFont = -1;              // one of `fonts`; -1: none
   bool operator==(const KeptHead&) const = default;
 };
 

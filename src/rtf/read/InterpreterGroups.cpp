@@ -49,6 +49,7 @@ void Interpreter::Fonts(int, const Token&) {
 void Interpreter::Colours(int, const Token&) {
   ++contentCount_;
   colours_.Read(tokens_);
+  needsTables_ |= colours_.HasTints();
 }
 
 /// A body word among the entries reveals that the table's closing brace is missing.
@@ -72,7 +73,7 @@ void Interpreter::SkipTableTail(bool surplus) {
 void Interpreter::Styles(int, const Token&) {
   const std::size_t from = tokens_.Start();
   PassTable();
-  if (!begun_) KeepInHead(GroupSource(from));
+  KeepInHead(GroupSource(from));
 }
 
 // Lists defined after the first text would change their meaning when the note is written and read

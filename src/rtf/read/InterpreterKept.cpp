@@ -192,6 +192,7 @@ HeadId Interpreter::Head() {
   needsTables_ |= NeedsPage();
   if (needsTables_) {
     head_.colours = colours_.All();
+    head_.tints = colours_.Tints();
     if (head_.fontTable.empty()) head_.page = documentPage_;
   } else {
     head_ = {};

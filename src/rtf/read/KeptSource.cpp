@@ -124,10 +124,4 @@ void KeptSource::Append(const Token& token, std::string_view source, bool inDigi
   AppendHex(token.text, "", text);
 }
 
-std::string SourceOf(const Token& word) {
-  std::string source = "\\" + std::string(word.text);
-  if (word.hasNumber) source += std::to_string(word.number);
-  return source;
-}
-
 }  // namespace lumenote

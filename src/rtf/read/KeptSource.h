@@ -29,7 +29,4 @@ struct KeptSource {
   void StateFallback(std::size_t at, int fallback, bool restore);
 };
 
-/// The source of a word.
-std::string SourceOf(const Token& word);
-
 }  // namespace lumenote

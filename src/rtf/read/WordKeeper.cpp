@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kMaxWords = 64;         // of one format
 constexpr std::size_t kLongestName = 32;      // letters, more than any real word
-constexpr std::size_t kLongestGroup = 512;    // bytes
+constexpr std::size_t kLongestGroup = 4096;   // bytes
 constexpr std::size_t kLeastWords = 1 << 13;  // for all formats together
 
 using Kind = KeptWord::Kind;

@@ -97,6 +97,12 @@ Escaped UnicodeAt(const char* const at, const char* end) {
 
 }  // namespace
 
+std::string SourceOf(const Token& word) {
+  std::string source = "\\" + std::string(word.text);
+  if (word.hasNumber) source += std::to_string(word.number);
+  return source;
+}
+
 bool EndsTable(const Token& token) {
   static constexpr std::string_view kWords[] = {"colortbl", "stylesheet", "info", "viewkind",
                                                 "sectd",    "pard",       "par"};

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "base/codepages/CodePage.h"
@@ -29,6 +30,8 @@ struct Token {
   std::string_view text = {};  // the name of a word, the bytes of other tokens
 };
 
+/// The source of a word.
+std::string SourceOf(const Token& word);
 /// Whether a token cannot occur in the head's tables; finding it in a table shows that the table's
 /// closing brace is missing.
 bool EndsTable(const Token& token);

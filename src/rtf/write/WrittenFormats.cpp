@@ -180,7 +180,10 @@ void WrittenFormats::WriteFont(const FontFace& face, const Font& font, Output& o
 void WrittenFormats::WriteColourTable(Output& out) const {
   if (colours_.size() == 1) return;
   out.Raw("{\\colortbl ");
-  for (const Colour colour : colours_) {
+  const std::vector<std::string>& tints = Head().tints;
+  for (std::size_t i = 0; i < colours_.size(); ++i) {
+    const Colour colour = colours_[i];
+    if (i < tints.size()) out.Words(tints[i]);
     if (colour != kAutoColour) {
       out.Word("red", static_cast<int>(colour & 0xFF));
       out.Word("green", static_cast<int>(colour >> 8 & 0xFF));

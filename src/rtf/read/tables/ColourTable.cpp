@@ -2,6 +2,7 @@
 #include "rtf/read/tables/ColourTable.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace lumenote {
 namespace {
@@ -14,12 +15,18 @@ int ShiftOf(std::string_view component) {
   return -1;
 }
 
+/// \ctint, \cshade and the theme's colours.
+bool IsTint(std::string_view word) { return word.starts_with('c') && word != "colortbl"; }
+
 }  // namespace
 
 void ColourTable::Read(Tokenizer& tokens) {
   colours_.clear();
+  tints_.clear();
   Colour colour = kAutoColour;
+  std::string tint;
   const auto component = [&](const Token& word) {
+    if (IsTint(word.text)) tint += SourceOf(word);
     const int shift = ShiftOf(word.text);
     if (shift < 0) return;
     if (colour == kAutoColour) colour = 0;
@@ -28,6 +35,7 @@ void ColourTable::Read(Tokenizer& tokens) {
   };
   const auto finish = [&] {
     colours_.push_back(colour);
+    tints_.push_back(std::exchange(tint, {}));
     colour = kAutoColour;
   };
   tokens.WhileInGroup([&](const Token& token) {
@@ -41,6 +49,10 @@ void ColourTable::Read(Tokenizer& tokens) {
     return true;
   });
   if (colour != kAutoColour) finish();
+}
+
+bool ColourTable::HasTints() const {
+  return std::ranges::any_of(tints_, [](const std::string& tint) { return !tint.empty(); });
 }
 
 Colour ColourTable::operator[](int number) const {

@@ -1,5 +1,6 @@
 // The colour table of an RTF source.
 #pragma once
+#include <string>
 #include <vector>
 
 #include "document/formats/Formats.h"
@@ -14,9 +15,13 @@ class ColourTable {
   /// Automatic for an entry without a colour and for a number outside the table.
   Colour operator[](int number) const;
   const std::vector<Colour>& All() const { return colours_; }
+  /// By number: the words that say which colour of a theme it is.
+  const std::vector<std::string>& Tints() const { return tints_; }
+  bool HasTints() const;
 
  private:
   std::vector<Colour> colours_;
+  std::vector<std::string> tints_;
 };
 
 }  // namespace lumenote
