@@ -9,9 +9,25 @@
 namespace lumenote {
 namespace {
 
-std::string_view ScriptWord(int effects) {
-  if ((effects & kSuperscript) != 0) return "super";
-  return (effects & kSubscript) != 0 ? "sub" : "nosupersub";
+constexpr int kScripts = kSuperscript | kSubscript;
+
+/// Some readers know only one way back to the line.
+void WriteScript(int from, int to, Output& out) {
+  if ((from & kScripts) != 0) out.Word("nosupersub");
+  if ((to & kScripts) != 0)
+    out.Word((to & kSuperscript) != 0 ? "super" : "sub");
+  else
+    out.Word((from & kSuperscript) != 0 ? "super0" : "sub0");
+}
+
+/// Some readers take the superscript text before a footnote for its mark, from the last \nosupersub
+/// or end of a group on.
+void EndMark(int from, int to, bool anew, Output& out) {
+  if ((from & kSuperscript) == 0) return;
+  if (anew)
+    out.Words("\\nosupersub{}");
+  else if ((to & kSuperscript) != 0)
+    out.Raw("{}");
 }
 
 void WriteEffects(int from, int to, Output& out) {
@@ -19,7 +35,7 @@ void WriteEffects(int from, int to, Output& out) {
   for (const EffectWord& word : kEffectWords) {
     if ((changed & word.effect) != 0) out.Word((to & word.effect) != 0 ? word.on : word.off);
   }
-  if ((changed & (kSuperscript | kSubscript)) != 0) out.Word(ScriptWord(to));
+  if ((changed & kScripts) != 0) WriteScript(from, to, out);
 }
 
 struct LineWords {
@@ -159,6 +175,7 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   const bool rewords = from.words != to.words || !order.settled;
   const bool anew = (rewords && from.words != 0) || TakesBack(from, to);
   const WrittenFormat& base = anew ? kPlain : from;
+  EndMark(from.effects, to.effects, anew, out);
   if (anew) out.Reset();
   if (anew || rewords) WriteWords(to.words, order.script, to.font, tables, out);
   if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
