@@ -91,8 +91,7 @@ WordsId WordKeeper::WithFont(WordsId words) {
   Words all = formats_.words.List(words);
   if (std::ranges::none_of(all, IsMark)) return words;
   std::erase_if(all, IsFont);
-  const Part part = PartOf(mark_, all);
-  all.insert(part.begin == part.end ? all.end() : part.end, {.kind = Kind::Font});
+  all.push_back({.kind = Kind::Font});
   return Number(std::move(all), words);
 }
 

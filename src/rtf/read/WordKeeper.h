@@ -29,7 +29,7 @@ class WordKeeper {
   WordsId WithMark(const Token& mark, KeptWord::Kind kind, bool hasFont, WordsId words);
   /// Adds a word to the current part.
   WordsId WithAssociated(const Token& word, WordsId words);
-  /// The run's own font is said in the current part.
+  /// The run's own font is said after all parts.
   WordsId WithFont(WordsId words);
   void LeavePart() { mark_ = 0; }
 

@@ -104,8 +104,8 @@ class WrittenFormats {
 };
 
 /// Writes the control words that change one character format into another. After \hich readers take
-/// sizes and effects for those of right-to-left text, so these are written before all markers of
-/// scripts; the font, where the source says it.
+/// sizes and effects for those of right-to-left text, so these are written before it; the font,
+/// where the source says it.
 void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out);
 /// The words of a paragraph format after \pard, without bullet and table.

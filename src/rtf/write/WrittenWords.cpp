@@ -63,7 +63,7 @@ LineWords WordsOf(LineRule rule, int spacing) {
 
 /// What the kept words of a run say of the order in which it is written.
 struct WordOrder {
-  WordsId script = 0;    // the first marker of a script
+  WordsId high = 0;      // the start of the last part if that is \hich's
   bool hasFont = false;  // the own font has a place among the words
   bool settled = true;   // a change of the run's own formats may follow as it is
 };
@@ -72,10 +72,11 @@ WordOrder OrderOf(WordsId words, const FormatTables& tables) {
   WordOrder order;
   for (WordsId id = words; id != 0; id = tables.words[id].next) {
     const KeptWord word = tables.words[id];
-    if (order.script == 0 && IsScript(word)) order.script = id;
+    if (IsMark(word)) order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
+    if (IsMark(word)) order.settled = !order.hasFont;
     if (word.kind == KeptWord::Kind::Font) order.hasFont = order.settled = true;
-    if (IsMark(word)) order.settled = word.kind != KeptWord::Kind::HighScript && !order.hasFont;
   }
+  order.settled = order.settled && order.high == 0;
   return order;
 }
 
@@ -177,7 +178,7 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   const WrittenFormat& base = anew ? kPlain : from;
   EndMark(from.effects, to.effects, anew, out);
   if (anew) out.Reset();
-  if (anew || rewords) WriteWords(to.words, order.script, to.font, tables, out);
+  if (anew || rewords) WriteWords(to.words, order.high, to.font, tables, out);
   if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
   if (base.underline != to.underline)
     out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
@@ -189,7 +190,7 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   const bool fontWritten = order.hasFont && (anew || rewords);
   if (!fontWritten && base.font != to.font) out.Word("f", to.font);
   if (base.size != to.size) out.Word("fs", to.size);
-  if (anew || rewords) WriteWords(order.script, 0, to.font, tables, out);
+  if (anew || rewords) WriteWords(order.high, 0, to.font, tables, out);
 }
 
 std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables) {
