@@ -13,6 +13,12 @@ bool BeginsEntry(std::string_view word) {
   return std::ranges::find(kWords, word) != std::end(kWords);
 }
 
+/// Words of runs show that a group with a font is text.
+bool BelongsToFont(std::string_view word) {
+  const bool ofRuns = word == "fs" || word == "fi";
+  return (word.starts_with('f') && !ofRuns) || word == "cpg" || word == "u";
+}
+
 bool IsOfColour(const Token& token) {
   if (token.kind == Kind::Text) return token.text.find_first_not_of("; ") == std::string_view::npos;
   return token.kind == Kind::Word &&
@@ -36,7 +42,12 @@ class Candidate {
     digits_ = digits_ && IsDigits(token);
     entries_ = entries_ && (depth > 0 || token.kind == Kind::Open || token.kind == Kind::Close);
     const bool named = opened_ && token.kind == Kind::Word;
-    if (depth == 1 && named) entries_ = entries_ && BeginsEntry(token.text);
+    if (depth == 1 && named) {
+      entries_ = entries_ && BeginsEntry(token.text);
+      ofFont_ = token.text == "f";
+    } else if (depth == 1 && ofFont_ && token.kind == Token::Kind::Word) {
+      entries_ = entries_ && BelongsToFont(token.text);
+    }
     opened_ = token.kind == Kind::Open || (opened_ && token.kind == Kind::Symbol);
     if (token.kind != Kind::Text) return;
     last_ = token.text.back();
@@ -45,14 +56,20 @@ class Candidate {
   bool Ends() const { return digits_ ? length_ >= kLeastDigits : last_ == ';'; }
 
  private:
-  static constexpr std::size_t kLeastDigits = 8;  // fewer may be a word
+  static constexpr std::size_t kLeastDigits = 32;  // fewer may be a word or a number
 
   bool anything_;
   bool entries_ = true, colours_ = true, digits_ = true;
   bool opened_ = false;
+  bool ofFont_ = false;     // the current entry is one of a font
   char last_ = 0;           // of the text
   std::size_t length_ = 0;  // of the text
 };
+
+/// Whether the "}" just read is the document's own.
+bool IsLast(const Tokenizer& tokens) {
+  return tokens.OnlyClosesFollow() || !tokens.MarkupFollows() || tokens.DocumentFollows();
+}
 
 }  // namespace
 
@@ -61,7 +78,7 @@ TableTail FindTableTail(Tokenizer tokens, bool surplus) {
   int depth = 0;
   for (Token token = tokens.Next(); token.kind != Kind::End; token = tokens.Next()) {
     const bool ends = token.kind == Kind::Close && depth == 0;
-    if (ends && !tokens.MarkupFollows()) break;
+    if (ends && IsLast(tokens)) break;
     if (ends) return {candidate.Ends(), tokens.Start()};
     candidate.Take(token, depth);
     if (EndsTable(token) || !candidate.Possible()) break;
