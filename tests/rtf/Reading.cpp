@@ -1,7 +1,6 @@
 #include "Reading.h"
 
 #include "base/Strings.h"
-#include "rtf/source/Tokenizer.h"
 #include "rtf/write/RtfWriter.h"
 #include "rtf/write/Writer.h"
 
@@ -14,19 +13,6 @@ std::string WrittenBitByBit(const Document& document) {
   RtfWriter writing(document, {0, document.Length()}, document.Mark(), sink);
   while (writing.Step(3)) continue;
   return written;
-}
-
-/// The source without any \bin.
-std::string WithoutData(std::string_view source) {
-  std::string rest;
-  std::size_t end = 0;  // of the last \bin
-  Tokenizer tokens(source);
-  for (Token token = tokens.Next(); token.kind != Token::Kind::End; token = tokens.Next()) {
-    if (token.kind != Token::Kind::Binary) continue;
-    rest += source.substr(end, tokens.Start() - end);
-    end = tokens.At();
-  }
-  return rest.append(source.substr(end));
 }
 
 }  // namespace
@@ -49,10 +35,10 @@ std::string LossOf(const Document& document) {
   const std::string rewritten = WriteRtf(again);
   if (rewritten != written) return "bytes: " + written + "became: " + rewritten;
   if (WrittenBitByBit(document) != written) return "bit by bit: " + WrittenBitByBit(document);
-  const std::string text = WithoutData(written);
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    const bool ofLineEnd = (c == '\r' && text[i + 1] == '\n') || (c == '\n' && text[i - 1] == '\r');
+  for (std::size_t i = 0; i < written.size(); ++i) {
+    const char c = written[i];
+    const bool ofLineEnd =
+        (c == '\r' && written[i + 1] == '\n') || (c == '\n' && written[i - 1] == '\r');
     if (!ofLineEnd && (c < ' ' || c > '~')) return "ASCII: " + written;
   }
   return {};

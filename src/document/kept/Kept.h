@@ -10,8 +10,8 @@
 
 namespace lumenote {
 
-/// A piece of source of one kind, as a chain node: ASCII with balanced braces, but for the data of
-/// \bin, and without a space after a final control word.
+/// A piece of source of one kind, as a chain node: pure ASCII, with balanced braces but for the
+/// data of \bin, and without a space after a final control word.
 struct KeptItem {
   enum class Kind : std::uint8_t {
     Group,  // any other group

@@ -58,7 +58,8 @@ void Interpreter::EnterField(KeptField::Kind kind, std::string opening) {
 void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   if (group.fieldAt == GroupState::kNowhere || group.fieldAt == around.fieldAt) return;
   if (contentCount_ != group.contentBefore) return;
-  KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback);
+  KeptSource source(tokens_.Source(group.fieldAt, tokens_.At()), around.fallback,
+                    KeptSource::Piece::Field);
   needsTables_ |= source.needsHead;
   items_.TakeSince(group.keptBefore);
   items_.Keep(KeptItem::Kind::Field, "{" + std::move(source).Closed() + "}");
@@ -105,7 +106,6 @@ void Interpreter::PlaceMarker() {
   items_.Keep(behind);
   items_.Keep(left);
   borderOf_ = WordScope::None;
-  words_.LeavePart();
   tokens_ = tokens;
   outermost_ = outermost;
   uncounted_ = uncounted;

@@ -50,13 +50,15 @@ void Interpreter::KeepMark(int value, const Token& word) {
   if (target_ == RtfTarget::Selection) return;
   const auto kind = static_cast<KeptWord::Kind>(value);
   CharFormat& format = EditCharacter();
-  format.words = words_.WithMark(word, kind, (format.stated & kStatesFont) != 0, format.words);
+  const bool hasFont = (format.stated & kStatesFont) != 0;
+  State().part = words_.Name(word);
+  format.words = words_.WithMark(State().part, kind, hasFont, format.words);
 }
 
 void Interpreter::KeepAssociated(int, const Token& word) {
   if (target_ == RtfTarget::Selection) return;
   needsTables_ |= NamesTableEntry(word.text);
-  EditCharacter().words = words_.WithAssociated(word, State().character.words);
+  EditCharacter().words = words_.WithAssociated(State().part, word, State().character.words);
 }
 
 /// Unknown words in the head belong to the document.

@@ -28,15 +28,23 @@ std::string_view ControlSymbol(unsigned char byte) {
   return byte == '\t' ? "\\'09" : "{}";
 }
 
+/// Other bytes do not survive in strings and clipboards, which end at NUL and have code pages.
+bool IsPrintable(std::string_view data) {
+  return std::ranges::all_of(data, [](char c) { return c >= ' ' && c <= '~'; });
+}
+
 /// Tracks whether a token is part of the data of a picture or an object, which may be digits too.
 /// In a destination within, such as the properties of a picture, digits would mean something else.
 class DataGroup {
  public:
   bool Inside() const { return data_ != kNone && other_ == kNone; }
+  /// Whether the token is in a group whose text is not body text.
+  bool Hidden() const { return hidden_ != kNone; }
   /// `open` is the number of open groups after the token.
   void Pass(const Token& token, std::size_t open) {
     if (other_ != kNone && open < other_) other_ = kNone;
     if (data_ != kNone && open < data_) data_ = kNone;
+    if (Hidden() && open < hidden_) hidden_ = kNone;
     if (token.kind == Token::Kind::Word) Word(token.text, open);
     starred_ = opened_ && token.kind == Token::Kind::Symbol && token.byte == '*';
     opened_ = token.kind == Token::Kind::Open;
@@ -46,6 +54,7 @@ class DataGroup {
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
   void Word(std::string_view word, std::size_t open) {
+    if (!Hidden() && HidesText(word, starred_)) hidden_ = open;
     if (word == "pict" || word == "objdata") {
       data_ = open;
       other_ = kNone;
@@ -56,6 +65,7 @@ class DataGroup {
 
   std::size_t data_ = kNone;   // nesting of the group of data
   std::size_t other_ = kNone;  // of a destination within
+  std::size_t hidden_ = kNone;
   bool opened_ = false;
   bool starred_ = false;
 };
@@ -69,7 +79,7 @@ bool TellsOfField(const Token& word) {
 KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
   Reserve(source);
   Tokenizer tokens(source);
-  DataGroup digits;
+  DataGroup group;
   std::size_t end = 0;
   std::size_t firstWordEnd = 0;
   bool unicode = false;
@@ -80,15 +90,17 @@ KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
     const bool nothing =
         (token.kind == Token::Kind::Close && open == 0) || (data && token.text.empty());
     if (nothing) continue;
+    const bool digits = data && (group.Inside() || !IsPrintable(token.text));
+    const bool asText = digits && piece == Piece::Field && !group.Hidden();
     const bool ofField = piece == Piece::FieldOpening && open == 0;
-    if (ofField && ((word && !TellsOfField(token)) || data)) {
+    if (asText || (ofField && ((word && !TellsOfField(token)) || data))) {
       end = tokens.At();
       continue;
     }
     if (tokens.Start() != end && !text.ends_with('\n')) text += "\r\n";
     end = tokens.At();
-    Append(token, tokens.Source(tokens.Start(), end), digits.Inside());
-    digits.Pass(token, open);
+    Append(token, tokens.Source(tokens.Start(), end), digits);
+    group.Pass(token, open);
     delimited = word && text.ends_with(' ');
     if (word && firstWordEnd == 0) firstWordEnd = text.size() - (delimited ? 1 : 0);
     unicode |= word && token.text == "u";
@@ -110,7 +122,7 @@ void KeptSource::StateFallback(std::size_t at, int fallback, bool restore) {
   if (restore) text += "\\uc" + std::to_string(kOwnFallback);
 }
 
-void KeptSource::Append(const Token& token, std::string_view source, bool inDigits) {
+void KeptSource::Append(const Token& token, std::string_view source, bool digits) {
   using Kind = Token::Kind;
   if (token.kind == Kind::Open) ++open;
   if (token.kind == Kind::Close) --open;
@@ -119,7 +131,7 @@ void KeptSource::Append(const Token& token, std::string_view source, bool inDigi
   const bool bare = token.kind == Kind::High || (token.kind == Kind::Byte && source.size() == 1);
   if (bare) return AppendHex(source, "\\'", text);
   if (token.kind == Kind::Symbol && IsControl(token.byte)) source = ControlSymbol(token.byte);
-  if (token.kind != Kind::Binary || !inDigits) return void(text += source);
+  if (token.kind != Kind::Binary || !digits) return void(text += source);
   if (!text.ends_with('\n')) text += "\r\n";
   AppendHex(token.text, "", text);
 }

@@ -59,14 +59,13 @@ WordsId WordKeeper::WithNumbering(const std::string& group, WordsId words) {
   return Number(std::move(all), words);
 }
 
-WordsId WordKeeper::WithMark(const Token& mark, KeptWord::Kind kind, bool hasFont, WordsId words) {
-  mark_ = Name(mark);
-  if (mark_ == 0) return words;
+WordsId WordKeeper::WithMark(NameId mark, KeptWord::Kind kind, bool hasFont, WordsId words) {
+  if (mark == 0) return words;
   Words all = formats_.words.List(words);
   if (hasFont && std::ranges::none_of(all, IsMark)) all.push_back({.kind = Kind::Font});
-  const Part part = PartOf(mark_, all);
+  const Part part = PartOf(mark, all);
   Words moved(part.begin, part.end);
-  if (moved.empty()) moved.push_back({.name = mark_, .kind = kind});
+  if (moved.empty()) moved.push_back({.name = mark, .kind = kind});
   all.erase(part.begin, part.end);
   const bool last = IsScript(moved.front());
   const Iterator to = last ? all.end() : std::ranges::find_if(all, IsScript);
@@ -74,11 +73,11 @@ WordsId WordKeeper::WithMark(const Token& mark, KeptWord::Kind kind, bool hasFon
   return Number(std::move(all), words);
 }
 
-WordsId WordKeeper::WithAssociated(const Token& word, WordsId words) {
+WordsId WordKeeper::WithAssociated(NameId mark, const Token& word, WordsId words) {
   const NameId name = Name(word);
   Words all = formats_.words.List(words);
-  Part part = PartOf(mark_, all);
-  if (mark_ == 0 || name == 0 || part.begin == part.end) return words;
+  Part part = PartOf(mark, all);
+  if (mark == 0 || name == 0 || part.begin == part.end) return words;
   const Iterator same =
       std::find_if(part.begin, part.end, [=](KeptWord w) { return w.name == name; });
   if (same != part.end) part.end = all.erase(same) + (part.end - same - 1);
@@ -95,7 +94,6 @@ WordsId WordKeeper::WithFont(WordsId words) {
   return Number(std::move(all), words);
 }
 
-/// 0 for a missing word, or if the table is full.
 NameId WordKeeper::Name(const Token& word) {
   return word.text.size() > kLongestName ? 0 : formats_.names.Intern(std::string(word.text));
 }

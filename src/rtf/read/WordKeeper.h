@@ -24,21 +24,20 @@ class WordKeeper {
   // The look of other scripts is given in parts, each a marker and the words that apply to it:
   // first for directions, then for scripts. The last part of each kind applies to the run itself.
 
-  /// Makes that marker's part current and the last of its kind. `hasFont` tells whether the run's
-  /// own font has been said.
-  WordsId WithMark(const Token& mark, KeptWord::Kind kind, bool hasFont, WordsId words);
-  /// Adds a word to the current part.
-  WordsId WithAssociated(const Token& word, WordsId words);
+  /// Makes that marker's part the last of its kind. `hasFont` tells whether the run's own font has
+  /// been said.
+  WordsId WithMark(NameId mark, KeptWord::Kind kind, bool hasFont, WordsId words);
+  /// Adds a word to that marker's part.
+  WordsId WithAssociated(NameId mark, const Token& word, WordsId words);
   /// The run's own font is said after all parts.
   WordsId WithFont(WordsId words);
-  void LeavePart() { mark_ = 0; }
+  /// 0 for a missing word, or if the table is full.
+  NameId Name(const Token& word);
 
  private:
-  NameId Name(const Token& word);
   WordsId Number(std::vector<KeptWord> words, WordsId otherwise);
 
   FormatTables& formats_;
-  NameId mark_ = 0;        // of the current part, 0 none
   std::size_t wordsLeft_;  // remaining budget of words
 };
 

@@ -11,8 +11,8 @@ namespace lumenote {
 /// Called with successive chunks of the output.
 using ByteSink = std::function<void(std::string_view)>;
 
-/// Writes the whole document as ASCII with CR LF line ends, but for the data of a kept \bin.
-/// Reading it back gives the same text and formats, and writing that again gives the same bytes.
+/// Writes the whole document as pure ASCII with CR LF line ends. Reading it back gives
+/// the same text and formats, and writing that again gives the same bytes.
 void WriteRtf(const Document& document, const ByteSink& sink);
 std::string WriteRtf(const Document& document);
 /// Writes a range, with a \par for each break in it and no other.
