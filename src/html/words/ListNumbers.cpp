@@ -29,27 +29,39 @@ std::string Roman(int number) {
   return text;
 }
 
-/// The number of decimal digits, letters, or Roman digits; 0 for anything else.
-int ValueOf(std::u16string_view text, char style) {
-  constexpr std::size_t kLongest = 15;
-  if (text.empty() || text.size() > kLongest) return 0;
+/// The number of a few digits, the first of which counts `first`; 0 if there are others.
+int Positional(std::u16string_view text, std::u16string_view digits, int first, std::size_t most) {
+  if (text.size() > most) return 0;
   int value = 0;
-  if (style == '1') {
-    for (const char16_t c : text.substr(0, 9)) value = value * 10 + (c - u'0');
-  } else if (style == 'a' || style == 'A') {
-    for (const char16_t c : text.substr(0, 4)) value = value * 26 + (c - u'a' + 1);
-  } else {
-    constexpr std::u16string_view kDigits = u"ivxlcdm";
-    constexpr int kValues[] = {1, 5, 10, 50, 100, 500, 1000};
-    int last = 0;
-    for (std::size_t i = text.size(); i-- > 0;) {
-      const std::size_t digit = kDigits.find(text[i]);
-      const int own = digit == kDigits.npos ? 0 : kValues[digit];
-      value += own < last ? -own : own;
-      last = own;
-    }
+  for (const char16_t c : text) {
+    const std::size_t digit = digits.find(c);
+    if (digit == digits.npos) return 0;
+    value = value * static_cast<int>(digits.size()) + static_cast<int>(digit) + first;
   }
   return value;
+}
+
+int OfRoman(std::u16string_view text) {
+  constexpr std::size_t kLongest = 15;
+  constexpr std::u16string_view kDigits = u"ivxlcdm";
+  constexpr int kValues[] = {1, 5, 10, 50, 100, 500, 1000};
+  if (text.size() > kLongest) return 0;
+  int value = 0;
+  int last = 0;
+  for (std::size_t i = text.size(); i-- > 0;) {
+    const std::size_t digit = kDigits.find(text[i]);
+    if (digit == kDigits.npos) return 0;
+    value += kValues[digit] < last ? -kValues[digit] : kValues[digit];
+    last = kValues[digit];
+  }
+  return value;
+}
+
+/// The number of decimal digits, small letters, or small Roman digits; 0 for anything else.
+int ValueOf(std::u16string_view text, char style) {
+  if (style == '1') return Positional(text, u"0123456789", 0, 9);
+  if (style == 'a' || style == 'A') return Positional(text, u"abcdefghijklmnopqrstuvwxyz", 1, 4);
+  return OfRoman(text);
 }
 
 }  // namespace
