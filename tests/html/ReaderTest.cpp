@@ -4,6 +4,7 @@
 #include "HtmlReading.h"
 #include "base/DataFile.h"
 #include "html/source/HtmlBytes.h"
+#include "html/write/Writer.h"
 #include "rtf/CheckRows.h"
 #include "rtf/Reading.h"
 
@@ -64,7 +65,10 @@ TEST(HtmlHostile, CostsItsLengthOnly) {
                                         "|")) {
     const Document note = ReadPage(Repeated(piece));
     EXPECT_LT(note.Length(), 4'000'000) << piece;
+    EXPECT_NE(WriteHtml(note), "") << piece;
   }
+  const std::string linked = "<a href=" + Repeated("x") + ">" + Repeated("a<b>a</b>");
+  EXPECT_LT(WriteHtml(ReadPage(linked)).size(), 4'000'000);
 }
 
 }  // namespace

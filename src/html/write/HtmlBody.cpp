@@ -189,7 +189,7 @@ void HtmlBody::Wear(CharId format) {
     if (link_ != 0) out_ += "</a>";
     if (link != 0) {
       out_ += "<a href=";
-      AppendHtmlValue(*LinkAddress(tables_.fields[link].opening), out_);
+      AppendHtmlValue(*AddressOf(link), out_);
       out_ += '>';
     }
   }
@@ -227,10 +227,16 @@ FieldId HtmlBody::FieldOf(CharId format) const {
 }
 
 /// The innermost link around a field, or the field itself; 0 if there is none.
-FieldId HtmlBody::LinkIn(FieldId field) const {
-  while (field != 0 && !LinkAddress(tables_.fields[field].opening))
-    field = tables_.fields[field].outer;
+FieldId HtmlBody::LinkIn(FieldId field) {
+  while (field != 0 && !AddressOf(field)) field = tables_.fields[field].outer;
   return field;
+}
+
+/// Reads each field's source only once, as each of its runs asks.
+const std::optional<std::u16string>& HtmlBody::AddressOf(FieldId field) {
+  const auto [known, isNew] = addresses_.try_emplace(field);
+  if (isNew) known->second = LinkAddress(tables_.fields[field].opening);
+  return known->second;
 }
 
 }  // namespace lumenote

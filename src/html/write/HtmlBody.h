@@ -41,7 +41,8 @@ class HtmlBody {
   void WearNothing();
   void Picture(const CharFormat& format);
   FieldId FieldOf(CharId format) const;
-  FieldId LinkIn(FieldId field) const;
+  FieldId LinkIn(FieldId field);
+  const std::optional<std::u16string>& AddressOf(FieldId field);
 
   const Document& document_;
   const FormatTables& tables_;
@@ -52,9 +53,10 @@ class HtmlBody {
   std::size_t cell_ = 0;             // in that row
 
   CharFormat around_;
-  std::unordered_map<CharId, HtmlTags> known_;  // of formats in `around_`
-  HtmlTags worn_;                               // open tags of the text
-  FieldId link_ = 0;                            // open
+  std::unordered_map<CharId, HtmlTags> known_;                            // of formats in `around_`
+  HtmlTags worn_;                                                         // open tags of the text
+  std::unordered_map<FieldId, std::optional<std::u16string>> addresses_;  // of fields so far
+  FieldId link_ = 0;                                                      // open
 };
 
 }  // namespace lumenote
