@@ -33,6 +33,20 @@ TEST(HtmlWriter, WritesAs) {
     EXPECT_EQ(body(Replaced(html, "⇥", "\t")), written) << html;
 }
 
+/// What is written of an RTF body, from its first paragraph's text on.
+std::string BodyOfRtf(const std::string& rtf) {
+  const std::string body = Body(Read(rtf));
+  return body.substr(body.find('>') + 1);
+}
+
+TEST(HtmlWriter, WritesRtfAs) {
+  constexpr std::string_view kLook = "<span style=\"color:windowtext;text-decoration:none;\">";
+  const auto body = [&](const std::string& rtf) {
+    return Replaced(Replaced(BodyOfRtf(rtf), kLook, "<◊>"), "\n", "␊");
+  };
+  CheckRows(DataFile("html_of_rtf.rows"), body, "{\\rtf1 ", "}");
+}
+
 TEST(HtmlWriter, ReadsBackWhatItWrites) {
   for (const auto& [html, formats] : Rows<2>(DataFile("html_formats.rows"), " => "))
     EXPECT_EQ(FormatsOf(Again(ReadPage(html))), FormatsOf(ReadPage(html))) << html;

@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "document/kept/KnownSources.h"
+#include "document/kept/LinkSource.h"
+#include "document/kept/NumberingSource.h"
+#include "document/kept/RowSource.h"
 #include "html/read/CssValues.h"
 #include "html/read/DataPicture.h"
 #include "html/read/HtmlInterpreter.h"
@@ -10,6 +12,7 @@
 #include "html/source/Ascii.h"
 #include "html/words/LinkLook.h"
 #include "html/words/ListNumbers.h"
+#include "html/words/Pixels.h"
 
 namespace lumenote {
 namespace {
@@ -17,7 +20,6 @@ namespace {
 using Kind = HtmlElement::Kind;
 using Unit = CssLength::Unit;
 
-constexpr int kTwipsPerPixel = 15;
 constexpr std::int64_t kWidestRow = 1'000'000;  // twips
 
 /// The value of an attribute; null if there is none or it is empty.

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
-#include "document/kept/KnownSources.h"
+#include "document/kept/LinkSource.h"
+#include "document/kept/PictureSource.h"
+#include "document/kept/RowSource.h"
 #include "html/words/ListNumbers.h"
+#include "html/words/Pixels.h"
 #include "html/write/HtmlText.h"
 
 namespace lumenote {
@@ -210,7 +213,6 @@ void HtmlBody::Picture(const CharFormat& format) {
   if (kept.kind != Kept::Kind::Embedded) return;
   const auto picture = PictureOf(tables_.items[kept.self].source);
   if (!picture) return;
-  constexpr int kTwipsPerPixel = 15;
   const auto size = [&](const char* name, int twips) {
     if (twips > 0) out_ += name + std::to_string(std::max(twips / kTwipsPerPixel, 1)) + "\"";
   };
