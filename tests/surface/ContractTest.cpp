@@ -113,6 +113,17 @@ TEST_F(SurfaceContract, ParagraphAttributesGoToTheParagraphsTouched) {
   }
 }
 
+TEST_F(SurfaceContract, WhatIsSetIsSaidInTheNote) {
+  s.TextRTF(uR"({\rtf1\rtlpar\ls1 a})");
+  s.SelIndent(300);
+  s.SelIndent(0);
+  s.SelRightIndent(0);
+  s.SelAlignment(0);
+  s.SetParaFormat({.mask = ParagraphRecord::kSpaceAfter});
+  const std::u16string words = u"\\rtlpar\\ls1\\ilvl0\\fi0\\li0\\ri0\\sa0\\ql a\\par";
+  EXPECT_NE(s.TextRTF().find(words), words.npos) << ToUtf8(s.TextRTF());
+}
+
 TEST_F(SurfaceContract, JoinedParagraphsKeepTheFirstFormat) {
   const std::pair<std::u16string_view, int> rows[] = {
       {u"a^b¶|cd", 2}, {u"^ab¶|cd", 0}, {u"^ab¶c|d", 0}, {u"ab^¶c|d", 2}};

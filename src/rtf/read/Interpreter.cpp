@@ -182,11 +182,12 @@ void Interpreter::Close() {
   if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
 }
 
-/// What a group says of the paragraph holds for its text, though the paragraph ends outside.
+/// What a group with all text of the paragraph says of it holds, though the paragraph ends outside.
 void Interpreter::HoldParagraph() {
   const GroupState& group = State();
   if (group.paragraphEdit == Outer().paragraphEdit || placingMarker_) return;
-  if (contentCount_ > std::max(group.contentAtStart, paragraphStart_)) held_ = group.paragraph;
+  const bool first = group.contentAtStart <= paragraphStart_;
+  if (first && contentCount_ > paragraphStart_) held_ = group.paragraph;
 }
 
 /// A word counts as one fallback character of a \u, but only words for characters are skipped: no
@@ -258,6 +259,7 @@ void Interpreter::Put(char16_t unit) {
 
 void Interpreter::BeforeText() {
   CountContent();
+  held_.reset();
   if (inHead_) BeginBody();
   if (!marker_.empty()) PlaceMarker();
   if (body_.Holds()) body_.Release();
@@ -269,6 +271,7 @@ CharFormat& Interpreter::EditCharacter() {
 }
 
 ParagraphState& Interpreter::EditParagraph() {
+  held_.reset();
   State().paragraphKnown = false;
   State().paragraphEdit = ++paragraphEdits_;
   return State().paragraph;

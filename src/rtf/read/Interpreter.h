@@ -183,7 +183,7 @@ class Interpreter {
 
   std::uint32_t paragraphEdits_ = 0;
   std::size_t paragraphStart_ = 0;           // the content count when the paragraph began
-  std::optional<ParagraphState> held_ = {};  // of a closed group with text of the paragraph
+  std::optional<ParagraphState> held_ = {};  // of a closed group with all its text
 
   ItemKeeper items_;
   WordKeeper words_;

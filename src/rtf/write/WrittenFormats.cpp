@@ -82,13 +82,30 @@ void WrittenFormats::UseDefault(Font& font) {
   defaultEncoding_ = font.encoding;
 }
 
+/// Entries that differ only in their tints are not told apart later: the plain one is used.
 void WrittenFormats::AddColours() {
-  for (const Colour colour : Head().colours) {
-    if (colour != kAutoColour)
-      colourNumbers_.try_emplace(colour, static_cast<int>(colours_.size()));
-    colours_.push_back(colour);
-  }
+  colours_ = Head().colours;
   if (colours_.empty()) colours_.push_back(kAutoColour);
+  const auto add = [&](bool tinted) {
+    for (std::size_t i = 0; i < colours_.size(); ++i)
+      if (Tint(i).empty() != tinted) AddColour(i);
+  };
+  add(false);
+  add(true);
+}
+
+/// For many readers entry 0 is automatic, whatever the table says.
+void WrittenFormats::AddColour(std::size_t place) {
+  if (place == 0 && colours_[0] != kAutoColour) return;
+  const auto [entry, added] = colourNumbers_.try_emplace(colours_[place], static_cast<int>(place));
+  if (added || entry->second < 0) return;
+  const std::string& known = Tint(static_cast<std::size_t>(entry->second));
+  if (!known.empty() && known != Tint(place)) entry->second = kNoEntry;
+}
+
+const std::string& WrittenFormats::Tint(std::size_t place) const {
+  static const std::string kNone;
+  return place < Head().tints.size() ? Head().tints[place] : kNone;
 }
 
 void WrittenFormats::UseFontZero() {
@@ -138,15 +155,18 @@ std::int32_t WrittenFormats::Number(const NumberWord& word, const CharFormat& fo
   if (word.kind == NumberWord::Kind::Number) return static_cast<std::int32_t>(number);
   const bool unstated = number == kAutoColour && (format.stated & kStatesColour) == 0;
   if (word.kind == NumberWord::Kind::Colour && unstated) return kUnstated;
+  if (word.kind == NumberWord::Kind::Background && number == kAutoColour) return 0;
   return ColourNumber(static_cast<Colour>(number));
 }
 
 int WrittenFormats::ColourNumber(Colour colour) {
-  if (colour == kAutoColour) return 0;
-  const auto [entry, added] =
-      colourNumbers_.try_emplace(colour & 0xFFFFFF, static_cast<int>(colours_.size()));
-  if (added) colours_.push_back(colour & 0xFFFFFF);
-  return entry->second;
+  if (colour != kAutoColour) colour &= 0xFFFFFF;
+  int& number = colourNumbers_.try_emplace(colour, kNoEntry).first->second;
+  if (number < 0) {
+    number = static_cast<int>(colours_.size());
+    colours_.push_back(colour);
+  }
+  return number;
 }
 
 void WrittenFormats::WriteFontTable(Output& out) const {
@@ -178,12 +198,11 @@ void WrittenFormats::WriteFont(const FontFace& face, const Font& font, Output& o
 }
 
 void WrittenFormats::WriteColourTable(Output& out) const {
-  if (colours_.size() == 1) return;
+  if (colours_.size() == 1 && colours_[0] == kAutoColour && Tint(0).empty()) return;
   out.Raw("{\\colortbl ");
-  const std::vector<std::string>& tints = Head().tints;
   for (std::size_t i = 0; i < colours_.size(); ++i) {
     const Colour colour = colours_[i];
-    if (i < tints.size()) out.Words(tints[i]);
+    out.Words(Tint(i));
     if (colour != kAutoColour) {
       out.Word("red", static_cast<int>(colour & 0xFF));
       out.Word("green", static_cast<int>(colour >> 8 & 0xFF));

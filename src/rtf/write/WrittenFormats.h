@@ -13,8 +13,8 @@
 
 namespace lumenote {
 
-/// The numbers of `kNumberWords`; those of colours are their places in the table, 0 automatic,
-/// `kUnstated` for text that states none.
+/// The numbers of `kNumberWords`; those of colours are their places in the table, `kUnstated` for
+/// text that states none and 0 for no background.
 inline constexpr std::int32_t kUnstated = -1;
 using WrittenNumbers = std::array<std::int32_t, std::size(kNumberWords)>;
 inline constexpr WrittenNumbers kDefaultNumbers = [] {
@@ -81,6 +81,9 @@ class WrittenFormats {
 
   void AddFonts();
   void AddColours();
+  void AddColour(std::size_t place);
+  /// The words before a colour of the table.
+  const std::string& Tint(std::size_t place) const;
   void UseDefault(Font& font);
   void UseFontZero();
   const Font& FontOf(const FontFace& face);
@@ -99,7 +102,8 @@ class WrittenFormats {
   int defaultFont_ = -1;
   Encoding defaultEncoding_ = Encoding::Windows;  // of text that states no font
   std::vector<Colour> colours_;
-  std::unordered_map<Colour, int> colourNumbers_;
+  static constexpr int kNoEntry = -1;
+  std::unordered_map<Colour, int> colourNumbers_;  // or kNoEntry
   int bulletFont_ = -1;
 };
 

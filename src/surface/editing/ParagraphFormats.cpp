@@ -26,6 +26,16 @@ void SetRecordedSpacing(ParaFormat& format, LineRule rule, std::int32_t spacing)
   format.lineSpacing = multiple ? std::clamp(spacing, -kMax, kMax) * kTwentieth : spacing;
 }
 
+/// What a change of an indent states: RTF counts the left ones from each other.
+int StatedBy(std::int32_t ParaFormat::*indent) {
+  return indent == &ParaFormat::rightIndent ? kStatesRightIndent
+                                            : kStatesLeftIndent | kStatesFirstIndent;
+}
+
+void State(int attributes, ParaFormat& format) {
+  format.stated = static_cast<std::uint16_t>(format.stated | attributes);
+}
+
 }  // namespace
 
 // Number of the last paragraph that the selection touches.
@@ -93,8 +103,10 @@ std::optional<int> ParagraphFormats::AlignmentCode() const {
 void ParagraphFormats::AlignmentCode(int code) {
   if (code < static_cast<int>(Alignment::Left) || code > static_cast<int>(Alignment::Centre))
     throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-  Apply(UndoKind::Unknown,
-        [=](ParaFormat& format) { format.alignment = static_cast<Alignment>(code); });
+  Apply(UndoKind::Unknown, [=](ParaFormat& format) {
+    format.alignment = static_cast<Alignment>(code);
+    State(kStatesAlignment, format);
+  });
 }
 
 std::optional<int> ParagraphFormats::Indent(std::int32_t ParaFormat::*indent) const {
@@ -102,7 +114,10 @@ std::optional<int> ParagraphFormats::Indent(std::int32_t ParaFormat::*indent) co
 }
 
 void ParagraphFormats::Indent(std::int32_t ParaFormat::*indent, int twips) {
-  Apply(UndoKind::Unknown, [=](ParaFormat& format) { format.*indent = twips; });
+  Apply(UndoKind::Unknown, [=](ParaFormat& format) {
+    format.*indent = twips;
+    State(StatedBy(indent), format);
+  });
 }
 
 ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
@@ -120,11 +135,16 @@ ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
 }
 
 void ParagraphFormats::Record(const ParagraphRecord& record) {
+  const auto takes = [&](unsigned attribute) { return (record.mask & attribute) != 0; };
+  const int stated = (takes(ParagraphRecord::kLineSpacing) ? kStatesLineSpacing : 0) |
+                     (takes(ParagraphRecord::kSpaceBefore) ? kStatesSpaceBefore : 0) |
+                     (takes(ParagraphRecord::kSpaceAfter) ? kStatesSpaceAfter : 0);
   Apply(UndoKind::Unknown, [&](ParaFormat& format) {
-    if (record.mask & ParagraphRecord::kLineSpacing)
+    if (takes(ParagraphRecord::kLineSpacing))
       SetRecordedSpacing(format, record.lineSpacingRule, record.lineSpacing);
-    if (record.mask & ParagraphRecord::kSpaceBefore) format.spaceBefore = record.spaceBefore;
-    if (record.mask & ParagraphRecord::kSpaceAfter) format.spaceAfter = record.spaceAfter;
+    if (takes(ParagraphRecord::kSpaceBefore)) format.spaceBefore = record.spaceBefore;
+    if (takes(ParagraphRecord::kSpaceAfter)) format.spaceAfter = record.spaceAfter;
+    State(stated, format);
   });
 }
 

@@ -2,6 +2,7 @@
 #include "rtf/read/tables/ColourTable.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace lumenote {
@@ -15,8 +16,14 @@ int ShiftOf(std::string_view component) {
   return -1;
 }
 
-/// \ctint, \cshade and the theme's colours.
-bool IsTint(std::string_view word) { return word.starts_with('c') && word != "colortbl"; }
+bool IsTint(std::string_view word) {
+  static constexpr std::string_view kWords[] = {
+      "ctint",         "cshade",         "cmaindarkone", "cmainlightone",      "cmaindarktwo",
+      "cmainlighttwo", "caccentone",     "caccenttwo",   "caccentthree",       "caccentfour",
+      "caccentfive",   "caccentsix",     "chyperlink",   "cfollowedhyperlink", "cbackgroundone",
+      "ctextone",      "cbackgroundtwo", "ctexttwo"};
+  return std::ranges::find(kWords, word) != std::end(kWords);
+}
 
 }  // namespace
 
