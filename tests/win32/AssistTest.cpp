@@ -50,7 +50,7 @@ class AssistTest : public SurfaceWindowTest {
     return Only(array);
   }
 
-  const ComOwner<ViewElement> element{new ViewElement({Handle(), window->Text()})};
+  const ComOwner<ViewElement> element{new ViewElement({Handle(), window->Text(), callbacks.name})};
 };
 
 TEST_F(AssistTest, AnswersLikeTheSystemsEditControl) {
@@ -82,6 +82,8 @@ TEST_F(AssistTest, AnswersLikeTheSystemsEditControl) {
     EXPECT_EQ(Shown(), row.after) << row.id;
     EXPECT_EQ(Send(EM_CANUNDO), row.id == EM_REPLACESEL || row.id == WM_PASTE) << row.id;
   }
+  Send(EM_REPLACESEL);
+  EXPECT_EQ(Shown(), "un 2|¶trois") << "no text is an empty one";
   locked = true;
   for (const UINT id : {WM_PASTE, EM_REPLACESEL, WM_UNDO, WM_CUT}) {
     Send(EM_SETSEL, 0, 2);

@@ -5,11 +5,15 @@
 
 #include "Input.h"
 #include "backends/win32/Win32Backend.h"
+#include "backends/win32/toolkit/ComObject.h"
 #include "control/Component.h"
 #include "lumenote/CoBxRtf.h"
 #include "pilot/machine/PilotPlatform.h"
 #include "pilot/machine/ReportedFonts.h"
 #include "pilot/sandbox/FolderSandbox.h"
+
+// After the system's own header.
+#include <oleacc.h>
 
 namespace lumenote {
 namespace {
@@ -98,6 +102,26 @@ TEST_F(EditorTest, KeysReachEditorAndDialogsInAPlainLoop) {
   EXPECT_EQ(GetActiveWindow(), Handle());
   Type({VK_DELETE});
   EXPECT_EQ(Shown(), u"ac");
+}
+
+TEST_F(EditorTest, ScreenReadersNameTheNoteByItsFrame) {
+  const std::pair<const char16_t*, const wchar_t*> rows[] = {{u"&Bois && prés", L"Bois & prés"},
+                                                             {u"", L"Note"}};
+  for (const auto& [title, name] : rows) {
+    control->pTitreCadre(title);
+    Open();
+    void* found = nullptr;
+    ASSERT_EQ(AccessibleObjectFromWindow(GetFocus(), static_cast<DWORD>(OBJID_CLIENT),
+                                         __uuidof(IAccessible), &found),
+              S_OK);
+    const ComOwner<IAccessible> note(static_cast<IAccessible*>(found));
+    VARIANT self = {};
+    self.vt = VT_I4;
+    BSTR told = nullptr;
+    EXPECT_EQ(note->get_accName(self, &told), S_OK);
+    EXPECT_STREQ(told, name);
+    SysFreeString(told);
+  }
 }
 
 TEST_F(EditorTest, HoweverItIsClosedTheNoteIsSaved) {

@@ -13,6 +13,7 @@ class SurfaceWindowTest : public testing::Test {
  protected:
   SurfaceWindowTest() {
     callbacks.locked = [this] { return locked; };
+    callbacks.name = [] { return std::u16string(u"Essai"); };
     callbacks.mouseUp = [this](const MouseEvent& event) { released.push_back(event); };
     callbacks.key = [this](const KeyStroke& key) {
       unused.push_back(key);

@@ -7,7 +7,8 @@
 
 namespace lumenote {
 
-Assistance::Assistance(HWND window, NoteView& view) : window_(window), view_(view) {}
+Assistance::Assistance(HWND window, NoteView& view, ViewName name)
+    : window_(window), view_(view), name_(std::move(name)) {}
 
 Assistance::~Assistance() { End(); }
 
@@ -15,7 +16,7 @@ std::optional<LRESULT> Assistance::Answer(const Message& message) {
   if (message.id != WM_GETOBJECT) return AnswerEdit(view_, message);
   switch (static_cast<LONG>(message.l)) {
     case OBJID_CLIENT:
-      return AnswerAccessible({window_, view_}, message.w);
+      return AnswerAccessible({window_, view_, name_}, message.w);
     case uia::kRootObject:
       return AnswerAutomation(message);
   }
@@ -23,7 +24,7 @@ std::optional<LRESULT> Assistance::Answer(const Message& message) {
 }
 
 LRESULT Assistance::AnswerAutomation(const Message& message) {
-  if (!element_) element_.reset(new ViewElement({window_, view_}));
+  if (!element_) element_.reset(new ViewElement({window_, view_, name_}));
   return uia::Return(window_, message.w, message.l, element_.get());
 }
 

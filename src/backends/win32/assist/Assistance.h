@@ -2,9 +2,8 @@
 #pragma once
 #include <optional>
 
+#include "backends/win32/assist/ViewLink.h"
 #include "backends/win32/toolkit/ComObject.h"
-#include "backends/win32/toolkit/Window.h"
-#include "view/pane/NoteView.h"
 
 namespace lumenote {
 
@@ -15,7 +14,7 @@ class ViewElement;
 class Assistance {
  public:
   /// `view` belongs to the object of `window`, and so does this.
-  Assistance(HWND window, NoteView& view);
+  Assistance(HWND window, NoteView& view, ViewName name);
   ~Assistance();
   Assistance(const Assistance&) = delete;
   Assistance& operator=(const Assistance&) = delete;
@@ -33,6 +32,7 @@ class Assistance {
 
   HWND window_;
   NoteView& view_;
+  ViewName name_;
   ComOwner<ViewElement> element_;  // once a program has asked for it
 };
 

@@ -102,9 +102,11 @@ std::optional<LRESULT> Change(NoteView& view, const Message& message) {
     case EM_SETSEL:
       Select(view, message);
       return 0;
-    case EM_REPLACESEL:
-      text.Replace(text.Selected(), reinterpret_cast<const char16_t*>(message.l));
+    case EM_REPLACESEL: {
+      const auto* given = reinterpret_cast<const char16_t*>(message.l);
+      text.Replace(text.Selected(), given ? given : u"");
       return 0;
+    }
     case EM_SCROLLCARET:
       text.Reveal({text.Caret(), text.Caret()});
       return TRUE;

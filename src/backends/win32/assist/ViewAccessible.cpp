@@ -31,8 +31,10 @@ class AccessibleView final : public ComObject<IAccessible> {
 
   HRESULT STDMETHODCALLTYPE get_accName(VARIANT child, BSTR* out) override {
     if (!IsSelf(child)) return E_INVALIDARG;
-    *out = BstrOf(NameOf(view_.Handle()));
-    return *out ? S_OK : E_OUTOFMEMORY;
+    return view_.Ask([&](AccessibleText&) {
+      *out = BstrOf(view_.Name());
+      return *out ? S_OK : E_OUTOFMEMORY;
+    });
   }
   HRESULT STDMETHODCALLTYPE get_accValue(VARIANT child, BSTR* out) override {
     constexpr Position kMost = 10'000;

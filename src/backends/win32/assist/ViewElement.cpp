@@ -37,7 +37,7 @@ HRESULT ViewElement::GetPropertyValue(PROPERTYID id, VARIANT* out) {
         break;
       case uia::kName:
         out->vt = VT_BSTR;
-        out->bstrVal = BstrOf(NameOf(view_.Handle()));
+        out->bstrVal = BstrOf(view_.Name());
         break;
       case uia::kIsKeyboardFocusable:
         Put(IsWindowEnabled(view_.Handle()), *out);

@@ -1,8 +1,11 @@
 // A view, for assistive programs that may hold on to it longer than its window lives.
 #pragma once
+#include <functional>
 #include <memory>
 #include <new>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include "backends/win32/assist/UiaText.h"
 #include "backends/win32/toolkit/Window.h"
@@ -10,13 +13,21 @@
 
 namespace lumenote {
 
+/// What users call a view; asked as long as it is attached.
+using ViewName = std::function<std::u16string()>;
+
 class ViewLink {
  public:
   /// `view` belongs to the object of `window`.
-  ViewLink(HWND window, NoteView& view)
-      : window_(window), view_(view), owner_(Window::Of(window)->weak_from_this()) {}
+  ViewLink(HWND window, NoteView& view, ViewName name)
+      : window_(window),
+        view_(view),
+        name_(std::move(name)),
+        owner_(Window::Of(window)->weak_from_this()) {}
 
   HWND Handle() const { return window_; }
+  /// As long as `Hold` holds it; empty if it has none.
+  std::u16string Name() const { return name_ ? name_() : std::u16string(); }
   /// Null when the window or what it shows has gone; else keeps the window's object alive.
   std::shared_ptr<NoteView> Hold() const {
     const std::shared_ptr<Window> owner = owner_.lock();
@@ -39,6 +50,7 @@ class ViewLink {
  private:
   HWND window_;
   NoteView& view_;  // while the owner lives
+  ViewName name_;
   std::weak_ptr<Window> owner_;
 };
 
@@ -47,8 +59,5 @@ inline BSTR BstrOf(std::u16string_view text) {
   return SysAllocStringLen(reinterpret_cast<const wchar_t*>(text.data()),
                            static_cast<UINT>(text.size()));
 }
-
-/// The caption of the label before a window, else that of its form.
-std::u16string NameOf(HWND window);
 
 }  // namespace lumenote

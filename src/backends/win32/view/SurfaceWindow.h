@@ -30,6 +30,8 @@ struct ViewCallbacks {
   std::function<void(const MouseEvent&)> mouseUp{};
   /// Whether user edits are blocked.
   std::function<bool()> locked{};
+  /// What users call the view.
+  ViewName name{};
   /// A key that the view has no use for; true if the form has.
   std::function<bool(const KeyStroke&)> key{};
 };
@@ -102,7 +104,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   ViewDrop drop_{text_};
   ViewBars bars_{text_};
   SystemCaret caret_{Handle()};
-  Assistance assistance_{Handle(), text_};
+  Assistance assistance_{Handle(), text_, callbacks_.name};
   OleScope ole_;
   DragOut drag_;
   ComOwner<DropTarget> target_{new DropTarget(Handle(), text_, drag_)};

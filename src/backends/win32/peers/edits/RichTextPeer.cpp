@@ -1,16 +1,34 @@
 #include "backends/win32/peers/edits/RichTextPeer.h"
 
 #include "forms/Form.h"
+#include "forms/controls/Frame.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {
 namespace {
+
+/// A caption without the marks of mnemonics.
+std::u16string Unmarked(std::u16string_view caption) {
+  std::u16string text;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&') ++i;
+    if (i < caption.size()) text += caption[i];
+  }
+  return text;
+}
+
+/// The title of the frame around a box, else that of its form.
+std::u16string NameOf(const RichTextBox& box) {
+  const auto* frame = dynamic_cast<const Frame*>(&box.Parent());
+  return frame && !frame->Caption().empty() ? Unmarked(frame->Caption()) : box.Owner().Caption();
+}
 
 std::shared_ptr<SurfaceWindow> MakeWindow(RichTextBox& box, HWND parent, PeerHost& host) {
   ViewCallbacks callbacks;
   callbacks.act = [&box](const std::function<void()>& act) { box.Owner().Raise(act); };
   callbacks.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
   callbacks.locked = [&box] { return box.Locked(); };
+  callbacks.name = [&box] { return NameOf(box); };
   callbacks.key = [&box, &host](const KeyStroke& key) { return host.UnusedKey(box, key); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
   return std::make_shared<SurfaceWindow>(parent, surface, host.LayouterOf(box),
