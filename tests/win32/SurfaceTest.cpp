@@ -1,4 +1,6 @@
 // The surface's window, driven by the messages that the system sends.
+#include <tuple>
+
 #include "backends/win32/view/TransferData.h"
 #include "view/Edits.h"
 #include "win32/SurfaceBench.h"
@@ -74,8 +76,17 @@ TEST_F(SurfaceWindowTest, DropsTextRtfAndHtml) {
   Put(u"^un| deux");
   const ComOwner<TransferData> data(new TransferData(TextExcerpt(surface)));
   Put(u"trois|");
-  DWORD effect = DROPEFFECT_COPY;
-  target->DragEnter(data.get(), MK_LBUTTON, OnScreen(0), &effect);
+  const std::tuple<DWORD, DWORD, DWORD> rows[] = {
+      {DROPEFFECT_MOVE, 0, DROPEFFECT_MOVE},
+      {DROPEFFECT_MOVE, MK_CONTROL, DROPEFFECT_NONE},
+      {DROPEFFECT_COPY | DROPEFFECT_MOVE, 0, DROPEFFECT_COPY}};
+  DWORD effect = 0;
+  for (const auto& [offered, keys, chosen] : rows) {
+    effect = offered;
+    target->DragEnter(data.get(), MK_LBUTTON | keys, OnScreen(0), &effect);
+    EXPECT_EQ(effect, chosen) << offered << " with " << keys;
+  }
+  effect = DROPEFFECT_COPY | DROPEFFECT_MOVE;
   target->Drop(data.get(), MK_LBUTTON, OnScreen(0), &effect);
   EXPECT_EQ(effect, DWORD{DROPEFFECT_COPY});
   EXPECT_EQ(Shown(), "^un|trois");

@@ -16,12 +16,13 @@ void DropTarget::Revoke() {
   window_ = nullptr;
 }
 
-// The user's own text moves, with Ctrl it is copied; what others offer is copied where they allow
-// it.
+// The user's own text moves, with Ctrl it is copied. Others keep what is dragged from them, unless
+// they allow nothing but to move it.
 DWORD DropTarget::Chosen(DWORD keys, DWORD offered) const {
   if (!Takes() || !readable_) return DROPEFFECT_NONE;
-  const bool copy = (keys & MK_CONTROL) || !(offered & DROPEFFECT_MOVE);
-  return copy ? offered & DROPEFFECT_COPY : offered & DROPEFFECT_MOVE;
+  const bool moves = (offered & DROPEFFECT_MOVE) && !(keys & MK_CONTROL) &&
+                     (own_.IsRunning() || !(offered & DROPEFFECT_COPY));
+  return moves ? DROPEFFECT_MOVE : offered & DROPEFFECT_COPY;
 }
 
 PixelPoint DropTarget::PointOf(POINTL at) const {
