@@ -4,6 +4,7 @@
 # services would keep a pipe open.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
+. "$here/../../scripts/wine.sh"
 kept=$here/../../hosts/com/typelib
 dll=$1/hosts/com/Lumenote.dll maker=$1/hosts/com/lumenote_typelib.exe host=$1/tests/com/test_com.exe
 typist=$1/tests/com/typist.exe docs=$here/../../docs/windows.md
@@ -15,7 +16,7 @@ fail() {
   cat "$work/out" 2>/dev/null || true
   exit 1
 }
-run() { wine "$@" >"$work/out" 2>&1 </dev/null; }
+run() { run_wine "$work/out" 300 "$@"; }
 windows() { echo "Z:${1//\//\\}"; }
 
 # The classes of the machine and of the user.
@@ -42,7 +43,7 @@ example() {
   local notes=$WINEPREFIX/drive_c/Notes
   mkdir -p "$notes"
   sed -n '/^VBScript /,/^VBA /s/^    //p' "$docs" >"$work/example.vbs"
-  wine "$typist" 'Orchis purpurea Huds.' 'Abies' >"$work/typist" 2>&1 </dev/null &
+  run_wine "$work/typist" 300 "$typist" 'Orchis purpurea Huds.' 'Abies' &
   [ "$(script "$work/example.vbs")" = 'C:\Notes\orchis.rtf' ] || fail "the example in VBScript"
   wait
   grep -q Abies "$notes/orchis.rtf" || fail "the example's note"
@@ -55,7 +56,6 @@ for width in 64 86; do
 done
 
 run regsvr32 /s /u "$(windows "$dll")" || true  # what a test that ended early has left
-run cscript //nologo "$(windows "$here/host.js")" || true  # registers itself at its first start
 run reg add 'HKCU\Software\Classes' /f  # there on every Windows
 # Wine's script host registers itself when it first runs.
 : >"$work/nothing.vbs"
@@ -81,8 +81,10 @@ run reg query "$machine\\$library" || fail "the other width has lost its library
 run reg delete "$machine\\Wow6432Node\\$class" /f
 
 # For one user, as where the machine's classes cannot be written.
-run regsvr32 /s "$(windows "$dll")" || fail "not registered again"
 run regsvr32 /s /n /i:user "$(windows "$dll")" || fail "not registered for the user"
+run regsvr32 /s "$(windows "$dll")" || fail "not registered again"
+! run reg query "$user\\$class" || fail "the user's older class wins"
+run regsvr32 /s /n /i:user "$(windows "$dll")" || fail "not registered for the user too"
 for key in "$class\\InprocServer32" "$library\\1.0\\0\\win64"; do
   run reg query "$user\\$key" /ve || fail "$key"
   grep -q "$(basename "$dll")" "$work/out" || fail "$key has another path"

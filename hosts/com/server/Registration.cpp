@@ -124,9 +124,11 @@ HRESULT RegisterIn(HKEY root) {
 
 }  // namespace
 
+// An older registration of the user's would win.
 HRESULT Register() {
   const HRESULT entered = RegisterIn(HKEY_LOCAL_MACHINE);
-  return entered == E_ACCESSDENIED ? RegisterForUser() : entered;
+  if (entered == E_ACCESSDENIED) return RegisterForUser();
+  return SUCCEEDED(entered) ? UnregisterForUser() : entered;
 }
 
 HRESULT RegisterForUser() { return RegisterIn(HKEY_CURRENT_USER); }

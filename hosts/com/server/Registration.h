@@ -4,7 +4,8 @@
 
 namespace lumenote {
 
-/// Registers for all users; where that is not allowed, for the current one.
+/// Registers for all users, in place of a registration of the current one; where that is not
+/// allowed, for the current one.
 HRESULT Register();
 HRESULT RegisterForUser();
 /// Removes both registrations. What hosts of the other width use stays while they are registered.
