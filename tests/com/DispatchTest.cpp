@@ -67,6 +67,7 @@ TEST_F(DispatchTest, ValuesAreConvertedOrRefused) {
   struct Row {
     std::vector<Value> arguments;
     HRESULT result;
+    bool isColour = true;
   };
   const Row rows[] = {{{Value(u"255")}, S_OK},
                       {{Value(LONG{255})}, S_OK},
@@ -74,12 +75,12 @@ TEST_F(DispatchTest, ValuesAreConvertedOrRefused) {
                       {{Value(VT_BYREF | VT_BSTR, &text)}, S_OK},
                       {{Value(VT_BYREF | VT_I4, &number.lVal)}, S_OK},
                       {{Value(VT_BYREF | VT_VARIANT, &number)}, S_OK},
-                      {{Value(VT_EMPTY)}, S_OK},
-                      {{Value(VT_NULL)}, DISP_E_TYPEMISMATCH}};
+                      {{Value(VT_EMPTY)}, S_OK, false},
+                      {{Value(VT_NULL)}, DISP_E_TYPEMISMATCH, false}};
   for (const Row& row : rows) {
     const int at = int(&row - rows);
     EXPECT_EQ(Invoke(L"pCouleurFen", DISPATCH_PROPERTYPUT, row.arguments).result, row.result) << at;
-    if (row.result != S_OK || at == 6) continue;
+    if (!row.isColour) continue;
     EXPECT_EQ(Invoke(L"ShowMicroEdit", DISPATCH_METHOD, {}).result, S_OK) << at;
   }
   SysFreeString(text);

@@ -2,6 +2,7 @@
 // alone.
 #include <atomic>
 #include <thread>
+#include <utility>
 
 #include "ComHost.h"
 
@@ -19,12 +20,30 @@ TEST_F(ThreadTest, AnotherThreadIsRefused) {
   EXPECT_EQ(result, kWrongThread);
 }
 
+/// Source and description of the error of a call by name. Those of other calls get lost in wine's
+/// proxies.
+std::pair<std::u16string, std::u16string> ErrorOf(const Control& control, std::wstring method) {
+  wchar_t* names[] = {method.data()};
+  DISPID id = DISPID_UNKNOWN;
+  control->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
+  DISPPARAMS none{};
+  EXCEPINFO error{};
+  EXPECT_EQ(control->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &none, nullptr,
+                            &error, nullptr),
+            DISP_E_EXCEPTION);
+  const std::pair told(FromBstr(error.bstrSource), FromBstr(error.bstrDescription));
+  SysFreeString(error.bstrSource);
+  SysFreeString(error.bstrDescription);
+  return told;
+}
+
 TEST_F(ThreadTest, AProxyCarriesCallsAndErrors) {
   const Control control = CreateWith(u"note");
   IStream* passed = nullptr;
   ASSERT_EQ(CoMarshalInterThreadInterfaceInStream(kInterfaceId, control.Get(), &passed), S_OK);
   std::atomic<bool> done = false;
-  std::u16string read, source;
+  std::u16string read;
+  std::pair<std::u16string, std::u16string> told;
   HRESULT shown = S_OK;
   std::thread other([&] {
     const Apartment apartment;
@@ -34,6 +53,7 @@ TEST_F(ThreadTest, AProxyCarriesCallsAndErrors) {
       read = NoteOf(proxy);
       proxy->put_pCouleurFen(Bstr(u"rouge").Get());
       shown = proxy->ShowMicroEdit(0);
+      told = ErrorOf(proxy, L"ShowMicroEdit");
     }
     proxy = Control();
     done = true;
@@ -43,6 +63,8 @@ TEST_F(ThreadTest, AProxyCarriesCallsAndErrors) {
   other.join();
   EXPECT_EQ(read, u"note");
   EXPECT_EQ(shown, MAKE_HRESULT(1, FACILITY_CONTROL, 13));
+  EXPECT_EQ(told.first, u"Lumenote.CoBxRtf.pCouleurFen");
+  EXPECT_EQ(told.second, u"Incompatibilité de type");
 }
 
 TEST_F(ThreadTest, ApartmentsWorkAtOnce) {
