@@ -1,9 +1,7 @@
 #include "backends/win32/clipboard/SystemClipboard.h"
 
-#include <algorithm>
-#include <cstring>
-
 #include "backends/win32/clipboard/HtmlFormat.h"
+#include "backends/win32/clipboard/SharedText.h"
 #include "backends/win32/files/WideNames.h"
 
 namespace lumenote {
@@ -29,28 +27,17 @@ class OpenedClipboard {
   bool open_ = false;
 };
 
-/// What the open clipboard holds in a format, up to the first zero unit.
+/// What the open clipboard holds in a format.
 template <class Text>
 std::optional<Text> Taken(UINT format) {
-  using Unit = typename Text::value_type;
-  const HANDLE data = GetClipboardData(format);
-  const auto* units = data ? static_cast<const Unit*>(GlobalLock(data)) : nullptr;
-  if (!units) return std::nullopt;
-  const std::size_t size = GlobalSize(data) / sizeof(Unit);
-  Text text(units, std::find(units, units + size, Unit()));
-  GlobalUnlock(data);
-  return text;
+  return TextIn<Text>(GetClipboardData(format));
 }
 
-/// Gives the open clipboard a copy with a zero unit at its end.
+/// Gives the open clipboard a copy.
 template <class Text>
 void Put(UINT format, const Text& text) {
-  const std::size_t size = (text.size() + 1) * sizeof(text[0]);
-  const HGLOBAL data = GlobalAlloc(GMEM_MOVEABLE, size);
-  if (!data) return;
-  std::memcpy(GlobalLock(data), text.c_str(), size);
-  GlobalUnlock(data);
-  if (!SetClipboardData(format, data)) GlobalFree(data);
+  const HGLOBAL data = SharedCopy(text);
+  if (data && !SetClipboardData(format, data)) GlobalFree(data);
 }
 
 }  // namespace

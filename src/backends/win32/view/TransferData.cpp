@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <new>
 #include <vector>
 
 #include "backends/win32/clipboard/HtmlFormat.h"
+#include "backends/win32/clipboard/SharedText.h"
 #include "base/Strings.h"
 
 // After the system's own header.
@@ -36,37 +36,20 @@ bool IsOffered(const FORMATETC& format) {
          std::ranges::find(formats, format.cfFormat) != formats.end();
 }
 
-/// A copy of the text with a zero unit at its end; null if there is no memory for it.
-template <class Text>
-HGLOBAL CopyOf(const Text& text) {
-  const std::size_t size = (text.size() + 1) * sizeof text[0];
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, size);
-  if (!memory) return nullptr;
-  std::memcpy(GlobalLock(memory), text.c_str(), size);
-  GlobalUnlock(memory);
-  return memory;
-}
-
 HGLOBAL CopyOf(const TextExcerpt& text, CLIPFORMAT format) {
-  if (format == CF_UNICODETEXT) return CopyOf(text.Text());
-  return CopyOf(format == RtfFormat() ? text.Rtf() : WithHtmlHeader(text.Html()));
+  if (format == CF_UNICODETEXT) return SharedCopy(text.Text());
+  return SharedCopy(format == RtfFormat() ? text.Rtf() : WithHtmlHeader(text.Html()));
 }
 
-/// What is offered in a format, up to the first zero unit.
+/// What is offered in a format.
 template <class Text>
 std::optional<Text> Taken(IDataObject& data, CLIPFORMAT format) {
   FORMATETC wanted = FormatOf(format);
   STGMEDIUM medium = {};
   if (FAILED(data.GetData(&wanted, &medium))) return std::nullopt;
-  Text text;
-  const auto* units = static_cast<const typename Text::value_type*>(GlobalLock(medium.hGlobal));
-  if (units) {
-    const std::size_t size = GlobalSize(medium.hGlobal) / sizeof *units;
-    text.assign(units, std::find(units, units + size, 0));
-    GlobalUnlock(medium.hGlobal);
-  }
+  std::optional<Text> text = TextIn<Text>(medium.hGlobal);
   ReleaseStgMedium(&medium);
-  return units ? std::optional(text) : std::nullopt;
+  return text;
 }
 
 }  // namespace
