@@ -1,4 +1,5 @@
-# Sourced by run.sh, test.sh, test-windows.sh, packaging/windows.sh and .ci/run: installs the Debian packages that are missing.
+# Sourced by run.sh, test.sh, test-windows.sh, packaging/windows.sh and .ci/run: installs the Debian
+# packages that are missing.
 # usage: ensure_packages PACKAGE...
 
 ensure_packages() {

@@ -10,6 +10,7 @@
 #include "hosts/com/support/ComPtr.h"
 #include "hosts/com/support/Ole.h"
 #include "hosts/com/typelib/ICoBxRtf.h"
+#include "tests/win32/Meanwhile.h"
 
 namespace lumenote {
 
@@ -54,34 +55,6 @@ inline std::u16string NoteOf(const Control& control) {
   SysFreeString(text);
   return note;
 }
-
-/// Runs a function from the thread's message loops, again and again until it says true.
-class Meanwhile {
- public:
-  explicit Meanwhile(std::function<bool()> act) : act_(std::move(act)), before_(current_) {
-    current_ = this;
-    timer_ = SetTimer(nullptr, 0, 10, &Meanwhile::Tick);
-  }
-  ~Meanwhile() {
-    KillTimer(nullptr, timer_);
-    current_ = before_;
-  }
-  Meanwhile(const Meanwhile&) = delete;
-  Meanwhile& operator=(const Meanwhile&) = delete;
-
-  bool Done() const { return done_; }
-
- private:
-  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
-    if (current_ && !current_->done_ && current_->act_()) current_->done_ = true;
-  }
-
-  static inline thread_local Meanwhile* current_ = nullptr;
-  std::function<bool()> act_;
-  Meanwhile* before_;
-  UINT_PTR timer_ = 0;
-  bool done_ = false;
-};
 
 /// Dispatches the thread's messages until a condition holds.
 inline void RunUntil(const std::function<bool()>& done) {

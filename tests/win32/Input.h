@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "Meanwhile.h"
 #include "backends/win32/toolkit/NativeText.h"
 
 namespace lumenote {
@@ -44,34 +45,6 @@ inline HWND WindowTitled(const std::u16string& title) {
   EnumThreadWindows(GetCurrentThreadId(), &Search::Look, reinterpret_cast<LPARAM>(&search));
   return search.found;
 }
-
-/// Calls `act` again and again, in whatever loop runs, until it says that it is done.
-class Meanwhile {
- public:
-  explicit Meanwhile(std::function<bool()> act) : act_(std::move(act)) {
-    current = this;
-    timer_ = SetTimer(nullptr, 0, 10, &Tick);
-  }
-  ~Meanwhile() { Stop(); }
-  Meanwhile(const Meanwhile&) = delete;
-  Meanwhile& operator=(const Meanwhile&) = delete;
-
-  bool IsDone() const { return timer_ == 0; }
-
- private:
-  static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
-    if (current && current->act_() && current) current->Stop();
-  }
-  void Stop() {
-    if (timer_) KillTimer(nullptr, timer_);
-    timer_ = 0;
-    current = nullptr;
-  }
-
-  inline static Meanwhile* current = nullptr;
-  std::function<bool()> act_;
-  UINT_PTR timer_ = 0;
-};
 
 /// Clicks a button of the box with that title once it is there.
 inline std::function<bool()> Answers(const std::u16string& title, int button) {
