@@ -122,7 +122,9 @@ TEST_F(WaitTest, TheHostsModalStateIsKept) {
     EXPECT_FALSE(main.Enabled());
     const HWND editor = FindEditor();
     const bool box = editor && BoxOver(editor);
-    if (box) EXPECT_FALSE(dialog.Enabled() || IsWindowEnabled(editor));
+    if (box) {
+      EXPECT_FALSE(dialog.Enabled() || IsWindowEnabled(editor));
+    }
     boxSeen = boxSeen || box;
     return user.Step();
   });
