@@ -11,13 +11,13 @@ namespace {
 
 constexpr int kScripts = kSuperscript | kSubscript;
 
-/// Some readers know only one way back to the line.
+/// Some readers know only one way back to the line; one of them takes \super0 for \super, until
+/// \nosupersub ends it.
 void WriteScript(int from, int to, Output& out) {
+  const bool plain = (to & kScripts) == 0;
+  if (plain) out.Word((from & kSuperscript) != 0 ? "super0" : "sub0");
   if ((from & kScripts) != 0) out.Word("nosupersub");
-  if ((to & kScripts) != 0)
-    out.Word((to & kSuperscript) != 0 ? "super" : "sub");
-  else
-    out.Word((from & kSuperscript) != 0 ? "super0" : "sub0");
+  if (!plain) out.Word((to & kSuperscript) != 0 ? "super" : "sub");
 }
 
 /// Some readers take the superscript text before a footnote for its mark, from the last \nosupersub
