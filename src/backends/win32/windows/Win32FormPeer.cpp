@@ -159,10 +159,9 @@ void Win32FormPeer::ShowVisible() {
   }
   ChooseBoxes();
   owner_ = OwnerWindow();
-  ShowOnTop();
   Join(true);
   ShowGeometry();
-  ShowWindow(Handle(), SW_SHOWNA);
+  ShowOnTop();
   if (form_.IsModal()) lock_ = std::make_unique<ModalLock>(Handle());
 }
 
@@ -189,8 +188,9 @@ bool Win32FormPeer::StaysOnTop() const {
 }
 
 void Win32FormPeer::ShowOnTop() {
+  const UINT show = form_.Visible() ? SWP_SHOWWINDOW : 0;
   SetWindowPos(Handle(), StaysOnTop() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | show);
 }
 
 void Win32FormPeer::Join(bool owner) {
