@@ -110,6 +110,7 @@ void Form::Load() {
   windows_.Enter(*this);
   loaded_ = true;
   unloaded_ = false;
+  lost_ = false;
   try {
     peer_ = Machine().Windows().Realise(*this);
     RearmTimers();
@@ -176,7 +177,7 @@ bool Form::Unload() {
   Raise([&] { mayGo = Form_QueryUnload(); });
   if (mayGo) Raise([this] { Form_Unload(); });
   unloading_ = false;
-  if (!mayGo) return false;
+  if (!mayGo && !lost_) return false;
   TakeDown();
   if (Unloaded) Unloaded();
   return true;
@@ -187,11 +188,17 @@ void Form::Keep() {
 }
 
 void Form::Abandon() {
-  if (!loaded_ || unloading_) return;
+  if (!loaded_) return;
   const InUse use(*this);
   Keep();
+  if (unloading_) return;
   TakeDown();
   if (Unloaded) Unloaded();
+}
+
+void Form::Lose() {
+  lost_ = true;
+  Abandon();
 }
 
 void Form::TakeDown() {

@@ -79,8 +79,11 @@ class Form : public Element, public Container {
   /// Keeps what the window holds for the next start, since the program may end at any moment.
   void Keep();
   /// Takes the window down whatever it says to that, once what it holds is kept. One that is
-  /// unloading is left alone.
+  /// unloading stays until that is decided.
   void Abandon();
+  /// The window system has destroyed the native window: the form is abandoned, at the latest when
+  /// its unloading has been decided.
+  void Lose();
 
   /// What Return and Escape click, where the control with the keyboard has no use for them; null
   /// for none. A button that is disabled or hidden is not clicked.
@@ -192,6 +195,7 @@ class Form : public Element, public Container {
   bool loaded_ = false;
   bool unloading_ = false;
   bool unloaded_ = false;
+  bool lost_ = false;  // the native window has gone
   bool modal_ = false;
   bool escapeCloses_ = false;
 };

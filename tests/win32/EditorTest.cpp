@@ -164,6 +164,23 @@ TEST_F(EditorTest, AQuitDuringAQuestionLosesNothing) {
   EXPECT_EQ(Saved(), "xabc");
 }
 
+TEST_F(EditorTest, AQuestionThatGoesWithItsWindowDecidesNothing) {
+  for (const bool inFile : {true, false}) {
+    if (!inFile) control->pStrOrchm(u"abc");
+    Meanwhile host([&, typed = false]() mutable {
+      if (!Editor() || !IsWindowVisible(Handle())) return false;
+      if (WindowTitled(kTitle)) return DestroyWindow(Handle()) != 0;
+      if (!std::exchange(typed, true)) Type({'V', inFile ? WORD{'F'} : WORD{'S'}});
+      PostMessageW(Handle(), WM_CLOSE, 0, 0);
+      return false;
+    });
+    control->ShowMicroEdit(1);
+    EXPECT_FALSE(Editor());
+    EXPECT_TRUE(OnDisk(inFile ? "vfabc" : "vsabc"));
+  }
+  EXPECT_EQ(Saved(), "abc");
+}
+
 TEST_F(EditorTest, TheSessionsEndAsksNothingAndKeepsTheNote) {
   Open();
   Type({'Q', 'Q', 'Q'});

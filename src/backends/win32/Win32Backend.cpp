@@ -6,6 +6,7 @@
 #include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/windows/boxes/FontDialog.h"
 #include "backends/win32/windows/boxes/MessageBoxes.h"
+#include "base/RuntimeError.h"
 #include "forms/controls/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
@@ -90,6 +91,8 @@ HWND Win32Backend::DialogParent(const Form* over) const {
   if (!over) return nullptr;
   const Form* modal = over->Windows().TopModal();
   const Win32FormPeer* peer = PeerOf(modal ? *modal : *over);
+  if (peer && !peer->Handle())
+    throw RuntimeError(ErrorNumber::OutOfMemory);  // destroyed by the host
   return peer ? peer->Handle() : nullptr;
 }
 

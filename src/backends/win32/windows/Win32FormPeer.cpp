@@ -288,7 +288,7 @@ std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
       form_.UserClose();
       return 0;
     case WM_DESTROY:
-      form_.Abandon();
+      form_.Lose();
       return 0;
     case WM_SIZE:
     case WM_MOVE:

@@ -7,6 +7,7 @@
 #include "backends/win32/toolkit/NativeText.h"
 #include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/windows/ModalLock.h"
+#include "base/RuntimeError.h"
 
 namespace lumenote {
 namespace {
@@ -94,7 +95,8 @@ int AnswerTo(const MessageBox& box, HWND over, UINT kind) {
 
 }  // namespace
 
-// The system locks the window below only.
+// The system locks the window below only. A question that could not be asked, or went with its
+// window, has no answer.
 Answer ShowMessageBox(const MessageBox& box, HWND over) {
   const bool question = box.buttons == MessageBox::Buttons::YesNo;
   const UINT kind = IconOf(box.icon) | (question ? MB_YESNO : MB_OK);
@@ -102,6 +104,7 @@ Answer ShowMessageBox(const MessageBox& box, HWND over) {
   const VisualStyles styles;
   const int answer = AnswerTo(box, over, kind);
   if (!question) return Answer::Ok;
+  if (!IsAnswer(answer, box.buttons)) throw RuntimeError(ErrorNumber::OutOfMemory);
   return answer == IDYES ? Answer::Yes : Answer::No;
 }
 
