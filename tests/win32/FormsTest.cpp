@@ -55,7 +55,7 @@ class Fields : public Form {
   Menu more{edit, "more", u"Autres"};
   Menu inner{more, "inner", u"Coller"};
   Menu gras{*this, "gras", u"G"};
-  Menu format{*this, "format", u"Format"};
+  Menu format{*this, "format", u"F&ormat"};
   Menu para{format, "para", u"Paragraphe"};
   std::string told;
 };
@@ -207,6 +207,45 @@ TEST_F(FormsTest, ArrowsLeadFromOneMenuOfTheBarToTheNext) {
   EXPECT_EQ(form.told, "cut");
   Reset();
   for (const WORD key : {VK_F10, VK_RIGHT, VK_RIGHT, VK_DOWN, VK_DOWN, VK_RETURN}) Press({key});
+  Pump();
+  EXPECT_EQ(form.told, "para");
+  Reset();
+  for (const WORD key : {WORD{VK_MENU}, WORD{'O'}, WORD{VK_DOWN}, WORD{VK_RETURN}}) Press({key});
+  Pump();
+  EXPECT_EQ(form.told, "para");
+}
+
+TEST_F(FormsTest, WithTheKeyboardTheBarSaysWhatIsLit) {
+  const auto press = [](WORD key) {
+    Press({key});
+    Pump();
+  };
+  Reset();
+  press(VK_F10);
+  EXPECT_EQ(TextOf(Bar()), u"Edition");
+  press(VK_LEFT);
+  EXPECT_EQ(TextOf(Bar()), u"Format");
+  form.gras.Enabled(false);
+  EXPECT_EQ(TextOf(Bar()), u"Format");
+  form.format.Visible(false);
+  press(VK_ESCAPE);
+  EXPECT_EQ(GetFocus(), WindowOf(form.name));
+  for (Menu* menu : {&form.edit, &form.gras}) menu->Visible(false);
+  for (const WORD key : {VK_F10, VK_MENU}) press(key);
+  EXPECT_EQ(GetFocus(), WindowOf(form.name));
+}
+
+TEST_F(FormsTest, APointerAtRestLeavesTheMenuToTheArrows) {
+  Reset();
+  RECT bar;
+  GetWindowRect(Bar(), &bar);
+  SetCursorPos(bar.left + 8, bar.top + 8);
+  Pump();
+  const auto rests = [&] { PostMessageW(Bar(), WM_MOUSEMOVE, 0, MAKELPARAM(8, 8)); };
+  for (const WORD key : {VK_F10, VK_LEFT, VK_DOWN, VK_DOWN, VK_RETURN}) {
+    Press({key});
+    rests();
+  }
   Pump();
   EXPECT_EQ(form.told, "para");
 }

@@ -1,6 +1,7 @@
 #include "backends/win32/toolkit/MousePoint.h"
 
 #include <cmath>
+#include <utility>
 #include <windowsx.h>
 
 #include "backends/win32/toolkit/Units.h"
@@ -36,6 +37,11 @@ Point PointOf(HWND window, const Message& message) {
   const auto extra = static_cast<DWORD>(GetMessageExtraInfo());
   if (HIWORD(extra) != kSignature) return rounded;
   return {Restored(rounded.x, LOBYTE(LOWORD(extra))), Restored(rounded.y, HIBYTE(LOWORD(extra)))};
+}
+
+bool HasMoved(POINT& last, POINT now) {
+  const POINT before = std::exchange(last, now);
+  return before.x != now.x || before.y != now.y;
 }
 
 FineMouse::FineMouse(HWND window, Point exact) {

@@ -9,6 +9,10 @@ namespace lumenote {
 /// that are finer than pixels: within a `FineMouse` their messages are exact.
 Point PointOf(HWND window, const Message& message);
 
+/// Whether the pointer is elsewhere on the screen than it was last, and remembers where: the system
+/// also sends moves when a window appears or goes under a pointer at rest.
+bool HasMoved(POINT& last, POINT now);
+
 /// Sends along, for a block, what is lost when a point is rounded to a pixel.
 class FineMouse {
  public:

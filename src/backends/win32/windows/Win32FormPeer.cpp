@@ -311,9 +311,8 @@ std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
       menus_.Chosen(LOWORD(message.w));
       return 0;
     case WM_SYSCOMMAND:
-      if ((message.w & 0xFFF0) != SC_KEYMENU || message.l != 0 || !form_.HasMenuBar())
-        return std::nullopt;
-      menus_.ToggleKeyboard();
+      if ((message.w & 0xFFF0) != SC_KEYMENU || message.l != 0) return std::nullopt;
+      menus_.ToggleKeyboard();  // without a bar, the system would wait for its own menu
       return 0;
     case WM_QUERYENDSESSION:
       form_.Keep();

@@ -45,6 +45,10 @@ char16_t MnemonicOf(std::u16string_view caption) {
   return 0;
 }
 
+bool Marks(std::u16string_view caption, char16_t character) {
+  return character != 0 && MnemonicOf(caption) == ToLower(character);
+}
+
 }  // namespace
 
 Control* NextInTabOrder(Form& form, const Control* from, bool forward) {
@@ -70,14 +74,26 @@ Menu* NextMenu(Form& form, const Menu* from, bool forward) {
 }
 
 Element* WithMnemonic(Form& form, char16_t character) {
-  const char16_t wanted = ToLower(character);
   for (Control* control : UsableControls(form))
     if (const auto* captioned = dynamic_cast<const CaptionedControl*>(control);
-        captioned && MnemonicOf(captioned->Caption()) == wanted)
+        captioned && Marks(captioned->Caption(), character))
       return control;
+  return MenuWithMnemonic(form, character);
+}
+
+Menu* MenuWithMnemonic(Form& form, char16_t character) {
   for (Menu* menu : form.Menus())
-    if (menu->Visible() && menu->Enabled() && MnemonicOf(menu->Caption()) == wanted) return menu;
+    if (menu->Visible() && menu->Enabled() && Marks(menu->Caption(), character)) return menu;
   return nullptr;
+}
+
+std::u16string WithoutMnemonic(std::u16string_view caption) {
+  std::u16string read;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&' && i + 1 < caption.size()) ++i;
+    read += caption[i];
+  }
+  return read;
 }
 
 Control* FocusFor(Form& form, Control& marked) {

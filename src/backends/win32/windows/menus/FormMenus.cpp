@@ -1,5 +1,6 @@
 #include "backends/win32/windows/menus/FormMenus.h"
 
+#include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 #include "backends/win32/windows/menus/MenuFilter.h"
 
@@ -58,6 +59,7 @@ Menu* FormMenus::ShowList(Menu& menu) {
   Menu* next = nullptr;
   UINT command = 0;
   bar->Light(&menu);
+  GetCursorPos(&pointer_);
   {
     const MenuFilter filter(
         [&](const MSG& message) { return kept->HasListener() && Leaves(menu, message, next); });
@@ -68,21 +70,23 @@ Menu* FormMenus::ShowList(Menu& menu) {
   return command ? nullptr : next;
 }
 
-bool FormMenus::Leaves(const Menu& open, const MSG& message, Menu*& next) const {
+bool FormMenus::Leaves(const Menu& open, const MSG& message, Menu*& next) {
   const bool forward = message.wParam == VK_RIGHT;
-  Menu* const under = bar_->MenuAt(message.pt);
   switch (message.message) {
     case WM_KEYDOWN:
       if ((!forward && message.wParam != VK_LEFT) || !ArrowLeaves(tree_.ListOf(open), forward))
         return false;
       next = NextMenu(form_, &open, forward);
       break;
-    case WM_MOUSEMOVE:
+    case WM_MOUSEMOVE: {
+      if (!HasMoved(pointer_, message.pt)) return false;
+      Menu* const under = bar_->MenuAt(message.pt);
       if (!under || under == &open || !under->Enabled() || !tree_.ListOf(*under)) return false;
       next = under;
       break;
+    }
     case WM_LBUTTONDOWN:
-      if (under != &open) return false;
+      if (bar_->MenuAt(message.pt) != &open) return false;
       break;
     default:
       return false;

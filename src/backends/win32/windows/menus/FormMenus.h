@@ -36,13 +36,14 @@ class FormMenus {
   /// Returns the menu of the bar that the user went on to; null for none.
   Menu* ShowList(Menu& menu);
   /// Whether a message that an open list of the bar gets leads elsewhere.
-  bool Leaves(const Menu& open, const MSG& message, Menu*& next) const;
+  bool Leaves(const Menu& open, const MSG& message, Menu*& next);
   UINT Track(HMENU list, POINT at, const RECT* beside);
 
   Form& form_;
   std::shared_ptr<Window> window_;
   MenuTree tree_;
   std::shared_ptr<MenuBarWindow> bar_;
+  POINT pointer_ = {};              // on the screen, while a list of the bar is open
   bool tracks_ = false;             // a list is open
   const Menu* poppedUp_ = nullptr;  // its opening event has been raised already
 };

@@ -1,8 +1,10 @@
 #include "backends/win32/windows/menus/MenuBarWindow.h"
 
+#include <algorithm>
 #include <windowsx.h>
 
 #include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/toolkit/NativeText.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 
@@ -22,7 +24,7 @@ MenuBarWindow::MenuBarWindow(HWND parent, Form& form)
 void MenuBarWindow::Show() {
   menus_ = form_->Menus();
   std::erase_if(menus_, [](const Menu* menu) { return !menu->Visible(); });
-  lit_ = nullptr;
+  if (std::ranges::find(menus_, lit_) == menus_.end()) Light(nullptr);
   Repaint();
 }
 
@@ -71,26 +73,36 @@ RECT MenuBarWindow::PlaceOf(const Menu& menu) const {
 void MenuBarWindow::Light(Menu* menu) {
   if (menu == lit_) return;
   lit_ = menu;
+  TellLit();
   Repaint();
 }
 
+void MenuBarWindow::TellLit() const {
+  SetWindowTextW(Handle(), Wide(lit_ ? WithoutMnemonic(lit_->Caption()) : std::u16string()));
+  if (!lit_) return;
+  NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, Handle(), OBJID_CLIENT, CHILDID_SELF);
+  if (GetFocus() == Handle())
+    NotifyWinEvent(EVENT_OBJECT_FOCUS, Handle(), OBJID_CLIENT, CHILDID_SELF);
+}
+
 void MenuBarWindow::TakeKeyboard(Menu& lit) {
+  GetCursorPos(&pointer_);
   SetFocus(Handle());
   Light(&lit);
 }
 
 LRESULT MenuBarWindow::Receive(const Message& message) {
-  const POINT at = {GET_X_LPARAM(message.l), GET_Y_LPARAM(message.l)};
-  const auto under = [&] {
-    const RECT point = OnScreen({at.x, at.y, at.x, at.y});
-    return MenuAt({point.left, point.top});
+  const auto at = [&] {
+    POINT point = {GET_X_LPARAM(message.l), GET_Y_LPARAM(message.l)};
+    ClientToScreen(Handle(), &point);
+    return point;
   };
   switch (message.id) {
     case WM_LBUTTONDOWN:
-      Press(under());
+      Press(MenuAt(at()));
       return 0;
     case WM_MOUSEMOVE: {
-      Point(under());
+      if (HasMoved(pointer_, at())) Point(MenuAt(pointer_));
       TRACKMOUSEEVENT leave = {sizeof leave, TME_LEAVE, Handle(), 0};
       TrackMouseEvent(&leave);
       return 0;
@@ -103,6 +115,9 @@ LRESULT MenuBarWindow::Receive(const Message& message) {
       return 0;
     case WM_KEYDOWN:
       HearKey(message.w);
+      return 0;
+    case WM_CHAR:
+      HearCharacter(static_cast<char16_t>(message.w));
       return 0;
     default:
       return PaintedWindow::Receive(message);
@@ -117,9 +132,14 @@ void MenuBarWindow::Press(Menu* menu) {
   if (menu && chosen) chosen(*menu);
 }
 
-// The controls have the keyboard again before a menu opens.
+void MenuBarWindow::PressFromKeyboard(Menu* menu) {
+  SetFocus(GetParent(Handle()));
+  Press(menu);
+}
+
 void MenuBarWindow::HearKey(WPARAM key) {
   Menu* const lit = lit_;
+  if (key == VK_ESCAPE) SetFocus(GetParent(Handle()));
   if (!form_ || !lit) return;
   switch (key) {
     case VK_LEFT:
@@ -128,14 +148,15 @@ void MenuBarWindow::HearKey(WPARAM key) {
     case VK_RETURN:
     case VK_UP:
     case VK_DOWN:
-      SetFocus(GetParent(Handle()));
-      return Press(lit);
-    case VK_ESCAPE:
-      SetFocus(GetParent(Handle()));
-      return;
+      return PressFromKeyboard(lit);
     default:
       return;
   }
+}
+
+void MenuBarWindow::HearCharacter(char16_t character) {
+  Menu* const marked = form_ ? MenuWithMnemonic(*form_, character) : nullptr;
+  if (marked && GetFocus() == Handle()) PressFromKeyboard(marked);
 }
 
 void MenuBarWindow::Paint(HDC dc, const RECT& area) {

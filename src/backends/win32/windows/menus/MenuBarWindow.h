@@ -21,7 +21,7 @@ class MenuBarWindow final : public PaintedWindow {
   /// The form is going; the window may stay.
   void Detach();
 
-  /// Null for none.
+  /// Null for none. Its caption is the name that assistive programs read.
   void Light(Menu* menu);
   void TakeKeyboard(Menu& lit);
   /// The menu at a point of the screen; null for none.
@@ -40,15 +40,20 @@ class MenuBarWindow final : public PaintedWindow {
   /// Where the captions stand, from left to right.
   std::vector<RECT> Places(HDC dc) const;
   RECT OnScreen(RECT place) const;
-  /// The pointer is at a menu; with the keyboard, one stays lit.
+  /// The pointer has moved to a menu; with the keyboard, one stays lit.
   void Point(Menu* menu);
   void Press(Menu* menu);
   void HearKey(WPARAM key);
+  void HearCharacter(char16_t character);
+  /// The controls have the keyboard again before a menu opens.
+  void PressFromKeyboard(Menu* menu);
+  void TellLit() const;
   void PaintMenu(HDC dc, Menu& menu, RECT place) const;
 
   Form* form_;  // null once it is going
   std::vector<Menu*> menus_;
   Menu* lit_ = nullptr;
+  POINT pointer_ = {};  // on the screen
 };
 
 }  // namespace lumenote
