@@ -1,6 +1,7 @@
 #include "backends/win32/toolkit/FontFamilies.h"
 
 #include <algorithm>
+#include <new>
 
 namespace lumenote {
 namespace {
@@ -8,7 +9,11 @@ namespace {
 using Visitor = std::function<bool(const LOGFONTW&)>;
 
 int CALLBACK Visit(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM visitor) {
-  return (*reinterpret_cast<const Visitor*>(visitor))(*font) ? 1 : 0;
+  try {
+    return (*reinterpret_cast<const Visitor*>(visitor))(*font) ? 1 : 0;
+  } catch (const std::bad_alloc&) {
+    return 0;  // must not pass through the system
+  }
 }
 
 }  // namespace

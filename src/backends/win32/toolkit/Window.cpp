@@ -1,5 +1,7 @@
 #include "backends/win32/toolkit/Window.h"
 
+#include <new>
+
 #include "backends/win32/toolkit/VisualStyles.h"
 #include "base/RuntimeError.h"
 
@@ -67,11 +69,18 @@ Window* Window::Of(HWND handle) {
 }
 
 // Windows under construction or destruction have no owner, and leave everything to the system.
+// Exceptions must not pass through it.
 LRESULT CALLBACK Window::Dispatch(HWND handle, UINT id, WPARAM w, LPARAM l) {
   Window* const window = Of(handle);
   if (!window) return DefWindowProcW(handle, id, w, l);
   const std::shared_ptr<Window> self = window->weak_from_this().lock();
-  return self ? self->Handle({id, w, l}) : window->Default({id, w, l});
+  if (!self) return window->Default({id, w, l});
+  try {
+    return self->Handle({id, w, l});
+  } catch (const RuntimeError&) {
+  } catch (const std::bad_alloc&) {
+  }
+  return 0;
 }
 
 LRESULT Window::Handle(const Message& message) {

@@ -1,5 +1,7 @@
 #include "backends/win32/windows/menus/MenuFilter.h"
 
+#include <new>
+
 namespace lumenote {
 namespace {
 
@@ -27,8 +29,16 @@ MenuFilter::~MenuFilter() {
 
 LRESULT CALLBACK MenuFilter::Hear(int code, WPARAM w, LPARAM l) {
   const bool taken =
-      code == MSGF_MENU && standing && standing->takes_(*reinterpret_cast<const MSG*>(l));
+      code == MSGF_MENU && standing && standing->Takes(*reinterpret_cast<const MSG*>(l));
   return taken ? TRUE : CallNextHookEx(nullptr, code, w, l);
+}
+
+bool MenuFilter::Takes(const MSG& message) const {
+  try {
+    return takes_(message);
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
 }
 
 bool ArrowLeaves(HMENU root, bool forward) {

@@ -17,6 +17,8 @@ class MenuFilter {
 
  private:
   static LRESULT CALLBACK Hear(int code, WPARAM w, LPARAM l);
+  /// What cannot be decided for lack of memory is the menu's.
+  bool Takes(const MSG& message) const;
 
   std::function<bool(const MSG&)> takes_;
   HHOOK hook_;
