@@ -10,9 +10,6 @@ namespace {
 
 constexpr const wchar_t* kProperty = L"LumenoteWindow";
 
-/// The icon of a program or DLL with the component, if it has one.
-constexpr WORD kIcon = 100;
-
 /// Its address lies in the module.
 const char kInside = 0;
 
@@ -115,7 +112,6 @@ const wchar_t* OwnClass(const wchar_t* name, UINT style, LPCWSTR cursor) {
   made.style = style;
   made.lpfnWndProc = &DefWindowProcW;
   made.hInstance = OwnModule();
-  made.hIcon = LoadIconW(OwnModule(), MAKEINTRESOURCEW(kIcon));
   made.hCursor = LoadCursorW(nullptr, cursor);
   made.lpszClassName = name;
   RegisterClassExW(&made);

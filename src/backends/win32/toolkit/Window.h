@@ -73,7 +73,8 @@ class Window : private CodeInUse, public std::enable_shared_from_this<Window> {
 };
 
 /// Registers a window class of the component's once, and returns `name`. Its windows do what the
-/// system does by default until an object takes them over.
+/// system does by default until an object takes them over. It stays when the component's DLL goes,
+/// and so holds nothing of it.
 const wchar_t* OwnClass(const wchar_t* name, UINT style = 0, LPCWSTR cursor = IDC_ARROW);
 
 /// The program or DLL that the component is in.

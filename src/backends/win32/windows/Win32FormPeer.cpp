@@ -2,6 +2,7 @@
 
 #include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/windows/OwnIcon.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 #include "base/ScopedFlag.h"
 #include "forms/Button.h"
@@ -39,6 +40,7 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
       scale_(Scale::Of(window_->Handle())),
       menus_(form, window_),
       content_(std::make_shared<ContentWindow>(Handle())) {
+  ShowOwnIcon(Handle());
   services_.Windows().Add(form, *window_);
   content_->mouseMoved = [this](POINT at) {
     form_.UserMouseMove({MouseButton::None, {scale_.Twips(at.x), scale_.Twips(at.y)}});
