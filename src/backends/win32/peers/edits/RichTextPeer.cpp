@@ -1,5 +1,6 @@
 #include "backends/win32/peers/edits/RichTextPeer.h"
 
+#include "backends/win32/toolkit/Captions.h"
 #include "forms/Form.h"
 #include "forms/controls/Frame.h"
 #include "surface/DocumentSurface.h"
@@ -7,20 +8,11 @@
 namespace lumenote {
 namespace {
 
-/// A caption without the marks of mnemonics.
-std::u16string Unmarked(std::u16string_view caption) {
-  std::u16string text;
-  for (std::size_t i = 0; i < caption.size(); ++i) {
-    if (caption[i] == u'&') ++i;
-    if (i < caption.size()) text += caption[i];
-  }
-  return text;
-}
-
 /// The title of the frame around a box, else that of its form.
 std::u16string NameOf(const RichTextBox& box) {
   const auto* frame = dynamic_cast<const Frame*>(&box.Parent());
-  return frame && !frame->Caption().empty() ? Unmarked(frame->Caption()) : box.Owner().Caption();
+  return frame && !frame->Caption().empty() ? WithoutMnemonic(frame->Caption())
+                                            : box.Owner().Caption();
 }
 
 std::shared_ptr<SurfaceWindow> MakeWindow(RichTextBox& box, HWND parent, PeerHost& host) {

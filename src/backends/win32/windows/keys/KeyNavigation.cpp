@@ -87,15 +87,6 @@ Menu* MenuWithMnemonic(Form& form, char16_t character) {
   return nullptr;
 }
 
-std::u16string WithoutMnemonic(std::u16string_view caption) {
-  std::u16string read;
-  for (std::size_t i = 0; i < caption.size(); ++i) {
-    if (caption[i] == u'&' && i + 1 < caption.size()) ++i;
-    read += caption[i];
-  }
-  return read;
-}
-
 Control* FocusFor(Form& form, Control& marked) {
   if (marked.TakesFocus()) return &marked;
   const std::vector<Control*> order = UsableControls(form);

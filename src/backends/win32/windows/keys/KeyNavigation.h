@@ -15,8 +15,6 @@ Menu* NextMenu(Form& form, const Menu* from, bool forward);
 /// The control or menu of the bar whose caption marks the character as its mnemonic; null for none.
 Element* WithMnemonic(Form& form, char16_t character);
 Menu* MenuWithMnemonic(Form& form, char16_t character);
-/// A caption as the user reads it.
-std::u16string WithoutMnemonic(std::u16string_view caption);
 /// The control that gets the keyboard for the one with the mnemonic: what follows a label, what is
 /// in a frame. Null for none.
 Control* FocusFor(Form& form, Control& marked);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <windowsx.h>
 
+#include "backends/win32/toolkit/Captions.h"
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/toolkit/NativeText.h"
