@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Builds for Windows and packs the control, its programs and their registration for both widths into
-# build/Lumenote-VERSION-windows.zip.      usage: packaging/windows.sh
+# build/Lumenote-VERSION-windows.zip, whose path alone goes to standard output.
+# usage: packaging/windows.sh
 set -euo pipefail
 top=$(cd "$(dirname "$0")/.." && pwd)
 . "$top/scripts/packages.sh"
 . "$top/scripts/windows.sh"
-ensure_packages "${WINDOWS_PACKAGES[@]}"
+ensure_packages "${WINDOWS_PACKAGES[@]}" >&2
 
 version=$(sed -n 's/^project(Lumenote VERSION \([0-9.]*\).*/\1/p' "$top/CMakeLists.txt")
 name=Lumenote-$version
@@ -14,7 +15,7 @@ trap 'rm -rf "$stage"' EXIT
 mkdir "$stage/$name"
 
 for width in x64 x86; do
-  build_windows "$width" lumenote_com microedit lumenote_tool
+  build_windows "$width" lumenote_com microedit lumenote_tool >&2
   mkdir "$stage/$name/$width"
   for file in hosts/com/Lumenote.dll hosts/microedit/microedit.exe tools/lumenote/lumenote.exe; do
     cp "$top/build/windows-$width/$file" "$stage/$name/$width/"

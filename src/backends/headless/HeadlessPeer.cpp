@@ -4,7 +4,8 @@
 
 namespace lumenote {
 
-HeadlessPeer::HeadlessPeer(Form& form, HeadlessBoxes& boxes) : boxes_(boxes) { AddAll(form); }
+// Made in two steps, so that boxes already shown are hidden again if one cannot be.
+HeadlessPeer::HeadlessPeer(Form& form, HeadlessBoxes& boxes) : HeadlessPeer(boxes) { AddAll(form); }
 
 HeadlessPeer::~HeadlessPeer() {
   while (!mine_.empty()) {
@@ -28,8 +29,8 @@ HeadlessView* HeadlessPeer::ViewOf(const Control& control) const {
 void HeadlessPeer::Add(Control& control) {
   auto* box = dynamic_cast<RichTextBox*>(&control);
   if (!box) return;
-  boxes_.at(box)->Show(*box);
   mine_.push_back(box);
+  boxes_.at(box)->Show(*box);
 }
 
 void HeadlessPeer::Remove(Control& control) {

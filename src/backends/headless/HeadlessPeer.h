@@ -28,6 +28,8 @@ class HeadlessPeer : public FormPeer {
   std::vector<std::string> Differences() const override;
 
  private:
+  explicit HeadlessPeer(HeadlessBoxes& boxes) : boxes_(boxes) {}
+
   void AddAll(Container& container);
   HeadlessView* ViewOf(const Control& control) const;
 

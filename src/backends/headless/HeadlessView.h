@@ -1,6 +1,7 @@
 // An invisible rich-text box, laid out and operated as if on screen.
 #pragma once
 #include <memory>
+#include <utility>
 
 #include "backends/headless/FixedLayouter.h"
 #include "forms/controls/RichTextBox.h"
@@ -54,8 +55,7 @@ struct HeadlessBox {
 
   void Show(RichTextBox& box) { view = std::make_shared<HeadlessView>(box, layouter); }
   void Hide() {
-    view->Text().Detach();
-    view.reset();
+    if (const auto hidden = std::exchange(view, nullptr)) hidden->Text().Detach();
   }
 };
 
