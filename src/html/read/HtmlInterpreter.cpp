@@ -109,7 +109,7 @@ void HtmlInterpreter::Push(Open open) {
   open.around = look_;
   open.begun = text_.Paragraphs();
   open.change.ApplyTo(look_);
-  open_.push_back(std::move(open));
+  open_.push_back(open);
 }
 
 /// The innermost open element that passes the test, within the innermost cell or, through cells,
@@ -137,14 +137,14 @@ void HtmlInterpreter::Close(std::size_t index) {
   std::vector<Open> left;
   const bool keeps = !IsOfTable(open_[index].element->kind);
   while (open_.size() > index) {
-    Open open = std::move(open_.back());
+    const Open open = open_.back();
     open_.pop_back();
     text_.End();
     Leave(open);
     look_ = open.around;
-    if (keeps && GoesOn(open.element->kind)) left.push_back(std::move(open));
+    if (keeps && GoesOn(open.element->kind)) left.push_back(open);
   }
-  for (auto open = left.rbegin(); open != left.rend(); ++open) Push(std::move(*open));
+  for (auto open = left.rbegin(); open != left.rend(); ++open) Push(*open);
 }
 
 /// Closes an inline element, but not those in it.
@@ -180,9 +180,8 @@ void HtmlInterpreter::CloseImplied(const HtmlElement& element) {
     };
     const std::size_t index = FindWithin(ends, false);
     if (index != kNone && open_[index].element->kind == kind) Close(index);
-  } else if (kind == Kind::Row || kind == Kind::Cell) {
-    CloseKind(kind);
-  } else if (kind == Kind::Table && !tables_.empty() && !tables_.back().inCell) {
+  } else if (kind == Kind::Row || kind == Kind::Cell ||
+             (kind == Kind::Table && !tables_.empty() && !tables_.back().inCell)) {
     CloseKind(kind);
   }
 }

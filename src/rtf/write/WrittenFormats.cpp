@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <ranges>
 
 #include "base/Strings.h"
 #include "base/Windows1252.h"
@@ -171,14 +170,12 @@ int WrittenFormats::ColourNumber(Colour colour) {
 
 void WrittenFormats::WriteFontTable(Output& out) const {
   const std::string& kept = Head().fontTable;
-  const auto written = [&](std::uint32_t index) {
-    return index >= headFonts_ || (!Head().tables && fonts_[index].used);
-  };
-  const auto indexes = std::views::iota(std::uint32_t{0}, faces_.Size());
-  if (kept.empty() && std::ranges::none_of(indexes, written)) return;
+  std::vector<std::uint32_t> written;
+  for (std::uint32_t index = 0; index < faces_.Size(); ++index)
+    if (index >= headFonts_ || (!Head().tables && fonts_[index].used)) written.push_back(index);
+  if (kept.empty() && written.empty()) return;
   out.Raw("{\\fonttbl");
-  for (const std::uint32_t index : indexes)
-    if (written(index)) WriteFont(faces_[index], fonts_[index], out);
+  for (const std::uint32_t index : written) WriteFont(faces_[index], fonts_[index], out);
   if (!kept.empty() && kept[0] != '{' && kept[0] != '\\') out.Raw(" ");
   out.Words(kept);
   out.Raw("}\r\n");

@@ -74,8 +74,8 @@ class WrittenFormats {
   WrittenFormat Written(const CharFormat& format);
   void SetFont(const CharFormat& format, WrittenFormat& written);
   struct Font {
-    int number;
-    Encoding encoding;
+    int number = 0;
+    Encoding encoding = Encoding::Windows;
     bool used = false;
   };
 
