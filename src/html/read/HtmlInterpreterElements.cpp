@@ -1,5 +1,6 @@
 // What single elements and their attributes do.
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "document/kept/LinkSource.h"
@@ -200,8 +201,7 @@ void HtmlInterpreter::BeginItem(const HtmlToken& tag, Open& item) {
 /// A bullet, whatever its character, or a number.
 void HtmlInterpreter::EndSpelledMarker() {
   std::u16string marker;
-  for (const char16_t c : std::exchange(marker_, {}))
-    if (!IsHtmlSpace(c) && c != u'\u00A0') marker += c;
+  std::ranges::copy_if(std::exchange(marker_, {}), std::back_inserter(marker), IsOrdinary);
   if (marker.empty()) return;
   const bool number =
       marker.ends_with(u'.') || marker.ends_with(u')') || std::ranges::any_of(marker, IsAsciiDigit);

@@ -14,11 +14,6 @@ constexpr char16_t kObject = u'\uFFFC';
 
 bool IsControl(char16_t c) { return c < u' ' || (c >= 0x7F && c < 0xA0); }
 
-/// Whether a character stands for itself, whatever the look.
-bool IsOrdinary(char16_t c) {
-  return c != u' ' && c != kNoBreakSpace && c != kObject && !IsControl(c);
-}
-
 ParaFormat FormatOf(const Look& look) {
   ParaFormat format = look.paragraph;
   format.firstIndent = look.left + look.first;
@@ -27,6 +22,10 @@ ParaFormat FormatOf(const Look& look) {
 }
 
 }  // namespace
+
+bool IsOrdinary(char16_t c) {
+  return c != u' ' && c != kNoBreakSpace && c != kObject && !IsControl(c);
+}
 
 // --- characters
 

@@ -12,6 +12,9 @@
 
 namespace lumenote {
 
+/// Whether a character stands for itself, whatever the look.
+bool IsOrdinary(char16_t c);
+
 /// What stands before the text of a list item.
 struct ItemMarker {
   std::u16string number;  // empty for a bullet
