@@ -2,6 +2,7 @@
 #pragma once
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -29,6 +30,43 @@ class Desktop {
   virtual void Capture(const Form& form, const std::string& png) = 0;
   /// Calls `keep` before the program ends without a chance to save, as long as the result lives.
   virtual std::shared_ptr<void> WatchEnds(std::function<void()> keep) = 0;
+};
+
+/// A desktop over one backend: the public platform, its backend and the acts of its user. Each is
+/// made with the first need for it.
+template <class SystemPlatform, class Windows, class Acts>
+class SystemDesktop : public Desktop {
+ public:
+  Platform& Machine() override { return OwnMachine(); }
+  std::u16string ToDrivePath(std::string_view native) override {
+    return OwnMachine().ToDrivePath(native);
+  }
+  Windows& ScriptWindows() override {
+    Prepare();
+    if (!windows_) windows_.emplace();
+    return *windows_;
+  }
+  UserActs& ScriptUser() override {
+    if (!user_) user_.emplace(ScriptWindows());
+    return *user_;
+  }
+
+ protected:
+  /// Does what must precede the first window.
+  virtual void Prepare() {}
+  /// The windows in use: those of scripts, else the machine's.
+  Windows& Shown() { return windows_ ? *windows_ : static_cast<Windows&>(Machine().Windows()); }
+
+ private:
+  SystemPlatform& OwnMachine() {
+    Prepare();
+    if (!platform_) platform_.emplace();
+    return *platform_;
+  }
+
+  std::optional<SystemPlatform> platform_;
+  std::optional<Windows> windows_;
+  std::optional<Acts> user_;
 };
 
 /// Runs the program; the arguments exclude its name. Returns the exit status.

@@ -14,55 +14,32 @@ using namespace lumenote;
 
 namespace {
 
-/// Its application object is made with the first need for windows, so that help needs no display.
-class QtDesktop final : public Desktop {
+/// Makes the application with the first need for windows, so that help needs no display.
+class QtDesktop final : public SystemDesktop<QtPlatform, QtBackend, QtUserActs> {
  public:
-  QtDesktop(int& argc, char** argv) : argc_(argc), argv_(argv) {}
+  explicit QtDesktop(std::function<void()> makeApplication)
+      : makeApplication_(std::move(makeApplication)) {}
 
-  Platform& Machine() override {
-    NeedApplication();
-    if (!platform_) platform_.emplace();
-    return *platform_;
-  }
-  std::u16string ToDrivePath(std::string_view native) override {
-    Machine();
-    return platform_->ToDrivePath(native);
-  }
-  Backend& ScriptWindows() override {
-    NeedApplication();
-    if (!windows_) windows_.emplace();
-    return *windows_;
-  }
-  UserActs& ScriptUser() override {
-    ScriptWindows();
-    if (!user_) user_.emplace(*windows_);
-    return *user_;
-  }
   void Capture(const Form& form, const std::string& png) override {
-    QtBackend& shown = windows_ ? *windows_ : static_cast<QtBackend&>(Machine().Windows());
-    SaveWindowShot(shown.Widgets(), form, QString::fromStdString(png));
+    SaveWindowShot(Shown().Widgets(), form, QString::fromStdString(png));
   }
   std::shared_ptr<void> WatchEnds(std::function<void()> keep) override {
     return std::make_shared<SuddenEnds>(std::move(keep));
   }
 
  private:
-  void NeedApplication() {
-    if (!application_) application_.emplace(argc_, argv_);
-  }
+  void Prepare() override { makeApplication_(); }
 
-  int& argc_;
-  char** argv_;
-  std::optional<QApplication> application_;
-  std::optional<QtPlatform> platform_;
-  std::optional<QtBackend> windows_;
-  std::optional<QtUserActs> user_;
+  std::function<void()> makeApplication_;
 };
 
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
-  QtDesktop desktop(argc, argv);
+  std::optional<QApplication> application;  // outlives all windows
+  QtDesktop desktop([&] {
+    if (!application) application.emplace(argc, argv);
+  });
   return Launch(arguments, desktop);
 }

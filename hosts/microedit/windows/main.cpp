@@ -1,6 +1,5 @@
 // The launcher on Windows.
 #include <cstdio>
-#include <optional>
 
 #include "Launcher.h"
 #include "backends/win32/Win32Backend.h"
@@ -14,36 +13,13 @@ using namespace lumenote;
 
 namespace {
 
-class Win32Desktop final : public Desktop {
+class Win32Desktop final : public SystemDesktop<Win32Platform, Win32Backend, Win32UserActs> {
  public:
-  Platform& Machine() override {
-    if (!platform_) platform_.emplace();
-    return *platform_;
-  }
-  std::u16string ToDrivePath(std::string_view native) override {
-    Machine();
-    return platform_->ToDrivePath(native);
-  }
-  Backend& ScriptWindows() override {
-    if (!windows_) windows_.emplace();
-    return *windows_;
-  }
-  UserActs& ScriptUser() override {
-    ScriptWindows();
-    if (!user_) user_.emplace(*windows_);
-    return *user_;
-  }
   void Capture(const Form& form, const std::string& png) override {
-    Backend& shown = windows_ ? *windows_ : Machine().Windows();
-    SaveWindowShot(static_cast<Win32Backend&>(shown).PeerOf(form)->Handle(), FromUtf8(png));
+    SaveWindowShot(Shown().PeerOf(form)->Handle(), FromUtf8(png));
   }
   /// The windows themselves hear of the session's end.
   std::shared_ptr<void> WatchEnds(std::function<void()>) override { return nullptr; }
-
- private:
-  std::optional<Win32Platform> platform_;
-  std::optional<Win32Backend> windows_;
-  std::optional<Win32UserActs> user_;
 };
 
 /// A program with windows prints on the console that it was started from, unless its output goes
