@@ -8,13 +8,6 @@ key='HKLM\Software\Classes\CLSID\{74F0C059-87F8-4559-8AF9-416FB22805CD}\InprocSe
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-fail() {
-  echo "FAIL: $1"
-  cat "$work/out" 2>/dev/null || true
-  exit 1
-}
-run() { run_wine "$work/out" 120 "$@"; }
-
 zip=$("$top/packaging/windows.sh")
 (cd "$work" && cmake -E tar xf "$zip")
 folder=$(echo "$work"/Lumenote-*)
@@ -33,7 +26,6 @@ x86/lumenote.exe
 x86/microedit.exe
 END
 
-windows() { echo "Z:${1//\//\\}"; }
 run cmd /c "$(windows "$folder/register.cmd")" || fail "register.cmd"
 run reg query "$key" /ve || fail "not registered"
 grep -qiF "$(basename "$folder")\\x64\\Lumenote.dll" "$work/out" || fail "registered elsewhere"

@@ -1,4 +1,5 @@
-# Sourced by test-windows.sh: wine with a prefix of its own, silent and without an X server.
+# Sourced by test-windows.sh and by the tests it runs: wine with a prefix of its own, silent and
+# without an X server.
 
 # usage: start_wine PREFIX
 start_wine() {
@@ -38,3 +39,18 @@ run_wine() {
   shift 2
   timeout "$seconds" wine "$@" >"$output" 2>&1 </dev/null
 }
+
+# For tests with a folder $work of their own.
+
+# usage: run COMMAND...   its output in $work/out
+run() { run_wine "$work/out" 300 "$@"; }
+
+# usage: fail MESSAGE   ends the test with what the last command printed
+fail() {
+  echo "FAIL: $1"
+  cat "$work/out" 2>/dev/null || true
+  exit 1
+}
+
+# usage: windows PATH   its drive-letter path
+windows() { echo "Z:${1//\//\\}"; }

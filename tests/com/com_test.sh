@@ -11,14 +11,6 @@ typist=$1/tests/com/typist.exe docs=$here/../../docs/windows.md
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-fail() {
-  echo "FAIL: $1"
-  cat "$work/out" 2>/dev/null || true
-  exit 1
-}
-run() { run_wine "$work/out" 300 "$@"; }
-windows() { echo "Z:${1//\//\\}"; }
-
 # The classes of the machine and of the user.
 classes() {
   local root
