@@ -1,6 +1,8 @@
 // Numbers in the platform's classic widths, and as text with a decimal comma.
 #pragma once
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -14,6 +16,13 @@ std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
 /// Raises Overflow beyond 32 signed bits.
 std::int32_t Sum32(std::int32_t one, std::int32_t other);
+
+/// The nearest number of a narrower type.
+template <class Number>
+constexpr Number Clipped(std::int64_t value) {
+  using Limits = std::numeric_limits<Number>;
+  return static_cast<Number>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
 
 /// The double nearest to `numeral` (ASCII: minus, digits, a point, an exponent after e); zero on
 /// underflow. Raises TypeMismatch or Overflow.

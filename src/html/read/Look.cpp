@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
+
+#include "base/Numbers.h"
 
 namespace lumenote {
 namespace {
@@ -10,12 +11,6 @@ namespace {
 constexpr double kLongest = 1'000'000;  // twips
 constexpr int kTwipsPerHalfPoint = 10;
 constexpr int kMaxSize = 0x7FFF;  // half-points
-
-template <class Number>
-Number Clipped(int value) {
-  using Limits = std::numeric_limits<Number>;
-  return static_cast<Number>(std::clamp<int>(value, Limits::min(), Limits::max()));
-}
 
 void SetLines(const LookChange::LineSpacing& lines, Look& look) {
   look.paragraph.lineRule = lines.rule;

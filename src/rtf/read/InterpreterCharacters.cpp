@@ -1,7 +1,7 @@
 // Control words for character formats, and the document's defaults.
 #include <algorithm>
-#include <limits>
 
+#include "base/Numbers.h"
 #include "rtf/read/Interpreter.h"
 #include "rtf/words/CharacterWords.h"
 
@@ -12,12 +12,6 @@ constexpr int kStandardSize = 24;  // half-points: \fs without a number
 constexpr int kStandardRaise = 6;  // half-points: \up and \dn without a number
 
 bool On(const Token& word) { return !word.hasNumber || word.number != 0; }
-
-template <class Number>
-Number Clipped(std::int64_t value) {
-  using Limits = std::numeric_limits<Number>;
-  return static_cast<Number>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
-}
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include "base/Strings.h"
 #include "base/Windows1252.h"
 #include "base/codepages/CodePage.h"
+#include "rtf/words/FontFamilies.h"
 
 namespace lumenote {
 namespace {
@@ -182,11 +183,9 @@ void WrittenFormats::WriteFontTable(Output& out) const {
 }
 
 void WrittenFormats::WriteFont(const FontFace& face, const Font& font, Output& out) const {
-  static constexpr std::string_view kFamilies[] = {"fnil",    "froman", "fswiss", "fmodern",
-                                                   "fscript", "fdecor", "ftech",  "fbidi"};
   out.Raw("{");
   out.Word("f", font.number);
-  out.Word(kFamilies[face.family % std::size(kFamilies)]);
+  out.Word(kFontFamilies[face.family % kFontFamilies.size()]);
   if (face.pitch != 0) out.Word("fprq", face.pitch);
   out.Word("fcharset", face.charset);
   out.Raw(" ");

@@ -2,18 +2,15 @@
 #include "rtf/read/tables/FontTable.h"
 
 #include <algorithm>
-#include <iterator>
 #include <string>
 #include <utility>
 
 #include "base/Strings.h"
 #include "base/codepages/CodePage.h"
+#include "rtf/words/FontFamilies.h"
 
 namespace lumenote {
 namespace {
-
-constexpr std::string_view kFamilies[] = {"fnil",    "froman", "fswiss", "fmodern",
-                                          "fscript", "fdecor", "ftech",  "fbidi"};
 
 std::uint8_t Small(int number) { return static_cast<std::uint8_t>(std::clamp(number, 0, 255)); }
 
@@ -64,10 +61,9 @@ void Entry::Word(const Token& word) {
     if (word.number != 0) face_.name.push_back(static_cast<char16_t>(word.number));
     fallback_ = 1;
   } else {
-    const auto family = std::find(std::begin(kFamilies), std::end(kFamilies), word.text);
-    if (family != std::end(kFamilies)) {
-      face_.family = static_cast<std::uint8_t>(family - std::begin(kFamilies));
-    }
+    const auto family = std::ranges::find(kFontFamilies, word.text);
+    if (family != kFontFamilies.end())
+      face_.family = static_cast<std::uint8_t>(family - kFontFamilies.begin());
   }
 }
 
