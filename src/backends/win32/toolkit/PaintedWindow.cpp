@@ -1,27 +1,9 @@
 #include "backends/win32/toolkit/PaintedWindow.h"
 
-#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/MemoryDc.h"
 #include "backends/win32/toolkit/NativeText.h"
 
 namespace lumenote {
-namespace {
-
-/// A device context in memory, for a block.
-class MemoryDc {
- public:
-  explicit MemoryDc(HDC like) : dc_(CreateCompatibleDC(like)) {}
-  ~MemoryDc() { DeleteDC(dc_); }
-  MemoryDc(const MemoryDc&) = delete;
-  MemoryDc& operator=(const MemoryDc&) = delete;
-
-  HDC Get() const { return dc_; }
-
- private:
-  HDC dc_;
-};
-
-}  // namespace
-
 std::u16string PaintedWindow::Caption() const { return TextOf(Handle()); }
 
 void PaintedWindow::Repaint() { InvalidateRect(Handle(), nullptr, FALSE); }
@@ -80,6 +62,11 @@ void PaintedWindow::PaintGround(HDC dc) {
   SetViewportOrgEx(dc, before.x, before.y, nullptr);
   SendMessageW(parent, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc),
                reinterpret_cast<LPARAM>(Handle()));
+}
+
+void PaintedWindow::PaintCaption(HDC dc, RECT box, UINT format) const {
+  SetBkMode(dc, TRANSPARENT);
+  DrawTextW(dc, Wide(Caption()), -1, &box, format);
 }
 
 }  // namespace lumenote

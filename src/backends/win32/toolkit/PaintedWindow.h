@@ -22,6 +22,8 @@ class PaintedWindow : public Window {
   std::u16string Caption() const;
   /// Paints what the parent window shows behind this one, and sets the colour of text on it.
   void PaintGround(HDC dc);
+  /// Draws the caption into a box; `format` is as for `DrawTextW`.
+  void PaintCaption(HDC dc, RECT box, UINT format) const;
 
  private:
   void PaintBuffered();

@@ -1,7 +1,6 @@
 #include "backends/win32/peers/buttons/ButtonPeer.h"
 
 #include "backends/win32/toolkit/Keys.h"
-#include "backends/win32/toolkit/NativeText.h"
 #include "base/ScopedFlag.h"
 
 namespace lumenote {
@@ -20,21 +19,19 @@ ButtonPeer::ButtonPeer(Button& button, HWND parent, PeerHost& host)
 }
 
 ButtonPeer::ButtonPeer(CaptionedControl& control, std::shared_ptr<Window> window, PeerHost& host)
-    : ControlPeer(control, std::move(window), host), control_(control) {}
+    : CaptionPeer(control, std::move(window), host) {}
 
 CheckBoxPeer::CheckBoxPeer(CheckBox& box, HWND parent, PeerHost& host)
     : ButtonPeer(box, std::make_shared<Window>(parent, ButtonKind(BS_CHECKBOX)), host), box_(box) {}
 
 void ButtonPeer::Update(Property property) {
-  ControlPeer::Update(property);
-  if (property == Property::Caption) SetWindowTextW(Handle(), Wide(control_.Caption()));
+  CaptionPeer::Update(property);
   if (property == Property::Value) Tell(BM_SETCHECK, IsChecked() ? BST_CHECKED : BST_UNCHECKED);
 }
 
 void ButtonPeer::Compare(DifferenceList& differences) const {
-  ControlPeer::Compare(differences);
-  differences.Check(control_, "Caption", TextOf(Handle()) == control_.Caption());
-  differences.Check(control_, "Value", (Tell(BM_GETCHECK) == BST_CHECKED) == IsChecked());
+  CaptionPeer::Compare(differences);
+  differences.Check(Captioned(), "Value", (Tell(BM_GETCHECK) == BST_CHECKED) == IsChecked());
 }
 
 void ButtonPeer::ShowDefault(bool isDefault) {
@@ -44,15 +41,15 @@ void ButtonPeer::ShowDefault(bool isDefault) {
 // Return clicks a push button as Space does; a native one leaves that to dialogs.
 std::optional<LRESULT> ButtonPeer::Hear(const Message& message) {
   if (message.id != WM_KEYDOWN || message.w != VK_RETURN || !returnClicks_)
-    return ControlPeer::Hear(message);
+    return CaptionPeer::Hear(message);
   SwallowCharacter(Handle());
-  control_.UserClick();
+  Captioned().UserClick();
   return 0;
 }
 
 std::optional<LRESULT> ButtonPeer::HearNotice(const Message& message) {
   if (message.id != WM_COMMAND || HIWORD(message.w) != BN_CLICKED) return std::nullopt;
-  control_.UserClick();
+  Captioned().UserClick();
   return 0;
 }
 

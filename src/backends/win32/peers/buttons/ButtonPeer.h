@@ -1,6 +1,6 @@
 // Peers of push buttons, check boxes and option buttons.
 #pragma once
-#include "backends/win32/peers/base/ControlPeer.h"
+#include "backends/win32/peers/base/CaptionPeer.h"
 #include "forms/Button.h"
 #include "forms/controls/CheckBox.h"
 #include "forms/controls/OptionButton.h"
@@ -9,7 +9,7 @@ namespace lumenote {
 
 /// A native button with a caption. The user's click goes to the control, whose state the button
 /// shows.
-class ButtonPeer : public ControlPeer {
+class ButtonPeer : public CaptionPeer {
  public:
   ButtonPeer(Button& button, HWND parent, PeerHost& host);
 
@@ -26,7 +26,6 @@ class ButtonPeer : public ControlPeer {
   virtual bool IsChecked() const { return false; }
 
  private:
-  CaptionedControl& control_;
   bool returnClicks_ = false;
 };
 

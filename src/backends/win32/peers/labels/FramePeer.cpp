@@ -35,21 +35,10 @@ void FrameWindow::Paint(HDC dc, const RECT& area) {
   RECT title = {kTitleLeft, 0, kTitleLeft, 0};
   if (!caption.empty()) DrawTextW(dc, Wide(caption), -1, &title, DT_CALCRECT | DT_SINGLELINE);
   PaintBorder(dc, area, title);
-  SetBkMode(dc, TRANSPARENT);
-  DrawTextW(dc, Wide(caption), -1, &title, DT_SINGLELINE);
+  PaintCaption(dc, title, DT_SINGLELINE);
 }
 
 FramePeer::FramePeer(Frame& frame, HWND parent, PeerHost& host)
-    : ControlPeer(frame, std::make_shared<FrameWindow>(parent), host), frame_(frame) {}
-
-void FramePeer::Update(Property property) {
-  ControlPeer::Update(property);
-  if (property == Property::Caption) SetWindowTextW(Handle(), Wide(frame_.Caption()));
-}
-
-void FramePeer::Compare(DifferenceList& differences) const {
-  ControlPeer::Compare(differences);
-  differences.Check(frame_, "Caption", TextOf(Handle()) == frame_.Caption());
-}
+    : CaptionPeer(frame, std::make_shared<FrameWindow>(parent), host) {}
 
 }  // namespace lumenote

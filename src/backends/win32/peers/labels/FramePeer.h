@@ -1,6 +1,6 @@
 // The peer of frames.
 #pragma once
-#include "backends/win32/peers/base/ControlPeer.h"
+#include "backends/win32/peers/base/CaptionPeer.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
 #include "forms/controls/Frame.h"
 
@@ -15,15 +15,9 @@ class FrameWindow final : public PaintedWindow {
   void Paint(HDC dc, const RECT& area) override;
 };
 
-class FramePeer final : public ControlPeer {
+class FramePeer final : public CaptionPeer {
  public:
   FramePeer(Frame& frame, HWND parent, PeerHost& host);
-
-  void Update(Property property) override;
-  void Compare(DifferenceList& differences) const override;
-
- private:
-  Frame& frame_;
 };
 
 }  // namespace lumenote

@@ -1,6 +1,6 @@
 // The peer of labels.
 #pragma once
-#include "backends/win32/peers/base/ControlPeer.h"
+#include "backends/win32/peers/base/CaptionPeer.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
 #include "forms/controls/Label.h"
 
@@ -16,23 +16,17 @@ class LabelWindow final : public PaintedWindow {
   void Paint(HDC dc, const RECT& area) override;
 
  private:
-  void PaintCell(HDC dc, RECT area) const;
+  void PaintCell(HDC dc, const RECT& area) const;
 
   LabelStyle style_;
 };
 
-class LabelPeer final : public ControlPeer {
+class LabelPeer final : public CaptionPeer {
  public:
   LabelPeer(Label& label, HWND parent, PeerHost& host);
 
-  void Update(Property property) override;
-  void Compare(DifferenceList& differences) const override;
-
  protected:
   bool ClicksByMouse() const override { return true; }
-
- private:
-  Label& label_;
 };
 
 }  // namespace lumenote
