@@ -4,6 +4,24 @@
 #include "session/EditorWindow.h"
 
 namespace lumenote {
+namespace {
+
+/// What of the answer the dialog did not show.
+FontChoice Changes(const FontChoice& shown, FontChoice chosen) {
+  const auto drop = [](const auto& before, auto& after) {
+    if (before == after) after.reset();
+  };
+  drop(shown.name, chosen.name);
+  drop(shown.size, chosen.size);
+  drop(shown.bold, chosen.bold);
+  drop(shown.italic, chosen.italic);
+  drop(shown.underline, chosen.underline);
+  drop(shown.strike, chosen.strike);
+  drop(shown.colour, chosen.colour);
+  return chosen;
+}
+
+}  // namespace
 
 void FmtPolice(EditorWindow& editor, Form* dialog) {
   RichTextSurface& surface = editor.Document();
@@ -16,14 +34,15 @@ void FmtPolice(EditorWindow& editor, Form* dialog) {
                          .colour = surface.SelColor()};
   const auto chosen = editor.ChooseFont(shown, dialog);
   if (!chosen) return;
+  const FontChoice changed = Changes(shown, *chosen);
   AsOneStep(surface, [&] {
-    if (chosen->name) surface.SelFontName(*chosen->name);
-    if (chosen->size) surface.SelFontSize(*chosen->size);
-    if (chosen->bold) surface.SelBold(*chosen->bold);
-    if (chosen->italic) surface.SelItalic(*chosen->italic);
-    if (chosen->underline) surface.SelUnderline(*chosen->underline);
-    if (chosen->strike) surface.SelStrikeThru(*chosen->strike);
-    if (chosen->colour) surface.SelColor(*chosen->colour);
+    if (changed.name) surface.SelFontName(*changed.name);
+    if (changed.size) surface.SelFontSize(*changed.size);
+    if (changed.bold) surface.SelBold(*changed.bold);
+    if (changed.italic) surface.SelItalic(*changed.italic);
+    if (changed.underline) surface.SelUnderline(*changed.underline);
+    if (changed.strike) surface.SelStrikeThru(*changed.strike);
+    if (changed.colour) surface.SelColor(*changed.colour);
   });
 }
 

@@ -72,13 +72,15 @@ class ColouredFontDialog : public QFontDialog {
 
 }  // namespace
 
-// The parent window may destroy the dialog while it is open.
+// The dialog shows the nearest font that it has, in a whole size: what it shows before the user
+// acts is what changes count from. The parent window may destroy it while it is open.
 std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, QWidget* over) {
   const QPointer<ColouredFontDialog> dialog = new ColouredFontDialog(shown, over);
+  const QFont before = dialog->currentFont();
   const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
   std::optional<FontChoice> choice;
   if (accepted) {
-    choice = Changes(FontOf(shown), dialog->selectedFont());
+    choice = Changes(before, dialog->selectedFont());
     choice->colour = dialog->Colour();
   }
   delete dialog;

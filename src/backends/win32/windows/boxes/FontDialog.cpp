@@ -4,6 +4,7 @@
 #undef ChooseFont
 
 #include <algorithm>
+#include <cmath>
 
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/NativeText.h"
@@ -22,8 +23,8 @@ LOGFONTW FontOf(const FontChoice& shown, int dpi) {
   const std::u16string name = shown.name.value_or(u"");
   const std::size_t length = std::min(name.size(), std::size_t{LF_FACESIZE} - 1);
   std::copy_n(name.begin(), length, font.lfFaceName);
-  font.lfHeight = -static_cast<LONG>(shown.size.value_or(kUsualSize) * static_cast<float>(dpi) /
-                                     kPointsPerInch);
+  font.lfHeight =
+      -std::lround(shown.size.value_or(kUsualSize) * static_cast<float>(dpi) / kPointsPerInch);
   font.lfWeight = shown.bold.value_or(false) ? FW_BOLD : FW_NORMAL;
   font.lfItalic = shown.italic.value_or(false);
   font.lfUnderline = shown.underline.value_or(false);
@@ -74,8 +75,9 @@ std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, HWND over) {
   const VisualStyles styles;
   if (!ChooseFontW(&dialog)) return std::nullopt;
   FontChoice choice = Changes(before, after);
-  choice.size =
-      Changed(shown.size.value_or(kUsualSize), static_cast<float>(dialog.iPointSize) / kTenths);
+  // The dialog rounds the size that it shows.
+  if (after.lfHeight != before.lfHeight)
+    choice.size = static_cast<float>(dialog.iPointSize) / kTenths;
   choice.colour = Changed(shown.colour.value_or(0), static_cast<std::int32_t>(dialog.rgbColors));
   return choice;
 }
