@@ -1,6 +1,8 @@
 // The life of the editor window.
 #include "editor/Co_Rtf.h"
 
+#include <algorithm>
+
 #include "editor/EditCommands.h"
 #include "editor/Layout.h"
 #include "editor/storage/SessionLife.h"
@@ -33,6 +35,7 @@ Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const Tem
   WireOcr();
   WireSelectionMenu();
   WireZones();
+  WireKeys();
   DisableEntriesWithoutCommand(*this);
   session_.dirty.Assigned = [this](bool dirty) { dirty ? recovery_.Edited() : recovery_.Drop(); };
 }
@@ -103,8 +106,9 @@ void Co_Rtf::Form_Unload() {
 }
 
 bool Co_Rtf::Form_KeyDown(const KeyStroke& key) {
-  if (key != KeyStroke{.character = u'f', .control = true}) return false;
-  dialogs_.Trouver();
+  const auto shortcut = std::ranges::find(shortcuts_, key, &Shortcut::key);
+  if (shortcut == shortcuts_.end()) return false;
+  shortcut->act();
   return true;
 }
 

@@ -64,6 +64,12 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   void Describe(MemberTable& members) override;
 
  private:
+  /// A key of the window, beyond those of the document.
+  struct Shortcut {
+    KeyStroke key;
+    std::function<void()> act;
+  };
+
   void Form_Load() override;
   void Form_Activate() override;
   void Form_Resize() override;
@@ -80,6 +86,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   void WireOcr();
   void WireSelectionMenu();
   void WireZones();
+  void WireKeys();
 
   // RoundTripClient
   void Watch(bool on) override;
@@ -116,6 +123,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   ProgramTable programs_;
   RoundTrip roundTrip_;
   Recovery recovery_{*this, TimerSecours};
+  std::vector<Shortcut> shortcuts_;
 };
 
 }  // namespace lumenote

@@ -110,6 +110,20 @@ void Co_Rtf::WireZones() {
   }
 }
 
+void Co_Rtf::WireKeys() {
+  const auto control = [](char16_t letter, bool shift = false) {
+    return KeyStroke{.character = letter, .shift = shift, .control = true};
+  };
+  const KeyStroke f3{.name = KeyName::Function, .character = 3};
+  shortcuts_ = {
+      {control(u's'), [this] { EnregistrerNote(*this); }},
+      {control(u'f'), [this] { dialogs_.Trouver(); }},
+      {f3, [this] { dialogs_.TrouverSuivant(); }},
+      {control(u'p', true), [this] { Bar.mnuEdtSuperScript.UserClick(); }},
+      {control(u'b', true), [this] { Bar.mnuEdtSubScript.UserClick(); }},
+  };
+}
+
 // --- commands of the window
 
 void Co_Rtf::AfficheBarreMenu(int mode) {

@@ -9,13 +9,13 @@ struct ContextMenu {
   explicit ContextMenu(Form& form) : mnuPop(form, "mnuPop", u"mnuPop", false) {}
 
   Menu mnuPop;
-  Menu mnuPopCut{mnuPop, "mnuPopCut", u"&Couper"};
-  Menu mnuPopCopy{mnuPop, "mnuPopCopy", u"Co&pier"};
-  Menu mnuPopPaste{mnuPop, "mnuPopPaste", u"Co&ller"};
+  Menu mnuPopCut{mnuPop, "mnuPopCut", u"&Couper", u"Ctrl+X"};
+  Menu mnuPopCopy{mnuPop, "mnuPopCopy", u"Co&pier", u"Ctrl+C"};
+  Menu mnuPopPaste{mnuPop, "mnuPopPaste", u"Co&ller", u"Ctrl+V"};
   Menu mnuPopClear{mnuPop, "mnuPopClear", u"&Suppr."};
   Menu mnuPopTrait5{mnuPop, "mnuPopTrait5", u"-"};
-  Menu mnuPopUndo{mnuPop, "mnuPopUndo", u"&Annuler"};
-  Menu mnuPopRedo{mnuPop, "mnuPopRedo", u"&Rétablir"};
+  Menu mnuPopUndo{mnuPop, "mnuPopUndo", u"&Annuler", u"Ctrl+Z"};
+  Menu mnuPopRedo{mnuPop, "mnuPopRedo", u"&Rétablir", u"Ctrl+Y"};
   Menu mnuPopTrait6{mnuPop, "mnuPopTrait6", u"-"};
   Menu mnuPopEditerAvec{mnuPop, "mnuPopEditerAvec", u"Editer avec ..."};
   Menu mnuPopQjot{mnuPopEditerAvec, "mnuPopQjot", u"&Qjot"};
@@ -36,7 +36,7 @@ struct ContextMenu {
   Menu mnuPopSupprDoc{mnuPop, "mnuPopSupprDoc", u"Suppr. Document"};
   Menu mnuPopMettreDessus{mnuPop, "mnuPopMettreDessus", u"Maintenir Dessus"};
   Menu mnuPopTrait9{mnuPop, "mnuPopTrait9", u"-"};
-  Menu mnuPopEnregistrer{mnuPop, "mnuPopEnregistrer", u"&Enregistrer"};
+  Menu mnuPopEnregistrer{mnuPop, "mnuPopEnregistrer", u"&Enregistrer", u"Ctrl+S"};
   Menu mnuPopQuitter{mnuPop, "mnuPopQuitter", u"&Quitter"};
 };
 

@@ -48,6 +48,13 @@ void Dialogs::Trouver() {
   find_.Get().Show(&window_);
 }
 
+void Dialogs::TrouverSuivant() {
+  if (Co_Trouver* dialog = find_.Loaded(); dialog && dialog->Visible())
+    dialog->cmdFind.UserClick();
+  else
+    Trouver();
+}
+
 void Dialogs::Suivant() {
   try {
     Co_Trouver& dialog = find_.Get();

@@ -25,6 +25,8 @@ class Dialogs {
   /// That dialog applies styles, so it is loaded for this, but not shown.
   void ApplyStyFromName(std::u16string_view section);
   void Trouver();
+  /// Searches on as the open dialog's button does; without one, opens it.
+  void TrouverSuivant();
   /// Searching on is done by the dialog's own button; this only reads the options, for which the
   /// dialog is loaded.
   void Suivant();

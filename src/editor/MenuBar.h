@@ -14,8 +14,8 @@ class MenuBar {
   void Visible(bool on);
 
   Menu mnuEdt{form_, "mnuEdt", u"   Edt"};
-  Menu mnuEdtTrouver{mnuEdt, "mnuEdtTrouver", u"Trouver"};
-  Menu mnuEdtSuivantppp{mnuEdt, "mnuEdtSuivantppp", u"Suivant..."};
+  Menu mnuEdtTrouver{mnuEdt, "mnuEdtTrouver", u"Trouver", u"Ctrl+F"};
+  Menu mnuEdtSuivantppp{mnuEdt, "mnuEdtSuivantppp", u"Suivant...", u"F3"};
   Menu mnuEdtSymboles{mnuEdt, "mnuEdtSymboles", u"Symboles"};
   Menu mnuEdtTrait1{mnuEdt, "mnuEdtTrait1", u"-"};
   Menu mnuEdtMajuscMinusc{mnuEdt, "mnuEdtMajuscMinusc", u"&Majuscules/Minuscules"};
@@ -23,13 +23,13 @@ class MenuBar {
   Menu mnuEdtLowerCase{mnuEdtMajuscMinusc, "mnuEdtLowerCase", u"m&inuscules"};
   Menu mnuEdtTitre{mnuEdtMajuscMinusc, "mnuEdtTitre", u"&Titre"};
   Menu mnuEdtIndiceExp{mnuEdt, "mnuEdtIndiceExp", u"&Indice/Exposant"};
-  Menu mnuEdtSuperScript{mnuEdtIndiceExp, "mnuEdtSuperScript", u"&Exposant"};
-  Menu mnuEdtSubScript{mnuEdtIndiceExp, "mnuEdtSubScript", u"&Indice"};
+  Menu mnuEdtSuperScript{mnuEdtIndiceExp, "mnuEdtSuperScript", u"&Exposant", u"Ctrl+Shift+P"};
+  Menu mnuEdtSubScript{mnuEdtIndiceExp, "mnuEdtSubScript", u"&Indice", u"Ctrl+Shift+B"};
   Menu mnuEdtNoScript{mnuEdtIndiceExp, "mnuEdtNoScript", u"&Normal"};
   Menu mnuEdtTrait2{mnuEdt, "mnuEdtTrait2", u"-"};
-  Menu mnuEdtGauche{mnuEdt, "mnuEdtGauche", u"&Gauche"};
-  Menu mnuEdtCentre{mnuEdt, "mnuEdtCentre", u"&Centre"};
-  Menu mnuEdtDroite{mnuEdt, "mnuEdtDroite", u"&Droite"};
+  Menu mnuEdtGauche{mnuEdt, "mnuEdtGauche", u"&Gauche", u"Ctrl+L"};
+  Menu mnuEdtCentre{mnuEdt, "mnuEdtCentre", u"&Centre", u"Ctrl+E"};
+  Menu mnuEdtDroite{mnuEdt, "mnuEdtDroite", u"&Droite", u"Ctrl+R"};
 
   Menu mnuFmt{form_, "mnuFmt", u"Fmt"};
   Menu mnuFmtPolice{mnuFmt, "mnuFmtPolice", u"&Police..."};
@@ -48,7 +48,7 @@ class MenuBar {
   Menu mnuSelPhrase{mnuSelect, "mnuSelPhrase", u"&Phrase"};
   Menu mnuSelLigne{mnuSelect, "mnuSelLigne", u"&Ligne"};
   Menu mnuSelParagraphe{mnuSelect, "mnuSelParagraphe", u"P&aragraphe"};
-  Menu mnuSelTout{mnuSelect, "mnuSelTout", u"&Tout"};
+  Menu mnuSelTout{mnuSelect, "mnuSelTout", u"&Tout", u"Ctrl+A"};
 
   Menu mnuGras{form_, "mnuGras", u"        G"};
   Menu mnuItal{form_, "mnuItal", u"I"};

@@ -42,6 +42,12 @@ void Co_Trouver::Form_Unload() {
   editor_.SuspendreDessus();
 }
 
+bool Co_Trouver::Form_KeyDown(const KeyStroke& key) {
+  if (key != KeyStroke{.name = KeyName::Function, .character = 3}) return false;
+  cmdFind.UserClick();
+  return true;
+}
+
 void Co_Trouver::Command(void (Co_Trouver::*command)()) {
   try {
     (this->*command)();

@@ -12,8 +12,10 @@ Menu::Menu(Form& form, std::string name, std::u16string caption, bool visible)
   form.menus_.push_back(this);
 }
 
-Menu::Menu(Menu& parent, std::string name, std::u16string caption)
-    : ShownElement(parent.Owner(), std::move(name)), caption_(std::move(caption)) {
+Menu::Menu(Menu& parent, std::string name, std::u16string caption, std::u16string shortcut)
+    : ShownElement(parent.Owner(), std::move(name)),
+      caption_(std::move(caption)),
+      shortcut_(std::move(shortcut)) {
   Register();
   parent.entries_.push_back(this);
 }

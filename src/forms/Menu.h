@@ -14,14 +14,16 @@ class Menu : public ShownElement {
  public:
   /// Creates a top-level menu.
   Menu(Form& form, std::string name, std::u16string caption, bool visible = true);
-  /// Creates an entry of another menu.
-  Menu(Menu& parent, std::string name, std::u16string caption);
+  /// Creates an entry of another menu. `shortcut` is a key that does the same ("Ctrl+S"); it is
+  /// only shown.
+  Menu(Menu& parent, std::string name, std::u16string caption, std::u16string shortcut = {});
 
   const std::vector<Menu*>& Entries() const { return entries_; }
   bool IsSeparator() const { return caption_ == u"-"; }
 
   const std::u16string& Caption() const { return caption_; }
   void Caption(std::u16string_view text);
+  const std::u16string& Shortcut() const { return shortcut_; }
   bool Checked() const { return checked_; }
   void Checked(bool on);
 
@@ -38,6 +40,7 @@ class Menu : public ShownElement {
  private:
   std::vector<Menu*> entries_;
   std::u16string caption_;
+  std::u16string shortcut_;
   bool checked_ = false;
 };
 

@@ -57,6 +57,23 @@ class Files(Notes):
         self.assertEqual(list(self.folder.iterdir()), [])
 
 
+class Keys(Notes):
+    def test_save_and_format(self):
+        (self.home / "c").mkdir(exist_ok=True)
+        file = self.home / "c" / "note.rtf"
+        file.write_text(r"{\rtf1 un\par}")
+        self.open("C:\\note.rtf")
+        self.edit()
+        self.keys(self.note, "ctrl+j")
+        self.run_x("setxkbmap", "fr")
+        self.keys(self.note, "ctrl+14")  # the key of "(" and 5
+        self.host.waits_for("rtf 1", lambda source: r"\sl360\slmult1\qj xun" in source)
+        self.keys(self.note, "ctrl+s")
+        self.wait(lambda: "xun" in file.read_text(), "the file")
+        self.ask_to_close(self.note)
+        self.wait(lambda: not self.window("Note 1"), "the closing")
+
+
 class Quitting(Notes):
     def setUp(self):
         super().setUp()

@@ -70,6 +70,29 @@ TEST(UserDoor, ToggleKeys) {
   EXPECT_EQ(bench.surface.SelBold(), false);
 }
 
+TEST(UserDoor, ParagraphKeys) {
+  struct Row {
+    std::u16string_view keys, words;
+  };
+  constexpr Row kRows[] = {{u"Ctrl+r", u"\\qr"},
+                           {u"Ctrl+e", u"\\qc"},
+                           {u"Ctrl+j", u"\\qj"},
+                           {u"Ctrl+j Ctrl+l", u"\\ql"},
+                           {u"Ctrl+5", u"\\sl360\\slmult1"},
+                           {u"Ctrl+(", u"\\sl360\\slmult1"},
+                           {u"Ctrl+Shift+2", u"\\sl480\\slmult1"},
+                           {u"Ctrl+é", u"\\sl480\\slmult1"},
+                           {u"Ctrl+2 Ctrl+&", u"\\sl240\\slmult1"}};
+  for (const auto& [keys, words] : kRows) {
+    UserBench bench;
+    bench.Put(u"un|");
+    bench.Press(keys);
+    EXPECT_NE(bench.surface.TextRTF().find(words), std::u16string::npos) << ToUtf8(keys);
+    bench.surface.Undo();
+    EXPECT_EQ(bench.Shown(), u"un|");
+  }
+}
+
 TEST(UserDoor, BackSpaceTakesTheBulletOffFirst) {
   UserBench bench;
   bench.Put(u"a¶|b");

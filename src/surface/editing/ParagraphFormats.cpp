@@ -103,8 +103,12 @@ std::optional<int> ParagraphFormats::AlignmentCode() const {
 void ParagraphFormats::AlignmentCode(int code) {
   if (code < static_cast<int>(Alignment::Left) || code > static_cast<int>(Alignment::Centre))
     throw RuntimeError(ErrorNumber::InvalidPropertyValue);
+  Align(static_cast<Alignment>(code));
+}
+
+void ParagraphFormats::Align(Alignment alignment) {
   Apply(UndoKind::Unknown, [=](ParaFormat& format) {
-    format.alignment = static_cast<Alignment>(code);
+    format.alignment = alignment;
     State(kStatesAlignment, format);
   });
 }

@@ -17,6 +17,7 @@ class ParagraphFormats {
   void Bullet(UndoKind kind, bool on);
   std::optional<int> AlignmentCode() const;
   void AlignmentCode(int code);
+  void Align(Alignment alignment);
   /// One of the indents, in twips.
   std::optional<int> Indent(std::int32_t ParaFormat::*indent) const;
   void Indent(std::int32_t ParaFormat::*indent, int twips);

@@ -48,6 +48,20 @@ const UserKeys::Command UserKeys::kCommands[] = {
     {Ctrl(u'b'), &UserKeys::ToggleBold},
     {Ctrl(u'i'), &UserKeys::ToggleItalic},
     {Ctrl(u'u'), &UserKeys::ToggleUnderline},
+    {Ctrl(u'l'), &UserKeys::AlignLeft},
+    {Ctrl(u'e'), &UserKeys::Centre},
+    {Ctrl(u'r'), &UserKeys::AlignRight},
+    {Ctrl(u'j'), &UserKeys::Justify},
+    // The digits of a French keyboard are shifted.
+    {Ctrl(u'1'), &UserKeys::SpaceSingly},
+    {CtrlShift(u'1'), &UserKeys::SpaceSingly},
+    {Ctrl(u'&'), &UserKeys::SpaceSingly},
+    {Ctrl(u'5'), &UserKeys::SpaceOneAndHalf},
+    {CtrlShift(u'5'), &UserKeys::SpaceOneAndHalf},
+    {Ctrl(u'('), &UserKeys::SpaceOneAndHalf},
+    {Ctrl(u'2'), &UserKeys::SpaceDoubly},
+    {CtrlShift(u'2'), &UserKeys::SpaceDoubly},
+    {Ctrl(u'é'), &UserKeys::SpaceDoubly},
 };
 
 UserKeys::UserKeys(EditingCore& core, CaretMotion& motion, TextEditing& text,
@@ -116,5 +130,11 @@ void UserKeys::ToggleBold() { characters_.Effect(kBold, characters_.Effect(kBold
 void UserKeys::ToggleItalic() { characters_.Effect(kItalic, characters_.Effect(kItalic) != true); }
 
 void UserKeys::ToggleUnderline() { characters_.Underlined(characters_.Underlined() != true); }
+
+void UserKeys::SpaceLines(int twentieths) {
+  paragraphs_.Record({.mask = ParagraphRecord::kLineSpacing,
+                      .lineSpacingRule = LineRule::Multiple,
+                      .lineSpacing = twentieths});
+}
 
 }  // namespace lumenote

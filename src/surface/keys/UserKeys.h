@@ -44,6 +44,15 @@ class UserKeys {
   void ToggleBold();
   void ToggleItalic();
   void ToggleUnderline();
+  void AlignLeft() { Align(Alignment::Left); }
+  void AlignRight() { Align(Alignment::Right); }
+  void Centre() { Align(Alignment::Centre); }
+  void Justify() { Align(Alignment::Justify); }
+  void Align(Alignment alignment) { paragraphs_.Align(alignment); }
+  void SpaceSingly() { SpaceLines(20); }
+  void SpaceOneAndHalf() { SpaceLines(30); }
+  void SpaceDoubly() { SpaceLines(40); }
+  void SpaceLines(int twentieths);
 
   EditingCore& core_;
   CaretMotion& motion_;

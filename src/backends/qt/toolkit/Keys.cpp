@@ -37,6 +37,7 @@ constexpr NamedKey kNamedKeys[] = {
 };
 
 constexpr int kFunctionKeys = 35;
+constexpr char16_t kFindOn = 3;  // F3
 
 bool IsCommandOf(const KeyStroke& key, std::u16string_view letters) {
   return key.name == KeyName::Character && key.control && !key.alt &&
@@ -95,8 +96,10 @@ QString TypedText(const QKeyEvent& event) {
 
 bool IsEditingKey(const KeyStroke& key) {
   if (key.alt) return false;
-  if (key.name == KeyName::Character) return !key.control || IsCommandOf(key, u"acvxyzbiu");
-  return key.name != KeyName::Escape && key.name != KeyName::Function;
+  if (key.name == KeyName::Character)
+    return !key.control || IsCommandOf(key, u"abcefijlrsuvxyz125&é(");
+  if (key.name == KeyName::Function) return key.character == kFindOn;
+  return key.name != KeyName::Escape;
 }
 
 }  // namespace lumenote

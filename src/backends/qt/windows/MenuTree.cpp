@@ -18,6 +18,13 @@ void Show(const Menu& menu, QAction& action) {
   action.setChecked(menu.Checked());
 }
 
+// The form hears the key itself.
+void ShowShortcut(const Menu& menu, QAction& action) {
+  action.setShortcut(QKeySequence(ToQString(menu.Shortcut()), QKeySequence::PortableText));
+  action.setShortcutContext(Qt::WidgetShortcut);
+  action.setShortcutVisibleInContextMenu(true);
+}
+
 }  // namespace
 
 MenuTree::MenuTree(const std::vector<Menu*>& menus, QMenuBar& bar, QWidget& window,
@@ -44,6 +51,7 @@ QAction* MenuTree::Add(Menu& menu) {
 QAction* MenuTree::MakeAction(Menu& menu) {
   if (menu.Entries().empty()) {
     auto* action = new QAction(&window_);
+    ShowShortcut(menu, *action);
     // Undoes Qt's own toggling of the check mark, which only the form may change.
     QObject::connect(action, &QAction::triggered, listener_.get(), [this, &menu] {
       Update(menu);

@@ -12,7 +12,12 @@ UINT FlagsOf(const Menu& entry) {
   return (entry.Enabled() ? MF_ENABLED : MF_GRAYED) | (entry.Checked() ? MF_CHECKED : MF_UNCHECKED);
 }
 
-std::u16string CaptionIn(HMENU list, UINT place) {
+/// The caption, and the key behind a tab.
+std::u16string TextOf(const Menu& entry) {
+  return entry.Shortcut().empty() ? entry.Caption() : entry.Caption() + u'\t' + entry.Shortcut();
+}
+
+std::u16string TextIn(HMENU list, UINT place) {
   wchar_t text[256] = {};
   GetMenuStringW(list, place, text, static_cast<int>(std::size(text)), MF_BYPOSITION);
   return std::u16string(Utf16(text));
@@ -56,7 +61,7 @@ void MenuTree::Append(HMENU list, const Menu& entry) const {
   const Item& item = items_.at(&entry);
   const UINT kind = item.list ? MF_POPUP : 0;
   const auto id = item.list ? reinterpret_cast<UINT_PTR>(item.list->Handle()) : item.command;
-  AppendMenuW(list, FlagsOf(entry) | kind, id, Wide(entry.Caption()));
+  AppendMenuW(list, FlagsOf(entry) | kind, id, Wide(TextOf(entry)));
 }
 
 void MenuTree::Update(const Menu& menu) {
@@ -90,8 +95,7 @@ void MenuTree::Compare(DifferenceList& differences) const {
       const UINT shown = entry->IsSeparator() ? MF_SEPARATOR : MF_GRAYED | MF_CHECKED;
       differences.Check(*entry, "state", (state & shown) == (FlagsOf(*entry) & shown));
       if (!entry->IsSeparator())
-        differences.Check(*entry, "Caption",
-                          CaptionIn(item.list->Handle(), place) == entry->Caption());
+        differences.Check(*entry, "Caption", TextIn(item.list->Handle(), place) == TextOf(*entry));
       ++place;
     }
     differences.Check(*menu, "entries",
