@@ -44,6 +44,8 @@ struct GroupState {
   std::uint32_t paragraphEdit = 0;  // number of the last change of `paragraph`
   std::size_t contentAtStart = 0;   // the reader's content count when the group began
 
+  bool inNestedRow = false;  // in a \nesttableprops group
+
   FieldId field = 0;                 // the innermost one, 0 none
   KeptId inField = 0;                // the kept number of plain characters in that field
   int openFields = 0;                // nesting depth of fields

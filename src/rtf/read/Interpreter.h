@@ -42,6 +42,7 @@ class Interpreter {
 
   // Groups.
   void EnterGroup(int value, const Token& word);
+  void NestedRow(int value, const Token& word);
   void SkipGroup(int value, const Token& word);
   void KeepGroup(int value, const Token& word);
   void KeepAside(int value, const Token& word);
@@ -124,12 +125,14 @@ class Interpreter {
   void PlaceMarker();
   bool IsNumbered() const;
 
+  ItemKeeper& RowItems();
   void KeepUnknown(const Token& word);
   void KeepInHead(std::string source);
   std::string GroupSource(std::size_t from);
   void PassTable();
   void SkipTableTail(bool surplus);
   void EnterField(KeptField::Kind kind, std::string opening);
+  bool AtAside();
   void EndField(const GroupState& group, const GroupState& around);
   void BeginBody();
   /// Records that text or a break is being added.
@@ -186,6 +189,7 @@ class Interpreter {
   std::optional<ParagraphState> held_ = {};  // of a closed group with all its text
 
   ItemKeeper items_;
+  ItemKeeper nestedRow_;  // the definition of the current nested row, if in a group of its own
   WordKeeper words_;
   bool needsTables_ = false;      // some kept content refers to the source's tables
   KeptItem row_;                  // definition of the current row, if it preceded the cells

@@ -1,19 +1,45 @@
 // Words that give their group a meaning: tables, lists, groups to skip or keep.
 #include "rtf/read/Interpreter.h"
 #include "rtf/read/KeptSource.h"
+#include "rtf/read/Keywords.h"
 #include "rtf/read/tables/TableTail.h"
 
 namespace lumenote {
 /// The group's text is ordinary text.
 void Interpreter::EnterGroup(int, const Token&) {}
 
+/// The same; a row's definition in it is that of the nested row that ends there, even if cells
+/// follow it.
+void Interpreter::NestedRow(int, const Token&) { State().inNestedRow = true; }
+
 void Interpreter::SkipGroup(int, const Token&) { tokens_.SkipGroup(); }
 
-/// \upr contains the text twice; the first is for readers without Unicode.
+/// \upr contains the text twice; the first is for readers without Unicode. A group that shows
+/// nothing, such as a bookmark, is kept in both forms.
 void Interpreter::SkipAlternative(int, const Token&) {
+  const std::size_t from = tokens_.Start();
+  const std::size_t behind = tokens_.At();
   if (tokens_.Next().kind != Token::Kind::Open) return tokens_.Unread();
+  const std::size_t inside = tokens_.At();
+  const bool aside = AtAside();
+  tokens_.GoTo(aside ? behind : inside);
   tokens_.SkipGroup();
-  tokens_.Next();
+  if (aside)
+    items_.Keep(KeptItem::Kind::Group, GroupSource(from));
+  else
+    tokens_.Next();
+}
+
+/// Whether the group that has just opened shows nothing. Reads its first words.
+bool Interpreter::AtAside() {
+  Token token = tokens_.Next();
+  const bool starred = token.kind == Token::Kind::Symbol && token.byte == '*';
+  if (starred) token = tokens_.Next();
+  if (token.kind != Token::Kind::Word) return false;
+  const Keyword* keyword = FindKeyword(token.text);
+  if (!keyword || !keyword->opensGroup) return starred;
+  return keyword->handler == &Interpreter::KeepAside ||
+         keyword->handler == &Interpreter::KeepDestination;
 }
 
 /// The first such group determines the paragraph.

@@ -36,9 +36,12 @@ void Interpreter::KeepWord(int value, const Token& word) {
   } else if (scope == WordScope::Paragraph) {
     EditParagraph().format.words = words_.With(word, State().paragraph.format.words);
   } else {
-    items_.Keep(KeptItem::Kind::Words, SourceOf(word));
+    RowItems().Keep(KeptItem::Kind::Words, SourceOf(word));
   }
 }
+
+/// Where words of rows are kept.
+ItemKeeper& Interpreter::RowItems() { return State().inNestedRow ? nestedRow_ : items_; }
 
 /// A style is only a label: the words after it give the text's look.
 void Interpreter::KeepStyle(int, const Token& word) {
@@ -75,12 +78,12 @@ void Interpreter::KeepSection(int, const Token& word) {
 
 void Interpreter::KeepRow(int, const Token& word) {
   BeginBody();
-  items_.Keep(KeptItem::Kind::Row, SourceOf(word));
+  RowItems().Keep(KeptItem::Kind::Row, SourceOf(word));
 }
 
 void Interpreter::KeepCell(int, const Token& word) {
-  items_.Keep(KeptItem::Kind::Words, SourceOf(word));
-  items_.KeepCell(word.number);
+  RowItems().Keep(KeptItem::Kind::Words, SourceOf(word));
+  RowItems().KeepCell(word.number);
 }
 
 // --- groups

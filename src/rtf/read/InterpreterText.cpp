@@ -1,5 +1,6 @@
 // Control words for text: characters, breaks, cells.
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "rtf/read/Interpreter.h"
@@ -67,6 +68,7 @@ void Interpreter::Row(int nested, const Token&) {
   CountContent();
   Kept row{.kind = Kept::Kind::Row, .nested = static_cast<std::uint8_t>(nested)};
   KeptItems items = items_.Take();
+  if (nested != 0) std::ranges::move(nestedRow_.Take(), std::back_inserter(items));
   const bool defined = nested != 0 || row_.source.empty() || !RowDefinition(items).source.empty();
   if (!defined) items.insert(items.begin(), row_);
   row.self = formats_.items.Chain(std::move(items));

@@ -37,7 +37,7 @@ constexpr Keyword kOwnWords[] = {
     {"listoverridetable", &I::ListOverrides, 0, true},
     {"upr", &I::SkipAlternative, 0, true},
     {"ud", &I::EnterGroup, 0, true},
-    {"nesttableprops", &I::EnterGroup, 0, true},
+    {"nesttableprops", &I::NestedRow, 0, true},
     {"pntext", &I::Marker, 0, true},
     {"listtext", &I::Marker, 0, true},
     {"pn", &I::Numbering, 0, true},
@@ -284,8 +284,8 @@ const Keyword* FindKeyword(std::string_view name) {
 }
 
 bool HidesText(std::string_view word, bool starred) {
-  static constexpr decltype(Keyword::handler) kShowing[] = {&I::EnterGroup, &I::Field,
-                                                            &I::FieldResult, &I::SkipAlternative};
+  static constexpr decltype(Keyword::handler) kShowing[] = {
+      &I::EnterGroup, &I::NestedRow, &I::Field, &I::FieldResult, &I::SkipAlternative};
   const Keyword* keyword = FindKeyword(word);
   if (!keyword || !keyword->opensGroup) return starred;
   return std::ranges::find(kShowing, keyword->handler) == std::end(kShowing);

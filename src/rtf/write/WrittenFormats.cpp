@@ -5,7 +5,6 @@
 #include <cstdlib>
 
 #include "base/Strings.h"
-#include "base/Windows1252.h"
 #include "base/codepages/CodePage.h"
 #include "rtf/words/FontFamilies.h"
 
@@ -41,17 +40,17 @@ Encoding EncodingOf(const FontFace& face, int page, int documentPage) {
   }
 }
 
+/// In bytes of the font's page where possible, since some readers take nothing else for a name.
 void WriteFontName(const FontFace& face, Output& out) {
-  const int page = CodePageOfCharset(face.charset);
-  const bool inWindowsPage = page == 0 || page == kPageOfWindows || page == kPageOfSymbols;
+  const int ownPage = CodePageOfCharset(face.charset);
+  const bool ofWindows = ownPage == 0 || ownPage == kPageOfSymbols;
+  const int page = ofWindows ? kPageOfWindows : ownPage;
   for (const char16_t& unit : face.name) {
     if (unit != u';' && out.Plain(std::u16string_view(&unit, 1)) == 1) continue;
-    const int byte = unit < 0x80 || inWindowsPage ? ByteIn1252(unit) : -1;
-    if (byte >= 0) {
-      out.Hex(byte);
-    } else {
+    if (unit < 0x80)
+      out.Hex(unit);
+    else if (!out.InPage(page, unit))
       out.Unicode(unit);
-    }
   }
 }
 
