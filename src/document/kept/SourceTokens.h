@@ -1,5 +1,6 @@
 // Reads kept source: ASCII with paired braces, but for binary data, which has no tokens.
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -24,6 +25,8 @@ class SourceTokens {
   /// The next token, nothing at the end. A \u is the character that it names; those that stand for
   /// it are skipped, as far as the group goes.
   std::optional<SourceToken> Next();
+  /// Length of the source behind the last token.
+  std::size_t Left() const { return rest_.size(); }
 
  private:
   std::optional<SourceToken> Take();

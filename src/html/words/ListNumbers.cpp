@@ -3,30 +3,17 @@
 #include <string_view>
 
 #include "base/Characters.h"
+#include "base/RomanNumber.h"
 #include "base/Strings.h"
 
 namespace lumenote {
 namespace {
 
-std::string Letters(int number) {
-  std::string letters;
+std::u16string Letters(int number) {
+  std::u16string letters;
   for (; number > 0; number = (number - 1) / 26)
-    letters.insert(letters.begin(), static_cast<char>('a' + (number - 1) % 26));
+    letters.insert(letters.begin(), static_cast<char16_t>(u'a' + (number - 1) % 26));
   return letters;
-}
-
-std::string Roman(int number) {
-  struct Digit {
-    int value;
-    std::string_view text;
-  };
-  constexpr Digit kDigits[] = {{1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"},
-                               {90, "xc"},  {50, "l"},   {40, "xl"}, {10, "x"},   {9, "ix"},
-                               {5, "v"},    {4, "iv"},   {1, "i"}};
-  std::string text;
-  for (const Digit& digit : kDigits)
-    for (; number >= digit.value; number -= digit.value) text += digit.text;
-  return text;
 }
 
 /// The number of a few digits, the first of which counts `first`; 0 if there are others.
@@ -70,11 +57,11 @@ std::u16string ListNumber(int number, char style) {
   const bool roman = (style == 'i' || style == 'I') && number < 4000;
   const bool letters = style == 'a' || style == 'A';
   const bool decimal = number < 1 || (!roman && !letters);
-  const std::string text = decimal ? std::to_string(number)
-                           : roman ? Roman(number)
-                                   : Letters(number);
+  const std::u16string text = decimal ? FromUtf8(std::to_string(number))
+                              : roman ? RomanNumber(number)
+                                      : Letters(number);
   const bool capital = style == 'A' || style == 'I';
-  return (capital ? Upper(FromUtf8(text)) : FromUtf8(text)) + u'.';
+  return (capital ? Upper(text) : text) + u'.';
 }
 
 std::optional<ReadNumber> ReadListNumber(std::u16string_view text, char style) {

@@ -93,9 +93,23 @@ void EditingCore::Edit(UndoKind kind, const std::function<void()>& make) {
   RefuseWhileNotifying();
   {
     const OpenStep step(history_, kind, *this);
-    Undoable(make);
+    Undoable([&] {
+      lists_.Begin();
+      make();
+      Renumber();
+    });
   }
   Notify();
+}
+
+void EditingCore::Renumber() {
+  const std::vector<NumberChange> changes = lists_.Finish();
+  if (changes.empty()) return;
+  ChangedText text = WithChanges(document_, changes);
+  const Position anchor = ShiftedBy(changes, anchor_);
+  const Position caret = ShiftedBy(changes, caret_);
+  RecordEdit(history_.Apply(text.range.start, text.range.end, std::move(text.fragment)));
+  Move(anchor, caret);
 }
 
 void EditingCore::BeginGroup() {
@@ -137,6 +151,7 @@ void EditingCore::RollBackTo(const UndoSavepoint& savepoint, Selection selected)
 }
 
 void EditingCore::Replace(Position from, Position to, const Fragment& fragment) {
+  lists_.Before(from, to, fragment);
   RecordEdit(history_.Apply(from, to, fragment));
 }
 

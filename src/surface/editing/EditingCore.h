@@ -7,6 +7,7 @@
 #include "document/Document.h"
 #include "document/LineTable.h"
 #include "document/undo/Undo.h"
+#include "surface/editing/ListEdits.h"
 #include "surface/editing/SurfaceView.h"
 
 namespace lumenote {
@@ -49,6 +50,7 @@ class EditingCore {
   void Atomically(const std::function<void()>& command);
 
   /// Runs `make`, which calls `Replace` and `Place`, as one undo step, then sends notifications.
+  /// The numbers of lists follow.
   void Edit(UndoKind kind, const std::function<void()>& make);
   /// Inside `Edit`: replaces `from`..`to` by `fragment`.
   void Replace(Position from, Position to, const Fragment& fragment);
@@ -81,6 +83,7 @@ class EditingCore {
   class Batch;
 
   void Undoable(const std::function<void()>& command);
+  void Renumber();
   void RecordEdit(const DocumentChange& edit);
   bool Move(Position anchor, Position caret);
   void RollBackTo(const UndoSavepoint& savepoint, Selection selected);
@@ -91,6 +94,7 @@ class EditingCore {
   Document document_;
   UndoHistory history_;
   LineTable lines_;
+  ListEdits lists_{document_};
   Position anchor_ = 0;
   Position caret_ = 0;
   std::optional<CharFormat> chosenFormat_;

@@ -1,0 +1,15 @@
+// The groups that a piece of kept source consists of.
+#pragma once
+#include <string_view>
+#include <vector>
+
+namespace lumenote {
+
+struct SourceGroup {
+  std::string_view word{};    // its first one
+  std::string_view source{};  // braces included
+};
+/// The outermost groups, without what stands among them. They are views of the source.
+std::vector<SourceGroup> GroupsOf(std::string_view source);
+
+}  // namespace lumenote

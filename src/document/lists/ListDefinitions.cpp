@@ -1,0 +1,194 @@
+#include "document/lists/ListDefinitions.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "document/kept/SourceGroups.h"
+#include "document/kept/SourceTokens.h"
+
+namespace lumenote {
+namespace {
+
+using Kind = SourceToken::Kind;
+
+constexpr std::size_t kLongest = 64;  // units of text around a number, more than any needs
+
+/// Reads the tokens of a level: \listlevel and what follows.
+class LevelReader {
+ public:
+  /// Text and words go to `level` from now on; null: nowhere.
+  void Begin(ListLevel* level) {
+    level_ = level;
+    if (level_) *level_ = {.form = ListLevel::Form::Unknown};
+  }
+
+  void Take(const SourceToken& token) {
+    if (token.kind == Kind::Open) ++depth_;
+    if (token.kind == Kind::Close && depth_-- == textDepth_) EndText();
+    if (token.kind == Kind::Character && textDepth_ != 0 && ofText_) text_ += token.character;
+    if (token.kind == Kind::Word && level_) Word(token);
+  }
+
+ private:
+  void Word(const SourceToken& token) {
+    const bool on = !token.hasNumber || token.number != 0;
+    if (token.word == "levelnfc" || token.word == "levelnfcn")
+      level_->form = ListFormOf(token.number);
+    else if (token.word == "levelstartat")
+      level_->start = token.number;
+    else if (token.word == "levellegal")
+      level_->legal = on;
+    else if (token.word == "levelnorestart")
+      level_->restarts = !on;
+    else if (token.word == "leveltext")
+      BeginText();
+  }
+  void BeginText() {
+    textDepth_ = depth_;
+    ofText_ = true;
+    text_.clear();
+  }
+  /// The first character is the count of those that follow.
+  void EndText() {
+    textDepth_ = 0;
+    if (!std::exchange(ofText_, false) || !level_ || text_.empty()) return;
+    level_->text = text_.substr(1, std::min<std::size_t>(text_.front(), kLongest));
+  }
+
+  ListLevel* level_ = nullptr;
+  int depth_ = 0;
+  int textDepth_ = 0;  // of the group with the level's text; 0: outside
+  bool ofText_ = false;
+  std::u16string text_;
+};
+
+bool IsBlank(char16_t unit) { return unit == u'\t' || unit == u' ' || unit == u'\u00A0'; }
+
+/// The blank behind a number is not part of it.
+void LeaveBlanks(std::u16string& text) {
+  while (!text.empty() && IsBlank(text.back())) text.pop_back();
+}
+
+std::unordered_map<int, ListLevels> ReadLists(std::string_view group) {
+  std::unordered_map<int, ListLevels> lists;
+  ListLevels levels;
+  std::size_t count = 0;
+  LevelReader reader;
+  SourceTokens tokens(group);
+  while (const auto token = tokens.Next()) {
+    if (token->word == "list") {
+      levels.fill({.form = ListLevel::Form::Unknown});
+      count = 0;
+      reader.Begin(nullptr);
+    } else if (token->word == "listlevel") {
+      reader.Begin(count < levels.size() ? &levels[count] : nullptr);
+      ++count;
+    } else if (token->word == "listid") {
+      for (ListLevel& level : levels) LeaveBlanks(level.text);
+      lists[token->number] = levels;
+    }
+    reader.Take(*token);
+  }
+  return lists;
+}
+
+/// Reads the levels in which an override differs from its list.
+class OverrideReader {
+ public:
+  void Take(const SourceToken& token) {
+    if (token.word == "listoverride") override_ = {};
+    if (token.word == "listid") override_.list = token.number;
+    if (token.word == "lfolevel") BeginLevel();
+    if (!override_.levels.empty()) OfLevel(token);
+    reader_.Take(token);
+  }
+  const ListOverride& Result() const { return override_; }
+
+ private:
+  void BeginLevel() {
+    const auto number = static_cast<int>(override_.levels.size());
+    reader_.Begin(nullptr);
+    starts_ = false;
+    if (number < kListLevels) override_.levels.push_back({.number = number});
+  }
+  void OfLevel(const SourceToken& token) {
+    ListOverride::Level& level = override_.levels.back();
+    if (token.word == "listoverridestartat") starts_ = true;
+    if (token.word == "levelstartat" && starts_) level.start = token.number;
+    if (token.word == "listlevel") reader_.Begin(&level.format.emplace());
+  }
+
+  ListOverride override_;
+  LevelReader reader_;
+  bool starts_ = false;
+};
+
+std::unordered_map<int, ListOverride> ReadOverrides(std::string_view group) {
+  std::unordered_map<int, ListOverride> overrides;
+  OverrideReader reader;
+  SourceTokens tokens(group);
+  while (const auto token = tokens.Next()) {
+    reader.Take(*token);
+    if (token->word == "ls") overrides[token->number] = reader.Result();
+  }
+  for (auto& entry : overrides)
+    for (ListOverride::Level& level : entry.second.levels)
+      if (level.format) LeaveBlanks(level.format->text);
+  return overrides;
+}
+
+}  // namespace
+
+void ListDefinitions::Read(std::string_view source) {
+  for (const SourceGroup& group : GroupsOf(source)) {
+    if (group.word == "listtable") lists_.merge(ReadLists(group.source));
+    if (group.word == "listoverridetable") overrides_.merge(ReadOverrides(group.source));
+  }
+}
+
+const ListOverride* ListDefinitions::Override(int number) const {
+  const auto found = overrides_.find(number);
+  return found != overrides_.end() && lists_.contains(found->second.list) ? &found->second
+                                                                          : nullptr;
+}
+
+ListLevels ListDefinitions::LevelsOf(const ListOverride& override) const {
+  ListLevels levels = lists_.at(override.list);
+  for (const ListOverride::Level& level : override.levels) {
+    ListLevel& own = levels[static_cast<std::size_t>(level.number)];
+    if (level.format) own = *level.format;
+    if (level.start) own.start = *level.start;
+  }
+  return levels;
+}
+
+std::optional<ListLevel> NumberingOf(std::string_view group) {
+  static constexpr std::pair<std::string_view, ListLevel::Form> kForms[] = {
+      {"pndec", ListLevel::Form::Arabic},
+      {"pnucrm", ListLevel::Form::UpperRoman},
+      {"pnlcrm", ListLevel::Form::LowerRoman},
+      {"pnucltr", ListLevel::Form::UpperLetter},
+      {"pnlcltr", ListLevel::Form::LowerLetter}};
+  ListLevel level{.form = ListLevel::Form::Unknown};
+  std::u16string before, behind;
+  std::u16string* text = nullptr;
+  bool body = false;
+  SourceTokens tokens(group);
+  while (const auto token = tokens.Next()) {
+    if (token->kind == Kind::Character && text) *text += token->character;
+    if (token->kind == Kind::Close) text = nullptr;
+    if (token->word == "pntxtb") text = &before;
+    if (token->word == "pntxta") text = &behind;
+    if (token->word == "pnlvlbody") body = true;
+    if (token->word == "pnstart") level.start = token->number;
+    for (const auto& [word, form] : kForms)
+      if (token->word == word) level.form = form;
+  }
+  if (!body || level.form == ListLevel::Form::Unknown) return std::nullopt;
+  if (before.size() + behind.size() > kLongest) return std::nullopt;
+  level.text = before + u'\0' + behind;
+  LeaveBlanks(level.text);
+  return level;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,43 @@
+// What a note's source says of its lists: the list table, the overrides, and numbering groups.
+#pragma once
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "document/lists/ListLevel.h"
+
+namespace lumenote {
+
+/// The list that paragraphs name by \ls: the list of an id, some of whose levels differ.
+struct ListOverride {
+  struct Level {
+    int number = 0;
+    std::optional<int> start{};
+    std::optional<ListLevel> format{};
+  };
+  int list = 0;
+  std::vector<Level> levels{};
+};
+
+class ListDefinitions {
+ public:
+  /// Reads the tables among the groups of a head; what was read first holds.
+  void Read(std::string_view source);
+
+  /// Null for a number that no override has, or one without a list.
+  const ListOverride* Override(int number) const;
+  /// The levels of a list, as an override has them.
+  ListLevels LevelsOf(const ListOverride& override) const;
+
+ private:
+  std::unordered_map<int, ListLevels> lists_;        // by \listid
+  std::unordered_map<int, ListOverride> overrides_;  // by \ls
+};
+
+/// The numbers that a group of one paragraph asks for (\pn), which knows one level; empty for
+/// bullets, and for groups that do not say enough.
+std::optional<ListLevel> NumberingOf(std::string_view group);
+
+}  // namespace lumenote
