@@ -45,6 +45,11 @@ TEST(HtmlReader, Bytes) {
       {"<title>\xE9</title><meta content=charset=shift_jis>\x83\x5C", u'ソ'},
       {"<!-- <meta charset=big5> --><meta charset=nonsense>\xE9", u'é'},
       {{"\xFF\xFE<\0a\0", 6}, u'a'},
+      {"<meta charset=ISO-8859-15>\xA4", u'€'},
+      {"<meta charset=koi8>\xD1", u'я'},
+      {"<meta charset=x-euc-jp>\xA5\xBD", u'ソ'},
+      {"<meta charset=GB18030>\xD2\xBB", u'一'},
+      {"<meta charset=iso-8859-2x>\xE9", u'é'},
   };
   for (const auto& [bytes, last] : kRows) EXPECT_EQ(DecodeHtml(bytes).back(), last) << bytes;
 }

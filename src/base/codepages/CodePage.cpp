@@ -6,6 +6,7 @@
 #include "base/Strings.h"
 #include "base/codepages/CodePageTables.h"
 #include "base/codepages/DoubleBytePage.h"
+#include "base/codepages/EucJp.h"
 
 namespace lumenote {
 namespace {
@@ -27,13 +28,14 @@ const char16_t* UpperHalfOrWindows(int page) {
 CodePage::CodePage(int number)
     : upper_(UpperHalfOrWindows(number)),
       number_(number),
-      multiByte_(number == kPageUtf8 || DoubleBytePage::Is(number)) {}
+      multiByte_(number == kPageUtf8 || number == kPageEucJp || DoubleBytePage::Is(number)) {}
 
 void DecodeCodePage(int page, std::string_view bytes, std::u16string& out) {
   if (page == kPageUtf8) {
     out += FromUtf8(bytes);
     return;
   }
+  if (page == kPageEucJp) return DecodeCodePage(932, Page932OfEucJp(bytes), out);
   if (const DoubleBytePage* pairs = DoubleBytePage::Find(page)) return pairs->Decode(bytes, out);
   const CodePage decode(page);
   out.reserve(out.size() + bytes.size());
@@ -42,7 +44,7 @@ void DecodeCodePage(int page, std::string_view bytes, std::u16string& out) {
 
 std::string EncodeCodePage(int page, char16_t unit) {
   constexpr char16_t kUnknown = u'\uFFFD';
-  if (unit == kUnknown || IsSurrogate(unit)) return {};
+  if (unit == kUnknown || IsSurrogate(unit) || page == kPageEucJp) return {};
   if (page == kPageUtf8) return ToUtf8(std::u16string_view(&unit, 1));
   if (const DoubleBytePage* pairs = DoubleBytePage::Find(page)) return pairs->Encode(unit);
   const std::size_t at = std::u16string_view(UpperHalfOrWindows(page), 0x80).find(unit);

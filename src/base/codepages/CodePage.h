@@ -14,6 +14,7 @@ inline constexpr int kDefaultCharset = 1;  // \fcharset of fonts that leave it t
 /// `out`; an unknown page is read as 1252. Must not split a multi-byte character.
 void DecodeCodePage(int page, std::string_view bytes, std::u16string& out);
 /// The bytes of a unit from U+0080 on; none if the page lacks it, as it does half a surrogate pair.
+/// EUC-JP is only read.
 std::string EncodeCodePage(int page, char16_t unit);
 /// The code page of a font's character set (\fcharset); 0 for the document's own.
 int CodePageOfCharset(int charset);

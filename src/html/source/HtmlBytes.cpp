@@ -1,12 +1,12 @@
 #include "html/source/HtmlBytes.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "base/TextEncoding.h"
 #include "base/Windows1252.h"
 #include "base/codepages/CodePage.h"
 #include "html/source/Ascii.h"
+#include "html/source/Charsets.h"
 #include "html/source/HtmlTokenizer.h"
 
 namespace lumenote {
@@ -40,35 +40,13 @@ std::string StatedCharset(std::string_view bytes) {
   return {};
 }
 
-/// The code page of a charset; 0 if it is not known.
-int PageOf(std::string_view charset) {
-  struct Charset {
-    std::string_view name;
-    int page;
-  };
-  static constexpr Charset kCharsets[] = {
-      {"utf-8", kPageUtf8}, {"utf8", kPageUtf8}, {"utf-16", kPageUtf8}, {"us-ascii", 1252},
-      {"iso-8859-1", 1252}, {"latin1", 1252},    {"iso-8859-9", 1254},  {"iso-8859-11", 874},
-      {"tis-620", 874},     {"shift_jis", 932},  {"windows-31j", 932},  {"gb2312", 936},
-      {"gbk", 936},         {"gb18030", 936},    {"euc-kr", 949},       {"ks_c_5601-1987", 949},
-      {"big5", 950},        {"ibm866", 866},     {"macintosh", 10000},  {"x-mac-cyrillic", 10007},
-  };
-  for (const Charset& one : kCharsets)
-    if (one.name == charset) return one.page;
-  int page = 0;
-  constexpr std::string_view kWindows = "windows-";
-  if (charset.starts_with(kWindows))
-    std::from_chars(charset.data() + kWindows.size(), charset.data() + charset.size(), page);
-  return (page >= 1250 && page <= 1258) || page == 874 ? page : 0;
-}
-
 }  // namespace
 
 std::u16string DecodeHtml(std::string_view bytes) {
   const TextEncoding encoding = DetectEncoding(bytes);
   const std::string_view mark = ByteOrderMark(encoding);
   const bool marked = !mark.empty() && bytes.starts_with(mark);
-  const int page = marked ? 0 : PageOf(StatedCharset(bytes));
+  const int page = marked ? 0 : PageOfCharset(StatedCharset(bytes));
   if (page == 0) return DecodeText(bytes, encoding);
   std::u16string text;
   DecodeCodePage(page, bytes, text);
