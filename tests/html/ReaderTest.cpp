@@ -7,6 +7,7 @@
 #include "html/write/Writer.h"
 #include "rtf/CheckRows.h"
 #include "rtf/Reading.h"
+#include "rtf/write/Writer.h"
 
 namespace lumenote {
 namespace {
@@ -72,8 +73,17 @@ TEST(HtmlHostile, CostsItsLengthOnly) {
     EXPECT_LT(note.Length(), 4'000'000) << piece;
     EXPECT_NE(WriteHtml(note), "") << piece;
   }
-  const std::string linked = "<a href=" + Repeated("x") + ">" + Repeated("a<b>a</b>");
-  EXPECT_LT(WriteHtml(ReadPage(linked)).size(), 4'000'000);
+  const std::string link = "<a href=" + Repeated("x") + ">";
+  const std::string font = "<font face=" + Repeated("x") + ">";
+  EXPECT_LT(WriteHtml(ReadPage(link + Repeated("a<b>a</b>"))).size(), 4'000'000);
+  for (const std::string& start : {link, font}) {
+    const Document note = ReadPage(start + Repeated("<p>a"));
+    EXPECT_LT(WriteRtf(note).size(), 10'000'000);
+    EXPECT_LT(WriteHtml(note).size(), 30'000'000);
+  }
+  const std::string field =
+      R"({\rtf1{\field{\*\fldinst HYPERLINK ")" + Repeated("x") + R"("}{\fldrslt )";
+  EXPECT_LT(WriteHtml(Read(field + Repeated("a\\par ") + "}}}")).size(), 30'000'000);
 }
 
 }  // namespace

@@ -27,7 +27,8 @@ struct HtmlElement {
     kMonospace = 2,
     kPreserve = 4,  // blanks and line ends count
     kCentre = 8,
-    kEnd = 16,  // of a word processor's paragraph: without content
+    kEnd = 16,     // of a word processor's paragraph: without content
+    kHidden = 32,  // for programs, or in place of what this reader shows
   };
   std::string_view name;
   Kind kind = Kind::Inline;

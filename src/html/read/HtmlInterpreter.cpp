@@ -49,7 +49,7 @@ void HtmlInterpreter::Text(std::u16string_view text) {
     if (text.starts_with(u'\r')) text.remove_prefix(1);
     if (text.starts_with(u'\n')) text.remove_prefix(1);
   }
-  if (skipping_ || look_.text == Look::Text::Hidden) return;
+  if (skipping_ || IsHidden()) return;
   if (look_.text == Look::Text::Marker) return void(marker_ += text);
   if (!look_.preserve && IsBlank(text)) return text_.Text(text, look_);
   BeforeContent();
@@ -77,11 +77,12 @@ void HtmlInterpreter::Start(const HtmlToken& tag) {
   const Kind kind = element->kind;
   if ((kind == Kind::Row || kind == Kind::Cell) && tables_.empty()) return;
   if (uncounted_ == 0) CloseImplied(*element);
-  if (!IsInline(kind)) text_.End();
-  if (kind == Kind::Cell && !tables_.back().inRow) Imply("tr");
+  if (kind == Kind::Cell && !tables_.back().inRow && !IsHidden()) Imply("tr");
   const bool tooDeep = kind == Kind::Table && tables_.size() == kDeepestTable;
+  const LookChange change = ChangeOf(*element, tag);
+  if (!IsInline(kind) && !IsHidden() && change.text != Look::Text::Hidden) text_.End();
   if (!HasRoom() || tooDeep) return void(++uncounted_);
-  Push({.element = element, .change = ChangeOf(*element, tag)});
+  Push({.element = element, .change = change});
   Enter(tag, open_.back());
 }
 
@@ -97,7 +98,7 @@ void HtmlInterpreter::End(std::string_view name) {
   const std::size_t index = Find(*element);
   if (index == kNone && element->kind == Kind::Paragraph) text_.End();
   if (index == kNone) return;
-  if (IsInline(element->kind))
+  if (IsInline(element->kind) && !(element->traits & HtmlElement::kHidden))
     Remove(index);
   else
     Close(index);
@@ -132,14 +133,15 @@ std::size_t HtmlInterpreter::Find(const HtmlElement& element) const {
   return FindWithin(same, IsOfTable(element.kind));
 }
 
-/// Closes an element that is no inline one, with those in it.
+/// Closes an element with those in it.
 void HtmlInterpreter::Close(std::size_t index) {
   std::vector<Open> left;
-  const bool keeps = !IsOfTable(open_[index].element->kind);
+  const HtmlElement& closed = *open_[index].element;
+  const bool keeps = !IsOfTable(closed.kind) && !(closed.traits & HtmlElement::kHidden);
   while (open_.size() > index) {
     const Open open = open_.back();
     open_.pop_back();
-    text_.End();
+    if (!IsHidden()) text_.End();
     Leave(open);
     look_ = open.around;
     if (keeps && GoesOn(open.element->kind)) left.push_back(open);
@@ -190,7 +192,7 @@ void HtmlInterpreter::Leave(const Open& open) {
   const LookChange& change = open.change;
   if (change.text == Look::Text::Marker) EndSpelledMarker();
   const Kind kind = open.element->kind;
-  if (IsInline(kind)) return;
+  if (IsInline(kind) || IsHidden()) return;
   const bool begun = text_.Paragraphs() > open.begun;
   if (begun && change.below) text_.SpaceAfter(change.below->Twips(look_.character));
   if (!change.below) text_.Space(open.margin);

@@ -56,6 +56,7 @@ class HtmlInterpreter {
   void Start(const HtmlToken& tag);
   void End(std::string_view name);
   void BeforeContent();
+  bool IsHidden() const { return look_.text == Look::Text::Hidden; }
 
   // The stack.
   void Imply(const char* name);

@@ -110,7 +110,9 @@ void HtmlInterpreter::ReadAttributes(const HtmlElement& element, const HtmlToken
     change.underline = Underline::Single;
   }
   if (const auto* style = Attribute(tag, "style")) ReadStyle(*style, formats_, change);
-  if (change.tabs > 0 || element.traits & HtmlElement::kEnd) change.text = Look::Text::Hidden;
+  if (change.tabs > 0 || element.traits & (HtmlElement::kEnd | HtmlElement::kHidden) ||
+      tag.Find("hidden"))
+    change.text = Look::Text::Hidden;
 }
 
 /// A list in another one has no margins.
@@ -124,9 +126,10 @@ int HtmlInterpreter::MarginOf(const HtmlElement& element) const {
 void HtmlInterpreter::Enter(const HtmlToken& tag, Open& open) {
   const LookChange& change = open.change;
   const Kind kind = open.element->kind;
+  if (open.around.text == Look::Text::Hidden) return;
   if (change.tabs > 0) text_.Tabs(change.tabs, look_);
   if (open.element->traits & HtmlElement::kEnd) text_.Begin(look_);
-  if (IsInline(kind)) return;
+  if (IsInline(kind) || IsHidden()) return;
   open.margin = MarginOf(*open.element);
   if (!change.above) text_.Space(open.margin);
   if (change.above) text_.SpaceBefore(change.above->Twips(look_.character));

@@ -14,7 +14,7 @@ constexpr char16_t kObject = u'\uFFFC';
 
 bool IsControl(char16_t c) { return c < u' ' || (c >= 0x7F && c < 0xA0); }
 
-ParaFormat FormatOf(const Look& look) {
+ParaFormat ParagraphOf(const Look& look) {
   ParaFormat format = look.paragraph;
   format.firstIndent = look.left + look.first;
   format.hangingIndent = -look.first;
@@ -68,10 +68,10 @@ void NoteText::LineBreak(const Look& look) {
 void NoteText::Object(KeptItem item, const Look& look) {
   BeforeContent(look);
   const ItemId self = formats_.items.Chain({std::move(item)});
-  const FieldId field = formats_.kept[look.character.kept].field;
-  builder_.Append(
-      std::u16string_view(&kObject, 1),
-      With(look.character, {.self = self, .field = field, .kind = Kept::Kind::Embedded}));
+  const CharFormat character = FormatOf(look.character);
+  const FieldId field = formats_.kept[character.kept].field;
+  builder_.Append(std::u16string_view(&kObject, 1),
+                  With(character, {.self = self, .field = field, .kind = Kept::Kind::Embedded}));
 }
 
 void NoteText::Tabs(int count, const Look& look) {
@@ -88,7 +88,13 @@ void NoteText::BeforeContent(const Look& look) {
   lineBegun_ = true;
 }
 
-void NoteText::Append(std::u16string_view text, const CharFormat& format) {
+CharFormat NoteText::FormatOf(CharFormat character) const {
+  if (unlinked_) character.kept = 0;
+  return character;
+}
+
+void NoteText::Append(std::u16string_view text, const CharFormat& character) {
+  const CharFormat format = FormatOf(character);
   builder_.Append(text, formats_.characters.Intern(format));
   if (format.kept == 0) open_->character = format;  // what ends the paragraph is in no link
 }
@@ -109,13 +115,20 @@ void NoteText::Begin(const Look& look) {
   if (open_) return;
   if (ended_) ended_->paragraph.spaceAfter = std::max(ended_->paragraph.spaceAfter, space_);
   Release();
-  open_ = Ended{look.character, FormatOf(look)};
+  open_ = Ended{look.character, ParagraphOf(look)};
   open_->paragraph.spaceBefore = before_.value_or(0);
   before_.reset();
   space_ = 0;
   ++paragraphs_;
+  unlinked_ = !MayGoOn(look.character.kept);
   marked_ = marker_.has_value();
   if (marked_) PlaceMarker(open_->paragraph, look);
+}
+
+/// Whether another paragraph may begin in that link.
+bool NoteText::MayGoOn(KeptId link) {
+  if (std::exchange(link_, link) != link || link == 0) return true;
+  return repeats_.Allow(formats_.fields[formats_.kept[link].field].opening.size());
 }
 
 void NoteText::PlaceMarker(ParaFormat& paragraph, const Look& look) {
@@ -169,7 +182,7 @@ void NoteText::BeginCell() {
 
 void NoteText::EndCell(const Look& look) {
   End();
-  cell_ = ended_ ? *std::exchange(ended_, {}) : Ended{look.character, FormatOf(look)};
+  cell_ = ended_ ? *std::exchange(ended_, {}) : Ended{look.character, ParagraphOf(look)};
   space_ = 0;
 }
 
@@ -191,7 +204,7 @@ void NoteText::EndRow(KeptItem definition, const Look& look) {
 
 Fragment NoteText::FinishDocument(const Look& look) {
   End();
-  const Ended last = ended_ ? *ended_ : Ended{look.character, FormatOf(look)};
+  const Ended last = ended_ ? *ended_ : Ended{look.character, ParagraphOf(look)};
   Fragment fragment = builder_.Finish();
   fragment.mark = FinalMark{.character = Plain(last.character),
                             .paragraph = formats_.paragraphs.Intern(last.paragraph)};

@@ -9,6 +9,7 @@
 #include "document/FormatTables.h"
 #include "document/text/Fragment.h"
 #include "html/read/Look.h"
+#include "html/words/LinkRepeats.h"
 
 namespace lumenote {
 
@@ -69,9 +70,11 @@ class NoteText {
   };
 
   void Special(char16_t unit, const Look& look);
+  CharFormat FormatOf(CharFormat character) const;
   void BeforeContent(const Look& look);
   void Append(std::u16string_view text, const CharFormat& format);
   void PlaceMarker(ParaFormat& paragraph, const Look& look);
+  bool MayGoOn(KeptId link);
   void Release();
   CharId Plain(CharFormat format);
   CharId With(CharFormat format, const Kept& kept);
@@ -85,7 +88,10 @@ class NoteText {
   std::optional<CharFormat> lineBreak_;  // held back
   bool lineBegun_ = false;               // the line has content
   std::optional<ItemMarker> marker_;
-  bool marked_ = false;  // the last paragraph is an item
+  bool marked_ = false;    // the last paragraph is an item
+  KeptId link_ = 0;        // the last one in which a paragraph began
+  bool unlinked_ = false;  // the paragraph states no link
+  LinkRepeats repeats_;
   int space_ = 0;
   std::optional<int> before_;
   int paragraphs_ = 0;

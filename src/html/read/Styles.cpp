@@ -174,7 +174,10 @@ void Display(Value value, LookChange& change) {
   if (IsName(value, u"none") && !change.text) change.text = Look::Text::Hidden;
 }
 
-void Width(Value value, LookChange& change) { change.width = ReadLength(value); }
+/// Shares of the page's width are not known.
+void Width(Value value, LookChange& change) {
+  if (!value.ends_with(u'%')) change.width = ReadLength(value);
+}
 
 void WhiteSpace(Value value, LookChange& change) {
   change.preserve = StartsWithName(value, u"pre") || IsName(value, u"break-spaces");

@@ -182,7 +182,8 @@ void HtmlBody::Run(std::u16string_view text, std::size_t from, std::size_t to, C
 
 /// Opens and closes tags so that text of that format can follow.
 void HtmlBody::Wear(CharId format) {
-  const FieldId link = LinkIn(FieldOf(format));
+  FieldId link = LinkIn(FieldOf(format));
+  if (link != 0 && link != link_ && !MayOpen(link)) link = 0;
   const auto [known, isNew] = known_.try_emplace(format);
   HtmlTags& tags = known->second;
   if (isNew) tags = TagsOf(tables_.characters[format], around_, link != 0, tables_);
@@ -232,6 +233,10 @@ FieldId HtmlBody::FieldOf(CharId format) const {
 FieldId HtmlBody::LinkIn(FieldId field) {
   while (field != 0 && !AddressOf(field)) field = tables_.fields[field].outer;
   return field;
+}
+
+bool HtmlBody::MayOpen(FieldId link) {
+  return linked_.insert(link).second || repeats_.Allow(AddressOf(link)->size());
 }
 
 /// Reads each field's source only once, as each of its runs asks.

@@ -3,9 +3,11 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include "document/Document.h"
+#include "html/words/LinkRepeats.h"
 #include "html/write/HtmlFormats.h"
 #include "html/write/HtmlLists.h"
 #include "html/write/HtmlParagraphs.h"
@@ -42,6 +44,7 @@ class HtmlBody {
   void Picture(const CharFormat& format);
   FieldId FieldOf(CharId format) const;
   FieldId LinkIn(FieldId field);
+  bool MayOpen(FieldId link);
   const std::optional<std::u16string>& AddressOf(FieldId field);
 
   const Document& document_;
@@ -57,6 +60,8 @@ class HtmlBody {
   HtmlTags worn_;                                                         // open tags of the text
   std::unordered_map<FieldId, std::optional<std::u16string>> addresses_;  // of fields so far
   FieldId link_ = 0;                                                      // open
+  std::unordered_set<FieldId> linked_;                                    // so far
+  LinkRepeats repeats_;
 };
 
 }  // namespace lumenote

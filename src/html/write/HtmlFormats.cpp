@@ -50,8 +50,11 @@ std::string ColourText(Colour colour) {
   return text;
 }
 
-/// The name in quotes, without characters that could end them or the attribute.
+/// The name in quotes, without characters that could end them or the attribute. Each paragraph
+/// states it, so one that no font has is left out.
 void DeclareFont(std::u16string_view name, std::string& style) {
+  constexpr std::size_t kLongest = 255;
+  if (name.size() > kLongest) return;
   std::u16string quoted;
   for (const char16_t c : name)
     if (c >= u' ' && std::u16string_view(u"\"'<>&;\\").find(c) == std::u16string_view::npos)
