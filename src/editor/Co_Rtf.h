@@ -77,6 +77,8 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   void Form_Unload() override;
   void Form_Keep() override { recovery_.WriteNow(); }
   bool Form_KeyDown(const KeyStroke& key) override;
+  void Form_EnterMenuBar() override;
+  void Form_LeaveMenuBar() override;
   void OpenNote();
 
   void WirePopup();
@@ -119,6 +121,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   FileState onDisk_;
   Dessus dessus_{*this, Pop.mnuPopMettreDessus, session_};
   bool firstActivation_ = true;
+  bool barShownByKey_ = false;  // and hidden again when the keyboard leaves it
   Dialogs dialogs_{*this, *this};
   ProgramTable programs_;
   RoundTrip roundTrip_;

@@ -128,8 +128,20 @@ void Co_Rtf::WireKeys() {
 
 void Co_Rtf::AfficheBarreMenu(int mode) {
   session_.menuBarShown = mode == 3 ? !session_.menuBarShown : mode == 1;
+  barShownByKey_ = false;
+  if (!session_.menuBarShown) LeaveMenuBar();
   Form_Resize();
   Bar.Visible(session_.menuBarShown);
+}
+
+void Co_Rtf::Form_EnterMenuBar() {
+  if (session_.menuBarShown) return;
+  AfficheBarreMenu(1);
+  barShownByKey_ = true;
+}
+
+void Co_Rtf::Form_LeaveMenuBar() {
+  if (barShownByKey_) AfficheBarreMenu(2);
 }
 
 void Co_Rtf::SwitchZone(float x, float middleWidth) {

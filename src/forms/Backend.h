@@ -32,6 +32,8 @@ class FormPeer {
   /// `element` is the form itself or one of its elements.
   virtual void Update(Element& element, Property property) = 0;
   virtual void Focus(Control& control) = 0;
+  /// Gives the keyboard to the menu bar, or back to the active control if the bar still has it.
+  virtual void FocusMenuBar(bool on) = 0;
   /// Raises the window and gives it the keyboard.
   virtual void Activate() = 0;
   /// Called while the window exists: a control was added to the form, or is about to be removed.

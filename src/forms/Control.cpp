@@ -61,6 +61,7 @@ void Control::SetFocus() {
   if (!TakesFocus()) return;
   Owner().ActiveControl(this);
   if (FormPeer* peer = Owner().Peer()) peer->Focus(*this);
+  Owner().LeaveMenuBar();
   Owner().Activate();
 }
 

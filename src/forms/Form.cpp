@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include "base/Numbers.h"
 #include "base/Strings.h"
@@ -11,6 +12,11 @@
 #include "lumenote/Platform.h"
 
 namespace lumenote {
+namespace {
+
+constexpr KeyStroke kMenuKey = {.name = KeyName::Function, .character = 10};
+
+}  // namespace
 
 Form::Form(WindowList& windows, std::string name, Rect bounds, std::u16string caption)
     : Element(*this, std::move(name)),
@@ -90,6 +96,7 @@ bool Form::UserKey(const KeyStroke& key) {
   bool used = false;
   Raise([&] { used = Form_KeyDown(key); });
   if (used) return true;
+  if (key == kMenuKey) return UserMenuKey();
   if (key.control || key.alt) return false;
   Button* button = key.name == KeyName::Return   ? defaultButton_
                    : key.name == KeyName::Escape ? cancelButton_
@@ -101,6 +108,37 @@ bool Form::UserKey(const KeyStroke& key) {
   if (key.name != KeyName::Escape || !escapeCloses_) return false;
   Unload();
   return true;
+}
+
+// --- the menu bar
+
+bool Form::UserMenuKey() {
+  if (menuBarFocused_) {
+    LeaveMenuBar();
+    return true;
+  }
+  Raise([this] { Form_EnterMenuBar(); });
+  if (!peer_ || !HasMenuBar()) return false;
+  menuBarFocused_ = true;
+  peer_->FocusMenuBar(true);
+  return true;
+}
+
+void Form::UserMenuBarFocus(bool has) {
+  if (has)
+    menuBarFocused_ = true;
+  else
+    LeaveMenuBar();
+}
+
+void Form::LeaveMenuBar() {
+  if (!std::exchange(menuBarFocused_, false)) return;
+  if (peer_) peer_->FocusMenuBar(false);
+  Raise([this] { Form_LeaveMenuBar(); });
+}
+
+bool Form::IsForMenuBar(const KeyStroke& key) const {
+  return menuBarFocused_ && (key == kMenuKey || key.name == KeyName::Escape);
 }
 
 // --- life
@@ -204,6 +242,7 @@ void Form::Lose() {
 void Form::TakeDown() {
   loaded_ = false;
   visible_ = false;
+  menuBarFocused_ = false;
   unloaded_ = true;
   RearmTimers();
   peer_.reset();

@@ -124,6 +124,16 @@ class Form : public Element, public Container {
   void UserMouseMove(const MouseEvent& event);
   /// A key that its control had no use for; whether the window had.
   bool UserKey(const KeyStroke& key);
+  /// F10, or Alt pressed and released alone: the menu bar gets the keyboard, or gives it back.
+  /// Whether the window has a bar.
+  bool UserMenuKey();
+  /// The menu bar has got the keyboard, or lost it. While a list of the bar is open, it has it.
+  void UserMenuBarFocus(bool has);
+
+  /// Gives the keyboard back to the controls, if the menu bar has it.
+  void LeaveMenuBar();
+  /// Whether the key means something to the menu bar, which has the keyboard.
+  bool IsForMenuBar(const KeyStroke& key) const;
 
   /// Called when the form has unloaded: its window has gone, and the next one is active.
   std::function<void()> Unloaded;
@@ -155,6 +165,9 @@ class Form : public Element, public Container {
   virtual void Form_MouseMove(const MouseEvent&) {}
   /// A shortcut of the window; whether the key is one.
   virtual bool Form_KeyDown(const KeyStroke&) { return false; }
+  /// A key has called for the menu bar, which gets the keyboard if it is shown then; and has left.
+  virtual void Form_EnterMenuBar() {}
+  virtual void Form_LeaveMenuBar() {}
   /// Whether the window may go.
   virtual bool Form_QueryUnload() { return true; }
   virtual void Form_Unload() {}
@@ -198,6 +211,7 @@ class Form : public Element, public Container {
   bool lost_ = false;  // the native window has gone
   bool modal_ = false;
   bool escapeCloses_ = false;
+  bool menuBarFocused_ = false;
 };
 
 }  // namespace lumenote

@@ -32,8 +32,11 @@ void Menu::Checked(bool on) {
   Changed(Property::Checked);
 }
 
+// Leaving the bar may hide it, and the entry with it.
 void Menu::UserClick() {
-  if (Enabled() && Visible()) UserOpen();
+  if (!Enabled() || !Visible()) return;
+  Owner().LeaveMenuBar();
+  UserOpen();
 }
 
 void Menu::UserOpen() {

@@ -7,13 +7,15 @@
 //   text N          the text on the surface; "rtf N" its source, "selected N" what is selected,
 //                   "undo N" the kind of the step that would be undone, "ontop N" whether the
 //                   editor takes itself for the topmost window, "focus N" the control that has the
-//                   keyboard in its active window, "nobody" without one
+//                   keyboard in its active window, "nobody" without one, "bar N" whether its menu
+//                   bar is "hidden", "shown" or, with the keyboard, "focused"
 //   quit            QApplication::quit()
 //
 // Each line is answered by one, "ok" where there is nothing to tell, line ends as "\n". A line that
 // arrives while another one waits is carried out meanwhile. When the application's loop ends, the
 // program writes "ended" and ends.
 #include <QApplication>
+#include <QMenuBar>
 #include <QSocketNotifier>
 #include <iostream>
 #include <memory>
@@ -73,8 +75,14 @@ class Host {
     const Form* active = control.Parts().windows.Active();
     if (verb == "focus")
       return active && active->ActiveControl() ? active->ActiveControl()->Name() : "nobody";
+    if (verb == "bar" && editor) return BarOf(*editor);
     if (verb == "ontop") return control.Parts().session->onTop ? "yes" : "no";
     return editor ? Answer(verb, editor->Document()) : "ok";
+  }
+
+  static std::string BarOf(const Co_Rtf& editor) {
+    if (dynamic_cast<QMenuBar*>(QApplication::focusWidget())) return "focused";
+    return editor.HasMenuBar() ? "shown" : "hidden";
   }
 
   static std::string Answer(const std::string& verb, const RichTextSurface& surface) {

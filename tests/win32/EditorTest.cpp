@@ -104,6 +104,73 @@ TEST_F(EditorTest, KeysReachEditorAndDialogsInAPlainLoop) {
   EXPECT_EQ(Shown(), u"ac");
 }
 
+TEST_F(EditorTest, AKeyShowsTheMenuBarForAsLongAsItHasTheKeyboard) {
+  using Keys = std::vector<std::initializer_list<WORD>>;
+  constexpr WORD kAltGr = VK_RMENU;
+  struct Row {
+    Keys call, leave;
+    bool called = true;
+    std::u16string text = u"abc";
+  };
+  const Row rows[] = {
+      {{{VK_F10}}, {{VK_F10}}},
+      {{{VK_MENU}}, {{VK_MENU}}},
+      {{{VK_F10}}, {{VK_ESCAPE}}},
+      {{{VK_MENU}}, {{VK_RIGHT}, {VK_DOWN}, {VK_ESCAPE}}},
+      {{{VK_MENU}}, {{VK_RIGHT}, {VK_RIGHT}, {VK_RIGHT}, {VK_RETURN}, {'X'}}, true, u"axc"},
+      {{{VK_CONTROL, kAltGr}}, {}, false},
+      {{{VK_MENU, 'Q'}}, {}, false},
+  };
+  Open();
+  const HWND document = GetFocus();
+  const auto press = [](const Keys& keys) {
+    for (const auto& key : keys) Press(key);
+    Pump();
+  };
+  for (const bool shown : {false, true})
+    for (const Row& row : rows) {
+      Editor()->AfficheBarreMenu(shown ? 1 : 2);
+      Editor()->Document().Text(u"abc");
+      Editor()->Document().SelStart(1);
+      Editor()->Document().SelLength(1);
+      const auto place = &row - rows;
+      press(row.call);
+      EXPECT_EQ(GetFocus() != document, row.called) << place;
+      EXPECT_EQ(Editor()->HasMenuBar(), row.called || shown) << place;
+      press(row.leave);
+      EXPECT_EQ(GetFocus(), document) << place;
+      EXPECT_EQ(Editor()->HasMenuBar(), shown) << place;
+      EXPECT_EQ(Editor()->Document().SelText(), row.text == u"abc" ? u"b" : u"") << place;
+      EXPECT_EQ(Editor()->Document().Text(), row.text) << place;
+      EXPECT_EQ(backend.PeerOf(*Editor())->Differences(), std::vector<std::string>()) << place;
+    }
+}
+
+TEST_F(EditorTest, ACalledMenuBarGoesWithAClickElsewhereOrAnotherWindow) {
+  Open();
+  const HWND document = GetFocus();
+  const HWND label = backend.PeerOf(*Editor())->PeerOf(Editor()->Lb_Format)->Native().Handle();
+  const HWND other = CreateWindowExW(0, L"STATIC", L"Autre", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9,
+                                     nullptr, nullptr, nullptr, nullptr);
+  const auto click = [](HWND window) {
+    PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(2, 2));
+    PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
+  };
+  const std::function<void()> acts[] = {[&] { click(label); }, [&] { click(document); },
+                                        [&] { SetActiveWindow(other); }};
+  for (const auto& act : acts) {
+    SetActiveWindow(Handle());
+    Type({VK_F10});
+    EXPECT_TRUE(Editor()->HasMenuBar());
+    act();
+    Pump();
+    EXPECT_FALSE(Editor()->HasMenuBar());
+  }
+  SetActiveWindow(Handle());
+  EXPECT_EQ(GetFocus(), document);
+  DestroyWindow(other);
+}
+
 TEST_F(EditorTest, ScreenReadersNameTheNoteByItsFrame) {
   const std::pair<const char16_t*, const wchar_t*> rows[] = {{u"&Bois && prés", L"Bois & prés"},
                                                              {u"", L"Note"}};

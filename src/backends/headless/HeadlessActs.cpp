@@ -97,6 +97,7 @@ void HeadlessActs::Type(Control& control, std::u16string_view text) {
 }
 
 void HeadlessActs::Key(Control& control, const KeyStroke& key) {
+  if (control.Owner().IsForMenuBar(key)) return control.Owner().LeaveMenuBar();
   control.SetFocus();
   PressKey(control, key);
 }

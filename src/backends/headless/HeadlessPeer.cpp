@@ -1,11 +1,11 @@
 #include "backends/headless/HeadlessPeer.h"
 
-#include "forms/Form.h"
-
 namespace lumenote {
 
 // Made in two steps, so that boxes already shown are hidden again if one cannot be.
-HeadlessPeer::HeadlessPeer(Form& form, HeadlessBoxes& boxes) : HeadlessPeer(boxes) { AddAll(form); }
+HeadlessPeer::HeadlessPeer(Form& form, HeadlessBoxes& boxes) : HeadlessPeer(form, boxes, Empty()) {
+  AddAll(form);
+}
 
 HeadlessPeer::~HeadlessPeer() {
   while (!mine_.empty()) {
@@ -43,8 +43,8 @@ void HeadlessPeer::Update(Element& element, Property property) {
   if (view && property == Property::Geometry) view->Resize();
 }
 
-void HeadlessPeer::Focus(Control& control) {
-  for (const Control* box : mine_) ViewOf(*box)->Text().Focus(box == &control);
+void HeadlessPeer::ShowFocus(const Control* focused) {
+  for (const Control* box : mine_) ViewOf(*box)->Text().Focus(box == focused);
 }
 
 std::vector<std::string> HeadlessPeer::Differences() const {

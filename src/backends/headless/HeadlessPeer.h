@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "backends/headless/HeadlessView.h"
-#include "forms/Backend.h"
+#include "forms/Form.h"
 
 namespace lumenote {
 
@@ -20,7 +20,8 @@ class HeadlessPeer : public FormPeer {
   ~HeadlessPeer() override;
 
   void Update(Element& element, Property property) override;
-  void Focus(Control& control) override;
+  void Focus(Control& control) override { ShowFocus(&control); }
+  void FocusMenuBar(bool on) override { ShowFocus(on ? nullptr : form_.ActiveControl()); }
   void Activate() override {}
   void Add(Control& control) override;
   void Remove(Control& control) override;
@@ -28,11 +29,16 @@ class HeadlessPeer : public FormPeer {
   std::vector<std::string> Differences() const override;
 
  private:
-  explicit HeadlessPeer(HeadlessBoxes& boxes) : boxes_(boxes) {}
+  /// Shows no boxes yet.
+  struct Empty {};
+  HeadlessPeer(Form& form, HeadlessBoxes& boxes, Empty) : form_(form), boxes_(boxes) {}
 
   void AddAll(Container& container);
   HeadlessView* ViewOf(const Control& control) const;
+  /// Null for no box.
+  void ShowFocus(const Control* focused);
 
+  Form& form_;
   HeadlessBoxes& boxes_;
   std::vector<const Control*> mine_;
 };

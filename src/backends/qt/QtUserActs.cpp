@@ -129,6 +129,8 @@ void QtUserActs::Type(Control& control, std::u16string_view text) {
 }
 
 void QtUserActs::Key(Control& control, const KeyStroke& key) {
+  if (control.Owner().IsForMenuBar(key))
+    return PressKey(Shown<FormWindow>(widgets_, control.Owner()).Bar(), key);
   control.SetFocus();
   PressKey(Shown<QWidget>(widgets_, control), key);
 }

@@ -98,11 +98,12 @@ void PressKey(HWND window, const KeyStroke& key) {
   const WPARAM virtualKey = VirtualKeyOf(key);
   const LPARAM flags = 1 | (key.alt ? kAltHeld : 0);
   const UINT character = key.alt ? WM_SYSCHAR : WM_CHAR;
+  const bool systems = key.alt || virtualKey == VK_F10;
   if (const wchar_t typed = CharacterOf(key))
     PostMessageW(window, character, static_cast<WPARAM>(typed), flags);
-  SendMessageW(window, key.alt ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, flags);
+  SendMessageW(window, systems ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, flags);
   DispatchCharacters(window, character);
-  if (IsWindow(window)) SendMessageW(window, key.alt ? WM_SYSKEYUP : WM_KEYUP, virtualKey, flags);
+  if (IsWindow(window)) SendMessageW(window, systems ? WM_SYSKEYUP : WM_KEYUP, virtualKey, flags);
 }
 
 }  // namespace
@@ -143,12 +144,12 @@ void Win32UserActs::DoubleClick(Control& control) {
 
 void Win32UserActs::Choose(Menu& entry) {
   const Win32FormPeer& peer = PeerOf(entry.Owner());
-  SendMessageW(peer.Handle(), WM_COMMAND, peer.Menus().CommandOf(entry), 0);
+  SendMessageW(peer.Handle(), WM_COMMAND, peer.Menus().Tree().CommandOf(entry), 0);
 }
 
 void Win32UserActs::Open(Menu& menu) {
   const Win32FormPeer& peer = PeerOf(menu.Owner());
-  if (const HMENU list = peer.Menus().ListOf(menu))
+  if (const HMENU list = peer.Menus().Tree().ListOf(menu))
     SendMessageW(peer.Handle(), WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(list), 0);
   else
     menu.UserOpen();
@@ -168,6 +169,8 @@ void Win32UserActs::Type(Control& control, std::u16string_view text) {
 }
 
 void Win32UserActs::Key(Control& control, const KeyStroke& key) {
+  if (control.Owner().IsForMenuBar(key))
+    return PressKey(PeerOf(control.Owner()).Menus().Bar().Handle(), key);
   control.SetFocus();
   PressKey(PeerOf(control).FocusTarget(), key);
 }

@@ -16,6 +16,7 @@ class PilotPeer final : public FormPeer {
 
   void Update(Element& element, Property property) override { inner_->Update(element, property); }
   void Focus(Control& control) override { inner_->Focus(control); }
+  void FocusMenuBar(bool on) override { inner_->FocusMenuBar(on); }
   void Activate() override { inner_->Activate(); }
   void Add(Control& control) override { inner_->Add(control); }
   void Remove(Control& control) override { inner_->Remove(control); }

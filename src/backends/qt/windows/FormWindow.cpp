@@ -4,15 +4,24 @@
 #include <QCloseEvent>
 #include <QMouseEvent>
 #include <QWindow>
+#include <utility>
 
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/Keys.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
-#include "backends/qt/windows/MenuBarStyle.h"
 
 namespace lumenote {
+namespace {
+
+/// Alt without other modifiers; the other key of that name, AltGr, types characters.
+bool IsAlt(const QEvent& event) {
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  return key.key() == Qt::Key_Alt && (key.modifiers() & ~Qt::AltModifier) == 0;
+}
+
+}  // namespace
 
 FormWindow::FormWindow(Form& form, ActivationListener& listener)
     : QWidget(nullptr, Qt::Window), form_(&form), listener_(listener) {
@@ -22,12 +31,12 @@ FormWindow::FormWindow(Form& form, ActivationListener& listener)
   content_->setAutoFillBackground(true);
   content_->setMouseTracking(true);
   content_->installEventFilter(this);
-  bar_ = new QMenuBar(this);
-  bar_->setNativeMenuBar(false);
-  bar_->setFont(ControlFont());
-  auto* style = new MenuBarStyle;
-  style->setParent(bar_);
-  bar_->setStyle(style);
+  bar_ = new MenuBarWidget(*this, form);
+}
+
+void FormWindow::Detach() {
+  form_ = nullptr;
+  bar_->Detach();
 }
 
 void FormWindow::Docked(QWidget* widget) { docked_ = widget; }
@@ -117,10 +126,35 @@ bool FormWindow::event(QEvent* event) {
   return QWidget::event(event);
 }
 
+// What reaches the window, before any widget. Where Alt and the mouse move windows, the desktop
+// keeps the mouse to itself.
+void FormWindow::HearNative(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+      altAlone_ = IsAlt(event);
+      return listener_.Used(*form_);
+    case QEvent::KeyRelease:
+      if (std::exchange(altAlone_, false) && IsAlt(event)) form_->UserMenuKey();
+      return;
+    case QEvent::MouseButtonPress: {
+      altAlone_ = false;
+      const QPointF at = static_cast<const QMouseEvent&>(event).position();
+      if (!bar_->isVisible() || !bar_->geometry().contains(at.toPoint())) form_->LeaveMenuBar();
+      return listener_.Used(*form_);
+    }
+    case QEvent::Wheel:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::FocusOut:
+      altAlone_ = false;
+      return;
+    default:
+      return;
+  }
+}
+
 bool FormWindow::eventFilter(QObject* object, QEvent* event) {
-  const bool pressed =
-      event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
-  if (form_ && pressed && object == windowHandle()) listener_.Used(*form_);
+  if (form_ && object == windowHandle()) HearNative(*event);
   if (form_ && object == content_ && event->type() == QEvent::MouseMove) {
     const QPointF at = static_cast<const QMouseEvent*>(event)->position();
     form_->UserMouseMove({MouseButton::None, {ToTwips(at.x()), ToTwips(at.y())}});

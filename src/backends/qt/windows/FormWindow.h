@@ -1,11 +1,11 @@
 // The native window of a form: menu bar, content, status bar, and window events.
 #pragma once
-#include <QMenuBar>
 #include <QWidget>
 #include <QWindow>
 #include <memory>
 #include <optional>
 
+#include "backends/qt/windows/MenuBarWidget.h"
 #include "backends/qt/windows/WindowGeometry.h"
 #include "forms/Form.h"
 
@@ -27,9 +27,9 @@ class FormWindow : public QWidget {
  public:
   FormWindow(Form& form, ActivationListener& listener);
 
-  void Detach() { form_ = nullptr; }
+  void Detach();
 
-  QMenuBar& Bar() { return *bar_; }
+  MenuBarWidget& Bar() { return *bar_; }
   /// The parent widget of the form's controls; its corner is the form's client corner.
   QWidget& Content() { return *content_; }
   /// The widget docked at the lower edge; null for none.
@@ -59,12 +59,14 @@ class FormWindow : public QWidget {
   void moveEvent(QMoveEvent* event) override;
 
  private:
+  void HearNative(const QEvent& event);
   void ChooseKind();
   QWindow* HostWindow();
 
   Form* form_;
   ActivationListener& listener_;
-  QMenuBar* bar_;
+  MenuBarWidget* bar_;
+  bool altAlone_ = false;  // it is held, and nothing else has happened meanwhile
   QWidget* content_;
   QWidget* docked_ = nullptr;
   WindowGeometry geometry_;

@@ -96,6 +96,15 @@ QWidget* QtFormPeer::OwnerWindow() const {
 
 void QtFormPeer::Focus(Control& control) { controls_.at(&control)->Widget().setFocus(); }
 
+void QtFormPeer::FocusMenuBar(bool on) {
+  MenuBarWidget& bar = window_->Bar();
+  Control* const control = form_.ActiveControl();
+  if (on)
+    bar.TakeKeyboard();
+  else if (&bar == window_->focusWidget() && control)
+    Focus(*control);
+}
+
 void QtFormPeer::Activate() {
   services_.Activating(form_);
   window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);

@@ -29,6 +29,7 @@ class QtFormPeer final : public FormPeer {
 
   void Update(Element& element, Property property) override;
   void Focus(Control& control) override;
+  void FocusMenuBar(bool on) override;
   void Activate() override;
   void Add(Control& control) override;
   void Remove(Control& control) override;

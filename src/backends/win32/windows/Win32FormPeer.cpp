@@ -213,6 +213,13 @@ void Win32FormPeer::Focus(Control& control) {
   if (GetActiveWindow() == Handle()) SetFocus(controls_.at(&control)->FocusTarget());
 }
 
+void Win32FormPeer::FocusMenuBar(bool on) {
+  if (on)
+    menus_.TakeKeyboard();
+  else if (GetFocus() == menus_.Bar().Handle())
+    SetFocus(Handle());
+}
+
 void Win32FormPeer::FocusInside() {
   const Control* control = form_.ActiveControl();
   if (!control || !control->Visible() || !control->Enabled()) return;
@@ -271,6 +278,11 @@ bool Win32FormPeer::UseMnemonic(char16_t character) {
   return true;
 }
 
+void Win32FormPeer::Used() {
+  form_.LeaveMenuBar();
+  form_.UserActivate();
+}
+
 // --- the user's acts on the window
 
 std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
@@ -314,7 +326,7 @@ std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
       return 0;
     case WM_SYSCOMMAND:
       if ((message.w & 0xFFF0) != SC_KEYMENU || message.l != 0) return std::nullopt;
-      menus_.ToggleKeyboard();  // without a bar, the system would wait for its own menu
+      form_.UserMenuKey();  // without a bar, the system would wait for its own menu
       return 0;
     case WM_QUERYENDSESSION:
       form_.Keep();

@@ -34,6 +34,7 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
 
   void Update(Element& element, Property property) override;
   void Focus(Control& control) override;
+  void FocusMenuBar(bool on) override;
   void Activate() override;
   void Add(Control& control) override;
   void Remove(Control& control) override;
@@ -41,7 +42,7 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   std::vector<std::string> Differences() const override;
 
   HWND Handle() const { return window_->Handle(); }
-  const MenuTree& Menus() const { return menus_.Tree(); }
+  const FormMenus& Menus() const { return menus_; }
   /// The peer of a control of the form; null for none.
   ControlPeer* PeerOf(const Control& control) const;
   /// Puts the window on top of all others, or takes it down, while it is apart from its owner.
@@ -59,7 +60,7 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   void Focused(Control& control) override;
   bool UnusedKey(Control& control, const KeyStroke& key) override;
   bool UseMnemonic(char16_t character) override;
-  void Used() override { form_.UserActivate(); }
+  void Used() override;
   // MessageListener
   std::optional<LRESULT> Hear(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message&) override { return std::nullopt; }

@@ -32,11 +32,8 @@ void FormMenus::Chosen(UINT command) const {
   if (Menu* menu = tree_.WithCommand(command)) menu->UserClick();
 }
 
-void FormMenus::ToggleKeyboard() {
-  if (GetFocus() == bar_->Handle())
-    SetFocus(window_->Handle());
-  else if (Menu* first = NextMenu(form_, nullptr, true))
-    bar_->TakeKeyboard(*first);
+void FormMenus::TakeKeyboard() {
+  if (Menu* first = NextMenu(form_, nullptr, true)) bar_->TakeKeyboard(*first);
 }
 
 // A list of the bar leads to its neighbours.
@@ -49,7 +46,10 @@ void FormMenus::Open(Menu& first) {
     menu = ShowList(*menu);
     if (!kept->HasListener()) return;
   }
-  if (menu) bar_->TakeKeyboard(*menu);
+  if (menu)
+    bar_->TakeKeyboard(*menu);
+  else
+    form_.LeaveMenuBar();
 }
 
 Menu* FormMenus::ShowList(Menu& menu) {

@@ -25,8 +25,8 @@ class FormMenus {
   void Open(Menu& menu);
   /// Shows the menu at a point of the screen; its opening event has been raised already.
   void PopUp(Menu& menu, POINT at);
-  /// Gives the keyboard to the bar, or back to the controls.
-  void ToggleKeyboard();
+  /// Gives the keyboard to the first menu of the bar.
+  void TakeKeyboard();
 
   /// What the window is told of its menus.
   void Opening(HMENU list) const;

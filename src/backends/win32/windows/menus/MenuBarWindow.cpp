@@ -111,13 +111,15 @@ LRESULT MenuBarWindow::Receive(const Message& message) {
     case WM_MOUSELEAVE:
       Point(nullptr);
       return 0;
+    case WM_SETFOCUS:
     case WM_KILLFOCUS:
-      Light(nullptr);
+      HearFocus(message.id == WM_SETFOCUS);
       return 0;
     case WM_KEYDOWN:
       HearKey(message.w);
       return 0;
     case WM_CHAR:
+    case WM_SYSCHAR:
       HearCharacter(static_cast<char16_t>(message.w));
       return 0;
     default:
@@ -133,9 +135,9 @@ void MenuBarWindow::Press(Menu* menu) {
   if (menu && chosen) chosen(*menu);
 }
 
-void MenuBarWindow::PressFromKeyboard(Menu* menu) {
-  SetFocus(GetParent(Handle()));
-  Press(menu);
+void MenuBarWindow::HearFocus(bool has) {
+  if (!has) Light(nullptr);
+  if (form_) form_->UserMenuBarFocus(has);
 }
 
 void MenuBarWindow::HearKey(WPARAM key) {
@@ -149,7 +151,7 @@ void MenuBarWindow::HearKey(WPARAM key) {
     case VK_RETURN:
     case VK_UP:
     case VK_DOWN:
-      return PressFromKeyboard(lit);
+      return Press(lit);
     default:
       return;
   }
@@ -157,7 +159,7 @@ void MenuBarWindow::HearKey(WPARAM key) {
 
 void MenuBarWindow::HearCharacter(char16_t character) {
   Menu* const marked = form_ ? MenuWithMnemonic(*form_, character) : nullptr;
-  if (marked && GetFocus() == Handle()) PressFromKeyboard(marked);
+  if (marked && GetFocus() == Handle()) Press(marked);
 }
 
 void MenuBarWindow::Paint(HDC dc, const RECT& area) {

@@ -43,10 +43,9 @@ class MenuBarWindow final : public PaintedWindow {
   /// The pointer has moved to a menu; with the keyboard, one stays lit.
   void Point(Menu* menu);
   void Press(Menu* menu);
+  void HearFocus(bool has);
   void HearKey(WPARAM key);
   void HearCharacter(char16_t character);
-  /// The controls have the keyboard again before a menu opens.
-  void PressFromKeyboard(Menu* menu);
   void TellLit() const;
   void PaintMenu(HDC dc, Menu& menu, RECT place) const;
 
