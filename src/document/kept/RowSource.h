@@ -7,8 +7,17 @@
 
 namespace lumenote {
 
-/// The definition of a table row whose cells end at `edges`, in twips from the left.
-std::string RowDefinition(const std::vector<std::int32_t>& edges, bool borders);
+struct RowCell {
+  /// With the cells of the same width below it.
+  enum class Merge : std::uint8_t { None, Begins, GoesOn };
+  std::int32_t edge = 0;  // the right one, twips from the left
+  Merge merge = Merge::None;
+};
+
+/// The definition of a table row.
+std::string RowDefinition(const std::vector<RowCell>& cells, bool borders);
 bool HasBorders(std::string_view rowDefinition);
+/// How each cell that a definition states is merged.
+std::vector<RowCell::Merge> MergesIn(std::string_view rowDefinition);
 
 }  // namespace lumenote

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <utility>
 
 #include "base/Windows1252.h"
 
@@ -13,6 +14,20 @@ using Kind = SourceToken::Kind;
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 SourceToken CharacterToken(char c) { return {.character = static_cast<unsigned char>(c)}; }
+
+/// A character after a backslash.
+SourceToken Symbol(char c) {
+  switch (c) {
+    case '~':
+      return {.character = u'\u00A0'};
+    case '_':
+      return {.character = u'\u2011'};
+    case '-':
+      return {.character = u'\u00AD'};
+    default:
+      return CharacterToken(c);
+  }
+}
 
 }  // namespace
 
@@ -50,7 +65,9 @@ std::optional<SourceToken> SourceTokens::Control() {
   if (IsLetter(c)) return Word();
   rest_.remove_prefix(1);
   if (c == '\'') return Byte();
-  return c == '*' ? std::nullopt : std::optional(CharacterToken(c));
+  if (c != '*') return Symbol(c);
+  starred_ = true;
+  return std::nullopt;
 }
 
 SourceToken SourceTokens::Byte() {
@@ -64,7 +81,9 @@ SourceToken SourceTokens::Byte() {
 SourceToken SourceTokens::Word() {
   const auto letters =
       static_cast<std::size_t>(std::ranges::find_if_not(rest_, IsLetter) - rest_.begin());
-  SourceToken token{.kind = Kind::Word, .word = rest_.substr(0, letters)};
+  SourceToken token{.kind = Kind::Word,
+                    .starred = std::exchange(starred_, false),
+                    .word = rest_.substr(0, letters)};
   rest_.remove_prefix(letters);
   const char* const digits = rest_.data();
   const char* const end = std::from_chars(digits, digits + rest_.size(), token.number).ptr;

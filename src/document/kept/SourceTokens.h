@@ -11,6 +11,7 @@ namespace lumenote {
 struct SourceToken {
   enum class Kind : std::uint8_t { Open, Close, Word, Character };
   Kind kind = Kind::Character;
+  bool starred = false;  // a word after \*
   bool hasNumber = false;
   char16_t character = 0;
   std::string_view word{};
@@ -39,6 +40,7 @@ class SourceTokens {
 
   std::string_view rest_;
   std::vector<int> fallbacks_{1};  // the \uc value of each open group; never empty
+  bool starred_ = false;           // the next word is
   int skipped_ = 0;                // characters still to skip after a \u
 };
 

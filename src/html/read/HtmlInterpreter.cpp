@@ -6,13 +6,12 @@
 #include <utility>
 
 #include "html/source/Ascii.h"
+#include "html/words/Tables.h"
 
 namespace lumenote {
 namespace {
 
 using Kind = HtmlElement::Kind;
-
-constexpr std::size_t kDeepestTable = 30;
 
 bool IsOfTable(Kind kind) { return kind == Kind::Table || kind == Kind::Row || kind == Kind::Cell; }
 /// Whether it goes on behind a block that ends before it.

@@ -11,6 +11,7 @@
 #include "html/read/Look.h"
 #include "html/read/NoteText.h"
 #include "html/read/Reader.h"
+#include "html/read/TableGrid.h"
 #include "html/source/HtmlTokenizer.h"
 
 namespace lumenote {
@@ -40,12 +41,7 @@ class HtmlInterpreter {
   };
   /// A table whose end has not come yet.
   struct Table {
-    struct Cell {
-      int span = 1;
-      int width = 0;  // twips; 0 unknown
-    };
-    std::vector<Cell> row{};
-    int columns = 1;  // of the widest row so far
+    TableGrid grid{};
     bool borders = false;
     bool inRow = false;
     bool inCell = false;
@@ -83,8 +79,9 @@ class HtmlInterpreter {
   void BeginItem(const HtmlToken& tag, Open& item);
   void EndSpelledMarker();
   ItemMarker Numbered(std::u16string number, char style, int start);
+  void Columns(const HtmlToken& tag);
   void BeginCell(const HtmlToken& tag, const LookChange& change);
-  static std::vector<std::int32_t> EdgesOf(Table& table);
+  void EmptyCell(const Look& look);
   void EndRow();
 
   HtmlTokenizer tokens_;

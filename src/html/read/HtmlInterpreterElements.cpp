@@ -21,8 +21,6 @@ namespace {
 using Kind = HtmlElement::Kind;
 using Unit = CssLength::Unit;
 
-constexpr std::int64_t kWidestRow = 1'000'000;  // twips
-
 /// The value of an attribute; null if there is none or it is empty.
 const std::u16string* Attribute(const HtmlToken& tag, std::string_view name) {
   const std::u16string* const value = tag.Find(name);
@@ -52,6 +50,12 @@ CssLength SizeOf(std::u16string_view text) {
 /// Whether a link leads somewhere: a script does not.
 bool IsAddress(std::u16string_view text) {
   return !text.empty() && !StartsWithName(text, u"javascript:");
+}
+
+/// Word processors state the margins of their paragraphs in a style sheet.
+void ReadClass(std::u16string_view name, LookChange& change) {
+  if (name.starts_with(u"Mso")) change.above = change.below = CssLength();
+  if (name.starts_with(u"MsoListParagraph")) change.left = CssLength{720};
 }
 
 char StyleOf(const HtmlToken& list) {
@@ -95,10 +99,8 @@ void HtmlInterpreter::ReadAttributes(const HtmlElement& element, const HtmlToken
     if (const auto* face = Attribute(tag, "face")) ReadFontFamily(*face, formats_, change);
     if (const auto* size = Attribute(tag, "size")) change.size = SizeOf(*size);
   }
-  // Word processors state the margins of their paragraphs in a style sheet.
-  if (const auto* name = Attribute(tag, "class");
-      name && element.kind == Kind::Paragraph && name->starts_with(u"Mso"))
-    change.above = change.below = CssLength();
+  if (const auto* name = Attribute(tag, "class"); name && element.kind == Kind::Paragraph)
+    ReadClass(*name, change);
   if (const int width = NumberOf(tag, "width", 0); width > 0)
     change.width = CssLength{static_cast<double>(width) * kTwipsPerPixel};
   if (const auto* address = Attribute(tag, "href");
@@ -144,6 +146,7 @@ void HtmlInterpreter::Enter(const HtmlToken& tag, Open& open) {
 // --- elements without content
 
 void HtmlInterpreter::VoidElement(const HtmlToken& tag) {
+  if (tag.name == "col") return Columns(tag);
   if (look_.text != Look::Text::Shown) return;
   if (tag.name == "hr") return Rule();
   BeforeContent();
@@ -213,42 +216,38 @@ void HtmlInterpreter::EndSpelledMarker() {
 
 // --- tables
 
-void HtmlInterpreter::BeginCell(const HtmlToken& tag, const LookChange& change) {
-  constexpr int kWidest = 64;
-  Table& table = tables_.back();
+void HtmlInterpreter::Columns(const HtmlToken& tag) {
+  constexpr int kMost = 1000;
+  if (tables_.empty()) return;
+  const LookChange change = ChangeOf(*FindElement("col"), tag);
   const int width = change.width ? change.width->Twips(look_.character) : 0;
-  table.row.push_back({std::clamp(NumberOf(tag, "colspan", 1), 1, kWidest), width});
+  tables_.back().grid.AddColumns(std::clamp(NumberOf(tag, "span", 1), 1, kMost), width);
+}
+
+void HtmlInterpreter::BeginCell(const HtmlToken& tag, const LookChange& change) {
+  constexpr int kMostColumns = 64;
+  constexpr int kMostRows = 1000;
+  Table& table = tables_.back();
+  while (table.grid.AddGoingOn()) EmptyCell(open_.back().around);
+  table.grid.Add({.columns = std::clamp(NumberOf(tag, "colspan", 1), 1, kMostColumns),
+                  .rows = std::clamp(NumberOf(tag, "rowspan", 1), 1, kMostRows),
+                  .width = change.width ? change.width->Twips(look_.character) : 0});
   table.inCell = true;
   text_.BeginCell();
 }
 
-/// The right edges of a row's cells: as wide as stated, if all are, else with columns of equal
-/// width.
-std::vector<std::int32_t> HtmlInterpreter::EdgesOf(Table& table) {
-  constexpr int kTextWidth = 9000;  // twips
-  const auto stated = [](const Table::Cell& cell) { return cell.width > 0; };
-  const bool known = std::ranges::all_of(table.row, stated);
-  int columns = 0;
-  for (const Table::Cell& cell : table.row) columns += cell.span;
-  table.columns = std::max(table.columns, columns);
-  std::vector<std::int32_t> edges;
-  std::int64_t edge = 0;
-  int column = 0;
-  for (const Table::Cell& cell : table.row) {
-    column += cell.span;
-    edge = known ? edge + cell.width : std::int64_t{kTextWidth} * column / table.columns;
-    edges.push_back(static_cast<std::int32_t>(std::min<std::int64_t>(edge, kWidestRow)));
-  }
-  return edges;
+void HtmlInterpreter::EmptyCell(const Look& look) {
+  text_.BeginCell();
+  text_.EndCell(look);
 }
 
 void HtmlInterpreter::EndRow() {
   Table& table = tables_.back();
-  std::vector<std::int32_t> edges = EdgesOf(table);
-  std::string source = RowDefinition(edges, table.borders);
-  text_.EndRow(
-      {.kind = KeptItem::Kind::Row, .source = std::move(source), .cells = std::move(edges)}, look_);
-  table.row.clear();
+  while (table.grid.AddGoingOn() || table.grid.AddGap()) EmptyCell(look_);
+  const std::vector<RowCell> cells = table.grid.EndRow();
+  KeptItem definition{.kind = KeptItem::Kind::Row, .source = RowDefinition(cells, table.borders)};
+  for (const RowCell& cell : cells) definition.cells.push_back(cell.edge);
+  text_.EndRow(std::move(definition), look_);
   table.inRow = false;
 }
 

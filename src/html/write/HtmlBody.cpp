@@ -3,8 +3,7 @@
 #include <algorithm>
 
 #include "document/kept/LinkSource.h"
-#include "document/kept/PictureSource.h"
-#include "document/kept/RowSource.h"
+#include "document/kept/NoteSource.h"
 #include "html/words/ListNumbers.h"
 #include "html/words/Pixels.h"
 #include "html/write/HtmlText.h"
@@ -30,76 +29,57 @@ std::string Encoded(std::string_view bytes) {
   return text;
 }
 
-/// The last definition of a row among the items; null if there is none.
-const KeptItem* DefinitionIn(const FormatTables& tables, ItemId items) {
-  const KeptItem* definition = nullptr;
-  tables.items.ForEach(items, [&](const KeptItem& item) {
-    if (item.kind == KeptItem::Kind::Row) definition = &item;
-  });
-  return definition;
-}
-
 }  // namespace
 
 void HtmlBody::Write(Selection range) {
-  const Paragraphs paragraphs = FindHtmlParagraphs(document_, range);
-  const auto ends = [](const HtmlParagraph& one) { return one.endsCell || one.endsRow; };
-  bool rowBegins = true;
-  for (auto at = paragraphs.begin(); at != paragraphs.end(); ++at) {
-    if (at->inRow && rowBegins) {
-      const auto end = std::ranges::find_if(at, paragraphs.end(), &HtmlParagraph::endsRow);
-      BeginRow(*end, static_cast<std::size_t>(std::count_if(at, end + 1, ends)));
-    } else if (!at->inRow) {
-      EndTable();
-    }
-    Paragraph(*at);
-    rowBegins = at->endsRow || !at->inRow;
-    if (!at->inRow || !ends(*at)) continue;
-    lists_.Close();
-    out_ += "</td>\n";
-    if (at->endsRow)
-      out_ += "</tr>\n";
-    else
-      BeginCell();
-  }
+  Block(FindHtmlParagraphs(document_, range), 0);
   lists_.Close();
-  EndTable();
+  if (!notes_.empty()) out_ += "<hr>\n" + notes_;
+}
+
+/// Writes paragraphs with the tables among them; those of `level` are in no inner table.
+void HtmlBody::Block(Paragraphs part, int level) {
+  while (!part.empty()) {
+    const auto end =
+        std::ranges::find_if(part, [=](const HtmlParagraph& one) { return one.level <= level; });
+    const auto inTable = static_cast<std::size_t>(end - part.begin());
+    if (inTable > 0)
+      Table(part.first(inTable), level + 1);
+    else
+      Paragraph(part.front());
+    part = part.subspan(std::max<std::size_t>(inTable, 1));
+  }
 }
 
 // --- tables
 
-void HtmlBody::BeginRow(const HtmlParagraph& end, std::size_t cells) {
+void HtmlBody::Table(Paragraphs part, int level) {
+  const HtmlTable table = FindHtmlTable(part, level, tables_);
   lists_.Close();
-  const Kept& kept = tables_.kept[tables_.characters[end.ender].kept];
-  const KeptItem* const definition = DefinitionIn(tables_, kept.self);
-  edges_ = definition && definition->cells.size() == cells ? definition->cells
-                                                           : std::vector<std::int32_t>();
-  cell_ = 0;
-  if (!inTable_) {
-    const bool borders = definition && HasBorders(definition->source);
-    out_ += borders ? "<table border=\"1\"" : "<table";
-    out_ += " cellspacing=\"0\" cellpadding=\"5\" style=\"border-collapse:collapse\">\n";
+  out_ += table.borders ? "<table border=\"1\"" : "<table";
+  out_ += " cellspacing=\"0\" cellpadding=\"5\" style=\"border-collapse:collapse\">\n";
+  for (const auto& row : table.rows) {
+    out_ += "<tr>\n";
+    for (const HtmlCell& cell : row)
+      if (!cell.covered) Cell(cell, level);
+    out_ += "</tr>\n";
   }
-  inTable_ = true;
-  out_ += "<tr>\n";
-  BeginCell();
+  out_ += "</table>\n";
 }
 
-void HtmlBody::BeginCell() {
+void HtmlBody::Cell(const HtmlCell& cell, int level) {
+  const auto spans = [this](const char* name, int count) {
+    if (count > 1) out_ += name + std::to_string(count) + '"';
+  };
   out_ += "<td";
-  if (cell_ < edges_.size()) {
-    const std::int32_t left = cell_ > 0 ? edges_[cell_ - 1] : 0;
-    std::string style;
-    DeclareLength("width", std::max(edges_[cell_] - left, 1), style);
-    out_ += " style=\"" + style + "\"";
-  }
-  out_ += ">\n";
-  ++cell_;
-}
-
-void HtmlBody::EndTable() {
-  if (inTable_) out_ += "</table>\n";
-  inTable_ = false;
+  spans(" colspan=\"", cell.columns);
+  spans(" rowspan=\"", cell.rows);
+  std::string style;
+  DeclareLength("width", cell.width, style);
+  out_ += " style=\"" + style + "\">\n";
+  Block(cell.content, level);
+  lists_.Close();
+  out_ += "</td>\n";
 }
 
 // --- paragraphs
@@ -116,10 +96,7 @@ void HtmlBody::Paragraph(const HtmlParagraph& paragraph) {
   out_ += "<p style=\"";
   out_ += mark ? ItemStyle(format, around, tables_) : ParagraphStyle(format, around, tables_);
   out_ += "\">";
-  if (empty)
-    out_ += "<br>";
-  else
-    Text(start, paragraph.end, around);
+  if (empty || !Text(start, paragraph.end, around)) out_ += "<br>";
   out_ += mark ? "</p>" : "</p>\n";
 }
 
@@ -156,37 +133,66 @@ bool HtmlBody::IsRule(const ParaFormat& format) const {
 
 // --- text
 
-void HtmlBody::Text(Position from, Position to, const CharFormat& around) {
+/// Returns whether anything is shown. Runs that look the same are written as one.
+bool HtmlBody::Text(Position from, Position to, const CharFormat& around) {
   const bool same =
       around.font == around_.font && around.size == around_.size && around.stated == around_.stated;
   if (!same) known_.clear();
   around_ = around;
   const std::u16string text = document_.Text(from, to);
-  document_.ForEachRun(from, to, [&](Position at, TextView run, CharId format) {
-    const auto start = static_cast<std::size_t>(at - from);
+  bool shown = false;
+  std::size_t start = 0;
+  CharId format = document_.CharFormatAt(from);
+  const auto finish = [&](std::size_t end) {
     Wear(format);
-    Run(text, start, start + run.Size(), format);
+    shown = Run(text, start, end, format) || shown;
+    start = end;
+  };
+  document_.ForEachRun(from, to, [&](Position at, TextView, CharId next) {
+    if (!LooksAs(next, format)) finish(static_cast<std::size_t>(at - from));
+    format = next;
   });
+  finish(text.size());
   WearNothing();
   if (text.ends_with(u'\v')) out_ += "<br>";
+  return shown;
 }
 
-void HtmlBody::Run(std::u16string_view text, std::size_t from, std::size_t to, CharId format) {
+/// Whether one run can be made of text in both formats.
+bool HtmlBody::LooksAs(CharId one, CharId other) {
+  const auto isObject = [this](CharId format) {
+    return tables_.kept[tables_.characters[format].kept].kind == Kept::Kind::Embedded;
+  };
+  if (one == other) return true;
+  return !isObject(one) && !isObject(other) && LinkIn(FieldOf(one)) == LinkIn(FieldOf(other)) &&
+         TagsOf(one) == TagsOf(other);
+}
+
+/// Returns whether anything is shown.
+bool HtmlBody::Run(std::u16string_view text, std::size_t from, std::size_t to, CharId format) {
+  const std::size_t before = out_.size();
   while (from < to) {
     const std::size_t object = std::min(text.substr(0, to).find(kObject, from), to);
     AppendHtmlText(text, from, object, out_);
-    if (object < to) Picture(tables_.characters[format]);
+    if (object < to) Object(tables_.characters[format]);
     from = object + 1;
   }
+  return out_.size() > before;
+}
+
+const HtmlTags& HtmlBody::TagsOf(CharId format) {
+  const auto [known, isNew] = known_.try_emplace(format);
+  if (isNew)
+    known->second = lumenote::TagsOf(tables_.characters[format], around_,
+                                     LinkIn(FieldOf(format)) != 0, tables_);
+  return known->second;
 }
 
 /// Opens and closes tags so that text of that format can follow.
 void HtmlBody::Wear(CharId format) {
   FieldId link = LinkIn(FieldOf(format));
   if (link != 0 && link != link_ && !MayOpen(link)) link = 0;
-  const auto [known, isNew] = known_.try_emplace(format);
-  HtmlTags& tags = known->second;
-  if (isNew) tags = TagsOf(tables_.characters[format], around_, link != 0, tables_);
+  const HtmlTags& tags = TagsOf(format);
   if (link == link_ && tags == worn_) return;
   out_ += worn_.close;
   if (link != link_) {
@@ -209,19 +215,41 @@ void HtmlBody::WearNothing() {
   link_ = 0;
 }
 
-void HtmlBody::Picture(const CharFormat& format) {
+void HtmlBody::Object(const CharFormat& format) {
   const Kept& kept = tables_.kept[format.kept];
   if (kept.kind != Kept::Kind::Embedded) return;
-  const auto picture = PictureOf(tables_.items[kept.self].source);
-  if (!picture) return;
+  const KeptItem& item = tables_.items[kept.self];
+  if (item.kind == KeptItem::Kind::Note) return Footnote(item, format);
+  if (const auto picture = PictureOf(item.source)) Picture(*picture);
+}
+
+/// A raised number here, unless the mark is in the text, and the note behind all paragraphs.
+void HtmlBody::Footnote(const KeptItem& item, const CharFormat& format) {
+  const FootnoteText note = TextOfFootnote(item.source);
+  std::string mark;
+  if (note.numbered) mark = std::to_string(++footnotes_);
+  const std::string raised = note.numbered ? "<sup>" + mark + "</sup>" : "";
+  out_ += (format.effects & kSuperscript) != 0 ? mark : raised;
+  std::u16string_view rest = note.text;
+  for (bool first = true; first || !rest.empty(); first = false) {
+    const std::u16string_view line = rest.substr(0, rest.find(u"\r\n"));
+    rest.remove_prefix(std::min(line.size() + 2, rest.size()));
+    notes_ += "<p style=\"margin-top:0pt;margin-bottom:0pt;\">";
+    if (first && note.numbered) notes_ += raised + ' ';
+    AppendHtmlText(line, 0, line.size(), notes_);
+    notes_ += "</p>\n";
+  }
+}
+
+void HtmlBody::Picture(const PictureData& picture) {
   const auto size = [&](const char* name, int twips) {
     if (twips > 0) out_ += name + std::to_string(std::max(twips / kTwipsPerPixel, 1)) + "\"";
   };
-  out_ += picture->type == PictureType::Png ? "<img src=\"data:image/png;base64,"
-                                            : "<img src=\"data:image/jpeg;base64,";
-  out_ += Encoded(picture->bytes) + "\" alt=\"\"";
-  size(" width=\"", picture->width);
-  size(" height=\"", picture->height);
+  out_ += picture.type == PictureType::Png ? "<img src=\"data:image/png;base64,"
+                                           : "<img src=\"data:image/jpeg;base64,";
+  out_ += Encoded(picture.bytes) + "\" alt=\"\"";
+  size(" width=\"", picture.width);
+  size(" height=\"", picture.height);
   out_ += '>';
 }
 

@@ -1,16 +1,19 @@
 // Writes text, paragraphs and tables as HTML.
 #pragma once
 #include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
 #include "document/Document.h"
+#include "document/kept/PictureSource.h"
 #include "html/words/LinkRepeats.h"
 #include "html/write/HtmlFormats.h"
 #include "html/write/HtmlLists.h"
 #include "html/write/HtmlParagraphs.h"
+#include "html/write/HtmlTable.h"
 
 namespace lumenote {
 
@@ -23,12 +26,11 @@ class HtmlBody {
   void Write(Selection range);
 
  private:
-  using Paragraphs = std::vector<HtmlParagraph>;
+  using Paragraphs = std::span<const HtmlParagraph>;
 
-  // Tables.
-  void BeginRow(const HtmlParagraph& end, std::size_t cells);
-  void BeginCell();
-  void EndTable();
+  void Block(Paragraphs part, int level);
+  void Table(Paragraphs part, int level);
+  void Cell(const HtmlCell& cell, int level);
 
   // Paragraphs.
   void Paragraph(const HtmlParagraph& paragraph);
@@ -37,11 +39,15 @@ class HtmlBody {
   bool IsRule(const ParaFormat& format) const;
 
   // Text.
-  void Text(Position from, Position to, const CharFormat& around);
-  void Run(std::u16string_view text, std::size_t from, std::size_t to, CharId format);
+  bool Text(Position from, Position to, const CharFormat& around);
+  bool LooksAs(CharId one, CharId other);
+  bool Run(std::u16string_view text, std::size_t from, std::size_t to, CharId format);
+  const HtmlTags& TagsOf(CharId format);
   void Wear(CharId format);
   void WearNothing();
-  void Picture(const CharFormat& format);
+  void Object(const CharFormat& format);
+  void Footnote(const KeptItem& item, const CharFormat& format);
+  void Picture(const PictureData& picture);
   FieldId FieldOf(CharId format) const;
   FieldId LinkIn(FieldId field);
   bool MayOpen(FieldId link);
@@ -51,9 +57,8 @@ class HtmlBody {
   const FormatTables& tables_;
   std::string& out_;
   HtmlLists lists_;
-  bool inTable_ = false;
-  std::vector<std::int32_t> edges_;  // of the row's cells, if stated
-  std::size_t cell_ = 0;             // in that row
+  int footnotes_ = 0;  // numbered ones so far
+  std::string notes_;  // their text
 
   CharFormat around_;
   std::unordered_map<CharId, HtmlTags> known_;                            // of formats in `around_`

@@ -13,8 +13,8 @@ struct EffectTag {
   std::string_view tag;
 };
 constexpr EffectTag kEffectTags[] = {
-    {kBold, "b"},      {kItalic, "i"},        {kStrike | kDoubleStrike, "s"},
-    {kDeleted, "del"}, {kSuperscript, "sup"}, {kSubscript, "sub"},
+    {kBold, "b"},          {kItalic, "i"},      {kStrike | kDoubleStrike | kDeleted, "s"},
+    {kSuperscript, "sup"}, {kSubscript, "sub"},
 };
 
 /// Indexed by Underline.
@@ -68,8 +68,8 @@ void DeclareFontAndSize(const CharFormat& format, const CharFormat& around,
   const auto declares = [&](CharStated what, bool same) {
     return (format.stated & what) != 0 && !((around.stated & what) != 0 && same);
   };
-  if (declares(kStatesFont, format.font == around.font))
-    DeclareFont(tables.fonts[format.font].name, style);
+  const std::u16string& font = tables.fonts[format.font].name;
+  if (declares(kStatesFont, font == tables.fonts[around.font].name)) DeclareFont(font, style);
   if (declares(kStatesSize, format.size == around.size))
     Declare("font-size", Decimal(std::int64_t{format.size} * 50) + "pt", style);
 }

@@ -1,13 +1,21 @@
 #include "html/write/HtmlParagraphs.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
+
+#include "html/words/Tables.h"
 
 namespace lumenote {
 namespace {
 
 const Kept& KeptOf(const FormatTables& tables, CharId format) {
   return tables.kept[tables.characters[format].kept];
+}
+
+/// The level of the table that a cell or row belongs to.
+int LevelOf(const Kept& ender, const ParaFormat& format) {
+  return ender.nested != 0 ? std::max<int>(format.nesting, 2) : 1;
 }
 
 /// Collects the paragraphs, run by run.
@@ -17,27 +25,34 @@ class ParagraphFinder {
 
   void Take(Position at, TextView text, CharId format) {
     const Kept& kept = KeptOf(document_.Formats(), format);
-    const bool cell = kept.kind == Kept::Kind::Cell && kept.nested == 0;
+    const bool cell = kept.kind == Kept::Kind::Cell;
     const char ender = cell ? '\t' : '\r';
     for (std::size_t i = text.Find(ender, 0); i < text.Size(); i = text.Find(ender, i + 1))
       End(at + static_cast<Position>(i), format, kept, cell);
   }
   std::vector<HtmlParagraph> Finish(Position end) {
-    found_.push_back({.start = start_,
-                      .end = end,
-                      .ender = document_.CharFormatAt(end),
-                      .format = document_.ParaFormatAt(end)});
+    found_.push_back(
+        {.start = start_,
+         .end = end,
+         .ender = document_.CharFormatAt(end),
+         .format = document_.ParaFormatAt(end),
+         .level = document_.Formats().paragraphs[document_.ParaFormatAt(end)].nesting});
     return std::move(found_);
   }
 
  private:
   void End(Position at, CharId format, const Kept& kept, bool cell) {
+    const FormatTables& tables = document_.Formats();
+    const ParaId paragraph = cell ? kept.paragraph : document_.ParaFormatAt(at);
+    const bool row = kept.kind == Kept::Kind::Row;
+    const ParaFormat& look = tables.paragraphs[paragraph];
     found_.push_back({.start = start_,
                       .end = at,
                       .ender = format,
-                      .format = cell ? kept.paragraph : document_.ParaFormatAt(at),
+                      .format = paragraph,
                       .endsCell = cell,
-                      .endsRow = kept.kind == Kept::Kind::Row && kept.nested == 0});
+                      .endsRow = row,
+                      .level = cell || row ? LevelOf(kept, look) : look.nesting});
     start_ = at + (cell ? 1 : 2);
   }
 
@@ -46,26 +61,34 @@ class ParagraphFinder {
   std::vector<HtmlParagraph> found_;
 };
 
-/// Marks the paragraphs before each end of a row that lie in the table.
-void FindRows(std::vector<HtmlParagraph>& paragraphs, const FormatTables& tables) {
-  bool inRow = false;
+/// Corrects the levels to those of rows that end in the range. `open` is the level of the rows that
+/// end further on.
+void FindRows(std::vector<HtmlParagraph>& paragraphs) {
+  int open = 0;
   for (auto paragraph = paragraphs.rbegin(); paragraph != paragraphs.rend(); ++paragraph) {
-    const bool inTable = tables.paragraphs[paragraph->format].nesting > 0;
-    inRow = paragraph->endsRow || (inRow && (inTable || paragraph->endsCell));
-    paragraph->inRow = inRow;
+    const int level = paragraph->level;
+    if (paragraph->endsRow && level <= std::min(open + 1, kDeepestTable))
+      open = level;
+    else if (paragraph->endsRow)
+      paragraph->endsRow = false;
+    else
+      open = std::min(open, level);
+    paragraph->level = open;
   }
 }
 
 /// Makes cells outside of rows ordinary text with tabs.
-void JoinLostCells(std::vector<HtmlParagraph>& paragraphs) {
+void JoinLostCells(std::vector<HtmlParagraph>& paragraphs, const FormatTables& tables) {
+  const auto isLost = [&](const HtmlParagraph& one) {
+    const Kept& kept = KeptOf(tables, one.ender);
+    return one.endsCell && one.level != LevelOf(kept, tables.paragraphs[one.format]);
+  };
   std::optional<Position> start;
   for (HtmlParagraph& paragraph : paragraphs) {
     if (start) paragraph.start = *std::exchange(start, {});
-    if (paragraph.endsCell && !paragraph.inRow) start = paragraph.start;
+    if (isLost(paragraph)) start = paragraph.start;
   }
-  std::erase_if(paragraphs, [](const HtmlParagraph& paragraph) {
-    return paragraph.endsCell && !paragraph.inRow;
-  });
+  std::erase_if(paragraphs, isLost);
 }
 
 }  // namespace
@@ -76,8 +99,8 @@ std::vector<HtmlParagraph> FindHtmlParagraphs(const Document& document, Selectio
     finder.Take(at, text, format);
   });
   std::vector<HtmlParagraph> paragraphs = finder.Finish(range.end);
-  FindRows(paragraphs, document.Formats());
-  JoinLostCells(paragraphs);
+  FindRows(paragraphs);
+  JoinLostCells(paragraphs, document.Formats());
   return paragraphs;
 }
 

@@ -15,10 +15,11 @@ struct HtmlParagraph {
   ParaId format = 0;
   bool endsCell = false;
   bool endsRow = false;
-  bool inRow = false;  // of a row whose end is in the range; nested ones are text with tabs
+  int level = 0;  // of the table that it lies in or whose cell or row it ends; 0 none
 };
 
-/// In order.
+/// In order. Rows count whose end is in the range; cells outside of rows are text with tabs, and so
+/// are tables that are nested deeper than `kDeepestTable`.
 std::vector<HtmlParagraph> FindHtmlParagraphs(const Document& document, Selection range);
 
 }  // namespace lumenote
