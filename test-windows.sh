@@ -37,7 +37,16 @@ unit_test() {
   run_wine "$log" 900 "$1" || fail "$name" "$log"
   grep -ahE '^\[  (PASSED|SKIPPED)  \]' "$log" | sed "s/^/$name: /" || true
 }
-run_unit_tests() { printf '%s\n' "$x64"/tests/test_*.exe | in_parallel unit_test; }
+run_unit_tests() { ls "$x64"/tests/test_*.exe | grep -v _desktop.exe | in_parallel unit_test; }
+
+# Input methods need a display, which has a prefix of its own.
+desktop_test() {
+  . "$top/scripts/wine.sh"
+  trap stop_wine EXIT
+  start_wine "$top/build/windows-desktop-prefix" x11
+  unit_test "$x64/tests/test_win32_desktop.exe"
+}
+run_desktop_tests() { xvfb-run -a -s '-screen 0 1000x740x24' bash -c desktop_test; }
 
 # A script's output without carriage returns and the sandbox's folder.
 without_places() { tr -d '\r' <"$1" | sed -E 's#[^"\]*/lumenote-[A-Za-z0-9]{6}/#SANDBOX/#g'; }
@@ -116,7 +125,7 @@ check_imports() {
   done
 }
 
-export -f fail run_wine unit_test without_places script
+export -f fail run_wine unit_test desktop_test without_places script
 mkdir -p "$logs"
 : >"$logs/failures"
 step "Packages" ensure_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" \
@@ -130,6 +139,7 @@ step "Type libraries" check_type_libraries
 trap stop_wine EXIT
 step "wine" start_wine "$top/build/windows-prefix"
 step "Unit tests" run_unit_tests
+step "Unit tests on a display" run_desktop_tests
 step "Scripts" run_scripts
 step "Scripts on native windows" run_scripts_on_windows
 step "Hosts of the control" run_com_hosts

@@ -1,20 +1,20 @@
-# Sourced by test-windows.sh and by the tests it runs: wine with a prefix of its own, silent and
-# without an X server.
+# Sourced by test-windows.sh and by the tests it runs: wine with a prefix of its own, silent.
 
-# usage: start_wine PREFIX
+# usage: start_wine PREFIX [DRIVER]   without an X server; with the driver x11 on the one of DISPLAY
 start_wine() {
-  local name
+  local name driver=${2:-null}
   # File names are UTF-8 only where the locale says so.
   export WINEPREFIX=$1 WINEDEBUG=-all LC_ALL=C.UTF-8
   # No installers of other run-times, no debugger's box, no entries in the user's menus.
   export WINEDLLOVERRIDES='mscoree,mshtml=;winedbg.exe=d;winemenubuilder.exe=d'
-  unset DISPLAY WAYLAND_DISPLAY
+  unset WAYLAND_DISPLAY
+  [ "$driver" = x11 ] || unset DISPLAY
   mkdir -p "$WINEPREFIX"
   # In memory, where that can be: the tests make thousands of files.
   WINE_TEMPORARY=$(mktemp -d /dev/shm/wine-XXXXXX 2>/dev/null || mktemp -d)
   {
     wine wineboot --init
-    wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
+    wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d "$driver" /f
     for name in TEMP TMP; do
       wine reg add 'HKCU\Environment' /v $name /d "Z:${WINE_TEMPORARY//\//\\}" /f
     done

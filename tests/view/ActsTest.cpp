@@ -150,6 +150,8 @@ TEST(InputMethods, ComposeReplaceAndCommit) {
   user.view.Settle();
   EXPECT_EQ(user.view.Marks().caret->left, 30);
   EXPECT_EQ(user.pane.CaretAt(3)->left, 50);
+  for (const int unit : {0, 1, 2, 3})
+    EXPECT_EQ(user.pane.ComposedCaretAt(unit)->left, 20 + 10 * std::min(unit, 2));
   EXPECT_EQ(user.surface.Text(), u"abc");
   EXPECT_TRUE(user.screen == user.Fresh());
   user.input.Take({.replaceFrom = -1, .replaceLength = 1, .committed = u"ê"});

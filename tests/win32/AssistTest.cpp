@@ -50,6 +50,15 @@ class AssistTest : public SurfaceWindowTest {
     return Only(array);
   }
 
+  /// The object of the older interface.
+  ComOwner<IAccessible> Older() {
+    void* found = nullptr;
+    EXPECT_EQ(AccessibleObjectFromWindow(Handle(), static_cast<DWORD>(OBJID_CLIENT),
+                                         __uuidof(IAccessible), &found),
+              S_OK);
+    return ComOwner<IAccessible>(static_cast<IAccessible*>(found));
+  }
+
   const ComOwner<ViewElement> element{new ViewElement({Handle(), window->Text(), callbacks.name})};
 };
 
@@ -94,11 +103,7 @@ TEST_F(AssistTest, AnswersLikeTheSystemsEditControl) {
 
 TEST_F(AssistTest, HasNameRoleValueAndState) {
   Put(u"un|¶deux");
-  void* found = nullptr;
-  ASSERT_EQ(AccessibleObjectFromWindow(Handle(), static_cast<DWORD>(OBJID_CLIENT),
-                                       __uuidof(IAccessible), &found),
-            S_OK);
-  const ComOwner<IAccessible> object(static_cast<IAccessible*>(found));
+  const auto object = Older();
   VARIANT self = {};
   self.vt = VT_I4;
   VARIANT answer = {};
@@ -230,6 +235,33 @@ TEST_F(AssistTest, RangesFindSelectAndOutliveEdits) {
   window->Detach();
   EXPECT_EQ(all->Select(), uia::kNotAvailable);
   EXPECT_EQ(caret->ScrollIntoView(TRUE), uia::kNotAvailable);
+}
+
+TEST_F(AssistTest, WhatIsHeldOutlivesTheWindowAndKeepsTheCode) {
+  Put(u"un|");
+  auto older = Older();
+  auto text = Text();
+  auto range = Range({0, 2});
+  const HWND handle = Handle();
+  window->Detach();
+  window.reset();
+  EXPECT_FALSE(IsWindow(handle));
+  VARIANT self = {};
+  self.vt = VT_I4;
+  VARIANT value;
+  BSTR told = nullptr;
+  IRawElementProviderSimple* host = nullptr;
+  ITextRangeProvider* all = nullptr;
+  for (const HRESULT answer :
+       {older->get_accName(self, &told), older->get_accValue(self, &told), range->Select(),
+        element->GetPropertyValue(uia::kName, &value), text->get_DocumentRange(&all),
+        element->get_HostRawElementProvider(&host), range->GetText(-1, &told)})
+    EXPECT_EQ(answer, uia::kNotAvailable);
+  const int held = CodeInUse::Count();
+  older.reset();
+  range.reset();
+  text.reset();
+  EXPECT_EQ(CodeInUse::Count(), held - 3);
 }
 
 TEST_F(AssistTest, RangesTellTheirLook) {

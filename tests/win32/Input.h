@@ -18,17 +18,19 @@ inline void Pump() {
   }
 }
 
+/// Presses a key, or lets go of it.
+inline void Hold(WORD key, bool down) {
+  INPUT input = {};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+  SendInput(1, &input, sizeof input);
+}
+
 /// Presses keys together and releases them; whoever reads messages next gets them.
 inline void Press(std::initializer_list<WORD> keys) {
-  const auto send = [](WORD key, DWORD flags) {
-    INPUT input = {};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-  };
-  for (const WORD key : keys) send(key, 0);
-  for (auto key = keys.end(); key != keys.begin();) send(*--key, KEYEVENTF_KEYUP);
+  for (const WORD key : keys) Hold(key, true);
+  for (auto key = keys.end(); key != keys.begin();) Hold(*--key, false);
 }
 
 /// The visible window of this thread with that title; null for none.

@@ -26,7 +26,7 @@ class SurfaceWindowTest : public testing::Test {
     SetFocus(Handle());
   }
   ~SurfaceWindowTest() override {
-    window->Detach();
+    if (window) window->Detach();
     window.reset();
     DestroyWindow(top);
   }

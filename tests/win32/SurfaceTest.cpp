@@ -1,4 +1,5 @@
 // The surface's window, driven by the messages that the system sends.
+#include <array>
 #include <tuple>
 
 #include "backends/win32/view/TransferData.h"
@@ -35,6 +36,62 @@ TEST_F(SurfaceWindowTest, KeysAndCharactersEdit) {
   EXPECT_EQ(Shown(), "a|b");
   Send(WM_KEYDOWN, VK_ESCAPE);
   EXPECT_EQ(unused.back().name, KeyName::Escape);
+}
+
+/// A key as a message loop delivers it: what TranslateMessage queues comes after the key itself.
+struct Stroke {
+  WPARAM key;
+  std::u16string characters{};
+  UINT kind = WM_CHAR;
+  std::vector<int> held{};
+};
+
+void Deliver(HWND window, const Stroke& stroke) {
+  constexpr LPARAM kWhat = 0x1A0001;  // the key's own scan code
+  BYTE state[256] = {};
+  for (const int key : stroke.held) state[key] = 0x80;
+  SetKeyboardState(state);
+  const bool alt = stroke.held == std::vector<int>{VK_MENU};
+  for (const char16_t unit : stroke.characters) PostMessageW(window, stroke.kind, unit, kWhat);
+  SendMessageW(window, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, stroke.key, kWhat);
+  MSG queued;
+  while (PeekMessageW(&queued, window, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE))
+    DispatchMessageW(&queued);
+  SetKeyboardState(std::array<BYTE, 256>{}.data());
+}
+
+TEST_F(SurfaceWindowTest, LayoutsOfManyKindsType) {
+  const std::vector<int> altGr = {VK_CONTROL, VK_MENU};
+  const std::vector<int> alt = {VK_MENU};
+  const Stroke circumflex{VK_OEM_6, u"^", WM_DEADCHAR};
+  const std::tuple<std::vector<Stroke>, const char*> rows[] = {
+      {{circumflex, {'E', u"ê"}}, "abê|"},
+      {{circumflex, {'X', u"^x"}}, "ab^x|"},
+      {{circumflex, {VK_SPACE, u"^"}}, "ab^|"},
+      {{circumflex, {VK_RETURN, u"^\r"}}, "ab^¶|"},
+      {{circumflex, {VK_BACK, u"^\b"}}, "ab|"},
+      {{{VK_BACK, u"\b"}}, "a|"},
+      {{{'0', u"@", WM_CHAR, altGr}, {'E', u"€", WM_CHAR, altGr}, {'5', u"[", WM_CHAR, altGr}},
+       "ab@€[|"},
+      {{{'E', u"", WM_CHAR, altGr}}, "ab|"},
+      {{{'A', u"\x01", WM_CHAR, {VK_CONTROL}}}, "^ab|"},
+      {{{VK_NUMPAD2, u"", WM_CHAR, alt}, {VK_NUMPAD1, u"", WM_CHAR, alt}, {VK_MENU, u"é"}}, "abé|"},
+      {{{VK_PACKET, u"\xD834"}, {VK_PACKET, u"\xDD1E"}}, "ab𝄞|"},
+      {{{VK_PACKET, u"\xD834"}, {VK_PACKET, u"x"}, {VK_PACKET, u"\xDD1E"}}, "abx|"},
+  };
+  for (const auto& [strokes, after] : rows) {
+    Put(u"ab|");
+    for (const Stroke& stroke : strokes) Deliver(Handle(), stroke);
+    EXPECT_EQ(Shown(), after);
+  }
+  for (const KeyStroke& key : unused) EXPECT_TRUE(key.alt && !key.control) << "AltGr only types";
+  const std::pair<WPARAM, const char*> units[] = {
+      {0x1D11E, "𝄞|"}, {U'é', "é|"}, {0x110000, "|"}, {0xFFFFFFFF, "|"}, {UNICODE_NOCHAR, "|"}};
+  for (const auto& [unit, after] : units) {
+    Put(u"|");
+    EXPECT_EQ(Send(WM_UNICHAR, unit), unit == UNICODE_NOCHAR ? TRUE : FALSE);
+    EXPECT_EQ(Shown(), after);
+  }
 }
 
 TEST_F(SurfaceWindowTest, MouseSelectsAndScrolls) {

@@ -8,12 +8,14 @@ namespace lumenote {
 std::string TextExcerpt::Rtf() const { return WriteRtf(document_, range_.start, range_.end); }
 std::string TextExcerpt::Html() const { return WriteHtml(document_, range_.start, range_.end); }
 
+bool TextDrag::Reselect() {
+  if (!MayMove()) return false;
+  view_.Select(text_.Range().start, text_.Range().end);
+  return view_.IsAttached();
+}
+
 void TextDrag::Moved() {
-  if (!MayMove()) return;
-  view_.Act([this] {
-    view_.Surface().UserSelect(text_.Range().start, text_.Range().end);
-    view_.Surface().Clear();
-  });
+  if (Reselect()) view_.Act([this] { view_.Surface().Clear(); });
 }
 
 }  // namespace lumenote

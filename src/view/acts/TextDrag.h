@@ -36,6 +36,8 @@ class TextDrag {
   bool MayMove() const {
     return view_.IsAttached() && view_.Edits() == edits_ && !view_.IsLocked();
   }
+  /// Selects the text again, whatever has been selected since; false if it may not be moved.
+  bool Reselect();
   /// The receiver has the text: deletes it here if that is allowed.
   void Moved();
 

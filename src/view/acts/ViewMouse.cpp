@@ -41,8 +41,9 @@ void ViewMouse::ExtendTo(Position position) {
 void ViewMouse::Down(const Press& press) {
   pressed_ = last_ = press.at;
   const Position position = view_.Pane().PositionAt(press.at);
-  const auto before = std::exchange(doubleClick_, std::nullopt);
-  if (before && static_cast<double>(press.time - *before) < view_.Host().Pointer().doubleClickTime)
+  const bool third = IsThird(press);
+  doubleClick_.reset();
+  if (third)
     Begin(Unit::Paragraph, position, false);
   else if (!press.extend && InSelection(press.at))
     state_ = State::MayDrag;
@@ -52,19 +53,25 @@ void ViewMouse::Down(const Press& press) {
 
 void ViewMouse::DoubleClick(const Press& press) {
   last_ = press.at;
-  doubleClick_ = press.time;
+  doubleClick_ = press;
   Begin(Unit::Word, view_.Pane().PositionAt(press.at), false);
 }
 
-bool ViewMouse::MayBeginDrag() const {
-  const double far = std::abs(last_.x - pressed_.x) + std::abs(last_.y - pressed_.y);
-  return state_ == State::MayDrag && far >= view_.Host().Pointer().dragDistance;
+bool ViewMouse::IsFar(PixelPoint one, PixelPoint other) const {
+  const double distance = std::abs(one.x - other.x) + std::abs(one.y - other.y);
+  return distance >= view_.Host().Pointer().dragDistance;
+}
+
+bool ViewMouse::IsThird(const Press& press) const {
+  if (!doubleClick_ || IsFar(doubleClick_->at, press.at)) return false;
+  const auto since = static_cast<double>(press.time - doubleClick_->time);
+  return since < view_.Host().Pointer().doubleClickTime;
 }
 
 void ViewMouse::Move(PixelPoint at, bool held) {
   last_ = at;
   if (!held) return view_.Host().ShowArrow(InSelection(at));
-  if (MayBeginDrag()) {
+  if (state_ == State::MayDrag && IsFar(last_, pressed_)) {
     state_ = State::Idle;
     return view_.Host().Drag();
   }

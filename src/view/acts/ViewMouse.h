@@ -19,7 +19,8 @@ class ViewMouse {
     std::int64_t time = 0;  // milliseconds on any monotonic clock
     bool extend = false;    // with Shift
   };
-  /// The left button was pressed; soon after a double click, this is the third click.
+  /// The left button was pressed; soon after a double click at the same place, this is the third
+  /// click.
   void Down(const Press& press);
   /// Instead of `Down` for the second press of a double click, as the system counts them.
   void DoubleClick(const Press& press);
@@ -40,7 +41,8 @@ class ViewMouse {
   void ExtendTo(Position position);
   Selection Around(Position position) const;
   bool InSelection(PixelPoint point) const;
-  bool MayBeginDrag() const;
+  bool IsThird(const Press& press) const;
+  bool IsFar(PixelPoint one, PixelPoint other) const;
 
   NoteView& view_;
   State state_ = State::Idle;
@@ -48,7 +50,7 @@ class ViewMouse {
   Selection origin_;  // where the selection started: a caret, a word, a paragraph
   PixelPoint pressed_;
   PixelPoint last_;
-  std::optional<std::int64_t> doubleClick_;  // its time
+  std::optional<Press> doubleClick_;
   bool scrolling_ = false;
 };
 

@@ -15,8 +15,7 @@ Position Piece::ToPosition(int index) const {
   return from + std::max(composedAt, index - composedLength);
 }
 
-int Piece::LineOf(Position position) const {
-  const int index = ToIndex(position);
+int Piece::LineOfIndex(int index) const {
   const auto behind =
       std::upper_bound(lines.begin() + 1, lines.end(), index,
                        [](int value, const PieceLine& line) { return value < line.start; });

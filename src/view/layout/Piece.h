@@ -72,7 +72,9 @@ class Piece {
     return position >= from && (position < to || (closes && position == to));
   }
   /// Index of the line that holds `position`.
-  int LineOf(Position position) const;
+  int LineOf(Position position) const { return LineOfIndex(ToIndex(position)); }
+  /// Index of the line that holds a unit of the layout's text.
+  int LineOfIndex(int index) const;
   Position LineStart(int line) const { return ToPosition(lines[Index(line)].start); }
   /// Distance from the text's left edge.
   double XOf(Position position) const;

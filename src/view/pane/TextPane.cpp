@@ -100,15 +100,27 @@ std::optional<PixelRect> TextPane::LineAt(Position position) {
 }
 
 std::optional<PixelRect> TextPane::CaretAt(Position position) {
-  const std::optional<PixelRect> box = LineAt(position);
-  if (!box) return std::nullopt;
+  const std::optional<double> top = scroll_.YNear(position);
+  if (!top) return std::nullopt;
   const Piece& piece = cache_.At(position);
-  const PieceLine& line = LineOf(piece, position);
+  return CaretIn(piece, *top, piece.ToIndex(position));
+}
+
+std::optional<PixelRect> TextPane::ComposedCaretAt(int unit) {
+  const Position at = layouter_.Composed().at;
+  const std::optional<double> top = at < 0 ? std::nullopt : scroll_.YNear(at);
+  if (!top) return std::nullopt;
+  const Piece& piece = cache_.At(at);
+  return CaretIn(piece, *top, piece.composedAt + std::clamp(unit, 0, piece.composedLength));
+}
+
+PixelRect TextPane::CaretIn(const Piece& piece, double top, int index) {
+  const int line = piece.LineOfIndex(index);
   const FontMetrics font = layouter_.MetricsOf(Content(), surface_.InsertionFormat());
-  const double baseline = box->top - line.top + line.baseline;
-  const double left = std::round(TextLeft() + piece.XOf(position));
-  const double top = std::round(baseline - font.raise - font.ascent);
-  return PixelRect{left, top, left + kCaretWidth, top + std::ceil(font.ascent + font.descent)};
+  const double baseline = top + piece.lines[static_cast<std::size_t>(line)].baseline;
+  const double left = std::round(TextLeft() + piece.CaretX(line, index));
+  const double upper = std::round(baseline - font.raise - font.ascent);
+  return {left, upper, left + kCaretWidth, upper + std::ceil(font.ascent + font.descent)};
 }
 
 void TextPane::Reveal(Position position) {

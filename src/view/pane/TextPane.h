@@ -50,6 +50,9 @@ class TextPane {
   Line ShownLine(Position position);
   /// The caret at a position, as high as text typed there; empty as above.
   std::optional<PixelRect> CaretAt(Position position);
+  /// The caret before a unit of the text that is being composed, or of its end; empty as above, and
+  /// if none is.
+  std::optional<PixelRect> ComposedCaretAt(int unit);
   void Reveal(Position position);
   int LinesPerPage();
 
@@ -61,6 +64,7 @@ class TextPane {
     int line;
   };
   LineHit LineNear(PixelPoint point);
+  PixelRect CaretIn(const Piece& piece, double top, int index);
   double WrapWidth() const;
   void RevealAcross(Position position);
   Line LineIn(const Piece& piece, int line) const;

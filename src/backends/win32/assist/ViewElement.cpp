@@ -51,7 +51,8 @@ HRESULT ViewElement::GetPropertyValue(PROPERTYID id, VARIANT* out) {
 }
 
 HRESULT ViewElement::get_HostRawElementProvider(IRawElementProviderSimple** out) {
-  return uia::HostOf(view_.Handle(), out);
+  *out = nullptr;
+  return view_.Ask([&](AccessibleText&) { return uia::HostOf(view_.Handle(), out); });
 }
 
 }  // namespace lumenote

@@ -35,6 +35,14 @@ bool IsFolder(DWORD attributes) {
 
 bool IsLink(DWORD attributes) { return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0; }
 
+// A folder that is being deleted is "access denied" here, until the last handle to it has gone.
+int MakeFolder(const std::string& path) {
+  return Patiently([&] {
+    const int error = ErrorUnless(CreateDirectoryW(SystemPath(path).c_str(), nullptr));
+    return error == ERROR_ACCESS_DENIED ? ERROR_SHARING_VIOLATION : error;
+  });
+}
+
 }  // namespace
 
 int LastError() { return static_cast<int>(GetLastError()); }
@@ -122,7 +130,7 @@ int MakeFolders(const std::string& path) {
   const std::size_t separator = path.find_last_of("/\\");
   const bool hasParent = separator != path.npos && separator > 0 && path[separator - 1] != ':';
   if (hasParent) MakeFolders(path.substr(0, separator));
-  const int error = ErrorUnless(CreateDirectoryW(SystemPath(path).c_str(), nullptr));
+  const int error = MakeFolder(path);
   return IsFolder(AttributesOf(path)) ? 0 : error;
 }
 

@@ -81,6 +81,18 @@ wchar_t CharacterOf(const KeyStroke& key) {
   return named == std::end(kNamedKeys) ? L'\0' : named->character;
 }
 
+std::u16string TakeAccent(HWND window, LPARAM what) {
+  constexpr UINT kLook = PM_NOYIELD;
+  MSG queued;
+  std::u16string accent;
+  while (PeekMessageW(&queued, window, WM_CHAR, WM_CHAR, kLook) && queued.lParam == what &&
+         queued.wParam > L' ') {
+    PeekMessageW(&queued, window, WM_CHAR, WM_CHAR, kLook | PM_REMOVE);
+    accent += static_cast<char16_t>(queued.wParam);
+  }
+  return accent;
+}
+
 void SwallowCharacter(HWND window) {
   MSG queued;
   for (const UINT first : {WM_CHAR, WM_SYSCHAR})

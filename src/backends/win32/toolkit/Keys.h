@@ -1,6 +1,7 @@
 // Converts between the system's keys and the surface's.
 #pragma once
 #include <optional>
+#include <string>
 
 #include "backends/win32/system/System.h"
 #include "surface/keys/KeyStroke.h"
@@ -14,6 +15,10 @@ std::optional<KeyStroke> StrokeOf(WPARAM virtualKey);
 WPARAM VirtualKeyOf(const KeyStroke& key);
 /// The character that a pressed key queues (the control character of Ctrl and a letter); 0 if none.
 wchar_t CharacterOf(const KeyStroke& key);
+/// Takes the accent of a dead key that the key being handled cannot join, which the message loop
+/// has queued before that key's own character; empty if there is none. `what` is the key message's
+/// LPARAM.
+std::u16string TakeAccent(HWND window, LPARAM what);
 /// Drops the character that the message loop has queued for the key that is being handled.
 void SwallowCharacter(HWND window);
 

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "backends/win32/view/ImeRequests.h"
+
 // After the system's own header.
 #include <imm.h>
 
@@ -34,13 +36,15 @@ std::u16string TextOf(HIMC context, DWORD part) {
   return text;
 }
 
-}  // namespace
-
+/// What a WM_IME_COMPOSITION says; `what` is its LPARAM. One that tells of the caret alone leaves
+/// the text as it is.
 ViewInput::Message CompositionOf(HWND window, LPARAM what) {
+  constexpr LPARAM kComposed =
+      GCS_COMPSTR | GCS_COMPATTR | GCS_COMPCLAUSE | GCS_CURSORPOS | GCS_DELTASTART;
   const ContextScope context(window);
   ViewInput::Message message;
   if (what & GCS_RESULTSTR) message.committed = TextOf(context.Get(), GCS_RESULTSTR);
-  if (!(what & GCS_COMPSTR)) return message;
+  if (!(what & kComposed)) return message;
   message.composed = TextOf(context.Get(), GCS_COMPSTR);
   const LONG caret = ImmGetCompositionStringW(context.Get(), GCS_CURSORPOS, nullptr, 0);
   const auto length = static_cast<int>(message.composed.size());
@@ -48,15 +52,60 @@ ViewInput::Message CompositionOf(HWND window, LPARAM what) {
   return message;
 }
 
-void PlaceComposition(HWND window, const PixelRect& caret) {
+void Complete(HWND window) {
   const ContextScope context(window);
-  if (!context.Get()) return;
-  const POINT at{std::lround(caret.left), std::lround(caret.top)};
-  COMPOSITIONFORM form = {CFS_POINT, at, {}};
+  if (context.Get()) ImmNotifyIME(context.Get(), NI_COMPOSITIONSTR, CPS_COMPLETE, 0);
+}
+
+/// The view itself shows what is composed.
+LRESULT SetContext(HWND window, const Message& message) {
+  constexpr LPARAM kOwnWindow = static_cast<LPARAM>(ISC_SHOWUICOMPOSITIONWINDOW);
+  return DefWindowProcW(window, message.id, message.w, message.l & ~kOwnWindow);
+}
+
+}  // namespace
+
+std::optional<LRESULT> Composing::Answer(const Message& message) {
+  switch (message.id) {
+    case WM_IME_SETCONTEXT:
+      return SetContext(window_, message);
+    case WM_IME_STARTCOMPOSITION:
+      running_ = true;
+      Place();
+      return 0;
+    case WM_IME_COMPOSITION:
+      input_.Take(CompositionOf(window_, message.l));
+      if (view_.IsAttached()) Place();
+      return 0;
+    case WM_IME_ENDCOMPOSITION:
+      running_ = false;
+      input_.Take({});
+      return 0;
+    case WM_IME_REQUEST:
+      return AnswerRequest(window_, view_, message);
+  }
+  return std::nullopt;
+}
+
+void Composing::Place() {
+  const ContextScope context(window_);
+  const auto caret = view_.Pane().CaretAt(view_.Surface().Caret());
+  if (!context.Get() || !caret) return;
+  COMPOSITIONFORM form = CompositionFormOf(*caret);
   ImmSetCompositionWindow(context.Get(), &form);
-  const RECT line{at.x, at.y, std::lround(caret.right), std::lround(caret.bottom)};
-  CANDIDATEFORM list = {0, CFS_EXCLUDE, at, line};
+  CANDIDATEFORM list = CandidateFormOf(*caret);
   ImmSetCandidateWindow(context.Get(), &list);
+}
+
+void Composing::Complete() const {
+  if (running_) lumenote::Complete(window_);
+}
+
+void CompleteComposition() { Complete(GetFocus()); }
+
+void CompleteBefore(const Message& message) {
+  const bool menu = message.id == WM_COMMAND && message.l == 0;
+  if (menu || message.id == WM_CLOSE || message.id == WM_QUERYENDSESSION) CompleteComposition();
 }
 
 }  // namespace lumenote

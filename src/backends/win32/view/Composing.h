@@ -1,13 +1,34 @@
 // Input methods of the system, by IMM32.
 #pragma once
-#include "backends/win32/system/System.h"
+#include <optional>
+
+#include "backends/win32/toolkit/Window.h"
 #include "view/acts/ViewInput.h"
 
 namespace lumenote {
 
-/// What a WM_IME_COMPOSITION says; `what` is its LPARAM.
-ViewInput::Message CompositionOf(HWND window, LPARAM what);
-/// Tells the input method where the caret is, so that its lists open there.
-void PlaceComposition(HWND window, const PixelRect& caret);
+/// What input methods do to the view of a window.
+class Composing {
+ public:
+  Composing(HWND window, NoteView& view) : window_(window), view_(view) {}
+
+  /// Nothing for a message that is not an input method's. May detach the view.
+  std::optional<LRESULT> Answer(const Message& message);
+  /// Tells the input method where the caret is, so that its lists open there.
+  void Place();
+  /// Types what is being composed. May detach the view.
+  void Complete() const;
+
+ private:
+  HWND window_;
+  NoteView& view_;
+  ViewInput input_{view_};
+  bool running_ = false;  // between the start of a composition and its end
+};
+
+/// Types what is being composed in the window with the keyboard, whatever it is.
+void CompleteComposition();
+/// The same before a message that makes a form close, run a command or keep what is unsaved.
+void CompleteBefore(const Message& message);
 
 }  // namespace lumenote

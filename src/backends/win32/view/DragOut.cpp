@@ -1,7 +1,6 @@
 #include "backends/win32/view/DragOut.h"
 
 #include "backends/win32/view/TransferData.h"
-#include "base/ScopedFlag.h"
 
 namespace lumenote {
 
@@ -17,18 +16,37 @@ class DragSource final : public ComObject<IDropSource> {
   HRESULT STDMETHODCALLTYPE GiveFeedback(DWORD) override { return DRAGDROP_S_USEDEFAULTCURSORS; }
 };
 
+/// Tells for a block what is dragged.
+class DraggedScope {
+ public:
+  DraggedScope(TextDrag*& dragged, TextDrag& text) : dragged_(dragged) { dragged_ = &text; }
+  ~DraggedScope() { dragged_ = nullptr; }
+  DraggedScope(const DraggedScope&) = delete;
+  DraggedScope& operator=(const DraggedScope&) = delete;
+
+ private:
+  TextDrag*& dragged_;
+};
+
 }  // namespace
 
 void DragOut::Run(NoteView& view) {
   TextDrag text(view);
-  const ScopedFlag running(running_);
+  const DraggedScope running(dragged_, text);
   takenBack_ = false;
   const ComOwner<TransferData> data(new TransferData(text.Text()));
   const ComOwner<DragSource> source(new DragSource());
   const DWORD offered = view.IsLocked() ? DROPEFFECT_COPY : DROPEFFECT_COPY | DROPEFFECT_MOVE;
   DWORD done = DROPEFFECT_NONE;
   const HRESULT result = DoDragDrop(data.get(), source.get(), offered, &done);
-  if (result == DRAGDROP_S_DROP && (done & DROPEFFECT_MOVE) && !takenBack_) text.Moved();
+  if (result == DRAGDROP_S_DROP && (done & offered & DROPEFFECT_MOVE) && !takenBack_) text.Moved();
+}
+
+bool DragOut::DropBack(ViewDrop& rules, PixelPoint at, bool copy) {
+  if (!dragged_->Reselect()) return false;
+  takenBack_ = true;
+  rules.DropOwn(at, copy);
+  return true;
 }
 
 }  // namespace lumenote

@@ -1,6 +1,7 @@
 // Drags text out of a window.
 #pragma once
 #include "view/acts/TextDrag.h"
+#include "view/acts/ViewDrop.h"
 
 namespace lumenote {
 
@@ -9,12 +10,13 @@ class DragOut {
  public:
   /// Returns when the drag has ended; the view may be detached then.
   void Run(NoteView& view);
-  bool IsRunning() const { return running_; }
-  /// The view has moved or copied the text itself.
-  void TakenBack() { takenBack_ = true; }
+  bool IsRunning() const { return dragged_ != nullptr; }
+  /// Moves or copies the dragged text within its own view. False if it has been edited since: then
+  /// it is dropped like any other.
+  bool DropBack(ViewDrop& rules, PixelPoint at, bool copy);
 
  private:
-  bool running_ = false;
+  TextDrag* dragged_ = nullptr;  // while running
   bool takenBack_ = false;
 };
 

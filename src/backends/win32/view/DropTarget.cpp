@@ -58,12 +58,8 @@ HRESULT DropTarget::Drop(IDataObject* data, DWORD keys, POINTL at, DWORD* effect
   if (*effect == DROPEFFECT_NONE) return S_OK;
   const PixelPoint point = PointOf(at);
   try {
-    if (own_.IsRunning()) {
-      own_.TakenBack();
-      rules_.DropOwn(point, *effect == DROPEFFECT_COPY);
-    } else if (!rules_.Drop(point, ReadTransfer(*data))) {
-      *effect = DROPEFFECT_NONE;
-    }
+    const bool back = own_.IsRunning() && own_.DropBack(rules_, point, *effect == DROPEFFECT_COPY);
+    if (!back && !rules_.Drop(point, ReadTransfer(*data))) *effect = DROPEFFECT_NONE;
   } catch (const std::bad_alloc&) {
     *effect = DROPEFFECT_NONE;
   }

@@ -9,7 +9,6 @@
 #include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/toolkit/Units.h"
 #include "backends/win32/toolkit/VisualStyles.h"
-#include "backends/win32/view/Composing.h"
 #include "base/Strings.h"
 
 // After the system's own header.
@@ -115,9 +114,7 @@ void SurfaceWindow::ShowCaretPlace() {
 
 void SurfaceWindow::SelectionMoved() {
   assistance_.TellSelection();
-  if (!focused_) return;
-  if (const auto caret = text_.Pane().CaretAt(text_.Surface().Caret()))
-    PlaceComposition(Handle(), *caret);
+  if (focused_) composing_.Place();
 }
 
 void SurfaceWindow::ScrollTimer(bool on) {
@@ -136,8 +133,7 @@ LRESULT SurfaceWindow::Receive(const Message& message) {
     if (message.id == WM_GETDLGCODE) return DLGC_WANTALLKEYS;
     if (message.id == WM_DESTROY) Leave();
     if (IsAttached())
-      if (const std::optional<LRESULT> answer = assistance_.Answer(message)) return *answer;
-    if (IsAttached() && Answer(message)) return message.id == WM_ERASEBKGND ? 1 : 0;
+      if (const std::optional<LRESULT> answer = Answer(message)) return *answer;
   } catch (const std::bad_alloc&) {
     text_.Forget();
     return 0;
@@ -145,11 +141,18 @@ LRESULT SurfaceWindow::Receive(const Message& message) {
   return Handle() ? Default(message) : 0;
 }
 
-bool SurfaceWindow::Answer(const Message& message) {
+std::optional<LRESULT> SurfaceWindow::Answer(const Message& message) {
+  if (message.id == WM_ERASEBKGND) return 1;
+  if (message.id == WM_UNICHAR && message.w == UNICODE_NOCHAR) return TRUE;
+  if (const auto answer = assistance_.Answer(message)) return answer;
+  if (const auto answer = composing_.Answer(message)) return answer;
+  return HandleAny(message) ? std::optional<LRESULT>(0) : std::nullopt;
+}
+
+bool SurfaceWindow::HandleAny(const Message& message) {
   if (message.id >= WM_MOUSEFIRST && message.id <= WM_MOUSELAST) return HandleMouse(message);
-  if (message.id >= WM_KEYFIRST && message.id <= WM_KEYLAST && message.id < WM_IME_STARTCOMPOSITION)
-    return HandleKeys(message);
-  return HandleComposing(message) || HandleWindow(message);
+  if (message.id >= WM_KEYFIRST && message.id <= WM_KEYLAST) return HandleKeys(message);
+  return HandleWindow(message);
 }
 
 bool SurfaceWindow::HandleWindow(const Message& message) {
@@ -159,8 +162,6 @@ bool SurfaceWindow::HandleWindow(const Message& message) {
       return true;
     case WM_PAINT:
       Paint();
-      return true;
-    case WM_ERASEBKGND:
       return true;
     case WM_NCPAINT:
       Default(message);
@@ -246,6 +247,8 @@ void SurfaceWindow::Resize() {
 }
 
 void SurfaceWindow::Focus(bool has) {
+  if (!has) composing_.Complete();
+  if (!IsAttached()) return;
   focused_ = has;
   if (!has) caret_.Remove();
   text_.Focus(has);
@@ -257,66 +260,66 @@ bool SurfaceWindow::HandleKeys(const Message& message) {
   switch (message.id) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
-      return PressKey(message.w);
+      return PressKey(message);
     case WM_CHAR:
       TypeUnit(static_cast<char16_t>(message.w));
+      return true;
+    case WM_UNICHAR:
+      TypeCharacter(static_cast<char32_t>(message.w));
       return true;
   }
   return false;
 }
 
-bool SurfaceWindow::PressKey(WPARAM virtualKey) {
-  if (virtualKey == VK_APPS) {
+bool SurfaceWindow::PressKey(const Message& message) {
+  if (message.w == VK_APPS) {
     keys_.OpenMenu();
     return true;
   }
-  const std::optional<KeyStroke> key = StrokeOf(virtualKey);
+  const std::optional<KeyStroke> key = StrokeOf(message.w);
   if (!key || Types(*key)) return false;
   const HWND window = Handle();
-  const bool used = keys_.Press(key, {}) || Offer(*key);
+  const bool used =
+      UseAccent(*key, TakeAccent(window, message.l)) || keys_.Press(key, {}) || Offer(*key);
   if (used) SwallowCharacter(window);
   return used;
+}
+
+// The accent of a dead key stands by itself, unless it is taken back.
+bool SurfaceWindow::UseAccent(const KeyStroke& key, const std::u16string& accent) {
+  if (accent.empty()) return false;
+  if (key.name != KeyName::BackSpace) keys_.Press(std::nullopt, accent);
+  return key.name == KeyName::BackSpace || !IsAttached();
 }
 
 bool SurfaceWindow::Offer(const KeyStroke& key) {
   return IsAttached() && callbacks_.key && callbacks_.key(key);
 }
 
-// The halves of a surrogate pair come one by one.
-void SurfaceWindow::TypeUnit(char16_t unit) {
-  if (IsHighSurrogate(unit)) {
-    highSurrogate_ = unit;
-    return;
-  }
-  const char16_t high = std::exchange(highSurrogate_, 0);
-  constexpr char16_t kDelete = 0x7F;
-  if (unit < u' ' || unit == kDelete) return;
-  keys_.Press(std::nullopt,
-              high && IsLowSurrogate(unit) ? std::u16string{high, unit} : std::u16string{unit});
+void SurfaceWindow::TypeCharacter(char32_t character) {
+  constexpr char32_t kLast = 0x10FFFF;
+  constexpr char32_t kFirstPair = 0x10000;
+  if (character < kFirstPair) return TypeUnit(static_cast<char16_t>(character));
+  if (character > kLast) return;
+  TypeUnit(static_cast<char16_t>(0xD800 + ((character - kFirstPair) >> 10)));
+  TypeUnit(static_cast<char16_t>(0xDC00 + (character & 0x3FF)));
 }
 
-bool SurfaceWindow::HandleComposing(const Message& message) {
-  switch (message.id) {
-    case WM_IME_SETCONTEXT:  // the view shows what is composed
-      DefWindowProcW(Handle(), message.id, message.w,
-                     message.l & ~static_cast<LPARAM>(ISC_SHOWUICOMPOSITIONWINDOW));
-      return true;
-    case WM_IME_STARTCOMPOSITION:
-      SelectionMoved();
-      return true;
-    case WM_IME_COMPOSITION:
-      input_.Take(CompositionOf(Handle(), message.l));
-      return true;
-    case WM_IME_ENDCOMPOSITION:
-      input_.Take({});
-      return true;
-  }
-  return false;
+// The halves of a surrogate pair come one by one; one without the other is none of the text.
+void SurfaceWindow::TypeUnit(char16_t unit) {
+  const char16_t high = std::exchange(highSurrogate_, IsHighSurrogate(unit) ? unit : u'\0');
+  constexpr char16_t kDelete = 0x7F;
+  if (unit < u' ' || unit == kDelete || IsHighSurrogate(unit)) return;
+  if (!IsLowSurrogate(unit))
+    keys_.Press(std::nullopt, std::u16string{unit});
+  else if (high)
+    keys_.Press(std::nullopt, std::u16string{high, unit});
 }
 
 // --- mouse
 
 bool SurfaceWindow::HandleMouse(const Message& message) {
+  if (message.id == WM_RBUTTONDOWN || message.id == WM_MBUTTONDOWN) composing_.Complete();
   switch (message.id) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
@@ -348,6 +351,7 @@ bool SurfaceWindow::HandleMouse(const Message& message) {
 
 void SurfaceWindow::PressLeft(const Message& message) {
   const HWND window = Handle();
+  composing_.Complete();
   if (GetFocus() != window) SetFocus(window);
   if (!IsAttached()) return;
   SetCapture(window);

@@ -8,6 +8,7 @@
 #include "backends/win32/assist/Assistance.h"
 #include "backends/win32/text/UniscribeLayouter.h"
 #include "backends/win32/toolkit/Window.h"
+#include "backends/win32/view/Composing.h"
 #include "backends/win32/view/DropTarget.h"
 #include "backends/win32/view/SystemCaret.h"
 #include "backends/win32/view/ViewBars.h"
@@ -15,7 +16,6 @@
 #include "forms/Control.h"
 #include "surface/keys/KeyStroke.h"
 #include "view/acts/ViewDrop.h"
-#include "view/acts/ViewInput.h"
 #include "view/acts/ViewKeys.h"
 #include "view/acts/ViewMouse.h"
 #include "view/pane/NoteView.h"
@@ -74,12 +74,13 @@ class SurfaceWindow final : public Window, private ViewHost {
     Release(MouseButton::Right, MAKELPARAM(std::lround(at.x), std::lround(at.y)));
   }
 
-  // Each returns whether it has answered the message; the system has the rest.
-  bool Answer(const Message& message);
+  /// Nothing for a message that is the system's.
+  std::optional<LRESULT> Answer(const Message& message);
+  // Each returns whether it has handled the message.
+  bool HandleAny(const Message& message);
   bool HandleWindow(const Message& message);
   bool HandleKeys(const Message& message);
   bool HandleMouse(const Message& message);
-  bool HandleComposing(const Message& message);
 
   void Leave();
   void Paint();
@@ -87,9 +88,11 @@ class SurfaceWindow final : public Window, private ViewHost {
   void ShowGround();
   void TakeScale();
   void Focus(bool has);
-  bool PressKey(WPARAM virtualKey);
+  bool PressKey(const Message& message);
+  bool UseAccent(const KeyStroke& key, const std::u16string& accent);
   bool Offer(const KeyStroke& key);
   void TypeUnit(char16_t unit);
+  void TypeCharacter(char32_t character);
   void Turn(const Message& message);
   void PressLeft(const Message& message);
   void Release(MouseButton button, LPARAM at);
@@ -100,7 +103,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   NoteView text_;
   ViewKeys keys_{text_};
   ViewMouse mouse_{text_};
-  ViewInput input_{text_};
+  Composing composing_{Handle(), text_};
   ViewDrop drop_{text_};
   ViewBars bars_{text_};
   SystemCaret caret_{Handle()};
