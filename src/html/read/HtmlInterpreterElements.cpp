@@ -113,7 +113,7 @@ void HtmlInterpreter::ReadAttributes(const HtmlElement& element, const HtmlToken
   }
   if (const auto* style = Attribute(tag, "style")) ReadStyle(*style, formats_, change);
   if (change.tabs > 0 || element.traits & (HtmlElement::kEnd | HtmlElement::kHidden) ||
-      tag.Find("hidden"))
+      tag.Find("hidden") || (element.kind == Kind::Row && NumberOf(tag, "height", 1) == 0))
     change.text = Look::Text::Hidden;
 }
 

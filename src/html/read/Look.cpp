@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kLongest = 1'000'000;  // twips
 constexpr int kTwipsPerHalfPoint = 10;
-constexpr int kMaxSize = 0x7FFF;  // half-points
+constexpr int kMaxSize = 0xFFFF;  // half-points
 
 void SetLines(const LookChange::LineSpacing& lines, Look& look) {
   look.paragraph.lineRule = lines.rule;

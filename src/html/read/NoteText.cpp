@@ -21,6 +21,15 @@ ParaFormat ParagraphOf(const Look& look) {
   return format;
 }
 
+/// What stands beside a link does not look like one.
+CharFormat OutsideOfLink(CharFormat character) {
+  if (character.kept == 0) return character;
+  character.kept = 0;
+  character.colour = kAutoColour;
+  character.underline = Underline::None;
+  return character;
+}
+
 }  // namespace
 
 bool IsOrdinary(char16_t c) {
@@ -115,7 +124,7 @@ void NoteText::Begin(const Look& look) {
   if (open_) return;
   if (ended_) ended_->paragraph.spaceAfter = std::max(ended_->paragraph.spaceAfter, space_);
   Release();
-  open_ = Ended{look.character, ParagraphOf(look)};
+  open_ = Ended{OutsideOfLink(look.character), ParagraphOf(look)};
   open_->paragraph.spaceBefore = before_.value_or(0);
   before_.reset();
   space_ = 0;
@@ -143,7 +152,7 @@ void NoteText::PlaceMarker(ParaFormat& paragraph, const Look& look) {
   const FieldId field = formats_.fields.Intern({.opening = "{\\pntext",
                                                 .serial = formats_.NextSerial(),
                                                 .kind = KeptField::Kind::ListNumber});
-  builder_.Append(marker.number + u'\t', With(look.character, {.field = field}));
+  builder_.Append(marker.number + u'\t', With(OutsideOfLink(look.character), {.field = field}));
 }
 
 void NoteText::End() {

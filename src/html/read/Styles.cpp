@@ -210,6 +210,8 @@ void TabCount(Value value, LookChange& change) {
   change.tabs = static_cast<int>(std::clamp(TakeNumber(value).value_or(0), 0.0, kMost));
 }
 
+void TextRaise(Value value, LookChange& change) { change.offset = ReadLength(value); }
+
 void SpaceRun(Value, LookChange& change) { change.spaces = true; }
 
 struct Property {
@@ -241,6 +243,7 @@ constexpr Property kProperties[] = {
     {"mso-list", MsoList},
     {"mso-spacerun", SpaceRun},
     {"mso-tab-count", TabCount},
+    {"mso-text-raise", TextRaise},
     {"padding-inline-start", PaddingLeft},
     {"padding-left", PaddingLeft},
     {"text-align", ReadAlignment},
