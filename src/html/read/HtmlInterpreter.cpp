@@ -13,6 +13,8 @@ namespace {
 
 using Kind = HtmlElement::Kind;
 
+constexpr std::size_t kLongestMarker = 12;
+
 bool IsOfTable(Kind kind) { return kind == Kind::Table || kind == Kind::Row || kind == Kind::Cell; }
 /// Whether it goes on behind a block that ends before it.
 bool GoesOn(Kind kind) { return kind == Kind::Formatting || kind == Kind::Link; }
@@ -32,6 +34,7 @@ Fragment HtmlInterpreter::Read(HtmlTarget target) {
   for (const HtmlToken* token = &tokens_.Next(); token->kind != HtmlToken::Kind::Finish;
        token = &tokens_.Next())
     Take(*token);
+  if (held_) ReleaseHeld();
   if (!open_.empty()) Close(0);
   return target == HtmlTarget::Document ? text_.FinishDocument(look_) : text_.FinishSelection();
 }
@@ -39,6 +42,7 @@ Fragment HtmlInterpreter::Read(HtmlTarget target) {
 void HtmlInterpreter::Take(const HtmlToken& token) {
   if (token.kind == HtmlToken::Kind::Text) return Text(token.text);
   afterPre_ = skipping_ = false;
+  if (held_) HoldBack(token);
   if (token.kind == HtmlToken::Kind::Start) return Start(token);
   End(token.name);
 }
@@ -49,7 +53,11 @@ void HtmlInterpreter::Text(std::u16string_view text) {
     if (text.starts_with(u'\n')) text.remove_prefix(1);
   }
   if (skipping_ || IsHidden()) return;
-  if (look_.text == Look::Text::Marker) return void(marker_ += text);
+  if (look_.text == Look::Text::Marker || held_) {
+    marker_ += text;
+    if (held_ && marker_.size() > kLongestMarker) ReleaseHeld();
+    return;
+  }
   if (!look_.preserve && IsBlank(text)) return text_.Text(text, look_);
   BeforeContent();
   text_.Text(text, look_);

@@ -78,6 +78,8 @@ class HtmlInterpreter {
   void BeginList(const HtmlToken& tag, Open& list);
   void BeginItem(const HtmlToken& tag, Open& item);
   void EndSpelledMarker();
+  void HoldBack(const HtmlToken& tag);
+  void ReleaseHeld();
   ItemMarker Numbered(std::u16string number, char style, int start);
   void Columns(const HtmlToken& tag);
   void BeginCell(const HtmlToken& tag, const LookChange& change);
@@ -92,6 +94,8 @@ class HtmlInterpreter {
   Look look_;
   std::vector<Table> tables_;
   std::u16string marker_;  // of a list item, spelled out by a word processor
+  bool held_ = false;      // it may be text
+  bool gap_ = false;       // the tag at hand begins the gap behind it
   bool skipping_ = false;  // within an element whose content is not shown
   bool afterPre_ = false;  // a line end that follows directly is dropped
 };

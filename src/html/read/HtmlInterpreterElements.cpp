@@ -55,7 +55,9 @@ bool IsAddress(std::u16string_view text) {
 /// Word processors state the margins of their paragraphs in a style sheet.
 void ReadClass(std::u16string_view name, LookChange& change) {
   if (name.starts_with(u"Mso")) change.above = change.below = CssLength();
-  if (name.starts_with(u"MsoListParagraph")) change.left = CssLength{720};
+  if (!name.starts_with(u"MsoListParagraph")) return;
+  change.left = CssLength{720};
+  change.mayBeItem = true;
 }
 
 char StyleOf(const HtmlToken& list) {
@@ -113,7 +115,8 @@ void HtmlInterpreter::ReadAttributes(const HtmlElement& element, const HtmlToken
   }
   if (const auto* style = Attribute(tag, "style")) ReadStyle(*style, formats_, change);
   if (change.tabs > 0 || element.traits & (HtmlElement::kEnd | HtmlElement::kHidden) ||
-      tag.Find("hidden") || (element.kind == Kind::Row && NumberOf(tag, "height", 1) == 0))
+      tag.Find("hidden") || std::exchange(gap_, false) ||
+      (element.kind == Kind::Row && NumberOf(tag, "height", 1) == 0))
     change.text = Look::Text::Hidden;
 }
 
@@ -136,6 +139,7 @@ void HtmlInterpreter::Enter(const HtmlToken& tag, Open& open) {
   if (!change.above) text_.Space(open.margin);
   if (change.above) text_.SpaceBefore(change.above->Twips(look_.character));
   afterPre_ = open.element->name == "pre";
+  held_ = change.mayBeItem && !change.item;
   if (kind == Kind::List) BeginList(tag, open);
   if (kind == Kind::Item) BeginItem(tag, open);
   if (kind == Kind::Table) tables_.push_back({.borders = NumberOf(tag, "border", 0) > 0});
@@ -212,6 +216,22 @@ void HtmlInterpreter::EndSpelledMarker() {
   const bool number =
       marker.ends_with(u'.') || marker.ends_with(u')') || std::ranges::any_of(marker, IsAsciiDigit);
   text_.Mark(number ? Numbered(std::move(marker), '1', 1) : ItemMarker());
+}
+
+/// The start of a paragraph that may be an item is held back: a gap behind it shows that it is a
+/// bullet or number, anything else that it is text.
+void HtmlInterpreter::HoldBack(const HtmlToken& tag) {
+  const bool span = tag.kind == HtmlToken::Kind::Start && tag.name == "span";
+  const std::u16string* const style = tag.Find("style");
+  gap_ = span && style && style->starts_with(u"font:7.0pt");
+  if (!gap_ && (!span || !marker_.empty())) return ReleaseHeld();
+  held_ = !gap_;
+  if (gap_) EndSpelledMarker();
+}
+
+void HtmlInterpreter::ReleaseHeld() {
+  held_ = false;
+  if (!marker_.empty()) Text(std::exchange(marker_, {}));
 }
 
 // --- tables

@@ -71,9 +71,10 @@ struct LookChange {
   // Not inherited.
   std::optional<CssLength> above, below;
   std::optional<CssLength> width;
-  bool unmarked = false;  // a list, or an item, without bullets or numbers
-  int tabs = 0;           // that its content stands for
-  bool item = false;      // a paragraph that is an item of a word processor's list
+  bool unmarked = false;   // a list, or an item, without bullets or numbers
+  int tabs = 0;            // that its content stands for
+  bool item = false;       // a paragraph that is an item of a word processor's list
+  bool mayBeItem = false;  // a paragraph that is one if it begins with a bullet or number and a gap
 
   void ApplyTo(Look& look) const;
 };
