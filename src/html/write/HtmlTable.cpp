@@ -114,7 +114,7 @@ void TableFinder::CountColumns() {
   std::vector<std::int32_t> all = {0};
   for (const auto& row : edges_) all.insert(all.end(), row.begin(), row.end());
   std::ranges::sort(all);
-  all.erase(std::ranges::unique(all).begin(), all.end());
+  all.erase(std::unique(all.begin(), all.end()), all.end());
   const auto at = [&](std::int32_t edge) { return std::ranges::lower_bound(all, edge); };
   for (std::size_t row = 0; row < edges_.size(); ++row)
     for (std::size_t cell = 0; cell < edges_[row].size(); ++cell) {
