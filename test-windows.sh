@@ -46,7 +46,11 @@ desktop_test() {
   start_wine "$top/build/windows-desktop-prefix" x11
   unit_test "$x64/tests/test_win32_desktop.exe"
 }
-run_desktop_tests() { xvfb-run -a -s '-screen 0 1000x740x24' bash -c desktop_test; }
+# The shell that starts the X server passes no functions on.
+run_desktop_tests() {
+  xvfb-run -a -s '-screen 0 1000x740x24' \
+    bash -c "$(declare -f fail run_wine unit_test desktop_test); desktop_test"
+}
 
 # A script's output without carriage returns and the sandbox's folder.
 without_places() { tr -d '\r' <"$1" | sed -E 's#[^"\]*/lumenote-[A-Za-z0-9]{6}/#SANDBOX/#g'; }
@@ -125,7 +129,7 @@ check_imports() {
   done
 }
 
-export -f fail run_wine unit_test desktop_test without_places script
+export -f fail run_wine unit_test without_places script
 mkdir -p "$logs"
 : >"$logs/failures"
 step "Packages" ensure_packages "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}" \

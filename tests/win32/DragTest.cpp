@@ -6,15 +6,6 @@
 namespace lumenote {
 namespace {
 
-void Mouse(DWORD act) {
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = act;
-  SendInput(1, &input, sizeof input);
-}
-
-void Point(POINTL at) { SetCursorPos(at.x, at.y); }
-
 class DragTest : public SurfaceWindowTest {
  protected:
   DragTest() { SetDoubleClickTime(1); }  // each press counts by itself
@@ -24,17 +15,17 @@ class DragTest : public SurfaceWindowTest {
   /// window's own loop or that of a drag runs.
   void Drag(
       POINTL from, POINTL to, const std::function<void()>& rest = [] {}) {
-    const std::vector<std::function<void()>> acts = {[&] { Point(from); },
-                                                     [] { Mouse(MOUSEEVENTF_LEFTDOWN); },
+    const std::vector<std::function<void()>> acts = {[&] { MoveMouse(from); },
+                                                     [] { UseMouse(MOUSEEVENTF_LEFTDOWN); },
                                                      [&] {
-                                                       Point({from.x + 20, from.y});
+                                                       MoveMouse({from.x + 20, from.y});
                                                      },
                                                      [&] {
-                                                       Point({to.x + 1, to.y});
+                                                       MoveMouse({to.x + 1, to.y});
                                                      },
-                                                     [&] { Point(to); },
+                                                     [&] { MoveMouse(to); },
                                                      rest,
-                                                     [] { Mouse(MOUSEEVENTF_LEFTUP); }};
+                                                     [] { UseMouse(MOUSEEVENTF_LEFTUP); }};
     std::size_t done = 0;
     const Meanwhile hand([&] {
       if (done < acts.size()) acts[done]();

@@ -33,6 +33,18 @@ inline void Press(std::initializer_list<WORD> keys) {
   for (auto key = keys.end(); key != keys.begin();) Hold(*--key, false);
 }
 
+/// Puts the mouse on a point of the screen.
+inline void MoveMouse(POINTL at) { SetCursorPos(at.x, at.y); }
+
+/// Presses a button, releases it or turns the wheel, where the mouse is.
+inline void UseMouse(DWORD act, int turned = 0) {
+  INPUT input = {};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = act;
+  input.mi.mouseData = static_cast<DWORD>(turned);
+  SendInput(1, &input, sizeof input);
+}
+
 /// The visible window of this thread with that title; null for none.
 inline HWND WindowTitled(const std::u16string& title) {
   struct Search {

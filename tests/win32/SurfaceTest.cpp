@@ -4,6 +4,7 @@
 
 #include "backends/win32/view/TransferData.h"
 #include "view/Edits.h"
+#include "win32/Input.h"
 #include "win32/SurfaceBench.h"
 
 namespace lumenote {
@@ -94,24 +95,69 @@ TEST_F(SurfaceWindowTest, LayoutsOfManyKindsType) {
   }
 }
 
-TEST_F(SurfaceWindowTest, MouseSelectsAndScrolls) {
-  Put(u"un deux trois|");
-  Send(WM_LBUTTONDOWN, MK_LBUTTON, PointOf(3));
-  Send(WM_MOUSEMOVE, MK_LBUTTON, PointOf(7));
-  Send(WM_LBUTTONUP, 0, PointOf(7));
-  EXPECT_EQ(Shown(), "un ^deux| trois");
+TEST_F(SurfaceWindowTest, TheSystemsMouseSelects) {
+  const auto press = [&](Position at, int times = 1) {
+    MoveMouse(OnScreen(at));
+    for (int i = 0; i < times; ++i)
+      for (const DWORD act : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) UseMouse(act);
+  };
+  const auto drag = [&](Position from, Position to) {
+    MoveMouse(OnScreen(from));
+    UseMouse(MOUSEEVENTF_LEFTDOWN);
+    MoveMouse(OnScreen(to));
+    UseMouse(MOUSEEVENTF_LEFTUP);
+  };
+  const std::tuple<std::function<void()>, const char*> rows[] = {
+      {[&] { press(3); }, "a¶|un deux trois"},
+      {[&] { press(8, 2); }, "a¶un ^deux| trois"},
+      {[&] { press(8, 3); }, "a¶^un deux trois|"},
+      {[&] { press(8, 2), press(3); }, "a¶|un deux trois"},
+      {[&] { drag(7, 9); }, "a¶un d^eu|x trois"},
+      {[&] { press(7), Hold(VK_SHIFT, true), press(9), Hold(VK_SHIFT, false); },
+       "a¶un d^eu|x trois"}};
+  for (const auto& [act, after] : rows) {
+    Put(u"a¶un deux trois|");
+    press(0);  // somewhere else than the last time
+    act();
+    Pump();
+    EXPECT_EQ(Shown(), after);
+  }
+  released.clear();
+  for (const DWORD act : {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP}) UseMouse(act);
+  Pump();
   ASSERT_EQ(released.size(), 1u);
-  EXPECT_EQ(released[0].button, MouseButton::Left);
-  Send(WM_LBUTTONDBLCLK, MK_LBUTTON, PointOf(9));
-  Send(WM_LBUTTONUP, 0, PointOf(9));
-  EXPECT_EQ(Shown(), "un deux ^trois|");
-  surface.Text(Words(5000));
-  window->Settle();
-  Send(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)), 0);
-  const double turned = window->Text().Pane().Scroll().Read().value;
+  EXPECT_EQ(released[0].button, MouseButton::Right);
+}
+
+TEST_F(SurfaceWindowTest, TheSystemsMouseScrolls) {
+  const auto scrolled = [&] { return window->Text().Pane().Scroll().Read().value; };
+  Put(u"|" + Words(5000));
+  MoveMouse(OnScreen(0));
+  UseMouse(MOUSEEVENTF_WHEEL, -WHEEL_DELTA);
+  Pump();
+  const double turned = scrolled();
   EXPECT_GT(turned, 0);
   Send(WM_VSCROLL, SB_PAGEDOWN);
-  EXPECT_GT(window->Text().Pane().Scroll().Read().value, turned);
+  const double paged = scrolled();
+  EXPECT_GT(paged, turned);
+  const double zoom = window->Text().Pane().Zoom();
+  Hold(VK_CONTROL, true);
+  UseMouse(MOUSEEVENTF_WHEEL, WHEEL_DELTA);
+  Hold(VK_CONTROL, false);
+  Pump();
+  EXPECT_GT(window->Text().Pane().Zoom(), zoom);
+  Put(u"|" + Words(5000));
+  RECT area;
+  GetWindowRect(Handle(), &area);
+  MoveMouse({area.left + 50, area.top + 50});
+  UseMouse(MOUSEEVENTF_LEFTDOWN);
+  MoveMouse({area.left + 50, area.bottom + 40});
+  MSG message;  // the window's timer goes on while the mouse rests below it
+  while (scrolled() <= paged && GetMessageW(&message, nullptr, 0, 0) > 0)
+    DispatchMessageW(&message);
+  UseMouse(MOUSEEVENTF_LEFTUP);
+  Pump();
+  EXPECT_GT(surface.Selected().Length(), 500);
   EXPECT_EQ(window->Differences(), std::vector<std::string>());
 }
 
