@@ -141,6 +141,12 @@ void LeaveScripts(CharFormat& format, FormatTables& tables) {
   format.words = tables.words.Chain(std::move(words));
 }
 
+void LeaveDirections(CharFormat& format, FormatTables& tables) {
+  std::vector<KeptWord> words = tables.words.List(format.words);
+  std::erase_if(words, [](KeptWord word) { return word.kind == KeptWord::Kind::Size; });
+  format.words = tables.words.Chain(std::move(words));
+}
+
 void LeaveList(ParaFormat& format, FormatTables& tables) {
   format.list = 0;
   std::vector<KeptWord> words = tables.words.List(format.words);

@@ -36,6 +36,9 @@ CharId WithCellFormat(CharId format, FormatTables& tables, const Document::ParaM
 /// Removes what is said of single scripts from a run.
 void LeaveScripts(CharFormat& format, FormatTables& tables);
 
+/// Removes from a run what is said of the order of its size and directions.
+void LeaveDirections(CharFormat& format, FormatTables& tables);
+
 /// Removes the paragraph from its list.
 void LeaveList(ParaFormat& format, FormatTables& tables);
 

@@ -110,6 +110,7 @@ class Generator {
 
 /// What a source says of its note beyond the fonts and colours that it uses.
 KeptHead Said(KeptHead head) {
+  head.fontTable.clear();
   head.fonts.clear();
   head.colours.clear();
   head.defaultFont = -1;

@@ -88,8 +88,9 @@ struct KeptHead {
   };
   ItemId items = 0;                  // without the font and colour tables
   ItemId tail = 0;                   // after the text
+  bool generator = false;            // it names the program that wrote it
   bool tables = false;               // some kept content refers to the tables, so they are kept
-  std::string fontTable{};           // the content of its group, printed as it came
+  std::string fontTable{};           // the content of its group, printed as it came if not empty
   std::vector<Font> fonts{};         // by ascending number
   std::vector<Colour> colours{};     // by number
   std::vector<std::string> tints{};  // likewise: words before the colour

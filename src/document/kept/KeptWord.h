@@ -16,7 +16,8 @@ struct KeptWord {
     Script,      // the same for a script: \loch, \dbch
     HighScript,  // \hich
     Numbering,   // not a word but the group that numbers the paragraph
-    Font         // not a word but the place among the markers where the run's own font is said
+    Font,        // not a word but the place among the markers where the run's own font is said
+    Size         // the same for its size, if a marker follows
   };
   NameId name : 24 = 0;
   Kind kind : 8 = Kind::Bare;

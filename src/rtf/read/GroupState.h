@@ -36,7 +36,8 @@ struct GroupState {
   static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
 
   CharFormat character;
-  NameId part = 0;  // marker of the part of `character.words` that is being said, 0 none
+  int fontNumber = 0;  // of the last \f
+  NameId part = 0;     // marker of the part of `character.words` that is being said, 0 none
   ParagraphState paragraph;
   CodePage page;     // of text bytes
   int fallback = 1;  // \uc: number of fallback characters after a \u

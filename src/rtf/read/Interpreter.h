@@ -51,6 +51,7 @@ class Interpreter {
   void Field(int value, const Token& word);
   void FieldResult(int value, const Token& word);
   void Generator(int value, const Token& word);
+  void OwnTables(int value, const Token& word);
   void KeepWord(int value, const Token& word);
   void KeepSection(int value, const Token& word);
   void KeepRow(int value, const Token& word);
@@ -127,6 +128,7 @@ class Interpreter {
 
   ItemKeeper& RowItems();
   void KeepUnknown(const Token& word);
+  void KeepTint(const Token& word);
   void KeepInHead(std::string source);
   std::string GroupSource(std::size_t from);
   void PassTable();

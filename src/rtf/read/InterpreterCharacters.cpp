@@ -60,13 +60,19 @@ void Interpreter::Font(int, const Token& word) {
   if (!font) return;
   CharFormat& format = StatedCharacter(kStatesFont);
   format.font = font->font;
-  format.words = words_.WithFont(format.words);
+  const WordsId words = words_.WithFont(State().fontNumber, format.words);
+  needsTables_ |= words != format.words;
+  format.words = words;
+  State().fontNumber = word.number;
   State().page = CodePage(font->page ? font->page : documentPage_);
 }
 
 void Interpreter::Size(int, const Token& word) {
   const int size = word.hasNumber ? word.number : kStandardSize;
-  if (size > 0) StatedCharacter(kStatesSize).size = Clipped<std::uint16_t>(size);
+  if (size <= 0) return;
+  CharFormat& format = StatedCharacter(kStatesSize);
+  format.words = words_.WithSize(format.size, format.words);
+  format.size = Clipped<std::uint16_t>(size);
 }
 
 void Interpreter::Effect(int value, const Token& word) {
@@ -91,7 +97,15 @@ void Interpreter::Number(int row, const Token& word) {
   if (attribute.kind != Kind::Number) number = colours_[word.number];
   if (attribute.kind == Kind::Background && word.number == 0) number = kAutoColour;
   const bool colour = attribute.kind == Kind::Colour;
+  if (colour) KeepTint(word);
   attribute.set(colour ? StatedCharacter(kStatesColour) : EditCharacter(), number);
+}
+
+/// The number of a colour that is said with its place in a theme tells it from others of that look.
+void Interpreter::KeepTint(const Token& word) {
+  WordsId& words = EditCharacter().words;
+  const bool tinted = target_ == RtfTarget::Document && !colours_.Tint(word.number).empty();
+  words = tinted ? words_.With(word, words) : words_.Without(word, words);
 }
 
 void Interpreter::Raise(int value, const Token& word) {

@@ -15,11 +15,13 @@ void Interpreter::NestedRow(int, const Token&) { State().inNestedRow = true; }
 void Interpreter::SkipGroup(int, const Token&) { tokens_.SkipGroup(); }
 
 /// \upr contains the text twice; the first is for readers without Unicode. A group that shows
-/// nothing, such as a bookmark, is kept in both forms.
+/// nothing, such as a bookmark, is kept in both forms, with a \uc that holds for both before them.
 void Interpreter::SkipAlternative(int, const Token&) {
   const std::size_t from = tokens_.Start();
   const std::size_t behind = tokens_.At();
-  if (tokens_.Next().kind != Token::Kind::Open) return tokens_.Unread();
+  Token next = tokens_.Next();
+  if (next.kind == Token::Kind::Word && next.text == "uc") next = tokens_.Next();
+  if (next.kind != Token::Kind::Open) return tokens_.GoTo(behind);
   const std::size_t inside = tokens_.At();
   const bool aside = AtAside();
   tokens_.GoTo(aside ? behind : inside);

@@ -53,9 +53,8 @@ void Interpreter::KeepMark(int value, const Token& word) {
   if (target_ == RtfTarget::Selection) return;
   const auto kind = static_cast<KeptWord::Kind>(value);
   CharFormat& format = EditCharacter();
-  const bool hasFont = (format.stated & kStatesFont) != 0;
   State().part = words_.Name(word);
-  format.words = words_.WithMark(State().part, kind, hasFont, format.words);
+  format.words = words_.WithMark(State().part, kind, format.stated, format.words);
 }
 
 void Interpreter::KeepAssociated(int, const Token& word) {
@@ -169,11 +168,18 @@ CharId Interpreter::NextCharacter() {
 
 // --- the head
 
-/// Tables written by this component are kept as they are.
+/// Some readers lay out spaces by whether there is a generator.
 void Interpreter::Generator(int, const Token&) {
   const std::size_t from = tokens_.At();
   tokens_.SkipGroup();
+  head_.generator = true;
   needsTables_ |= tokens_.Source(from, tokens_.At()).starts_with(kOwnName);
+}
+
+/// Tables written by this component are kept as they are.
+void Interpreter::OwnTables(int, const Token&) {
+  tokens_.SkipGroup();
+  needsTables_ = true;
 }
 
 /// Everything before belongs to the note as a whole; a selection drops it.
@@ -184,9 +190,11 @@ void Interpreter::BeginBody() {
   if (target_ == RtfTarget::Document) headItems_ = std::move(items);
 }
 
-/// Whether some font leaves its bytes to a document's page other than that of Windows.
+/// Whether some font leaves its bytes, or those of its name, to a document's page other than that
+/// of Windows.
 bool Interpreter::NeedsPage() const {
   if (documentPage_ == kPageOfWindows) return false;
+  if (fonts_.HasForeignNames()) return true;
   return std::ranges::any_of(fonts_.All(), [&](const auto& entry) {
     const SourceFont& font = entry.second;
     return font.page == 0 && formats_.fonts[font.font].charset == kDefaultCharset;
@@ -200,11 +208,11 @@ HeadId Interpreter::Head() {
     head_.tints = colours_.Tints();
     if (head_.fontTable.empty()) head_.page = documentPage_;
   } else {
-    head_ = {};
+    head_ = {.fontTable = fonts_.HasForeignNames() ? std::move(head_.fontTable) : std::string()};
   }
   for (const auto& [number, font] : fonts_.All()) {
     const int page =
-        needsTables_ ? font.page : CodePageOfCharset(formats_.fonts[font.font].charset);
+        head_.fontTable.empty() ? CodePageOfCharset(formats_.fonts[font.font].charset) : font.page;
     head_.fonts.push_back({number, font.font, page});
   }
   std::ranges::sort(head_.fonts, {}, &KeptHead::Font::number);

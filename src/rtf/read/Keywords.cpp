@@ -66,6 +66,7 @@ constexpr Keyword kOwnWords[] = {
     {"fldinst", &I::SkipGroup, 0, true},
     {"fldrslt", &I::FieldResult, 0, true},
     {"generator", &I::Generator, 0, true},
+    {"lumenote", &I::OwnTables, 0, true},
     {"rsidtbl", &I::SkipGroup, 0, true},
     {"nonesttables", &I::SkipGroup, 0, true},
     {"private", &I::KeepAside, 0, true},

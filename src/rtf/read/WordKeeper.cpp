@@ -18,6 +18,12 @@ using Words = std::vector<KeptWord>;
 using Iterator = Words::iterator;
 
 bool IsFont(KeptWord word) { return word.kind == Kind::Font; }
+bool IsSize(KeptWord word) { return word.kind == Kind::Size; }
+
+bool IsOfParts(KeptWord word) { return IsMark(word) || IsFont(word) || IsSize(word); }
+
+bool HasMark(const Words& words) { return std::ranges::any_of(words, IsMark); }
+bool HasScript(const Words& words) { return std::ranges::any_of(words, IsScript); }
 
 struct Part {
   Iterator begin, end;
@@ -46,8 +52,16 @@ WordsId WordKeeper::With(const Token& word, WordsId words) {
   if (name == 0) return words;
   Words all = formats_.words.List(words);
   if (!MayRepeat(word.text)) std::erase_if(all, [=](KeptWord w) { return w.name == name; });
-  const auto ofParts = [](KeptWord w) { return IsMark(w) || IsFont(w); };
-  all.insert(std::ranges::find_if(all, ofParts), Numbered(name, word));
+  all.insert(std::ranges::find_if(all, IsOfParts), Numbered(name, word));
+  return Number(std::move(all), words);
+}
+
+WordsId WordKeeper::Without(const Token& word, WordsId words) {
+  if (words == 0) return words;
+  const auto same = [name = Name(word)](KeptWord w) { return name != 0 && w.name == name; };
+  if (!formats_.words.Any(words, same)) return words;
+  Words all = formats_.words.List(words);
+  std::erase_if(all, same);
   return Number(std::move(all), words);
 }
 
@@ -59,13 +73,17 @@ WordsId WordKeeper::WithNumbering(const std::string& group, WordsId words) {
   return Number(std::move(all), words);
 }
 
-WordsId WordKeeper::WithMark(NameId mark, KeptWord::Kind kind, bool hasFont, WordsId words) {
+WordsId WordKeeper::WithMark(NameId mark, Kind kind, std::uint8_t stated, WordsId words) {
   if (mark == 0) return words;
   Words all = formats_.words.List(words);
-  if (hasFont && std::ranges::none_of(all, IsMark)) all.push_back({.kind = Kind::Font});
+  if ((stated & kStatesFont) != 0 && !HasMark(all)) all.push_back({.kind = Kind::Font});
+  const bool sizeStays = (stated & kStatesSize) != 0 && kind == Kind::Direction &&
+                         !HasScript(all) && std::ranges::none_of(all, IsSize);
+  if (sizeStays) all.push_back({.kind = Kind::Size});
   const Part part = PartOf(mark, all);
   Words moved(part.begin, part.end);
   if (moved.empty()) moved.push_back({.name = mark, .kind = kind});
+  std::erase_if(moved, IsSize);
   all.erase(part.begin, part.end);
   const bool last = IsScript(moved.front());
   const Iterator to = last ? all.end() : std::ranges::find_if(all, IsScript);
@@ -85,13 +103,56 @@ WordsId WordKeeper::WithAssociated(NameId mark, const Token& word, WordsId words
   return Number(std::move(all), words);
 }
 
-WordsId WordKeeper::WithFont(WordsId words) {
+WordsId WordKeeper::WithFont(int before, WordsId words) {
   if (words == 0) return words;
   Words all = formats_.words.List(words);
-  if (std::ranges::none_of(all, IsMark)) return words;
-  std::erase_if(all, IsFont);
+  if (!HasMark(all)) return words;
+  if (HasScript(all))
+    std::erase_if(all, IsFont);
+  else
+    LeavePlace(Kind::Font, Associated("af", before), all);
   all.push_back({.kind = Kind::Font});
   return Number(std::move(all), words);
+}
+
+WordsId WordKeeper::WithSize(int before, WordsId words) {
+  const KeptWord associated = Associated("afs", before);
+  const auto concerned = [&](KeptWord w) { return IsSize(w) || w.name == associated.name; };
+  if (!formats_.words.Any(words, concerned) || formats_.words.Any(words, IsScript)) return words;
+  Words all = formats_.words.List(words);
+  LeavePlace(Kind::Size, associated, all);
+  return Number(std::move(all), words);
+}
+
+KeptWord WordKeeper::Associated(std::string_view name, int number) {
+  return {
+      .name = formats_.names.Intern(std::string(name)), .kind = Kind::Numbered, .number = number};
+}
+
+/// Puts `associated` where the run's own font or size was said, unless that is in the last part,
+/// which says it anew. What is said before all parts is said of text from left to right.
+void WordKeeper::LeavePlace(Kind place, KeptWord associated, Words& words) {
+  const auto says = [=](KeptWord w) { return w.name == associated.name; };
+  const auto isPlace = [=](KeptWord w) { return w.kind == place; };
+  const Iterator last = std::find_if(words.rbegin(), words.rend(), IsMark).base() - 1;
+  words.erase(std::remove_if(last, words.end(), [=](KeptWord w) { return says(w) || isPlace(w); }),
+              words.end());
+  if (std::none_of(words.begin(), last, isPlace)) return;
+  MarkStart(words);
+  const Iterator at = std::ranges::find_if(words, isPlace);
+  const Iterator end = std::find_if(at, words.end(), IsMark);
+  if (IsMark(*std::ranges::find_if(words, IsOfParts)) && std::none_of(at, end, says))
+    *at = associated;
+  else
+    words.erase(at);
+}
+
+/// Begins the parts with a marker, if it has no part yet.
+void WordKeeper::MarkStart(Words& words) {
+  const NameId leftToRight = formats_.names.Intern("ltrch");
+  if (std::ranges::any_of(words, [=](KeptWord w) { return w.name == leftToRight; })) return;
+  const Iterator first = std::ranges::find_if(words, IsOfParts);
+  if (!IsMark(*first)) words.insert(first, {.name = leftToRight, .kind = Kind::Direction});
 }
 
 NameId WordKeeper::Name(const Token& word) {

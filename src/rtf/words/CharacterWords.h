@@ -66,10 +66,11 @@ constexpr NumberWord WordOf(std::string_view name, NumberWord::Kind kind) {
   return {name, kind, GetNumber<kMember, kLeast>, SetNumber<kMember, kLeast>};
 }
 
+inline constexpr std::string_view kColourWord = "cf";
 inline constexpr NumberWord kNumberWords[] = {
     WordOf<&CharFormat::spacing, -0x8000>("expndtw", NumberWord::Kind::Number),
     WordOf<&CharFormat::scale, 1>("charscalex", NumberWord::Kind::Number),
-    WordOf<&CharFormat::colour, 0>("cf", NumberWord::Kind::Colour),
+    WordOf<&CharFormat::colour, 0>(kColourWord, NumberWord::Kind::Colour),
     WordOf<&CharFormat::highlight, 0>("highlight", NumberWord::Kind::Background),
     WordOf<&CharFormat::language, 0>("lang", NumberWord::Kind::Number),
 };

@@ -118,9 +118,10 @@ std::string_view SymbolFor(char16_t unit) {
   }
 }
 
-/// The name of a character that sources usually give by name; some readers ignore it, and show any
-/// other form as a character.
-std::string_view WordFor(char16_t unit) {
+/// The name of a character that sources usually give by name, except under a font whose page has
+/// it; some readers ignore the name, and show any other form as a character.
+std::string_view WordFor(char16_t unit, Encoding encoding) {
+  if (encoding == Encoding::UnicodeOnly) return {};
   switch (unit) {
     case u'\u200C':
       return "zwnj";
@@ -296,18 +297,18 @@ std::size_t Output::WriteEncoded(std::basic_string_view<Unit> text, Encoding enc
 void Output::Character(char16_t unit, Encoding encoding) {
   if (const std::string_view symbol = SymbolFor(unit); !symbol.empty()) {
     Raw(symbol);
-  } else if (const std::string_view word = WordFor(unit); !word.empty()) {
+  } else if (const std::string_view word = WordFor(unit, encoding); !word.empty()) {
     Word(word);
   } else if (const int byte = ByteFor(unit, encoding); byte >= 0) {
     Hex(byte);
-  } else if (unit != 0 && !(encoding == Encoding::Document && InPage(page_, unit))) {
+  } else if (unit != 0 && !(encoding == Encoding::Document && InDocumentPage(unit))) {
     Unicode(unit);
   }
   afterText_ = true;
 }
 
-bool Output::InPage(int page, char16_t unit) {
-  const std::string bytes = EncodeCodePage(page, unit);
+bool Output::InDocumentPage(char16_t unit) {
+  const std::string bytes = EncodeCodePage(page_, unit);
   for (const char byte : bytes) Hex(static_cast<unsigned char>(byte));
   return !bytes.empty();
 }

@@ -43,8 +43,6 @@ class Output {
   void Character(char16_t unit, Encoding encoding);
   /// \'xx
   void Hex(int byte);
-  /// Writes the bytes of a unit from U+0080 on in that page; false if it has none there.
-  bool InPage(int page, char16_t unit);
   /// A unit that any reader can handle: its number, with "?" as fallback.
   void Unicode(char16_t unit);
   /// Writes the longest prefix of plain characters and returns its length.
@@ -76,6 +74,9 @@ class Output {
   void Append(std::string_view source);
   void AppendLong(std::string_view source);
   void Grow(std::size_t count);
+
+  /// Writes the bytes of a character in the document's page; false if it has none.
+  bool InDocumentPage(char16_t unit);
 
   const ByteSink& sink_;
   int page_;

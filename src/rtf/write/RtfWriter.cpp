@@ -19,7 +19,7 @@ void WriteHead(const WrittenFormats& formats, const FormatTables& tables, const 
   formats.WriteFontTable(out);
   formats.WriteColourTable(out);
   if (whole) WriteItems(tables.items, head.items, out);
-  if (head.tables) out.Raw("{\\*\\generator Lumenote;}");
+  if (head.tables) out.Raw(head.generator ? "{\\*\\generator Lumenote;}" : "{\\*\\lumenote}");
   out.Words("\\viewkind4\\uc1");
 }
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "base/Strings.h"
+#include "base/Windows1252.h"
 #include "base/codepages/CodePage.h"
 #include "rtf/words/FontFamilies.h"
 
@@ -40,17 +41,17 @@ Encoding EncodingOf(const FontFace& face, int page, int documentPage) {
   }
 }
 
-/// In bytes of the font's page where possible, since some readers take nothing else for a name.
 void WriteFontName(const FontFace& face, Output& out) {
-  const int ownPage = CodePageOfCharset(face.charset);
-  const bool ofWindows = ownPage == 0 || ownPage == kPageOfSymbols;
-  const int page = ofWindows ? kPageOfWindows : ownPage;
+  const int page = CodePageOfCharset(face.charset);
+  const bool inWindowsPage = page == 0 || page == kPageOfWindows || page == kPageOfSymbols;
   for (const char16_t& unit : face.name) {
     if (unit != u';' && out.Plain(std::u16string_view(&unit, 1)) == 1) continue;
-    if (unit < 0x80)
-      out.Hex(unit);
-    else if (!out.InPage(page, unit))
+    const int byte = unit < 0x80 || inWindowsPage ? ByteIn1252(unit) : -1;
+    if (byte >= 0) {
+      out.Hex(byte);
+    } else {
       out.Unicode(unit);
+    }
   }
 }
 
@@ -149,8 +150,21 @@ void WrittenFormats::SetFont(const CharFormat& format, WrittenFormat& written) {
   written.encoding = font.encoding;
 }
 
+/// The number that the source gives the format's colour by its place in a theme; 0 if none.
+int WrittenFormats::TintedNumber(const CharFormat& format) const {
+  int number = 0;
+  tables_.words.ForEach(format.words, [&](KeptWord word) {
+    if (tables_.names[word.name] == kColourWord) number = word.number;
+  });
+  const bool same = number > 0 && static_cast<std::size_t>(number) < Head().colours.size() &&
+                    Head().colours[static_cast<std::size_t>(number)] == format.colour;
+  return same ? number : 0;
+}
+
 std::int32_t WrittenFormats::Number(const NumberWord& word, const CharFormat& format) {
   const std::int64_t number = word.get(format);
+  if (word.name == kColourWord)
+    if (const int tinted = TintedNumber(format); tinted > 0) return tinted;
   if (word.kind == NumberWord::Kind::Number) return static_cast<std::int32_t>(number);
   const bool unstated = number == kAutoColour && (format.stated & kStatesColour) == 0;
   if (word.kind == NumberWord::Kind::Colour && unstated) return kUnstated;
@@ -172,7 +186,7 @@ void WrittenFormats::WriteFontTable(Output& out) const {
   const std::string& kept = Head().fontTable;
   std::vector<std::uint32_t> written;
   for (std::uint32_t index = 0; index < faces_.Size(); ++index)
-    if (index >= headFonts_ || (!Head().tables && fonts_[index].used)) written.push_back(index);
+    if (index >= headFonts_ || (kept.empty() && fonts_[index].used)) written.push_back(index);
   if (kept.empty() && written.empty()) return;
   out.Raw("{\\fonttbl");
   for (const std::uint32_t index : written) WriteFont(faces_[index], fonts_[index], out);

@@ -65,6 +65,8 @@ LineWords WordsOf(LineRule rule, int spacing) {
 struct WordOrder {
   WordsId high = 0;      // the start of the last part if that is \hich's
   bool hasFont = false;  // the own font has a place among the words
+  bool hasSize = false;  // so has the size
+  bool marked = false;   // there are markers
   bool settled = true;   // a change of the run's own formats may follow as it is
 };
 
@@ -74,23 +76,35 @@ WordOrder OrderOf(WordsId words, const FormatTables& tables) {
     const KeptWord word = tables.words[id];
     if (IsMark(word)) order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
     if (IsMark(word)) order.settled = !order.hasFont;
+    if (IsMark(word)) order.marked = true;
     if (word.kind == KeptWord::Kind::Font) order.hasFont = order.settled = true;
+    if (word.kind == KeptWord::Kind::Size) order.hasSize = true;
   }
-  order.settled = order.settled && order.high == 0;
+  order.settled = order.settled && order.high == 0 && !order.hasSize;
   return order;
 }
 
-/// Writes the words of a run, up to `end`, and its font among them.
-void WriteWords(WordsId first, WordsId end, int font, const FormatTables& tables, Output& out) {
-  tables.words.ForEach(first, end, [&](KeptWord word) {
-    const std::string& name = tables.names[word.name];
-    if (word.kind == KeptWord::Kind::Numbered)
-      out.Word(name, word.number);
-    else if (word.kind != KeptWord::Kind::Font)
+void WriteWord(KeptWord word, const WrittenFormat& run, const FormatTables& tables, Output& out) {
+  const std::string& name = tables.names[word.name];
+  switch (word.kind) {
+    case KeptWord::Kind::Numbered:
+      if (name != kColourWord) out.Word(name, word.number);
+      return;
+    case KeptWord::Kind::Font:
+      if (run.font >= 0) out.Word("f", run.font);
+      return;
+    case KeptWord::Kind::Size:
+      if (run.size > 0) out.Word("fs", run.size);
+      return;
+    default:
       out.Word(name);
-    else if (font >= 0)
-      out.Word("f", font);
-  });
+  }
+}
+
+/// Writes the kept words of a run from `first` up to `end`, its font and size among them.
+void WriteWords(WordsId first, WordsId end, const WrittenFormat& run, const FormatTables& tables,
+                Output& out) {
+  tables.words.ForEach(first, end, [&](KeptWord word) { WriteWord(word, run, tables, out); });
 }
 
 constexpr WrittenFormat kPlain;  // what \plain makes
@@ -104,7 +118,8 @@ bool TakesBack(const WrittenFormat& from, const WrittenFormat& to) {
     return takesBack(from.numbers[i], to.numbers[i], kPlain.numbers[i]);
   };
   return takesBack(from.font, to.font, kPlain.font) || takesBack(from.size, to.size, kPlain.size) ||
-         takesBackNumber(NumberWordCalled("cf")) || takesBackNumber(NumberWordCalled("lang"));
+         takesBackNumber(NumberWordCalled(kColourWord)) ||
+         takesBackNumber(NumberWordCalled("lang"));
 }
 
 class ParagraphWriter {
@@ -175,10 +190,11 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   const WordOrder order = OrderOf(to.words, tables);
   const bool rewords = from.words != to.words || !order.settled;
   const bool anew = (rewords && from.words != 0) || TakesBack(from, to);
+  const bool worded = anew || rewords;
   const WrittenFormat& base = anew ? kPlain : from;
   EndMark(from.effects, to.effects, anew, out);
   if (anew) out.Reset();
-  if (anew || rewords) WriteWords(to.words, order.high, to.font, tables, out);
+  if (worded) WriteWords(to.words, order.high, to, tables, out);
   if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
   if (base.underline != to.underline)
     out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
@@ -187,10 +203,10 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   }
   for (std::size_t i = 0; i < to.numbers.size(); ++i)
     if (base.numbers[i] != to.numbers[i]) out.Word(kNumberWords[i].name, to.numbers[i]);
-  const bool fontWritten = order.hasFont && (anew || rewords);
-  if (!fontWritten && base.font != to.font) out.Word("f", to.font);
-  if (base.size != to.size) out.Word("fs", to.size);
-  if (anew || rewords) WriteWords(order.high, 0, to.font, tables, out);
+  if (!(order.hasFont && worded) && base.font != to.font) out.Word("f", to.font);
+  const bool sizeAnew = base.size != to.size || (worded && order.marked && to.size > 0);
+  if (!(order.hasSize && worded) && sizeAnew) out.Word("fs", to.size);
+  if (worded) WriteWords(order.high, 0, to, tables, out);
 }
 
 std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables) {

@@ -143,9 +143,10 @@ void CharacterFormats::FontSize(float points) {
       [=](const CharFormat& format) {
         return (format.stated & kStatesSize) == 0 || format.size != size;
       },
-      [=](CharFormat& format) {
+      [=, this](CharFormat& format) {
         format.size = size;
         format.stated |= kStatesSize;
+        LeaveDirections(format, core_.Formats());
       });
 }
 

@@ -62,6 +62,12 @@ bool ColourTable::HasTints() const {
   return std::ranges::any_of(tints_, [](const std::string& tint) { return !tint.empty(); });
 }
 
+const std::string& ColourTable::Tint(int number) const {
+  static const std::string kNone;
+  const bool inside = number >= 0 && static_cast<std::size_t>(number) < tints_.size();
+  return inside ? tints_[static_cast<std::size_t>(number)] : kNone;
+}
+
 Colour ColourTable::operator[](int number) const {
   const bool inside = number >= 0 && static_cast<std::size_t>(number) < colours_.size();
   return inside ? colours_[static_cast<std::size_t>(number)] : kAutoColour;

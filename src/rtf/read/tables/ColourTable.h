@@ -17,6 +17,8 @@ class ColourTable {
   const std::vector<Colour>& All() const { return colours_; }
   /// By number: the words that say which colour of a theme it is.
   const std::vector<std::string>& Tints() const { return tints_; }
+  /// Those words of one entry.
+  const std::string& Tint(int number) const;
   bool HasTints() const;
 
  private:

@@ -101,7 +101,11 @@ void FontTable::Read(Tokenizer& tokens, InternTable<FontFace>& faces, int docume
   const auto start = [&](int number) {
     entry.EndBytes();
     entry.UseScriptOfName();
-    if (entry.Number() >= 0) fonts_[entry.Number()] = {faces.Intern(entry.Face()), entry.Page()};
+    if (entry.Number() >= 0) {
+      const FontFace face = entry.Face();
+      foreign_ |= std::ranges::any_of(face.name, [](char16_t unit) { return unit >= 0x80; });
+      fonts_[entry.Number()] = {faces.Intern(face), entry.Page()};
+    }
     entry = Entry(documentPage, number);
   };
   const auto text = [&](std::string_view bytes) {

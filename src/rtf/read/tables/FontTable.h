@@ -20,9 +20,12 @@ class FontTable {
   /// Null if the source does not define the font.
   const SourceFont* Find(int number) const;
   const std::unordered_map<int, SourceFont>& All() const { return fonts_; }
+  /// Whether some name is not ASCII: readers differ in which form of it they understand.
+  bool HasForeignNames() const { return foreign_; }
 
  private:
   std::unordered_map<int, SourceFont> fonts_;
+  bool foreign_ = false;
 };
 
 }  // namespace lumenote
