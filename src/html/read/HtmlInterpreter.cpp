@@ -203,7 +203,7 @@ void HtmlInterpreter::Leave(const Open& open) {
   const bool begun = text_.Paragraphs() > open.begun;
   if (begun && change.below) text_.SpaceAfter(change.below->Twips(look_.character));
   if (!change.below) text_.Space(open.margin);
-  if (change.item) text_.Mark(std::nullopt);
+  if (change.item || change.mayBeItem) text_.Mark(std::nullopt);
   if (kind == Kind::Item && !begun) {
     text_.Begin(look_);
     text_.End();
