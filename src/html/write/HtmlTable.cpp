@@ -44,6 +44,14 @@ std::vector<std::int32_t> EqualEdges(std::size_t cells) {
   return edges;
 }
 
+/// Each cell is at least one twip wide.
+std::vector<std::int32_t> Rising(std::vector<std::int32_t> edges) {
+  constexpr std::int32_t kWidest = 1'000'000;  // twips
+  std::int32_t left = 0;
+  for (std::int32_t& edge : edges) left = edge = std::max(std::min(edge, kWidest), left + 1);
+  return edges;
+}
+
 /// Builds the rows from the top.
 class TableFinder {
  public:
@@ -82,7 +90,7 @@ void TableFinder::Row(Part row) {
   const bool stated = definition && definition->cells.size() == cells.size();
   if (table_.rows.empty()) table_.borders = definition && HasBorders(definition->source);
   table_.rows.push_back(std::move(cells));
-  edges_.push_back(stated ? definition->cells : EqualEdges(table_.rows.back().size()));
+  edges_.push_back(Rising(stated ? definition->cells : EqualEdges(table_.rows.back().size())));
   if (stated)
     Merge(edges_.back(), definition->source);
   else
@@ -119,14 +127,14 @@ void TableFinder::CountColumns() {
   for (std::size_t row = 0; row < edges_.size(); ++row)
     for (std::size_t cell = 0; cell < edges_[row].size(); ++cell) {
       const auto columns = at(edges_[row][cell]) - at(Left(row, cell));
-      table_.rows[row][cell].columns = static_cast<int>(std::max<std::ptrdiff_t>(columns, 1));
+      table_.rows[row][cell].columns = static_cast<int>(columns);
     }
 }
 
 HtmlTable TableFinder::Finish() {
   for (std::size_t row = 0; row < edges_.size(); ++row)
     for (std::size_t cell = 0; cell < edges_[row].size(); ++cell)
-      table_.rows[row][cell].width = std::max(edges_[row][cell] - Left(row, cell), 1);
+      table_.rows[row][cell].width = edges_[row][cell] - Left(row, cell);
   CountColumns();
   return std::move(table_);
 }
