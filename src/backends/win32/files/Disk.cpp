@@ -35,11 +35,15 @@ bool IsFolder(DWORD attributes) {
 
 bool IsLink(DWORD attributes) { return (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0; }
 
-// A folder that is being deleted is "access denied" here, until the last handle to it has gone.
+/// Whether a name is still taken by what is being deleted, until the last handle to it has gone.
+bool IsGoing(const std::string& path) {
+  return AttributesOf(path) == INVALID_FILE_ATTRIBUTES && LastError() == ERROR_ACCESS_DENIED;
+}
+
 int MakeFolder(const std::string& path) {
   return Patiently([&] {
     const int error = ErrorUnless(CreateDirectoryW(SystemPath(path).c_str(), nullptr));
-    return error == ERROR_ACCESS_DENIED ? ERROR_SHARING_VIOLATION : error;
+    return error == ERROR_ACCESS_DENIED && IsGoing(path) ? ERROR_SHARING_VIOLATION : error;
   });
 }
 
