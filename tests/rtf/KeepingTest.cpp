@@ -1,6 +1,7 @@
 // What the editor does not show comes through reading, editing and writing.
 #include <gtest/gtest.h>
 #include <sstream>
+#include <utility>
 
 #include "CheckRows.h"
 #include "Reading.h"
@@ -95,12 +96,35 @@ TEST(Keeping, ASelectionIsWrittenWithoutAFinalParagraph) {
   EXPECT_EQ(body(1, 1), "}");
 }
 
-TEST(Keeping, ASelectionLeavesTheHeadAndItsNumbersBehind) {
+TEST(Keeping, ASelectionCarriesTheStylesAndListsThatItNames) {
   const Document document =
-      Read(R"({\rtf1{\info{\title t}}\pard\s1\ls2\keep{\listtext 1.\tab}a\par})");
+      Read(R"({\rtf1{\stylesheet{\s1\sbasedon2 A;}{\s2 B;}{\s3 C;}}{\info{\title t}})"
+           R"({\*\listtable{\list\listid4}{\list\listid5}})"
+           R"({\*\listoverridetable{\listoverride\listid4\ls1}{\listoverride\listid5\ls2}})"
+           R"(\pard\s1\ls2\keep{\listtext 1.\tab}a\par\pard\ls9{\listtext 2.\tab}b\par})");
   const std::string part = WriteRtf(document, 0, document.Length());
-  EXPECT_TRUE(part.find("title") == part.npos && part.find("listtext") == part.npos);
-  EXPECT_EQ(TextOf(Read(part, RtfTarget::Selection)), "1.\ta");
+  const std::string head = part.substr(0, part.find("\\viewkind4"));
+  for (const std::string_view kept : {"\\s1", "\\s2 B", "\\listid5", "\\ls2"})
+    EXPECT_NE(head.find(kept), head.npos) << kept << head;
+  for (const std::string_view left : {"C;", "title", "\\listid4", "\\ls1", "\\ls9"})
+    EXPECT_EQ(part.find(left), part.npos) << left << part;
+  EXPECT_EQ(TextOf(Read(part, RtfTarget::Selection)), "1.\ta\n2.\tb");
+}
+
+TEST(Keeping, WhatIsPastedGetsTheNumbersOfTheNote) {
+  for (const auto& [source, part, expected] : Rows<3>(DataFile("pasting.rows"), " => ")) {
+    Document note = Read("{\\rtf1" + source + "\\par}");
+    for (int times = 0; times < 3; ++times) {
+      Fragment pasted =
+          ReadRtf("{\\rtf1" + part + "}", note.Formats(), RtfTarget::Selection, {}, note.Mark());
+      EXPECT_TRUE(times == 0 || !pasted.mark) << part;
+      note.Replace(0, note.Length(), std::move(pasted));
+    }
+    EXPECT_EQ(Replaced(Replaced(WriteRtf(note), "\r\n", ""), "{\\rtf1\\ansi\\ansicpg1252", "~"),
+              expected)
+        << source;
+    EXPECT_EQ(LossOf(note), "") << source;
+  }
 }
 
 TEST(Keeping, AnEditLeavesTextOnItsPageAndInItsRow) {

@@ -57,6 +57,25 @@ TEST(UserDoor, DropKeepsFormats) {
   EXPECT_EQ(bench.surface.UndoType(), UndoKind::DragDrop);
 }
 
+TEST(UserDoor, WhatIsPastedBringsItsTablesAndUndoTakesThemBack) {
+  UserBench from, to;
+  from.surface.TextRTF(uR"({\rtf1{\fonttbl{\f7 B;}}a{\footnote\f7 n}})");
+  from.surface.UserSelect(0, 2);
+  from.surface.Copy();
+  to.clipboard = from.clipboard;
+  to.Put(u"x^y|");
+  const std::u16string before = to.surface.TextRTF();
+  to.surface.Paste();
+  const std::u16string once = to.surface.TextRTF();
+  EXPECT_NE(once.find(u"{\\f7\\fnil\\fcharset0 B;}"), once.npos) << ToUtf8(once);
+  to.surface.UserSelect(1, 3);
+  to.surface.Copy();
+  for (int times = 0; times < 100; ++times) to.surface.Paste();
+  EXPECT_TRUE(to.surface.TextRTF().starts_with(once.substr(0, once.find(u"\\viewkind4"))));
+  while (to.surface.CanUndo()) to.surface.Undo();
+  EXPECT_EQ(to.surface.TextRTF(), before);
+}
+
 TEST(UserDoor, ToggleKeys) {
   UserBench bench;
   bench.Put(u"un ^de|ux");

@@ -4,6 +4,11 @@
 
 namespace lumenote {
 
+const std::string& TintOf(const KeptHead& head, std::size_t colour) {
+  static const std::string kNone;
+  return colour < head.tints.size() ? head.tints[colour] : kNone;
+}
+
 std::uint64_t HashOf(const KeptItem& item) {
   return HashOf(item.source) * 31 + item.next + static_cast<std::uint64_t>(item.kind);
 }

@@ -1,6 +1,7 @@
 // Kept content: what a note's RTF source says that the editor does not show, at characters, around
 // them, and for the whole note. The reader creates these items, the writer prints them.
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <type_traits>
@@ -83,7 +84,8 @@ struct KeptHead {
   struct Font {
     int number = 0;
     FontId font = 0;
-    int page = 0;  // code page of its bytes; 0: that of its charset, else the document's
+    int page = 0;        // code page of its bytes; 0: that of its charset, else the document's
+    bool added = false;  // not in `fontTable`, although the tables are kept
     bool operator==(const Font&) const = default;
   };
   ItemId items = 0;                  // without the font and colour tables
@@ -98,6 +100,9 @@ struct KeptHead {
   int defaultFont = -1;              // one of `fonts`; -1: none
   bool operator==(const KeptHead&) const = default;
 };
+
+/// The words before a colour of the table.
+const std::string& TintOf(const KeptHead& head, std::size_t colour);
 
 std::uint64_t HashOf(const KeptItem& item);
 std::uint64_t HashOf(const KeptField& field);

@@ -27,4 +27,8 @@ std::vector<SourceGroup> GroupsOf(std::string_view source) {
   return groups;
 }
 
+std::string_view InsideOf(std::string_view group) {
+  return group.size() < 2 ? std::string_view() : group.substr(1, group.size() - 2);
+}
+
 }  // namespace lumenote

@@ -11,5 +11,7 @@ struct SourceGroup {
 };
 /// The outermost groups, without what stands among them. They are views of the source.
 std::vector<SourceGroup> GroupsOf(std::string_view source);
+/// What stands between the braces of a group.
+std::string_view InsideOf(std::string_view group);
 
 }  // namespace lumenote

@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "base/Strings.h"
+#include "document/paste/HeadMerge.h"
+#include "document/paste/PastedText.h"
 #include "rtf/read/Keywords.h"
 
 namespace lumenote {
@@ -46,9 +48,10 @@ char16_t CharacterOf(char symbol) {
 }  // namespace
 
 Interpreter::Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
-                         const CharFormat& base, std::size_t opened)
+                         const CharFormat& base, const FinalMark& note, std::size_t opened)
     : tokens_(source),
       target_(target),
+      note_(note),
       formats_(formats),
       groups_(1),
       default_(base),
@@ -69,7 +72,9 @@ Fragment Interpreter::Read() {
   State().characterKnown = false;
   if (!marker_.empty()) PlaceMarker();
   Fragment fragment = body_.Finish(target_, {CharacterNumber(), EndedParagraph()});
-  if (fragment.mark) fragment.mark->head = Head();
+  if (target_ == RtfTarget::Selection)
+    return WithTablesOf(note_, std::move(fragment), HeadTables(), HeadSource(headItems_), formats_);
+  fragment.mark->head = Head();
   return fragment;
 }
 
@@ -301,7 +306,7 @@ ParaId Interpreter::NumberOf(const ParagraphState& paragraph) {
   ParaFormat format = paragraph.Resolved();
   format.bullet = HasBullet(paragraph);
   const bool listed = paragraph.list >= 0 && !paragraph.bullet;
-  if (target_ == RtfTarget::Document && listed) {
+  if (listed) {
     format.list = static_cast<std::uint16_t>(std::min(paragraph.list, 0xFFFE) + 1);
     format.level = static_cast<std::uint8_t>(std::clamp(paragraph.level, 0, 0xFF));
   }

@@ -24,9 +24,9 @@ namespace lumenote {
 /// counted, so their formats leak outwards, but memory is bounded.
 class Interpreter {
  public:
-  /// The source starts inside `opened` groups.
+  /// The source starts inside `opened` groups. A selection goes to the note that `note` ends.
   Interpreter(std::string_view source, RtfTarget target, FormatTables& formats,
-              const CharFormat& base, std::size_t opened);
+              const CharFormat& base, const FinalMark& note, std::size_t opened);
   Fragment Read();
   FontId PlainFont() const { return default_.font; }
 
@@ -148,6 +148,7 @@ class Interpreter {
   static KeptItem RowDefinition(const KeptItems& items);
   CharId CharacterWith(Kept kept);
   CharId NextCharacter();
+  KeptHead& HeadTables();
   HeadId Head();
   bool NeedsPage() const;
   void UseDefaultFont(GroupState& state);
@@ -171,6 +172,7 @@ class Interpreter {
 
   Tokenizer tokens_;
   RtfTarget target_;
+  FinalMark note_;
   FormatTables& formats_;
   BodyText body_;
   std::vector<GroupState> groups_;

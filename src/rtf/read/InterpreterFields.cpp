@@ -92,8 +92,7 @@ void Interpreter::PlaceMarker() {
   State().fieldAt = GroupState::kNowhere;
   State().fallback = markerFallback_;
   numbering_ = IsNumbered();
-  if (numbering_ && target_ == RtfTarget::Document)
-    EnterField(KeptField::Kind::ListNumber, "{\\" + std::string(markerWord_));
+  if (numbering_) EnterField(KeptField::Kind::ListNumber, "{\\" + std::string(markerWord_));
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
   const std::size_t uncounted = std::exchange(uncounted_, 0);

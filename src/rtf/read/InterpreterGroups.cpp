@@ -55,7 +55,7 @@ void Interpreter::Numbering(int, const Token&) {
   if (paragraph.bullet || paragraph.numbered) return;
   paragraph.bullet = bullet;
   paragraph.numbered = !bullet;
-  if (!bullet && target_ == RtfTarget::Document)
+  if (!bullet)
     paragraph.format.words = words_.WithNumbering(GroupSource(from), paragraph.format.words);
   Outer().paragraph = paragraph;
   Outer().paragraphKnown = false;

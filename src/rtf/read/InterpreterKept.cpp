@@ -3,6 +3,7 @@
 #include <iterator>
 #include <utility>
 
+#include "document/kept/EntryWords.h"
 #include "rtf/read/Interpreter.h"
 #include "rtf/read/KeptSource.h"
 
@@ -28,9 +29,7 @@ void Interpreter::KeepWord(int value, const Token& word) {
   else
     borderOf_ = NamesBorder(word.text) ? scope : WordScope::None;
   if (scope == WordScope::None) return;
-  const bool namesEntry = NamesTableEntry(word.text);
-  if (target_ == RtfTarget::Selection && namesEntry) return;
-  needsTables_ |= namesEntry;
+  needsTables_ |= TableNamedBy(word.text).has_value();
   if (scope == WordScope::Character) {
     EditCharacter().words = words_.With(word, State().character.words);
   } else if (scope == WordScope::Paragraph) {
@@ -50,7 +49,6 @@ void Interpreter::KeepStyle(int, const Token& word) {
 }
 
 void Interpreter::KeepMark(int value, const Token& word) {
-  if (target_ == RtfTarget::Selection) return;
   const auto kind = static_cast<KeptWord::Kind>(value);
   CharFormat& format = EditCharacter();
   State().part = words_.Name(word);
@@ -58,8 +56,7 @@ void Interpreter::KeepMark(int value, const Token& word) {
 }
 
 void Interpreter::KeepAssociated(int, const Token& word) {
-  if (target_ == RtfTarget::Selection) return;
-  needsTables_ |= NamesTableEntry(word.text);
+  needsTables_ |= TableNamedBy(word.text).has_value();
   EditCharacter().words = words_.WithAssociated(State().part, word, State().character.words);
 }
 
@@ -130,7 +127,7 @@ void Interpreter::KeepInHead(std::string source) {
   ++contentCount_;
   if (inHead_)
     items_.Keep(KeptItem::Kind::Group, source);
-  else if (target_ == RtfTarget::Document)
+  else
     headItems_.push_back({.source = std::move(source)});
 }
 
@@ -182,12 +179,11 @@ void Interpreter::OwnTables(int, const Token&) {
   needsTables_ = true;
 }
 
-/// Everything before belongs to the note as a whole; a selection drops it.
+/// Everything before belongs to the note as a whole.
 void Interpreter::BeginBody() {
   if (!inHead_) return;
   inHead_ = false;
-  KeptItems items = items_.Take();
-  if (target_ == RtfTarget::Document) headItems_ = std::move(items);
+  headItems_ = items_.Take();
 }
 
 /// Whether some font leaves its bytes, or those of its name, to a document's page other than that
@@ -201,7 +197,8 @@ bool Interpreter::NeedsPage() const {
   });
 }
 
-HeadId Interpreter::Head() {
+/// The fonts and colours of the head.
+KeptHead& Interpreter::HeadTables() {
   needsTables_ |= NeedsPage();
   if (needsTables_) {
     head_.colours = colours_.All();
@@ -218,6 +215,11 @@ HeadId Interpreter::Head() {
   std::ranges::sort(head_.fonts, {}, &KeptHead::Font::number);
   if (fonts_.Find(defaultFont_)) head_.defaultFont = defaultFont_;
   head_.tables = needsTables_;
+  return head_;
+}
+
+HeadId Interpreter::Head() {
+  HeadTables();
   head_.items = formats_.items.Chain(std::move(headItems_));
   head_.tail = formats_.items.Chain(items_.Take());
   return formats_.heads.Intern(std::move(head_));

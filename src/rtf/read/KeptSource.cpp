@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "document/kept/EntryWords.h"
 #include "rtf/read/Keywords.h"
 #include "rtf/read/WordFamilies.h"
 
@@ -127,7 +128,7 @@ void KeptSource::Append(const Token& token, std::string_view source, bool digits
   if (token.kind == Kind::Open) ++open;
   if (token.kind == Kind::Close) --open;
   needsHead |= token.kind == Kind::High || token.kind == Kind::Byte ||
-               (token.kind == Kind::Word && NamesTableEntry(token.text));
+               (token.kind == Kind::Word && TableNamedBy(token.text));
   const bool bare = token.kind == Kind::High || (token.kind == Kind::Byte && source.size() == 1);
   if (bare) return AppendHex(source, "\\'", text);
   if (token.kind == Kind::Symbol && IsControl(token.byte)) source = ControlSymbol(token.byte);

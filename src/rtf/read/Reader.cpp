@@ -40,24 +40,25 @@ std::optional<std::string_view> Body(std::string_view bytes) {
 
 /// What reads the bytes.
 Interpreter InterpreterOf(std::string_view bytes, FormatTables& formats, RtfTarget target,
-                          const CharFormat& base) {
+                          const CharFormat& base, const FinalMark& note) {
   // No token yields more units than it has bytes, so this keeps every position in range.
   constexpr std::size_t kMax = std::numeric_limits<Position>::max();
   const std::optional<std::string_view> body = Body(bytes);
   const std::string_view source = body.value_or(bytes).substr(0, kMax);
-  return Interpreter(source, target, formats, base, body ? 1 : 0);
+  return Interpreter(source, target, formats, base, note, body ? 1 : 0);
 }
 
 }  // namespace
 
 bool LooksLikeRtf(std::string_view bytes) { return Body(bytes).has_value(); }
 
-Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target, CharFormat base) {
-  return InterpreterOf(bytes, formats, target, base).Read();
+Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target, CharFormat base,
+                 FinalMark note) {
+  return InterpreterOf(bytes, formats, target, base, note).Read();
 }
 
 RtfNote ReadRtfNote(std::string_view bytes, FormatTables& formats, CharFormat base) {
-  Interpreter interpreter = InterpreterOf(bytes, formats, RtfTarget::Document, base);
+  Interpreter interpreter = InterpreterOf(bytes, formats, RtfTarget::Document, base, {});
   Fragment content = interpreter.Read();
   return {std::move(content), interpreter.PlainFont()};
 }

@@ -14,14 +14,16 @@ bool LooksLikeRtf(std::string_view bytes);
 /// What the text is read for.
 enum class RtfTarget {
   Document,   // the closing \par is the final mark, part of the fragment
-  Selection,  // every \par is a break; no final mark
+  Selection,  // every \par is a break; goes into another note
 };
 
 /// Accepts any bytes: damaged or truncated RTF yields the text that is there; hostile RTF takes
 /// bounded time and memory. Interns formats in `formats`. Throws only if an allocation fails.
 /// `base` shows what the source does not state; its font, where the source names no default one.
+/// A selection takes the numbers of the note that `note` ends, and has a mark only if that note
+/// needs another head.
 Fragment ReadRtf(std::string_view bytes, FormatTables& formats, RtfTarget target,
-                 CharFormat base = {.size = 24});
+                 CharFormat base = {.size = 24}, FinalMark note = {});
 
 /// The same for a whole note.
 struct RtfNote {

@@ -16,12 +16,6 @@ constexpr Names kShadings = "bg";  // paragraph patterns
 constexpr Names kBorders[] = {"brdr", "brsp"};
 constexpr Names kBorderOwners[] = {"box", "brdr", "trbrdr", "clbrdr", "pgbrdr", "chbrdr"};
 
-constexpr Names kTableWords[] = {"af",    "brdrcf",    "cb",        "cbpat",     "cf",
-                                 "cfpat", "chcbpat",   "chcfpat",   "clcbpat",   "clcfpat",
-                                 "cs",    "f",         "highlight", "ls",        "pnf",
-                                 "s",     "trcbpat",   "trcfpat",   "ts",        "ulc",
-                                 "adeff", "stshfdbch", "stshfloch", "stshfhich", "stshfbi"};
-
 template <std::size_t Size>
 bool HasPrefix(const Names (&beginnings)[Size], Names word) {
   return std::ranges::any_of(beginnings,
@@ -39,9 +33,5 @@ WordScope FamilyScope(std::string_view word) {
 bool NamesBorder(std::string_view word) { return HasPrefix(kBorderOwners, word); }
 
 bool MayRepeat(std::string_view word) { return HasPrefix(kBorders, word); }
-
-bool NamesTableEntry(std::string_view word) {
-  return std::ranges::find(kTableWords, word) != std::end(kTableWords);
-}
 
 }  // namespace lumenote

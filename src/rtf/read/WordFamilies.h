@@ -20,7 +20,5 @@ WordScope FamilyScope(std::string_view word);
 bool NamesBorder(std::string_view word);
 /// Whether a paragraph may repeat the word, once per side of its border.
 bool MayRepeat(std::string_view word);
-/// Whether the word's number refers to a font, colour, style or list.
-bool NamesTableEntry(std::string_view word);
 
 }  // namespace lumenote

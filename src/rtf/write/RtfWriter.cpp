@@ -12,13 +12,16 @@ void WriteItems(const ChainTable<KeptItem>& items, ItemId first, Output& out) {
 }
 
 void WriteHead(const WrittenFormats& formats, const FormatTables& tables, const KeptHead& head,
-               bool whole, Output& out) {
+               CopiedTables* part, Output& out) {
   out.Raw("{\\rtf1\\ansi");
   out.Word("ansicpg", head.page);
   if (formats.DefaultFont() >= 0) out.Word("deff", formats.DefaultFont());
   formats.WriteFontTable(out);
   formats.WriteColourTable(out);
-  if (whole) WriteItems(tables.items, head.items, out);
+  if (part)
+    out.Words(part->Groups());
+  else
+    WriteItems(tables.items, head.items, out);
   if (head.tables) out.Raw(head.generator ? "{\\*\\generator Lumenote;}" : "{\\*\\lumenote}");
   out.Words("\\viewkind4\\uc1");
 }
@@ -33,7 +36,9 @@ RtfWriter::RtfWriter(const Document& document, Selection range, std::optional<Fi
       at_(range_.start),
       scan_(document, range_.start, mark_ ? &*mark_ : nullptr),
       formats_(document.Formats(), document.Mark().head),
-      out_(sink, document.Formats().heads[document.Mark().head].page) {}
+      out_(sink, document.Formats().heads[document.Mark().head].page) {
+  if (!mark_) part_.emplace(document.Formats(), document.Mark().head);
+}
 
 bool RtfWriter::Step(Position units) {
   if (out_.HandOn()) return out_.Waits() || stage_ != Stage::Done;
@@ -65,10 +70,14 @@ void RtfWriter::Scan(Selection piece) {
   std::size_t known = scan_.found.formats.size();
   scan_.Take(piece.start, piece.end);
   const std::vector<ParaId>& paragraphs = scan_.found.formats;
-  for (; known < paragraphs.size(); ++known)
+  for (; known < paragraphs.size(); ++known) {
     bullets_ = bullets_ || document_.Formats().paragraphs[paragraphs[known]].bullet != 0;
-  document_.ForEachRun(piece.start, piece.end,
-                       [this](Position, TextView, CharId format) { formats_.Use(format); });
+    if (part_) part_->UseParagraph(paragraphs[known]);
+  }
+  document_.ForEachRun(piece.start, piece.end, [this](Position, TextView, CharId format) {
+    formats_.Use(format);
+    if (part_) part_->UseCharacter(format);
+  });
 }
 
 /// The first pass is complete.
@@ -86,8 +95,9 @@ void RtfWriter::Begin() {
 void RtfWriter::Write(Selection piece) {
   const FormatTables& tables = document_.Formats();
   if (!body_) {
-    WriteHead(formats_, tables, tables.heads[document_.Mark().head], mark_.has_value(), out_);
-    body_.emplace(tables, formats_, std::move(scan_.found), mark_.has_value(), out_);
+    CopiedTables* const part = part_ ? &*part_ : nullptr;
+    WriteHead(formats_, tables, tables.heads[document_.Mark().head], part, out_);
+    body_.emplace(tables, formats_, std::move(scan_.found), part, out_);
   }
   document_.ForEachRun(piece.start, piece.end, [this](Position, TextView text, CharId format) {
     body_->Text(text, format);

@@ -43,6 +43,7 @@ class RtfWriter {
   Position at_;
   ParagraphScan scan_;
   WrittenFormats formats_;
+  std::optional<CopiedTables> part_;  // of a selection
   bool bullets_ = false;
   Output out_;
   std::optional<WrittenBody> body_;

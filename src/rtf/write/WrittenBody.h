@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "document/Document.h"
+#include "document/paste/CopiedTables.h"
 #include "rtf/write/Output.h"
 #include "rtf/write/WrittenFormats.h"
 #include "rtf/write/WrittenParagraphs.h"
@@ -14,13 +15,13 @@ namespace lumenote {
 
 class WrittenBody {
  public:
-  /// `whole` means a document, which has the lists of the source's head.
+  /// `part` knows the lists of a selection; null for a document, which has all of the source's.
   WrittenBody(const FormatTables& tables, const WrittenFormats& formats,
-              WrittenParagraphs paragraphs, bool whole, Output& out)
+              WrittenParagraphs paragraphs, const CopiedTables* part, Output& out)
       : tables_(tables),
         formats_(formats),
         paragraphs_(std::move(paragraphs)),
-        whole_(whole),
+        part_(part),
         out_(out),
         knownWords_(tables.paragraphs.Size()),
         lastKept_(paragraphs_.outside) {}
@@ -85,7 +86,7 @@ class WrittenBody {
   const FormatTables& tables_;
   const WrittenFormats& formats_;
   WrittenParagraphs paragraphs_;
-  bool whole_;
+  const CopiedTables* part_;
   Output& out_;
 
   std::size_t index_ = 0;    // of the current paragraph

@@ -69,7 +69,7 @@ void WrittenFormats::AddFonts() {
     const FontFace& face = tables_.fonts[font.font];
     const std::uint32_t index = faces_.Intern(face);
     if (index == fonts_.size())
-      fonts_.push_back({font.number, EncodingOf(face, font.page, Head().page)});
+      fonts_.push_back({font.number, EncodingOf(face, font.page, Head().page), false, font.added});
     if (font.number == Head().defaultFont) UseDefault(fonts_[index]);
     if (font.number < kWildNumber) nextFont_ = std::max(nextFont_, font.number + 1);
   }
@@ -88,7 +88,7 @@ void WrittenFormats::AddColours() {
   if (colours_.empty()) colours_.push_back(kAutoColour);
   const auto add = [&](bool tinted) {
     for (std::size_t i = 0; i < colours_.size(); ++i)
-      if (Tint(i).empty() != tinted) AddColour(i);
+      if (TintOf(Head(), i).empty() != tinted) AddColour(i);
   };
   add(false);
   add(true);
@@ -99,13 +99,8 @@ void WrittenFormats::AddColour(std::size_t place) {
   if (place == 0 && colours_[0] != kAutoColour) return;
   const auto [entry, added] = colourNumbers_.try_emplace(colours_[place], static_cast<int>(place));
   if (added || entry->second < 0) return;
-  const std::string& known = Tint(static_cast<std::size_t>(entry->second));
-  if (!known.empty() && known != Tint(place)) entry->second = kNoEntry;
-}
-
-const std::string& WrittenFormats::Tint(std::size_t place) const {
-  static const std::string kNone;
-  return place < Head().tints.size() ? Head().tints[place] : kNone;
+  const std::string& known = TintOf(Head(), static_cast<std::size_t>(entry->second));
+  if (!known.empty() && known != TintOf(Head(), place)) entry->second = kNoEntry;
 }
 
 void WrittenFormats::UseFontZero() {
@@ -186,7 +181,8 @@ void WrittenFormats::WriteFontTable(Output& out) const {
   const std::string& kept = Head().fontTable;
   std::vector<std::uint32_t> written;
   for (std::uint32_t index = 0; index < faces_.Size(); ++index)
-    if (index >= headFonts_ || (kept.empty() && fonts_[index].used)) written.push_back(index);
+    if (index >= headFonts_ || fonts_[index].added || (kept.empty() && fonts_[index].used))
+      written.push_back(index);
   if (kept.empty() && written.empty()) return;
   out.Raw("{\\fonttbl");
   for (const std::uint32_t index : written) WriteFont(faces_[index], fonts_[index], out);
@@ -207,11 +203,11 @@ void WrittenFormats::WriteFont(const FontFace& face, const Font& font, Output& o
 }
 
 void WrittenFormats::WriteColourTable(Output& out) const {
-  if (colours_.size() == 1 && colours_[0] == kAutoColour && Tint(0).empty()) return;
+  if (colours_.size() == 1 && colours_[0] == kAutoColour && TintOf(Head(), 0).empty()) return;
   out.Raw("{\\colortbl ");
   for (std::size_t i = 0; i < colours_.size(); ++i) {
     const Colour colour = colours_[i];
-    out.Words(Tint(i));
+    out.Words(TintOf(Head(), i));
     if (colour != kAutoColour) {
       out.Word("red", static_cast<int>(colour & 0xFF));
       out.Word("green", static_cast<int>(colour >> 8 & 0xFF));

@@ -77,13 +77,12 @@ class WrittenFormats {
     int number = 0;
     Encoding encoding = Encoding::Windows;
     bool used = false;
+    bool added = false;  // to the tables of the source
   };
 
   void AddFonts();
   void AddColours();
   void AddColour(std::size_t place);
-  /// The words before a colour of the table.
-  const std::string& Tint(std::size_t place) const;
   void UseDefault(Font& font);
   void UseFontZero();
   const Font& FontOf(const FontFace& face);

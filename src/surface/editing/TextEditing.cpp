@@ -37,9 +37,17 @@ void TextEditing::ReplaceSelection(UndoKind kind, const Fragment& fragment) {
   const Selection old = core_.Selected();
   core_.Edit(kind, [&] {
     const Position behind = old.start + fragment.Length();
-    ReplaceRange(old.start, old.end, fragment);
+    TakeTables(fragment, old.start);
+    ReplaceRange(old.start, old.end, {fragment.leaves, {}});
     core_.Place(behind, behind);
   });
+}
+
+void TextEditing::TakeTables(const Fragment& fragment, Position at) {
+  if (!fragment.mark) return;
+  FinalMark mark = core_.Content().Mark();
+  mark.head = fragment.mark->head;
+  core_.Replace(at, at, {{}, mark});
 }
 
 // Whether replacing the selection by `text` would change nothing.
@@ -157,7 +165,8 @@ void TextEditing::MoveSelection(Position target, bool copy) {
 void TextEditing::Drop(const Fragment& fragment, Position target) {
   if (fragment.Length() == 0) return;
   core_.Edit(UndoKind::DragDrop, [&] {
-    core_.Replace(target, target, fragment);
+    TakeTables(fragment, target);
+    core_.Replace(target, target, {fragment.leaves, {}});
     core_.Place(target, target + fragment.Length());
   });
 }

@@ -12,7 +12,8 @@ class TextEditing {
  public:
   explicit TextEditing(EditingCore& core) : core_(core) {}
 
-  /// Replaces the selection by `text` in the insertion format; the caret ends after it.
+  /// Replaces the selection by `text` in the insertion format; the caret ends after it. A fragment
+  /// with a mark brings the note another head.
   void ReplaceSelection(UndoKind kind, std::u16string_view text);
   void ReplaceSelection(UndoKind kind, const Fragment& fragment);
   /// Text typed next takes the format of the first character deleted.
@@ -33,6 +34,7 @@ class TextEditing {
   Fragment Plain(std::u16string_view text) const;
 
  private:
+  void TakeTables(const Fragment& fragment, Position at);
   void ReplaceRange(Position from, Position to, const Fragment& fragment);
   void ReplaceKeepingSectionStart(Position from, Position to, const Fragment& fragment);
   void Reformat(Position paragraph, ParaId format);

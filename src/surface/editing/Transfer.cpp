@@ -95,7 +95,8 @@ std::u16string Transfer::SelectedRtf() const {
 void Transfer::SelectedRtf(std::u16string_view rtf) {
   const std::string bytes = NarrowSource(rtf);
   if (!LooksLikeRtf(bytes)) return text_.ReplaceSelection(UndoKind::Unknown, rtf);
-  const Fragment fragment = ReadRtf(bytes, core_.Formats(), RtfTarget::Selection, unstated_);
+  const Fragment fragment =
+      ReadRtf(bytes, core_.Formats(), RtfTarget::Selection, unstated_, core_.Content().Mark());
   if (fragment.Length() > 0)
     text_.ReplaceSelection(UndoKind::Unknown, fragment);
   else
@@ -177,7 +178,8 @@ void Transfer::Drop(const ClipboardContent& content, Position target) {
 Fragment Transfer::FragmentOf(const ClipboardContent& content) {
   Fragment fragment;
   if (content.rtf && LooksLikeRtf(*content.rtf))
-    fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, unstated_);
+    fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, unstated_,
+                       core_.Content().Mark());
   if (fragment.Length() == 0 && content.html)
     fragment = ReadHtml(FromUtf8(*content.html), core_.Formats(), HtmlTarget::Selection, unstated_);
   if (fragment.Length() == 0 && content.text) fragment = text_.Plain(*content.text);
