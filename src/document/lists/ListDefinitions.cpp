@@ -152,6 +152,15 @@ const ListOverride* ListDefinitions::Override(int number) const {
                                                                           : nullptr;
 }
 
+bool ListDefinitions::IsBullet(int number, int level) const {
+  const ListOverride* override = Override(number);
+  if (!override || level < 0 || level >= kListLevels) return false;
+  const ListLevel* shown = &lists_.at(override->list)[static_cast<std::size_t>(level)];
+  for (const ListOverride::Level& other : override->levels)
+    if (other.number == level && other.format) shown = &*other.format;
+  return shown->form == ListLevel::Form::Bullet;
+}
+
 ListLevels ListDefinitions::LevelsOf(const ListOverride& override) const {
   ListLevels levels = lists_.at(override.list);
   for (const ListOverride::Level& level : override.levels) {

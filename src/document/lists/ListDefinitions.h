@@ -28,6 +28,8 @@ class ListDefinitions {
 
   /// Null for a number that no override has, or one without a list.
   const ListOverride* Override(int number) const;
+  /// Whether paragraphs of \ls`number` have a bullet on a level (\ilvl).
+  bool IsBullet(int number, int level) const;
   /// The levels of a list, as an override has them.
   ListLevels LevelsOf(const ListOverride& override) const;
 

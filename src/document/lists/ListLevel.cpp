@@ -27,7 +27,7 @@ std::u16string Roman(int number) {
 }
 
 std::u16string NumberIn(Form form, int number) {
-  if (form == Form::None) return {};
+  if (form == Form::None || form == Form::Bullet) return {};
   if (form == Form::TwoDigits && number >= 0 && number < 10) return u"0" + Digits(number);
   if (number < 1) return Digits(number);
   switch (form) {
@@ -61,7 +61,8 @@ Form ListFormOf(int number) {
   constexpr int kNone = 255;
   if (number >= 0 && number < static_cast<int>(std::size(kForms))) return kForms[number];
   if (number == kTwoDigits) return Form::TwoDigits;
-  return number == kBullet || number == kNone ? Form::None : Form::Unknown;
+  if (number == kBullet) return Form::Bullet;
+  return number == kNone ? Form::None : Form::Unknown;
 }
 
 std::optional<std::u16string> ListNumberText(const ListLevels& levels, int level,
@@ -75,7 +76,7 @@ std::optional<std::u16string> ListNumberText(const ListLevels& levels, int level
     }
     const Form form = levels[unit].form;
     if (form == Form::Unknown) return std::nullopt;
-    const bool arabic = own.legal && form != Form::None;
+    const bool arabic = own.legal && form != Form::None && form != Form::Bullet;
     if (unit <= level) text += NumberIn(arabic ? Form::Arabic : form, numbers[unit]);
   }
   return text;

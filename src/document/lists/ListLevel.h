@@ -21,7 +21,8 @@ struct ListLevel {
     LowerRoman,
     UpperLetter,
     LowerLetter,
-    None,  // only the text around the number, as for bullets
+    Bullet,
+    None,  // only the text around the number
   };
   int start = 1;
   Form form = Form::Arabic;

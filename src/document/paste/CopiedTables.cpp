@@ -22,7 +22,7 @@ void CopiedTables::UseParagraph(ParaId id) {
   if (!paragraphs_.insert(id).second) return;
   const ParaFormat& format = tables_.paragraphs[id];
   UseWords(format.words);
-  if (format.list != 0 && listMerge_.Map(format.list - 1, map_)) lists_.insert(format.list);
+  if (format.list != 0) listMerge_.Map(format.list - 1, map_);
 }
 
 void CopiedTables::UseWords(WordsId id) {
@@ -59,8 +59,15 @@ std::string CopiedTables::Groups() {
   const auto group = [](std::string_view opening, const std::string& entries) {
     return entries.empty() ? std::string() : std::string(opening) + entries + "}";
   };
-  return group("{\\stylesheet", styles) + group("{\\*\\listtable", listMerge_.AddedLists()) +
-         group("{\\*\\listoverridetable", listMerge_.AddedOverrides());
+  const std::string lists = group("{\\*\\listtable", listMerge_.AddedLists()) +
+                            group("{\\*\\listoverridetable", listMerge_.AddedOverrides());
+  written_.Read(lists);
+  return group("{\\stylesheet", styles) + lists;
+}
+
+bool CopiedTables::HasList(const ParaFormat& format) const {
+  const int list = format.list - 1;
+  return written_.Override(list) && written_.IsBullet(list, format.level) == (format.bullet != 0);
 }
 
 }  // namespace lumenote

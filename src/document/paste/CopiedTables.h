@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "document/FormatTables.h"
+#include "document/lists/ListDefinitions.h"
 #include "document/paste/ListMerge.h"
 #include "document/paste/StyleMerge.h"
 
@@ -19,8 +20,8 @@ class CopiedTables {
   void UseCharacter(CharId format);
   void UseParagraph(ParaId format);
 
-  /// Whether a list that was used, as in `ParaFormat`, is defined.
-  bool HasList(std::uint16_t list) const { return lists_.contains(list); }
+  /// Whether readers of the groups will see the paragraph's list as it is; call after `Groups`.
+  bool HasList(const ParaFormat& format) const;
   /// The groups to write in the head; call once, after all uses.
   std::string Groups();
 
@@ -36,7 +37,7 @@ class CopiedTables {
   StyleMerge styleMerge_{source_, {}};
   ListMerge listMerge_{source_, {}};
   NumberMap map_{[this](HeadTable table, int number) { return Use(table, number); }};
-  std::unordered_set<std::uint16_t> lists_;
+  ListDefinitions written_;
   // What has been used.
   std::unordered_set<CharId> characters_;
   std::unordered_set<ParaId> paragraphs_;

@@ -40,13 +40,16 @@ ListMerge::ListMerge(std::string_view from, std::string_view to) : from_(TableOf
 ListMerge::Table ListMerge::TableOf(std::string_view source) {
   Table table;
   for (const SourceGroup& group : GroupsOf(source)) {
-    if (group.word != "listtable" && group.word != "listoverridetable") continue;
+    const bool lists = group.word == "listtable";
+    if (!lists && group.word != "listoverridetable") continue;
     for (const SourceGroup& entry : GroupsOf(InsideOf(group.source))) {
       const std::optional<int> id = NumberOf("listid", entry.source);
-      const std::optional<int> number = NumberOf("ls", entry.source);
-      if (entry.word == "list" && id) table.lists.try_emplace(*id, entry.source);
-      if (entry.word == "listoverride" && id && number)
-        table.overrides.try_emplace(*number, *id, entry.source);
+      const std::optional<int> number = lists ? id : NumberOf("ls", entry.source);
+      if (!id || !number) continue;
+      if (lists)
+        table.lists[*id] = entry.source;
+      else
+        table.overrides[*number] = {*id, entry.source};
     }
   }
   return table;

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "document/lists/ListDefinitions.h"
 #include "document/text/Fragment.h"
 #include "rtf/read/BodyText.h"
 #include "rtf/read/GroupState.h"
@@ -15,7 +16,6 @@
 #include "rtf/read/WordKeeper.h"
 #include "rtf/read/tables/ColourTable.h"
 #include "rtf/read/tables/FontTable.h"
-#include "rtf/read/tables/ListTable.h"
 #include "rtf/source/Tokenizer.h"
 
 namespace lumenote {
@@ -132,6 +132,7 @@ class Interpreter {
   void KeepInHead(std::string source);
   std::string GroupSource(std::size_t from);
   void PassTable();
+  void KeepLists();
   void SkipTableTail(bool surplus);
   void EnterField(KeptField::Kind kind, std::string opening);
   bool AtAside();
@@ -181,7 +182,7 @@ class Interpreter {
 
   FontTable fonts_;
   ColourTable colours_;
-  ListTable lists_;
+  ListDefinitions lists_;
   CharFormat default_;    // result of \plain
   int defaultFont_ = -1;  // \deff
   int documentPage_ = kPageOfWindows;

@@ -1,4 +1,6 @@
 // Words that give their group a meaning: tables, lists, groups to skip or keep.
+#include <utility>
+
 #include "rtf/read/Interpreter.h"
 #include "rtf/read/KeptSource.h"
 #include "rtf/read/Keywords.h"
@@ -109,16 +111,20 @@ void Interpreter::Styles(int, const Token&) {
 
 void Interpreter::Lists(int, const Token&) {
   if (begun_) return tokens_.SkipGroup();
-  const std::size_t from = tokens_.Start();
-  lists_.ReadLists(tokens_);
-  KeepInHead(GroupSource(from));
+  KeepLists();
 }
 
 void Interpreter::ListOverrides(int, const Token&) {
   if (begun_) return tokens_.SkipGroup();
+  KeepLists();
+}
+
+void Interpreter::KeepLists() {
   const std::size_t from = tokens_.Start();
-  lists_.ReadOverrides(tokens_);
-  KeepInHead(GroupSource(from));
+  tokens_.SkipGroup();
+  std::string source = GroupSource(from);
+  lists_.Read(source);
+  KeepInHead(std::move(source));
 }
 
 }  // namespace lumenote

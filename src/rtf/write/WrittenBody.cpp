@@ -42,7 +42,7 @@ void WrittenBody::Paragraph(ParaId id, bool atStart) {
 /// The format, without a list that the source does not define.
 ParaFormat WrittenBody::WrittenOf(ParaId paragraph) const {
   ParaFormat format = tables_.paragraphs[paragraph];
-  if (part_ && !part_->HasList(format.list)) format.list = 0;
+  if (part_ && format.list != 0 && !part_->HasList(format)) format.list = 0;
   return format;
 }
 
