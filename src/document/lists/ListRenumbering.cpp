@@ -39,7 +39,8 @@ class Renumbering {
 
   std::vector<NumberChange> Changes(const ListItems& found) {
     for (const ListItem& item : found.items)
-      if (HasNumber(item)) samples_.try_emplace(PlaceOf(item), SampleOf(item));
+      if (HasNumber(item) && !samples_.contains(PlaceOf(item)))
+        samples_.try_emplace(PlaceOf(item), SampleOf(item));
     for (const ListItem& item : found.items) Item(item);
     for (const Selection& stray : found.stray)
       if (stray.start <= edited_.end && stray.end >= edited_.start) changes_.push_back({stray, {}});
