@@ -105,7 +105,7 @@ void Interpreter::Number(int row, const Token& word) {
 void Interpreter::KeepTint(const Token& word) {
   WordsId& words = EditCharacter().words;
   const bool tinted = target_ == RtfTarget::Document && !colours_.Tint(word.number).empty();
-  words = tinted ? words_.With(word, words) : words_.Without(word, words);
+  words = tinted ? words_.WithFirst(word, words) : words_.Without(word, words);
 }
 
 void Interpreter::Raise(int value, const Token& word) {

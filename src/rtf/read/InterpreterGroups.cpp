@@ -22,7 +22,7 @@ void Interpreter::SkipAlternative(int, const Token&) {
   const std::size_t from = tokens_.Start();
   const std::size_t behind = tokens_.At();
   Token next = tokens_.Next();
-  if (next.kind == Token::Kind::Word && next.text == "uc") next = tokens_.Next();
+  while (next.kind == Token::Kind::Word && next.text == "uc") next = tokens_.Next();
   if (next.kind != Token::Kind::Open) return tokens_.GoTo(behind);
   const std::size_t inside = tokens_.At();
   const bool aside = AtAside();

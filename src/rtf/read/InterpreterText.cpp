@@ -7,6 +7,14 @@
 #include "rtf/read/KeptSource.h"
 
 namespace lumenote {
+namespace {
+
+bool OfRow(const KeptItem& item) {
+  return item.kind == KeptItem::Kind::Row || item.kind == KeptItem::Kind::Words;
+}
+
+}  // namespace
+
 void Interpreter::Character(int value, const Token&) { Put(static_cast<char16_t>(value)); }
 
 void Interpreter::Unicode(int, const Token& word) {
@@ -68,7 +76,10 @@ void Interpreter::Row(int nested, const Token&) {
   CountContent();
   Kept row{.kind = Kept::Kind::Row, .nested = static_cast<std::uint8_t>(nested)};
   KeptItems items = items_.Take();
-  if (nested != 0) std::ranges::move(nestedRow_.Take(), std::back_inserter(items));
+  if (nested != 0) {
+    std::ranges::move(nestedRow_.Take(), std::back_inserter(items));
+    std::ranges::stable_partition(items, [](const KeptItem& item) { return !OfRow(item); });
+  }
   const bool defined = nested != 0 || row_.source.empty() || !RowDefinition(items).source.empty();
   if (!defined) items.insert(items.begin(), row_);
   row.self = formats_.items.Chain(std::move(items));

@@ -1,6 +1,7 @@
 #include "rtf/read/WordKeeper.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "rtf/read/WordFamilies.h"
@@ -37,6 +38,11 @@ Part PartOf(NameId mark, Words& words) {
   return {begin, std::find_if(begin + 1, words.end(), IsMark)};
 }
 
+/// The last part; there must be one.
+Iterator LastPart(Words& words) {
+  return std::find_if(words.rbegin(), words.rend(), IsMark).base() - 1;
+}
+
 KeptWord Numbered(NameId name, const Token& word) {
   if (!word.hasNumber) return {.name = name};
   return {.name = name, .kind = Kind::Numbered, .number = word.number};
@@ -53,6 +59,14 @@ WordsId WordKeeper::With(const Token& word, WordsId words) {
   Words all = formats_.words.List(words);
   if (!MayRepeat(word.text)) std::erase_if(all, [=](KeptWord w) { return w.name == name; });
   all.insert(std::ranges::find_if(all, IsOfParts), Numbered(name, word));
+  return Number(std::move(all), words);
+}
+
+WordsId WordKeeper::WithFirst(const Token& word, WordsId words) {
+  const NameId name = Name(word);
+  if (name == 0) return words;
+  Words all = formats_.words.List(Without(word, words));
+  all.insert(all.begin(), Numbered(name, word));
   return Number(std::move(all), words);
 }
 
@@ -107,20 +121,22 @@ WordsId WordKeeper::WithFont(int before, WordsId words) {
   if (words == 0) return words;
   Words all = formats_.words.List(words);
   if (!HasMark(all)) return words;
-  if (HasScript(all))
+  const KeptWord associated = Associated("af", before);
+  const auto replaced = [&](KeptWord w) { return IsFont(w) || w.name == associated.name; };
+  if (HasScript(all)) {
     std::erase_if(all, IsFont);
-  else
-    LeavePlace(Kind::Font, Associated("af", before), all);
+  } else {
+    all.erase(std::remove_if(LastPart(all), all.end(), replaced), all.end());
+    LeavePlace(Kind::Font, associated, all);
+  }
   all.push_back({.kind = Kind::Font});
   return Number(std::move(all), words);
 }
 
 WordsId WordKeeper::WithSize(int before, WordsId words) {
-  const KeptWord associated = Associated("afs", before);
-  const auto concerned = [&](KeptWord w) { return IsSize(w) || w.name == associated.name; };
-  if (!formats_.words.Any(words, concerned) || formats_.words.Any(words, IsScript)) return words;
+  if (!formats_.words.Any(words, IsSize) || formats_.words.Any(words, IsScript)) return words;
   Words all = formats_.words.List(words);
-  LeavePlace(Kind::Size, associated, all);
+  LeavePlace(Kind::Size, Associated("afs", before), all);
   return Number(std::move(all), words);
 }
 
@@ -129,22 +145,19 @@ KeptWord WordKeeper::Associated(std::string_view name, int number) {
       .name = formats_.names.Intern(std::string(name)), .kind = Kind::Numbered, .number = number};
 }
 
-/// Puts `associated` where the run's own font or size was said, unless that is in the last part,
-/// which says it anew. What is said before all parts is said of text from left to right.
+/// Puts `associated` where the run's own font or size was said before the last part. What is said
+/// before all parts is said of text from left to right.
 void WordKeeper::LeavePlace(Kind place, KeptWord associated, Words& words) {
   const auto says = [=](KeptWord w) { return w.name == associated.name; };
   const auto isPlace = [=](KeptWord w) { return w.kind == place; };
-  const Iterator last = std::find_if(words.rbegin(), words.rend(), IsMark).base() - 1;
-  words.erase(std::remove_if(last, words.end(), [=](KeptWord w) { return says(w) || isPlace(w); }),
-              words.end());
-  if (std::none_of(words.begin(), last, isPlace)) return;
+  if (std::none_of(words.begin(), LastPart(words), isPlace)) return;
   MarkStart(words);
   const Iterator at = std::ranges::find_if(words, isPlace);
-  const Iterator end = std::find_if(at, words.end(), IsMark);
-  if (IsMark(*std::ranges::find_if(words, IsOfParts)) && std::none_of(at, end, says))
-    *at = associated;
-  else
-    words.erase(at);
+  const auto begin = std::find_if(std::make_reverse_iterator(at), words.rend(), IsMark).base();
+  const bool known = std::any_of(at, std::find_if(at, words.end(), IsMark), says);
+  if (begin == words.begin() || known) return void(words.erase(at));
+  *at = associated;
+  words.erase(std::remove_if(begin, at, says), at);
 }
 
 /// Begins the parts with a marker, if it has no part yet.

@@ -20,6 +20,8 @@ class WordKeeper {
 
   /// Replaces an earlier use of the same word, unless it may be repeated per border.
   WordsId With(const Token& word, WordsId words);
+  /// The same, before all others.
+  WordsId WithFirst(const Token& word, WordsId words);
   /// Removes that word.
   WordsId Without(const Token& word, WordsId words);
   /// Adds a group that numbers the paragraph.

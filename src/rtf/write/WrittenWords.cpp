@@ -67,6 +67,7 @@ struct WordOrder {
   bool hasFont = false;  // the own font has a place among the words
   bool hasSize = false;  // so has the size
   bool marked = false;   // there are markers
+  bool scripts = false;  // some of them of scripts
   bool settled = true;   // a change of the run's own formats may follow as it is
 };
 
@@ -77,6 +78,7 @@ WordOrder OrderOf(WordsId words, const FormatTables& tables) {
     if (IsMark(word)) order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
     if (IsMark(word)) order.settled = !order.hasFont;
     if (IsMark(word)) order.marked = true;
+    if (IsScript(word)) order.scripts = true;
     if (word.kind == KeptWord::Kind::Font) order.hasFont = order.settled = true;
     if (word.kind == KeptWord::Kind::Size) order.hasSize = true;
   }
@@ -189,7 +191,9 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
                  Output& out) {
   const WordOrder order = OrderOf(to.words, tables);
   const bool rewords = from.words != to.words || !order.settled;
-  const bool anew = (rewords && from.words != 0) || TakesBack(from, to);
+  // A size that is said already would be that of what is said before the markers.
+  const bool movesSize = rewords && order.scripts && !order.hasSize && from.size > 0;
+  const bool anew = (rewords && from.words != 0) || movesSize || TakesBack(from, to);
   const bool worded = anew || rewords;
   const WrittenFormat& base = anew ? kPlain : from;
   EndMark(from.effects, to.effects, anew, out);
