@@ -28,7 +28,7 @@ class LayoutContract : public testing::TestWithParam<LayoutCase> {
     std::vector<Position> starts;
     for (const Piece* piece = &cache.At(0); piece; piece = cache.After(*piece))
       for (int line = 0; line < std::ssize(piece->lines); ++line)
-        starts.push_back(piece->LineStart(line));
+        if (piece->BeginsLine(document, line)) starts.push_back(piece->LineStart(line));
     return starts;
   }
 
@@ -47,7 +47,7 @@ TEST_P(LayoutContract, ViewAndLineTableAgree) {
   for (int line = 0; surface.Lines().LineStart(line) >= 0; ++line)
     table.push_back(surface.Lines().LineStart(line));
   EXPECT_EQ(starts, table);
-  EXPECT_GT(starts.size(), 1u);
+  EXPECT_FALSE(starts.empty());
   TextPane pane(surface, *layouter);
   for (const Position start : starts)
     EXPECT_EQ(pane.ShownLine(start), surface.Lines().LineAt(start)) << start;

@@ -17,6 +17,8 @@ std::unique_ptr<TextLayouter> MakeLayouter() {
 
 namespace {
 
+using namespace std::string_literals;
+
 TEST(FixedBreaker, Wraps) {
   for (const auto& [lines, width] : Rows16<2>(R"(
 un deux |trois => 7 ¦ un    |deux => 4 ¦ porte-|avions => 8 ¦ abc|def|gh => 3 ¦ a |abc|def|gh => 3
@@ -94,8 +96,23 @@ TEST_F(RowsTest, LieBesideEachOther) {
     EXPECT_EQ(window.pane.CaretAt(at)->left, left) << ToUtf8(word);
     EXPECT_EQ(window.pane.LineAt(at)->top, top) << ToUtf8(word);
     EXPECT_EQ(window.pane.PositionAt({left + 1, top + 12}), at);
-    EXPECT_EQ(window.surface.Lines().LineAt(at).start, at);
-    EXPECT_EQ(window.breaker.XOf(window.surface.Content(), at, at + 1), left + 10);
+    const Line line = window.surface.Lines().LineAt(at);
+    EXPECT_EQ(line.start, word == u"apr"s ? at : 7) << "a row is one line";
+    EXPECT_EQ(window.pane.ShownLine(at), line);
+    EXPECT_EQ(window.breaker.XOf(window.surface.Content(), line.start, at + 1), left + 10);
+  }
+  EXPECT_EQ(window.breaker.AtX(window.surface.Content(), 7, 35, 70), 22) << "in the cell there";
+}
+
+TEST_F(RowsTest, HaveTheLinesOfTheirLineBreaks) {
+  window.surface.TextRTF(
+      u"{\\rtf1\\trowd\\cellx600\\cellx1500\\intbl un deux\\cell trois\\line "
+      u"quatre\\cell\\row\\pard b}");
+  window.view.Settle();
+  for (const auto& [at, line] :
+       {std::pair{3, Line{0, 13, 14}}, {9, {0, 13, 14}}, {15, {14, 20, 22}}, {22, {22, 23, -1}}}) {
+    EXPECT_EQ(window.surface.Lines().LineAt(at), line) << at;
+    EXPECT_EQ(window.pane.ShownLine(at), line) << at;
   }
 }
 

@@ -4,6 +4,7 @@
 #include "Input.h"
 #include "backends/win32/InstalledFonts.h"
 #include "backends/win32/Win32Backend.h"
+#include "base/Strings.h"
 #include "forms/Button.h"
 #include "forms/Menu.h"
 #include "forms/controls/CheckBox.h"
@@ -71,6 +72,18 @@ class FormsTest : public testing::Test {
   Win32FormPeer& Peer() const { return *backend.PeerOf(form); }
   HWND WindowOf(const Control& control) const { return Peer().PeerOf(control)->Native().Handle(); }
   HWND Bar() const { return FindWindowExW(Peer().Handle(), nullptr, L"LumenoteMenuBar", nullptr); }
+  /// The visible windows inside the form's.
+  std::vector<HWND> Parts() const {
+    std::vector<HWND> parts;
+    EnumChildWindows(
+        Peer().Handle(),
+        [](HWND part, LPARAM found) -> BOOL {
+          if (IsWindowVisible(part)) reinterpret_cast<std::vector<HWND>*>(found)->push_back(part);
+          return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&parts));
+    return parts;
+  }
   void Reset() {
     form.name.SetFocus();
     Pump();
@@ -302,31 +315,36 @@ TEST_F(FormsTest, BoxesAndTheFontDialogAreTheSystems) {
   EXPECT_EQ(ask(IDYES, MessageBox::Buttons::YesNo), Answer::Yes);
   EXPECT_EQ(ask(IDNO, MessageBox::Buttons::YesNo), Answer::No);
   EXPECT_EQ(ask(IDOK, MessageBox::Buttons::Ok), Answer::Ok);
-  for (const int button : {IDOK, IDCANCEL}) {
-    float size = 0;
+  const auto pick = [](HWND dialog, int box, int entry) {
+    const HWND list = GetDlgItem(dialog, box);
+    SendMessageW(list, CB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(box, CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(list));
+    wchar_t text[99] = {};
+    SendMessageW(list, CB_GETLBTEXT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(text));
+    return std::u16string(Utf16(text));
+  };
+  for (const auto& [button, choosesFace] :
+       {std::pair{IDOK, false}, {IDOK, true}, {IDCANCEL, true}}) {
+    std::u16string size, face;
     Meanwhile user([&, opened = false]() mutable {
       const HWND dialog = GetLastActivePopup(Peer().Handle());
       if (dialog == Peer().Handle()) return opened;
       if (!std::exchange(opened, true)) {
-        const HWND sizes = GetDlgItem(dialog, cmb3);
-        SendMessageW(sizes, CB_SETCURSEL, 3, 0);
-        SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(cmb3, CBN_SELCHANGE),
-                     reinterpret_cast<LPARAM>(sizes));
-        wchar_t text[9] = {};
-        SendMessageW(sizes, CB_GETLBTEXT, 3, reinterpret_cast<LPARAM>(text));
-        size = std::stof(text);
+        if (choosesFace) face = pick(dialog, cmb1, 2);
+        size = pick(dialog, cmb3, 3);
         PostMessageW(GetDlgItem(dialog, button), BM_CLICK, 0, 0);
       }
       return false;
     });
     FontChoice shown;
-    shown.name = InstalledFonts().ScreenFonts().front();
+    shown.name = u"Absente";
     shown.size = 12.0F;
     const auto chosen = backend.ChooseFont(shown, &form);
     ASSERT_EQ(chosen.has_value(), button == IDOK);
     if (!chosen) continue;
-    EXPECT_EQ(chosen->size, size);
-    EXPECT_EQ(chosen->name, std::nullopt);
+    EXPECT_EQ(chosen->size, std::stof(ToUtf8(size)));
+    EXPECT_EQ(chosen->name, choosesFace ? std::optional(face) : std::nullopt);
   }
   EXPECT_TRUE(IsWindowEnabled(Peer().Handle()));
 }
@@ -366,6 +384,29 @@ TEST_F(FormsTest, TheGroundFollowsTheSystemsColours) {
     EXPECT_EQ(ground.lbColor, colour);
     EXPECT_EQ(GetBkColor(dc.Get()), colour);
   }
+}
+
+TEST_F(FormsTest, WhateverTellsOfNewColoursRepaintsEveryWindow) {
+  for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_THEMECHANGED}) {
+    Pump();
+    for (HWND part : Parts()) UpdateWindow(part);
+    SendMessageW(Peer().Handle(), message, 0, 0);
+    for (HWND part : Parts()) {
+      wchar_t kind[99] = {};
+      GetClassNameW(part, kind, 99);
+      EXPECT_TRUE(GetUpdateRect(part, nullptr, FALSE)) << message << ToUtf8(Utf16(kind));
+    }
+  }
+}
+
+TEST_F(FormsTest, ALockedBoxKeepsItsGround) {
+  form.name.Locked(true);
+  const HWND box = WindowOf(form.name);
+  const DcScope dc(box);
+  const auto brush = reinterpret_cast<HBRUSH>(SendMessageW(GetParent(box), WM_CTLCOLORSTATIC,
+                                                           reinterpret_cast<WPARAM>(dc.Get()),
+                                                           reinterpret_cast<LPARAM>(box)));
+  EXPECT_EQ(brush, GetSysColorBrush(COLOR_WINDOW));
 }
 
 TEST_F(FormsTest, ControlsHaveVisualStylesWhateverTheHostAsksFor) {

@@ -22,6 +22,10 @@ int Piece::LineOfIndex(int index) const {
   return static_cast<int>(behind - lines.begin()) - 1;
 }
 
+bool Piece::BeginsLine(const Document& document, int line) const {
+  return cells.empty() || line == 0 || document.At(LineStart(line) - 1) == u'\v';
+}
+
 double Piece::XOf(Position position) const { return CaretX(LineOf(position), ToIndex(position)); }
 
 // The position after the last character of a wrapped line is the next line's start, so the caret

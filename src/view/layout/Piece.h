@@ -76,6 +76,10 @@ class Piece {
   /// Index of the line that holds a unit of the layout's text.
   int LineOfIndex(int index) const;
   Position LineStart(int line) const { return ToPosition(lines[Index(line)].start); }
+  /// Whether what callers know as a line begins there: cells of a row stand beside each other in
+  /// one, up to its line breaks, so that lines count alike where rows are laid out as text with
+  /// tabs.
+  bool BeginsLine(const Document& document, int line) const;
   /// Distance from the text's left edge.
   double XOf(Position position) const;
   /// The nearest caret position shown in the line.

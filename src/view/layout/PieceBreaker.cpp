@@ -22,7 +22,9 @@ std::vector<Position> PieceBreaker::Break(const Document& document, Position fro
   const auto piece = LayOut(document, {.from = from, .to = to});
   std::vector<Position> starts;
   for (int line = 1; line < std::ssize(piece->lines); ++line)
-    if (const Position start = piece->LineStart(line); start > from) starts.push_back(start);
+    if (const Position start = piece->LineStart(line);
+        start > from && piece->BeginsLine(document, line))
+      starts.push_back(start);
   return starts;
 }
 
@@ -39,7 +41,7 @@ std::unique_ptr<Piece> PieceBreaker::LineFrom(const Document& document, Position
 
 float PieceBreaker::XOf(const Document& document, Position lineStart, Position position) {
   const auto piece = LineFrom(document, lineStart);
-  const int line = piece->LineOf(lineStart);
+  const int line = piece->LineOf(piece->cells.empty() ? lineStart : position);
   const int end = piece->lines[static_cast<std::size_t>(line)].end;
   return static_cast<float>(piece->CaretX(line, std::min(piece->ToIndex(position), end)));
 }
@@ -47,7 +49,8 @@ float PieceBreaker::XOf(const Document& document, Position lineStart, Position p
 Position PieceBreaker::AtX(const Document& document, Position lineStart, Position lineEnd,
                            float x) {
   const auto piece = LineFrom(document, lineStart);
-  return std::clamp(piece->PositionAt(piece->LineOf(lineStart), x), lineStart, lineEnd);
+  const int line = piece->cells.empty() ? piece->LineOf(lineStart) : piece->LineAt(0, x);
+  return std::clamp(piece->PositionAt(line, x), lineStart, lineEnd);
 }
 
 }  // namespace lumenote

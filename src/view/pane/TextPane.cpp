@@ -70,17 +70,21 @@ Position TextPane::CharacterAt(PixelPoint point) {
 
 Line TextPane::ShownLine(Position position) {
   const Piece& piece = cache_.At(std::clamp(position, 0, Content().Length()));
-  const Line shown = LineIn(piece, piece.LineOf(std::min(position, piece.to)));
+  int first = piece.LineOf(std::min(position, piece.to));
+  int last = first;
+  while (!piece.BeginsLine(Content(), first)) --first;
+  while (last + 1 < std::ssize(piece.lines) && !piece.BeginsLine(Content(), last + 1)) ++last;
+  const Line shown = LineIn(piece, first, last);
   assert(AgreesWithLineTable(piece, shown));
   return shown;
 }
 
-Line TextPane::LineIn(const Piece& piece, int line) const {
-  const Position start = piece.LineStart(line);
-  const bool last = line + 1 == std::ssize(piece.lines);
+Line TextPane::LineIn(const Piece& piece, int first, int last) const {
+  const Position start = piece.LineStart(first);
+  const bool ends = last + 1 == std::ssize(piece.lines);
   const Position behind = piece.to < Content().Length() ? piece.to + 2 : -1;
-  if (last && piece.closes) return {start, piece.to, behind};
-  const Position next = last ? piece.to : piece.LineStart(line + 1);
+  if (ends && piece.closes) return {start, piece.to, behind};
+  const Position next = ends ? piece.to : piece.LineStart(last + 1);
   return {start, Content().At(next - 1) == u'\v' ? next - 1 : next, next};
 }
 
@@ -142,10 +146,10 @@ void TextPane::RevealAcross(Position position) {
 int TextPane::LinesPerPage() {
   int lines = 0;
   for (const ShownPiece& item : Visible())
-    for (const PieceLine& line : item.piece->lines) {
+    item.piece->ForEachBand([&](const PieceLine& line) {
       const double top = item.y + line.top;
       if (top >= 0 && top + line.height <= size_.height) ++lines;
-    }
+    });
   return std::max(1, lines - 1);
 }
 

@@ -67,7 +67,7 @@ class TextPane {
   PixelRect CaretIn(const Piece& piece, double top, int index);
   double WrapWidth() const;
   void RevealAcross(Position position);
-  Line LineIn(const Piece& piece, int line) const;
+  Line LineIn(const Piece& piece, int first, int last) const;
   bool AgreesWithLineTable(const Piece& piece, const Line& line);
 
   DocumentSurface& surface_;

@@ -34,6 +34,8 @@ LRESULT PaintedWindow::Receive(const Message& message) {
     case WM_ENABLE:
     case WM_SIZE:
     case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
       Repaint();
       return Default(message);
     default:

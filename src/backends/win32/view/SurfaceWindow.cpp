@@ -183,6 +183,7 @@ bool SurfaceWindow::HandleWindow(const Message& message) {
     case WM_ENABLE:
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
       ShowGround();
       return true;
     case WM_CAPTURECHANGED:

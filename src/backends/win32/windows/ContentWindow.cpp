@@ -31,6 +31,7 @@ LRESULT ContentWindow::Receive(const Message& message) {
       return ColourOfControl(reinterpret_cast<HDC>(message.w));
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
       Ground(ground_);
       return 0;
     case WM_MOUSEMOVE:

@@ -318,6 +318,7 @@ std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
       return 0;
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
       TellAll(message);
       return std::nullopt;
     case WM_INITMENUPOPUP:

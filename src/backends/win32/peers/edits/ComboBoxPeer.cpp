@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/NativeText.h"
 #include "base/ScopedFlag.h"
@@ -48,6 +49,19 @@ void ComboBoxPeer::Place(const RECT& bounds) {
   const auto list = kLines * static_cast<int>(Tell(CB_GETITEMHEIGHT)) + 2;
   SetWindowPos(Handle(), nullptr, bounds.left, bounds.top, size.cx, size.cy + list,
                SWP_NOZORDER | SWP_NOACTIVATE);
+  if (edit_) CentreEdit();
+}
+
+// A native box shows its text at the top of its line.
+void ComboBoxPeer::CentreEdit() const {
+  const RECT line = InfoOf(Handle()).rcItem;
+  const DcScope dc(Handle());
+  const SelectScope font(dc.Get(), reinterpret_cast<HFONT>(Tell(WM_GETFONT)));
+  TEXTMETRICW metrics;
+  GetTextMetricsW(dc.Get(), &metrics);
+  const LONG height = std::min(metrics.tmHeight, line.bottom - line.top);
+  SetWindowPos(edit_->Handle(), nullptr, line.left, (line.top + line.bottom - height) / 2,
+               line.right - line.left, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 int ComboBoxPeer::LineHeight() const {

@@ -43,6 +43,7 @@ class ComboBoxPeer final : public ControlPeer {
   void ShowList();
   void ShowContent();
   std::u16string Entry(int index) const;
+  void CentreEdit() const;
   int LineHeight() const;
   void SetLineHeight(int pixels) const;
 

@@ -9,6 +9,13 @@ namespace {
 constexpr WindowKind kKind = {L"EDIT", WS_CHILD | WS_CLIPSIBLINGS | ES_AUTOHSCROLL,
                               WS_EX_CLIENTEDGE};
 
+// The system would give a locked box the ground of a label.
+LRESULT ColourLocked(HDC dc) {
+  SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+  SetBkColor(dc, GetSysColor(COLOR_WINDOW));
+  return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+}
+
 }  // namespace
 
 TextBoxPeer::TextBoxPeer(TextBox& box, HWND parent, PeerHost& host)
@@ -31,6 +38,8 @@ void TextBoxPeer::Compare(DifferenceList& differences) const {
 }
 
 std::optional<LRESULT> TextBoxPeer::HearNotice(const Message& message) {
+  if (message.id == WM_CTLCOLORSTATIC && box_.Enabled())
+    return ColourLocked(reinterpret_cast<HDC>(message.w));
   if (message.id != WM_COMMAND || HIWORD(message.w) != EN_CHANGE) return std::nullopt;
   if (!pushing_) box_.UserEdited(TextOf(Handle()), SelectedIn(Handle()));
   return 0;

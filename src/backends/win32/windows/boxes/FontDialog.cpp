@@ -1,6 +1,7 @@
 #include "backends/win32/windows/boxes/FontDialog.h"
 
 #include <commdlg.h>
+#include <dlgs.h>
 #undef ChooseFont
 
 #include <algorithm>
@@ -48,10 +49,23 @@ std::optional<T> Changed(const T& before, const T& after) {
   return before == after ? std::optional<T>() : after;
 }
 
+constexpr const wchar_t* kChosen = L"LumenoteChosen";  // where to tell that a font was chosen
+
+/// Tells when the user chooses a font: for one that is not installed the dialog shows, and returns,
+/// another.
+UINT_PTR CALLBACK Hear(HWND dialog, UINT message, WPARAM w, LPARAM l) {
+  if (message == WM_INITDIALOG)
+    SetPropW(dialog, kChosen,
+             reinterpret_cast<HANDLE>(reinterpret_cast<const CHOOSEFONTW*>(l)->lCustData));
+  const bool chooses = HIWORD(w) == CBN_SELCHANGE || HIWORD(w) == CBN_EDITCHANGE;
+  auto* const chosen = static_cast<bool*>(GetPropW(dialog, kChosen));
+  if (chosen && message == WM_COMMAND && LOWORD(w) == cmb1 && chooses) *chosen = true;
+  if (message == WM_DESTROY) RemovePropW(dialog, kChosen);
+  return 0;
+}
+
 FontChoice Changes(const LOGFONTW& before, const LOGFONTW& after) {
   FontChoice choice;
-  choice.name =
-      Changed(std::u16string(Utf16(before.lfFaceName)), std::u16string(Utf16(after.lfFaceName)));
   choice.bold = Changed(before.lfWeight >= FW_BOLD, after.lfWeight >= FW_BOLD);
   choice.italic = Changed(before.lfItalic != 0, after.lfItalic != 0);
   choice.underline = Changed(before.lfUnderline != 0, after.lfUnderline != 0);
@@ -69,12 +83,17 @@ std::optional<FontChoice> ShowFontDialog(const FontChoice& shown, HWND over) {
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = over;
   dialog.lpLogFont = &after;
-  dialog.Flags = FlagsOf(shown);
+  dialog.Flags = FlagsOf(shown) | CF_ENABLEHOOK;
+  dialog.lpfnHook = &Hear;
+  bool chosen = false;
+  dialog.lCustData = reinterpret_cast<LPARAM>(&chosen);
   dialog.rgbColors = static_cast<COLORREF>(shown.colour.value_or(0));
   const ModalLock others(over);
   const VisualStyles styles;
   if (!ChooseFontW(&dialog)) return std::nullopt;
   FontChoice choice = Changes(before, after);
+  const std::u16string name(Utf16(after.lfFaceName));
+  if (chosen && !name.empty()) choice.name = Changed(shown.name.value_or(u""), name);
   // The dialog rounds the size that it shows.
   if (after.lfHeight != before.lfHeight)
     choice.size = static_cast<float>(dialog.iPointSize) / kTenths;
