@@ -1,8 +1,6 @@
 // The life of the editor window.
 #include "editor/Co_Rtf.h"
 
-#include <algorithm>
-
 #include "editor/EditCommands.h"
 #include "editor/Layout.h"
 #include "editor/storage/SessionLife.h"
@@ -103,13 +101,6 @@ void Co_Rtf::Form_Unload() {
   recovery_.Drop();
   dialogs_.UnloadAll();
   roundTrip_.Leave();
-}
-
-bool Co_Rtf::Form_KeyDown(const KeyStroke& key) {
-  const auto shortcut = std::ranges::find(shortcuts_, key, &Shortcut::key);
-  if (shortcut == shortcuts_.end()) return false;
-  shortcut->act();
-  return true;
 }
 
 // --- what others need of the window

@@ -64,19 +64,12 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   void Describe(MemberTable& members) override;
 
  private:
-  /// A key of the window, beyond those of the document.
-  struct Shortcut {
-    KeyStroke key;
-    std::function<void()> act;
-  };
-
   void Form_Load() override;
   void Form_Activate() override;
   void Form_Resize() override;
   bool Form_QueryUnload() override;
   void Form_Unload() override;
   void Form_Keep() override { recovery_.WriteNow(); }
-  bool Form_KeyDown(const KeyStroke& key) override;
   void Form_EnterMenuBar() override;
   void Form_LeaveMenuBar() override;
   void OpenNote();
@@ -126,7 +119,6 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   ProgramTable programs_;
   RoundTrip roundTrip_;
   Recovery recovery_{*this, TimerSecours};
-  std::vector<Shortcut> shortcuts_;
 };
 
 }  // namespace lumenote

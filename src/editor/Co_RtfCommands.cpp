@@ -110,18 +110,13 @@ void Co_Rtf::WireZones() {
   }
 }
 
+// The document knows the others that the menus show.
 void Co_Rtf::WireKeys() {
-  const auto control = [](char16_t letter, bool shift = false) {
-    return KeyStroke{.character = letter, .shift = shift, .control = true};
-  };
-  const KeyStroke f3{.name = KeyName::Function, .character = 3};
-  shortcuts_ = {
-      {control(u's'), [this] { EnregistrerNote(*this); }},
-      {control(u'f'), [this] { dialogs_.Trouver(); }},
-      {f3, [this] { dialogs_.TrouverSuivant(); }},
-      {control(u'p', true), [this] { Bar.mnuEdtSuperScript.UserClick(); }},
-      {control(u'b', true), [this] { Bar.mnuEdtSubScript.UserClick(); }},
-  };
+  AddShortcut(Pop.mnuPopEnregistrer.Shortcut(), [this] { EnregistrerNote(*this); });
+  AddShortcut(Bar.mnuEdtTrouver.Shortcut(), [this] { dialogs_.Trouver(); });
+  AddShortcut(Bar.mnuEdtSuivantppp.Shortcut(), [this] { dialogs_.TrouverSuivant(); });
+  for (Menu* entry : {&Bar.mnuEdtSuperScript, &Bar.mnuEdtSubScript})
+    AddShortcut(entry->Shortcut(), [entry] { entry->UserClick(); });
 }
 
 // --- commands of the window

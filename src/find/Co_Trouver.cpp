@@ -23,6 +23,7 @@ Co_Trouver::Co_Trouver(WindowList& windows, EditorWindow& editor)
   cmdReplace.Click = [this] { Command(&Co_Trouver::cmdReplace_Click); };
   cmdReplaceAll.Click = [this] { Command(&Co_Trouver::cmdReplaceAll_Click); };
   cmdCancel.Click = [this] { Unload(); };
+  AddShortcut(u"F3", [this] { cmdFind.UserClick(); });
 }
 
 void Co_Trouver::Form_Load() {
@@ -40,12 +41,6 @@ void Co_Trouver::Form_Load() {
 void Co_Trouver::Form_Unload() {
   editor_.EnableSuivant(false);
   editor_.SuspendreDessus();
-}
-
-bool Co_Trouver::Form_KeyDown(const KeyStroke& key) {
-  if (key != KeyStroke{.name = KeyName::Function, .character = 3}) return false;
-  cmdFind.UserClick();
-  return true;
 }
 
 void Co_Trouver::Command(void (Co_Trouver::*command)()) {

@@ -36,7 +36,6 @@ class Co_Trouver : public Form {
  private:
   void Form_Load() override;
   void Form_Unload() override;
-  bool Form_KeyDown(const KeyStroke& key) override;
 
   void cmdFind_Click();
   void cmdReplace_Click();

@@ -92,10 +92,21 @@ void Form::UserMouseMove(const MouseEvent& event) {
   Raise([&] { Form_MouseMove(event); });
 }
 
+void Form::AddShortcut(std::u16string_view key, std::function<void()> act) {
+  shortcuts_.push_back({*ParseKey(key), std::move(act)});
+}
+
+bool Form::HasShortcut(const KeyStroke& key) const {
+  return key == kMenuKey || std::ranges::find(shortcuts_, key, &Shortcut::key) != shortcuts_.end();
+}
+
 bool Form::UserKey(const KeyStroke& key) {
-  bool used = false;
-  Raise([&] { used = Form_KeyDown(key); });
-  if (used) return true;
+  const auto shortcut = std::ranges::find(shortcuts_, key, &Shortcut::key);
+  if (shortcut != shortcuts_.end()) {
+    LeaveMenuBar();
+    Raise(shortcut->act);
+    return true;
+  }
   if (key == kMenuKey) return UserMenuKey();
   if (key.control || key.alt) return false;
   Button* button = key.name == KeyName::Return   ? defaultButton_

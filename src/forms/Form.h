@@ -122,6 +122,9 @@ class Form : public Element, public Container {
   void UserClose() { Unload(); }
   /// The pointer moves over the window where no control is.
   void UserMouseMove(const MouseEvent& event);
+  /// Whether the window uses such a key wherever the keyboard is, so that no shortcut of the host's
+  /// should take it.
+  bool HasShortcut(const KeyStroke& key) const;
   /// A key that its control had no use for; whether the window had.
   bool UserKey(const KeyStroke& key);
   /// F10, or Alt pressed and released alone: the menu bar gets the keyboard, or gives it back.
@@ -158,13 +161,14 @@ class Form : public Element, public Container {
   void Describe(MemberTable& members) override;
 
  protected:
+  /// Gives the window a shortcut, named as `ParseKey` names it.
+  void AddShortcut(std::u16string_view key, std::function<void()> act);
+
   /// Life events, overridden by the windows.
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
   virtual void Form_Resize() {}
   virtual void Form_MouseMove(const MouseEvent&) {}
-  /// A shortcut of the window; whether the key is one.
-  virtual bool Form_KeyDown(const KeyStroke&) { return false; }
   /// A key has called for the menu bar, which gets the keyboard if it is shown then; and has left.
   virtual void Form_EnterMenuBar() {}
   virtual void Form_LeaveMenuBar() {}
@@ -174,6 +178,11 @@ class Form : public Element, public Container {
   virtual void Form_Keep() {}
 
  private:
+  struct Shortcut {
+    KeyStroke key;
+    std::function<void()> act;
+  };
+
   friend class Element;
   friend class Menu;
   friend class Timer;
@@ -193,6 +202,7 @@ class Form : public Element, public Container {
   std::vector<Element*> elements_;
   std::vector<Menu*> menus_;
   std::vector<Timer*> timers_;
+  std::vector<Shortcut> shortcuts_;
   std::u16string caption_;
   Rect bounds_;
   std::int32_t backColor_ = -1;

@@ -26,6 +26,11 @@ void Menu::Caption(std::u16string_view text) {
   Changed(Property::Caption);
 }
 
+std::u16string Menu::ShownText() const {
+  if (shortcut_.empty()) return caption_;
+  return caption_ + u'\t' + ReplaceEvery(shortcut_, u"Shift", u"Maj");
+}
+
 void Menu::Checked(bool on) {
   if (on == checked_) return;
   checked_ = on;

@@ -14,7 +14,7 @@ class Menu : public ShownElement {
  public:
   /// Creates a top-level menu.
   Menu(Form& form, std::string name, std::u16string caption, bool visible = true);
-  /// Creates an entry of another menu. `shortcut` is a key that does the same ("Ctrl+S"); it is
+  /// Creates an entry of another menu. `shortcut` is a key of the same purpose ("Ctrl+S"), which is
   /// only shown.
   Menu(Menu& parent, std::string name, std::u16string caption, std::u16string shortcut = {});
 
@@ -24,6 +24,8 @@ class Menu : public ShownElement {
   const std::u16string& Caption() const { return caption_; }
   void Caption(std::u16string_view text);
   const std::u16string& Shortcut() const { return shortcut_; }
+  /// The caption, and behind a tab the shortcut as French keyboards name it.
+  std::u16string ShownText() const;
   bool Checked() const { return checked_; }
   void Checked(bool on);
 

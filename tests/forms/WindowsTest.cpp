@@ -40,6 +40,7 @@ class Window : public Form {
     close.Click = [this] { Unload(); };
     escape.Click = [this] { ++escapes; };
     DefaultButton(&close);
+    AddShortcut(u"Home", [] {});
   }
   ~Window() override { Gone(); }
 
@@ -52,7 +53,6 @@ class Window : public Form {
  private:
   void Form_Activate() override { ++activations; }
   void Form_Resize() override { ++resizes; }
-  bool Form_KeyDown(const KeyStroke& key) override { return key.name == KeyName::Home; }
 };
 
 class WindowsTest : public testing::Test {

@@ -64,6 +64,11 @@ const UserKeys::Command UserKeys::kCommands[] = {
     {Ctrl(u'é'), &UserKeys::SpaceDoubly},
 };
 
+bool IsCommandKey(const KeyStroke& key) {
+  const auto& commands = UserKeys::kCommands;
+  return std::ranges::find(commands, key, &UserKeys::Command::key) != std::end(commands);
+}
+
 UserKeys::UserKeys(EditingCore& core, CaretMotion& motion, TextEditing& text,
                    CharacterFormats& characters, ParagraphFormats& paragraphs, Transfer& transfer)
     : core_(core),

@@ -9,6 +9,9 @@
 
 namespace lumenote {
 
+/// Whether the key is in a surface's table of commands.
+bool IsCommandKey(const KeyStroke& key);
+
 /// A surface's keyboard: caret keys, and a table of all others.
 class UserKeys {
  public:
@@ -25,6 +28,7 @@ class UserKeys {
     Action action = nullptr;
   };
   static const Command kCommands[];
+  friend bool IsCommandKey(const KeyStroke& key);
 
   void BackSpace();
   void BackSpaceWord();

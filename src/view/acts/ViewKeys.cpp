@@ -1,5 +1,6 @@
 #include "view/acts/ViewKeys.h"
 
+#include "surface/keys/UserKeys.h"
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
@@ -7,6 +8,12 @@ namespace lumenote {
 namespace {
 
 constexpr KeyStroke kMenuKey{.name = KeyName::Function, .character = 10, .shift = true};
+
+// The key of 0 types "à" on French keyboards.
+bool IsZoom(const KeyStroke& key) {
+  return key.name == KeyName::Character && key.control && !key.alt &&
+         std::u16string_view(u"+=-0à").find(key.character) != std::u16string_view::npos;
+}
 
 }  // namespace
 
@@ -29,8 +36,13 @@ bool ViewKeys::Edit(const std::optional<KeyStroke>& key, std::u16string_view tex
   return used;
 }
 
+bool ViewKeys::IsForEditing(const KeyStroke& key) {
+  if (key.alt || key.name == KeyName::Escape || key.name == KeyName::Function) return false;
+  return key.name != KeyName::Character || !key.control || IsCommandKey(key) || IsZoom(key);
+}
+
 bool ViewKeys::Zoom(const KeyStroke& key) {
-  if (!key.control || key.alt || key.name != KeyName::Character) return false;
+  if (!IsZoom(key)) return false;
   switch (key.character) {
     case u'+':
     case u'=':
@@ -39,11 +51,9 @@ bool ViewKeys::Zoom(const KeyStroke& key) {
     case u'-':
       view_.ZoomBy(-1);
       return true;
-    case u'0':
+    default:
       view_.Zoom(1);
       return true;
-    default:
-      return false;
   }
 }
 

@@ -18,6 +18,8 @@ class ViewKeys {
   /// Returns whether the key was handled; may detach the view. `key` is empty for a key without a
   /// name here, `text` for one that types nothing.
   bool Press(const std::optional<KeyStroke>& key, std::u16string_view text);
+  /// Whether an editor uses such a key, so that no shortcut of the host's should take it.
+  static bool IsForEditing(const KeyStroke& key);
   /// Acts like the right button at the caret.
   void OpenMenu();
 

@@ -37,12 +37,6 @@ constexpr NamedKey kNamedKeys[] = {
 };
 
 constexpr int kFunctionKeys = 35;
-constexpr char16_t kFindOn = 3;  // F3
-
-bool IsCommandOf(const KeyStroke& key, std::u16string_view letters) {
-  return key.name == KeyName::Character && key.control && !key.alt &&
-         letters.find(key.character) != letters.npos;
-}
 
 }  // namespace
 
@@ -92,14 +86,6 @@ QString TypedText(const QKeyEvent& event) {
   const QString text = event.text();
   if (command || text.isEmpty()) return {};
   return text[0].isPrint() || text[0].isSurrogate() ? text : QString();
-}
-
-bool IsEditingKey(const KeyStroke& key) {
-  if (key.alt) return false;
-  if (key.name == KeyName::Character)
-    return !key.control || IsCommandOf(key, u"abcefijlrsuvxyz125&é(");
-  if (key.name == KeyName::Function) return key.character == kFindOn;
-  return key.name != KeyName::Escape;
 }
 
 }  // namespace lumenote

@@ -13,7 +13,5 @@ std::optional<KeyStroke> StrokeOf(const QKeyEvent& event);
 QKeyEvent EventOf(const KeyStroke& key, QEvent::Type type);
 /// The text that the key types; empty for a command.
 QString TypedText(const QKeyEvent& event);
-/// Whether an editor uses such a key, so that no host shortcut should take it.
-bool IsEditingKey(const KeyStroke& key);
 
 }  // namespace lumenote

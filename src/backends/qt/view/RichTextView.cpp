@@ -254,7 +254,7 @@ bool RichTextView::HandleEvent(QEvent* event) {
   }
   if (event->type() == QEvent::ShortcutOverride) {
     const auto key = StrokeOf(static_cast<const QKeyEvent&>(*event));
-    if (key && IsEditingKey(*key)) event->accept();
+    if (key && ViewKeys::IsForEditing(*key)) event->accept();
   }
   return QAbstractScrollArea::event(event);
 }

@@ -123,6 +123,10 @@ void FormWindow::DragTo(float width, float height) {
 bool FormWindow::event(QEvent* event) {
   if (form_ && event->type() == QEvent::WindowActivate) listener_.NativelyActive(*form_);
   if (form_ && event->type() == QEvent::ApplicationPaletteChange) ShowBackColor();
+  if (form_ && event->type() == QEvent::ShortcutOverride) {
+    const auto key = StrokeOf(static_cast<const QKeyEvent&>(*event));
+    if (key && form_->HasShortcut(*key)) event->accept();
+  }
   return QWidget::event(event);
 }
 

@@ -11,18 +11,11 @@ namespace {
 
 void Show(const Menu& menu, QAction& action) {
   action.setSeparator(menu.IsSeparator());
-  if (!menu.IsSeparator()) action.setText(ToQString(menu.Caption()));
+  if (!menu.IsSeparator()) action.setText(ToQString(menu.ShownText()));
   action.setVisible(menu.Visible());
   action.setEnabled(menu.Enabled());
   action.setCheckable(menu.Checked());
   action.setChecked(menu.Checked());
-}
-
-// The form hears the key itself.
-void ShowShortcut(const Menu& menu, QAction& action) {
-  action.setShortcut(QKeySequence(ToQString(menu.Shortcut()), QKeySequence::PortableText));
-  action.setShortcutContext(Qt::WidgetShortcut);
-  action.setShortcutVisibleInContextMenu(true);
 }
 
 }  // namespace
@@ -51,7 +44,6 @@ QAction* MenuTree::Add(Menu& menu) {
 QAction* MenuTree::MakeAction(Menu& menu) {
   if (menu.Entries().empty()) {
     auto* action = new QAction(&window_);
-    ShowShortcut(menu, *action);
     // Undoes Qt's own toggling of the check mark, which only the form may change.
     QObject::connect(action, &QAction::triggered, listener_.get(), [this, &menu] {
       Update(menu);
@@ -82,7 +74,7 @@ void MenuTree::PopUp(Menu& menu, QPoint at) {
 void MenuTree::Compare(DifferenceList& differences) const {
   for (const auto& [menu, action] : actions_) {
     differences.Check(*menu, "Caption",
-                      menu->IsSeparator() || action->text() == ToQString(menu->Caption()));
+                      menu->IsSeparator() || action->text() == ToQString(menu->ShownText()));
     differences.Check(*menu, "Visible", action->isVisible() == menu->Visible());
     differences.Check(*menu, "Enabled", !menu->Visible() || action->isEnabled() == menu->Enabled());
     differences.Check(*menu, "Checked", action->isChecked() == menu->Checked());

@@ -58,7 +58,9 @@ std::optional<KeyStroke> StrokeOf(WPARAM virtualKey) {
     stroke.character = static_cast<char16_t>(virtualKey - VK_F1 + 1);
     return stroke;
   }
-  stroke.character = PlainCharacter(virtualKey);
+  const bool digit = virtualKey >= '0' && virtualKey <= '9';  // wherever the layout shifts them
+  stroke.character =
+      digit && stroke.control ? static_cast<char16_t>(virtualKey) : PlainCharacter(virtualKey);
   if (stroke.character <= u' ') return std::nullopt;
   return stroke;
 }

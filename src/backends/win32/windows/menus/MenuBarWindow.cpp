@@ -5,6 +5,7 @@
 
 #include "backends/win32/toolkit/Captions.h"
 #include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/toolkit/NativeText.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
@@ -143,7 +144,12 @@ void MenuBarWindow::HearFocus(bool has) {
 void MenuBarWindow::HearKey(WPARAM key) {
   Menu* const lit = lit_;
   if (key == VK_ESCAPE) SetFocus(GetParent(Handle()));
-  if (!form_ || !lit) return;
+  if (!form_) return;
+  if (const auto stroke = StrokeOf(key); stroke && form_->HasShortcut(*stroke)) {
+    form_->UserKey(*stroke);
+    return;
+  }
+  if (!lit) return;
   switch (key) {
     case VK_LEFT:
     case VK_RIGHT:

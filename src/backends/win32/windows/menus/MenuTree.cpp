@@ -12,11 +12,6 @@ UINT FlagsOf(const Menu& entry) {
   return (entry.Enabled() ? MF_ENABLED : MF_GRAYED) | (entry.Checked() ? MF_CHECKED : MF_UNCHECKED);
 }
 
-/// The caption, and the key behind a tab.
-std::u16string TextOf(const Menu& entry) {
-  return entry.Shortcut().empty() ? entry.Caption() : entry.Caption() + u'\t' + entry.Shortcut();
-}
-
 std::u16string TextIn(HMENU list, UINT place) {
   wchar_t text[256] = {};
   GetMenuStringW(list, place, text, static_cast<int>(std::size(text)), MF_BYPOSITION);
@@ -61,7 +56,7 @@ void MenuTree::Append(HMENU list, const Menu& entry) const {
   const Item& item = items_.at(&entry);
   const UINT kind = item.list ? MF_POPUP : 0;
   const auto id = item.list ? reinterpret_cast<UINT_PTR>(item.list->Handle()) : item.command;
-  AppendMenuW(list, FlagsOf(entry) | kind, id, Wide(TextOf(entry)));
+  AppendMenuW(list, FlagsOf(entry) | kind, id, Wide(entry.ShownText()));
 }
 
 void MenuTree::Update(const Menu& menu) {
@@ -95,7 +90,8 @@ void MenuTree::Compare(DifferenceList& differences) const {
       const UINT shown = entry->IsSeparator() ? MF_SEPARATOR : MF_GRAYED | MF_CHECKED;
       differences.Check(*entry, "state", (state & shown) == (FlagsOf(*entry) & shown));
       if (!entry->IsSeparator())
-        differences.Check(*entry, "Caption", TextIn(item.list->Handle(), place) == TextOf(*entry));
+        differences.Check(*entry, "Caption",
+                          TextIn(item.list->Handle(), place) == entry->ShownText());
       ++place;
     }
     differences.Check(*menu, "entries",
