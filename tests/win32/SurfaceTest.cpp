@@ -1,5 +1,6 @@
 // The surface's window, driven by the messages that the system sends.
 #include <array>
+#include <thread>
 #include <tuple>
 
 #include "backends/win32/view/TransferData.h"
@@ -72,6 +73,7 @@ TEST_F(SurfaceWindowTest, LayoutsOfManyKindsType) {
       {{circumflex, {VK_RETURN, u"^\r"}}, "ab^¶|"},
       {{circumflex, {VK_BACK, u"^\b"}}, "ab|"},
       {{{VK_BACK, u"\b"}}, "a|"},
+      {{{VK_BACK, u"\x7F", WM_CHAR, {VK_CONTROL}}}, "|"},
       {{{'0', u"@", WM_CHAR, altGr}, {'E', u"€", WM_CHAR, altGr}, {'5', u"[", WM_CHAR, altGr}},
        "ab@€[|"},
       {{{'E', u"", WM_CHAR, altGr}}, "ab|"},
@@ -93,6 +95,30 @@ TEST_F(SurfaceWindowTest, LayoutsOfManyKindsType) {
     EXPECT_EQ(Send(WM_UNICHAR, unit), unit == UNICODE_NOCHAR ? TRUE : FALSE);
     EXPECT_EQ(Shown(), after);
   }
+}
+
+/// A host that lets the view go when its window is closed.
+struct Closing : MessageListener {
+  explicit Closing(SurfaceWindow& shown) : view(shown) {}
+  std::optional<LRESULT> Hear(const Message& message) override {
+    if (message.id != WM_CLOSE) return std::nullopt;
+    view.Detach();
+    return 0;
+  }
+  std::optional<LRESULT> HearNotice(const Message&) override { return std::nullopt; }
+  SurfaceWindow& view;
+};
+
+TEST_F(SurfaceWindowTest, AKeyFindsTheViewGone) {
+  Put(u"|un deux");
+  Closing closing(*window);
+  const auto host = std::make_shared<Window>(top);
+  host->Listener(&closing);
+  std::jthread other([this] { SendMessageW(top, WM_CLOSE, 0, 0); });
+  while (!(HIWORD(GetQueueStatus(QS_SENDMESSAGE)) & QS_SENDMESSAGE)) SwitchToThread();
+  Send(WM_KEYDOWN, VK_DELETE);
+  EXPECT_FALSE(window->IsAttached());
+  EXPECT_EQ(Shown(), "|un deux");
 }
 
 TEST_F(SurfaceWindowTest, TheSystemsMouseSelects) {

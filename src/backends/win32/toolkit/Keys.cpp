@@ -85,10 +85,12 @@ wchar_t CharacterOf(const KeyStroke& key) {
 
 std::u16string TakeAccent(HWND window, LPARAM what) {
   constexpr UINT kLook = PM_NOYIELD;
+  constexpr WPARAM kDelete = 0x7F;  // Ctrl+BackSpace
+  if (IsHeld(VK_CONTROL) && !IsHeld(VK_MENU)) return {};
   MSG queued;
   std::u16string accent;
   while (PeekMessageW(&queued, window, WM_CHAR, WM_CHAR, kLook) && queued.lParam == what &&
-         queued.wParam > L' ') {
+         queued.wParam > L' ' && queued.wParam != kDelete) {
     PeekMessageW(&queued, window, WM_CHAR, WM_CHAR, kLook | PM_REMOVE);
     accent += static_cast<char16_t>(queued.wParam);
   }

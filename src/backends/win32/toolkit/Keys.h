@@ -17,7 +17,7 @@ WPARAM VirtualKeyOf(const KeyStroke& key);
 wchar_t CharacterOf(const KeyStroke& key);
 /// Takes the accent of a dead key that the key being handled cannot join, which the message loop
 /// has queued before that key's own character; empty if there is none. `what` is the key message's
-/// LPARAM.
+/// LPARAM. Handles what other threads have sent, so windows may be gone then.
 std::u16string TakeAccent(HWND window, LPARAM what);
 /// Drops the character that the message loop has queued for the key that is being handled.
 void SwallowCharacter(HWND window);

@@ -280,8 +280,9 @@ bool SurfaceWindow::PressKey(const Message& message) {
   const std::optional<KeyStroke> key = StrokeOf(message.w);
   if (!key || Types(*key)) return false;
   const HWND window = Handle();
-  const bool used =
-      UseAccent(*key, TakeAccent(window, message.l)) || keys_.Press(key, {}) || Offer(*key);
+  const std::u16string accent = TakeAccent(window, message.l);
+  if (!IsAttached()) return true;
+  const bool used = UseAccent(*key, accent) || keys_.Press(key, {}) || Offer(*key);
   if (used) SwallowCharacter(window);
   return used;
 }
