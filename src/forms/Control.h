@@ -85,6 +85,8 @@ class Control : public ShownElement {
   virtual void UserType(std::u16string_view) {}
   /// Handles a key; false if it means nothing here.
   virtual bool UserKey(const KeyStroke&) { return false; }
+  /// Types what is being composed with an input method.
+  virtual void CompleteComposition() {}
 
   void Describe(MemberTable& members) override;
 

@@ -222,6 +222,7 @@ bool Form::Unload() {
   if (!loaded_ || unloading_) return !loaded_;
   const InUse use(*this);
   unloading_ = true;
+  CompleteComposition();
   bool mayGo = false;  // an error on the way to the decision decides nothing
   Raise([&] { mayGo = Form_QueryUnload(); });
   if (mayGo) Raise([this] { Form_Unload(); });
@@ -232,7 +233,14 @@ bool Form::Unload() {
   return true;
 }
 
+void Form::CompleteComposition() {
+  Raise([this] {
+    if (activeControl_) activeControl_->CompleteComposition();
+  });
+}
+
 void Form::Keep() {
+  CompleteComposition();
   Raise([this] { Form_Keep(); });
 }
 

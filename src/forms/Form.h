@@ -76,6 +76,9 @@ class Form : public Element, public Container {
   /// Raises QueryUnload, which may refuse, and Unload at once, then leaves the list of windows. A
   /// form that is not loaded, or is unloading already, is left alone. False when the window stays.
   bool Unload();
+  /// Types what is being composed with an input method. What unloads or keeps the form, or opens a
+  /// menu, does so first: what the user sees is what counts.
+  void CompleteComposition();
   /// Keeps what the window holds for the next start, since the program may end at any moment.
   void Keep();
   /// Takes the window down whatever it says to that, once what it holds is kept. One that is

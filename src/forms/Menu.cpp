@@ -45,6 +45,8 @@ void Menu::UserClick() {
 }
 
 void Menu::UserOpen() {
+  const Form::InUse use(Owner());
+  Owner().CompleteComposition();
   if (Click) Owner().Raise(Click);
 }
 

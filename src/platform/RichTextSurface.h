@@ -174,6 +174,9 @@ class RichTextSurface {
   /// On every selected paragraph.
   virtual void SetParaFormat(const ParagraphRecord& record) = 0;
 
+  /// Types what the user sees being composed with an input method, as the user's act.
+  virtual void CompleteComposition() = 0;
+
   /// Called after the content (text or formats) has changed, whatever changed it.
   virtual void OnChange(std::function<void()> handler) = 0;
 };

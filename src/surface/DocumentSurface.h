@@ -116,6 +116,10 @@ class DocumentSurface final : public RichTextSurface {
   ParagraphRecord GetParaFormat(unsigned mask) const override { return paragraphs_.Record(mask); }
   void SetParaFormat(const ParagraphRecord& record) override { paragraphs_.Record(record); }
 
+  void CompleteComposition() override {
+    if (SurfaceView* view = core_.View()) view->Complete();
+  }
+
   void OnChange(std::function<void()> handler) override { core_.OnChange(std::move(handler)); }
 
   // For a view.

@@ -101,6 +101,26 @@ TEST_F(WindowTest, ComposedTextIsTypedAndAssistiveProgramsReadAndEdit) {
   EXPECT_EQ(form->box.Surface().Text(), u"être deux\r\ntrois");
 }
 
+TEST_F(WindowTest, WhatIsBeingComposedIsKept) {
+  const std::pair<const char*, std::function<void()>> rows[] = {
+      {"a click",
+       [&] {
+         acts.Mouse(form->box, UserActs::MouseAct::Down, {MouseButton::Left, {30, 90}});
+       }},
+      {"a menu", [&] { form->popup.UserOpen(); }},
+      {"a command", [&] { acts.Choose(form->cut); }},
+      {"the end of the session", [&] { form->Keep(); }},
+      {"closing", [&] { acts.Close(*form); }}};
+  for (const auto& [what, act] : rows) {
+    form->box.Surface().Text(u"un");
+    QInputMethodEvent composing(QStringLiteral("ê"), {});
+    QApplication::sendEvent(&Native<RichTextView>(form->box), &composing);
+    EXPECT_EQ(form->box.Surface().Text(), u"un") << what;
+    act();
+    EXPECT_EQ(form->box.Surface().Text(), u"êun") << what;
+  }
+}
+
 TEST_F(WindowTest, APopupOpensOnceAndEndsWithTheWindow) {
   int opened = 0;
   form->popup.Click = [&] { ++opened; };

@@ -168,6 +168,45 @@ TEST(InputMethods, ComposeReplaceAndCommit) {
   EXPECT_EQ(user.surface.Content().Length(), 2000);
 }
 
+TEST(InputMethods, WhatIsSeenIsTypedOnce) {
+  struct Row {
+    const char* what;
+    std::u16string_view before;
+    std::function<void(User&)> end;
+    std::u16string_view after;
+  };
+  const Row rows[] = {
+      {"a click before", u"ab|c", [](User& user) { user.Do("D 0 0"); }, u"|abêtc"},
+      {"a click on it", u"ab|c", [](User& user) { user.Do("D 3 0"); }, u"abê|tc"},
+      {"another window", u"ab|c", [](User& user) { user.view.Focus(false); }, u"abêt|c"},
+      {"the form", u"a^b|c", [](User& user) { user.surface.CompleteComposition(); }, u"aêt|c"},
+      {"one that commits as well", u"ab|c",
+       [](User& user) {
+         user.dropComposition = [&user] { user.input.Take({.committed = u"êt"}); };
+         user.surface.CompleteComposition();
+       },
+       u"abêt|c"},
+      {"nothing is composed any more", u"ab|c",
+       [](User& user) {
+         user.input.Take({});
+         user.view.Complete();
+       },
+       u"ab|c"}};
+  for (const Row& row : rows) {
+    User user;
+    user.Type(row.before);
+    user.view.Focus(true);
+    user.input.Take({.composed = u"êt"});
+    row.end(user);
+    user.view.Settle();
+    EXPECT_EQ(user.Shown(), row.after) << row.what;
+    EXPECT_EQ(user.layouter.Composed().text, u"") << row.what;
+    EXPECT_TRUE(user.screen == user.Fresh()) << row.what;
+    user.surface.Undo();
+    EXPECT_EQ(user.surface.Text(), u"abc") << row.what;
+  }
+}
+
 TEST(TextUnits, DivideTheText) {
   struct UnitsRow {
     TextUnit unit;

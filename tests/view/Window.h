@@ -53,6 +53,7 @@ struct Window : ViewHost {
   void ShowDamage(const Damage& damage) override;
   void Changed(const DocumentChange&) override { ++changes; }
   void SelectionMoved() override { ++moves; }
+  void DropComposition() override { dropComposition(); }
   void ShowArrow(bool on) override { arrow = on; }
   void ScrollTimer(bool on) override { timer = on; }
   void Drag() override { ++drags; }
@@ -65,6 +66,7 @@ struct Window : ViewHost {
   int moves = 0;
   int drags = 0;
   PixelPoint menu;
+  std::function<void()> dropComposition = [] {};
   double painted = 0;  // pixels of damage
   int shifts = 0;
 

@@ -34,6 +34,7 @@ class HeadlessView final : private ViewHost {
   void ShowDamage(const Damage&) override {}
   void Changed(const DocumentChange&) override {}
   void SelectionMoved() override {}
+  void DropComposition() override {}
   void ShowArrow(bool) override {}
   void ScrollTimer(bool) override {}
   void Drag() override {}

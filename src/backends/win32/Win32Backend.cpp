@@ -4,7 +4,6 @@
 #include <commctrl.h>
 
 #include "backends/win32/toolkit/VisualStyles.h"
-#include "backends/win32/view/Composing.h"
 #include "backends/win32/windows/boxes/FontDialog.h"
 #include "backends/win32/windows/boxes/MessageBoxes.h"
 #include "base/RuntimeError.h"
@@ -76,7 +75,6 @@ void Win32Backend::Gone(Form& form) {
 }
 
 void Win32Backend::CloseForms() {
-  CompleteComposition();
   const auto open = forms_;
   for (auto entry = open.rbegin(); entry != open.rend(); ++entry)
     if (PeerOf(*entry->first) && !entry->first->Unload()) entry->first->Abandon();

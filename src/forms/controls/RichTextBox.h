@@ -20,6 +20,7 @@ class RichTextBox : public Control {
   bool Locked() const { return locked_; }
   void Locked(bool on) { locked_ = on; }
   bool TakesFocus() const override { return true; }
+  void CompleteComposition() override { surface_->CompleteComposition(); }
 
   /// The content has changed, whatever changed it.
   std::function<void()> Change;

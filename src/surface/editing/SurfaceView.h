@@ -27,6 +27,8 @@ class SurfaceView {
   /// lines. Deep inside a very long paragraph the lines may begin elsewhere than in a layout of the
   /// whole paragraph.
   virtual std::optional<Line> ShownLine(Position) { return std::nullopt; }
+  /// Types what is being composed. False if that has detached the view.
+  virtual bool Complete() { return true; }
 };
 
 }  // namespace lumenote

@@ -10,7 +10,7 @@ constexpr Position kSurroundings = 500;
 }  // namespace
 
 void ViewInput::Take(const Message& message) {
-  if (view_.IsLocked()) return;
+  if (view_.IsLocked() || view_.IsCompleting()) return;
   view_.Compose({});
   if (message.replaceLength > 0) Replace(message);
   if (view_.IsAttached() && !message.committed.empty()) view_.Type(message.committed);

@@ -39,6 +39,7 @@ void ViewMouse::ExtendTo(Position position) {
 }
 
 void ViewMouse::Down(const Press& press) {
+  if (!view_.Complete()) return;
   pressed_ = last_ = press.at;
   const Position position = view_.Pane().PositionAt(press.at);
   const bool third = IsThird(press);

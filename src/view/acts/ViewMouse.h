@@ -19,8 +19,8 @@ class ViewMouse {
     std::int64_t time = 0;  // milliseconds on any monotonic clock
     bool extend = false;    // with Shift
   };
-  /// The left button was pressed; soon after a double click at the same place, this is the third
-  /// click.
+  /// The left button was pressed: types what is being composed where it is seen. Soon after a
+  /// double click at the same place, this is the third click.
   void Down(const Press& press);
   /// Instead of `Down` for the second press of a double click, as the system counts them.
   void DoubleClick(const Press& press);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include "base/ScopedFlag.h"
 #include "base/Strings.h"
 
 namespace lumenote {
@@ -106,6 +107,7 @@ void NoteView::Show(bool visible) {
 }
 
 void NoteView::Focus(bool has) {
+  if (!has && !Complete()) return;
   focused_ = caretLit_ = has;
   moved_ = moved_ || has;
   damage_.Everything();
@@ -155,6 +157,19 @@ void NoteView::Restyle() {
 void NoteView::Compose(Composition text) {
   pane_.Compose(std::move(text));
   SettleSoon();
+}
+
+// Some input methods commit what they are told to drop; it must not come twice.
+bool NoteView::Complete() {
+  const std::u16string composed = pane_.Layouter().Composed().text;
+  if (composed.empty()) return attached_;
+  {
+    const ScopedFlag completing(completing_);
+    host_.DropComposition();
+  }
+  Compose({});
+  Type(composed);
+  return attached_;
 }
 
 void NoteView::DropCaret(std::optional<Position> position) {

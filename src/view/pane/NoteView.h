@@ -41,6 +41,7 @@ class NoteView : private SurfaceView {
   // Called by the window.
   void Resize(PixelSize size);
   void Show(bool visible);
+  /// May detach the view: what is being composed is typed before the keyboard goes.
   void Focus(bool has);
   /// Half a blink period has passed.
   void Blink();
@@ -63,6 +64,9 @@ class NoteView : private SurfaceView {
   void Forget() { pane_.Cache().Clear(); }
 
   void Compose(Composition text);
+  bool Complete() override;
+  /// While the input method drops what the view types itself, its events mean nothing.
+  bool IsCompleting() const { return completing_; }
   /// Shows where a drop would insert; empty for none.
   void DropCaret(std::optional<Position> position);
 
@@ -90,6 +94,7 @@ class NoteView : private SurfaceView {
   std::optional<Position> dropCaret_;
   int edits_ = 0;
   bool attached_ = true;
+  bool completing_ = false;
   bool visible_ = false;
   bool focused_ = false;
   bool caretLit_ = false;

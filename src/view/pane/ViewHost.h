@@ -37,6 +37,9 @@ class ViewHost {
   /// to restart the blinking.
   virtual void SelectionMoved() = 0;
 
+  /// The view types what is being composed: the input method forgets it.
+  virtual void DropComposition() = 0;
+
   /// The pointer over the text: an arrow over draggable text, else the text cursor.
   virtual void ShowArrow(bool arrow) = 0;
   /// While on, `ViewMouse::ScrollOn` must be called about every 30 milliseconds.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QInputMethod>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleHints>
@@ -96,6 +97,10 @@ void RichTextView::SelectionMoved() {
   const int period = QGuiApplication::styleHints()->cursorFlashTime();
   if (period > 0) blinking_.start(period / 2, this);
   updateMicroFocus();
+}
+
+void RichTextView::DropComposition() {
+  if (hasFocus()) QGuiApplication::inputMethod()->reset();
 }
 
 void RichTextView::ShowArrow(bool arrow) {
@@ -276,8 +281,8 @@ ViewMouse::Press RichTextView::PressOf(const QMouseEvent& event) const {
 }
 
 void RichTextView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) mouse_.Down(PressOf(*event));
-  if (event->button() == Qt::MiddleButton) PasteSelection(event->position());
+  if (event->button() == Qt::LeftButton) return mouse_.Down(PressOf(*event));
+  if (text_.Complete() && event->button() == Qt::MiddleButton) PasteSelection(event->position());
 }
 
 void RichTextView::mouseDoubleClickEvent(QMouseEvent* event) {

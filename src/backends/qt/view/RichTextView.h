@@ -89,6 +89,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   void ShowDamage(const Damage& damage) override;
   void Changed(const DocumentChange& change) override;
   void SelectionMoved() override;
+  void DropComposition() override;
   void ShowArrow(bool arrow) override;
   void ScrollTimer(bool on) override;
   void Drag() override { drag_.Run(); }

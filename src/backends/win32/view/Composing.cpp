@@ -52,11 +52,6 @@ ViewInput::Message CompositionOf(HWND window, LPARAM what) {
   return message;
 }
 
-void Complete(HWND window) {
-  const ContextScope context(window);
-  if (context.Get()) ImmNotifyIME(context.Get(), NI_COMPOSITIONSTR, CPS_COMPLETE, 0);
-}
-
 /// The view itself shows what is composed.
 LRESULT SetContext(HWND window, const Message& message) {
   constexpr LPARAM kOwnWindow = static_cast<LPARAM>(ISC_SHOWUICOMPOSITIONWINDOW);
@@ -70,7 +65,6 @@ std::optional<LRESULT> Composing::Answer(const Message& message) {
     case WM_IME_SETCONTEXT:
       return SetContext(window_, message);
     case WM_IME_STARTCOMPOSITION:
-      running_ = true;
       Place();
       return 0;
     case WM_IME_COMPOSITION:
@@ -78,7 +72,6 @@ std::optional<LRESULT> Composing::Answer(const Message& message) {
       if (view_.IsAttached()) Place();
       return 0;
     case WM_IME_ENDCOMPOSITION:
-      running_ = false;
       input_.Take({});
       return 0;
     case WM_IME_REQUEST:
@@ -97,15 +90,9 @@ void Composing::Place() {
   ImmSetCandidateWindow(context.Get(), &list);
 }
 
-void Composing::Complete() const {
-  if (running_) lumenote::Complete(window_);
-}
-
-void CompleteComposition() { Complete(GetFocus()); }
-
-void CompleteBefore(const Message& message) {
-  const bool menu = message.id == WM_COMMAND && message.l == 0;
-  if (menu || message.id == WM_CLOSE || message.id == WM_QUERYENDSESSION) CompleteComposition();
+void Composing::Drop() const {
+  const ContextScope context(window_);
+  if (context.Get()) ImmNotifyIME(context.Get(), NI_COMPOSITIONSTR, CPS_CANCEL, 0);
 }
 
 }  // namespace lumenote

@@ -16,19 +16,13 @@ class Composing {
   std::optional<LRESULT> Answer(const Message& message);
   /// Tells the input method where the caret is, so that its lists open there.
   void Place();
-  /// Types what is being composed. May detach the view.
-  void Complete() const;
+  /// Makes the input method forget what is being composed.
+  void Drop() const;
 
  private:
   HWND window_;
   NoteView& view_;
   ViewInput input_{view_};
-  bool running_ = false;  // between the start of a composition and its end
 };
-
-/// Types what is being composed in the window with the keyboard, whatever it is.
-void CompleteComposition();
-/// The same before a message that makes a form close, run a command or keep what is unsaved.
-void CompleteBefore(const Message& message);
 
 }  // namespace lumenote

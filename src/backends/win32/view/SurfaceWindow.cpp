@@ -248,8 +248,6 @@ void SurfaceWindow::Resize() {
 }
 
 void SurfaceWindow::Focus(bool has) {
-  if (!has) composing_.Complete();
-  if (!IsAttached()) return;
   focused_ = has;
   if (!has) caret_.Remove();
   text_.Focus(has);
@@ -321,7 +319,7 @@ void SurfaceWindow::TypeUnit(char16_t unit) {
 // --- mouse
 
 bool SurfaceWindow::HandleMouse(const Message& message) {
-  if (message.id == WM_RBUTTONDOWN || message.id == WM_MBUTTONDOWN) composing_.Complete();
+  if (message.id == WM_RBUTTONDOWN || message.id == WM_MBUTTONDOWN) text_.Complete();
   switch (message.id) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
@@ -353,7 +351,6 @@ bool SurfaceWindow::HandleMouse(const Message& message) {
 
 void SurfaceWindow::PressLeft(const Message& message) {
   const HWND window = Handle();
-  composing_.Complete();
   if (GetFocus() != window) SetFocus(window);
   if (!IsAttached()) return;
   SetCapture(window);

@@ -67,6 +67,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   void ShowDamage(const Damage& damage) override;
   void Changed(const DocumentChange&) override { assistance_.TellChange(); }
   void SelectionMoved() override;
+  void DropComposition() override { composing_.Drop(); }
   void ShowArrow(bool arrow) override { arrow_ = arrow; }
   void ScrollTimer(bool on) override;
   void Drag() override { drag_.Run(text_); }

@@ -2,7 +2,6 @@
 
 #include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/NativeText.h"
-#include "backends/win32/view/Composing.h"
 #include "backends/win32/windows/OwnIcon.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 #include "base/ScopedFlag.h"
@@ -287,7 +286,6 @@ void Win32FormPeer::Used() {
 // --- the user's acts on the window
 
 std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
-  CompleteBefore(message);
   switch (message.id) {
     case WM_ACTIVATE:
       if (LOWORD(message.w) == WA_INACTIVE || HIWORD(message.w) != 0) return std::nullopt;
