@@ -65,9 +65,9 @@ Win32FormPeer* Win32Backend::PeerOf(const Form& form) const {
 // What stands above a window on top is on top, too. Taking it down would take its owner down, or
 // (under wine) do nothing; so they are apart meanwhile.
 void Win32Backend::Restack() {
-  for (const auto& [form, peer] : forms_) peer->Join(false);
-  for (const auto& [form, peer] : forms_) peer->ShowOnTop();
-  for (const auto& [form, peer] : forms_) peer->Join(true);
+  for (const auto& [form, peer] : forms_) peer->Stacking().Join(false);
+  for (const auto& [form, peer] : forms_) peer->Stacking().ShowOnTop();
+  for (const auto& [form, peer] : forms_) peer->Stacking().Join(true);
 }
 
 void Win32Backend::Gone(Form& form) {

@@ -37,6 +37,7 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
     : form_(form),
       services_(services),
       window_(std::make_shared<Window>(nullptr, FormKind())),
+      stacking_(form, *window_, services.Windows()),
       scale_(Scale::Of(window_->Handle())),
       menus_(form, window_),
       content_(std::make_shared<ContentWindow>(Handle())) {
@@ -159,45 +160,10 @@ void Win32FormPeer::ShowVisible() {
     ShowWindow(Handle(), SW_HIDE);
     return;
   }
-  ChooseBoxes();
-  owner_ = OwnerWindow();
-  Join(true);
+  stacking_.Own();
   ShowGeometry();
-  ShowOnTop();
+  stacking_.ShowOnTop();
   if (form_.IsModal()) lock_ = std::make_unique<ModalLock>(Handle());
-}
-
-// A dialog goes with its owner.
-void Win32FormPeer::ChooseBoxes() {
-  constexpr LONG_PTR kBoxes = WS_MINIMIZEBOX | WS_MAXIMIZEBOX;
-  const bool dialog = form_.OwnerWindow() || form_.IsModal();
-  const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
-  SetWindowLongPtrW(Handle(), GWL_STYLE, dialog ? style & ~kBoxes : style | kBoxes);
-}
-
-// A modal window without an owner stays above the window it was opened from.
-HWND Win32FormPeer::OwnerWindow() const {
-  const Form* owner = form_.OwnerWindow();
-  if (!owner && form_.IsModal()) owner = form_.Windows().Active();
-  if (owner && owner != &form_)
-    if (const Window* window = services_.Windows().Find(*owner)) return window->Handle();
-  const HWND host = reinterpret_cast<HWND>(form_.HostWindow());
-  return IsWindow(host) ? host : nullptr;
-}
-
-bool Win32FormPeer::StaysOnTop() const {
-  return form_.OnTop() || (owner_ && Has(owner_, GWL_EXSTYLE, WS_EX_TOPMOST));
-}
-
-void Win32FormPeer::ShowOnTop() {
-  const UINT show = form_.Visible() ? SWP_SHOWWINDOW : 0;
-  SetWindowPos(Handle(), StaysOnTop() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | show);
-}
-
-void Win32FormPeer::Join(bool owner) {
-  SetWindowLongPtrW(Handle(), GWLP_HWNDPARENT,
-                    reinterpret_cast<LONG_PTR>(owner ? owner_ : nullptr));
 }
 
 void Win32FormPeer::PopUp(Menu& menu, Point at) {
@@ -406,7 +372,7 @@ void Win32FormPeer::Compare(DifferenceList& differences) const {
   GetClientRect(Handle(), &client);
   const SIZE wanted = WindowGeometry::ClientSize(form_.Bounds(), scale_);
   check("Size", client.right == wanted.cx && client.bottom == wanted.cy);
-  check("TopMost", Has(Handle(), GWL_EXSTYLE, WS_EX_TOPMOST) == StaysOnTop());
+  check("TopMost", Has(Handle(), GWL_EXSTYLE, WS_EX_TOPMOST) == stacking_.StaysOnTop());
   check("menu bar", Has(menus_.Bar().Handle(), GWL_STYLE, WS_VISIBLE) == form_.HasMenuBar());
 }
 

@@ -6,6 +6,7 @@
 #include "backends/win32/peers/base/ControlPeer.h"
 #include "backends/win32/toolkit/WindowRegistry.h"
 #include "backends/win32/windows/ContentWindow.h"
+#include "backends/win32/windows/FormStacking.h"
 #include "backends/win32/windows/ModalLock.h"
 #include "backends/win32/windows/WindowGeometry.h"
 #include "backends/win32/windows/menus/FormMenus.h"
@@ -45,10 +46,7 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   const FormMenus& Menus() const { return menus_; }
   /// The peer of a control of the form; null for none.
   ControlPeer* PeerOf(const Control& control) const;
-  /// Puts the window on top of all others, or takes it down, while it is apart from its owner.
-  void ShowOnTop();
-  /// Ties the window to its owner, or parts them.
-  void Join(bool owner);
+  const FormStacking& Stacking() const { return stacking_; }
   /// Resizes as if the user had dragged the border to this outer size, in twips.
   void DragTo(float width, float height);
 
@@ -70,11 +68,8 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   void UpdateForm(Property property);
   void ShowGeometry();
   void ShowVisible();
-  void ChooseBoxes();
-  bool StaysOnTop() const;
   void ShowMenuBar();
   void LayOutParts();
-  HWND OwnerWindow() const;
   void FocusInside();
   void ShowDefault();
   void FollowUser();
@@ -87,12 +82,12 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   Form& form_;
   PeerServices& services_;
   std::shared_ptr<Window> window_;
+  FormStacking stacking_;
   Scale scale_;
   FormMenus menus_;
   std::shared_ptr<ContentWindow> content_;
   std::unordered_map<const Element*, std::unique_ptr<ControlPeer>> controls_;
   HWND docked_ = nullptr;  // the status bar; null for none
-  HWND owner_ = nullptr;   // the window below, possibly the host's; null for none
   WindowGeometry geometry_;
   std::unique_ptr<ModalLock> lock_;
   bool placing_ = false;  // what the window tells of its place is an echo
