@@ -42,7 +42,6 @@ RichTextView::RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewC
       callbacks_(std::move(callbacks)),
       text_(surface, layouter, *this) {
   UseViewAccessibility();
-  clock_.start();
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_InputMethodEnabled);
   setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -276,7 +275,7 @@ void RichTextView::contextMenuEvent(QContextMenuEvent* event) { event->accept();
 
 ViewMouse::Press RichTextView::PressOf(const QMouseEvent& event) const {
   return {.at = ToPoint(event.position()),
-          .time = clock_.elapsed(),
+          .time = static_cast<std::int64_t>(event.timestamp()),
           .extend = (event.modifiers() & Qt::ShiftModifier) != 0};
 }
 

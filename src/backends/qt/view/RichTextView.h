@@ -2,7 +2,6 @@
 #pragma once
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
-#include <QElapsedTimer>
 #include <QMimeData>
 #include <QPointer>
 #include <functional>
@@ -114,7 +113,6 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   DropEvents drop_{*this};
   QBasicTimer blinking_;
   QBasicTimer scrolling_;
-  QElapsedTimer clock_;
   QPointer<const QMimeData> offered_;  // the desktop's selection while it is ours
 };
 

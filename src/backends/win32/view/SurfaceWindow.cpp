@@ -354,9 +354,8 @@ void SurfaceWindow::PressLeft(const Message& message) {
   if (GetFocus() != window) SetFocus(window);
   if (!IsAttached()) return;
   SetCapture(window);
-  const ViewMouse::Press press{.at = PointOf(message.l),
-                               .time = static_cast<std::int64_t>(GetTickCount64()),
-                               .extend = (message.w & MK_SHIFT) != 0};
+  const ViewMouse::Press press{
+      .at = PointOf(message.l), .time = GetMessageTime(), .extend = (message.w & MK_SHIFT) != 0};
   if (message.id == WM_LBUTTONDBLCLK)
     mouse_.DoubleClick(press);
   else
