@@ -143,6 +143,31 @@ TEST(Drops, MoveCopyAndPutIn) {
   EXPECT_GT(user.pane.Scroll().Read().value, 0);
 }
 
+TEST(Drops, BackOnTheViewTakeWhatWasDragged) {
+  struct Row {
+    const char* what;
+    bool copy;
+    std::function<void(User&)> meanwhile;
+    std::u16string_view after;
+  };
+  const Row rows[] = {
+      {"moved", false, [](User&) {}, u"^un| deux "},
+      {"another selection", false, [](User& user) { user.surface.UserSelect(0, 5); },
+       u"^un| deux "},
+      {"another selection, copied", true, [](User& user) { user.surface.UserSelect(0, 5); },
+       u"^un| deux un"},
+      {"edited meanwhile", false, [](User& user) { user.view.Type(u"une"); }, u"^un| deux une"},
+      {"locked meanwhile", false, [](User& user) { user.locked = true; }, u" deux ^un|"}};
+  for (const Row& row : rows) {
+    User user;
+    user.Type(u" deux ^un|");
+    TextDrag drag(user.view);
+    row.meanwhile(user);
+    user.drop.DropBack(User::At(0, 0), drag, row.copy);
+    EXPECT_EQ(user.Shown(), row.after) << row.what;
+  }
+}
+
 TEST(InputMethods, ComposeReplaceAndCommit) {
   User user;
   user.Type(u"ab|c");

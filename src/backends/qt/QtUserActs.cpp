@@ -158,7 +158,7 @@ void QtUserActs::Drag(RichTextBox& box, Position start, Position length, Positio
   view.Settle();
   const std::optional<PixelRect> caret = view.Pane().CaretAt(to);
   if (!caret) return;
-  const SelectionMime content(view, SelectionMime::Of::Now);
+  const SelectionMime content(view, TextDrag(view.Text()));
   const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
   const QPointF at(caret->left, (caret->top + caret->bottom) / 2);
   QDragEnterEvent enter(at.toPoint(), actions, &content, Qt::LeftButton, Qt::NoModifier);

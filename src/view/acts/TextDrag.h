@@ -2,6 +2,7 @@
 #pragma once
 #include <string>
 
+#include "platform/Clipboard.h"
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
@@ -18,13 +19,14 @@ class TextExcerpt {
   std::u16string Text() const { return document_.Text(range_.start, range_.end); }
   std::string Rtf() const;
   std::string Html() const;
+  ClipboardContent Content() const { return {Text(), Rtf(), Html()}; }
 
  private:
   Document document_;
   Selection range_;
 };
 
-/// Text dragged out of a view. A drop within the view moves the text itself (`ViewDrop::DropOwn`);
+/// Text dragged out of a view. A drop within the view moves the text itself (`ViewDrop::DropBack`);
 /// text moved anywhere else is deleted here once the receiver has acknowledged it.
 class TextDrag {
  public:

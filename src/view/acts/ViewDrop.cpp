@@ -27,6 +27,13 @@ void ViewDrop::DropOwn(PixelPoint at, bool copy) {
   view_.Act([&] { view_.Surface().UserDrop(target, copy); });
 }
 
+void ViewDrop::DropBack(PixelPoint at, TextDrag& drag, bool copy) {
+  if (drag.Reselect())
+    DropOwn(at, copy);
+  else if (view_.IsAttached() && !view_.IsLocked())
+    Drop(at, drag.Text().Content());
+}
+
 void ViewDrop::Paste(PixelPoint at, const ClipboardContent& content) {
   const Position target = view_.Pane().PositionAt(at);
   view_.Act([&] {

@@ -1,6 +1,6 @@
 // Drops text on a view.
 #pragma once
-#include "view/pane/NoteView.h"
+#include "view/acts/TextDrag.h"
 
 namespace lumenote {
 
@@ -17,6 +17,9 @@ class ViewDrop {
   bool Drop(PixelPoint at, const ClipboardContent& content);
   /// Moves or copies the view's own selection to a point.
   void DropOwn(PixelPoint at, bool copy);
+  /// Moves or copies what was dragged from this view, whatever is selected by now. If it has been
+  /// edited since, it is inserted as it was.
+  void DropBack(PixelPoint at, TextDrag& drag, bool copy);
   /// Inserts the desktop's selection and puts the caret after it.
   void Paste(PixelPoint at, const ClipboardContent& content);
 

@@ -9,7 +9,7 @@ void DragOut::Run() {
   const QPointer<RichTextView> view = &view_;
   const TextDrag text(view_.Text());
   const QPointer<QDrag> drag = new QDrag(&view_);
-  drag->setMimeData(new SelectionMime(view_, SelectionMime::Of::Now));
+  drag->setMimeData(new SelectionMime(view_, text));
   const Qt::DropActions actions =
       view_.IsLocked() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
   receipt_ = std::make_unique<DropReceipt>();

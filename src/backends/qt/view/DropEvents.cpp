@@ -19,15 +19,15 @@ bool DropEvents::Accepts(const QDropEvent& event) const {
   return !view_.IsLocked() && event.mimeData() && HasMimeContent(*event.mimeData());
 }
 
-bool DropEvents::IsOwn(const QDropEvent& event) const {
+std::optional<TextDrag> DropEvents::Own(const QDropEvent& event) const {
   const auto* selection = dynamic_cast<const SelectionMime*>(event.mimeData());
-  return selection && selection->Source() == &view_;
+  return selection ? selection->DragFrom(view_) : std::nullopt;
 }
 
 void DropEvents::Move(QDropEvent& event) {
   event.setAccepted(Accepts(event));
   if (!event.isAccepted()) return;
-  event.setDropAction(IsOwn(event) && !IsCopy(event) ? Qt::MoveAction : event.proposedAction());
+  event.setDropAction(Own(event) && !IsCopy(event) ? Qt::MoveAction : event.proposedAction());
   rules_.Move(ToPoint(event.position()));
 }
 
@@ -36,9 +36,9 @@ void DropEvents::Drop(QDropEvent& event) {
   event.setAccepted(Accepts(event));
   if (!event.isAccepted()) return;
   const PixelPoint at = ToPoint(event.position());
-  if (IsOwn(event)) {
+  if (std::optional<TextDrag> own = Own(event)) {
     event.setDropAction(IsCopy(event) ? Qt::CopyAction : Qt::MoveAction);
-    rules_.DropOwn(at, IsCopy(event));
+    rules_.DropBack(at, *own, IsCopy(event));
   } else {
     event.setAccepted(rules_.Drop(at, ReadMime(*event.mimeData())));
   }

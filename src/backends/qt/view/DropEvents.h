@@ -1,6 +1,7 @@
 // Forwards Qt's drag-and-drop events to a view.
 #pragma once
 #include <QDropEvent>
+#include <optional>
 
 #include "view/acts/ViewDrop.h"
 
@@ -18,7 +19,8 @@ class DropEvents {
 
  private:
   bool Accepts(const QDropEvent& event) const;
-  bool IsOwn(const QDropEvent& event) const;
+  /// What is dragged from the view itself; empty for what comes from elsewhere.
+  std::optional<TextDrag> Own(const QDropEvent& event) const;
 
   RichTextView& view_;
   ViewDrop rules_;

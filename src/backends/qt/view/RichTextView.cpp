@@ -124,7 +124,7 @@ void RichTextView::OfferSelection() {
   QClipboard* clipboard = QApplication::clipboard();
   if (offered_ || !hasFocus() || !clipboard->supportsSelection()) return;
   if (Surface().Selected().Length() == 0) return;
-  auto* selection = new SelectionMime(*this, SelectionMime::Of::Then);
+  auto* selection = new SelectionMime(*this);
   offered_ = selection;
   clipboard->setMimeData(selection, QClipboard::Selection);
 }

@@ -6,18 +6,17 @@
 
 namespace lumenote {
 
-SelectionMime::SelectionMime(RichTextView& view, Of when)
-    : view_(&view), edits_(view.Text().Edits()) {
-  if (when == Of::Now) taken_.emplace(view.Surface());
-}
+SelectionMime::SelectionMime(RichTextView& view) : view_(&view) {}
 
-RichTextView* SelectionMime::Source() const {
-  const bool same = view_ && view_->IsAttached() && view_->Text().Edits() == edits_;
-  return same ? view_ : nullptr;
+SelectionMime::SelectionMime(RichTextView& view, const TextDrag& drag)
+    : view_(&view), drag_(drag) {}
+
+std::optional<TextDrag> SelectionMime::DragFrom(const RichTextView& view) const {
+  return view_ == &view ? drag_ : std::nullopt;
 }
 
 std::optional<TextExcerpt> SelectionMime::Content() const {
-  if (taken_) return taken_;
+  if (drag_) return drag_->Text();
   if (!view_ || !view_->IsAttached()) return std::nullopt;
   return TextExcerpt(view_->Surface());
 }

@@ -11,14 +11,14 @@ namespace lumenote {
 class RichTextView;
 
 /// Text, RTF and HTML are generated on request, whatever their size: of the selection at that time,
-/// or of the selection when this was created.
+/// or of what is dragged.
 class SelectionMime : public QMimeData {
  public:
-  enum class Of { Then, Now };
-  SelectionMime(RichTextView& view, Of when);
+  explicit SelectionMime(RichTextView& view);
+  SelectionMime(RichTextView& view, const TextDrag& drag);
 
-  /// The view from which the text can be moved; null if it is gone or was edited since.
-  RichTextView* Source() const;
+  /// What is dragged from that view; empty if it is another's.
+  std::optional<TextDrag> DragFrom(const RichTextView& view) const;
 
   QStringList formats() const override;
   bool hasFormat(const QString& format) const override { return formats().contains(format); }
@@ -30,8 +30,7 @@ class SelectionMime : public QMimeData {
   std::optional<TextExcerpt> Content() const;
 
   QPointer<RichTextView> view_;
-  std::optional<TextExcerpt> taken_;
-  int edits_;  // edit count of the view at creation
+  std::optional<TextDrag> drag_;
 };
 
 }  // namespace lumenote

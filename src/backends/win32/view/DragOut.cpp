@@ -42,11 +42,9 @@ void DragOut::Run(NoteView& view) {
   if (result == DRAGDROP_S_DROP && (done & offered & DROPEFFECT_MOVE) && !takenBack_) text.Moved();
 }
 
-bool DragOut::DropBack(ViewDrop& rules, PixelPoint at, bool copy) {
-  if (!dragged_->Reselect()) return false;
+void DragOut::DropBack(ViewDrop& rules, PixelPoint at, bool copy) {
   takenBack_ = true;
-  rules.DropOwn(at, copy);
-  return true;
+  rules.DropBack(at, *dragged_, copy);
 }
 
 }  // namespace lumenote

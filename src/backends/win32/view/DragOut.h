@@ -11,9 +11,8 @@ class DragOut {
   /// Returns when the drag has ended; the view may be detached then.
   void Run(NoteView& view);
   bool IsRunning() const { return dragged_ != nullptr; }
-  /// Moves or copies the dragged text within its own view. False if it has been edited since: then
-  /// it is dropped like any other.
-  bool DropBack(ViewDrop& rules, PixelPoint at, bool copy);
+  /// Drops the dragged text on its own view.
+  void DropBack(ViewDrop& rules, PixelPoint at, bool copy);
 
  private:
   TextDrag* dragged_ = nullptr;  // while running

@@ -58,8 +58,10 @@ HRESULT DropTarget::Drop(IDataObject* data, DWORD keys, POINTL at, DWORD* effect
   if (*effect == DROPEFFECT_NONE) return S_OK;
   const PixelPoint point = PointOf(at);
   try {
-    const bool back = own_.IsRunning() && own_.DropBack(rules_, point, *effect == DROPEFFECT_COPY);
-    if (!back && !rules_.Drop(point, ReadTransfer(*data))) *effect = DROPEFFECT_NONE;
+    if (own_.IsRunning())
+      own_.DropBack(rules_, point, *effect == DROPEFFECT_COPY);
+    else if (!rules_.Drop(point, ReadTransfer(*data)))
+      *effect = DROPEFFECT_NONE;
   } catch (const std::bad_alloc&) {
     *effect = DROPEFFECT_NONE;
   }
