@@ -130,21 +130,38 @@ bool Form::UserMenuKey() {
   }
   Raise([this] { Form_EnterMenuBar(); });
   if (!peer_ || !HasMenuBar()) return false;
-  menuBarFocused_ = true;
+  UserMenuBarFocus(true);
   peer_->FocusMenuBar(true);
   return true;
 }
 
+// A release that has not come by then was lost to another window.
 void Form::UserMenuBarFocus(bool has) {
-  if (has)
-    menuBarFocused_ = true;
-  else
-    LeaveMenuBar();
+  if (!has) return LeaveMenuBar();
+  menuBarFocused_ = true;
+  menuBarLeft_ = false;
+  pressed_ = false;
+}
+
+void Form::UserPress() {
+  pressed_ = true;
+  LeaveMenuBar();
+}
+
+void Form::UserRelease() {
+  pressed_ = false;
+  TellMenuBarLeft();
 }
 
 void Form::LeaveMenuBar() {
   if (!std::exchange(menuBarFocused_, false)) return;
+  menuBarLeft_ = true;
   if (peer_) peer_->FocusMenuBar(false);
+  TellMenuBarLeft();
+}
+
+void Form::TellMenuBarLeft() {
+  if (pressed_ || !std::exchange(menuBarLeft_, false)) return;
   Raise([this] { Form_LeaveMenuBar(); });
 }
 
@@ -262,6 +279,8 @@ void Form::TakeDown() {
   loaded_ = false;
   visible_ = false;
   menuBarFocused_ = false;
+  menuBarLeft_ = false;
+  pressed_ = false;
   unloaded_ = true;
   RearmTimers();
   peer_.reset();

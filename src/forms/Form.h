@@ -135,8 +135,15 @@ class Form : public Element, public Container {
   bool UserMenuKey();
   /// The menu bar has got the keyboard, or lost it. While a list of the bar is open, it has it.
   void UserMenuBarFocus(bool has);
+  /// A mouse button goes down outside the menu bar, before the control there is told.
+  void UserPress();
+  /// No mouse button is held any more, and the control has been told.
+  void UserRelease();
+  /// Whether a release is due.
+  bool IsPressed() const { return pressed_; }
 
-  /// Gives the keyboard back to the controls, if the menu bar has it.
+  /// Gives the keyboard back to the controls, if the menu bar has it. The window hears of that when
+  /// no mouse button is held, since what it does then may move the controls.
   void LeaveMenuBar();
   /// Whether the key means something to the menu bar, which has the keyboard.
   bool IsForMenuBar(const KeyStroke& key) const;
@@ -194,6 +201,7 @@ class Form : public Element, public Container {
   void Leave();
   void Bounds(Rect bounds);
   void TakeDown();
+  void TellMenuBarLeft();
   /// Shows an error that has reached an event's edge; without one, that memory was wanting.
   void ShowFailure(const RuntimeError* error);
   void RearmTimers();
@@ -225,6 +233,8 @@ class Form : public Element, public Container {
   bool modal_ = false;
   bool escapeCloses_ = false;
   bool menuBarFocused_ = false;
+  bool menuBarLeft_ = false;  // the window has not heard of it yet
+  bool pressed_ = false;
 };
 
 }  // namespace lumenote

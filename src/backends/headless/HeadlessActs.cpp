@@ -44,6 +44,12 @@ void MouseIn(HeadlessView& view, UserActs::MouseAct act, const MouseEvent& event
   if (act == UserActs::MouseAct::Up && left) view.Mouse().Up(at);
 }
 
+/// After the act no button is held; a move may be the first that tells so.
+bool Releases(UserActs::MouseAct act, const MouseEvent& event) {
+  return act == UserActs::MouseAct::Up ||
+         (act == UserActs::MouseAct::Move && event.button == MouseButton::None);
+}
+
 }  // namespace
 
 /// Keys that the control does not handle go to its window.
@@ -112,12 +118,15 @@ void HeadlessActs::Select(RichTextBox& box, Position start, Position length) {
 }
 
 void HeadlessActs::Mouse(Control& control, MouseAct act, const MouseEvent& event) {
+  Form& form = control.Owner();
+  if (act == MouseAct::Down) form.UserPress();
   if (act == MouseAct::Down) control.SetFocus();
-  const StillLoaded loaded(control.Owner());
+  const StillLoaded loaded(form);
   if (const auto view = backend_.ViewOf(control)) MouseIn(*view, act, event);
   if (!loaded) return;
   if (act == MouseAct::Move) control.UserMouseMove(event);
   if (act == MouseAct::Up) control.UserMouseUp(event);
+  if (loaded && Releases(act, event)) form.UserRelease();
 }
 
 void HeadlessActs::Drag(RichTextBox& box, Position start, Position length, Position to) {

@@ -30,20 +30,25 @@ Kind& Shown(const WidgetRegistry& widgets, const Element& element) {
   throw std::logic_error(element.Name() + " is not on screen");
 }
 
-/// The mouse at a point of a control; events go to the innermost widget there.
+/// The mouse at a point of a control; events go to the innermost widget there, past the native
+/// window, which is told of buttons that go down and up.
 class MousePointer {
  public:
   MousePointer(QWidget& widget, QPointF at) {
     QWidget* inner = widget.childAt(at.toPoint());
     target_ = inner ? inner : &widget;
     at_ = target_->mapFrom(&widget, at);
+    window_ = dynamic_cast<FormWindow*>(widget.window());
   }
 
   /// Any event may destroy the widget.
   void Send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
     if (!target_) return;
+    const bool presses = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (presses && window_) window_->Press();
     QMouseEvent event(type, at_, target_->mapToGlobal(at_), button, held, Qt::NoModifier);
     QApplication::sendEvent(target_, &event);
+    if (!presses && !held && window_) window_->Release();
   }
   void Press(Qt::MouseButton button, QEvent::Type type = QEvent::MouseButtonPress) {
     Send(type, button, button);
@@ -53,6 +58,7 @@ class MousePointer {
 
  private:
   QPointer<QWidget> target_;
+  QPointer<FormWindow> window_;
   QPointF at_;
 };
 

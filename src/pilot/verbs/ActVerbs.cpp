@@ -53,13 +53,6 @@ Kind& UsableKind(ScriptContext& context, std::string_view path) {
   throw ScriptError(std::string(path) + " is not of that kind");
 }
 
-/// A press on a control takes the keyboard from the menu bar; real events that are sent to the
-/// control do not come by the window that would see to it.
-Control& Pressed(Control& control) {
-  control.Owner().LeaveMenuBar();
-  return control;
-}
-
 }  // namespace
 
 Answer Click(ScriptContext& context, Arguments& arguments) {
@@ -68,7 +61,7 @@ Answer Click(ScriptContext& context, Arguments& arguments) {
   Element& element = UsablePart(context, path);
   auto* menu = dynamic_cast<Menu*>(&element);
   if (!menu)
-    context.acts.Click(Pressed(static_cast<Control&>(element)));
+    context.acts.Click(static_cast<Control&>(element));
   else if (menu->Entries().empty())
     context.acts.Choose(*menu);
   else
@@ -79,7 +72,7 @@ Answer Click(ScriptContext& context, Arguments& arguments) {
 Answer DoubleClick(ScriptContext& context, Arguments& arguments) {
   const std::string path = arguments.Name();
   arguments.End();
-  context.acts.DoubleClick(Pressed(UsableControl(context, path)));
+  context.acts.DoubleClick(UsableControl(context, path));
   return {};
 }
 
@@ -121,8 +114,7 @@ Answer Mouse(ScriptContext& context, Arguments& arguments) {
   const MouseAct act = ReadMouseAct(arguments);
   const MouseEvent event = ReadMouseEvent(arguments);
   arguments.End();
-  Control& control = UsableControl(context, path);
-  context.acts.Mouse(act == MouseAct::Down ? Pressed(control) : control, act, event);
+  context.acts.Mouse(UsableControl(context, path), act, event);
   return {};
 }
 

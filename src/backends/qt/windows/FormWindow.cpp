@@ -140,12 +140,13 @@ void FormWindow::HearNative(const QEvent& event) {
     case QEvent::KeyRelease:
       if (std::exchange(altAlone_, false) && IsAlt(event)) form_->UserMenuKey();
       return;
-    case QEvent::MouseButtonPress: {
+    case QEvent::MouseButtonPress:
       altAlone_ = false;
-      const QPointF at = static_cast<const QMouseEvent&>(event).position();
-      if (!bar_->isVisible() || !bar_->geometry().contains(at.toPoint())) form_->LeaveMenuBar();
+      HearMouse(static_cast<const QMouseEvent&>(event));
       return listener_.Used(*form_);
-    }
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+      return HearMouse(static_cast<const QMouseEvent&>(event));
     case QEvent::Wheel:
     case QEvent::Move:
     case QEvent::Resize:
@@ -155,6 +156,25 @@ void FormWindow::HearNative(const QEvent& event) {
     default:
       return;
   }
+}
+
+// A release is told once the widgets have had it. One at the end of a drag does not come here: the
+// next move shows that no button is held.
+void FormWindow::HearMouse(const QMouseEvent& event) {
+  const QPoint at = event.position().toPoint();
+  if (event.type() == QEvent::MouseButtonPress) {
+    if (!bar_->isVisible() || !bar_->geometry().contains(at)) Press();
+  } else if (event.buttons() == Qt::NoButton && form_->IsPressed()) {
+    QMetaObject::invokeMethod(this, &FormWindow::Release, Qt::QueuedConnection);
+  }
+}
+
+void FormWindow::Press() {
+  if (form_) form_->UserPress();
+}
+
+void FormWindow::Release() {
+  if (form_) form_->UserRelease();
 }
 
 bool FormWindow::eventFilter(QObject* object, QEvent* event) {

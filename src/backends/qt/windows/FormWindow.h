@@ -47,6 +47,10 @@ class FormWindow : public QWidget {
   /// Resizes as if the user had dragged the border to this outer size, in twips.
   void DragTo(float width, float height);
 
+  /// A mouse button goes down outside the menu bar, or none is held any more, as told to the form.
+  void Press();
+  void Release();
+
   QColor Ground() const { return content_->palette().color(QPalette::Window); }
   QColor WantedGround() const;
 
@@ -60,6 +64,7 @@ class FormWindow : public QWidget {
 
  private:
   void HearNative(const QEvent& event);
+  void HearMouse(const QMouseEvent& event);
   void ChooseKind();
   QWindow* HostWindow();
 

@@ -85,7 +85,11 @@ LRESULT Window::Handle(const Message& message) {
   if (listener_)
     if (const auto answer = listener_->Hear(message)) return *answer;
   if (!handle_) return 0;
-  if (message.id != WM_NCDESTROY) return Receive(message);
+  if (message.id != WM_NCDESTROY) {
+    const LRESULT answer = Receive(message);
+    if (listener_) listener_->HearHandled(message);
+    return answer;
+  }
   const HWND handle = handle_;
   const WNDPROC before = before_;
   Release();

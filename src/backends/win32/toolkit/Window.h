@@ -26,6 +26,8 @@ class MessageListener {
  public:
   virtual ~MessageListener() = default;
   virtual std::optional<LRESULT> Hear(const Message& message) = 0;
+  /// The window has handled the message, and still has this listener.
+  virtual void HearHandled(const Message&) {}
   /// What a child window tells its parent of itself (WM_COMMAND, WM_NOTIFY, WM_VSCROLL...).
   virtual std::optional<LRESULT> HearNotice(const Message& message) = 0;
 };

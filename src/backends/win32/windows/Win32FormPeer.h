@@ -59,6 +59,8 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   bool UnusedKey(Control& control, const KeyStroke& key) override;
   bool UseMnemonic(char16_t character) override;
   void Used() override;
+  void Pressed() override { form_.UserPress(); }
+  void Released() override { form_.UserRelease(); }
   // MessageListener
   std::optional<LRESULT> Hear(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message&) override { return std::nullopt; }

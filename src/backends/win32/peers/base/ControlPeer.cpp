@@ -22,6 +22,20 @@ MouseButton ButtonOf(UINT message) {
   }
 }
 
+bool IsPress(UINT message) {
+  switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK:
+    case WM_MBUTTONDOWN:
+    case WM_MBUTTONDBLCLK:
+      return true;
+    default:
+      return false;
+  }
+}
+
 /// Keys whose character makes a one-line box beep.
 bool TypesNothing(const KeyStroke& key) {
   return key.name == KeyName::Return || key.name == KeyName::Escape || key.name == KeyName::Tab;
@@ -98,14 +112,24 @@ void ControlPeer::Compare(DifferenceList& differences) const {
 }
 
 std::optional<LRESULT> ControlPeer::Hear(const Message& message) {
+  const auto window = window_;
   if (message.id == WM_SETFOCUS) host_.Focused(control_);
+  if (IsPress(message.id)) host_.Pressed();
+  if (!window->HasListener()) return 0;
   if (!PassesInput()) return std::nullopt;
   if (message.id == WM_KEYDOWN || message.id == WM_SYSKEYDOWN || message.id == WM_SYSCHAR)
     return HearKey(message);
   if (message.id < WM_MOUSEFIRST || message.id > WM_MBUTTONDBLCLK) return std::nullopt;
-  const auto window = window_;
   HearMouse(message);
   return window->HasListener() ? std::optional<LRESULT>() : 0;
+}
+
+// A release outside the window, or at the end of a drag, does not come here: the next move shows
+// that no button is held.
+void ControlPeer::HearHandled(const Message& message) {
+  constexpr WPARAM kHeld = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
+  const bool tells = message.id == WM_MOUSEMOVE || ButtonOf(message.id) != MouseButton::None;
+  if (tells && (message.w & kHeld) == 0) host_.Released();
 }
 
 // The peer may be gone when a key was used.

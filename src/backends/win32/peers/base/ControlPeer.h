@@ -34,6 +34,7 @@ class ControlPeer : protected MessageListener {
 
  protected:
   std::optional<LRESULT> Hear(const Message& message) override;
+  void HearHandled(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message&) override { return std::nullopt; }
 
   /// Whether the native control itself uses the key.

@@ -22,6 +22,9 @@ class PeerHost {
   virtual bool UseMnemonic(char16_t character) = 0;
   /// A button or key goes down in the window.
   virtual void Used() = 0;
+  /// A mouse button goes down in a control; none is held any more, and the control has handled it.
+  virtual void Pressed() = 0;
+  virtual void Released() = 0;
 };
 
 }  // namespace lumenote
