@@ -2,13 +2,15 @@
 """The menu bar at the keyboard: which keys call it, what sends it away, where the keyboard goes then."""
 from rig import Notes, main
 
+NOTE = r"un deux trois\nquatre cinq\nsix sept"
 TEXT, GROUND, EDT, BAR_ZONE = (150, 150), (2, 60), (20, 10), (40, 20)
+UNDER_BAR, MOVED_BAR_ZONE = (40, 22), (40, 40)  # while the bar is shown
 
 
 class MenuBar(Notes):
     def setUp(self):
         super().setUp()
-        self.open(r"{\rtf1 un deux trois\par}")
+        self.open(r"{\rtf1 un deux trois\par quatre cinq\par six sept\par}")
         self.keys(self.note, "ctrl+Home", "ctrl+shift+Right")
         self.bar_is("hidden")
 
@@ -52,10 +54,10 @@ class MenuBar(Notes):
         self.bar_is("hidden")
         self.host.waits_for("rtf 1", lambda source: "\\b " in source)
         self.type(self.note, "x")
-        self.host.waits_for("text 1", "xdeux trois")
+        self.host.waits_for("text 1", "x" + NOTE[3:])
 
     def test_a_click_elsewhere_and_another_window_send_it_away(self):
-        for point in (TEXT, GROUND):
+        for point in (TEXT, GROUND, UNDER_BAR, MOVED_BAR_ZONE):
             self.press("F10")
             self.bar_is("focused")
             self.click(point)
@@ -64,6 +66,26 @@ class MenuBar(Notes):
         self.bar_is("focused")
         self.paragraph_dialog()
         self.bar_is("hidden")
+
+    def typed_at(self, *acts):
+        """The text with an x where these acts of the mouse have left the caret; it is as it was after."""
+        self.mouse(self.note, *acts)
+        self.bar_is("hidden")
+        self.type(self.note, "x")
+        self.host.waits_for("text 1", lambda text: "x" in text)
+        text = self.host.ask("text 1")
+        self.press("ctrl+z")
+        self.host.waits_for("text 1", NOTE)
+        return text
+
+    def test_a_click_lands_where_the_text_was_seen(self):
+        held = ("mousedown 1", "sleep 0.3", (17, 51), "sleep 0.3", "mouseup 1")
+        for acts, text in ((((30, 68), "click 1"), NOTE.replace("quatre", "quaxtre")),
+                           (((18, 50), *held), NOTE.replace("un", "uxn"))):
+            with self.subTest(acts=acts):
+                self.press("ctrl+Home", "ctrl+shift+Right", "F10")
+                self.bar_is("focused")
+                self.assertEqual(self.typed_at(*acts), text)
 
     def test_the_mouse_in_a_bar_that_a_key_called(self):
         self.press("F10")

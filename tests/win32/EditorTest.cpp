@@ -1,5 +1,8 @@
 // The editor on native windows: in a host's plain loop, closed in every way, at the session's end.
+#include <cmath>
+
 #include "backends/win32/toolkit/ComObject.h"
+#include "backends/win32/view/SurfaceWindow.h"
 #include "win32/EditorBench.h"
 
 // After the system's own header.
@@ -82,6 +85,7 @@ TEST_F(EditorTest, ACalledMenuBarGoesWithAClickElsewhereOrAnotherWindow) {
   Open();
   const HWND document = GetFocus();
   const HWND label = backend.PeerOf(*Editor())->PeerOf(Editor()->Lb_Format)->Native().Handle();
+  const HWND ground = FindWindowExW(Handle(), nullptr, L"LumenoteContent", nullptr);
   const HWND other = CreateWindowExW(0, L"STATIC", L"Autre", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9,
                                      nullptr, nullptr, nullptr, nullptr);
   const auto click = [](HWND window) {
@@ -89,7 +93,7 @@ TEST_F(EditorTest, ACalledMenuBarGoesWithAClickElsewhereOrAnotherWindow) {
     PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(2, 2));
   };
   const std::function<void()> acts[] = {[&] { click(label); }, [&] { click(document); },
-                                        [&] { SetActiveWindow(other); }};
+                                        [&] { click(ground); }, [&] { SetActiveWindow(other); }};
   for (const auto& act : acts) {
     SetActiveWindow(Handle());
     Type({VK_F10});
@@ -101,6 +105,35 @@ TEST_F(EditorTest, ACalledMenuBarGoesWithAClickElsewhereOrAnotherWindow) {
   SetActiveWindow(Handle());
   EXPECT_EQ(GetFocus(), document);
   DestroyWindow(other);
+}
+
+TEST_F(EditorTest, AClickThatSendsTheMenuBarAwayLandsWhereTheTextWasSeen) {
+  Open();
+  const HWND document = GetFocus();
+  auto& surface = dynamic_cast<SurfaceWindow&>(*Window::Of(document));
+  const std::u16string note = u"un deux\r\ntrois quatre\r\ncinq";
+  Editor()->Document().Text(note);
+  for (const Position place : {1, 12}) {
+    Editor()->Document().SelStart(0);
+    Editor()->Document().SelLength(3);
+    Type({VK_F10});
+    const PixelRect caret = *surface.Text().Pane().CaretAt(place);
+    POINT at = {std::lround(caret.left), std::lround(caret.top) + 4};
+    ClientToScreen(document, &at);
+    MoveMouse({at.x, at.y});
+    UseMouse(MOUSEEVENTF_LEFTDOWN);
+    Pump();
+    EXPECT_TRUE(Editor()->HasMenuBar());
+    EXPECT_EQ(GetFocus(), document);
+    MoveMouse({at.x + 1, at.y});
+    Pump();
+    UseMouse(MOUSEEVENTF_LEFTUP);
+    Pump();
+    EXPECT_FALSE(Editor()->HasMenuBar());
+    EXPECT_EQ(surface.Text().Surface().Caret(), place);
+    EXPECT_EQ(Editor()->Document().SelLength(), 0);
+    EXPECT_EQ(Editor()->Document().Text(), note);
+  }
 }
 
 TEST_F(EditorTest, ScreenReadersNameTheNoteByItsFrame) {

@@ -3,6 +3,7 @@
 #include <windowsx.h>
 
 #include "backends/win32/toolkit/Colours.h"
+#include "backends/win32/toolkit/MouseButtons.h"
 
 namespace lumenote {
 
@@ -25,6 +26,8 @@ COLORREF ContentWindow::Colour() const {
 }
 
 LRESULT ContentWindow::Receive(const Message& message) {
+  if (IsPress(message.id) && pressed) pressed();
+  if (TellsFreeMouse(message) && released) released();
   switch (message.id) {
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:

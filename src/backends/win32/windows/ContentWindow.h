@@ -16,8 +16,10 @@ class ContentWindow final : public PaintedWindow {
   void Ground(std::int32_t colour);
   std::int32_t Ground() const { return ground_; }
 
-  /// The pointer moves where no control is. May be empty.
+  /// Where no control is, the pointer moves, a button goes down, or none is held. May be empty.
   std::function<void(POINT)> mouseMoved;
+  std::function<void()> pressed;
+  std::function<void()> released;
 
  protected:
   LRESULT Receive(const Message& message) override;

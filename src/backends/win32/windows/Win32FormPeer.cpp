@@ -46,6 +46,8 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
   content_->mouseMoved = [this](POINT at) {
     form_.UserMouseMove({MouseButton::None, {scale_.Twips(at.x), scale_.Twips(at.y)}});
   };
+  content_->pressed = [this] { Pressed(); };
+  content_->released = [this] { Released(); };
   window_->Listener(this);
   AddControls(form, content_->Handle());
   for (const Property property : {Property::Caption, Property::BackColor, Property::Geometry})
@@ -59,6 +61,8 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
 Win32FormPeer::~Win32FormPeer() {
   window_->Listener(nullptr);
   content_->mouseMoved = nullptr;
+  content_->pressed = nullptr;
+  content_->released = nullptr;
   for (const auto& [control, peer] : controls_) services_.Windows().Remove(*control);
   services_.Windows().Remove(form_);
   services_.Gone(form_);

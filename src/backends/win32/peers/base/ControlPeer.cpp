@@ -3,38 +3,12 @@
 #include <windowsx.h>
 
 #include "backends/win32/toolkit/Keys.h"
+#include "backends/win32/toolkit/MouseButtons.h"
 #include "backends/win32/toolkit/MousePoint.h"
 #include "forms/Form.h"
 
 namespace lumenote {
 namespace {
-
-MouseButton ButtonOf(UINT message) {
-  switch (message) {
-    case WM_LBUTTONUP:
-      return MouseButton::Left;
-    case WM_RBUTTONUP:
-      return MouseButton::Right;
-    case WM_MBUTTONUP:
-      return MouseButton::Middle;
-    default:
-      return MouseButton::None;
-  }
-}
-
-bool IsPress(UINT message) {
-  switch (message) {
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONDBLCLK:
-      return true;
-    default:
-      return false;
-  }
-}
 
 /// Keys whose character makes a one-line box beep.
 bool TypesNothing(const KeyStroke& key) {
@@ -124,12 +98,8 @@ std::optional<LRESULT> ControlPeer::Hear(const Message& message) {
   return window->HasListener() ? std::optional<LRESULT>() : 0;
 }
 
-// A release outside the window, or at the end of a drag, does not come here: the next move shows
-// that no button is held.
 void ControlPeer::HearHandled(const Message& message) {
-  constexpr WPARAM kHeld = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
-  const bool tells = message.id == WM_MOUSEMOVE || ButtonOf(message.id) != MouseButton::None;
-  if (tells && (message.w & kHeld) == 0) host_.Released();
+  if (TellsFreeMouse(message)) host_.Released();
 }
 
 // The peer may be gone when a key was used.
@@ -153,7 +123,7 @@ std::optional<LRESULT> ControlPeer::HearKey(const Message& message) {
 void ControlPeer::HearMouse(const Message& message) {
   const auto window = window_;
   const POINT at = {GET_X_LPARAM(message.l), GET_Y_LPARAM(message.l)};
-  const MouseEvent event{ButtonOf(message.id), PointOf(Handle(), message)};
+  const MouseEvent event{ReleasedBy(message.id), PointOf(Handle(), message)};
   if (message.id == WM_MOUSEMOVE) return control_.UserMouseMove(event);
   if (message.id == WM_LBUTTONDBLCLK) return control_.UserDoubleClick();
   if (event.button == MouseButton::None) return host_.Used();
