@@ -41,10 +41,12 @@ bool IsGoing(const std::string& path) {
 }
 
 int MakeFolder(const std::string& path) {
-  return Patiently([&] {
-    const int error = ErrorUnless(CreateDirectoryW(SystemPath(path).c_str(), nullptr));
+  int error = 0;
+  Patiently([&] {
+    error = ErrorUnless(CreateDirectoryW(SystemPath(path).c_str(), nullptr));
     return error == ERROR_ACCESS_DENIED && IsGoing(path) ? ERROR_SHARING_VIOLATION : error;
   });
+  return error;
 }
 
 }  // namespace
