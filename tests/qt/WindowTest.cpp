@@ -121,6 +121,25 @@ TEST_F(WindowTest, WhatIsBeingComposedIsKept) {
   }
 }
 
+TEST_F(WindowTest, AThirdClickIsOneThatWasMadeSoon) {
+  auto& view = Native<RichTextView>(form->box);
+  const auto click = [&](QEvent::Type type, quint64 when) {
+    const QPointF at(4, 8);
+    QMouseEvent event(type, at, view.viewport()->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    event.setTimestamp(when);
+    QApplication::sendEvent(view.viewport(), &event);
+  };
+  form->box.Surface().Text(u"un deux");
+  for (const auto& [when, selected] : {std::pair(5100, 7), std::pair(9000, 0)}) {
+    click(QEvent::MouseButtonDblClick, 5000);
+    EXPECT_EQ(form->box.Surface().SelLength(), 2);
+    click(QEvent::MouseButtonPress, static_cast<quint64>(when));
+    click(QEvent::MouseButtonRelease, static_cast<quint64>(when));
+    EXPECT_EQ(form->box.Surface().SelLength(), selected) << when;
+  }
+}
+
 TEST_F(WindowTest, APopupOpensOnceAndEndsWithTheWindow) {
   int opened = 0;
   form->popup.Click = [&] { ++opened; };
