@@ -69,40 +69,44 @@ void LeaveBlanks(std::u16string& text) {
   while (!text.empty() && IsBlank(text.back())) text.pop_back();
 }
 
-std::unordered_map<int, ListLevels> ReadLists(std::string_view group) {
-  std::unordered_map<int, ListLevels> lists;
-  ListLevels levels;
-  std::size_t count = 0;
+constexpr ListLevel kUnknown{.form = ListLevel::Form::Unknown};
+
+struct ListEntry {
+  std::optional<int> id{};
+  std::vector<ListLevel> levels{};
+};
+
+ListEntry ReadList(std::string_view group) {
+  ListEntry list;
   LevelReader reader;
   SourceTokens tokens(group);
   while (const auto token = tokens.Next()) {
-    if (token->word == "list") {
-      levels.fill({.form = ListLevel::Form::Unknown});
-      count = 0;
-      reader.Begin(nullptr);
-    } else if (token->word == "listlevel") {
-      reader.Begin(count < levels.size() ? &levels[count] : nullptr);
-      ++count;
-    } else if (token->word == "listid") {
-      for (ListLevel& level : levels) LeaveBlanks(level.text);
-      lists[token->number] = levels;
-    }
+    if (token->word == "listid") list.id = token->number;
+    if (token->word == "listlevel")
+      reader.Begin(list.levels.size() < kListLevels ? &list.levels.emplace_back() : nullptr);
     reader.Take(*token);
   }
-  return lists;
+  for (ListLevel& level : list.levels) LeaveBlanks(level.text);
+  return list;
 }
 
 /// Reads the levels in which an override differs from its list.
 class OverrideReader {
  public:
   void Take(const SourceToken& token) {
-    if (token.word == "listoverride") override_ = {};
     if (token.word == "listid") override_.list = token.number;
+    if (token.word == "ls") number_ = token.number;
     if (token.word == "lfolevel") BeginLevel();
     if (!override_.levels.empty()) OfLevel(token);
     reader_.Take(token);
   }
-  const ListOverride& Result() const { return override_; }
+  /// The last number that was said.
+  std::optional<int> Number() const { return number_; }
+  ListOverride TakeResult() {
+    for (ListOverride::Level& level : override_.levels)
+      if (level.format) LeaveBlanks(level.format->text);
+    return std::move(override_);
+  }
 
  private:
   void BeginLevel() {
@@ -118,31 +122,34 @@ class OverrideReader {
     if (token.word == "listlevel") reader_.Begin(&level.format.emplace());
   }
 
+  std::optional<int> number_;
   ListOverride override_;
   LevelReader reader_;
   bool starts_ = false;
 };
 
-std::unordered_map<int, ListOverride> ReadOverrides(std::string_view group) {
-  std::unordered_map<int, ListOverride> overrides;
-  OverrideReader reader;
-  SourceTokens tokens(group);
-  while (const auto token = tokens.Next()) {
-    reader.Take(*token);
-    if (token->word == "ls") overrides[token->number] = reader.Result();
-  }
-  for (auto& entry : overrides)
-    for (ListOverride::Level& level : entry.second.levels)
-      if (level.format) LeaveBlanks(level.format->text);
-  return overrides;
-}
-
 }  // namespace
 
 void ListDefinitions::Read(std::string_view source) {
   for (const SourceGroup& group : GroupsOf(source)) {
-    if (group.word == "listtable") lists_.merge(ReadLists(group.source));
-    if (group.word == "listoverridetable") overrides_.merge(ReadOverrides(group.source));
+    if (group.word == "listtable") ReadLists(InsideOf(group.source));
+    if (group.word == "listoverridetable") ReadOverrides(InsideOf(group.source));
+  }
+}
+
+void ListDefinitions::ReadLists(std::string_view entries) {
+  for (const SourceGroup& group : GroupsOf(entries)) {
+    ListEntry list = ReadList(group.source);
+    if (list.id) lists_.try_emplace(*list.id, std::move(list.levels));
+  }
+}
+
+void ListDefinitions::ReadOverrides(std::string_view entries) {
+  for (const SourceGroup& group : GroupsOf(entries)) {
+    OverrideReader reader;
+    SourceTokens tokens(group.source);
+    while (const auto token = tokens.Next()) reader.Take(*token);
+    if (reader.Number()) overrides_.try_emplace(*reader.Number(), reader.TakeResult());
   }
 }
 
@@ -155,14 +162,19 @@ const ListOverride* ListDefinitions::Override(int number) const {
 bool ListDefinitions::IsBullet(int number, int level) const {
   const ListOverride* override = Override(number);
   if (!override || level < 0 || level >= kListLevels) return false;
-  const ListLevel* shown = &lists_.at(override->list)[static_cast<std::size_t>(level)];
+  const std::vector<ListLevel>& own = lists_.at(override->list);
+  const auto index = static_cast<std::size_t>(level);
+  const ListLevel* shown = index < own.size() ? &own[index] : nullptr;
   for (const ListOverride::Level& other : override->levels)
     if (other.number == level && other.format) shown = &*other.format;
-  return shown->form == ListLevel::Form::Bullet;
+  return shown && shown->form == ListLevel::Form::Bullet;
 }
 
 ListLevels ListDefinitions::LevelsOf(const ListOverride& override) const {
-  ListLevels levels = lists_.at(override.list);
+  const std::vector<ListLevel>& said = lists_.at(override.list);
+  ListLevels levels;
+  levels.fill(kUnknown);
+  std::ranges::copy(said, levels.begin());
   for (const ListOverride::Level& level : override.levels) {
     ListLevel& own = levels[static_cast<std::size_t>(level.number)];
     if (level.format) own = *level.format;

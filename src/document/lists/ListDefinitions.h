@@ -34,8 +34,11 @@ class ListDefinitions {
   ListLevels LevelsOf(const ListOverride& override) const;
 
  private:
-  std::unordered_map<int, ListLevels> lists_;        // by \listid
-  std::unordered_map<int, ListOverride> overrides_;  // by \ls
+  void ReadLists(std::string_view entries);
+  void ReadOverrides(std::string_view entries);
+
+  std::unordered_map<int, std::vector<ListLevel>> lists_;  // by \listid: the levels that it says
+  std::unordered_map<int, ListOverride> overrides_;        // by \ls
 };
 
 /// The numbers that a group of one paragraph asks for (\pn), which knows one level; empty for

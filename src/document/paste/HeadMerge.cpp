@@ -6,11 +6,6 @@
 #include "document/kept/SourceGroups.h"
 
 namespace lumenote {
-namespace {
-
-constexpr int kWildNumber = 1'000'000;  // real fonts never have such high numbers
-
-}  // namespace
 
 std::string HeadSource(const KeptItems& items) {
   std::string source;
@@ -29,8 +24,8 @@ HeadMerge::HeadMerge(const KeptHead& from, std::string_view source, FormatTables
       lists_(source, toSource_) {
   for (const KeptHead::Font& font : to_.fonts) {
     fonts_.try_emplace(font.font, font.number);
-    fontNumbers_.try_emplace(font.number, font.font);
-    if (font.number < kWildNumber) nextFont_ = std::max(nextFont_, font.number + 1);
+    fontsByNumber_.try_emplace(font.number, font.font);
+    fontNumbers_.Take(font.number);
   }
   if (to_.colours.empty()) to_.colours.push_back(kAutoColour);
   for (std::size_t i = to_.colours[0] == kAutoColour ? 0 : 1; i < to_.colours.size(); ++i)
@@ -84,14 +79,12 @@ int HeadMerge::MapFont(int number) {
 }
 
 int HeadMerge::AddFont(const KeptHead::Font& font) {
-  const auto there = fontNumbers_.find(font.number);
-  const bool taken = there != fontNumbers_.end();
-  if (taken && there->second == font.font) return font.number;
-  const auto [entry, isNew] = fonts_.try_emplace(font.font, taken ? nextFont_ : font.number);
+  const auto there = fontsByNumber_.find(font.number);
+  if (there != fontsByNumber_.end() && there->second == font.font) return font.number;
+  const auto [entry, isNew] = fonts_.try_emplace(font.font, 0);
   if (!isNew) return entry->second;
-  const int number = entry->second;
-  if (number < kWildNumber) nextFont_ = std::max(nextFont_, number + 1);
-  fontNumbers_.try_emplace(number, font.font);
+  const int number = entry->second = fontNumbers_.TakeFree(font.number);
+  fontsByNumber_.try_emplace(number, font.font);
   const int page = CodePageOfCharset(tables_.fonts[font.font].charset);
   to_.fonts.push_back({number, font.font, page, true});
   return number;

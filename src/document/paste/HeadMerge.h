@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "document/FormatTables.h"
+#include "document/paste/EntryNumbers.h"
 #include "document/paste/ListMerge.h"
 #include "document/paste/StyleMerge.h"
 
@@ -47,9 +48,9 @@ class HeadMerge {
   KeptHead to_;
   KeptItems items_;  // of `to_`
   const std::string toSource_;
-  std::unordered_map<FontId, int> fonts_;        // the first numbers in `to_`
-  std::unordered_map<int, FontId> fontNumbers_;  // in `to_`
-  int nextFont_ = 1;
+  std::unordered_map<FontId, int> fonts_;          // the first numbers in `to_`
+  std::unordered_map<int, FontId> fontsByNumber_;  // in `to_`
+  EntryNumbers fontNumbers_;
   std::map<Tinted, int> colours_;  // the first numbers in `to_`
   std::unordered_map<int, int> knownFonts_, knownColours_;
   StyleMerge styles_;

@@ -1,15 +1,10 @@
 #include "document/paste/ListMerge.h"
 
-#include <algorithm>
-
 #include "document/kept/SourceGroups.h"
 #include "document/kept/SourceTokens.h"
 
 namespace lumenote {
 namespace {
-
-constexpr int kHighest = 1 << 30;
-constexpr int kHighestOverride = 0xFFFE;  // that a paragraph can hold
 
 /// The number of the last such word.
 std::optional<int> NumberOf(std::string_view word, std::string_view source) {
@@ -20,11 +15,18 @@ std::optional<int> NumberOf(std::string_view word, std::string_view source) {
   return number;
 }
 
-/// A definition with another id and number of its own.
-std::string Numbered(std::string_view source, int list, int override) {
+/// A definition with another id, and a number of its own if it is an override.
+std::string Numbered(std::string_view source, int list, std::optional<int> override = {}) {
   return WithNumbers(source, {[=](HeadTable table, int number) {
                        if (table == HeadTable::Lists) return list;
-                       return table == HeadTable::Overrides ? override : number;
+                       return table == HeadTable::Overrides ? override.value_or(number) : number;
+                     }});
+}
+
+/// A definition with its numbers mapped, except \ls: definitions refer to no lists.
+std::string Mapped(std::string_view source, const NumberMap& map) {
+  return WithNumbers(source, {[&map](HeadTable table, int number) {
+                       return table == HeadTable::Overrides ? number : map.number(table, number);
                      }});
 }
 
@@ -32,7 +34,7 @@ std::string Numbered(std::string_view source, int list, int override) {
 
 ListMerge::ListMerge(std::string_view from, std::string_view to) : from_(TableOf(from)) {
   const Table table = TableOf(to);
-  for (const auto& [id, source] : table.lists) listNumbers_.Add(Numbered(source, 0, 0), id);
+  for (const auto& [id, source] : table.lists) listNumbers_.Add(Numbered(source, 0), id);
   for (const auto& [number, entry] : table.overrides)
     overrideNumbers_.Add(Numbered(entry.second, entry.first, 0), number);
 }
@@ -47,29 +49,28 @@ ListMerge::Table ListMerge::TableOf(std::string_view source) {
       const std::optional<int> number = lists ? id : NumberOf("ls", entry.source);
       if (!id || !number) continue;
       if (lists)
-        table.lists[*id] = entry.source;
+        table.lists.try_emplace(*id, entry.source);
       else
-        table.overrides[*number] = {*id, entry.source};
+        table.overrides.try_emplace(*number, *id, entry.source);
     }
   }
   return table;
 }
 
 void ListMerge::Numbers::Add(const std::string& text, int number) {
-  same[text].insert(number);
-  taken.insert(number);
-  if (number < kHighest) next = std::max(next, number + 1);
+  same_[text].insert(number);
+  taken_.Take(number);
 }
 
-std::pair<int, bool> ListMerge::Numbers::For(const std::string& text, int number) {
-  std::unordered_set<int>& equal = same[text];
-  const bool isNew = equal.empty();
-  const auto found = equal.contains(number) ? equal.find(number) : equal.begin();
-  const int result = !isNew ? *found : taken.contains(number) ? next : number;
-  if (!isNew) equal.erase(found);
-  taken.insert(result);
-  if (result < kHighest) next = std::max(next, result + 1);
-  return {result, isNew};
+std::optional<std::pair<int, bool>> ListMerge::Numbers::For(const std::string& text, int number) {
+  std::set<int>& equal = same_[text];
+  const auto own = equal.find(number);
+  const auto found = own != equal.end() ? own : equal.lower_bound(least_);
+  if (found != equal.end() && (found == own || InRange(*found)))
+    return std::pair(equal.extract(found).value(), false);
+  const int result = taken_.TakeFree(number);
+  if (result != number && !InRange(result)) return std::nullopt;
+  return std::pair(result, true);
 }
 
 std::optional<int> ListMerge::MapList(int id, const NumberMap& map) {
@@ -77,10 +78,11 @@ std::optional<int> ListMerge::MapList(int id, const NumberMap& map) {
   if (!added) return known->second;
   const auto list = from_.lists.find(id);
   if (list == from_.lists.end()) return std::nullopt;
-  const std::string text = WithNumbers(list->second, map);
-  const auto [number, isNew] = listNumbers_.For(Numbered(text, 0, 0), id);
-  if (isNew) addedLists_ += Numbered(text, number, 0);
-  return lists_[id] = number;
+  const std::string text = Mapped(list->second, map);
+  const auto result = listNumbers_.For(Numbered(text, 0), id);
+  if (!result) return std::nullopt;
+  if (result->second) addedLists_ += Numbered(text, result->first);
+  return known->second = result->first;
 }
 
 std::optional<int> ListMerge::Map(int number, const NumberMap& map) {
@@ -90,11 +92,12 @@ std::optional<int> ListMerge::Map(int number, const NumberMap& map) {
   if (entry == from_.overrides.end()) return std::nullopt;
   const auto& [id, source] = entry->second;
   const std::optional<int> list = MapList(id, map);
-  if (!list || overrideNumbers_.next >= kHighestOverride) return std::nullopt;
-  const std::string text = WithNumbers(source, map);
-  const auto [result, isNew] = overrideNumbers_.For(Numbered(text, *list, 0), number);
-  if (isNew) addedOverrides_ += Numbered(text, *list, result);
-  return overrides_[number] = result;
+  if (!list) return std::nullopt;
+  const std::string text = Mapped(source, map);
+  const auto result = overrideNumbers_.For(Numbered(text, *list, 0), number);
+  if (!result) return std::nullopt;
+  if (result->second) addedOverrides_ += Numbered(text, *list, result->first);
+  return known->second = result->first;
 }
 
 }  // namespace lumenote

@@ -10,8 +10,6 @@
 namespace lumenote {
 namespace {
 
-constexpr int kHighest = 1 << 30;
-
 bool IsStyleWord(std::string_view word) {
   static constexpr std::string_view kWords[] = {"s", "cs", "ds", "ts"};
   return std::ranges::find(kWords, word) != std::end(kWords);
@@ -22,9 +20,8 @@ bool IsStyleWord(std::string_view word) {
 StyleMerge::StyleMerge(std::string_view from, std::string_view to) {
   for (Entry& entry : EntriesOf(from)) from_.try_emplace(entry.number, std::move(entry));
   for (Entry& entry : EntriesOf(to)) {
-    numbers_.try_emplace(entry.number, true);
+    numbers_.Take(entry.number);
     names_.try_emplace(std::move(entry.name), entry.number);
-    if (entry.number < kHighest) next_ = std::max(next_, entry.number + 1);
   }
 }
 
@@ -68,11 +65,8 @@ std::optional<int> StyleMerge::Map(int number) {
 int StyleMerge::Add(const Entry& entry) {
   const auto same = names_.find(entry.name);
   if (same != names_.end()) return same->second;
-  const bool taken = numbers_.contains(entry.number);
-  if (taken && entry.number == 0) return 0;
-  const int number = taken ? next_ : entry.number;
-  if (number < kHighest) next_ = std::max(next_, number + 1);
-  numbers_.try_emplace(number, true);
+  if (entry.number == 0 && numbers_.Contains(0)) return 0;
+  const int number = numbers_.TakeFree(entry.number);
   names_.try_emplace(entry.name, number);
   added_.push_back(entry.source);
   return number;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "document/kept/SourceNumbers.h"
+#include "document/paste/EntryNumbers.h"
 
 namespace lumenote {
 
@@ -37,11 +38,10 @@ class StyleMerge {
   int Add(const Entry& entry);
 
   std::unordered_map<int, Entry> from_;
-  std::map<Name, int> names_;              // of the other sheet
-  std::unordered_map<int, bool> numbers_;  // in use there
+  std::map<Name, int> names_;  // of the other sheet
+  EntryNumbers numbers_;       // there
   std::unordered_map<int, int> known_;
   std::vector<std::string_view> added_;
-  int next_ = 1;
 };
 
 }  // namespace lumenote
