@@ -78,7 +78,8 @@ void Interpreter::Row(int nested, const Token&) {
   KeptItems items = items_.Take();
   if (nested != 0) {
     std::ranges::move(nestedRow_.Take(), std::back_inserter(items));
-    std::ranges::stable_partition(items, [](const KeptItem& item) { return !OfRow(item); });
+    std::stable_partition(items.begin(), items.end(),
+                          [](const KeptItem& item) { return !OfRow(item); });
   }
   const bool defined = nested != 0 || row_.source.empty() || !RowDefinition(items).source.empty();
   if (!defined) items.insert(items.begin(), row_);
