@@ -103,6 +103,7 @@ bool Form::HasShortcut(const KeyStroke& key) const {
 bool Form::UserKey(const KeyStroke& key) {
   const auto shortcut = std::ranges::find(shortcuts_, key, &Shortcut::key);
   if (shortcut != shortcuts_.end()) {
+    CompleteComposition();
     LeaveMenuBar();
     Raise(shortcut->act);
     return true;
