@@ -124,7 +124,7 @@ const WrittenFormats::Font& WrittenFormats::FontOf(const FontFace& face) {
 WrittenFormat WrittenFormats::Written(const CharFormat& format) {
   WrittenFormat written;
   SetFont(format, written);
-  written.words = format.words;
+  written.words = WordsOf(format);
   if ((format.stated & kStatesSize) != 0) written.size = std::max<int>(format.size, 1);
   written.halfPoints = HalfPoints(format.offset);
   for (std::size_t i = 0; i < written.numbers.size(); ++i)
@@ -151,9 +151,19 @@ int WrittenFormats::TintedNumber(const CharFormat& format) const {
   tables_.words.ForEach(format.words, [&](KeptWord word) {
     if (tables_.names[word.name] == kColourWord) number = word.number;
   });
-  const bool same = number > 0 && static_cast<std::size_t>(number) < Head().colours.size() &&
-                    Head().colours[static_cast<std::size_t>(number)] == format.colour;
+  const auto place = static_cast<std::size_t>(std::max(number, 0));
+  const bool same = place < Head().colours.size() && Head().colours[place] == format.colour &&
+                    !TintOf(Head(), place).empty();
   return same ? number : 0;
+}
+
+/// The kept words; a colour's number, the first of them, means nothing where the head has lost its
+/// place in a theme.
+WordsId WrittenFormats::WordsOf(const CharFormat& format) const {
+  if (format.words == 0) return 0;
+  const KeptWord first = tables_.words[format.words];
+  const bool lost = tables_.names[first.name] == kColourWord && TintedNumber(format) == 0;
+  return lost ? WordsId{tables_.words[format.words].next} : format.words;
 }
 
 std::int32_t WrittenFormats::Number(const NumberWord& word, const CharFormat& format) {

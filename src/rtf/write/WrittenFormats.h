@@ -89,6 +89,7 @@ class WrittenFormats {
   void WriteFont(const FontFace& face, const Font& font, Output& out) const;
   int ColourNumber(Colour colour);
   int TintedNumber(const CharFormat& format) const;
+  WordsId WordsOf(const CharFormat& format) const;
   std::int32_t Number(const NumberWord& word, const CharFormat& format);
 
   const FormatTables& tables_;
