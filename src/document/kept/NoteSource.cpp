@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <utility>
+#include <vector>
 
+#include "base/codepages/CodePage.h"
 #include "document/kept/SourceTokens.h"
 
 namespace lumenote {
@@ -35,27 +38,64 @@ std::u16string Trimmed(std::u16string_view text) {
   return std::u16string(text.substr(from, text.find_last_not_of(kBlanks) + 1 - from));
 }
 
+/// Collects text, whose bytes are in the code page of their font.
+class TextReader {
+ public:
+  TextReader(const SourcePages& pages, int page) : pages_(pages), open_{page} {}
+
+  void Take(const SourceToken& token) {
+    if (token.byte >= 0) return bytes_.push_back(static_cast<char>(token.byte));
+    Decode();
+    if (token.kind == Kind::Character) text_ += token.character;
+    if (token.kind == Kind::Open) open_.push_back(open_.back());
+    if (token.kind == Kind::Close && open_.size() > 1) open_.pop_back();
+    if (token.kind == Kind::Word) Word(token);
+  }
+  std::u16string TakeText() {
+    Decode();
+    return std::move(text_);
+  }
+
+ private:
+  void Word(const SourceToken& word) {
+    if (word.word == "f") open_.back() = pages_.OfFont(word.number).value_or(open_.back());
+    if (word.word == "plain") open_.back() = pages_.OfDefault();
+    const auto* const text = std::ranges::find(kTextWords, word.word, &TextWord::word);
+    if (text != std::end(kTextWords)) text_ += text->text;
+  }
+  /// A character may have several bytes, so those that follow each other are decoded together.
+  /// Symbols mean nothing without their font.
+  void Decode() {
+    const int page = open_.back() == kPageOfSymbols ? kPageOfWindows : open_.back();
+    DecodeCodePage(page, std::exchange(bytes_, {}), text_);
+  }
+
+  const SourcePages& pages_;
+  std::vector<int> open_;  // the page in each open group; never empty
+  std::string bytes_;
+  std::u16string text_;
+};
+
 }  // namespace
 
-FootnoteText TextOfFootnote(std::string_view group) {
+FootnoteText TextOfFootnote(std::string_view group, const SourcePages& pages, int page) {
   FootnoteText note;
+  TextReader text(pages, page);
   int depth = 0;
   int aside = 0;       // the depth of the group that is passed over, 0 none
   bool first = false;  // of a group
   SourceTokens tokens(group);
   while (const auto token = tokens.Next()) {
     if (token->kind == Kind::Open) ++depth;
-    if (token->kind == Kind::Close && aside == depth--) aside = 0;
     if (token->kind == Kind::Word && first && depth > 1 && aside == 0 && IsAside(*token))
       aside = depth;
     first = token->kind == Kind::Open;
-    if (aside != 0) continue;
-    if (token->word == "chftn") note.numbered = true;
-    if (token->kind == Kind::Character) note.text += token->character;
-    const auto* const text = std::ranges::find(kTextWords, token->word, &TextWord::word);
-    if (text != std::end(kTextWords)) note.text += text->text;
+    if (token->word == "chftn" && aside == 0) note.numbered = true;
+    const bool brace = token->kind == Kind::Open || token->kind == Kind::Close;
+    if (aside == 0 || brace) text.Take(*token);
+    if (token->kind == Kind::Close && aside == depth--) aside = 0;
   }
-  note.text = Trimmed(note.text);
+  note.text = Trimmed(text.TakeText());
   return note;
 }
 

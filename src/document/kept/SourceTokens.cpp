@@ -13,7 +13,9 @@ using Kind = SourceToken::Kind;
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-SourceToken CharacterToken(char c) { return {.character = static_cast<unsigned char>(c)}; }
+SourceToken ByteToken(char c) {
+  return {.character = UnitOf1252(c), .byte = static_cast<unsigned char>(c)};
+}
 
 /// A character after a backslash.
 SourceToken Symbol(char c) {
@@ -25,7 +27,7 @@ SourceToken Symbol(char c) {
     case '-':
       return {.character = u'\u00AD'};
     default:
-      return CharacterToken(c);
+      return ByteToken(c);
   }
 }
 
@@ -54,7 +56,7 @@ std::optional<SourceToken> SourceTokens::Take() {
     case '\n':
       return std::nullopt;
     default:
-      return CharacterToken(c);
+      return ByteToken(c);
   }
 }
 
@@ -75,7 +77,7 @@ SourceToken SourceTokens::Byte() {
   unsigned byte = 0;
   std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
   rest_.remove_prefix(digits.size());
-  return {.character = UnitOf1252(static_cast<char>(byte))};
+  return ByteToken(static_cast<char>(byte));
 }
 
 SourceToken SourceTokens::Word() {

@@ -14,6 +14,7 @@ struct SourceToken {
   bool starred = false;  // a word after \*
   bool hasNumber = false;
   char16_t character = 0;
+  int byte = -1;  // of a character that the source gives by its byte, read as page 1252
   std::string_view word{};
   int number = 0;
 };

@@ -225,7 +225,9 @@ void HtmlBody::Object(const CharFormat& format) {
 
 /// A raised number here, unless the mark is in the text, and the note behind all paragraphs.
 void HtmlBody::Footnote(const KeptItem& item, const CharFormat& format) {
-  const FootnoteText note = TextOfFootnote(item.source);
+  const SourcePages pages(tables_.heads[document_.Mark().head]);
+  const int page = pages.At(format, tables_.fonts[format.font].charset);
+  const FootnoteText note = TextOfFootnote(item.source, pages, page);
   std::string mark;
   if (note.numbered) mark = std::to_string(++footnotes_);
   const std::string raised = note.numbered ? "<sup>" + mark + "</sup>" : "";
