@@ -1,5 +1,6 @@
 // The visible numbers of lists follow the edits, as the source's lists say.
 #include <gtest/gtest.h>
+#include <tuple>
 
 #include "base/DataFile.h"
 #include "base/Rows.h"
@@ -66,6 +67,54 @@ TEST(ListEdits, NumbersFollow) {
     while (bench.surface.CanUndo()) bench.surface.Undo();
     EXPECT_EQ(ToUtf8(bench.surface.TextRTF()), saved) << before;
   }
+}
+
+/// A note on a list of Arabic numbers, "un" and what follows.
+std::string Numbered(const std::string& rest) {
+  return "{\\rtf1" + Tables("1/0/%1.") + "\\pard\\ls1{\\listtext 1.\\tab}un" + rest + "}";
+}
+const std::string kDeux = "\\par{\\listtext 2.\\tab}deux";
+
+TEST(ListEdits, WhatTheSourceSaysAtNumbersStays) {
+  const std::string section = "\\par\\sect\\sectd\\sbkpage{\\header TETE}";
+  const std::string cells =
+      "\\trowd\\cellx1000\\cellx2000\\pard\\intbl\\ls1{\\listtext 1.\\tab}a"
+      "\\cell{\\listtext 2.\\tab}b\\cell\\row\\pard\\ls1{\\listtext 3.\\tab}c";
+  const std::string cyrillic =
+      "{\\rtf1\\ansi\\ansicpg1251{\\*\\listtable{\\list{\\listlevel\\levelnfc0\\levelstartat1"
+      "{\\leveltext\\'04\\'c3\\'eb \\'00;}}\\listid7}}{\\*\\listoverridetable{\\listoverride"
+      "\\listid7\\ls1}}\\pard\\ls1{\\listtext \\'c3\\'eb 1\\tab}un}";
+  const std::tuple<std::string, std::string, std::string, std::string, std::string> cases[] = {
+      {Numbered(section + kDeux.substr(4)), "1.\tun¶|2.\tdeux", "BackSpace", "1.⇥un|deux", "TETE"},
+      {Numbered(section + "{\\listtext 2.\\tab}"), "1.\tun¶|2.\t", "BackSpace", "1.⇥un|", "TETE"},
+      {Numbered("\\par{\\listtext 2{\\*\\bkmkstart c}.\\tab}b"), "1.\tun|¶2.\tb", "Return",
+       "1.⇥un¶2.⇥|¶3.⇥b", "{\\*\\bkmkstart c}"},
+      {Numbered(kDeux), "1.\tun¶2.\tdeux|", "Ctrl+a Ctrl+c Ctrl+End Return Ctrl+v",
+       "1.⇥un¶2.⇥deux¶3.⇥un¶4.⇥deux|", "3.\\tab}"},
+      {"{\\rtf1" + Tables("1/0/%1.") + cells + "}", "1.\ta|\t2.\tb¶3.\tc", "Delete", "1.⇥a|b¶2.⇥c",
+       "2.\\tab}"},
+      {cyrillic, "Гл 1\tun|", "Return", "Гл 1⇥un¶|", "\\u1043?\\u1083? 1\\tab}"},
+  };
+  for (const auto& [source, before, keys, after, kept] : cases) {
+    UserBench bench;
+    bench.surface.TextRTF(FromUtf8(source));
+    const std::u16string saved = bench.surface.TextRTF();
+    bench.Select(FromUtf8(before));
+    EXPECT_TRUE(bench.Press(FromUtf8(keys))) << keys;
+    EXPECT_EQ(Replaced(ToUtf8(bench.Shown()), "\t", "⇥"), after);
+    EXPECT_NE(bench.surface.TextRTF().find(FromUtf8(kept)), std::u16string::npos)
+        << ToUtf8(bench.surface.TextRTF());
+    while (bench.surface.CanUndo()) bench.surface.Undo();
+    EXPECT_EQ(bench.surface.TextRTF(), saved) << before;
+  }
+}
+
+TEST(ListEdits, NumbersBetweenTwoEditsStay) {
+  UserBench bench;
+  bench.surface.TextRTF(FromUtf8(Source("1/0/%1.", "01.⇥a¶0b)⇥b¶0x)⇥c¶04.⇥d¶05.⇥e")));
+  bench.Select(u"1.\ta¶b)\tb¶x)\tc¶^4.\td¶|5.\te");
+  bench.surface.UserDrop(0, false);
+  EXPECT_EQ(ToUtf8(bench.Shown()), "^1.\td¶|2.\ta¶b)\tb¶x)\tc¶5.\te");
 }
 
 }  // namespace

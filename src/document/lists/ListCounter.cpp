@@ -7,13 +7,10 @@ namespace {
 
 bool IsNumbering(KeptWord word) { return word.kind == KeptWord::Kind::Numbering; }
 
-std::size_t LevelOf(const ParaFormat& format) {
-  return std::min<std::size_t>(format.level, kListLevels - 1);
-}
-
 }  // namespace
 
-NoteLists::NoteLists(const FormatTables& tables, HeadId head) : tables_(tables) {
+NoteLists::NoteLists(const FormatTables& tables, HeadId head)
+    : tables_(tables), page_(tables.heads[head].page), definitions_(page_) {
   tables.items.ForEach(tables.heads[head].items,
                        [this](const KeptItem& item) { definitions_.Read(item.source); });
 }
@@ -36,61 +33,89 @@ ListKey NoteLists::KeyOf(ParaId paragraph) {
   const auto name = format.words == 0 ? std::nullopt : GroupName(format);
   if (!name) return {};
   const auto key = static_cast<int>(*name);
-  const auto [group, added] = groups_.try_emplace(key);
-  if (added) group->second = NumberingOf(tables_.names[*name]);
+  auto group = groups_.find(key);
+  if (group == groups_.end()) group = groups_.emplace(key, Group(tables_.names[*name])).first;
   return group->second ? ListKey{ListKey::Kind::Group, key} : ListKey();
 }
 
-ListCounter::Number ListCounter::Next(ParaId paragraph) {
+std::optional<ListLevels> NoteLists::Group(std::string_view source) const {
+  const std::optional<ListLevel> level = NumberingOf(source, page_);
+  if (!level) return std::nullopt;
+  ListLevels levels;
+  levels[0] = *level;
+  return levels;
+}
+
+const ListLevels& NoteLists::LevelsOf(ParaId paragraph) {
+  const ListKey key = KeyOf(paragraph);
+  if (key.kind == ListKey::Kind::Group) return *groups_.at(key.number);
+  const int number = tables_.paragraphs[paragraph].list - 1;
+  auto levels = overrides_.find(number);
+  if (levels == overrides_.end())
+    levels =
+        overrides_.emplace(number, definitions_.LevelsOf(*definitions_.Override(number))).first;
+  return levels->second;
+}
+
+int NoteLists::LevelOf(ParaId paragraph) const {
+  const ParaFormat& format = tables_.paragraphs[paragraph];
+  return format.list == 0 ? 0 : std::min<int>(format.level, kListLevels - 1);
+}
+
+bool NoteLists::CouldNumber(ParaId paragraph, std::u16string_view text) {
+  return LooksLikeNumber(text, LevelsOf(paragraph), LevelOf(paragraph));
+}
+
+std::optional<std::u16string> ListCounter::Next(ParaId paragraph) {
   const ListKey key = lists_.KeyOf(paragraph);
   const ParaFormat& format = tables_.paragraphs[paragraph];
   const std::int32_t left = format.firstIndent + format.hangingIndent;
   if (!series_.empty()) LeaveSeries(left, key.kind != ListKey::Kind::None || format.bullet != 0);
-  if (key.kind == ListKey::Kind::Group) return OfGroup(key, left);
-  return key.kind == ListKey::Kind::Table ? OfTable(format) : Number();
+  if (key.kind == ListKey::Kind::Group)
+    return OfGroup(key.number, lists_.LevelsOf(paragraph), left);
+  return key.kind == ListKey::Kind::Table ? OfTable(paragraph) : std::nullopt;
 }
 
-ListCounter::Number ListCounter::OfTable(const ParaFormat& format) {
-  const int number = format.list - 1;
-  const ListOverride& override = *lists_.Definitions().Override(number);
+std::optional<std::u16string> ListCounter::OfTable(ParaId paragraph) {
+  const ParaFormat& format = tables_.paragraphs[paragraph];
+  const ListOverride& override = *lists_.Definitions().Override(format.list - 1);
   Counted& list = counted_[override.list];
-  UseOverride(list, override, number);
-  const std::size_t level = LevelOf(format);
+  UseOverride(list, override, paragraph);
+  const ListLevels& levels = *list.levels;
+  const auto level = static_cast<std::size_t>(lists_.LevelOf(paragraph));
   for (std::size_t upper = 0; upper < level; ++upper)
-    if (!list.begun[upper]) list.numbers[upper] = list.levels[upper].start;
+    if (!list.begun[upper]) list.numbers[upper] = levels[upper].start;
   int& own = list.numbers[level];
-  own = list.begun[level] ? own + (own < INT32_MAX ? 1 : 0) : list.levels[level].start;
+  own = list.begun[level] ? own + (own < INT32_MAX ? 1 : 0) : levels[level].start;
   list.begun[level] = true;
   for (std::size_t lower = level + 1; lower < list.begun.size(); ++lower)
-    if (list.levels[lower].restarts) list.begun[lower] = false;
-  const ListLevel& look = list.levels[level];
-  if (format.bullet != 0 || look.text.empty()) return {};
-  return {ListNumberText(list.levels, static_cast<int>(level), list.numbers), look.text};
+    if (levels[lower].restarts) list.begun[lower] = false;
+  if (format.bullet != 0 || levels[level].text.empty()) return {};
+  return ListNumberText(levels, static_cast<int>(level), list.numbers);
 }
 
 /// An override that states where a level starts does so once.
-void ListCounter::UseOverride(Counted& list, const ListOverride& override, int number) {
+void ListCounter::UseOverride(Counted& list, const ListOverride& override, ParaId paragraph) {
+  const int number = tables_.paragraphs[paragraph].list - 1;
   if (list.override == number) return;
   list.override = number;
-  list.levels = lists_.Definitions().LevelsOf(override);
+  list.levels = &lists_.LevelsOf(paragraph);
   if (!met_.try_emplace(number, true).second) return;
   for (const ListOverride::Level& level : override.levels)
     if (level.start) list.begun[static_cast<std::size_t>(level.number)] = false;
 }
 
-ListCounter::Number ListCounter::OfGroup(const ListKey& key, std::int32_t left) {
-  const ListLevel& level = lists_.Group(key);
+std::optional<std::u16string> ListCounter::OfGroup(int group, const ListLevels& levels,
+                                                   std::int32_t left) {
   const bool goesOn = !series_.empty() && series_.back().left == left;
-  if (goesOn && series_.back().group == key.number) {
+  if (goesOn && series_.back().group == group) {
     Series& series = series_.back();
     if (series.number < INT32_MAX) ++series.number;
   } else {
     if (goesOn) series_.pop_back();
-    series_.push_back({key.number, left, level.start});
+    series_.push_back({group, left, levels[0].start});
   }
-  ListLevels levels;
-  levels[0] = level;
-  return {ListNumberText(levels, 0, {series_.back().number}), level.text};
+  return ListNumberText(levels, 0, {series_.back().number});
 }
 
 void ListCounter::LeaveSeries(std::int32_t left, bool item) {

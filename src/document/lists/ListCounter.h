@@ -18,6 +18,11 @@ struct ListKey {
   int number = 0;  // \listid, or the group's name
   bool operator==(const ListKey&) const = default;
 };
+struct ListKeyHash {
+  std::size_t operator()(const ListKey& key) const {
+    return std::hash<int>()(key.number) ^ static_cast<std::size_t>(key.kind);
+  }
+};
 
 /// The lists of a note, by its paragraphs' formats.
 class NoteLists {
@@ -28,14 +33,21 @@ class NoteLists {
   /// define.
   ListKey KeyOf(ParaId paragraph);
   const ListDefinitions& Definitions() const { return definitions_; }
-  const ListLevel& Group(const ListKey& key) const { return *groups_.at(key.number); }
+  /// The levels of paragraphs in a list, which numbers of `LevelOf` show.
+  const ListLevels& LevelsOf(ParaId paragraph);
+  int LevelOf(ParaId paragraph) const;
+  /// Whether the paragraph's list could give it that number, whatever it counts.
+  bool CouldNumber(ParaId paragraph, std::u16string_view text);
 
  private:
   std::optional<NameId> GroupName(const ParaFormat& format) const;
+  std::optional<ListLevels> Group(std::string_view source) const;
 
   const FormatTables& tables_;
+  int page_;  // code page of the source's bytes
   ListDefinitions definitions_;
-  std::unordered_map<int, std::optional<ListLevel>> groups_;  // of \pn, by name
+  std::unordered_map<int, std::optional<ListLevels>> groups_;  // of \pn, by name
+  std::unordered_map<int, ListLevels> overrides_;              // by number
 };
 
 /// Meets the paragraphs of a note in order.
@@ -43,20 +55,16 @@ class ListCounter {
  public:
   ListCounter(const FormatTables& tables, NoteLists& lists) : tables_(tables), lists_(lists) {}
 
-  /// How the next paragraph's number looks; `text` is empty where the list does not say it, and
-  /// for paragraphs without a number.
-  struct Number {
-    std::optional<std::u16string> text;
-    std::u16string look;  // see `ListLevel::text`
-  };
-  Number Next(ParaId paragraph);
+  /// The next paragraph's number; empty where the list does not say it, and for paragraphs without
+  /// one.
+  std::optional<std::u16string> Next(ParaId paragraph);
 
  private:
   struct Counted {
     ListNumbers numbers{};
     std::array<bool, kListLevels> begun{};
     int override = -1;  // that `levels` are of
-    ListLevels levels;
+    const ListLevels* levels = nullptr;
   };
   /// Adjacent paragraphs of one group; those indented further may stand among them.
   struct Series {
@@ -65,9 +73,9 @@ class ListCounter {
     int number = 0;
   };
 
-  Number OfTable(const ParaFormat& format);
-  void UseOverride(Counted& list, const ListOverride& override, int number);
-  Number OfGroup(const ListKey& key, std::int32_t left);
+  std::optional<std::u16string> OfTable(ParaId paragraph);
+  void UseOverride(Counted& list, const ListOverride& override, ParaId paragraph);
+  std::optional<std::u16string> OfGroup(int group, const ListLevels& levels, std::int32_t left);
   void LeaveSeries(std::int32_t left, bool item);
 
   const FormatTables& tables_;

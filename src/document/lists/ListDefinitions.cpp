@@ -13,9 +13,13 @@ using Kind = SourceToken::Kind;
 
 constexpr std::size_t kLongest = 64;  // units of text around a number, more than any needs
 
+bool IsReadable(const SourceToken& token, int page) { return page == 1252 || token.byte < 0x80; }
+
 /// Reads the tokens of a level: \listlevel and what follows.
 class LevelReader {
  public:
+  explicit LevelReader(int page) : page_(page) {}
+
   /// Text and words go to `level` from now on; null: nowhere.
   void Begin(ListLevel* level) {
     level_ = level;
@@ -25,7 +29,7 @@ class LevelReader {
   void Take(const SourceToken& token) {
     if (token.kind == Kind::Open) ++depth_;
     if (token.kind == Kind::Close && depth_-- == textDepth_) EndText();
-    if (token.kind == Kind::Character && textDepth_ != 0 && ofText_) text_ += token.character;
+    if (token.kind == Kind::Character && ofText_) Text(token);
     if (token.kind == Kind::Word && level_) Word(token);
   }
 
@@ -43,6 +47,10 @@ class LevelReader {
     else if (token.word == "leveltext")
       BeginText();
   }
+  void Text(const SourceToken& token) {
+    text_ += token.character;
+    if (level_ && !IsReadable(token, page_)) level_->readable = false;
+  }
   void BeginText() {
     textDepth_ = depth_;
     ofText_ = true;
@@ -55,6 +63,7 @@ class LevelReader {
     level_->text = text_.substr(1, std::min<std::size_t>(text_.front(), kLongest));
   }
 
+  int page_;
   ListLevel* level_ = nullptr;
   int depth_ = 0;
   int textDepth_ = 0;  // of the group with the level's text; 0: outside
@@ -76,9 +85,9 @@ struct ListEntry {
   std::vector<ListLevel> levels{};
 };
 
-ListEntry ReadList(std::string_view group) {
+ListEntry ReadList(std::string_view group, int page) {
   ListEntry list;
-  LevelReader reader;
+  LevelReader reader(page);
   SourceTokens tokens(group);
   while (const auto token = tokens.Next()) {
     if (token->word == "listid") list.id = token->number;
@@ -93,6 +102,8 @@ ListEntry ReadList(std::string_view group) {
 /// Reads the levels in which an override differs from its list.
 class OverrideReader {
  public:
+  explicit OverrideReader(int page) : reader_(page) {}
+
   void Take(const SourceToken& token) {
     if (token.word == "listid") override_.list = token.number;
     if (token.word == "ls") number_ = token.number;
@@ -139,14 +150,14 @@ void ListDefinitions::Read(std::string_view source) {
 
 void ListDefinitions::ReadLists(std::string_view entries) {
   for (const SourceGroup& group : GroupsOf(entries)) {
-    ListEntry list = ReadList(group.source);
+    ListEntry list = ReadList(group.source, page_);
     if (list.id) lists_.try_emplace(*list.id, std::move(list.levels));
   }
 }
 
 void ListDefinitions::ReadOverrides(std::string_view entries) {
   for (const SourceGroup& group : GroupsOf(entries)) {
-    OverrideReader reader;
+    OverrideReader reader(page_);
     SourceTokens tokens(group.source);
     while (const auto token = tokens.Next()) reader.Take(*token);
     if (reader.Number()) overrides_.try_emplace(*reader.Number(), reader.TakeResult());
@@ -183,7 +194,7 @@ ListLevels ListDefinitions::LevelsOf(const ListOverride& override) const {
   return levels;
 }
 
-std::optional<ListLevel> NumberingOf(std::string_view group) {
+std::optional<ListLevel> NumberingOf(std::string_view group, int page) {
   static constexpr std::pair<std::string_view, ListLevel::Form> kForms[] = {
       {"pndec", ListLevel::Form::Arabic},
       {"pnucrm", ListLevel::Form::UpperRoman},
@@ -196,7 +207,10 @@ std::optional<ListLevel> NumberingOf(std::string_view group) {
   bool body = false;
   SourceTokens tokens(group);
   while (const auto token = tokens.Next()) {
-    if (token->kind == Kind::Character && text) *text += token->character;
+    if (token->kind == Kind::Character && text) {
+      *text += token->character;
+      level.readable = level.readable && IsReadable(*token, page);
+    }
     if (token->kind == Kind::Close) text = nullptr;
     if (token->word == "pntxtb") text = &before;
     if (token->word == "pntxta") text = &behind;
@@ -205,7 +219,7 @@ std::optional<ListLevel> NumberingOf(std::string_view group) {
     for (const auto& [word, form] : kForms)
       if (token->word == word) level.form = form;
   }
-  if (!body || level.form == ListLevel::Form::Unknown) return std::nullopt;
+  if (!body || !level.readable || level.form == ListLevel::Form::Unknown) return std::nullopt;
   if (before.size() + behind.size() > kLongest) return std::nullopt;
   level.text = before + u'\0' + behind;
   LeaveBlanks(level.text);

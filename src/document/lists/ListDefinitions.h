@@ -23,6 +23,9 @@ struct ListOverride {
 
 class ListDefinitions {
  public:
+  /// The code page of the source's bytes; texts in pages other than 1252 are not readable.
+  explicit ListDefinitions(int page = 1252) : page_(page) {}
+
   /// Reads the tables among the groups of a head; what was read first holds.
   void Read(std::string_view source);
 
@@ -37,12 +40,13 @@ class ListDefinitions {
   void ReadLists(std::string_view entries);
   void ReadOverrides(std::string_view entries);
 
+  int page_;
   std::unordered_map<int, std::vector<ListLevel>> lists_;  // by \listid: the levels that it says
   std::unordered_map<int, ListOverride> overrides_;        // by \ls
 };
 
 /// The numbers that a group of one paragraph asks for (\pn), which knows one level; empty for
-/// bullets, and for groups that do not say enough.
-std::optional<ListLevel> NumberingOf(std::string_view group);
+/// bullets, and for groups that do not say enough. `page` is the code page of its bytes.
+std::optional<ListLevel> NumberingOf(std::string_view group, int page);
 
 }  // namespace lumenote

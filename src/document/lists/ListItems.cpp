@@ -1,6 +1,7 @@
 #include "document/lists/ListItems.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace lumenote {
 namespace {
@@ -8,7 +9,7 @@ namespace {
 /// Goes through the text front to back.
 class ItemScan {
  public:
-  ItemScan(const Document& document, NoteLists& lists, const std::vector<ListKey>& keys)
+  ItemScan(const Document& document, NoteLists& lists, const ListKeys& keys)
       : document_(document),
         tables_(document.Formats()),
         lists_(lists),
@@ -34,7 +35,7 @@ class ItemScan {
     for (std::size_t i = 0; i < text.Size();) {
       const std::size_t end = std::min(text.Find('\r', i), cell ? text.Find('\t', i) : text.Size());
       const Position position = at + static_cast<Position>(end);
-      if (number && end > i) Number({at + static_cast<Position>(i), position});
+      if (number && end > i) Number({at + static_cast<Position>(i), position}, kept.field);
       if (end == text.Size()) return;
       const bool ends = text[end] == u'\r';
       const std::size_t length = ends ? 2 : 1;
@@ -43,19 +44,22 @@ class ItemScan {
       i = end + length;
     }
   }
-  void Number(Selection range) {
-    if (range.start == number_.end)
+  /// A part of a number, which is one field.
+  void Number(Selection range, FieldId field) {
+    const bool begins = number_.Length() == 0 && range.start == number_.start;
+    const bool goesOn = field == std::exchange(field_, field);
+    if (begins || (goesOn && range.start == number_.end))
       number_.end = range.end;
-    else if (!found_.stray.empty() && found_.stray.back().end == range.start)
+    else if (goesOn && !found_.stray.empty() && found_.stray.back().end == range.start)
       found_.stray.back().end = range.end;
     else
       found_.stray.push_back(range);
   }
   /// A paragraph or cell ends in `length` units.
   void EndItem(Position end, Position length, ParaId format) {
-    ListCounter::Number counted = counter_.Next(format);
+    std::optional<std::u16string> counted = counter_.Next(format);
     const ListKey key = lists_.KeyOf(format);
-    if (std::ranges::find(keys_, key) != keys_.end())
+    if (keys_.contains(key))
       found_.items.push_back({number_.start, end, number_, format, key, std::move(counted)});
     number_ = {end + length, end + length};
   }
@@ -64,17 +68,17 @@ class ItemScan {
   const FormatTables& tables_;
   NoteLists& lists_;
   ListCounter counter_;
-  const std::vector<ListKey>& keys_;
+  const ListKeys& keys_;
   std::vector<ParaId> marks_;
   std::size_t paragraph_ = 0;
-  Selection number_;  // of the present item, which begins where it does
+  Selection number_;   // of the present item, which begins where it does
+  FieldId field_ = 0;  // of the last part of a number
   ListItems found_;
 };
 
 }  // namespace
 
-ListItems FindListItems(const Document& document, NoteLists& lists,
-                        const std::vector<ListKey>& keys) {
+ListItems FindListItems(const Document& document, NoteLists& lists, const ListKeys& keys) {
   return ItemScan(document, lists, keys).Find();
 }
 

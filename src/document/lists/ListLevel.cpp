@@ -1,6 +1,9 @@
 #include "document/lists/ListLevel.h"
 
 #include <algorithm>
+#include <charconv>
+#include <utility>
+#include <vector>
 
 #include "base/Characters.h"
 #include "base/RomanNumber.h"
@@ -12,6 +15,8 @@ namespace {
 using Form = ListLevel::Form;
 
 constexpr int kMostRepeated = 30;  // of one letter or Roman digit; nobody reads more
+constexpr std::size_t kLongestNumber = 48;
+constexpr std::size_t kLongestText = 256;
 
 std::u16string Digits(int number) { return FromUtf8(std::to_string(number)); }
 
@@ -46,9 +51,44 @@ std::u16string NumberIn(Form form, int number) {
 
 bool IsPlaceholder(char16_t unit) { return unit < kListLevels; }
 
-bool IsOfNumber(char16_t unit) {
-  return (unit >= u'0' && unit <= u'9') || (unit >= u'a' && unit <= u'z') ||
-         (unit >= u'A' && unit <= u'Z');
+/// How a level shows the number of its own or an upper level.
+Form ShownForm(const ListLevel& own, Form form) {
+  const bool arabic = own.legal && form != Form::None && form != Form::Bullet;
+  return arabic ? Form::Arabic : form;
+}
+
+int RomanValue(std::string_view text) {
+  constexpr std::string_view kDigits = "ivxlcdm";
+  constexpr int kValues[] = {1, 5, 10, 50, 100, 500, 1000};
+  int value = 0;
+  int last = 0;
+  for (const char digit : text) {
+    const std::size_t index = kDigits.find(digit);
+    if (index == kDigits.npos) return 0;
+    value += kValues[index] - (last < kValues[index] ? 2 * last : 0);
+    last = kValues[index];
+  }
+  return value;
+}
+
+/// The number that may look like that; another one, or 0, if none does.
+int ValueIn(Form form, std::u16string_view text) {
+  if (text.empty() || !std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; }))
+    return 0;
+  const std::string small = ToUtf8(Lower(text));
+  int value = 0;
+  if (std::from_chars(small.data(), small.data() + small.size(), value).ptr != small.data())
+    return value;
+  if (form == Form::UpperRoman || form == Form::LowerRoman) return RomanValue(small);
+  return (static_cast<int>(small.size()) - 1) * 26 + small.front() - 'a' + 1;
+}
+
+/// Whether a unit of a level's text may appear as that.
+bool Shows(const ListLevels& levels, int level, char16_t unit, std::u16string_view text) {
+  if (!IsPlaceholder(unit)) return text.size() == 1 && text.front() == unit;
+  if (unit > level) return text.empty();
+  const Form form = ShownForm(levels[static_cast<std::size_t>(level)], levels[unit].form);
+  return form != Form::Unknown && NumberIn(form, ValueIn(form, text)) == text;
 }
 
 }  // namespace
@@ -69,6 +109,7 @@ std::optional<std::u16string> ListNumberText(const ListLevels& levels, int level
                                              const ListNumbers& numbers) {
   std::u16string text;
   const ListLevel& own = levels[static_cast<std::size_t>(level)];
+  if (!own.readable) return std::nullopt;
   for (const char16_t unit : own.text) {
     if (!IsPlaceholder(unit)) {
       text += unit;
@@ -76,23 +117,27 @@ std::optional<std::u16string> ListNumberText(const ListLevels& levels, int level
     }
     const Form form = levels[unit].form;
     if (form == Form::Unknown) return std::nullopt;
-    const bool arabic = own.legal && form != Form::None && form != Form::Bullet;
-    if (unit <= level) text += NumberIn(arabic ? Form::Arabic : form, numbers[unit]);
+    if (unit <= level) text += NumberIn(ShownForm(own, form), numbers[unit]);
   }
   return text;
 }
 
-bool LooksLikeNumber(std::u16string_view text, std::u16string_view look) {
-  while (!look.empty()) {
-    if (text.empty()) return false;
-    const bool number = IsPlaceholder(look.front());
-    if (number ? !IsOfNumber(text.front()) : text.front() != look.front()) return false;
-    const auto end = number ? std::ranges::find_if_not(text, IsOfNumber) : text.begin() + 1;
-    text.remove_prefix(static_cast<std::size_t>(end - text.begin()));
-    const auto rest = number ? std::ranges::find_if_not(look, IsPlaceholder) : look.begin() + 1;
-    look.remove_prefix(static_cast<std::size_t>(rest - look.begin()));
+bool LooksLikeNumber(std::u16string_view text, const ListLevels& levels, int level) {
+  const ListLevel& own = levels[static_cast<std::size_t>(level)];
+  if (!own.readable || text.size() > kLongestText) return false;
+  std::vector<bool> reached(text.size() + 1);  // where the level's text so far may end
+  reached[0] = true;
+  for (const char16_t unit : own.text) {
+    std::vector<bool> next(reached.size());
+    for (std::size_t at = 0; at < reached.size(); ++at) {
+      if (!reached[at]) continue;
+      const std::u16string_view rest = text.substr(at);
+      for (std::size_t length = 0; length <= std::min(rest.size(), kLongestNumber); ++length)
+        if (Shows(levels, level, unit, rest.substr(0, length))) next[at + length] = true;
+    }
+    reached = std::move(next);
   }
-  return text.empty();
+  return reached.back();
 }
 
 }  // namespace lumenote

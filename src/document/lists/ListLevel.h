@@ -28,6 +28,7 @@ struct ListLevel {
   Form form = Form::Arabic;
   bool legal = false;     // shows the numbers of all levels in Arabic digits
   bool restarts = true;   // behind an item of a higher level
+  bool readable = true;   // `text` is what the source means
   std::u16string text{};  // a unit below `kListLevels` stands for that level's number
 };
 /// A list's levels.
@@ -39,7 +40,7 @@ ListLevel::Form ListFormOf(int number);
 /// The visible number, without the blank behind it; empty if the levels do not say how it looks.
 std::optional<std::u16string> ListNumberText(const ListLevels& levels, int level,
                                              const ListNumbers& numbers);
-/// Whether the text is a number of that look, whatever its value.
-bool LooksLikeNumber(std::u16string_view text, std::u16string_view look);
+/// Whether the levels could say that of some item, whatever it counts.
+bool LooksLikeNumber(std::u16string_view text, const ListLevels& levels, int level);
 
 }  // namespace lumenote

@@ -22,8 +22,8 @@ struct NumberText {
   }
 };
 
-bool Touches(const ListItem& item, Selection edited) {
-  return item.start <= edited.end && item.end >= edited.start;
+bool Meets(Selection range, Position position) {
+  return range.start <= position && position <= range.end;
 }
 
 /// A number to make others like.
@@ -34,16 +34,16 @@ struct Sample {
 
 class Renumbering {
  public:
-  Renumbering(const Document& document, FormatTables& tables, Selection edited)
-      : document_(document), tables_(tables), edited_(edited) {}
+  Renumbering(const Document& document, FormatTables& tables, NoteLists& lists,
+              const EditedLists& edited)
+      : document_(document), tables_(tables), lists_(lists), edited_(edited) {}
 
   std::vector<NumberChange> Changes(const ListItems& found) {
     for (const ListItem& item : found.items)
       if (HasNumber(item) && !samples_.contains(PlaceOf(item)))
         samples_.try_emplace(PlaceOf(item), SampleOf(item));
     for (const ListItem& item : found.items) Item(item);
-    for (const Selection& stray : found.stray)
-      if (stray.start <= edited_.end && stray.end >= edited_.start) changes_.push_back({stray, {}});
+    for (const Selection& stray : found.stray) Stray(stray);
     std::ranges::stable_sort(changes_, {}, [](const NumberChange& c) { return c.range.start; });
     return std::move(changes_);
   }
@@ -53,30 +53,48 @@ class Renumbering {
 
   static bool HasNumber(const ListItem& item) { return item.number.Length() > 0; }
   Place PlaceOf(const ListItem& item) const {
-    return {item.key.kind, item.key.number, tables_.paragraphs[item.format].level};
+    return {item.key.kind, item.key.number, lists_.LevelOf(item.format)};
   }
   Sample SampleOf(const ListItem& item) const {
     const Selection number = item.number;
-    return {document_.CharFormatAt(number.start),
-            NumberText(document_.Text(number.start, number.end)).blank};
+    return {document_.CharFormatAt(number.start), TextOf(number).blank};
+  }
+  NumberText TextOf(Selection number) const {
+    return NumberText(document_.Text(number.start, number.end));
+  }
+  bool Touched(const ListItem& item) const {
+    return std::ranges::any_of(edited_.ranges, [&](Selection range) {
+      return item.start <= range.end && item.end >= range.start;
+    });
   }
 
   void Item(const ListItem& item) {
-    if (!item.counted.text) return;
-    const bool touched = Touches(item, edited_);
-    if (!HasNumber(item)) return touched ? Give(item) : void();
-    const NumberText shown(document_.Text(item.number.start, item.number.end));
-    if (shown.own == *item.counted.text) return;
-    if (!touched && !LooksLikeNumber(shown.own, item.counted.look)) return;
+    if (!item.counted) return;
+    if (!HasNumber(item)) return Touched(item) ? Give(item) : void();
+    const NumberText shown = TextOf(item.number);
+    if (shown.own == *item.counted) return;
+    const bool lost = shown.own.empty() && Touched(item);
+    if (!lost && !lists_.CouldNumber(item.format, shown.own)) return;
     const Position end = item.number.start + static_cast<Position>(shown.own.size());
     changes_.push_back(
-        {{item.number.start, end}, *item.counted.text, document_.CharFormatAt(item.number.start)});
+        {{item.number.start, end}, *item.counted, document_.CharFormatAt(item.number.start)});
+  }
+  /// A number in which an edit ended goes if a list had given it.
+  void Stray(Selection number) {
+    const bool touched = std::ranges::any_of(edited_.ranges, [&](Selection range) {
+      return Meets(number, range.start) || Meets(number, range.end);
+    });
+    if (!touched) return;
+    const NumberText shown = TextOf(number);
+    const bool given = std::ranges::any_of(
+        edited_.formats, [&](ParaId format) { return lists_.CouldNumber(format, shown.own); });
+    if (given) changes_.push_back({number, {}});
   }
   void Give(const ListItem& item) {
     const auto sample = samples_.find(PlaceOf(item));
-    if (sample == samples_.end() || item.counted.text->empty()) return;
-    changes_.push_back({item.number, *item.counted.text + sample->second.blank,
-                        AsNewNumber(sample->second.format)});
+    if (sample == samples_.end() || item.counted->empty()) return;
+    changes_.push_back(
+        {item.number, *item.counted + sample->second.blank, AsNewNumber(sample->second.format)});
   }
   /// The format in a number of its own.
   CharId AsNewNumber(CharId id) {
@@ -90,7 +108,8 @@ class Renumbering {
 
   const Document& document_;
   FormatTables& tables_;
-  Selection edited_;
+  NoteLists& lists_;
+  const EditedLists& edited_;
   std::map<Place, Sample> samples_;
   std::vector<NumberChange> changes_;
 };
@@ -98,55 +117,10 @@ class Renumbering {
 }  // namespace
 
 std::vector<NumberChange> Renumbered(const Document& document, FormatTables& tables,
-                                     NoteLists& lists, const std::vector<ListKey>& keys,
-                                     Selection edited) {
-  return Renumbering(document, tables, edited).Changes(FindListItems(document, lists, keys));
-}
-
-ChangedText WithChanges(const Document& document, const std::vector<NumberChange>& changes) {
-  const Selection range{changes.front().range.start, changes.back().range.end};
-  const LeafList piece = document.Copy(range.start, range.end).leaves;
-  std::vector<ParaId> marks;
-  piece.ForEachMark(0, piece.Breaks(), [&](ParaId mark) { marks.push_back(mark); });
-  const ParaId* mark = marks.data();
-  FragmentBuilder builder;
-  auto change = changes.begin();
-  Position done = range.start;  // everything before it is in the builder, or went
-  const auto apply = [&](Position upTo) {
-    for (; change != changes.end() && change->range.start <= upTo; ++change) {
-      builder.Append(change->text, change->format);
-      done = std::max(done, change->range.end);
-    }
-  };
-  piece.ForEachRun(0, piece.Length(), [&](Position at, TextView text, CharId format) {
-    at += range.start;
-    const Position end = at + static_cast<Position>(text.Size());
-    done = std::max(done, at);
-    while (done < end) {
-      apply(done);
-      const Position next =
-          change == changes.end() ? end : std::clamp(change->range.start, done, end);
-      if (next > done)
-        mark = builder.Append(
-            text.Part(static_cast<std::size_t>(done - at), static_cast<std::size_t>(next - done)),
-            format, mark);
-      done = std::max(done, next);
-    }
-  });
-  apply(range.end);
-  return {range, builder.Finish()};
-}
-
-Position ShiftedBy(const std::vector<NumberChange>& changes, Position position) {
-  Position shift = 0;
-  for (const auto& [range, text, format] : changes) {
-    const auto length = static_cast<Position>(text.size());
-    const bool inside = range.start < position && position < range.end;
-    if (inside) return range.start + shift + std::min(position - range.start, length);
-    if (range.end <= position && (range.start < position || range.Length() == 0))
-      shift += length - range.Length();
-  }
-  return position + shift;
+                                     NoteLists& lists, const EditedLists& edited) {
+  ListKeys keys;
+  for (const ParaId format : edited.formats) keys.insert(lists.KeyOf(format));
+  return Renumbering(document, tables, lists, edited).Changes(FindListItems(document, lists, keys));
 }
 
 }  // namespace lumenote

@@ -1,34 +1,24 @@
 // The visible numbers that an edit makes wrong, and what they become.
 #pragma once
-#include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "document/Document.h"
 #include "document/lists/ListCounter.h"
+#include "document/lists/NumberChanges.h"
 
 namespace lumenote {
 
-/// A visible number that changes, comes (`range` is empty) or goes (`text` is).
-struct NumberChange {
-  Selection range;
-  std::u16string text;
-  CharId format = 0;
+/// What the edits of one command did to lists.
+struct EditedLists {
+  std::unordered_set<ParaId> formats;  // of items that came, went or were joined
+  std::vector<Selection> ranges;       // where the edits left their text
 };
 
-/// What an edit that left its text at `edited` changes in the lists `keys`, in order. A paragraph
-/// that the edit touched gets the number that it lacks, if its list shows any; other numbers change
-/// only if they look as the list says.
+/// What the edits change in the lists of those items, in order. A paragraph that an edit touched
+/// gets the number that it lacks, if its list shows any. Numbers change, or go from inside a
+/// paragraph, only if they look as the list says, so that nothing typed is lost.
 std::vector<NumberChange> Renumbered(const Document& document, FormatTables& tables,
-                                     NoteLists& lists, const std::vector<ListKey>& keys,
-                                     Selection edited);
-
-/// The text from the first change to the last, changed.
-struct ChangedText {
-  Selection range;
-  Fragment fragment;
-};
-ChangedText WithChanges(const Document& document, const std::vector<NumberChange>& changes);
-/// Where a position comes to lie: behind a number that comes at it.
-Position ShiftedBy(const std::vector<NumberChange>& changes, Position position);
+                                     NoteLists& lists, const EditedLists& edited);
 
 }  // namespace lumenote

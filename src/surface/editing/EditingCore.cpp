@@ -105,7 +105,7 @@ void EditingCore::Edit(UndoKind kind, const std::function<void()>& make) {
 void EditingCore::Renumber() {
   const std::vector<NumberChange> changes = lists_.Finish();
   if (changes.empty()) return;
-  ChangedText text = WithChanges(document_, changes);
+  ChangedText text = WithChanges(document_, document_.Formats(), changes);
   const Position anchor = ShiftedBy(changes, anchor_);
   const Position caret = ShiftedBy(changes, caret_);
   RecordEdit(history_.Apply(text.range.start, text.range.end, std::move(text.fragment)));

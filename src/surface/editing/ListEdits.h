@@ -5,7 +5,6 @@
 
 #include "document/Document.h"
 #include "document/lists/ListRenumbering.h"
-#include "surface/editing/SurfaceView.h"
 
 namespace lumenote {
 
@@ -24,13 +23,15 @@ class ListEdits {
 
  private:
   NoteLists& Lists();
-  void Affect(ParaId paragraph);
+  std::vector<ParaId> ItemsOf(const LeafList& leaves, Selection range) const;
+  void Affect(ParaId item);
+  void AffectItemAt(Position position);
+  void Record(Selection range, Position inserted);
 
   Document& document_;
   std::optional<NoteLists> lists_;  // of `head_`
   HeadId head_ = 0;
-  std::vector<ListKey> affected_;
-  std::optional<DocumentChange> edited_;
+  EditedLists edited_;
 };
 
 }  // namespace lumenote
