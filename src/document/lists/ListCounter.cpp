@@ -63,7 +63,8 @@ int NoteLists::LevelOf(ParaId paragraph) const {
 }
 
 bool NoteLists::CouldNumber(ParaId paragraph, std::u16string_view text) {
-  return LooksLikeNumber(text, LevelsOf(paragraph), LevelOf(paragraph));
+  return KeyOf(paragraph).kind != ListKey::Kind::None &&
+         LooksLikeNumber(text, LevelsOf(paragraph), LevelOf(paragraph));
 }
 
 std::optional<std::u16string> ListCounter::Next(ParaId paragraph) {

@@ -14,9 +14,9 @@ namespace {
 
 using Form = ListLevel::Form;
 
-constexpr int kMostRepeated = 30;  // of one letter or Roman digit; nobody reads more
-constexpr std::size_t kLongestNumber = 48;
-constexpr std::size_t kLongestText = 256;
+constexpr int kMostRepeated = 30;           // of one letter or Roman digit; nobody reads more
+constexpr std::size_t kLongestNumber = 48;  // on one level
+constexpr std::size_t kLongestText = 96;    // of all levels; bounds the work on hostile sources
 
 std::u16string Digits(int number) { return FromUtf8(std::to_string(number)); }
 
@@ -51,6 +51,11 @@ std::u16string NumberIn(Form form, int number) {
 
 bool IsPlaceholder(char16_t unit) { return unit < kListLevels; }
 
+bool IsOfNumber(char16_t unit) {
+  return (unit >= u'0' && unit <= u'9') || (unit >= u'a' && unit <= u'z') ||
+         (unit >= u'A' && unit <= u'Z') || unit == u'-';
+}
+
 /// How a level shows the number of its own or an upper level.
 Form ShownForm(const ListLevel& own, Form form) {
   const bool arabic = own.legal && form != Form::None && form != Form::Bullet;
@@ -73,8 +78,7 @@ int RomanValue(std::string_view text) {
 
 /// The number that may look like that; another one, or 0, if none does.
 int ValueIn(Form form, std::u16string_view text) {
-  if (text.empty() || !std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; }))
-    return 0;
+  if (text.empty() || !std::ranges::all_of(text, IsOfNumber)) return 0;
   const std::string small = ToUtf8(Lower(text));
   int value = 0;
   if (std::from_chars(small.data(), small.data() + small.size(), value).ptr != small.data())
@@ -125,6 +129,7 @@ std::optional<std::u16string> ListNumberText(const ListLevels& levels, int level
 bool LooksLikeNumber(std::u16string_view text, const ListLevels& levels, int level) {
   const ListLevel& own = levels[static_cast<std::size_t>(level)];
   if (!own.readable || text.size() > kLongestText) return false;
+  if (std::ranges::count_if(own.text, IsPlaceholder) > kListLevels) return false;
   std::vector<bool> reached(text.size() + 1);  // where the level's text so far may end
   reached[0] = true;
   for (const char16_t unit : own.text) {
