@@ -78,8 +78,6 @@ void LeaveBlanks(std::u16string& text) {
   while (!text.empty() && IsBlank(text.back())) text.pop_back();
 }
 
-constexpr ListLevel kUnknown{.form = ListLevel::Form::Unknown};
-
 struct ListEntry {
   std::optional<int> id{};
   std::vector<ListLevel> levels{};
@@ -184,7 +182,7 @@ bool ListDefinitions::IsBullet(int number, int level) const {
 ListLevels ListDefinitions::LevelsOf(const ListOverride& override) const {
   const std::vector<ListLevel>& said = lists_.at(override.list);
   ListLevels levels;
-  levels.fill(kUnknown);
+  levels.fill({.form = ListLevel::Form::Unknown});
   std::ranges::copy(said, levels.begin());
   for (const ListOverride::Level& level : override.levels) {
     ListLevel& own = levels[static_cast<std::size_t>(level.number)];

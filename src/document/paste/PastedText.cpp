@@ -106,7 +106,7 @@ class PastedFormats {
 
 }  // namespace
 
-Fragment WithTablesOf(const FinalMark& mark, Fragment text, const KeptHead& from,
+Fragment WithTablesOf(const FinalMark& mark, const Fragment& text, const KeptHead& from,
                       std::string_view source, FormatTables& tables) {
   HeadMerge head(from, source, tables, mark.head);
   PastedFormats formats(tables, head);

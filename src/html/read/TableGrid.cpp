@@ -48,7 +48,7 @@ int TableGrid::WidthOf(const Placed& placed) const {
   if (placed.cell.width > 0) return placed.cell.width;
   std::int64_t width = 0;
   for (int i = 0; i < placed.cell.columns; ++i) {
-    const auto column = static_cast<std::size_t>(placed.column + i);
+    const auto column = static_cast<std::size_t>(placed.column) + static_cast<std::size_t>(i);
     if (column >= widths_.size() || widths_[column] == 0) return 0;
     width += widths_[column];
   }

@@ -33,7 +33,7 @@ class TableGrid {
   static constexpr int kMostGoingOn = 10'000;
 
   struct Placed {
-    int column;
+    int column = 0;
     Cell cell;
   };
 

@@ -73,7 +73,7 @@ Fragment Interpreter::Read() {
   if (!marker_.empty()) PlaceMarker();
   Fragment fragment = body_.Finish(target_, {CharacterNumber(), EndedParagraph()});
   if (target_ == RtfTarget::Selection)
-    return WithTablesOf(note_, std::move(fragment), HeadTables(), HeadSource(headItems_), formats_);
+    return WithTablesOf(note_, fragment, HeadTables(), HeadSource(headItems_), formats_);
   fragment.mark->head = Head();
   return fragment;
 }
