@@ -39,8 +39,11 @@ void Interpreter::KeepWord(int value, const Token& word) {
   }
 }
 
-/// Where words of rows are kept.
-ItemKeeper& Interpreter::RowItems() { return State().inNestedRow ? nestedRow_ : items_; }
+/// Where words of rows are kept. Those in a field belong to it as long as it may show nothing.
+ItemKeeper& Interpreter::RowItems() {
+  const bool nested = State().inNestedRow && State().fieldAt == GroupState::kNowhere;
+  return nested ? nestedRow_ : items_;
+}
 
 /// A style is only a label: the words after it give the text's look.
 void Interpreter::KeepStyle(int, const Token& word) {
