@@ -145,25 +145,23 @@ void WrittenFormats::SetFont(const CharFormat& format, WrittenFormat& written) {
   written.encoding = font.encoding;
 }
 
+bool WrittenFormats::NamesColour(WordsId words) const {
+  return words != 0 && tables_.names[tables_.words[words].name] == kColourWord;
+}
+
 /// The number that the source gives the format's colour by its place in a theme; 0 if none.
 int WrittenFormats::TintedNumber(const CharFormat& format) const {
-  int number = 0;
-  tables_.words.ForEach(format.words, [&](KeptWord word) {
-    if (tables_.names[word.name] == kColourWord) number = word.number;
-  });
+  if (!NamesColour(format.words)) return 0;
+  const int number = tables_.words[format.words].number;
   const auto place = static_cast<std::size_t>(std::max(number, 0));
   const bool same = place < Head().colours.size() && Head().colours[place] == format.colour &&
                     !TintOf(Head(), place).empty();
   return same ? number : 0;
 }
 
-/// The kept words; a colour's number, the first of them, means nothing where the head has lost its
-/// place in a theme.
+/// The kept words but the first if that is the colour's, which has its number.
 WordsId WrittenFormats::WordsOf(const CharFormat& format) const {
-  if (format.words == 0) return 0;
-  const KeptWord first = tables_.words[format.words];
-  const bool lost = tables_.names[first.name] == kColourWord && TintedNumber(format) == 0;
-  return lost ? WordsId{tables_.words[format.words].next} : format.words;
+  return NamesColour(format.words) ? tables_.words[format.words].next : format.words;
 }
 
 std::int32_t WrittenFormats::Number(const NumberWord& word, const CharFormat& format) {

@@ -88,6 +88,8 @@ class WrittenFormats {
   const Font& FontOf(const FontFace& face);
   void WriteFont(const FontFace& face, const Font& font, Output& out) const;
   int ColourNumber(Colour colour);
+  /// Whether the first of the words is a colour's with its place in a theme.
+  bool NamesColour(WordsId words) const;
   int TintedNumber(const CharFormat& format) const;
   WordsId WordsOf(const CharFormat& format) const;
   std::int32_t Number(const NumberWord& word, const CharFormat& format);

@@ -90,7 +90,7 @@ void WriteWord(KeptWord word, const WrittenFormat& run, const FormatTables& tabl
   const std::string& name = tables.names[word.name];
   switch (word.kind) {
     case KeptWord::Kind::Numbered:
-      if (name != kColourWord) out.Word(name, word.number);
+      out.Word(name, word.number);
       return;
     case KeptWord::Kind::Font:
       if (run.font >= 0) out.Word("f", run.font);
