@@ -63,21 +63,25 @@ LineWords WordsOf(LineRule rule, int spacing) {
 
 /// What the kept words of a run say of the order in which it is written.
 struct WordOrder {
-  WordsId high = 0;      // the start of the last part if that is \hich's
-  bool hasFont = false;  // the own font has a place among the words
-  bool hasSize = false;  // so has the size
-  bool marked = false;   // there are markers
-  bool scripts = false;  // some of them of scripts
-  bool settled = true;   // a change of the run's own formats may follow as it is
+  WordsId high = 0;          // the start of the last part if that is \hich's
+  bool hasFont = false;      // the own font has a place among the words
+  bool hasSize = false;      // so has the size
+  bool marked = false;       // there are markers
+  bool scripts = false;      // some of them of scripts
+  bool leftToRight = false;  // one of text from left to right
+  bool settled = true;       // a change of the run's own formats may follow as it is
 };
 
 WordOrder OrderOf(WordsId words, const FormatTables& tables) {
   WordOrder order;
   for (WordsId id = words; id != 0; id = tables.words[id].next) {
     const KeptWord word = tables.words[id];
-    if (IsMark(word)) order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
-    if (IsMark(word)) order.settled = !order.hasFont;
-    if (IsMark(word)) order.marked = true;
+    if (IsMark(word)) {
+      order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
+      order.settled = !order.hasFont;
+      order.marked = true;
+      order.leftToRight |= tables.names[word.name] == "ltrch";
+    }
     if (IsScript(word)) order.scripts = true;
     if (word.kind == KeptWord::Kind::Font) order.hasFont = order.settled = true;
     if (word.kind == KeptWord::Kind::Size) order.hasSize = true;
@@ -192,7 +196,8 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   const WordOrder order = OrderOf(to.words, tables);
   const bool rewords = from.words != to.words || !order.settled;
   // A size that is said already would be that of what is said before the markers.
-  const bool movesSize = rewords && order.scripts && !order.hasSize && from.size > 0;
+  const bool moves = order.scripts || (order.marked && !order.leftToRight);
+  const bool movesSize = rewords && moves && !order.hasSize && from.size > 0;
   const bool anew = (rewords && from.words != 0) || movesSize || TakesBack(from, to);
   const bool worded = anew || rewords;
   const WrittenFormat& base = anew ? kPlain : from;
