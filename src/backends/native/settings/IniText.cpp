@@ -82,7 +82,7 @@ std::string HeaderText(const std::pair<std::u16string, std::u16string>& name) {
 }  // namespace
 
 IniText::IniText(std::string_view bytes) {
-  std::optional<std::size_t> section;
+  const SectionName* section = nullptr;
   while (!bytes.empty()) {
     const std::size_t end = std::min(bytes.find('\n'), bytes.size());
     lines_.push_back(Read(bytes.substr(0, end), section));
@@ -91,14 +91,14 @@ IniText::IniText(std::string_view bytes) {
   }
 }
 
-IniText::Line IniText::Read(std::string_view text, std::optional<std::size_t> section) {
+IniText::Line IniText::Read(std::string_view text, const SectionName* section) {
   const std::string_view content = Trimmed(text);
   Line line{std::string(text), section};
   if (content.starts_with('#') || content.starts_with(';')) return line;
   if (content.starts_with('[')) {
     const bool closed = content.ends_with(']');
     const auto name = closed ? Halves(content.substr(1, content.size() - 2), '/') : std::nullopt;
-    line.section = name ? std::optional(SectionNumber(*name)) : std::nullopt;
+    line.section = name ? &*sections_.insert(*name).first : nullptr;
   } else if (auto entry = Halves(content, '=')) {
     line.key = std::move(entry->first);
     line.value = std::move(entry->second);
@@ -106,22 +106,13 @@ IniText::Line IniText::Read(std::string_view text, std::optional<std::size_t> se
   return line;
 }
 
-std::size_t IniText::SectionNumber(const SectionName& name) {
-  const auto found = std::find(sections_.begin(), sections_.end(), name);
-  const auto number = static_cast<std::size_t>(found - sections_.begin());
-  if (found == sections_.end()) sections_.push_back(name);
-  return number;
-}
-
 std::optional<std::size_t> IniText::FindLine(std::u16string_view application,
                                              std::u16string_view section,
                                              std::u16string_view key) const {
-  for (std::size_t i = lines_.size(); i-- > 0;) {
-    const Line& line = lines_[i];
-    if (!line.section || line.key != key) continue;
-    const SectionName& name = sections_[*line.section];
-    if (name.first == application && name.second == section) return i;
-  }
+  const auto name = sections_.find({std::u16string(application), std::u16string(section)});
+  if (name == sections_.end()) return std::nullopt;
+  for (std::size_t i = lines_.size(); i-- > 0;)
+    if (lines_[i].section == &*name && lines_[i].key == key) return i;
   return std::nullopt;
 }
 
@@ -139,18 +130,19 @@ void IniText::Set(std::u16string_view application, std::u16string_view section,
     lines_[*line].value = value;
     return;
   }
-  const std::size_t number = SectionNumber({std::u16string(application), std::u16string(section)});
-  lines_.insert(EndOf(number),
-                Line{EntryText(key, value), number, std::u16string(key), std::u16string(value)});
+  const SectionName& name =
+      *sections_.emplace(std::u16string(application), std::u16string(section)).first;
+  lines_.insert(EndOf(name),
+                Line{EntryText(key, value), &name, std::u16string(key), std::u16string(value)});
 }
 
-std::vector<IniText::Line>::iterator IniText::EndOf(std::size_t section) {
+std::vector<IniText::Line>::iterator IniText::EndOf(const SectionName& section) {
   const auto last = std::find_if(lines_.rbegin(), lines_.rend(), [&](const Line& line) {
-    return line.section == section && !Trimmed(line.text).empty();
+    return line.section == &section && !Trimmed(line.text).empty();
   });
   if (last != lines_.rend()) return last.base();
   if (!lines_.empty()) lines_.push_back({});
-  lines_.push_back({HeaderText(sections_[section]), section});
+  lines_.push_back({HeaderText(section), &section});
   return lines_.end();
 }
 

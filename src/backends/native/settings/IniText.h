@@ -2,6 +2,7 @@
 #pragma once
 #include <cstddef>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,6 +18,8 @@ namespace lumenote {
 class IniText {
  public:
   explicit IniText(std::string_view bytes = {});
+  IniText(IniText&&) = default;
+  IniText& operator=(IniText&&) = default;
 
   std::optional<std::u16string> Find(std::u16string_view application, std::u16string_view section,
                                      std::u16string_view key) const;
@@ -29,19 +32,18 @@ class IniText {
 
   struct Line {
     std::string text;
-    std::optional<std::size_t> section = std::nullopt;  // index into `sections_` of its section
-    std::optional<std::u16string> key = std::nullopt;   // of a `key=value` line
+    const SectionName* section = nullptr;              // in `sections_`
+    std::optional<std::u16string> key = std::nullopt;  // of a `key=value` line
     std::u16string value = {};
   };
 
-  Line Read(std::string_view text, std::optional<std::size_t> section);
-  std::size_t SectionNumber(const SectionName& name);
+  Line Read(std::string_view text, const SectionName* section);
   std::optional<std::size_t> FindLine(std::u16string_view application, std::u16string_view section,
                                       std::u16string_view key) const;
   /// Where to insert a new line of this section; appends the section if it has no line.
-  std::vector<Line>::iterator EndOf(std::size_t section);
+  std::vector<Line>::iterator EndOf(const SectionName& section);
 
-  std::vector<SectionName> sections_;  // unique
+  std::set<SectionName> sections_;
   std::vector<Line> lines_;
 };
 
