@@ -20,8 +20,8 @@ Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const Tem
       session_(*own_),
       temp_(temp),
       roundTrip_(*this, *this, programs_, Machine().Programs(), outstandingWork) {
-  Lb_3Bascules.Add(Fr_Notes, Rect{57, 210, 5262, 45});
-  Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 45});
+  Lb_3Bascules.Add(Fr_Notes, Rect{57, 195, 5262, 75}, u"", LabelStyle::Strip);
+  Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 50}, u"", LabelStyle::Strip);
   Bx_Règle.Locked(true);
   Bx_RTF.Change = [this] { Bx_RTF_Change(); };
   Bx_RTF.MouseUp = [this](const MouseEvent& event) { Bx_RTF_MouseUp(event); };
@@ -35,7 +35,10 @@ Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const Tem
   WireZones();
   WireKeys();
   DisableEntriesWithoutCommand(*this);
-  session_.dirty.Assigned = [this](bool dirty) { dirty ? recovery_.Edited() : recovery_.Drop(); };
+  session_.dirty.Assigned = [this](bool dirty) {
+    ShowSaved(dirty);
+    dirty ? recovery_.Edited() : recovery_.Drop();
+  };
 }
 
 Co_Rtf::~Co_Rtf() { session_.dirty.Assigned = nullptr; }
@@ -108,6 +111,13 @@ void Co_Rtf::Form_Unload() {
 void Co_Rtf::Watch(bool on) {
   TimerWpd.Interval(RoundTrip::kInterval);
   TimerWpd.Enabled(on);
+}
+
+void Co_Rtf::ShowSaved(bool dirty) {
+  if (dirty)
+    Bar_Etat.Sign(StatusSign::Modified, u"Modifié");
+  else
+    Bar_Etat.Sign(StatusSign::Saved, u"Enregistré");
 }
 
 void Co_Rtf::Describe(MemberTable& members) {

@@ -30,7 +30,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   ~Co_Rtf() override;
 
   Frame Fr_Notes{*this, "Fr_Notes", {80, 84, 5376, 3560}};
-  Label Lb_Format{Fr_Notes, "Lb_Format", {3573, 0, 1700, 195}};
+  Label Lb_Format{Fr_Notes, "Lb_Format", {3573, 0, 1700, 195}, u"", LabelStyle::Title};
   ControlArray<Label> Lb_3Bascules{"Lb_3Bascules"};
   RichTextBox Bx_RTF{Fr_Notes, "Bx_RTF", {30, 270, 5316, 3230}};
   RichTextBox Bx_Règle{Fr_Notes, "Bx_Règle", {30, 15, 5450, 255}};
@@ -96,8 +96,11 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
     AnnoncerSecours(*this, cause, copies);
   }
 
+  void ShowSaved(bool dirty);
   void Bx_RTF_Change();
   void Bx_RTF_MouseUp(const MouseEvent& event);
+  /// A click on the frame beside the labels is theirs, so that nobody has to aim.
+  void Fr_Notes_MouseUp(const MouseEvent& event);
   /// A click on the ruler or on one of the labels above and below the document.
   void SwitchZone(float x, float middleWidth);
   void mnuFmtActRègle_Click();

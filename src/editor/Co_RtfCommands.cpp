@@ -102,10 +102,14 @@ void Co_Rtf::WireSelectionMenu() {
 
 void Co_Rtf::WireZones() {
   Bx_Règle.MouseUp = [this](const MouseEvent& event) { SwitchZone(event.at.x, Bx_RTF.Width()); };
+  Fr_Notes.MouseUp = [this](const MouseEvent& event) { Fr_Notes_MouseUp(event); };
   for (int index = 0; index < Lb_3Bascules.Count(); ++index) {
     Label& label = Lb_3Bascules(index);
     label.MouseUp = [this, &label](const MouseEvent& event) {
       SwitchZone(event.at.x, label.Width());
+    };
+    label.MouseMove = [this, &label](const MouseEvent& event) {
+      label.ToolTip(NameOf(ZoneAt(event.at.x, Bx_RTF.Width(), label.Width())));
     };
   }
 }
@@ -151,6 +155,13 @@ void Co_Rtf::SwitchZone(float x, float middleWidth) {
       dialogs_.ActFenFormat();
       break;
   }
+}
+
+void Co_Rtf::Fr_Notes_MouseUp(const MouseEvent& event) {
+  const bool below = event.at.y >= Bx_RTF.Top() + Bx_RTF.Height();
+  const Label& label = Lb_3Bascules(below ? 1 : 0);
+  if (below || (event.at.y >= label.Top() && event.at.y <= label.Top() + label.Height()))
+    SwitchZone(event.at.x - label.Left(), label.Width());
 }
 
 void Co_Rtf::mnuFmtActRègle_Click() { Bx_Règle.Visible(!Bx_Règle.Visible()); }

@@ -21,4 +21,9 @@ Zone ZoneAt(float x, float width, float middleWidth) {
   return x >= middleWidth / 3 ? Zone::Middle : Zone::Left;
 }
 
+std::u16string_view NameOf(Zone zone) {
+  constexpr std::u16string_view kNames[] = {u"Menus", u"Règle", u"Paragraphe"};
+  return kNames[static_cast<std::size_t>(zone)];
+}
+
 }  // namespace lumenote

@@ -24,6 +24,8 @@ enum class Property {
   Locked,
   Font,
   Order,
+  Sign,
+  ToolTip,
 };
 
 /// A window, control, menu entry or timer. A member of its form, so both have one lifetime.

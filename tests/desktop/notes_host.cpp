@@ -8,7 +8,8 @@
 //                   "undo N" the kind of the step that would be undone, "ontop N" whether the
 //                   editor takes itself for the topmost window, "focus N" the control that has the
 //                   keyboard in its active window, "nobody" without one, "bar N" whether its menu
-//                   bar is "hidden", "shown" or, with the keyboard, "focused"
+//                   bar is "hidden", "shown" or, with the keyboard, "focused", "sign N" what its
+//                   status bar's sign says
 //   quit            QApplication::quit()
 //
 // Each line is answered by one, "ok" where there is nothing to tell, line ends as "\n". A line that
@@ -76,6 +77,7 @@ class Host {
     if (verb == "focus")
       return active && active->ActiveControl() ? active->ActiveControl()->Name() : "nobody";
     if (verb == "bar" && editor) return BarOf(*editor);
+    if (verb == "sign" && editor) return ToUtf8(editor->Bar_Etat.SignTip());
     if (verb == "ontop") return control.Parts().session->onTop ? "yes" : "no";
     return editor ? Answer(verb, editor->Document()) : "ok";
   }

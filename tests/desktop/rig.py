@@ -18,7 +18,7 @@ MICROEDIT, LUMENOTE, NOTES_HOST, DROP_TARGET = map(os.path.abspath, sys.argv[1:5
 del sys.argv[1:5]
 NEEDED = ("Xvfb", "openbox", "xdotool", "xprop", "ps")
 SKIPPED = 77
-CLIENT_MESSAGE = 33  # of the X protocol
+CLIENT_MESSAGE, Z_PIXMAP = 33, 2  # of the X protocol
 FORMAT_ZONE = (342, 241)  # below a note, to the right: opens the paragraph dialog
 PATIENCE = int(os.environ.get("PATIENCE", "120"))  # seconds; only what fails waits so long
 
@@ -39,6 +39,14 @@ def descendants(process):
         for child in map(int, task.read_text().split()):
             found += [child, *descendants(child)]
     return found
+
+
+class Image(ctypes.Structure):
+    """The beginning of the X library's own."""
+    _fields_ = [(name, ctypes.c_int) for name in ("width", "height", "xoffset", "format")] + [
+        ("data", ctypes.c_void_p)] + [(name, ctypes.c_int) for name in (
+            "byte_order", "bitmap_unit", "bitmap_bit_order", "bitmap_pad", "depth",
+            "bytes_per_line")]
 
 
 class Host:
@@ -217,6 +225,28 @@ class Desktop(unittest.TestCase):
                                      atom(b"WM_PROTOCOLS"), 32, atom(b"WM_DELETE_WINDOW"))
         x11.XSendEvent(display, ctypes.c_ulong(int(window, 16)), 0, 0, event)
         x11.XCloseDisplay(display)
+
+    def picture(self, window, left, top, width, height):
+        """The pixels that a part of the window shows."""
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        x11.XGetImage.restype = ctypes.POINTER(Image)
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.env["DISPLAY"].encode()))
+        image = x11.XGetImage(display, ctypes.c_ulong(int(window, 16)), left, top, width, height,
+                              ctypes.c_ulong(0xFFFFFFFF), Z_PIXMAP)
+        pixels = ctypes.string_at(image.contents.data, image.contents.bytes_per_line * height)
+        x11.XDestroyImage(image)
+        x11.XCloseDisplay(display)
+        return pixels
+
+    def settled(self, value):
+        """What `value` gives once it has stayed the same for a moment."""
+        def twice():
+            before = value()
+            time.sleep(0.2)
+            return value() == before
+        self.wait(twice, "a settled state")
+        return value()
 
     def activate(self, window):
         """Brings a window to the front that is not there yet."""

@@ -29,7 +29,7 @@ struct PeerTable {
       auto peer = row(control, context...);
       if (!peer) continue;
       for (const Property property : {Geometry, Font, Caption, Enabled, Checked, Panels, List,
-                                      Content, Value, Locked, Visible})
+                                      Content, Value, Locked, Sign, ToolTip, Visible})
         peer->Update(property);
       return peer;
     }

@@ -18,11 +18,19 @@ void StatusBar::Panel(int number, std::u16string_view text) {
   Changed(Property::Panels);
 }
 
+void StatusBar::Sign(StatusSign sign, std::u16string_view tip) {
+  if (sign == sign_ && tip == signTip_) return;
+  sign_ = sign;
+  signTip_ = tip;
+  Changed(Property::Sign);
+}
+
 void StatusBar::Describe(MemberTable& members) {
   Control::Describe(members);
   members.AddIndexed(
       "Panels", [this](int number) { return Value(Panel(number)); },
       [this](const Value& value, int number) { Panel(number, TextOf(value)); });
+  members.Add("Sign", [this] { return Value(SignTip()); });
 }
 
 }  // namespace lumenote

@@ -1,11 +1,12 @@
-// The row of text panels at a window's lower edge.
+// The row of text panels at a window's lower edge, and the sign at its end.
 #pragma once
 #include "forms/Control.h"
+#include "forms/values/StatusSign.h"
 
 namespace lumenote {
 
-/// Panels count from 1; each is as wide as its text. The backend chooses the bar's bounds, at most
-/// 300 twips high.
+/// Panels count from 1; each is as wide as its text, and without text not shown. The backend
+/// chooses the bar's bounds, at most 300 twips high.
 class StatusBar : public Control {
  public:
   StatusBar(Container& container, std::string name, int panels);
@@ -15,10 +16,17 @@ class StatusBar : public Control {
   const std::u16string& Panel(int number) const;
   void Panel(int number, std::u16string_view text);
 
+  StatusSign Sign() const { return sign_; }
+  /// What the sign says in words.
+  const std::u16string& SignTip() const { return signTip_; }
+  void Sign(StatusSign sign, std::u16string_view tip);
+
   void Describe(MemberTable& members) override;
 
  private:
   std::vector<std::u16string> panels_;
+  StatusSign sign_ = StatusSign::None;
+  std::u16string signTip_;
 };
 
 }  // namespace lumenote

@@ -3,12 +3,13 @@
 #include <QPainter>
 
 #include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/QtText.h"
 
 namespace lumenote {
 
 namespace {
-constexpr int kTitleLeft = 8;
+constexpr int kTitleLeft = 10;
 constexpr int kTitleGap = 3;
 constexpr float kRelief = 0.35F;
 }  // namespace
@@ -30,11 +31,9 @@ void FrameWidget::paintEvent(QPaintEvent*) {
     painter.drawText(titleBox, Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic, title_);
     painter.setClipRegion(QRegion(rect()) - titleBox.adjusted(-kTitleGap, 0, kTitleGap, 0));
   }
-  const QRect line(0, lineY, width() - 1, height() - lineY - 1);
-  painter.setPen(Mixed(ground, Qt::white, kRelief));
-  painter.drawRect(line.translated(1, 1).adjusted(0, 0, -1, -1));
-  painter.setPen(Mixed(ground, Qt::black, kRelief));
-  painter.drawRect(line.adjusted(0, 0, -1, -1));
+  const QRectF line(0, lineY, width() - 1, height() - lineY - 1);
+  DrawBorder(painter, line.translated(1, 1), Mixed(ground, Qt::white, kRelief));
+  DrawBorder(painter, line, Mixed(ground, Qt::black, kRelief));
 }
 
 FramePeer::FramePeer(Frame& frame, QWidget& parent, LayouterSource&)

@@ -6,20 +6,22 @@
 namespace lumenote {
 
 /// Wrapped text from the upper left corner, without the mnemonic's ampersand. The text covers a
-/// frame's border behind it.
+/// frame's border behind it. A strip shows nothing until the pointer is over it.
 class LabelWidget : public QWidget {
  public:
   using QWidget::QWidget;
 
   const QString& Text() const { return text_; }
   void Text(const QString& text);
-  void Style(LabelStyle style) { style_ = style; }
+  void Style(LabelStyle style);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void PaintCell();
+  void PaintTitle();
+  void PaintStrip();
 
   QString text_;
   LabelStyle style_ = LabelStyle::Text;
@@ -37,6 +39,7 @@ class LabelPeer final : public ControlPeer {
 
  private:
   LabelPeer(Label& label, LabelWidget* widget);
+  void ShowToolTip();
 
   Label& label_;
   LabelWidget& widget_;

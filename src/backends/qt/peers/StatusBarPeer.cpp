@@ -1,15 +1,25 @@
 #include "backends/qt/peers/StatusBarPeer.h"
 
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
+#include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/QtText.h"
 
 namespace lumenote {
 
 namespace {
+
 constexpr int kPadding = 5;
 constexpr int kGap = 2;
 constexpr int kLeastWidth = 24;
+constexpr int kGripSide = 13;
+constexpr double kSignStroke = 1.5;
+constexpr float kLine = 0.25F;
+constexpr float kQuiet = 0.4F;  // what is saved needs no attention
+
 }  // namespace
 
 void StatusBarWidget::Panels(const QStringList& texts) {
@@ -17,23 +27,68 @@ void StatusBarWidget::Panels(const QStringList& texts) {
   update();
 }
 
+void StatusBarWidget::Sign(StatusSign sign, const QString& tip) {
+  sign_ = sign;
+  signTip_ = tip;
+  update();
+}
+
+QRect StatusBarWidget::SignBox() const {
+  const int side = static_cast<int>(kSignSide);
+  return {width() - kGripSide - kGap - side, (height() + 1 - side) / 2, side, side};
+}
+
+bool StatusBarWidget::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto& help = static_cast<const QHelpEvent&>(*event);
+  const bool onSign = SignBox().contains(help.pos());
+  QToolTip::showText(help.globalPos(), onSign ? signTip_ : QString(), this, SignBox());
+  return true;
+}
+
+void StatusBarWidget::resizeEvent(QResizeEvent*) {
+  grip_.setGeometry(width() - kGripSide, height() - kGripSide, kGripSide, kGripSide);
+}
+
 void StatusBarWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const QColor ground = palette().color(QPalette::Window);
-  painter.fillRect(rect(), ground);
-  painter.fillRect(0, 0, width(), 1, ground.darker(125));
+  painter.fillRect(rect(), palette().window());
+  DrawBorder(painter, {-1.0, 0.0, width() + 2.0, height() + 1.0}, Line());
+  PaintPanels(painter);
+  PaintSign(painter);
+}
+
+QColor StatusBarWidget::Line() const {
+  return Mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), kLine);
+}
+
+// A text without room for all of it keeps its beginning and its end.
+void StatusBarWidget::PaintPanels(QPainter& painter) const {
+  painter.setPen(palette().color(QPalette::WindowText));
+  const int end = SignBox().left() - kGap;
   int left = kGap;
   for (const QString& text : panels_) {
-    const int textWidth = fontMetrics().horizontalAdvance(text);
-    const QRect panel(left, kGap + 1, std::max(kLeastWidth, textWidth + 2 * kPadding),
-                      height() - 2 * kGap - 1);
-    painter.setPen(ground.darker(125));
-    painter.drawRect(panel.adjusted(0, 0, -1, -1));
-    painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(panel.adjusted(kPadding, 0, -kPadding, 0),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text);
+    if (text.isEmpty() || left >= end) continue;
+    const int wanted = std::max(kLeastWidth, fontMetrics().horizontalAdvance(text) + 2 * kPadding);
+    const QRect panel(left, kGap + 1, std::min(wanted, end - left), height() - 2 * kGap - 1);
+    const QRect inside = panel.adjusted(kPadding, 0, -kPadding, 0);
+    DrawBorder(painter, panel, Line());
+    painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
+                     fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
     left = panel.right() + 1 + kGap;
   }
+}
+
+void StatusBarWidget::PaintSign(QPainter& painter) const {
+  QPolygonF line;
+  for (const Point& point : LineOf(sign_)) line << QPointF(point.x, point.y);
+  const QColor ink = palette().color(QPalette::WindowText);
+  const bool quiet = sign_ == StatusSign::Saved;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.translate(SignBox().topLeft());
+  painter.setPen(QPen(quiet ? Mixed(ink, palette().color(QPalette::Window), kQuiet) : ink,
+                      kSignStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.drawPolyline(line);
 }
 
 StatusBarPeer::StatusBarPeer(StatusBar& bar, QWidget& parent, LayouterSource&)
@@ -52,11 +107,15 @@ QStringList StatusBarPeer::Texts() const {
 void StatusBarPeer::Update(Property property) {
   ControlPeer::Update(property);
   if (property == Property::Panels) widget_.Panels(Texts());
+  if (property == Property::Sign) widget_.Sign(bar_.Sign(), ToQString(bar_.SignTip()));
 }
 
 void StatusBarPeer::Compare(DifferenceList& differences) const {
   ControlPeer::Compare(differences);
   differences.Check(bar_, "Panels", widget_.Panels() == Texts());
+  differences.Check(
+      bar_, "Sign",
+      widget_.Sign() == bar_.Sign() && widget_.SignTip() == ToQString(bar_.SignTip()));
 }
 
 }  // namespace lumenote

@@ -3,18 +3,19 @@
 #include "backends/win32/toolkit/Colours.h"
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/toolkit/Units.h"
 
 namespace lumenote {
 namespace {
 
-constexpr int kTitleLeft = 8;
-constexpr int kTitleGap = 3;
+constexpr double kTitleLeft = 150;  // twips
+constexpr double kTitleGap = 45;
 
 /// The line of the border is covered where the title stands.
-void PaintBorder(HDC dc, const RECT& area, const RECT& title) {
+void PaintBorder(HDC dc, const RECT& area, const RECT& title, int gap) {
   const int saved = SaveDC(dc);
   if (title.right > title.left)
-    ExcludeClipRect(dc, title.left - kTitleGap, title.top, title.right + kTitleGap, title.bottom);
+    ExcludeClipRect(dc, title.left - gap, title.top, title.right + gap, title.bottom);
   const RECT border = {area.left, title.bottom / 2, area.right, area.bottom};
   const GdiObject<HBRUSH> line(CreateSolidBrush(LineOn(GetBkColor(dc), GetTextColor(dc))));
   FrameRect(dc, &border, line.Get());
@@ -32,9 +33,11 @@ void FrameWindow::Paint(HDC dc, const RECT& area) {
   const SelectScope font(dc, Font());
   const std::u16string caption = Caption();
   PaintGround(dc);
-  RECT title = {kTitleLeft, 0, kTitleLeft, 0};
+  const Scale scale = Scale::Of(Handle());
+  const int left = scale.Pixels(kTitleLeft);
+  RECT title = {left, 0, left, 0};
   if (!caption.empty()) DrawTextW(dc, Wide(caption), -1, &title, DT_CALCRECT | DT_SINGLELINE);
-  PaintBorder(dc, area, title);
+  PaintBorder(dc, area, title, scale.Pixels(kTitleGap));
   PaintCaption(dc, title, DT_SINGLELINE);
 }
 

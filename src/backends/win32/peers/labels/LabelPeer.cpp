@@ -2,16 +2,49 @@
 
 #include "backends/win32/toolkit/Colours.h"
 #include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/toolkit/Units.h"
 
 namespace lumenote {
+namespace {
+
+constexpr double kClearance = 45;  // twips, at each side of a title
+
+WindowKind KindOf(LabelStyle style) {
+  const wchar_t* const name = style == LabelStyle::Strip
+                                  ? OwnClass(L"LumenoteStrip", CS_DBLCLKS, IDC_HAND)
+                                  : OwnClass(L"LumenoteLabel", CS_DBLCLKS);
+  return {name, WS_CHILD | WS_CLIPSIBLINGS};
+}
+
+/// Half the ground and half what is selected.
+COLORREF TintOn(COLORREF ground) {
+  const COLORREF tint = GetSysColor(COLOR_HIGHLIGHT);
+  if (HighContrast()) return tint;
+  const auto mix = [](int one, int other) { return (one + other) / 2; };
+  return RGB(mix(GetRValue(ground), GetRValue(tint)), mix(GetGValue(ground), GetGValue(tint)),
+             mix(GetBValue(ground), GetBValue(tint)));
+}
+
+}  // namespace
 
 LabelWindow::LabelWindow(HWND parent, LabelStyle style)
-    : PaintedWindow(parent,
-                    WindowKind{OwnClass(L"LumenoteLabel", CS_DBLCLKS), WS_CHILD | WS_CLIPSIBLINGS}),
-      style_(style) {}
+    : PaintedWindow(parent, KindOf(style)), style_(style) {}
+
+void LabelWindow::FollowPointer(const Message& message) {
+  if (message.id >= WM_MOUSEFIRST && message.id <= WM_MOUSELAST) tip_.Relay(message);
+  const bool over = message.id == WM_MOUSEMOVE;
+  if (style_ != LabelStyle::Strip || lit_ == over || (!over && message.id != WM_MOUSELEAVE)) return;
+  lit_ = over;
+  Repaint();
+  if (!over) return;
+  TRACKMOUSEEVENT leaving = {sizeof leaving, TME_LEAVE, Handle(), 0};
+  TrackMouseEvent(&leaving);
+}
 
 // A press that began here ends here.
 LRESULT LabelWindow::Receive(const Message& message) {
+  FollowPointer(message);
   if (message.id == WM_LBUTTONDOWN) SetCapture(Handle());
   if (message.id == WM_LBUTTONUP && GetCapture() == Handle()) ReleaseCapture();
   return PaintedWindow::Receive(message);
@@ -21,6 +54,8 @@ void LabelWindow::Paint(HDC dc, const RECT& area) {
   const SelectScope font(dc, Font());
   if (style_ == LabelStyle::Cell) return PaintCell(dc, area);
   PaintGround(dc);
+  if (style_ == LabelStyle::Title) return PaintTitle(dc, area);
+  if (style_ == LabelStyle::Strip) return PaintStrip(dc, area);
   if (!IsWindowEnabled(Handle())) SetTextColor(dc, GetSysColor(COLOR_GRAYTEXT));
   PaintCaption(dc, area, DT_LEFT | DT_WORDBREAK | DT_EXPANDTABS);
 }
@@ -34,7 +69,37 @@ void LabelWindow::PaintCell(HDC dc, const RECT& area) const {
   PaintCaption(dc, area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }
 
+void LabelWindow::PaintTitle(HDC dc, RECT area) const {
+  const int clearance = Scale::Of(Handle()).Pixels(kClearance);
+  RECT text = area;
+  DrawTextW(dc, Wide(Caption()), -1, &text, DT_CALCRECT | DT_SINGLELINE);
+  const RECT cleared = {area.right - text.right - 2 * clearance, area.top, area.right, area.bottom};
+  const GdiObject<HBRUSH> ground(CreateSolidBrush(GetBkColor(dc)));
+  if (text.right > 0) FillRect(dc, &cleared, ground.Get());
+  area.right -= clearance;
+  PaintCaption(dc, area, DT_RIGHT | DT_SINGLELINE);
+}
+
+void LabelWindow::PaintStrip(HDC dc, const RECT& area) const {
+  if (!lit_) return;
+  const GdiObject<HBRUSH> tint(CreateSolidBrush(TintOn(GetBkColor(dc))));
+  FillRect(dc, &area, tint.Get());
+}
+
 LabelPeer::LabelPeer(Label& label, HWND parent, PeerHost& host)
-    : CaptionPeer(label, std::make_shared<LabelWindow>(parent, label.Style()), host) {}
+    : LabelPeer(label, std::make_shared<LabelWindow>(parent, label.Style()), host) {}
+
+LabelPeer::LabelPeer(Label& label, std::shared_ptr<LabelWindow> window, PeerHost& host)
+    : CaptionPeer(label, window, host), label_(label), window_(*window) {}
+
+void LabelPeer::Update(Property property) {
+  CaptionPeer::Update(property);
+  if (property == Property::ToolTip) window_.Tip().Text(label_.ToolTip());
+}
+
+void LabelPeer::Compare(DifferenceList& differences) const {
+  CaptionPeer::Compare(differences);
+  differences.Check(label_, "ToolTip", window_.Tip().Text() == label_.ToolTip());
+}
 
 }  // namespace lumenote

@@ -10,6 +10,9 @@ namespace {
 
 constexpr double kPadding = 75;      // twips, at each side of a panel's text
 constexpr double kLeastWidth = 360;  // twips
+constexpr double kSignTwips = 240;
+constexpr double kGripTwips = 240;
+constexpr std::size_t kTipLength = 80;
 
 }  // namespace
 
@@ -17,51 +20,92 @@ StatusBarPeer::StatusBarPeer(StatusBar& bar, HWND parent, PeerHost& host)
     : ControlPeer(bar,
                   std::make_shared<Window>(
                       parent, WindowKind{STATUSCLASSNAMEW, WS_CHILD | WS_CLIPSIBLINGS |
-                                                               CCS_NORESIZE | CCS_NOPARENTALIGN}),
+                                                               CCS_NORESIZE | CCS_NOPARENTALIGN |
+                                                               SBARS_SIZEGRIP | SBARS_TOOLTIPS}),
                   host),
       bar_(bar) {}
 
 void StatusBarPeer::Update(Property property) {
   ControlPeer::Update(property);
   if (property == Property::Panels || property == Property::Font) ShowPanels();
+  if (property == Property::Sign) ShowSign();
+}
+
+void StatusBarPeer::HearHandled(const Message& message) {
+  if (message.id == WM_SIZE) ShowPanels();
+  ControlPeer::HearHandled(message);
+}
+
+std::vector<std::u16string> StatusBarPeer::Texts() const {
+  std::vector<std::u16string> texts;
+  for (int number = 1; number <= bar_.Count(); ++number)
+    if (!bar_.Panel(number).empty()) texts.push_back(bar_.Panel(number));
+  return texts;
 }
 
 std::vector<int> StatusBarPeer::Edges() const {
   const Scale scale = Host().Resolution();
   const DcScope dc(Handle());
   const SelectScope font(dc.Get(), reinterpret_cast<HFONT>(Tell(WM_GETFONT)));
+  RECT client;
+  GetClientRect(Handle(), &client);
+  const int sign = static_cast<int>(client.right) - scale.Pixels(kSignTwips + kGripTwips);
   std::vector<int> edges;
   int right = 0;
-  for (int number = 1; number <= bar_.Count(); ++number) {
-    const std::u16string& text = bar_.Panel(number);
+  for (const std::u16string& text : Texts()) {
     SIZE size = {};
     GetTextExtentPoint32W(dc.Get(), Wide(text), static_cast<int>(text.size()), &size);
     const int wanted = size.cx + 2 * scale.Pixels(kPadding);
     right += std::max(wanted, scale.Pixels(kLeastWidth));
-    edges.push_back(right);
+    edges.push_back(std::clamp(right, 0, std::max(0, sign)));
   }
+  edges.push_back(std::max(0, sign));
+  edges.push_back(-1);  // to the end
   return edges;
 }
 
 void StatusBarPeer::ShowPanels() {
+  const std::vector<std::u16string> texts = Texts();
   std::vector<int> edges = Edges();
   Tell(SB_SETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));
-  for (int number = 1; number <= bar_.Count(); ++number)
-    Tell(SB_SETTEXTW, static_cast<WPARAM>(number - 1), bar_.Panel(number));
+  for (std::size_t part = 0; part < edges.size(); ++part) {
+    const bool panel = part < texts.size();
+    Tell(SB_SETTEXTW, panel ? part : part | SBT_NOBORDERS, panel ? texts[part] : u"");
+  }
+  ShowSign();
 }
 
-std::u16string StatusBarPeer::Shown(int number) const {
-  const auto part = static_cast<WPARAM>(number - 1);
+void StatusBarPeer::ShowSign() {
+  const int side = Host().Resolution().Pixels(kSignTwips);
+  const std::size_t last = Texts().size() + 1;
+  for (std::size_t part = 0; part < last; ++part) Tell(SB_SETICON, part);
+  SignIcon icon(bar_.Sign(), side, GetSysColor(COLOR_BTNTEXT));
+  Tell(SB_SETICON, last, reinterpret_cast<LPARAM>(icon.Get()));
+  Tell(SB_SETTIPTEXTW, last, bar_.SignTip());
+  sign_ = std::move(icon);
+}
+
+std::u16string StatusBarPeer::Shown(std::size_t part) const {
   std::u16string text(LOWORD(Tell(SB_GETTEXTLENGTHW, part)) + 1u, u'\0');
   Tell(SB_GETTEXTW, part, reinterpret_cast<LPARAM>(text.data()));
   text.pop_back();
   return text;
 }
 
+std::u16string StatusBarPeer::ShownTip() const {
+  std::u16string tip(kTipLength, u'\0');
+  Tell(SB_GETTIPTEXTW, MAKEWPARAM(Texts().size() + 1, tip.size()), tip);
+  return tip.substr(0, tip.find(u'\0'));
+}
+
 void StatusBarPeer::Compare(DifferenceList& differences) const {
   ControlPeer::Compare(differences);
-  for (int number = 1; number <= bar_.Count(); ++number)
-    differences.Check(bar_, "Panels", Shown(number) == bar_.Panel(number));
+  const std::vector<std::u16string> texts = Texts();
+  for (std::size_t part = 0; part < texts.size(); ++part)
+    differences.Check(bar_, "Panels", Shown(part) == texts[part]);
+  const bool drawn = sign_.Get() != nullptr;
+  differences.Check(bar_, "Sign",
+                    drawn == (bar_.Sign() != StatusSign::None) && ShownTip() == bar_.SignTip());
 }
 
 }  // namespace lumenote

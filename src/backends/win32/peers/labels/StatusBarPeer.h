@@ -1,11 +1,13 @@
 // The peer of status bars.
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
+#include "backends/win32/peers/labels/SignIcon.h"
 #include "forms/controls/StatusBar.h"
 
 namespace lumenote {
 
-/// Each panel is as wide as its text.
+/// Each panel with a text is as wide as that. Behind them are an empty part and the sign, with the
+/// grip that resizes the window.
 class StatusBarPeer final : public ControlPeer {
  public:
   StatusBarPeer(StatusBar& bar, HWND parent, PeerHost& host);
@@ -14,13 +16,21 @@ class StatusBarPeer final : public ControlPeer {
   void Update(Property property) override;
   void Compare(DifferenceList& differences) const override;
 
+ protected:
+  void HearHandled(const Message& message) override;
+
  private:
   void ShowPanels();
-  /// The right edges of the panels, in pixels.
+  void ShowSign();
+  /// What the panels say that are not empty.
+  std::vector<std::u16string> Texts() const;
+  /// The right edges of the parts, in pixels.
   std::vector<int> Edges() const;
-  std::u16string Shown(int number) const;
+  std::u16string Shown(std::size_t part) const;
+  std::u16string ShownTip() const;
 
   StatusBar& bar_;
+  SignIcon sign_;
 };
 
 }  // namespace lumenote

@@ -1,0 +1,59 @@
+#include "backends/win32/peers/labels/ToolTip.h"
+
+#include <commctrl.h>
+
+#include "backends/win32/toolkit/NativeText.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::size_t kLength = 80;  // what the system copies of a tooltip's text
+
+/// The form that every version of the common controls knows.
+TTTOOLINFOW InfoOf(HWND tool, const std::u16string& text) {
+  TTTOOLINFOW info = {};
+  info.cbSize = TTTOOLINFOW_V1_SIZE;
+  info.uFlags = TTF_IDISHWND;
+  info.hwnd = GetParent(tool);
+  info.uId = reinterpret_cast<UINT_PTR>(tool);
+  info.lpszText = const_cast<wchar_t*>(Wide(text));
+  return info;
+}
+
+LRESULT Tell(const Window& tip, UINT message, const TTTOOLINFOW& info) {
+  return SendMessageW(tip.Handle(), message, 0, reinterpret_cast<LPARAM>(&info));
+}
+
+}  // namespace
+
+void ToolTip::Make() {
+  window_ = std::make_shared<Window>(
+      GetAncestor(tool_, GA_ROOT),
+      WindowKind{TOOLTIPS_CLASSW, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, WS_EX_TOPMOST});
+  Tell(*window_, TTM_ADDTOOLW, InfoOf(tool_, {}));
+}
+
+void ToolTip::Text(const std::u16string& text) {
+  if (!window_ && text.empty()) return;
+  if (!window_) Make();
+  Tell(*window_, TTM_UPDATETIPTEXTW, InfoOf(tool_, text));
+}
+
+std::u16string ToolTip::Text() const {
+  if (!window_) return {};
+  std::u16string text(kLength, u'\0');
+  Tell(*window_, TTM_GETTEXTW, InfoOf(tool_, text));
+  return text.substr(0, text.find(u'\0'));
+}
+
+void ToolTip::Relay(const Message& message) const {
+  if (!window_) return;
+  MSG relayed = {};
+  relayed.hwnd = tool_;
+  relayed.message = message.id;
+  relayed.wParam = message.w;
+  relayed.lParam = message.l;
+  SendMessageW(window_->Handle(), TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+}
+
+}  // namespace lumenote
