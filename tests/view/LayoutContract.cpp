@@ -141,7 +141,7 @@ TEST_P(LayoutContract, BoxesTakeTheirRoom) {
 
 const std::u16string kWords = Words(700);
 const std::u16string kHebrew = u"\\u1513?\\u1500?\\u1493?\\u1501? ";
-const std::u16string kObject = u"{\\pict\\pngblip\\picw900\\pich600 00}";
+const std::u16string kObject = u"{\\pict\\pngblip\\picwgoal900\\pichgoal600 00}";
 
 std::u16string Times(int count, const std::u16string& text) {
   std::u16string all;

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "base/Rows.h"
-#include "document/kept/Kept.h"
 #include "view/LayoutContract.h"
 #include "view/Window.h"
 
@@ -10,7 +9,6 @@ namespace lumenote {
 
 std::unique_ptr<TextLayouter> MakeLayouter() {
   auto layouter = std::make_unique<FixedLayouter>();
-  layouter->boxOf = [](const Kept&) { return PixelSize{60, 40}; };
   layouter->cells = true;
   return layouter;
 }
@@ -54,8 +52,8 @@ TEST(FixedBreaker, IndentsNarrowTheLinesAndShiftX) {
 
 TEST(Pieces, GiveABoxItsRoomInTheLine) {
   Window window({120, 200});
-  window.layouter.boxOf = [](const Kept&) { return PixelSize{50, 60}; };
-  window.surface.TextRTF(u"{\\rtf1 ab{\\pict\\pngblip 00}cd{\\pict\\pngblip 00}ef}");
+  const std::u16string picture = u"{\\pict\\pngblip\\picwgoal500\\pichgoal600 00}";
+  window.surface.TextRTF(u"{\\rtf1 ab" + picture + u"cd" + picture + u"ef}");
   window.view.Settle();
   const Piece& piece = window.pane.Cache().At(0);
   ASSERT_EQ(piece.boxes.size(), 2u);

@@ -6,7 +6,6 @@ namespace lumenote {
 
 std::unique_ptr<TextLayouter> MakeLayouter() {
   auto layouter = std::make_unique<UniscribeLayouter>();
-  layouter->boxOf = [](const Kept&) { return PixelSize{60, 40}; };
   return layouter;
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Strings.h"
+#include "view/layout/InlineBoxes.h"
 #include "view/layout/LineStack.h"
 #include "view/layout/RowCells.h"
 
@@ -80,7 +81,6 @@ class PieceBuilder {
   bool BuildRow();
 
  private:
-  const Kept& KeptOf(CharId format) const;
   Glyph GlyphOf(char16_t unit, CharId format) const;
   void AddText(Position from, Position to);
   void AddComposed();
@@ -101,11 +101,6 @@ class PieceBuilder {
   const double tabStep_;
 };
 
-const Kept& PieceBuilder::KeptOf(CharId format) const {
-  const FormatTables& tables = document_.Formats();
-  return tables.kept[tables.characters[format].kept];
-}
-
 Glyph PieceBuilder::GlyphOf(char16_t unit, CharId format) const {
   const double size = document_.Formats().characters[format].size;
   const double advance = IsLowSurrogate(unit) ? 0 : layouter_.Pixels(size * kAdvance);
@@ -118,16 +113,14 @@ void PieceBuilder::AddText(Position from, Position to) {
     if (piece_.runs.empty() || piece_.runs.back().format != format)
       piece_.runs.push_back({start, format});
     for (const char16_t c : text.String()) piece_.glyphs.push_back(GlyphOf(c, format));
-    if (!layouter_.boxOf || KeptOf(format).kind != Kept::Kind::Embedded) return;
-    const PixelSize size = layouter_.boxOf(KeptOf(format));
-    for (int i = start; i < static_cast<int>(piece_.glyphs.size()); ++i) {
-      piece_.boxes.push_back({i, size});
-      Glyph& glyph = piece_.glyphs[static_cast<std::size_t>(i)];
-      glyph.advance = size.width;
-      glyph.ascent = std::max(glyph.ascent, size.height);
-    }
   });
   if (piece_.composedLength > 0) AddComposed();
+  piece_.boxes = BoxesIn(layouter_, document_, piece_, static_cast<int>(piece_.glyphs.size()));
+  for (const InlineBox& box : piece_.boxes) {
+    Glyph& glyph = piece_.glyphs[static_cast<std::size_t>(box.index)];
+    glyph.advance = box.size.width;
+    glyph.ascent = std::max(glyph.ascent, box.size.height);
+  }
 }
 
 // Composed text takes the format of the character at its position.
@@ -138,8 +131,6 @@ void PieceBuilder::AddComposed() {
   piece_.glyphs.insert(piece_.glyphs.begin() + piece_.composedAt, glyphs.begin(), glyphs.end());
   for (PieceRun& run : piece_.runs)
     if (run.start > piece_.composedAt) run.start += piece_.composedLength;
-  for (InlineBox& box : piece_.boxes)
-    if (box.index >= piece_.composedAt) box.index += piece_.composedLength;
 }
 
 double PieceBuilder::Behind(int index, double x) const {

@@ -1,9 +1,7 @@
 // Layout without fonts: each character is half as wide as it is high.
 #pragma once
-#include <functional>
 #include <vector>
 
-#include "document/kept/Kept.h"
 #include "view/layout/PieceBreaker.h"
 
 namespace lumenote {
@@ -13,9 +11,6 @@ namespace lumenote {
 /// too long; trailing spaces hang; every alignment is set flush left.
 class FixedLayouter final : public TextLayouter {
  public:
-  /// The size of the box shown for a character with kept content; unset, such a character is an
-  /// ordinary one.
-  std::function<PixelSize(const Kept&)> boxOf;
   /// Whether table rows are laid out as cells beside each other; else their cells are text
   /// separated by tabs.
   bool cells = false;

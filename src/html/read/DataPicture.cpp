@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "document/kept/PictureSource.h"
+#include "document/pictures/PictureSource.h"
 #include "html/source/Ascii.h"
 
 namespace lumenote {

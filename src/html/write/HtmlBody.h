@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "document/Document.h"
-#include "document/kept/PictureSource.h"
+#include "document/pictures/PictureSource.h"
 #include "html/words/LinkRepeats.h"
 #include "html/write/HtmlFormats.h"
 #include "html/write/HtmlLists.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "document/pictures/PictureFrame.h"
 #include "view/layout/TextLayouter.h"
 
 namespace lumenote {
@@ -91,7 +92,8 @@ int StrikesOf(unsigned effects) {
 CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground) {
   CharLook look;
   look.hidden = format.effects & kHidden;
-  look.object = tables.kept[format.kept].kind == Kept::Kind::Embedded;
+  const Kept& kept = tables.kept[format.kept];
+  look.object = kept.kind == Kept::Kind::Embedded && !IsBoxed(tables.items[kept.self]);
   look.underline = format.underline;
   look.strikes = StrikesOf(format.effects);
   look.capitals = format.effects & (kAllCaps | kSmallCaps);

@@ -18,7 +18,7 @@ struct CharLook {
   bool hidden = false;
   bool capitals = false;       // shown instead of small letters
   bool smallCapitals = false;  // and these are smaller
-  bool object = false;         // an invisible placeholder, painted separately
+  bool object = false;         // an invisible placeholder for what has no box, painted separately
   Colour ink = kAutoColour;
   Colour ground = kAutoColour;
 };

@@ -38,6 +38,18 @@ Position Piece::PositionAt(int line, double x) const {
   return ToPosition(index);
 }
 
+const InlineBox* Piece::BoxAt(int index) const {
+  const auto box = std::ranges::lower_bound(boxes, index, {}, &InlineBox::index);
+  return box != boxes.end() && box->index == index ? &*box : nullptr;
+}
+
+PixelRect Piece::PlaceOf(const InlineBox& box) const {
+  const int line = LineOfIndex(box.index);
+  const double left = std::min(CaretX(line, box.index), CaretX(line, box.index + 1));
+  const double bottom = lines[Index(line)].baseline;
+  return {left, bottom - box.size.height, left + box.size.width, bottom};
+}
+
 Position Piece::CharacterAt(int line, double x) const {
   const int unit = UnitAt(line, x);
   return unit < 0 ? -1 : ToPosition(unit);

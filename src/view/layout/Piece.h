@@ -29,6 +29,7 @@ struct PieceRun {
 /// stands on the baseline.
 struct InlineBox {
   int index = 0;
+  ItemId item = 0;  // what it shows
   PixelSize size;
 };
 
@@ -82,6 +83,14 @@ class Piece {
   bool BeginsLine(const Document& document, int line) const;
   /// Distance from the text's left edge.
   double XOf(Position position) const;
+  /// Whether the unit belongs to composed text.
+  bool IsComposed(int index) const {
+    return index >= composedAt && index < composedAt + composedLength;
+  }
+  /// The box at a unit of the layout's text; null if it is none.
+  const InlineBox* BoxAt(int index) const;
+  /// Where it is, from the text's left edge and the piece's top.
+  PixelRect PlaceOf(const InlineBox& box) const;
   /// The nearest caret position shown in the line.
   Position PositionAt(int line, double x) const;
   /// The character shown there; -1 if `x` is outside the line's text.

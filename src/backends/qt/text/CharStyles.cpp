@@ -7,6 +7,7 @@
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/Units.h"
+#include "view/layout/ShownText.h"
 
 namespace lumenote {
 
@@ -38,6 +39,18 @@ void SetColours(CharStyle& style) {
 }
 
 }  // namespace
+
+// Letters are as wide as their advance and the space behind them.
+QTextCharFormat StandInFormat(const QTextCharFormat& text, double width) {
+  QFont font(text.font(), CharStyles::Device());
+  font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+  const double own = QFontMetricsF(font).horizontalAdvance(QChar(kShownObject));
+  QTextCharFormat format;
+  format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+  format.setFontLetterSpacing(width - own);
+  format.setForeground(QColor(Qt::transparent));
+  return format;
+}
 
 QPaintDevice* CharStyles::Device() {
   static QImage device = [] {

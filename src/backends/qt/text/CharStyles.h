@@ -16,6 +16,10 @@ struct CharStyle : CharLook {
   std::optional<QTextCharFormat> smallLetter;  // the look of small letters shown as small capitals
 };
 
+/// What makes the stand-in of a box (`kShownObject`) in text of that format invisible and as wide
+/// as the box, in pixels.
+QTextCharFormat StandInFormat(const QTextCharFormat& text, double width);
+
 /// The styles of a document's formats, created on demand.
 class CharStyles {
  public:

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "backends/qt/toolkit/QtText.h"
+#include "view/layout/InlineBoxes.h"
 #include "view/layout/LineStack.h"
 #include "view/layout/ShownText.h"
 
@@ -25,6 +26,17 @@ QList<FormatRange> FormatsOf(const ShownText& text, const Document& document, Ch
         {part.start, part.end - part.start, part.reduced ? *style.smallLetter : style.format});
   }
   return formats;
+}
+
+/// Adds what makes the stand-ins of boxes invisible and as wide as their boxes.
+void AddBoxes(const QtPiece& piece, const Document& document, CharStyles& styles,
+              QList<FormatRange>& formats) {
+  auto run = piece.runs.begin();
+  for (const InlineBox& box : piece.boxes) {
+    while (std::next(run) != piece.runs.end() && std::next(run)->start <= box.index) ++run;
+    const QTextCharFormat& text = styles.Of(document, run->format).format;
+    formats.push_back({box.index, 1, StandInFormat(text, box.size.width)});
+  }
 }
 
 /// Breaks the text of a piece into lines.
@@ -140,6 +152,7 @@ bool LineMaker::Build(const PieceSpan& span) {
 void LineMaker::Place(QTextLine line, PieceLine& box) {
   double ascent = line.ascent();
   double descent = line.descent();
+  Extend(piece_.boxes, box, ascent);
   Extend(piece_.decorations, box, ascent, descent);
   stack_.Place(box, ascent, descent);
   line.setPosition({line.position().x(), box.baseline - line.ascent()});
@@ -168,9 +181,11 @@ std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpa
   piece->layout.setFont(QFont(first.font(), CharStyles::Device()));
   piece->layout.setCacheEnabled(true);
   piece->layout.setText(ToQString(text.text));
-  piece->layout.setFormats(formats);
   piece->decorations = std::move(text.decorations);
   piece->runs = std::move(text.runs);
+  piece->boxes = BoxesIn(*this, document, *piece, static_cast<int>(text.text.size()));
+  AddBoxes(*piece, document, styles, formats);
+  piece->layout.setFormats(formats);
   const bool tabs = text.text.find(u'\t') != text.text.npos;
   if (!LineMaker(*this, document, *piece, tabs).Build(span)) return nullptr;
   return piece;

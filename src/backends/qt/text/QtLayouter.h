@@ -1,6 +1,7 @@
 // Lays out paragraphs with QTextLayout.
 #pragma once
 #include "backends/qt/text/CharStyles.h"
+#include "backends/qt/text/QtPictures.h"
 #include "backends/qt/text/QtPiece.h"
 #include "view/layout/TextLayouter.h"
 
@@ -10,6 +11,7 @@ namespace lumenote {
 class QtLayouter final : public TextLayouter {
  public:
   CharStyles styles;
+  QtPictures pictures;
   /// Formats of the composed text, relative to its start.
   QList<QTextLayout::FormatRange> composedFormats;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "backends/qt/text/BoxPainter.h"
 #include "backends/qt/text/Decorations.h"
 #include "backends/qt/toolkit/Pixels.h"
 
@@ -32,7 +33,20 @@ void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QR
   PaintBullet(painter, item);
   PieceOf(item).layout.draw(&painter, origin, {}, area);
   PaintSelection(painter, item);
+  PaintBoxes(painter, item, area);
   PaintDecorations(painter, PieceOf(item), origin, state_.palette.color(QPalette::Text));
+}
+
+void ViewPainter::PaintBoxes(QPainter& painter, const ShownPiece& item, const QRectF& area) {
+  const Piece& piece = *item.piece;
+  BoxPainter boxes(painter, pane_.Content(), layouter_.pictures, state_.palette);
+  for (const InlineBox& box : piece.boxes) {
+    const QRectF place = ToQRect(piece.PlaceOf(box).MovedBy(pane_.TextLeft(), item.y));
+    const Position at = piece.ToPosition(box.index);
+    const Selection& selection = state_.marks.selection;
+    if (place.intersects(area))
+      boxes.Paint(box, place, at >= selection.start && at < selection.end);
+  }
 }
 
 // Qt's own selection painting clips raised and lowered text.
@@ -54,7 +68,7 @@ void ViewPainter::PaintSelectedText(QPainter& painter, const ShownPiece& item,
     const int to = next == piece.runs.end() ? part.end : std::min(next->start, part.end);
     if (from >= to) continue;
     const CharStyle& style = layouter_.styles.Of(pane_.Content(), run->format);
-    if (style.object) continue;
+    if (style.object || piece.BoxAt(from)) continue;
     for (const QGlyphRun& glyphs : text.glyphRuns(from, to - from))
       painter.drawGlyphRun({pane_.TextLeft(), item.y - style.raise}, glyphs);
   }

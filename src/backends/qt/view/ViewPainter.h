@@ -28,6 +28,7 @@ class ViewPainter {
   void PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area);
   void PaintBullet(QPainter& painter, const ShownPiece& item);
   void PaintSelection(QPainter& painter, const ShownPiece& item);
+  void PaintBoxes(QPainter& painter, const ShownPiece& item, const QRectF& area);
   void PaintSelectedText(QPainter& painter, const ShownPiece& item, const RangeBox& part);
 
   TextPane& pane_;

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "view/layout/InlineBoxes.h"
+
 namespace lumenote {
 
 namespace {
@@ -256,8 +258,7 @@ void LineMaker::Stack(PieceLine& line) {
     ascent = style.ascent;
     descent = style.descent;
   }
-  for (const InlineBox& box : piece_.boxes)
-    if (box.index >= line.start && box.index < line.end) ascent = std::max(ascent, box.size.height);
+  Extend(piece_.boxes, line, ascent);
   Extend(piece_.decorations, line, ascent, descent);
   stack_.Place(line, ascent, descent);
 }

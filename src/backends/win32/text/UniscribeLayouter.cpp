@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "backends/win32/text/LineMaker.h"
-#include "document/kept/Kept.h"
+#include "view/layout/InlineBoxes.h"
 
 namespace lumenote {
 
@@ -59,22 +59,6 @@ ShownText UniscribeLayouter::Show(UniscribePiece& piece, const Document& documen
   return text;
 }
 
-std::vector<InlineBox> UniscribeLayouter::BoxesIn(const Piece& piece, const ShownText& text,
-                                                  const Document& document) const {
-  std::vector<InlineBox> boxes;
-  if (!boxOf) return boxes;
-  const FormatTables& tables = document.Formats();
-  for (const ShownPart& part : text.parts) {
-    const Kept& kept = tables.kept[tables.characters[part.format].kept];
-    if (kept.kind != Kept::Kind::Embedded) continue;
-    for (int i = part.start; i < part.end; ++i) {
-      const bool composed = i >= piece.composedAt && i < piece.composedAt + piece.composedLength;
-      if (!composed) boxes.push_back({i, boxOf(kept)});
-    }
-  }
-  return boxes;
-}
-
 std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const PieceSpan& wanted) {
   auto piece = std::make_unique<UniscribePiece>();
   const std::vector<RowCell> cells = RowCellsAt(*this, document, wanted.from);
@@ -84,10 +68,10 @@ std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const P
   HideCellEnds(ends, text.text);
   const bool rightToLeft = document.Formats().paragraphs[piece->format].rightToLeft;
   ShapedText shaped = Shaper(document, styles, text).Shape(rightToLeft, ends);
-  piece->boxes = BoxesIn(*piece, text, document);
   piece->text = std::move(text.text);
   piece->decorations = std::move(text.decorations);
   piece->runs = std::move(text.runs);
+  piece->boxes = BoxesIn(*this, document, *piece, static_cast<int>(piece->text.size()));
   LineMaker lines(*this, document, styles, *piece, std::move(shaped));
   if (!cells.empty())
     lines.BuildRow(cells, ends);

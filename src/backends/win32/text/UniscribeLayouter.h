@@ -1,7 +1,5 @@
 // Lays out paragraphs with Uniscribe and the fonts of GDI.
 #pragma once
-#include <functional>
-
 #include "backends/win32/text/CharStyles.h"
 #include "backends/win32/text/UniscribePiece.h"
 #include "view/layout/TextLayouter.h"
@@ -13,16 +11,12 @@ namespace lumenote {
 class UniscribeLayouter final : public TextLayouter {
  public:
   CharStyles styles;
-  /// The size of the box shown for a character with kept content; unset, a small placeholder.
-  std::function<PixelSize(const Kept&)> boxOf;
 
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 
  private:
   std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& span) override;
   ShownText Show(UniscribePiece& piece, const Document& document, const PieceSpan& span);
-  std::vector<InlineBox> BoxesIn(const Piece& piece, const ShownText& text,
-                                 const Document& document) const;
   void Zoomed() override { styles.Zoom(Zoom() * Scale()); }
 };
 

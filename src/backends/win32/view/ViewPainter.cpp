@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "backends/win32/toolkit/NativeText.h"
 #include "backends/win32/view/GdiPencil.h"
+#include "document/pictures/PictureFrame.h"
 #include "view/pane/RangeBoxes.h"
 
 namespace lumenote {
@@ -80,8 +82,27 @@ void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item) {
     PaintGrounds(dc, {piece, left, item.y, line}, selected);
   for (std::size_t line = 0; line < piece.lines.size(); ++line)
     PaintText(dc, {piece, left, item.y, line}, selected);
+  PaintBoxes(dc, item);
   GdiPencil pencil(dc, colours_.ink, colours_.plain);
   DrawDecorations(pencil, piece, piece.text, piece.decorations, {left, item.y});
+}
+
+void ViewPainter::PaintBoxes(HDC dc, const ShownPiece& item) const {
+  for (const InlineBox& box : item.piece->boxes)
+    PaintLabel(dc, box,
+               item.piece->PlaceOf(box).MovedBy(std::round(pane_.TextLeft()), item.y).Aligned());
+}
+
+/// What a box holds, in words.
+void ViewPainter::PaintLabel(HDC dc, const InlineBox& box, const PixelRect& place) const {
+  RECT inside = {Rounded(place.left), Rounded(place.top), Rounded(place.right),
+                 Rounded(place.bottom)};
+  FrameRect(dc, &inside, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
+  const std::u16string label(LabelOf(pane_.Content().Formats().items[box.item]));
+  const SelectScope font(dc, GetStockObject(DEFAULT_GUI_FONT));
+  SetTextColor(dc, colours_.ink);
+  DrawTextW(dc, Wide(label), -1, &inside,
+            DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX);
 }
 
 void ViewPainter::PaintGrounds(HDC dc, const LinePlace& place, Selection selected) const {
@@ -105,7 +126,7 @@ void ViewPainter::PaintText(HDC dc, const LinePlace& place, Selection selected) 
   for (const LinePart& part : place.piece.parts[place.line]) {
     const GlyphRun& run = place.piece.glyphs[part.run];
     const CharStyle& style = StyleOf(run);
-    if (!run.font || style.object) continue;
+    if (!run.font || style.object || place.piece.BoxAt(run.start)) continue;
     const bool own = style.ink != kAutoColour && !colours_.plain;
     const Selection inside = SelectedOf({part.start, part.end}, selected);
     DrawUnits(dc, place, part, {part.start, inside.start}, own ? style.ink : colours_.ink);

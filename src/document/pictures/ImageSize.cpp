@@ -1,0 +1,109 @@
+#include "document/pictures/ImageSize.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+
+#include "document/pictures/ByteOrder.h"
+
+namespace lumenote {
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view kPngMark = "\x89PNG\r\n\x1A\n"sv;
+constexpr std::string_view kJpegMark = "\xFF\xD8\xFF"sv;
+constexpr double kTwipsPerInch = 1440;
+constexpr double kMetresPerInch = 0.0254;
+
+/// Dots per inch; resolutions that no device has are not believed.
+double Believed(double resolution) {
+  constexpr double kUsual = 96;
+  return resolution >= 10 && resolution <= 4800 ? resolution : kUsual;
+}
+
+std::optional<ImageSize> Extent(double width, double height, double across, double down) {
+  if (width < 1 || height < 1) return std::nullopt;
+  return ImageSize{width * kTwipsPerInch / Believed(across),
+                   height * kTwipsPerInch / Believed(down)};
+}
+
+std::optional<ImageSize> SizeOfPng(std::string_view data) {
+  constexpr std::size_t kChunkFrame = 12;  // length, name and sum
+  if (!data.starts_with(kPngMark) || data.size() < 24) return std::nullopt;
+  const double width = BigEndian32(data, 16);
+  const double height = BigEndian32(data, 20);
+  for (std::size_t at = kPngMark.size(); at + kChunkFrame < data.size();) {
+    const std::string_view name = data.substr(at + 4, 4);
+    const bool metric = name == "pHYs" && at + 16 < data.size() && data[at + 16] == 1;
+    if (metric)
+      return Extent(width, height, BigEndian32(data, at + 8) * kMetresPerInch,
+                    BigEndian32(data, at + 12) * kMetresPerInch);
+    if (name == "IDAT") break;
+    at += kChunkFrame + BigEndian32(data, at);
+  }
+  return Extent(width, height, 0, 0);
+}
+
+/// Whether a segment tells width and height.
+bool IsFrame(unsigned marker) {
+  return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+}
+
+std::optional<ImageSize> SizeOfJpeg(std::string_view data) {
+  constexpr double kCentimetresPerInch = 2.54;
+  if (!data.starts_with(kJpegMark)) return std::nullopt;
+  double across = 0;
+  double down = 0;
+  for (std::size_t at = 2; at + 9 <= data.size();) {
+    if (data[at] != '\xFF') return std::nullopt;
+    const unsigned marker = static_cast<unsigned char>(data[at + 1]);
+    if (IsFrame(marker))
+      return Extent(BigEndian16(data, at + 7), BigEndian16(data, at + 5), across, down);
+    if (data.substr(at + 4, 5) == "JFIF\0"sv && at + 16 <= data.size()) {
+      const double unit = data[at + 11] == 1 ? 1 : data[at + 11] == 2 ? kCentimetresPerInch : 0;
+      across = BigEndian16(data, at + 12) * unit;
+      down = BigEndian16(data, at + 14) * unit;
+    }
+    at += marker == 0xFF ? 1 : 2 + BigEndian16(data, at + 2);
+  }
+  return std::nullopt;
+}
+
+std::optional<ImageSize> SizeOfBitmap(std::string_view data) {
+  constexpr std::size_t kOldHeader = 12;
+  if (data.size() < 16) return std::nullopt;
+  if (LittleEndian32(data, 0) == kOldHeader)
+    return Extent(LittleEndian16(data, 4), LittleEndian16(data, 6), 0, 0);
+  if (LittleEndian32(data, 0) < 40 || data.size() < 40) return std::nullopt;
+  const auto metric = [&](std::size_t at) {
+    return static_cast<std::int32_t>(LittleEndian32(data, at)) * kMetresPerInch;
+  };
+  const auto side = [&](std::size_t at) {
+    return std::abs(static_cast<double>(static_cast<std::int32_t>(LittleEndian32(data, at))));
+  };
+  return Extent(side(4), side(8), metric(24), metric(28));
+}
+
+}  // namespace
+
+std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data) {
+  switch (type) {
+    case PictureType::Png:
+      return SizeOfPng(data);
+    case PictureType::Jpeg:
+      return SizeOfJpeg(data);
+    case PictureType::Bitmap:
+      return SizeOfBitmap(data);
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<PictureType> TypeOfImage(std::string_view file) {
+  if (file.starts_with(kPngMark)) return PictureType::Png;
+  if (file.starts_with(kJpegMark)) return PictureType::Jpeg;
+  return file.starts_with("BM") ? std::optional(PictureType::Bitmap) : std::nullopt;
+}
+
+}  // namespace lumenote

@@ -1,0 +1,21 @@
+// How large an image is, as the beginning of its data says.
+#pragma once
+#include <optional>
+#include <string_view>
+
+#include "document/pictures/PictureSource.h"
+
+namespace lumenote {
+
+struct ImageSize {
+  double width = 0;  // twips
+  double height = 0;
+};
+/// At the resolution that the data state, else at 96 dots per inch. The beginning of the data will
+/// do for most images. Empty for data of another type, damaged data and metafiles.
+std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data);
+
+/// The type of a file; only these three are told apart from others.
+std::optional<PictureType> TypeOfImage(std::string_view file);
+
+}  // namespace lumenote

@@ -1,0 +1,86 @@
+#include "document/pictures/PictureFrame.h"
+
+#include <algorithm>
+
+#include "document/pictures/BitmapFile.h"
+#include "document/pictures/ImageSize.h"
+
+namespace lumenote {
+namespace {
+
+constexpr std::size_t kLongestImageHead = 131072;  // bytes
+constexpr double kTwipsInPixel = 15;
+constexpr double kTwipsInMetafileUnit = 1440 / 2540.0;
+constexpr ImageSize kUnknown{1200, 900};
+
+/// One side of a frame, in twips: the whole image's before it is cropped and scaled.
+double GoalOf(const PictureExtent& extent, bool metafile) {
+  if (extent.goal > 0) return extent.goal;
+  return std::max(extent.size, 0) * (metafile ? kTwipsInMetafileUnit : kTwipsInPixel);
+}
+
+bool IsMetafile(PictureType type) {
+  return type == PictureType::Metafile || type == PictureType::EnhancedMetafile;
+}
+
+/// A side that the source does not tell is in proportion to the other one.
+ImageSize GoalsOf(const PictureSource& picture) {
+  const bool metafile = IsMetafile(picture.type);
+  ImageSize goals{GoalOf(picture.across, metafile), GoalOf(picture.down, metafile)};
+  if (goals.width > 0 && goals.height > 0) return goals;
+  const auto own = SizeOfImage(picture.type, BytesOf(picture, kLongestImageHead));
+  const ImageSize natural = own.value_or(kUnknown);
+  if (goals.width > 0) return {goals.width, goals.width * natural.height / natural.width};
+  if (goals.height > 0) return {goals.height * natural.width / natural.height, goals.height};
+  return natural;
+}
+
+/// Crops and scales one side; cropping that would leave nothing is none.
+void Shape(const PictureExtent& extent, double goal, double& shown, double& from, double& to) {
+  const double before = std::max(extent.cropBefore, 0);
+  const double behind = std::max(extent.cropBehind, 0);
+  const bool cropped = before + behind < goal;
+  from = cropped ? before / goal : 0;
+  to = cropped ? 1 - behind / goal : 1;
+  shown = goal * (to - from) * (extent.scale > 0 ? extent.scale / 100.0 : 1);
+}
+
+}  // namespace
+
+bool IsBoxed(const KeptItem& item) {
+  return item.kind == KeptItem::Kind::Picture || item.kind == KeptItem::Kind::Object ||
+         item.kind == KeptItem::Kind::Drawing;
+}
+
+PictureFrame FrameOf(const KeptItem& item) {
+  const PictureSource picture = FindPicture(item.source).value_or(PictureSource{});
+  const ImageSize goals = GoalsOf(picture);
+  PictureFrame frame;
+  Shape(picture.across, goals.width, frame.width, frame.left, frame.right);
+  Shape(picture.down, goals.height, frame.height, frame.top, frame.bottom);
+  return frame;
+}
+
+std::u16string_view LabelOf(const KeptItem& item) {
+  const auto picture = FindPicture(item.source);
+  if (picture && IsMetafile(picture->type)) return u"M\u00E9tafichier";
+  if (picture || item.kind == KeptItem::Kind::Picture) return u"Image";
+  return item.kind == KeptItem::Kind::Object ? u"Objet" : u"Dessin";
+}
+
+std::string ImageFileOf(const KeptItem& item) {
+  const auto picture = FindPicture(item.source);
+  if (!picture) return {};
+  switch (picture->type) {
+    case PictureType::Png:
+    case PictureType::Jpeg:
+      return BytesOf(*picture);
+    case PictureType::Bitmap:
+    case PictureType::DeviceBitmap:
+      return BitmapFile(*picture);
+    default:
+      return {};
+  }
+}
+
+}  // namespace lumenote
