@@ -1,8 +1,9 @@
-// The system clipboard, limited to plain text, RTF and HTML.
+// The system clipboard, limited to plain text, RTF, HTML and images.
 #pragma once
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lumenote {
 
@@ -10,6 +11,7 @@ struct ClipboardContent {
   std::optional<std::u16string> text{};
   std::optional<std::string> rtf{};   // source bytes
   std::optional<std::string> html{};  // a page or a part of one, in UTF-8, without an envelope
+  std::vector<std::string> images{};  // files in PNG or JPEG; not read where the rest is richer
 };
 
 class Clipboard {

@@ -1,5 +1,8 @@
 // Values that cross the edge to the toolkit: lengths, typed text, clipboard content.
 #include <QGuiApplication>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 #include "backends/qt/toolkit/Keys.h"
@@ -47,9 +50,46 @@ TEST(MimeTest, NormalisesTextAndReadsRtfUnderItsNamesAndHtml) {
     EXPECT_TRUE(HasMimeContent(rtf));
     EXPECT_EQ(ReadMime(rtf).rtf, "{\\rtf1 x}");
   }
-  QMimeData other;
-  other.setData(QStringLiteral("image/png"), "x");
-  EXPECT_FALSE(HasMimeContent(other));
+}
+
+// A JPEG stays as it is; what no note holds becomes PNG; damaged images and other files are none.
+TEST(MimeTest, ReadsImagesAndFilesOfImages) {
+  const QTemporaryDir folder;
+  QImage red(4, 2, QImage::Format_RGB32);
+  red.fill(Qt::red);
+  const auto file = [&](const char* name) { return folder.filePath(QLatin1String(name)); };
+  for (const char* name : {"a.jpg", "b.png", "c.bmp"}) ASSERT_TRUE(red.save(file(name)));
+  QFile text(file("d.txt"));
+  ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("texte"));
+  QFile jpeg(file("a.jpg"));
+  ASSERT_TRUE(jpeg.open(QIODevice::ReadOnly));
+  const QByteArray bytes = jpeg.readAll();
+
+  QMimeData files;
+  files.setUrls({QUrl::fromLocalFile(file("a.jpg")), QUrl::fromLocalFile(file("c.bmp"))});
+  const ClipboardContent read = ReadMime(files);
+  EXPECT_FALSE(read.text);
+  ASSERT_EQ(read.images.size(), 2u);
+  EXPECT_EQ(read.images[0], bytes.toStdString());
+  EXPECT_TRUE(read.images[1].starts_with("\x89PNG"));
+  files.setUrls({QUrl::fromLocalFile(file("b.png")), QUrl::fromLocalFile(file("d.txt"))});
+  EXPECT_TRUE(ReadMime(files).images.empty());
+  EXPECT_TRUE(ReadMime(files).text);
+
+  QMimeData data;
+  data.setData(QStringLiteral("image/jpeg"), bytes);
+  data.setData(QStringLiteral("image/png"), "x");
+  EXPECT_TRUE(HasMimeContent(data));
+  EXPECT_EQ(ReadMime(data).images, std::vector{bytes.toStdString()});
+  data.clear();
+  data.setImageData(red);
+  EXPECT_TRUE(ReadMime(data).images.at(0).starts_with("\x89PNG"));
+  data.setText(QStringLiteral("riche"));
+  EXPECT_TRUE(ReadMime(data).images.empty());
+
+  const auto offered = WriteMime({.text = u"\uFFFC", .images = {bytes.toStdString()}});
+  EXPECT_EQ(offered->data(QStringLiteral("image/jpeg")), bytes);
+  EXPECT_EQ(QImage::fromData(offered->data(QStringLiteral("image/png"))).size(), red.size());
 }
 
 }  // namespace

@@ -57,6 +57,34 @@ TEST(UserDoor, DropKeepsFormats) {
   EXPECT_EQ(bench.surface.UndoType(), UndoKind::DragDrop);
 }
 
+TEST(UserDoor, ImagesArePicturesWhereNothingIsRicher) {
+  const std::string png("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\2\x58\0\0\1\x2C", 24);  // 600 x 300
+  const std::string jpeg = "\xFF\xD8\xFF\xE0";
+  const std::pair<ClipboardContent, const char16_t*> pastes[] = {
+      {{.images = {png, "GIF89a", jpeg}}, u"a\uFFFC\uFFFC|b <5 a|b"},
+      {{.text = u"t", .images = {png}}, u"at|b <5 a|b"},
+      {{.rtf = "{\\rtf1 t}", .images = {png}}, u"at|b <5 a|b"},
+      {{.html = "<b>t</b><img>", .images = {png}}, u"at|b <5 a|b"},
+      {{.text = u"x.org/i", .html = "<img src=x.org/i alt=t> ", .images = {png}},
+       u"a\uFFFC|b <5 a|b"},
+      {{.images = {"BM"}}, u"a|b"}};
+  for (const auto& [content, steps] : pastes) {
+    UserBench bench;
+    bench.Put(u"a|b");
+    bench.clipboard.Set(content);
+    EXPECT_TRUE(bench.surface.CanPaste());
+    bench.surface.Paste();
+    EXPECT_EQ(ToUtf8(Steps(bench)), ToUtf8(steps));
+  }
+  UserBench bench;
+  bench.surface.UserDropContent({.images = {png}}, 0);
+  EXPECT_NE(bench.surface.TextRTF().find(u"\\pngblip\\picwgoal9000\\pichgoal4500"),
+            std::u16string::npos);
+  EXPECT_EQ(bench.surface.UndoType(), UndoKind::DragDrop);
+  bench.surface.Copy();
+  EXPECT_EQ(bench.clipboard.Get().images, std::vector{png});
+}
+
 TEST(UserDoor, WhatIsPastedBringsItsTablesAndUndoTakesThemBack) {
   UserBench from, to;
   from.surface.TextRTF(uR"({\rtf1{\fonttbl{\f7 B;}}a{\footnote\f7 n}})");

@@ -1,4 +1,5 @@
 // Pieces of the fixed layouter: breaks, edges, boxes in a line, rows of cells.
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include "base/Rows.h"
@@ -16,6 +17,9 @@ std::unique_ptr<TextLayouter> MakeLayouter() {
 namespace {
 
 using namespace std::string_literals;
+
+/// The beginning of an image of 600 x 300 pixels.
+const std::string kPngHead("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\2\x58\0\0\1\x2C", 24);
 
 TEST(FixedBreaker, Wraps) {
   for (const auto& [lines, width] : Rows16<2>(R"(
@@ -64,6 +68,16 @@ TEST(Pieces, GiveABoxItsRoomInTheLine) {
   EXPECT_EQ(piece.XOf(3), 70);
   EXPECT_EQ(window.pane.CharacterAt({45, 30}), 2);
   EXPECT_EQ(window.pane.PositionAt({50, 30}), 3) << "behind its middle";
+}
+
+TEST(Pieces, OfAnImageAreAsWideAsTheTextAtMost) {
+  Window window({120, 200});
+  window.surface.UserDropContent({.images = {kPngHead}}, 0);
+  window.view.Settle();
+  const double width = window.pane.TextWidth();
+  const std::u16string goal = u"\\picwgoal" + FromUtf8(std::to_string(std::lround(width))) + u"\\";
+  EXPECT_NE(window.surface.TextRTF().find(goal), std::u16string::npos) << ToUtf8(goal);
+  EXPECT_EQ(window.pane.Cache().At(0).boxes.at(0).size.width, window.layouter.Width());
 }
 
 struct RowsTest : testing::Test {

@@ -8,7 +8,9 @@ namespace lumenote {
 class MemoryClipboard final : public Clipboard {
  public:
   ClipboardContent Get() const override { return content_; }
-  bool HasContent() const override { return content_.text || content_.rtf || content_.html; }
+  bool HasContent() const override {
+    return content_.text || content_.rtf || content_.html || !content_.images.empty();
+  }
   void Set(const ClipboardContent& content) override { content_ = content; }
   void Clear() override { content_ = {}; }
 

@@ -21,6 +21,8 @@ class SurfaceView {
   virtual void WrapWidthChanged() = 0;
   /// Scrolls the caret into view. Called for every move, so best deferred to the next paint.
   virtual void RevealCaret() = 0;
+  /// The width in which lines are broken, in twips; 0 if the view lays out no lines.
+  virtual double TextWidth() const { return 0; }
   /// Number of lines that a page key moves by.
   virtual int LinesPerPage() const = 0;
   /// The line that holds `position`, as the view shows it or would; empty if the view lays out no

@@ -9,7 +9,9 @@
 #include "html/write/Writer.h"
 #include "rtf/read/Reader.h"
 #include "rtf/write/Writer.h"
+#include "surface/editing/PastedPictures.h"
 #include "surface/editing/SourceBytes.h"
+#include "surface/editing/SurfaceView.h"
 
 namespace lumenote {
 
@@ -155,7 +157,8 @@ void Transfer::Copy() {
   const Document& document = core_.Content();
   clipboard_.Set({document.Text(selection.start, selection.end),
                   WriteRtf(document, selection.start, selection.end),
-                  WriteHtml(document, selection.start, selection.end)});
+                  WriteHtml(document, selection.start, selection.end),
+                  LonePicture(document, selection)});
 }
 
 void Transfer::Cut() {
@@ -174,12 +177,22 @@ void Transfer::Drop(const ClipboardContent& content, Position target) {
   text_.Drop(FragmentOf(content), core_.Caret());
 }
 
-// RTF before HTML before text; plain text looks like what would be typed.
+/// The width of the text on screen, in twips; 0 if nothing shows it.
+double Transfer::TextWidth() {
+  const SurfaceView* const view = core_.View();
+  return view ? view->TextWidth() : 0;
+}
+
+// RTF before HTML before text before images, unless the others only name an image; plain text looks
+// like what would be typed.
 Fragment Transfer::FragmentOf(const ClipboardContent& content) {
   Fragment fragment;
   if (content.rtf && LooksLikeRtf(*content.rtf))
     fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, unstated_,
                        core_.Content().Mark());
+  if (!content.images.empty() && WantsImages(content))
+    fragment =
+        PictureFragment(content.images, core_.InsertionFormat(), TextWidth(), core_.Formats());
   if (fragment.Length() == 0 && content.html)
     fragment = ReadHtml(FromUtf8(*content.html), core_.Formats(), HtmlTarget::Selection, unstated_);
   if (fragment.Length() == 0 && content.text) fragment = text_.Plain(*content.text);

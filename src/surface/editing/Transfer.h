@@ -49,6 +49,7 @@ class Transfer {
   void LoadWhole(const Fragment& whole, FontId plainFont);
   void LoadText(const std::string& bytes, std::optional<TextEncoding> encoding);
   std::string PlainBytes() const;
+  double TextWidth();
   Fragment FragmentOf(const ClipboardContent& content);
 
   EditingCore& core_;

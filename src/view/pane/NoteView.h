@@ -83,6 +83,7 @@ class NoteView : private SurfaceView {
   void SelectionChanged() override;
   void WrapWidthChanged() override;
   void RevealCaret() override;
+  double TextWidth() const override { return pane_.TextWidth(); }
   int LinesPerPage() const override { return pane_.LinesPerPage(); }
   std::optional<Line> ShownLine(Position position) override { return pane_.ShownLine(position); }
 

@@ -20,6 +20,10 @@ double TextPane::WrapWidth() const {
   return margin > 0 ? layouter_.Pixels(margin) : size_.width - 2 * margin_;
 }
 
+double TextPane::TextWidth() const {
+  return layouter_.Width() * kTwipsInPixel / layouter_.Pixels(kTwipsInPixel);
+}
+
 void TextPane::Resize(PixelSize size) {
   size_ = size;
   scroll_.PaneHeight(size.height);

@@ -31,6 +31,8 @@ class TextPane {
 
   /// Space beside the text.
   void Margin(double pixels) { margin_ = pixels; }
+  /// The width in which lines are broken, in twips.
+  double TextWidth() const;
   /// The text's left edge.
   double TextLeft() const { return margin_ - scrolledRight_; }
   double ScrolledRight() const { return scrolledRight_; }

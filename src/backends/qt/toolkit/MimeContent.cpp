@@ -3,8 +3,11 @@
 #include <QTextDocumentFragment>
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
+#include "backends/qt/toolkit/MimeImages.h"
 #include "backends/qt/toolkit/QtText.h"
+#include "surface/editing/PastedPictures.h"
 
 namespace lumenote {
 
@@ -46,16 +49,22 @@ std::optional<std::string> HtmlOf(const QMimeData& data) {
 }  // namespace
 
 ClipboardContent ReadMime(const QMimeData& data) {
-  return {TextOf(data), RtfOf(data), HtmlOf(data)};
+  if (std::vector<std::string> files = ImageFilesOf(data); !files.empty())
+    return {.images = std::move(files)};
+  ClipboardContent content{TextOf(data), RtfOf(data), HtmlOf(data)};
+  if (WantsImages(content)) content.images = ImagesOf(data);
+  return content;
 }
 
 bool HasMimeContent(const QMimeData& data) {
   const auto isThere = [&](const char* name) { return data.hasFormat(QLatin1String(name)); };
-  return data.hasText() || data.hasHtml() || std::ranges::any_of(kRtfNames, isThere);
+  return data.hasText() || data.hasHtml() || HasImage(data) ||
+         std::ranges::any_of(kRtfNames, isThere);
 }
 
 std::unique_ptr<QMimeData> WriteMime(const ClipboardContent& content) {
-  auto data = std::make_unique<QMimeData>();
+  auto data =
+      content.images.empty() ? std::make_unique<QMimeData>() : OfferImage(content.images.front());
   if (content.text) data->setText(ToLines(*content.text));
   if (content.html) data->setHtml(QString::fromStdString(*content.html));
   if (!content.rtf) return data;

@@ -24,10 +24,16 @@ std::optional<TextDrag> DropEvents::Own(const QDropEvent& event) const {
   return selection ? selection->DragFrom(view_) : std::nullopt;
 }
 
+// A file that becomes a picture stays where it is.
+Qt::DropAction DropEvents::ActionOf(const QDropEvent& event) const {
+  if (Own(event)) return IsCopy(event) ? Qt::CopyAction : Qt::MoveAction;
+  return event.mimeData()->hasUrls() ? Qt::CopyAction : event.proposedAction();
+}
+
 void DropEvents::Move(QDropEvent& event) {
   event.setAccepted(Accepts(event));
   if (!event.isAccepted()) return;
-  event.setDropAction(Own(event) && !IsCopy(event) ? Qt::MoveAction : event.proposedAction());
+  event.setDropAction(ActionOf(event));
   rules_.Move(ToPoint(event.position()));
 }
 
@@ -36,8 +42,8 @@ void DropEvents::Drop(QDropEvent& event) {
   event.setAccepted(Accepts(event));
   if (!event.isAccepted()) return;
   const PixelPoint at = ToPoint(event.position());
+  event.setDropAction(ActionOf(event));
   if (std::optional<TextDrag> own = Own(event)) {
-    event.setDropAction(IsCopy(event) ? Qt::CopyAction : Qt::MoveAction);
     rules_.DropBack(at, *own, IsCopy(event));
   } else {
     event.setAccepted(rules_.Drop(at, ReadMime(*event.mimeData())));

@@ -18,6 +18,7 @@ class DropEvents {
   void Drop(QDropEvent& event);
 
  private:
+  Qt::DropAction ActionOf(const QDropEvent& event) const;
   bool Accepts(const QDropEvent& event) const;
   /// What is dragged from the view itself; empty for what comes from elsewhere.
   std::optional<TextDrag> Own(const QDropEvent& event) const;

@@ -1,0 +1,21 @@
+// Images as desktop programs exchange them: as data, or as files that are dragged or copied.
+#pragma once
+#include <QMimeData>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace lumenote {
+
+/// Files in PNG or JPEG: those that are dragged or copied, if all of them are images. Other formats
+/// become PNG; what is larger than a limit is no image.
+std::vector<std::string> ImageFilesOf(const QMimeData& data);
+/// The image itself, in PNG or JPEG; none if there is no image, or no whole one.
+std::vector<std::string> ImagesOf(const QMimeData& data);
+/// Whether `ImagesOf` could return anything, without transferring it.
+bool HasImage(const QMimeData& data);
+
+/// Offers the image, a JPEG also as PNG, made on request.
+std::unique_ptr<QMimeData> OfferImage(const std::string& file);
+
+}  // namespace lumenote
