@@ -240,6 +240,23 @@ TEST_F(SurfaceContract, PastesRtfBeforeHtmlBeforeTextInOneStep) {
   EXPECT_NE(clipboard.Get().html->find("<b>deux</b>"), std::string::npos);
 }
 
+TEST_F(SurfaceContract, PastesTheTextAloneInTheFormatAroundInOneStep) {
+  for (const auto& [content, pasted] : {std::pair(ClipboardContent{u"t\uFFFC\nu"}, u"at¶u"),
+                                        {{{}, "{\\rtf1\\ul r\\par s}"}, u"ar¶s"},
+                                        {{{}, {}, "<i>h</i>"}, u"ah"},
+                                        {{u"", "{\\rtf1 r}"}, u"ab"}}) {
+    Put(u"a^b|");
+    s.SelBold(true);
+    clipboard.Set(content);
+    Press(u"Ctrl+Shift+V");
+    EXPECT_EQ(s.Text(), ReplaceEvery(pasted, u"¶", u"\r\n"));
+    surface.UserSelect(1, s.TextLength());
+    EXPECT_TRUE(s.SelBold() == true && s.SelUnderline() == false && s.SelItalic() == false);
+    s.Undo();
+    EXPECT_EQ(s.Text(), u"ab");
+  }
+}
+
 TEST_F(SurfaceContract, FailedLoadsAndSavesLeaveEverything) {
   Put(u"a^b|");
   s.SelBold(true);

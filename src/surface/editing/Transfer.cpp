@@ -19,11 +19,19 @@ namespace {
 
 constexpr std::uint16_t kFrench = 1036;
 constexpr std::u16string_view kDefaultFont = u"Arial";
+constexpr char16_t kPlaceholder = u'\uFFFC';  // of what is kept, which plain text cannot hold
 
 CharFormat BaseFormat(FormatTables& formats) {
   CharFormat format;
   format.font = formats.fonts.Intern({.name = std::u16string(kDefaultFont)});
   return format;
+}
+
+std::u16string TextOf(const Fragment& fragment) {
+  std::u16string text;
+  fragment.leaves.ForEachRun(0, fragment.Length(),
+                             [&](Position, TextView run, CharId) { run.AppendTo(text); });
+  return text;
 }
 
 /// The head of a note that has no source.
@@ -170,6 +178,14 @@ void Transfer::Cut() {
 void Transfer::Paste() {
   const Fragment fragment = FragmentOf(clipboard_.Get());
   if (fragment.Length() > 0) text_.ReplaceSelection(UndoKind::Paste, fragment);
+}
+
+// Some programs offer no text beside their RTF or HTML.
+void Transfer::PasteText() {
+  const ClipboardContent content = clipboard_.Get();
+  std::u16string text = content.text ? *content.text : TextOf(FragmentOf(content));
+  std::erase(text, kPlaceholder);
+  if (!text.empty()) text_.ReplaceSelection(UndoKind::Paste, text_.Plain(text));
 }
 
 void Transfer::Drop(const ClipboardContent& content, Position target) {

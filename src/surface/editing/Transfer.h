@@ -37,6 +37,8 @@ class Transfer {
   void Copy();
   void Cut();
   void Paste();
+  /// Pastes what the clipboard holds in the insertion format.
+  void PasteText();
   void Drop(const ClipboardContent& content, Position target);
 
   /// The font that the content names as its default.

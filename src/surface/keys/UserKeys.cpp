@@ -41,6 +41,7 @@ const UserKeys::Command UserKeys::kCommands[] = {
     {Ctrl(u'x'), &UserKeys::Cut},
     {Shift(KeyName::Delete), &UserKeys::Cut},
     {Ctrl(u'v'), &UserKeys::Paste},
+    {CtrlShift(u'v'), &UserKeys::PasteText},
     {Shift(KeyName::Insert), &UserKeys::Paste},
     {Ctrl(u'z'), &UserKeys::Undo},
     {Ctrl(u'y'), &UserKeys::Redo},

@@ -43,6 +43,7 @@ class UserKeys {
   void Copy() { transfer_.Copy(); }
   void Cut() { transfer_.Cut(); }
   void Paste() { transfer_.Paste(); }
+  void PasteText() { transfer_.PasteText(); }
   void Undo() { core_.Undo(); }
   void Redo() { core_.Redo(); }
   void ToggleBold();
