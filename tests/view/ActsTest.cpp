@@ -7,6 +7,7 @@
 #include "view/Window.h"
 #include "view/acts/AccessibleText.h"
 #include "view/acts/TextDrag.h"
+#include "view/acts/TextTips.h"
 #include "view/acts/TextWalk.h"
 #include "view/acts/ViewDrop.h"
 #include "view/acts/ViewInput.h"
@@ -65,9 +66,9 @@ TEST(Mouse, DragsWhatIsSelectedAndScrollsOutside) {
   User user;
   user.Type(u"^un| deux");
   user.Do("N 1 0");
-  EXPECT_TRUE(user.arrow);
+  EXPECT_EQ(user.shape, PointerShape::Arrow);
   user.Do("N 5 0");
-  EXPECT_FALSE(user.arrow);
+  EXPECT_EQ(user.shape, PointerShape::Text);
   user.Do("D 1 0 M 5 0 M 6 0 U 6 0");
   EXPECT_EQ(user.drags, 1);
   EXPECT_EQ(user.Shown(), u"^un| deux");
@@ -82,6 +83,42 @@ TEST(Mouse, DragsWhatIsSelectedAndScrollsOutside) {
   EXPECT_TRUE(user.timer);
   user.Do("U 0 0 O 0 0");
   EXPECT_FALSE(user.timer);
+}
+
+TEST(Links, OpenWithCtrlAndTellWhereTheyLead) {
+  const std::string open = "\r\nCtrl+clic pour ouvrir";
+  for (const auto& [target, tip] : {std::pair("https://a.fr/b?c=1", "https://a.fr/b?c=1" + open),
+                                    {"MAILTO:a@b.fr", "MAILTO:a@b.fr" + open},
+                                    {"file:///n.txt", "file:///n.txt" + open},
+                                    {"javascript:a", "javascript:a"},
+                                    {"C:\\\\\\\\n.exe", "C:\\n.exe"},
+                                    {"www.a.fr", "www.a.fr"}}) {
+    const bool opens = tip.ends_with(open);
+    const std::string address = opens ? tip.substr(0, tip.size() - open.size()) : tip;
+    const std::u16string opened = opens ? FromUtf8(address) : u"";
+    User user;
+    user.surface.TextRTF(u"{\\rtf1 ab{\\field{\\*\\fldinst{HYPERLINK \"" + FromUtf8(target) +
+                         u"\"}}{\\fldrslt cd}}ef{\\footnote\\chftn\\'e9t\\'e9}}");
+    user.Do("N 3 0");
+    EXPECT_EQ(user.shape, PointerShape::Text);
+    user.mouse.Control(true);
+    EXPECT_EQ(user.shape, opens ? PointerShape::Hand : PointerShape::Text) << target;
+    user.Do("N 4 0");
+    EXPECT_EQ(user.shape, PointerShape::Text);
+    user.Do("D 4 0 U 4 0 D 3 0 M 5 0 U 5 0");
+    EXPECT_EQ(user.opened, u"");
+    user.Do("D 3 0 U 3 0");
+    EXPECT_EQ(user.opened, opened);
+    EXPECT_EQ(ToUtf8(TipAt(user.pane, User::At(2, 0))), tip);
+    EXPECT_EQ(TipAt(user.pane, User::At(4, 0)) + TipAt(user.pane, User::At(9, 0)), u"");
+    EXPECT_EQ(TipAt(user.pane, User::At(6, 0)), u"été");
+    for (const auto& [caret, used] : {std::pair(1, false), {2, true}, {4, true}, {5, false}}) {
+      user.surface.UserSelect(caret, caret);
+      user.opened.clear();
+      EXPECT_EQ(user.keys.Press(ParseKey(u"Ctrl+Return"), {}), used);
+      EXPECT_EQ(ToUtf8(user.opened), used ? address : "");
+    }
+  }
 }
 
 TEST(Keys, AreTheViewsOrTheWindows) {

@@ -54,13 +54,15 @@ struct Window : ViewHost {
   void Changed(const DocumentChange&) override { ++changes; }
   void SelectionMoved() override { ++moves; }
   void DropComposition() override { dropComposition(); }
-  void ShowArrow(bool on) override { arrow = on; }
+  void ShowPointer(PointerShape shown) override { shape = shown; }
   void ScrollTimer(bool on) override { timer = on; }
   void Drag() override { ++drags; }
+  void OpenLink(std::u16string_view address) override { opened = address; }
   void OpenMenu(PixelPoint at) override { menu = at; }
 
   bool locked = false;
-  bool arrow = false;
+  PointerShape shape = PointerShape::Text;
+  std::u16string opened;
   bool timer = false;
   int changes = 0;
   int moves = 0;

@@ -35,9 +35,10 @@ class HeadlessView final : private ViewHost {
   void Changed(const DocumentChange&) override {}
   void SelectionMoved() override {}
   void DropComposition() override {}
-  void ShowArrow(bool) override {}
+  void ShowPointer(PointerShape) override {}
   void ScrollTimer(bool) override {}
   void Drag() override {}
+  void OpenLink(std::u16string_view address) override { box_.UserOpenLink(address); }
   void OpenMenu(PixelPoint at) override;
 
   RichTextBox& box_;

@@ -1,8 +1,10 @@
 #include "forms/controls/RichTextBox.h"
 
+#include "document/Links.h"
 #include "forms/Form.h"
 #include "forms/controls/SurfaceMembers.h"
 #include "lumenote/Platform.h"
+#include "platform/Processes.h"
 
 namespace lumenote {
 
@@ -16,6 +18,10 @@ RichTextBox::RichTextBox(Container& container, std::string name, Rect bounds)
 }
 
 RichTextBox::~RichTextBox() { Withdraw(); }
+
+void RichTextBox::UserOpenLink(std::u16string_view address) {
+  if (MayOpen(address)) Owner().Machine().Programs().Open(address);
+}
 
 void RichTextBox::Describe(MemberTable& members) {
   Control::Describe(members);

@@ -22,6 +22,9 @@ class RichTextBox : public Control {
   bool TakesFocus() const override { return true; }
   void CompleteComposition() override { surface_->CompleteComposition(); }
 
+  /// The user follows a link; targets that are none to open are ignored.
+  void UserOpenLink(std::u16string_view address);
+
   /// The content has changed, whatever changed it.
   std::function<void()> Change;
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "document/kept/LinkSource.h"
-#include "document/kept/NoteSource.h"
 #include "html/words/ListNumbers.h"
 #include "html/words/Pixels.h"
 #include "html/write/HtmlText.h"
@@ -218,16 +217,12 @@ void HtmlBody::WearNothing() {
 void HtmlBody::Object(const CharFormat& format) {
   const Kept& kept = tables_.kept[format.kept];
   if (kept.kind != Kept::Kind::Embedded) return;
-  const KeptItem& item = tables_.items[kept.self];
-  if (item.kind == KeptItem::Kind::Note) return Footnote(item, format);
-  if (const auto picture = PictureOf(item.source)) Picture(*picture);
+  if (const auto note = FootnoteOf(document_, format)) return Footnote(*note, format);
+  if (const auto picture = PictureOf(tables_.items[kept.self].source)) Picture(*picture);
 }
 
 /// A raised number here, unless the mark is in the text, and the note behind all paragraphs.
-void HtmlBody::Footnote(const KeptItem& item, const CharFormat& format) {
-  const SourcePages pages(tables_.heads[document_.Mark().head]);
-  const int page = pages.At(format, tables_.fonts[format.font].charset);
-  const FootnoteText note = TextOfFootnote(item.source, pages, page);
+void HtmlBody::Footnote(const FootnoteText& note, const CharFormat& format) {
   std::string mark;
   if (note.numbered) mark = std::to_string(++footnotes_);
   const std::string raised = note.numbered ? "<sup>" + mark + "</sup>" : "";

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "document/Document.h"
+#include "document/Footnotes.h"
 #include "document/pictures/PictureSource.h"
 #include "html/words/LinkRepeats.h"
 #include "html/write/HtmlFormats.h"
@@ -46,7 +47,7 @@ class HtmlBody {
   void Wear(CharId format);
   void WearNothing();
   void Object(const CharFormat& format);
-  void Footnote(const KeptItem& item, const CharFormat& format);
+  void Footnote(const FootnoteText& note, const CharFormat& format);
   void Picture(const PictureData& picture);
   FieldId FieldOf(CharId format) const;
   FieldId LinkIn(FieldId field);

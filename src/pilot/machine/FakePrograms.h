@@ -18,6 +18,8 @@ class FakePrograms final : public Processes {
   explicit FakePrograms(Files& files) : files_(files) {}
 
   ProcessId Start(std::u16string_view commandLine) override;
+  /// Counts as started.
+  void Open(std::u16string_view address) override { started_.emplace_back(address); }
   bool IsRunning(ProcessId process) override;
   std::optional<SystemError> Terminate(std::u16string_view path) override;
   std::optional<SystemError> StillRunning(std::u16string_view path) override;

@@ -1,5 +1,6 @@
 #include "view/acts/ViewKeys.h"
 
+#include "document/Links.h"
 #include "surface/keys/UserKeys.h"
 #include "view/pane/NoteView.h"
 
@@ -8,6 +9,7 @@ namespace lumenote {
 namespace {
 
 constexpr KeyStroke kMenuKey{.name = KeyName::Function, .character = 10, .shift = true};
+constexpr KeyStroke kLinkKey{.name = KeyName::Return, .control = true};
 
 // The key of 0 types "à" on French keyboards.
 bool IsZoom(const KeyStroke& key) {
@@ -19,6 +21,7 @@ bool IsZoom(const KeyStroke& key) {
 
 bool ViewKeys::Press(const std::optional<KeyStroke>& key, std::u16string_view text) {
   if (key && Zoom(*key)) return true;
+  if (key == kLinkKey) return OpenLink();
   if (key != kMenuKey) return Edit(key, text);
   OpenMenu();
   return true;
@@ -55,6 +58,16 @@ bool ViewKeys::Zoom(const KeyStroke& key) {
       view_.Zoom(1);
       return true;
   }
+}
+
+/// The link that the caret is in or at the end of.
+bool ViewKeys::OpenLink() {
+  const DocumentSurface& surface = view_.Surface();
+  const Position caret = surface.Caret();
+  std::u16string address = LinkAt(surface.Content(), caret);
+  if (address.empty()) address = LinkAt(surface.Content(), caret - 1);
+  if (!address.empty()) view_.Host().OpenLink(address);
+  return !address.empty();
 }
 
 void ViewKeys::OpenMenu() {

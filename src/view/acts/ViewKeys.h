@@ -26,6 +26,7 @@ class ViewKeys {
  private:
   bool Edit(const std::optional<KeyStroke>& key, std::u16string_view text);
   bool Zoom(const KeyStroke& key);
+  bool OpenLink();
 
   NoteView& view_;
 };

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "document/Links.h"
 #include "surface/keys/Words.h"
 #include "view/acts/TextUnits.h"
 
@@ -14,6 +15,24 @@ bool ViewMouse::InSelection(PixelPoint point) const {
   if (selection.Length() == 0) return false;
   const Position character = view_.Pane().CharacterAt(point);
   return character >= selection.start && character < selection.end;
+}
+
+/// The target to open by a click there; empty without one, or without Ctrl.
+std::u16string ViewMouse::LinkUnder(PixelPoint point) const {
+  if (!control_) return {};
+  std::u16string address = LinkAt(view_.Surface().Content(), view_.Pane().CharacterAt(point));
+  return MayOpen(address) ? address : std::u16string();
+}
+
+void ViewMouse::ShowPointer() const {
+  const bool opens = !LinkUnder(last_).empty();
+  view_.Host().ShowPointer(opens                ? PointerShape::Hand
+                           : InSelection(last_) ? PointerShape::Arrow
+                                                : PointerShape::Text);
+}
+
+void ViewMouse::Control(bool held) {
+  if (std::exchange(control_, held) != held && state_ == State::Idle) ShowPointer();
 }
 
 Selection ViewMouse::Around(Position position) const {
@@ -46,6 +65,8 @@ void ViewMouse::Down(const Press& press) {
   doubleClick_.reset();
   if (third)
     Begin(Unit::Paragraph, position, false);
+  else if (!LinkUnder(press.at).empty())
+    state_ = State::MayOpen;
   else if (!press.extend && InSelection(press.at))
     state_ = State::MayDrag;
   else
@@ -71,7 +92,7 @@ bool ViewMouse::IsThird(const Press& press) const {
 
 void ViewMouse::Move(PixelPoint at, bool held) {
   last_ = at;
-  if (!held) return view_.Host().ShowArrow(InSelection(at));
+  if (!held) return ShowPointer();
   if (state_ == State::MayDrag && IsFar(last_, pressed_)) {
     state_ = State::Idle;
     return view_.Host().Drag();
@@ -92,9 +113,11 @@ void ViewMouse::ScrollOn() {
 }
 
 void ViewMouse::Up(PixelPoint at) {
-  const bool clicked = state_ == State::MayDrag;
+  const State pressed = state_;
   Cancel();
-  if (clicked) Begin(Unit::Character, view_.Pane().PositionAt(at), false);
+  if (pressed == State::MayOpen && !IsFar(at, pressed_))
+    view_.Host().OpenLink(LinkUnder(pressed_));
+  if (pressed == State::MayDrag) Begin(Unit::Character, view_.Pane().PositionAt(at), false);
   state_ = State::Idle;
 }
 

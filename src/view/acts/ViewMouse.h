@@ -2,14 +2,15 @@
 #pragma once
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
 
 /// A click sets the caret, a double click selects a word, a triple click a paragraph; dragging
-/// extends the selection by that unit and scrolls when the mouse leaves the view. Points are in
-/// pane pixels. Each member may detach the view.
+/// extends the selection by that unit and scrolls when the mouse leaves the view; a click with Ctrl
+/// opens a link. Points are in pane pixels. Each member may detach the view.
 class ViewMouse {
  public:
   explicit ViewMouse(NoteView& view) : view_(view) {}
@@ -26,6 +27,8 @@ class ViewMouse {
   void DoubleClick(const Press& press);
   /// The mouse moved; `held` tells whether the left button is down.
   void Move(PixelPoint at, bool held);
+  /// Whether Ctrl is held; call before other members, and when the key goes down or up.
+  void Control(bool held);
   /// The left button was released.
   void Up(PixelPoint at);
   /// Another button was released, or the window took the mouse away.
@@ -35,12 +38,14 @@ class ViewMouse {
 
  private:
   enum class Unit { Character, Word, Paragraph };
-  enum class State { Idle, Selecting, MayDrag };
+  enum class State { Idle, Selecting, MayDrag, MayOpen };
 
   void Begin(Unit unit, Position position, bool extend);
   void ExtendTo(Position position);
   Selection Around(Position position) const;
   bool InSelection(PixelPoint point) const;
+  std::u16string LinkUnder(PixelPoint point) const;
+  void ShowPointer() const;
   bool IsThird(const Press& press) const;
   bool IsFar(PixelPoint one, PixelPoint other) const;
 
@@ -52,6 +57,7 @@ class ViewMouse {
   PixelPoint last_;
   std::optional<Press> doubleClick_;
   bool scrolling_ = false;
+  bool control_ = false;
 };
 
 }  // namespace lumenote

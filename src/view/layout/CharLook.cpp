@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "document/Links.h"
 #include "document/pictures/PictureFrame.h"
 #include "view/layout/TextLayouter.h"
 
@@ -19,6 +20,7 @@ constexpr double kPlaceholderSize = 1.6;
 constexpr double kLeastContrast = 2;
 constexpr Colour kBlack = 0;
 constexpr Colour kWhite = 0xFFFFFF;
+constexpr Colour kLinkColour = 0xC16305;  // a blue
 
 struct Channels {
   int red, green, blue;
@@ -87,6 +89,13 @@ int StrikesOf(unsigned effects) {
   return effects & (kStrike | kDeleted) ? 1 : 0;
 }
 
+/// Underline and colour of the text's own stay.
+void ShowLink(CharLook& look, Colour ground) {
+  if (look.underline == Underline::None) look.underline = Underline::Single;
+  const bool plain = look.ink == kAutoColour && look.ground == kAutoColour;
+  if (plain && !look.object) look.ink = Readable(kLinkColour, ground);
+}
+
 }  // namespace
 
 CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground) {
@@ -100,6 +109,7 @@ CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoo
   look.smallCapitals = (format.effects & (kAllCaps | kSmallCaps)) == kSmallCaps;
   SetSize(look, format, zoom);
   SetColours(look, format, ground);
+  if (!LinkOf(tables, format).empty()) ShowLink(look, ground);
   return look;
 }
 

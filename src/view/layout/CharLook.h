@@ -1,13 +1,14 @@
 // How a character format looks, as far as no toolkit is needed to say so.
 #pragma once
 #include "document/FormatTables.h"
+#include "view/layout/SymbolFonts.h"
 
 namespace lumenote {
 
 /// Size of capitals shown for small letters, relative to the font's.
 inline constexpr double kSmallCapitalSize = 0.8;
 
-/// A character format at one zoom. The backend adds the extent of its font.
+/// A character format at one zoom. The backend adds what depends on its fonts: extent and signs.
 struct CharLook {
   double points = 0;  // of the font, not zoomed
   double raise = 0;   // pixels, of the font's baseline above the line's
@@ -18,6 +19,7 @@ struct CharLook {
   bool hidden = false;
   bool capitals = false;       // shown instead of small letters
   bool smallCapitals = false;  // and these are smaller
+  SymbolFont signs = SymbolFont::None;  // to show, if the font is not installed
   bool object = false;         // an invisible placeholder for what has no box, painted separately
   Colour ink = kAutoColour;
   Colour ground = kAutoColour;

@@ -21,6 +21,7 @@ void ShownText::Append(std::u16string run, CharId format, const CharLook& look) 
   if (look.hidden) {
     text.append(run.size(), kShownHidden);
   } else {
+    ShowSigns(run, look.signs);
     if (look.capitals) run = Upper(run);
     std::ranges::replace(run, u'\v', kShownLineBreak);
     std::ranges::replace(run, u'\uFFFC', kShownObject);

@@ -1,6 +1,7 @@
 // What a view requires of the window that shows it; realised by each backend, besides a layouter.
 #pragma once
 #include <functional>
+#include <string_view>
 
 #include "view/pane/ViewDamage.h"
 
@@ -10,6 +11,8 @@ struct PointerManners {
   double dragDistance = 10;      // pixels a pressed mouse moves before a drag begins
   double doubleClickTime = 400;  // milliseconds
 };
+
+enum class PointerShape { Text, Arrow, Hand };
 
 /// Points are pixels from the pane's upper left corner. The view calls these during its events;
 /// only `Act` and `OpenMenu` may lead to further user input.
@@ -40,13 +43,15 @@ class ViewHost {
   /// The view types what is being composed: the input method forgets it.
   virtual void DropComposition() = 0;
 
-  /// The pointer over the text: an arrow over draggable text, else the text cursor.
-  virtual void ShowArrow(bool arrow) = 0;
+  /// The pointer over the text: an arrow over draggable text, a hand over a link while Ctrl is held.
+  virtual void ShowPointer(PointerShape shape) = 0;
   /// While on, `ViewMouse::ScrollOn` must be called about every 30 milliseconds.
   virtual void ScrollTimer(bool on) = 0;
   /// Drags the selection, a `TextDrag`, until the button is released; the view may be destroyed
   /// meanwhile.
   virtual void Drag() = 0;
+  /// Opens the target of a link, unless it is none to open.
+  virtual void OpenLink(std::u16string_view address) = 0;
   /// Acts like releasing the right button there.
   virtual void OpenMenu(PixelPoint at) = 0;
 };

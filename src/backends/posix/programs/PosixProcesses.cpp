@@ -60,6 +60,15 @@ ProcessId PosixProcesses::Start(std::u16string_view commandLine) {
   return last_;
 }
 
+void PosixProcesses::Open(std::u16string_view address) {
+  Reap();
+  try {
+    const pid_t leader = SpawnFromPath({"xdg-open", ToUtf8(address)});
+    started_.emplace_back(++last_, leader, std::string(), std::string());
+  } catch (const RuntimeError&) {
+  }
+}
+
 bool PosixProcesses::IsRunning(ProcessId process) {
   Reap();
   return std::any_of(started_.begin(), started_.end(),

@@ -27,6 +27,8 @@ class PosixProcesses : public Processes {
   /// Drive-letter paths among the arguments become native, and a word processor's template switch
   /// is dropped: it means nothing to programs of this system.
   ProcessId Start(std::u16string_view commandLine) override;
+  /// By the desktop's `xdg-open`.
+  void Open(std::u16string_view address) override;
   bool IsRunning(ProcessId process) override;
   /// Closes the windows of a program that has some, so that it can ask its user first; sends others
   /// a signal that they can handle.

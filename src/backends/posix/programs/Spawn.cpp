@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <unistd.h>
+#include <utility>
 
 #include "backends/native/files/Errors.h"
 
@@ -40,19 +41,27 @@ class SpawnSettings {
   posix_spawn_file_actions_t actions_{};
 };
 
-}  // namespace
+using SpawnCall = decltype(posix_spawn);
 
-pid_t Spawn(std::vector<std::string> words) {
+pid_t SpawnBy(SpawnCall& call, std::vector<std::string> words) {
   std::vector<char*> arguments;
   arguments.reserve(words.size() + 1);
   for (std::string& word : words) arguments.push_back(word.data());
   arguments.push_back(nullptr);
   const SpawnSettings settings;
   pid_t process = 0;
-  const int error = posix_spawn(&process, words[0].c_str(), settings.Actions(),
-                                settings.Attributes(), arguments.data(), environ);
+  const int error = call(&process, words[0].c_str(), settings.Actions(), settings.Attributes(),
+                         arguments.data(), environ);
   if (error != 0) throw AccessError(error, words[0]);
   return process;
+}
+
+}  // namespace
+
+pid_t Spawn(std::vector<std::string> words) { return SpawnBy(posix_spawn, std::move(words)); }
+
+pid_t SpawnFromPath(std::vector<std::string> words) {
+  return SpawnBy(posix_spawnp, std::move(words));
 }
 
 }  // namespace lumenote

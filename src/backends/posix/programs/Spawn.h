@@ -10,5 +10,7 @@ namespace lumenote {
 /// group of its own, with default signal handling and empty standard input. Raises as `AccessError`
 /// says.
 pid_t Spawn(std::vector<std::string> words);
+/// The same for a program that is found by its name, as shells do.
+pid_t SpawnFromPath(std::vector<std::string> words);
 
 }  // namespace lumenote

@@ -11,6 +11,7 @@ RichTextView* MakeView(RichTextBox& box, QWidget& parent, LayouterSource& layout
   callbacks.act = [&box](const std::function<void()>& act) { box.Owner().Raise(act); };
   callbacks.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
   callbacks.locked = [&box] { return box.Locked(); };
+  callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
   return new RichTextView(surface, layouters.LayouterOf(box), std::move(callbacks), &parent);
 }

@@ -70,7 +70,7 @@ QString StandInFor(const QString& name, const FontFace& face) {
 }
 
 QString FamilyFor(const QString& name, const FontFace& face) {
-  if (!name.isEmpty() && QFontDatabase::hasFamily(name)) return name;
+  if (IsInstalled(face)) return name;
   const QString standIn = StandInFor(name, face);
   return standIn.isEmpty() ? name : standIn;
 }
@@ -78,6 +78,10 @@ QString FamilyFor(const QString& name, const FontFace& face) {
 constexpr int kControlPixels = 11;  // 8.25 points
 
 }  // namespace
+
+bool IsInstalled(const FontFace& face) {
+  return !face.name.empty() && QFontDatabase::hasFamily(ToQString(face.name));
+}
 
 QString MachineFamily(const FontFace& face) {
   // Looking up a family costs more than laying out a line.

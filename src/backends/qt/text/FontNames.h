@@ -11,6 +11,9 @@ namespace lumenote {
 /// the best match for the kind of font that the note states.
 QString MachineFamily(const FontFace& face);
 
+/// Whether the named family is.
+bool IsInstalled(const FontFace& face);
+
 /// The small font of labels, menus and panels.
 QFont ControlFont();
 

@@ -56,6 +56,7 @@ class LineMaker {
  private:
   QTextOption Option(double lineX) const;
   bool AddLines(const PieceSpan& span);
+  double Hang(const QTextLine& line, const PieceLine& box) const;
   void Place(QTextLine line, PieceLine& box);
 
   QtPiece& piece_;
@@ -149,13 +150,30 @@ bool LineMaker::Build(const PieceSpan& span) {
   return true;
 }
 
+/// How far the line moves so that the blanks at its end hang over the edge, as Qt has them do where
+/// it wraps a line.
+double LineMaker::Hang(const QTextLine& line, const PieceLine& box) const {
+  const Alignment alignment = stack_.Format().alignment;
+  if (alignment != Alignment::Right && alignment != Alignment::Centre) return 0;
+  const QString text = piece_.layout.text();
+  int end = box.end;
+  if (end > box.start && text[end - 1] == QChar(kShownLineBreak))
+    --end;
+  else if (end < text.size())
+    return 0;
+  int first = end;
+  while (first > box.start && text[first - 1] == u' ') --first;
+  const double blanks = line.cursorToX(end) - line.cursorToX(first);
+  return alignment == Alignment::Centre ? blanks / 2 : blanks;
+}
+
 void LineMaker::Place(QTextLine line, PieceLine& box) {
   double ascent = line.ascent();
   double descent = line.descent();
   Extend(piece_.boxes, box, ascent);
   Extend(piece_.decorations, box, ascent, descent);
   stack_.Place(box, ascent, descent);
-  line.setPosition({line.position().x(), box.baseline - line.ascent()});
+  line.setPosition({line.position().x() + Hang(line, box), box.baseline - line.ascent()});
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleHints>
+#include <QTextDocument>
+#include <QToolTip>
 #include <new>
 #include <utility>
 
@@ -18,6 +20,7 @@
 #include "backends/qt/view/InputMethods.h"
 #include "backends/qt/view/SelectionMime.h"
 #include "backends/qt/view/ViewAccessible.h"
+#include "view/acts/TextTips.h"
 
 namespace lumenote {
 
@@ -102,8 +105,13 @@ void RichTextView::DropComposition() {
   if (hasFocus()) QGuiApplication::inputMethod()->reset();
 }
 
-void RichTextView::ShowArrow(bool arrow) {
-  viewport()->setCursor(arrow ? Qt::ArrowCursor : Qt::IBeamCursor);
+void RichTextView::ShowPointer(PointerShape shape) {
+  constexpr Qt::CursorShape kCursors[] = {Qt::IBeamCursor, Qt::ArrowCursor, Qt::PointingHandCursor};
+  viewport()->setCursor(kCursors[static_cast<int>(shape)]);
+}
+
+void RichTextView::OpenLink(std::u16string_view address) {
+  if (callbacks_.link) callbacks_.link(address);
 }
 
 void RichTextView::ScrollTimer(bool on) {
@@ -194,10 +202,16 @@ void RichTextView::wheelEvent(QWheelEvent* event) {
 
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Menu) return keys_.OpenMenu();
+  if (event->key() == Qt::Key_Control) mouse_.Control(true);
   const bool used = keys_.Press(StrokeOf(*event), FromQString(TypedText(*event)));
   event->setAccepted(used);
   const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
   if (!used && tab) QAbstractScrollArea::focusNextPrevChild(event->key() == Qt::Key_Tab);
+}
+
+void RichTextView::keyReleaseEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Control) mouse_.Control(false);
+  QAbstractScrollArea::keyReleaseEvent(event);
 }
 
 void RichTextView::inputMethodEvent(QInputMethodEvent* event) {
@@ -243,7 +257,10 @@ bool RichTextView::event(QEvent* event) {
 
 bool RichTextView::viewportEvent(QEvent* event) {
   try {
-    return IsAttached() && QAbstractScrollArea::viewportEvent(event);
+    if (!IsAttached()) return false;
+    if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
+    ShowTip(static_cast<const QHelpEvent&>(*event));
+    return true;
   } catch (const std::bad_alloc&) {
     text_.Forget();
     return true;
@@ -280,6 +297,7 @@ ViewMouse::Press RichTextView::PressOf(const QMouseEvent& event) const {
 }
 
 void RichTextView::mousePressEvent(QMouseEvent* event) {
+  mouse_.Control(event->modifiers() & Qt::ControlModifier);
   if (event->button() == Qt::LeftButton) return mouse_.Down(PressOf(*event));
   if (text_.Complete() && event->button() == Qt::MiddleButton) PasteSelection(event->position());
 }
@@ -290,6 +308,7 @@ void RichTextView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void RichTextView::mouseMoveEvent(QMouseEvent* event) {
+  mouse_.Control(event->modifiers() & Qt::ControlModifier);
   mouse_.Move(ToPoint(event->position()), event->buttons() & Qt::LeftButton);
 }
 
@@ -299,6 +318,14 @@ void RichTextView::mouseReleaseEvent(QMouseEvent* event) {
   else
     mouse_.Cancel();
   if (IsAttached()) ReleaseMouse(ButtonOf(event->button()), event->position());
+}
+
+// Long texts have lines only where the tip is rich text.
+void RichTextView::ShowTip(const QHelpEvent& event) {
+  const QString tip = ToQString(TipAt(Pane(), ToPoint(event.pos())));
+  const QString text = tip.isEmpty() ? tip : Qt::convertFromPlainText(tip);
+  const QRect near(event.pos() - QPoint(2, 2), QSize(4, 4));
+  QToolTip::showText(event.globalPos(), text, viewport(), near);
 }
 
 // Pastes the desktop's selection at the mouse position.

@@ -29,6 +29,8 @@ struct ViewCallbacks {
   std::function<void(const MouseEvent&)> mouseUp{};
   /// Whether user edits are blocked.
   std::function<bool()> locked{};
+  /// A link was chosen.
+  std::function<void(std::u16string_view)> link{};
 };
 
 /// Shows a `NoteView` with Qt: translates events and paints. The surface may be destroyed first,
@@ -61,6 +63,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   void hideEvent(QHideEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
   void focusInEvent(QFocusEvent* event) override;
@@ -89,9 +92,10 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   void Changed(const DocumentChange& change) override;
   void SelectionMoved() override;
   void DropComposition() override;
-  void ShowArrow(bool arrow) override;
+  void ShowPointer(PointerShape shape) override;
   void ScrollTimer(bool on) override;
   void Drag() override { drag_.Run(); }
+  void OpenLink(std::u16string_view address) override;
   void OpenMenu(PixelPoint at) override { ReleaseMouse(MouseButton::Right, {at.x, at.y}); }
 
   void ReleaseMouse(MouseButton button, QPointF at);
@@ -100,6 +104,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   void ShowGround();
   void ChooseFrame();
   PaintState State();
+  void ShowTip(const QHelpEvent& event);
   ViewMouse::Press PressOf(const QMouseEvent& event) const;
 
   QtLayouter& layouter_;

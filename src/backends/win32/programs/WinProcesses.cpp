@@ -49,6 +49,10 @@ ProcessId WinProcesses::Start(std::u16string_view commandLine) {
   return last_;
 }
 
+void WinProcesses::Open(std::u16string_view address) {
+  ShellExecuteW(nullptr, L"open", ToWide(address).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
 bool WinProcesses::IsRunning(ProcessId process) {
   Update();
   return std::any_of(started_.begin(), started_.end(),

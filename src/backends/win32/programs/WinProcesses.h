@@ -19,6 +19,7 @@ class WinProcesses final : public Processes {
       : drives_(std::move(drives)), windows_(windows) {}
 
   ProcessId Start(std::u16string_view commandLine) override;
+  void Open(std::u16string_view address) override;
   bool IsRunning(ProcessId process) override;
   /// Closes the windows of a program that has some, so that it can ask its user first; ends others
   /// at once.

@@ -33,6 +33,11 @@ bool Types(const KeyStroke& key) {
   return text && key.control == key.alt;
 }
 
+HCURSOR CursorOf(PointerShape shape) {
+  const LPCWSTR names[] = {IDC_IBEAM, IDC_ARROW, IDC_HAND};
+  return LoadCursorW(nullptr, names[static_cast<int>(shape)]);
+}
+
 RECT RectOf(const PixelRect& rect) {
   return {std::lround(rect.left), std::lround(rect.top), std::lround(rect.right),
           std::lround(rect.bottom)};
@@ -117,6 +122,11 @@ void SurfaceWindow::SelectionMoved() {
   if (focused_) composing_.Place();
 }
 
+// The system asks for the cursor only when the mouse moves.
+void SurfaceWindow::ShowPointer(PointerShape shape) {
+  if (std::exchange(shape_, shape) != shape && GetCapture() == nullptr) SetCursor(CursorOf(shape));
+}
+
 void SurfaceWindow::ScrollTimer(bool on) {
   if (on)
     SetTimer(Handle(), kScrolling, kScrollInterval, nullptr);
@@ -199,8 +209,8 @@ bool SurfaceWindow::HandleWindow(const Message& message) {
       bars_.Across(Handle(), LOWORD(message.w));
       return true;
     case WM_SETCURSOR:
-      if (!arrow_ || LOWORD(message.l) != HTCLIENT) return false;
-      SetCursor(LoadCursorW(nullptr, IDC_ARROW));
+      if (LOWORD(message.l) != HTCLIENT) return false;
+      SetCursor(CursorOf(shape_));
       return true;
   }
   return false;
@@ -259,7 +269,11 @@ bool SurfaceWindow::HandleKeys(const Message& message) {
   switch (message.id) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
+      if (message.w == VK_CONTROL) mouse_.Control(true);
       return PressKey(message);
+    case WM_KEYUP:
+      if (message.w == VK_CONTROL) mouse_.Control(false);
+      return false;
     case WM_CHAR:
       TypeUnit(static_cast<char16_t>(message.w));
       return true;
@@ -320,6 +334,7 @@ void SurfaceWindow::TypeUnit(char16_t unit) {
 
 bool SurfaceWindow::HandleMouse(const Message& message) {
   if (message.id == WM_RBUTTONDOWN || message.id == WM_MBUTTONDOWN) text_.Complete();
+  if (message.id <= WM_LBUTTONDOWN) mouse_.Control(message.w & MK_CONTROL);
   switch (message.id) {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:

@@ -30,6 +30,8 @@ struct ViewCallbacks {
   std::function<void(const MouseEvent&)> mouseUp{};
   /// Whether user edits are blocked.
   std::function<bool()> locked{};
+  /// A link was chosen.
+  std::function<void(std::u16string_view)> link{};
   /// What users call the view.
   ViewName name{};
   /// A key that the view has no use for; true if the form has.
@@ -68,9 +70,12 @@ class SurfaceWindow final : public Window, private ViewHost {
   void Changed(const DocumentChange&) override { assistance_.TellChange(); }
   void SelectionMoved() override;
   void DropComposition() override { composing_.Drop(); }
-  void ShowArrow(bool arrow) override { arrow_ = arrow; }
+  void ShowPointer(PointerShape shape) override;
   void ScrollTimer(bool on) override;
   void Drag() override { drag_.Run(text_); }
+  void OpenLink(std::u16string_view address) override {
+    if (callbacks_.link) callbacks_.link(address);
+  }
   void OpenMenu(PixelPoint at) override {
     Release(MouseButton::Right, MAKELPARAM(std::lround(at.x), std::lround(at.y)));
   }
@@ -114,7 +119,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   ComOwner<DropTarget> target_{new DropTarget(Handle(), text_, drag_)};
   char16_t highSurrogate_ = 0;  // typed, its other half still to come
   bool focused_ = false;
-  bool arrow_ = false;
+  PointerShape shape_ = PointerShape::Text;
   bool framed_ = true;
 };
 

@@ -20,6 +20,7 @@ std::shared_ptr<SurfaceWindow> MakeWindow(RichTextBox& box, HWND parent, PeerHos
   callbacks.act = [&box](const std::function<void()>& act) { box.Owner().Raise(act); };
   callbacks.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
   callbacks.locked = [&box] { return box.Locked(); };
+  callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
   callbacks.name = [&box] { return NameOf(box); };
   callbacks.key = [&box, &host](const KeyStroke& key) { return host.UnusedKey(box, key); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());

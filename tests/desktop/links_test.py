@@ -1,0 +1,56 @@
+#!/usr/bin/env python3
+"""Links are opened with the user's own mouse and keys; texts are pasted without their formats."""
+import os
+
+from rig import Notes, main
+
+WORD = (17, 38)  # inside the first word of a note
+LINK = r'{\rtf1{\field{\*\fldinst HYPERLINK "%s"}{\fldrslt un lien}}\b  gras\par}'
+
+
+class Links(Notes):
+    def setUp(self):
+        super().setUp()
+        opener = self.home / "bin" / "xdg-open"
+        opener.parent.mkdir()
+        opener.write_text(f'#!/bin/sh\necho "$1" >> "{self.home}/opened"\n')
+        opener.chmod(0o755)
+        self.env["PATH"] = f'{opener.parent}:{os.environ["PATH"]}'
+        self.opened = self.home / "opened"
+
+    def follow(self, *acts):
+        self.run_x("xdotool", "keydown", "ctrl")
+        self.mouse(self.note, *acts)
+        self.run_x("xdotool", "keyup", "ctrl")
+
+    def test_open_by_a_click_with_ctrl_or_a_key(self):
+        self.open(LINK % "https://a.fr/b?c=1&d", "autre")
+        self.mouse(self.note, WORD, "click 1")
+        self.follow(WORD, "click 1")
+        self.wait(self.opened.exists, "the target")
+        self.keys(self.note, "ctrl+Home", "ctrl+End", "ctrl+Return", "ctrl+Home", "ctrl+Return")
+        self.wait(lambda: self.opened.read_text() == "https://a.fr/b?c=1&d\n" * 2, "both targets")
+        self.assertEqual(self.host.ask("undo 1"), "0")
+
+    def test_show_their_target_but_open_no_commands(self):
+        self.open(LINK % "notes.sh", "autre")
+        self.follow(WORD, "click 1")
+        self.mouse(self.note, (200, 100), (17, 36), WORD)
+        self.wait(self.popup, "the tooltip")
+        self.assertFalse(self.opened.exists())
+
+
+class Pasting(Notes):
+    def test_without_formats_by_ctrl_shift_v(self):
+        self.open(LINK % "https://a.fr", "autre")
+        self.keys(self.note, "ctrl+a", "ctrl+Insert")
+        other = self.show(2)
+        self.keys(other, "ctrl+Home", "ctrl+shift+v")
+        self.host.waits_for("text 2", "un lien grasautre")
+        self.assertNotIn("HYPERLINK", self.host.ask("rtf 2"))
+        self.keys(other, "ctrl+z", "shift+End", "shift+Delete", "shift+Insert", "shift+Insert")
+        self.host.waits_for("text 2", "autreautre")
+
+
+if __name__ == "__main__":
+    main()

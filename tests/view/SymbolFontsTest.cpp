@@ -1,0 +1,26 @@
+// The signs of symbol fonts.
+#include <gtest/gtest.h>
+
+#include "base/Strings.h"
+#include "view/layout/SymbolFonts.h"
+
+namespace lumenote {
+namespace {
+
+TEST(SymbolFonts, ShowTheirSigns) {
+  const std::u16string_view rows[][3] = {
+      {u"Symbol", u"abz ABZ", u"αβζ ΑΒΖ"},
+      {u"SYMBOL", u"\uF061\uF0B7\uF0FE\uF07F", u"α•⎭\uF07F"},
+      {u"Symbol", u"fjV~Þ³ïñý\r\n\v\uFFFC", u"φϕς∼⇒≥⎪⟩⎬\r\n\v\uFFFC"},
+      {u"Wingdings", u"\uF0A7\uF0D8\uF0FC\uF0E0", u"▪➢✓→"},
+      {u"wingdings", u"lmnov\uF076\u008A\u0095^i\uF044é", u"●❍■□❖❖⑩❿♈♓\uF044⬆"},
+      {u"Arial", u"ab\uF0B7", u"ab\uF0B7"}};
+  for (const auto& [name, text, shown] : rows) {
+    std::u16string signs(text);
+    ShowSigns(signs, SymbolFontOf({.name = std::u16string(name)}));
+    EXPECT_EQ(ToUtf8(signs), ToUtf8(shown)) << ToUtf8(name);
+  }
+}
+
+}  // namespace
+}  // namespace lumenote
