@@ -19,6 +19,7 @@ constexpr auto kWord = &ContextMenu::mnuPopMSWord;
 /// A program that goes on whatever it is asked.
 struct Stubborn : Processes {
   ProcessId Start(std::u16string_view) override { return ++started; }
+  void Open(std::u16string_view) override {}
   bool IsRunning(ProcessId) override { return true; }
   std::optional<SystemError> Terminate(std::u16string_view) override { return std::nullopt; }
   std::optional<SystemError> StillRunning(std::u16string_view path) override {

@@ -115,8 +115,7 @@ void ViewMouse::ScrollOn() {
 void ViewMouse::Up(PixelPoint at) {
   const State pressed = state_;
   Cancel();
-  if (pressed == State::MayOpen && !IsFar(at, pressed_))
-    view_.Host().OpenLink(LinkUnder(pressed_));
+  if (pressed == State::MayOpen && !IsFar(at, pressed_)) view_.Host().OpenLink(LinkUnder(pressed_));
   if (pressed == State::MayDrag) Begin(Unit::Character, view_.Pane().PositionAt(at), false);
   state_ = State::Idle;
 }

@@ -17,10 +17,10 @@ struct CharLook {
   Underline underline = Underline::None;
   int strikes = 0;  // lines through the text
   bool hidden = false;
-  bool capitals = false;       // shown instead of small letters
-  bool smallCapitals = false;  // and these are smaller
+  bool capitals = false;                // shown instead of small letters
+  bool smallCapitals = false;           // and these are smaller
   SymbolFont signs = SymbolFont::None;  // to show, if the font is not installed
-  bool object = false;         // an invisible placeholder for what has no box, painted separately
+  bool object = false;  // an invisible placeholder for what has no box, painted separately
   Colour ink = kAutoColour;
   Colour ground = kAutoColour;
 };

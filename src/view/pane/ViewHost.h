@@ -43,7 +43,8 @@ class ViewHost {
   /// The view types what is being composed: the input method forgets it.
   virtual void DropComposition() = 0;
 
-  /// The pointer over the text: an arrow over draggable text, a hand over a link while Ctrl is held.
+  /// The pointer over the text: an arrow over draggable text, a hand over a link while Ctrl is
+  /// held.
   virtual void ShowPointer(PointerShape shape) = 0;
   /// While on, `ViewMouse::ScrollOn` must be called about every 30 milliseconds.
   virtual void ScrollTimer(bool on) = 0;

@@ -10,6 +10,10 @@
 #include "platform/Paths.h"
 #include "platform/ProgramCommand.h"
 
+// After the system's own header.
+#include <shellapi.h>
+#include <shlwapi.h>
+
 namespace lumenote {
 namespace {
 
@@ -37,6 +41,12 @@ int End(const std::vector<pid_t>& processes) {
   return failure;
 }
 
+/// Whether opening a file of that name would start it.
+bool IsProgram(const std::wstring& address) {
+  const wchar_t* extension = PathFindExtensionW(address.c_str());
+  return StrCmpNIW(address.c_str(), L"file:", 5) == 0 && AssocIsDangerous(extension);
+}
+
 }  // namespace
 
 ProcessId WinProcesses::Start(std::u16string_view commandLine) {
@@ -50,7 +60,9 @@ ProcessId WinProcesses::Start(std::u16string_view commandLine) {
 }
 
 void WinProcesses::Open(std::u16string_view address) {
-  ShellExecuteW(nullptr, L"open", ToWide(address).c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+  const std::wstring target = ToWide(address);
+  if (!IsProgram(target))
+    ShellExecuteW(nullptr, L"open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }
 
 bool WinProcesses::IsRunning(ProcessId process) {

@@ -10,6 +10,7 @@
 #include "backends/win32/toolkit/Units.h"
 #include "backends/win32/toolkit/VisualStyles.h"
 #include "base/Strings.h"
+#include "view/acts/TextTips.h"
 
 // After the system's own header.
 #include <windowsx.h>
@@ -334,6 +335,7 @@ void SurfaceWindow::TypeUnit(char16_t unit) {
 
 bool SurfaceWindow::HandleMouse(const Message& message) {
   if (message.id == WM_RBUTTONDOWN || message.id == WM_MBUTTONDOWN) text_.Complete();
+  ShowTip(message);
   if (message.id <= WM_LBUTTONDOWN) mouse_.Control(message.w & MK_CONTROL);
   switch (message.id) {
     case WM_LBUTTONDOWN:
@@ -362,6 +364,14 @@ bool SurfaceWindow::HandleMouse(const Message& message) {
       return true;
   }
   return false;
+}
+
+void SurfaceWindow::ShowTip(const Message& message) {
+  if (message.id == WM_MOUSEMOVE) {
+    std::u16string tip = TipAt(text_.Pane(), PointOf(message.l));
+    if (std::exchange(shownTip_, tip) != tip) tip_.Text(tip);
+  }
+  tip_.Relay(message);
 }
 
 void SurfaceWindow::PressLeft(const Message& message) {

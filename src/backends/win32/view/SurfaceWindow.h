@@ -7,6 +7,7 @@
 
 #include "backends/win32/assist/Assistance.h"
 #include "backends/win32/text/UniscribeLayouter.h"
+#include "backends/win32/toolkit/ToolTip.h"
 #include "backends/win32/toolkit/Window.h"
 #include "backends/win32/view/Composing.h"
 #include "backends/win32/view/DropTarget.h"
@@ -103,6 +104,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   void PressLeft(const Message& message);
   void Release(MouseButton button, LPARAM at);
   void ShowCaretPlace();
+  void ShowTip(const Message& message);
 
   UniscribeLayouter& layouter_;
   ViewCallbacks callbacks_;
@@ -112,6 +114,8 @@ class SurfaceWindow final : public Window, private ViewHost {
   Composing composing_{Handle(), text_};
   ViewDrop drop_{text_};
   ViewBars bars_{text_};
+  ToolTip tip_{Handle()};
+  std::u16string shownTip_;
   SystemCaret caret_{Handle()};
   Assistance assistance_{Handle(), text_, callbacks_.name};
   OleScope ole_;

@@ -1,8 +1,8 @@
 // The peer of labels.
 #pragma once
 #include "backends/win32/peers/base/CaptionPeer.h"
-#include "backends/win32/peers/labels/ToolTip.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
+#include "backends/win32/toolkit/ToolTip.h"
 #include "forms/controls/Label.h"
 
 namespace lumenote {

@@ -1,4 +1,4 @@
-#include "backends/win32/peers/labels/ToolTip.h"
+#include "backends/win32/toolkit/ToolTip.h"
 
 #include <commctrl.h>
 
@@ -8,6 +8,8 @@ namespace lumenote {
 namespace {
 
 constexpr std::size_t kLength = 80;  // what the system copies of a tooltip's text
+
+constexpr LPARAM kWidest = 500;  // pixels; a longer text has several lines
 
 /// The form that every version of the common controls knows.
 TTTOOLINFOW InfoOf(HWND tool, const std::u16string& text) {
@@ -31,6 +33,7 @@ void ToolTip::Make() {
       GetAncestor(tool_, GA_ROOT),
       WindowKind{TOOLTIPS_CLASSW, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, WS_EX_TOPMOST});
   Tell(*window_, TTM_ADDTOOLW, InfoOf(tool_, {}));
+  SendMessageW(window_->Handle(), TTM_SETMAXTIPWIDTH, 0, kWidest);
 }
 
 void ToolTip::Text(const std::u16string& text) {
