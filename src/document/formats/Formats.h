@@ -95,7 +95,8 @@ struct CharFormat {
   std::uint16_t scale = 100;   // per cent of the width
   Underline underline = Underline::None;
   std::uint8_t stated = kStatesFont | kStatesSize;  // CharStated
-  std::uint8_t reserved[2] = {};
+  std::uint8_t reset = 0;  // 1 or 2, in turn: begins with a \plain directly behind other text
+  std::uint8_t reserved = 0;
   bool operator==(const CharFormat&) const = default;
 };
 static_assert(std::has_unique_object_representations_v<CharFormat>);

@@ -92,6 +92,7 @@ void Interpreter::Take(const Token& token) {
   using Kind = Token::Kind;
   wasStarred_ = std::exchange(starred_, false);
   wasOpened_ = std::exchange(opened_, false);
+  behindText_ = std::exchange(atText_, false);
   if (State().page.MultiByte() && IsEscapedByte(token)) return Byte(token.byte);
   const bool ofBytes =
       token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
@@ -122,6 +123,7 @@ void Interpreter::TakeText() {
   if (swallow_ > 0 || starred_ || State().page.MultiByte() || !AtText()) return;
   opened_ = false;
   BeforeText();
+  atText_ = true;
   if (items_.Pending()) {
     TakeSome(1, NextCharacter());
     if (!AtText()) return;
@@ -183,6 +185,7 @@ void Interpreter::Close() {
   } else {
     HoldParagraph();
     groups_.pop_back();
+    if (State().character.reset != 0) EditCharacter().reset = 0;
   }
   if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
 }
@@ -221,6 +224,7 @@ bool Interpreter::Swallowed() {
 }
 
 void Interpreter::Byte(unsigned char byte) {
+  atText_ = true;
   if (Swallowed() || byte == 0) return;
   if (byte == '\r' || byte == '\n') {
     EndBytes();
@@ -235,6 +239,7 @@ void Interpreter::Byte(unsigned char byte) {
 
 /// The slow path for text.
 void Interpreter::Bytes(std::string_view bytes) {
+  atText_ = true;
   const auto passed = std::min(static_cast<std::size_t>(swallow_), bytes.size());
   swallow_ -= static_cast<int>(passed);
   bytes.remove_prefix(passed);
@@ -259,6 +264,7 @@ void Interpreter::EndBytes() {
 
 void Interpreter::Put(char16_t unit) {
   BeforeText();
+  atText_ = true;
   body_.Append(std::u16string_view(&unit, 1), NextCharacter());
 }
 

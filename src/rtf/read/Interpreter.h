@@ -206,12 +206,15 @@ class Interpreter {
   KeptHead head_;
   KeptItems headItems_;
 
-  int swallow_ = 0;          // fallback characters of a \u still to skip
-  bool opened_ = false;      // the last token was {
-  bool wasOpened_ = false;   // so was the token before the present one
-  bool starred_ = false;     // the last token was \* directly after {
-  bool wasStarred_ = false;  // so was the token before the current one
-  std::string bytes_;        // undecoded bytes of a multi-byte page
+  int swallow_ = 0;             // fallback characters of a \u still to skip
+  bool atText_ = false;         // the last token was text
+  bool behindText_ = false;     // so was the token before the present one
+  std::uint8_t lastReset_ = 2;  // `CharFormat::reset` of the last run that has one
+  bool opened_ = false;         // the last token was {
+  bool wasOpened_ = false;      // so was the token before the present one
+  bool starred_ = false;        // the last token was \* directly after {
+  bool wasStarred_ = false;     // so was the token before the current one
+  std::string bytes_;           // undecoded bytes of a multi-byte page
   std::u16string decoded_;
   bool placingMarker_ = false;
   bool numbering_ = false;   // the marker being read is a list number

@@ -41,9 +41,13 @@ void Interpreter::Fallback(int, const Token& word) {
   State().fallback = word.hasNumber ? std::max(word.number, 0) : 1;
 }
 
+/// A note's \plain directly behind text is remembered, since some readers understand it in another
+/// way there.
 void Interpreter::Plain(int, const Token&) {
   BeginBody();
-  EditCharacter() = default_;
+  CharFormat& format = EditCharacter();
+  format = default_;
+  if (behindText_ && target_ == RtfTarget::Document) format.reset = lastReset_ ^= 3;
   const SourceFont* font = fonts_.Find(defaultFont_);
   State().page = CodePage(font && font->page ? font->page : documentPage_);
 }

@@ -34,6 +34,8 @@ class Output {
   /// Writes \plain. After text it is set apart, since some readers format text only when they meet
   /// the next word.
   void Reset();
+  /// Whether text without a word or brace behind it precedes.
+  bool AfterText() const { return afterText_; }
   /// Writes a control word that stands for a character.
   void Symbol(std::string_view name);
   /// Writes control words with their backslashes, and groups among them.

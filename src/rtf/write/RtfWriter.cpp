@@ -35,7 +35,7 @@ RtfWriter::RtfWriter(const Document& document, Selection range, std::optional<Fi
       mark_(mark),
       at_(range_.start),
       scan_(document, range_.start, mark_ ? &*mark_ : nullptr),
-      formats_(document.Formats(), document.Mark().head),
+      formats_(document.Formats(), document.Mark().head, mark_.has_value()),
       out_(sink, document.Formats().heads[document.Mark().head].page) {
   if (!mark_) part_.emplace(document.Formats(), document.Mark().head);
 }

@@ -12,6 +12,12 @@ bool IsDefinition(const KeptItem& item) {
   return item.kind == KeptItem::Kind::Section || item.kind == KeptItem::Kind::Row;
 }
 
+/// Whether the source has \plain directly behind the text; so has the copy, for readers that take
+/// the text's format away then.
+bool Resets(const WrittenFormat& from, const WrittenFormat& to) {
+  return to.reset != 0 && to.reset != from.reset && (from.effects & kSuperscript) == 0;
+}
+
 }  // namespace
 
 // --- paragraphs
@@ -161,6 +167,8 @@ void WrittenBody::CloseField() {
 
 void WrittenBody::Format(CharId format) {
   const WrittenFormat& wanted = formats_[format];
+  if (wanted == format_) return;
+  if (!(out_.AfterText() && Resets(format_, wanted))) format_.reset = wanted.reset;
   if (wanted == format_) return;
   WriteChange(format_, wanted, tables_, out_);
   format_ = wanted;

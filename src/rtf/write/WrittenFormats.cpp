@@ -57,8 +57,8 @@ void WriteFontName(const FontFace& face, Output& out) {
 
 }  // namespace
 
-WrittenFormats::WrittenFormats(const FormatTables& tables, HeadId id)
-    : tables_(tables), numbers_(tables.characters.Size()), head_(id) {
+WrittenFormats::WrittenFormats(const FormatTables& tables, HeadId id, bool resets)
+    : tables_(tables), numbers_(tables.characters.Size()), head_(id), resets_(resets) {
   defaultEncoding_ = EncodingOf({}, 0, Head().page);
   AddFonts();
   AddColours();
@@ -131,6 +131,7 @@ WrittenFormat WrittenFormats::Written(const CharFormat& format) {
     written.numbers[i] = Number(kNumberWords[i], format);
   written.effects = WrittenEffects(format.effects);
   written.underline = format.underline;
+  if (resets_) written.reset = format.reset;
   return written;
 }
 

@@ -40,6 +40,7 @@ struct WrittenFormat {
   Underline underline = Underline::None;
   Encoding encoding = Encoding::Windows;  // that of the font
   WordsId words = 0;
+  std::uint32_t reset = 0;  // that of `CharFormat`; as wide as leaves no padding
   bool operator==(const WrittenFormat&) const = default;
 };
 
@@ -48,8 +49,9 @@ struct WrittenFormat {
 /// order of first use.
 class WrittenFormats {
  public:
-  /// The tables may grow meanwhile, but only formats that they contain now can be used.
-  WrittenFormats(const FormatTables& tables, HeadId head);
+  /// The tables may grow meanwhile, but only formats that they contain now can be used. A \plain
+  /// directly behind text is only repeated where `resets` says so.
+  WrittenFormats(const FormatTables& tables, HeadId head, bool resets);
 
   /// Registers a format that the text uses.
   void Use(CharId format) {
@@ -98,6 +100,7 @@ class WrittenFormats {
   InternTable<WrittenFormat> written_;
   std::vector<std::uint32_t> numbers_;  // in it, plus one, by CharId; 0: not registered
   HeadId head_;
+  bool resets_;
   InternTable<FontFace> faces_;
   std::vector<Font> fonts_;      // of the font faces, the head's first
   std::uint32_t headFonts_ = 0;  // their count

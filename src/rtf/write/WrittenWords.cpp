@@ -198,11 +198,15 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   // A size that is said already would be that of what is said before the markers.
   const bool moves = order.scripts || (order.marked && !order.leftToRight);
   const bool movesSize = rewords && moves && !order.hasSize && from.size > 0;
-  const bool anew = (rewords && from.words != 0) || movesSize || TakesBack(from, to);
+  const bool resets = from.reset != to.reset;
+  const bool anew = resets || (rewords && from.words != 0) || movesSize || TakesBack(from, to);
   const bool worded = anew || rewords;
   const WrittenFormat& base = anew ? kPlain : from;
   EndMark(from.effects, to.effects, anew, out);
-  if (anew) out.Reset();
+  if (resets)
+    out.Word("plain");
+  else if (anew)
+    out.Reset();
   if (worded) WriteWords(to.words, order.high, to, tables, out);
   if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
   if (base.underline != to.underline)
