@@ -5,7 +5,7 @@ set -euo pipefail
 top=$(cd "$(dirname "$0")" && pwd)
 . "$top/scripts/packages.sh"
 
-ensure_packages "${BUILD_PACKAGES[@]}" "${FONT_PACKAGES[@]}"
+ensure_packages "${BUILD_PACKAGES[@]}" "${FONT_PACKAGES[@]}" hunspell-fr
 build="$top/build/run"
 cmake -S "$top" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMENOTE_TESTS=OFF >/dev/null
 cmake --build "$build" --target microedit

@@ -17,7 +17,7 @@ ensure_packages() {
     apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev libxcb1-dev
+BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev libxcb1-dev libhunspell-dev
   qt6-translations-l10n)
 # Metric-compatible with the fonts that notes name.
 FONT_PACKAGES=(fonts-liberation fonts-dejavu-core fontconfig)

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Takes the pictures of docs/images from the real windows; needs imagemagick.
+"""Takes the pictures of docs/images from the real windows; needs imagemagick and
+hunspell-fr.
 
 usage: tools/pictures.py BUILD      BUILD holds hosts/microedit/microedit, as build/test does
 """
@@ -59,6 +60,13 @@ class Pictures(Desktop):
         self.type(dialog, "labelle")
         self.keys(dialog, "alt+r")
         self.take("trouver", dialog)
+
+    def test_spelling(self):
+        self.keys(self.note, "ctrl+Home", "Down", "Down", "Home", "ctrl+Right", "ctrl+shift+Right")
+        self.type(self.note, "rebuste ")
+        self.keys(self.note, "ctrl+Left", "ctrl+period")
+        self.wait(self.popup, "the popup")
+        self.take("orthographe", self.note)
 
     def test_symbols(self):
         self.in_bar("Down", "Down", "Down", "Return")

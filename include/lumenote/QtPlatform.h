@@ -33,6 +33,10 @@ class QtPlatform final : public Platform {
   /// can express it.
   std::u16string ToDrivePath(std::string_view native) const;
 
+  /// Whether words are checked for their French spelling, where a dictionary is installed (Debian:
+  /// hunspell-fr); on by default. Applies to editors opened from now on.
+  void Spelling(bool on);
+
  private:
   struct Parts;
   struct Desktop;

@@ -9,6 +9,7 @@
 #include "format/Ruler.h"
 #include "format/StyleStore.h"
 #include "lumenote/Platform.h"
+#include "ocr/CorrectionList.h"
 #include "ocr/OcrCommands.h"
 #include "selection/LetterCase.h"
 #include "selection/TextUnits.h"
@@ -76,6 +77,9 @@ void Co_Rtf::WirePrograms() {
 }
 
 void Co_Rtf::WireOcr() {
+  Bx_RTF.Learn = [this](const std::u16string& wrong, const std::u16string& right) {
+    AppendCorrection(Machine().FileSystem(), session_.listCorrPath, wrong, right);
+  };
   Pop.mnuPopOcrNettoyer.Click = [this] { NettoyerNote(*this); };
   Pop.mnuPopOcrApprendre.Click = [this] { dialogs_.Apprendre(); };
   Pop.mnuPopOcrListCorr.Click = [this] {

@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QSocketNotifier>
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 #include <sstream>
@@ -48,6 +49,7 @@ class Host {
       control.pTitreFenêtre(u"Note " + FromUtf8(std::to_string(i + 1)));
       control.pCouleurFen(u"14737632");
       control.pSScléReg(u"notes_host");
+      control.pChmAppli(platform.ToDrivePath(std::string(std::getenv("HOME")) + "/notes_host"));
       control.pStrOrchm(FromUtf8(notes[i]));
     }
   }

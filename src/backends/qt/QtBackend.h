@@ -33,6 +33,9 @@ class QtBackend final : public Backend, private PeerServices {
   WidgetRegistry& Widgets() override { return widgets_; }
   void Used(Form& form) override;
 
+  /// Windows opened from now on check their words; null: they do not. It must outlive them.
+  void WordChecker(Speller* speller) { speller_ = speller; }
+
   /// Closes the remaining windows as the user would, the latest first; abandons those that refuse.
   void CloseForms();
 
@@ -43,6 +46,7 @@ class QtBackend final : public Backend, private PeerServices {
   };
 
   QtLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
+  Speller* WordChecker() override { return speller_; }
   /// The owner of a box that `over` asks for; null for none.
   QWidget* DialogParent(const Form* over) const;
   void NativelyActive(Form& form) override;
@@ -54,6 +58,7 @@ class QtBackend final : public Backend, private PeerServices {
 
   WidgetRegistry widgets_;
   QtTimers timers_;
+  Speller* speller_ = nullptr;
   // By address: a new box may replace a destroyed one.
   std::unordered_map<const Control*, std::unique_ptr<SurfaceLayout>> layouts_;
   std::vector<Form*> forms_;            // with a window, in the order of realising

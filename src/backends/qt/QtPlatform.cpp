@@ -19,6 +19,7 @@
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
 #include "backends/qt/QtFonts.h"
+#include "backends/qt/spelling/Speller.h"
 #include "backends/qt/x11/X11Windows.h"
 
 namespace lumenote {
@@ -96,10 +97,14 @@ struct QtPlatform::Parts {
   X11Windows programWindows;
   ReapingProcesses programs{drives, programWindows};
   NativeFolders folders{drives, [this] { return programs.HoldsFiles(); }};
+  bool spelling = true;
 };
 
 struct QtPlatform::Desktop {
+  explicit Desktop(Settings& settings) : speller(settings) {}
+
   OwnApplication application;
+  Speller speller;
   QtBackend windows;
   QtClipboard clipboard;
   QtFonts fonts;
@@ -114,9 +119,12 @@ QtPlatform::Desktop& QtPlatform::OnDesktop() {
   if (desktop_)
     CheckApplication();
   else
-    desktop_ = std::make_unique<Desktop>();
+    desktop_ = std::make_unique<Desktop>(parts_->settings);
+  desktop_->windows.WordChecker(parts_->spelling ? &desktop_->speller : nullptr);
   return *desktop_;
 }
+
+void QtPlatform::Spelling(bool on) { parts_->spelling = on; }
 
 Backend& QtPlatform::Windows() { return OnDesktop().windows; }
 

@@ -2,6 +2,7 @@
 #pragma once
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "forms/Control.h"
 #include "platform/RichTextSurface.h"
@@ -27,6 +28,10 @@ class RichTextBox : public Control {
 
   /// The content has changed, whatever changed it.
   std::function<void()> Change;
+
+  /// The user mends a wrong word for good: stores both. The words of a box that has this are
+  /// checked, if the backend can.
+  std::function<void(const std::u16string& wrong, const std::u16string& right)> Learn;
 
   void Describe(MemberTable& members) override;
 

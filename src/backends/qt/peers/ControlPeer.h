@@ -11,6 +11,8 @@
 
 namespace lumenote {
 
+class Speller;
+
 /// Common to all controls; each kind has a derived class. The parent widget owns the widget, which
 /// may outlive the peer; the peer then no longer receives its events.
 class ControlPeer : public QObject {
@@ -50,6 +52,8 @@ class LayouterSource {
   virtual ~LayouterSource() = default;
   /// What lays out the text of the box's surface.
   virtual QtLayouter& LayouterOf(const Control& box) = 0;
+  /// What looks up its words; null if they are not checked.
+  virtual Speller* WordChecker() = 0;
 };
 
 /// Creates the peer for any kind of control, its widget a child of `parent`, in the control's

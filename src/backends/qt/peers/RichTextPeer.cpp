@@ -13,7 +13,10 @@ RichTextView* MakeView(RichTextBox& box, QWidget& parent, LayouterSource& layout
   callbacks.locked = [&box] { return box.Locked(); };
   callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
-  return new RichTextView(surface, layouters.LayouterOf(box), std::move(callbacks), &parent);
+  auto* view = new RichTextView(surface, layouters.LayouterOf(box), std::move(callbacks), &parent);
+  if (Speller* speller = layouters.WordChecker(); speller && box.Learn)
+    view->CheckSpelling(*speller, box.Learn);
+  return view;
 }
 
 }  // namespace

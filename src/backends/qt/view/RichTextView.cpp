@@ -31,6 +31,12 @@ constexpr double kMargin = 3;
 constexpr double kWheelNotch = 120;
 constexpr int kScrollInterval = 30;  // milliseconds
 
+// The full stop of a French keyboard is shifted.
+bool IsSpellingKey(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Period &&
+         (event.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
+}
+
 QEvent::Type SettleEvent() {
   static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
   return type;
@@ -56,8 +62,13 @@ RichTextView::RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewC
   ShowGround();
 }
 
+void RichTextView::CheckSpelling(Speller& speller, SpellingMarks::Learn learn) {
+  spelling_ = std::make_unique<SpellingMarks>(*this, speller, std::move(learn));
+}
+
 void RichTextView::Detach() {
   blinking_.stop();
+  spelling_.reset();
   text_.Detach();
 }
 
@@ -91,7 +102,10 @@ void RichTextView::ShowDamage(const Damage& damage) {
   OfferSelection();
 }
 
-void RichTextView::Changed(const DocumentChange& change) { AnnounceChange(*this, change); }
+void RichTextView::Changed(const DocumentChange& change) {
+  AnnounceChange(*this, change);
+  if (spelling_) spelling_->Changed();
+}
 
 void RichTextView::SelectionMoved() {
   AnnounceSelection(*this);
@@ -156,6 +170,7 @@ void RichTextView::paintEvent(QPaintEvent* event) {
   for (const QRect& area : event->region()) {
     painter.setClipRect(area);
     view.Paint(painter, area);
+    if (spelling_) spelling_->Paint(painter, area);
   }
 }
 
@@ -203,6 +218,7 @@ void RichTextView::wheelEvent(QWheelEvent* event) {
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Menu) return keys_.OpenMenu();
   if (event->key() == Qt::Key_Control) mouse_.Control(true);
+  if (spelling_ && IsSpellingKey(*event)) return spelling_->Open();
   const bool used = keys_.Press(StrokeOf(*event), FromQString(TypedText(*event)));
   event->setAccepted(used);
   const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
@@ -275,7 +291,8 @@ bool RichTextView::HandleEvent(QEvent* event) {
   }
   if (event->type() == QEvent::ShortcutOverride) {
     const auto key = StrokeOf(static_cast<const QKeyEvent&>(*event));
-    if (key && ViewKeys::IsForEditing(*key)) event->accept();
+    const bool spelling = spelling_ && IsSpellingKey(static_cast<const QKeyEvent&>(*event));
+    if (spelling || (key && ViewKeys::IsForEditing(*key))) event->accept();
   }
   return QAbstractScrollArea::event(event);
 }
@@ -318,6 +335,9 @@ void RichTextView::mouseReleaseEvent(QMouseEvent* event) {
   else
     mouse_.Cancel();
   if (IsAttached()) ReleaseMouse(ButtonOf(event->button()), event->position());
+  const bool clicked = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier;
+  if (spelling_ && clicked && Surface().Selected().Length() == 0)
+    spelling_->Click(event->position());
 }
 
 // Long texts have lines only where the tip is rich text.

@@ -5,12 +5,14 @@
 #include <QMimeData>
 #include <QPointer>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "backends/qt/text/QtLayouter.h"
 #include "backends/qt/view/DragOut.h"
 #include "backends/qt/view/DropEvents.h"
+#include "backends/qt/view/SpellingMarks.h"
 #include "backends/qt/view/ViewBars.h"
 #include "backends/qt/view/ViewPainter.h"
 #include "forms/Control.h"
@@ -49,6 +51,11 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   TextPane& Pane() { return text_.Pane(); }
   QtLayouter& Layouter() { return layouter_; }
   ViewInput& Input() { return input_; }
+
+  /// From now on misspelt words are marked. `speller` must outlive the view.
+  void CheckSpelling(Speller& speller, SpellingMarks::Learn learn);
+  /// Opens the menu that a click with the right button there opens.
+  void OpenNoteMenu(PixelPoint at) { OpenMenu(at); }
 
   void Settle() { text_.Settle(); }
   std::vector<std::string> Differences() { return text_.Differences(); }
@@ -116,6 +123,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   ViewBars bars_{*this};
   DragOut drag_{*this};
   DropEvents drop_{*this};
+  std::unique_ptr<SpellingMarks> spelling_;  // null: words are not checked
   QBasicTimer blinking_;
   QBasicTimer scrolling_;
   QPointer<const QMimeData> offered_;  // the desktop's selection while it is ours

@@ -1,0 +1,141 @@
+#include "backends/qt/view/SpellingMarks.h"
+
+#include <QMenu>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "backends/qt/spelling/Speller.h"
+#include "backends/qt/text/FontNames.h"
+#include "backends/qt/toolkit/Pixels.h"
+#include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/view/RichTextView.h"
+#include "view/acts/SpelledWords.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr int kPause = 600;       // milliseconds without a key, after which no word is being typed
+constexpr double kBelow = 2;      // pixels from the baseline to the wave
+constexpr double kClickable = 3;  // pixels above the wave that belong to it
+constexpr qsizetype kMostSuggestions = 8;
+
+QPainterPath WaveUnder(const PixelRect& box, double y) {
+  constexpr double kStep = 2, kHeight = 1.5;
+  QPainterPath path(QPointF(box.left, y));
+  bool down = true;
+  for (double x = box.left + kStep; x < box.right; x += kStep, down = !down)
+    path.lineTo(x, down ? y + kHeight : y);
+  return path;
+}
+
+double WaveOf(const ShownPiece& item, const RangeBox& part) {
+  const PieceLine& line = item.piece->lines[static_cast<std::size_t>(part.line)];
+  return item.y + line.baseline + kBelow;
+}
+
+}  // namespace
+
+SpellingMarks::SpellingMarks(RichTextView& view, Speller& speller, Learn learn)
+    : view_(view), speller_(speller), learn_(std::move(learn)) {
+  speller.OnChange(this, [this] { view_.viewport()->update(); });
+}
+
+std::u16string SpellingMarks::TextOf(Selection word) const {
+  return view_.Surface().Content().Text(word.start, word.end);
+}
+
+bool SpellingMarks::IsMarked(Selection word) const {
+  const Position caret = view_.Surface().Caret();
+  if (typing_.isActive() && word.start <= caret && caret <= word.end) return false;
+  return speller_.IsWrong(TextOf(word));
+}
+
+void SpellingMarks::Paint(QPainter& painter, const QRectF& area) {
+  painter.setPen(QPen(Qt::red, 1));
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const ShownPiece& item : view_.Pane().Visible())
+    if (item.y < area.bottom() && item.y + item.piece->height > area.top())
+      PaintPiece(painter, item);
+}
+
+void SpellingMarks::PaintPiece(QPainter& painter, const ShownPiece& item) {
+  const Document& document = view_.Surface().Content();
+  for (const Selection& word : SpelledWords(document, item.piece->from, item.piece->to)) {
+    if (!IsMarked(word)) continue;
+    for (const RangeBox& part : BoxesOf(view_.Pane(), item, word))
+      painter.drawPath(WaveUnder(part.box, WaveOf(item, part)));
+  }
+}
+
+void SpellingMarks::Changed() { typing_.start(kPause, this); }
+
+void SpellingMarks::timerEvent(QTimerEvent*) {
+  typing_.stop();
+  view_.viewport()->update();
+}
+
+bool SpellingMarks::Click(QPointF at) {
+  const Document& document = view_.Surface().Content();
+  const Selection word = SpelledWordAt(document, view_.Pane().PositionAt(ToPoint(at)));
+  if (word.Length() == 0 || !IsMarked(word)) return false;
+  for (const ShownPiece& item : view_.Pane().Visible())
+    for (const RangeBox& part : BoxesOf(view_.Pane(), item, word)) {
+      const double wave = WaveOf(item, part);
+      const QRectF target(part.box.left, wave - kClickable, part.box.Width(),
+                          part.box.bottom - wave + kClickable);
+      if (!target.contains(at)) continue;
+      Open(word);
+      return true;
+    }
+  return false;
+}
+
+void SpellingMarks::Open() {
+  const Selection word = SpelledWordAt(view_.Surface().Content(), view_.Surface().Caret());
+  if (word.Length() > 0 && speller_.IsWrong(TextOf(word))) Open(word);
+}
+
+void SpellingMarks::Open(Selection word) {
+  const std::u16string wrong = TextOf(word);
+  speller_.Suggest(wrong, this, [this, word, wrong](const QStringList& suggestions) {
+    if (view_.IsAttached() && TextOf(word) == wrong) ShowPopup(word, suggestions);
+  });
+}
+
+void SpellingMarks::ShowPopup(Selection word, const QStringList& suggestions) {
+  const auto box = view_.Pane().CaretAt(word.start);
+  if (!box) return;
+  const PixelPoint below{box->left, box->bottom};
+  const std::u16string wrong = TextOf(word);
+  auto* menu = new QMenu(&view_);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->setFont(ControlFont());
+  const QStringList best = suggestions.mid(0, kMostSuggestions);
+  for (const QString& right : best)
+    menu->addAction(right, this, [=, this] { Mend(word, wrong, right); });
+  if (best.isEmpty()) menu->addAction(QStringLiteral("Aucune proposition"))->setEnabled(false);
+  menu->addSeparator();
+  if (learn_ && !best.isEmpty()) {
+    QMenu* learn = menu->addMenu(QStringLiteral("&Apprendre la correction"));
+    for (const QString& right : best)
+      learn->addAction(right, this, [=, this] {
+        Mend(word, wrong, right);
+        view_.Text().Act([&] { learn_(wrong, FromQString(right)); });
+      });
+  }
+  menu->addAction(QStringLiteral("Ajouter au &dictionnaire"), this,
+                  [=, this] { view_.Text().Act([&] { speller_.Add(wrong); }); });
+  menu->addSeparator();
+  menu->addAction(QStringLiteral("&Menu de la note"), this,
+                  [=, this] { view_.OpenNoteMenu(below); });
+  menu->popup(view_.viewport()->mapToGlobal(ToQPoint(below).toPoint()));
+}
+
+void SpellingMarks::Mend(Selection word, const std::u16string& wrong, const QString& right) {
+  if (!view_.IsAttached() || TextOf(word) != wrong) return;
+  view_.Text().Select(word.start, word.end);
+  view_.Text().Type(FromQString(right));
+}
+
+}  // namespace lumenote

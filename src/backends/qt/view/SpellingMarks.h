@@ -1,0 +1,54 @@
+// Waves under misspelt words, and the popup that mends one.
+#pragma once
+#include <QBasicTimer>
+#include <QObject>
+#include <QPainter>
+#include <QPointF>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "document/Document.h"
+#include "view/pane/RangeBoxes.h"
+
+namespace lumenote {
+
+class RichTextView;
+class Speller;
+
+/// Paints what is shown only, from what the speller knows by then; the word at the caret has to
+/// wait for a pause in typing.
+class SpellingMarks : public QObject {
+ public:
+  /// Stores the correction of a word: wrong, right.
+  using Learn = std::function<void(const std::u16string&, const std::u16string&)>;
+
+  /// Both must outlive the marks.
+  SpellingMarks(RichTextView& view, Speller& speller, Learn learn);
+
+  void Paint(QPainter& painter, const QRectF& area);
+  /// The text has changed: the user may be typing.
+  void Changed();
+  /// Opens the popup of the wave at a point, if there is one.
+  bool Click(QPointF at);
+  /// Opens that of the word at the caret, if it is misspelt.
+  void Open();
+
+ protected:
+  void timerEvent(QTimerEvent* event) override;
+
+ private:
+  std::u16string TextOf(Selection word) const;
+  bool IsMarked(Selection word) const;
+  void PaintPiece(QPainter& painter, const ShownPiece& item);
+  void Open(Selection word);
+  void ShowPopup(Selection word, const QStringList& suggestions);
+  void Mend(Selection word, const std::u16string& wrong, const QString& right);
+
+  RichTextView& view_;
+  Speller& speller_;
+  Learn learn_;
+  QBasicTimer typing_;
+};
+
+}  // namespace lumenote

@@ -1,0 +1,71 @@
+#include "view/acts/SpelledWords.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "base/Characters.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr Position kLongest = 64;  // characters; anything longer is no word
+
+bool IsJoint(char16_t c) {
+  constexpr char16_t kHyphen = u'\u2010', kNoBreakHyphen = u'\u2011';
+  return c == u'\'' || c == u'\u2019' || c == u'-' || c == kHyphen || c == kNoBreakHyphen;
+}
+
+/// Whether the character at `i` goes on with a word.
+bool IsInWord(std::u16string_view text, std::size_t i) {
+  if (IsWordCharacter(text[i])) return true;
+  return IsJoint(text[i]) && i > 0 && i + 1 < text.size() && IsWordCharacter(text[i - 1]) &&
+         IsWordCharacter(text[i + 1]);
+}
+
+bool IsSpelled(std::u16string_view word) {
+  const auto isLetter = [](char16_t c) { return IsLetter(c) || IsJoint(c); };
+  return word.size() > 1 && word.size() <= kLongest && std::ranges::all_of(word, isLetter);
+}
+
+/// Whether the word that ends at `end` is an abbreviation: its full stop ends no sentence.
+bool IsAbbreviated(std::u16string_view text, std::size_t end) {
+  if (!text.substr(end).starts_with(u'.')) return false;
+  const std::size_t next = text.find_first_not_of(u" \u00A0", end + 1);
+  return next < text.size() && text[next] != u'\r' && ToLower(text[next]) == text[next];
+}
+
+bool MayBeFrench(const CharFormat& format) {
+  constexpr int kPrimary = 0x3FF, kFrench = 0x0C;  // of a language identifier
+  const bool stated = format.language != 0;
+  if (stated && (format.language & kPrimary) != kFrench) return false;
+  return (format.effects & (kItalic | kHidden | kDeleted)) == 0;
+}
+
+}  // namespace
+
+std::vector<Selection> SpelledWords(const Document& document, Position from, Position to) {
+  const std::u16string text = document.Text(from, to);
+  std::vector<Selection> words;
+  for (std::size_t start = 0, end = 0; start < text.size(); start = end + 1) {
+    for (end = start; end < text.size() && IsInWord(text, end);) ++end;
+    const std::u16string_view word = std::u16string_view(text).substr(start, end - start);
+    const Selection range{from + static_cast<Position>(start), from + static_cast<Position>(end)};
+    const CharId format = document.CharFormatAt(range.start);
+    if (IsSpelled(word) && !IsAbbreviated(text, end) &&
+        MayBeFrench(document.Formats().characters[format]))
+      words.push_back(range);
+  }
+  return words;
+}
+
+Selection SpelledWordAt(const Document& document, Position position) {
+  const Position paragraph = document.ParagraphOf(position);
+  const Position from = std::max(position - kLongest, document.ParagraphStart(paragraph));
+  const Position to = std::min(position + kLongest, document.ParagraphEnd(paragraph));
+  for (const Selection& word : SpelledWords(document, from, to))
+    if (word.start <= position && position <= word.end) return word;
+  return {position, position};
+}
+
+}  // namespace lumenote
