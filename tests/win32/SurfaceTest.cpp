@@ -242,7 +242,24 @@ std::vector<COLORREF> PixelsOf(SurfaceWindow& window, UniscribeLayouter& layoute
   const ViewColours colours = ViewColours::OfSystem(true);
   ViewPainter(window.Text().Pane(), layouter, marks, colours).Paint(dc.Get(), {0, 0, 280, 180});
   const auto* pixels = static_cast<const COLORREF*>(bits);
-  return {pixels, pixels + 280 * 180};
+  std::vector<COLORREF> shown(pixels, pixels + 280 * 180);
+  for (COLORREF& pixel : shown) pixel &= 0xFFFFFF;  // images leave their opacity there
+  return shown;
+}
+
+TEST_F(SurfaceWindowTest, PaintsPictures) {
+  const std::u16string header = u"28000000010000000100000001001800" + std::u16string(48, u'0');
+  const auto shown = [&](const std::u16string& picture) {
+    surface.TextRTF(u"{\\rtf1{\\pict\\picwgoal600\\pichgoal600" + picture + u"}}");
+    window->Text().Settle();
+    return PixelsOf(*window, layouter);
+  };
+  const auto red = shown(u"\\dibitmap0 " + header + u"0000ff00");
+  EXPECT_EQ(std::ranges::count(red, COLORREF{0xFF0000}), 40 * 40);
+  surface.UserSelect(0, 1);
+  EXPECT_EQ(std::ranges::count(PixelsOf(*window, layouter), COLORREF{0xFF0000}), 0) << "tinted";
+  const auto label = shown(u"\\wmetafile8 0100");
+  EXPECT_GT(std::ranges::count(label, COLORREF{0x808080}), 4 * 38) << "a frame";
 }
 
 TEST_F(SurfaceWindowTest, PaintsTextAndSelectionAndLeavesNothingBehind) {

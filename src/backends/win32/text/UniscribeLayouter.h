@@ -1,6 +1,7 @@
 // Lays out paragraphs with Uniscribe and the fonts of GDI.
 #pragma once
 #include "backends/win32/text/CharStyles.h"
+#include "backends/win32/text/GdiPictures.h"
 #include "backends/win32/text/UniscribePiece.h"
 #include "view/layout/TextLayouter.h"
 
@@ -11,6 +12,7 @@ namespace lumenote {
 class UniscribeLayouter final : public TextLayouter {
  public:
   CharStyles styles;
+  GdiPictures pictures;
 
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/view/BoxPainter.h"
 #include "backends/win32/view/GdiPencil.h"
-#include "document/pictures/PictureFrame.h"
 #include "view/pane/RangeBoxes.h"
 
 namespace lumenote {
@@ -66,11 +65,11 @@ void ViewPainter::PaintArea(HDC dc, const PixelRect& area) {
   SetBkMode(dc, TRANSPARENT);
   Fill(dc, area, colours_.ground);
   for (const ShownPiece& item : pane_.Visible())
-    if (item.y < area.bottom && item.y + item.piece->height > area.top) PaintPiece(dc, item);
+    if (item.y < area.bottom && item.y + item.piece->height > area.top) PaintPiece(dc, item, area);
   if (marks_.dropCaret) Fill(dc, *marks_.dropCaret, colours_.ink);
 }
 
-void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item) {
+void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item, const PixelRect& area) {
   const UniscribePiece& piece = PieceOf(item);
   const Selection selected{piece.ToIndex(std::max(marks_.selection.start, piece.from)),
                            piece.ToIndex(std::min(marks_.selection.end, piece.to))};
@@ -82,27 +81,22 @@ void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item) {
     PaintGrounds(dc, {piece, left, item.y, line}, selected);
   for (std::size_t line = 0; line < piece.lines.size(); ++line)
     PaintText(dc, {piece, left, item.y, line}, selected);
-  PaintBoxes(dc, item);
+  PaintBoxes(dc, item, area);
   GdiPencil pencil(dc, colours_.ink, colours_.plain);
   DrawDecorations(pencil, piece, piece.text, piece.decorations, {left, item.y});
 }
 
-void ViewPainter::PaintBoxes(HDC dc, const ShownPiece& item) const {
-  for (const InlineBox& box : item.piece->boxes)
-    PaintLabel(dc, box,
-               item.piece->PlaceOf(box).MovedBy(std::round(pane_.TextLeft()), item.y).Aligned());
-}
-
-/// What a box holds, in words.
-void ViewPainter::PaintLabel(HDC dc, const InlineBox& box, const PixelRect& place) const {
-  RECT inside = {Rounded(place.left), Rounded(place.top), Rounded(place.right),
-                 Rounded(place.bottom)};
-  FrameRect(dc, &inside, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
-  const std::u16string label(LabelOf(pane_.Content().Formats().items[box.item]));
-  const SelectScope font(dc, GetStockObject(DEFAULT_GUI_FONT));
-  SetTextColor(dc, colours_.ink);
-  DrawTextW(dc, Wide(label), -1, &inside,
-            DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX);
+void ViewPainter::PaintBoxes(HDC dc, const ShownPiece& item, const PixelRect& area) const {
+  const Piece& piece = *item.piece;
+  const BoxColours colours{colours_.ink, colours_.highlight};
+  BoxPainter boxes(dc, pane_.Content(), layouter_.pictures, colours);
+  for (const InlineBox& box : piece.boxes) {
+    const PixelRect place = piece.PlaceOf(box).MovedBy(std::round(pane_.TextLeft()), item.y);
+    const Position at = piece.ToPosition(box.index);
+    const Selection& selection = marks_.selection;
+    if (place.bottom > area.top && place.top < area.bottom)
+      boxes.Paint(box, place, at >= selection.start && at < selection.end);
+  }
 }
 
 void ViewPainter::PaintGrounds(HDC dc, const LinePlace& place, Selection selected) const {

@@ -39,9 +39,8 @@ class ViewPainter {
   };
 
   void PaintArea(HDC dc, const PixelRect& area);
-  void PaintPiece(HDC dc, const ShownPiece& item);
-  void PaintBoxes(HDC dc, const ShownPiece& item) const;
-  void PaintLabel(HDC dc, const InlineBox& box, const PixelRect& place) const;
+  void PaintPiece(HDC dc, const ShownPiece& item, const PixelRect& area);
+  void PaintBoxes(HDC dc, const ShownPiece& item, const PixelRect& area) const;
   void PaintGrounds(HDC dc, const LinePlace& place, Selection selected) const;
   void PaintText(HDC dc, const LinePlace& place, Selection selected) const;
   void FillUnits(HDC dc, const LinePlace& place, const LinePart& part, Selection units,
