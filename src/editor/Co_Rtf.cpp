@@ -23,6 +23,7 @@ Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const Tem
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 195, 5262, 75}, u"", LabelStyle::Strip);
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 50}, u"", LabelStyle::Strip);
   Bx_Règle.Locked(true);
+  Bx_Règle.SpokenName(u"Règle");
   Bx_RTF.Change = [this] { Bx_RTF_Change(); };
   Bx_RTF.MouseUp = [this](const MouseEvent& event) { Bx_RTF_MouseUp(event); };
   Bx_Règle.Surface().TextRTF(RulerRtf());

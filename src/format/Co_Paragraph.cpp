@@ -55,6 +55,7 @@ Co_Paragraph::Co_Paragraph(WindowList& windows, EditorWindow& editor)
   EscapeCloses(true);
   Bx_FontName.Locked(true);
   Bx_FontSize.Locked(true);
+  Bx_FontSize.SpokenName(u"Taille");
   WireBoxes();
   WireSpinners();
 }

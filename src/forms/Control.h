@@ -57,6 +57,9 @@ class Control : public ShownElement {
   void FontName(std::u16string_view name);
   float FontSize() const { return fontSize_; }
   void FontSize(float points);
+  /// What assistive programs call a control that no caption or label names.
+  const std::u16string& SpokenName() const { return spokenName_; }
+  void SpokenName(std::u16string_view name) { spokenName_ = name; }
   /// Raises it above its siblings.
   void BringToFront() { Changed(Property::Order); }
   /// Announces a control that was created after its window.
@@ -98,6 +101,7 @@ class Control : public ShownElement {
   Rect bounds_;
   std::u16string fontName_;
   float fontSize_ = 0;
+  std::u16string spokenName_;
 };
 
 }  // namespace lumenote

@@ -30,6 +30,8 @@ Co_Symbols::Co_Symbols(WindowList& windows, EditorWindow& editor)
     : Form(windows, "Co_Symbols", {4000, 3000, 6930, 5160}, u"   Insertion/Copie de Symboles"),
       editor_(editor) {
   CancelButton(&cmdClose);
+  picHolder.SpokenName(u"Symboles");
+  VScroll1.SpokenName(u"Défilement des symboles");
   lblBigDisplay.FontSize(kBigFontSize);
   lblBigDisplay.Visible(false);
   txtInsert.FontSize(kInsertFontSize);

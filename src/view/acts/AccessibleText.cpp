@@ -80,8 +80,10 @@ void AccessibleText::Reveal(Selection range) {
 
 std::optional<AccessibleText::Run> AccessibleText::RunAt(Position offset) const {
   if (offset < 0 || offset >= Length()) return std::nullopt;
+  const FormatTables& formats = Content().Formats();
   return Run{UnitAt(Content(), offset, TextUnit::Run),
-             Content().Formats().characters[Content().CharFormatAt(offset)]};
+             formats.characters[Content().CharFormatAt(offset)],
+             formats.paragraphs[Content().ParaFormatAt(offset)].alignment};
 }
 
 }  // namespace lumenote

@@ -41,10 +41,11 @@ class AccessibleText {
   /// Scrolls to show as much of the range as possible, its start first.
   void Reveal(Selection range);
 
-  /// The format run around an offset.
+  /// The format run around an offset, within one paragraph.
   struct Run {
     Selection range;
     CharFormat format;
+    Alignment alignment;
   };
   std::optional<Run> RunAt(Position offset) const;
 

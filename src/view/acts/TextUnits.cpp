@@ -69,12 +69,17 @@ Selection WordAround(const Document& document, Position offset) {
   return {start, NextWord(document, start)};
 }
 
+// A run that spans leaves comes leaf by leaf.
 Selection RunAround(const Document& document, Position offset) {
   const Selection paragraph = ParagraphAt(document, offset);
+  Selection run;
   Selection found;
-  document.ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView run, CharId) {
-    const Position behind = at + static_cast<Position>(run.Size());
-    if (offset >= at && offset < behind) found = {at, behind};
+  CharId last = 0;
+  document.ForEachRun(paragraph.start, paragraph.end, [&](Position at, TextView text, CharId id) {
+    if (at == paragraph.start || id != last) run.start = at;
+    run.end = at + static_cast<Position>(text.Size());
+    last = id;
+    if (run.start <= offset && offset < run.end) found = run;
   });
   return found;
 }

@@ -1,5 +1,6 @@
 #include "backends/qt/peers/ButtonPeer.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -26,10 +27,13 @@ QPushButton* MakePushButton(QWidget& parent) {
   return button;
 }
 
-// The form's option buttons handle exclusivity themselves.
+// The form's option buttons handle exclusivity themselves, so a group of its own frees each of
+// Qt's; to assistive programs Qt calls only an exclusive one an option button.
 QRadioButton* MakeRadioButton(QWidget& parent) {
   auto* button = new FullyClickable<QRadioButton>(&parent);
-  button->setAutoExclusive(false);
+  auto* alone = new QButtonGroup(button);
+  alone->setExclusive(false);
+  alone->addButton(button);
   return button;
 }
 

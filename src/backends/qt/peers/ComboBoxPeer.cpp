@@ -50,6 +50,7 @@ void ComboBoxWidget::KeepTextApart() {
 void ComboBoxWidget::showPopup() {
   if (combo_) combo_->UserDrop();
   if (!combo_) return;
+  view()->setAccessibleName(accessibleName());
   QComboBox::showPopup();
   view()->setCurrentIndex(model()->index(findText(currentText(), Qt::MatchExactly), modelColumn()));
 }
@@ -104,6 +105,11 @@ void ComboBoxPeer::Update(Property property) {
   ControlPeer::Update(property);
   if (property == Property::List) ShowList();
   if (property == Property::Content) ShowContent();
+}
+
+void ComboBoxPeer::ShowName() {
+  ControlPeer::ShowName();
+  if (QLineEdit* line = widget_->lineEdit()) line->setAccessibleName(widget_->accessibleName());
 }
 
 void ComboBoxPeer::Compare(DifferenceList& differences) const {

@@ -32,6 +32,7 @@ class ComboBoxPeer final : public ControlPeer {
   ~ComboBoxPeer() override;
 
   void Update(Property property) override;
+  void ShowName() override;
   void Compare(DifferenceList& differences) const override;
 
  private:

@@ -4,8 +4,10 @@
 
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/MouseButtons.h"
+#include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
 #include "forms/Form.h"
+#include "forms/controls/SpokenName.h"
 
 namespace lumenote {
 
@@ -31,6 +33,8 @@ void ControlPeer::Update(Property property) {
   if (property == Property::Font) ShowFont();
   if (property == Property::Enabled) widget_->setEnabled(control_.Enabled());
 }
+
+void ControlPeer::ShowName() { widget_->setAccessibleName(ToQString(SpokenNameOf(control_))); }
 
 void ControlPeer::Compare(DifferenceList& differences) const {
   const QWidget* parent = widget_->parentWidget();

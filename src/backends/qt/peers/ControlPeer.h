@@ -27,6 +27,8 @@ class ControlPeer : public QObject {
 
   /// Copies the changed state from the control.
   virtual void Update(Property property);
+  /// Names the widget for assistive programs.
+  virtual void ShowName();
   virtual void Compare(DifferenceList& differences) const;
 
   bool eventFilter(QObject* object, QEvent* event) override;

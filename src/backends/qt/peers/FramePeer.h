@@ -1,15 +1,17 @@
 // The peer of frames.
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
+#include "backends/qt/toolkit/SpokenWidget.h"
 #include "forms/controls/Frame.h"
 
 namespace lumenote {
 
 /// An etched border with the title in its top edge, transparent to the background.
-class FrameWidget : public QWidget {
+class FrameWidget : public SpokenWidget {
  public:
-  using QWidget::QWidget;
+  using SpokenWidget::SpokenWidget;
 
+  QAccessible::Role Role() const override { return QAccessible::Grouping; }
   const QString& Title() const { return title_; }
   void Title(const QString& text);
 

@@ -1,16 +1,20 @@
 // The peer of labels.
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
+#include "backends/qt/toolkit/SpokenWidget.h"
 #include "forms/controls/Label.h"
 
 namespace lumenote {
 
 /// Wrapped text from the upper left corner, without the mnemonic's ampersand. The text covers a
 /// frame's border behind it. A strip shows nothing until the pointer is over it.
-class LabelWidget : public QWidget {
+class LabelWidget : public SpokenWidget {
  public:
-  using QWidget::QWidget;
+  using SpokenWidget::SpokenWidget;
 
+  QAccessible::Role Role() const override {
+    return style_ == LabelStyle::Strip ? QAccessible::Button : QAccessible::StaticText;
+  }
   const QString& Text() const { return text_; }
   void Text(const QString& text);
   void Style(LabelStyle style);

@@ -108,6 +108,14 @@ void StatusBarPeer::Update(Property property) {
   ControlPeer::Update(property);
   if (property == Property::Panels) widget_.Panels(Texts());
   if (property == Property::Sign) widget_.Sign(bar_.Sign(), ToQString(bar_.SignTip()));
+  ShowName();
+}
+
+// Its name is all that it says.
+void StatusBarPeer::ShowName() {
+  QStringList texts = widget_.Panels() + QStringList(widget_.SignTip());
+  texts.removeAll(QString());
+  widget_.setAccessibleName(texts.join(QStringLiteral(", ")));
 }
 
 void StatusBarPeer::Compare(DifferenceList& differences) const {

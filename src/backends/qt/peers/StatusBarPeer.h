@@ -4,16 +4,18 @@
 #include <QStringList>
 
 #include "backends/qt/peers/ControlPeer.h"
+#include "backends/qt/toolkit/SpokenWidget.h"
 #include "forms/controls/StatusBar.h"
 
 namespace lumenote {
 
 /// Sunken panels in a row, each as wide as its text; at the end the sign and the grip that resizes
 /// the window.
-class StatusBarWidget : public QWidget {
+class StatusBarWidget : public SpokenWidget {
  public:
-  using QWidget::QWidget;
+  using SpokenWidget::SpokenWidget;
 
+  QAccessible::Role Role() const override { return QAccessible::StatusBar; }
   const QStringList& Panels() const { return panels_; }
   void Panels(const QStringList& texts);
   StatusSign Sign() const { return sign_; }
@@ -43,6 +45,7 @@ class StatusBarPeer final : public ControlPeer {
 
   bool IsDocked() const override { return true; }
   void Update(Property property) override;
+  void ShowName() override;
   void Compare(DifferenceList& differences) const override;
 
  private:

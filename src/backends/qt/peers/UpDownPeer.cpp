@@ -4,7 +4,7 @@
 
 namespace lumenote {
 
-UpDownWidget::UpDownWidget(QWidget* parent) : QWidget(parent) {
+UpDownWidget::UpDownWidget(QWidget* parent) : SpokenWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
   for (QToolButton* arrow : {&up_, &down_}) {
     arrow->setFocusPolicy(Qt::NoFocus);

@@ -3,15 +3,17 @@
 #include <QToolButton>
 
 #include "backends/qt/peers/ControlPeer.h"
+#include "backends/qt/toolkit/SpokenWidget.h"
 #include "forms/controls/UpDown.h"
 
 namespace lumenote {
 
 /// Two auto-repeating buttons, one above the other.
-class UpDownWidget : public QWidget {
+class UpDownWidget : public SpokenWidget {
  public:
   explicit UpDownWidget(QWidget* parent);
 
+  QAccessible::Role Role() const override { return QAccessible::SpinBox; }
   QToolButton& Arrow(bool up) { return up ? up_ : down_; }
 
  protected:

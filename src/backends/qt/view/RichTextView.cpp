@@ -103,12 +103,12 @@ void RichTextView::ShowDamage(const Damage& damage) {
 }
 
 void RichTextView::Changed(const DocumentChange& change) {
-  AnnounceChange(*this, change);
+  announcer_.Changed(change);
   if (spelling_) spelling_->Changed();
 }
 
 void RichTextView::SelectionMoved() {
-  AnnounceSelection(*this);
+  announcer_.SelectionMoved();
   if (!hasFocus()) return;
   const int period = QGuiApplication::styleHints()->cursorFlashTime();
   if (period > 0) blinking_.start(period / 2, this);

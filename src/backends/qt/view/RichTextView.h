@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "backends/qt/text/QtLayouter.h"
+#include "backends/qt/view/Announcer.h"
 #include "backends/qt/view/DragOut.h"
 #include "backends/qt/view/DropEvents.h"
 #include "backends/qt/view/SpellingMarks.h"
@@ -124,6 +125,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   DragOut drag_{*this};
   DropEvents drop_{*this};
   std::unique_ptr<SpellingMarks> spelling_;  // null: words are not checked
+  Announcer announcer_{*this};
   QBasicTimer blinking_;
   QBasicTimer scrolling_;
   QPointer<const QMimeData> offered_;  // the desktop's selection while it is ours

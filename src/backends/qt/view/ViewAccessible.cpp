@@ -1,11 +1,11 @@
 #include "backends/qt/view/ViewAccessible.h"
 
 #include <QAccessibleWidget>
-#include <algorithm>
 
 #include "backends/qt/toolkit/Pixels.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/view/RichTextView.h"
+#include "backends/qt/view/TextAttributes.h"
 #include "view/acts/AccessibleText.h"
 
 namespace lumenote {
@@ -43,6 +43,9 @@ class AccessibleView final : public QAccessibleWidget,
   void* interface_cast(QAccessible::InterfaceType type) override;
   QAccessible::State state() const override;
   QString text(QAccessible::Text what) const override;
+  // The text's own parts would claim the focus, too.
+  int childCount() const override { return 0; }
+  QAccessibleInterface* child(int) const override { return nullptr; }
 
   // QAccessibleTextInterface
   void selection(int index, int* start, int* end) const override;
@@ -132,13 +135,7 @@ QString AccessibleView::attributes(int offset, int* start, int* end) const {
   const std::optional<AccessibleText::Run> run = text_.RunAt(offset);
   *start = run ? run->range.start : offset;
   *end = run ? run->range.end : offset;
-  if (!run) return {};
-  const FontFace& font = Surface().Content().Formats().fonts[run->format.font];
-  return QStringLiteral("font-family:\"%1\";font-size:%2pt;font-weight:%3;font-style:%4;")
-      .arg(ToQString(font.name))
-      .arg(run->format.size / 2.0)
-      .arg(QLatin1String(run->format.effects & kBold ? "bold" : "normal"))
-      .arg(QLatin1String(run->format.effects & kItalic ? "italic" : "normal"));
+  return run ? TextAttributes(*run, Surface().Content().Formats()) : QString();
 }
 
 QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
@@ -153,24 +150,6 @@ void UseViewAccessibility() {
     QAccessible::installFactory(MakeInterface);
     return true;
   }();
-}
-
-void AnnounceChange(RichTextView& view, const DocumentChange& change) {
-  if (!QAccessible::isActive()) return;
-  constexpr Position kMax = 10'000;
-  const Position end = change.at + std::min(change.inserted, kMax);
-  const QString inserted = ToQString(view.Surface().Content().Text(change.at, end));
-  const QString removed(std::min(change.removed, kMax), QChar(u'\uFFFD'));
-  QAccessibleTextUpdateEvent event(&view, change.at, removed, inserted);
-  QAccessible::updateAccessibility(&event);
-}
-
-void AnnounceSelection(RichTextView& view) {
-  if (!QAccessible::isActive()) return;
-  const Selection selected = view.Surface().Selected();
-  QAccessibleTextSelectionEvent event(&view, selected.start, selected.end);
-  event.setCursorPosition(view.Surface().Caret());
-  QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace lumenote

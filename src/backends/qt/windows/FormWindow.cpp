@@ -24,7 +24,7 @@ bool IsAlt(const QEvent& event) {
 }  // namespace
 
 FormWindow::FormWindow(Form& form, ActivationListener& listener)
-    : QWidget(nullptr, Qt::Window), form_(&form), listener_(listener) {
+    : SpokenWidget(nullptr, Qt::Window), form_(&form), listener_(listener) {
   setAttribute(Qt::WA_QuitOnClose, false);  // the host decides when its program ends
   setFont(ControlFont());
   content_ = new QWidget(this);
@@ -37,6 +37,10 @@ FormWindow::FormWindow(Form& form, ActivationListener& listener)
 void FormWindow::Detach() {
   form_ = nullptr;
   bar_->Detach();
+}
+
+QAccessible::Role FormWindow::Role() const {
+  return windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window;
 }
 
 void FormWindow::Docked(QWidget* widget) { docked_ = widget; }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "backends/qt/toolkit/SpokenWidget.h"
 #include "backends/qt/windows/MenuBarWidget.h"
 #include "backends/qt/windows/WindowGeometry.h"
 #include "forms/Form.h"
@@ -23,11 +24,12 @@ class ActivationListener {
 };
 
 /// Inert after `Detach`: the form may be destroyed while the widget's own events are still running.
-class FormWindow : public QWidget {
+class FormWindow : public SpokenWidget {
  public:
   FormWindow(Form& form, ActivationListener& listener);
 
   void Detach();
+  QAccessible::Role Role() const override;
 
   MenuBarWidget& Bar() { return *bar_; }
   /// The parent widget of the form's controls; its corner is the form's client corner.

@@ -6,6 +6,7 @@
 
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
+#include "forms/controls/Label.h"
 
 namespace lumenote {
 
@@ -16,6 +17,7 @@ QtFormPeer::QtFormPeer(Form& form, PeerServices& services)
       menus_(form.Menus(), window_->Bar(), *window_, services.Widgets()) {
   services_.Widgets().Add(form, *window_);
   AddControls(form, window_->Content());
+  NameControls();
   window_->ShowCaption();
   window_->ShowBackColor();
   window_->ShowGeometry();
@@ -62,11 +64,26 @@ void QtFormPeer::Update(Element& element, Property property) {
   else if (&element == &form_)
     UpdateForm(property);
   if (property == Property::Visible) window_->LayOutParts();
+  if (property == Property::Caption || property == Property::ToolTip) Rename(element);
+}
+
+// Frames, labels and the window name other controls, too; the many cells of a grid do not.
+void QtFormPeer::Rename(const Element& element) {
+  const auto* label = dynamic_cast<const Label*>(&element);
+  if (!label || label->Style() == LabelStyle::Text)
+    NameControls();
+  else if (const auto peer = controls_.find(&element); peer != controls_.end())
+    peer->second->ShowName();
+}
+
+void QtFormPeer::NameControls() {
+  for (const auto& [control, peer] : controls_) peer->ShowName();
 }
 
 void QtFormPeer::Add(Control& control) {
   const auto* outer = dynamic_cast<const Control*>(&control.Parent());
   Add(control, outer ? controls_.at(outer)->Widget() : window_->Content());
+  controls_.at(&control)->ShowName();
 }
 
 void QtFormPeer::Remove(Control& control) {

@@ -40,6 +40,8 @@ class QtFormPeer final : public FormPeer {
   void EndDialogs();
   void AddControls(const Container& container, QWidget& parent);
   void Add(Control& control, QWidget& parent);
+  void NameControls();
+  void Rename(const Element& element);
   void UpdateForm(Property property);
   QWidget* OwnerWindow() const;
   void Compare(DifferenceList& differences) const;

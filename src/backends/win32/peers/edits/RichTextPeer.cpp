@@ -1,19 +1,11 @@
 #include "backends/win32/peers/edits/RichTextPeer.h"
 
-#include "backends/win32/toolkit/Captions.h"
 #include "forms/Form.h"
-#include "forms/controls/Frame.h"
+#include "forms/controls/SpokenName.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {
 namespace {
-
-/// The title of the frame around a box, else that of its form.
-std::u16string NameOf(const RichTextBox& box) {
-  const auto* frame = dynamic_cast<const Frame*>(&box.Parent());
-  return frame && !frame->Caption().empty() ? WithoutMnemonic(frame->Caption())
-                                            : box.Owner().Caption();
-}
 
 std::shared_ptr<SurfaceWindow> MakeWindow(RichTextBox& box, HWND parent, PeerHost& host) {
   ViewCallbacks callbacks;
@@ -21,7 +13,7 @@ std::shared_ptr<SurfaceWindow> MakeWindow(RichTextBox& box, HWND parent, PeerHos
   callbacks.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
   callbacks.locked = [&box] { return box.Locked(); };
   callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
-  callbacks.name = [&box] { return NameOf(box); };
+  callbacks.name = [&box] { return SpokenNameOf(box); };
   callbacks.key = [&box, &host](const KeyStroke& key) { return host.UnusedKey(box, key); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
   return std::make_shared<SurfaceWindow>(parent, surface, host.LayouterOf(box),

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <windowsx.h>
 
-#include "backends/win32/toolkit/Captions.h"
 #include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/MousePoint.h"
 #include "backends/win32/toolkit/NativeText.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
+#include "forms/values/Captions.h"
 
 namespace lumenote {
 namespace {

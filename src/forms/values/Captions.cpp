@@ -1,4 +1,4 @@
-#include "backends/win32/toolkit/Captions.h"
+#include "forms/values/Captions.h"
 
 namespace lumenote {
 

@@ -1,0 +1,13 @@
+// What assistive programs call a control.
+#pragma once
+#include <string>
+
+#include "forms/Control.h"
+
+namespace lumenote {
+
+/// Its own spoken name or caption; else the label that stands before it in its container, or the
+/// title of the container, or of the window. A label's tooltip stands in for a caption it lacks.
+std::u16string SpokenNameOf(const Control& control);
+
+}  // namespace lumenote

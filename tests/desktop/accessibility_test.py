@@ -1,0 +1,106 @@
+#!/usr/bin/env python3
+"""Windows and notes as a screen reader gets to know them."""
+import json
+import os
+import pathlib
+import subprocess
+
+from rig import Host, Notes, main
+
+NOTE = (r"{\rtf1{\fonttbl{\f0 Arial;}}{\colortbl;\red255\green0\blue0;}\f0\fs24 plain "
+        r"{\b\ul\strike\cf1 bold}{\super up}\par\qc mid\par}")
+PYTHON = "/usr/bin/python3"  # the system's own has the bindings
+READY = f"""which dbus-daemon && {PYTHON} -c 'import gi; gi.require_version("Atspi", "2.0")'"""
+STATIC = {"label", "filler", "panel", "frame", "dialog", "status bar", "menu bar", "separator",
+          "list item", "table cell", "tool tip", "unknown"}
+
+
+class Accessibility(Notes):
+    def setUp(self):
+        if subprocess.run(["sh", "-c", READY], capture_output=True).returncode != 0:
+            self.skipTest("no interface of screen readers")
+        super().setUp()
+
+    def open(self, *notes):
+        del self.env["NO_AT_BRIDGE"]
+        reading, writing = os.pipe()
+        self.start("dbus-daemon", "--session", "--nofork", f"--print-address={writing}",
+                   pass_fds=[writing])
+        os.close(writing)
+        with open(reading, encoding="ascii") as address:
+            self.env["DBUS_SESSION_BUS_ADDRESS"] = address.readline().strip()
+        self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        listener = pathlib.Path(__file__).with_name("listener.py")
+        self.listener = Host(self, PYTHON, str(listener))
+        self.listener.ask("events")
+        super().open(*notes)
+        self.wait(self.tree, "the tree")
+
+    def tree(self, window=""):
+        return [item for item in json.loads(self.listener.ask("tree")) if window in item["window"]]
+
+    def named(self, role, name):
+        return [item for item in self.tree() if (item["role"], item["name"]) == (role, name)]
+
+    def told(self, *wanted):
+        """Waits until these kinds of events have come, with their details; returns all that came."""
+        heard = []
+
+        def complete():
+            heard.extend(json.loads(self.listener.ask("events")))
+            events = [tuple(event[:3]) for event in heard]
+            return all(event in events for event in wanted)
+
+        self.wait(complete, f"the events {wanted} among {heard}")
+        return heard
+
+    def focused(self):
+        return [(item["role"], item["name"]) for item in self.tree() if "focused" in item["states"]]
+
+    def test_every_window_is_named_part_by_part(self):
+        self.open(NOTE)
+        self.keys(self.note, "ctrl+f")
+        self.front("Trouver")
+        self.paragraph_dialog()
+        items = self.tree()
+        nameless = [item for item in items if not item["name"] and item["role"] not in STATIC and
+                    {"focusable", "showing"} <= set(item["states"])]
+        self.assertEqual(nameless, [])
+        parts = {(item["role"], item["name"]) for item in items}
+        for part in (("frame", "Note 1"), ("dialog", "Trouver / Remplacer"), ("label", "Trouver:"),
+                     ("combo box", "Trouver:"), ("panel", "Alignement"), ("radio button", "Centre"),
+                     ("text", "Indent Gauche"), ("spin button", "Indent Gauche"),
+                     ("text", "Taille"), ("check box", "Sensible à la casse")):
+            self.assertIn(part, parts)
+
+    def test_typing_deleting_and_formatting_are_told_as_such(self):
+        self.open(NOTE)
+        self.wait(lambda: len(self.focused()) == 1, "one focus")
+        self.keys(self.note, "ctrl+Home")
+        self.type(self.note, "x")
+        self.told(("object:text-changed:insert", 0, "x"), ("object:text-caret-moved", 1, ""))
+        self.keys(self.note, "ctrl+Delete")
+        self.told(("object:text-changed:delete", 1, "plain "))
+        self.keys(self.note, "ctrl+a")
+        self.told(("object:text-selection-changed", 0, ""))
+        self.keys(self.note, "ctrl+e")
+        self.host.waits_for("rtf 1", lambda source: source.count("\\qc") > 0)
+        self.keys(self.note, "ctrl+Home")
+        heard = self.told(("object:text-caret-moved", 0, ""))
+        self.assertFalse([event for event in heard if "text-changed" in event[0]])
+
+    def test_a_word_has_its_attributes(self):
+        self.open(NOTE)
+        runs = next(item["runs"] for item in self.tree() if item["role"] == "text" and
+                    "editable" in item["states"])
+        looks = ("weight", "underline", "fg-color", "vertical-align", "justification")
+        self.assertEqual([run["range"] for run in runs],
+                         [[0, 6], [6, 10], [10, 12], [12, 14], [14, 17]])
+        self.assertEqual([runs[1][look] for look in looks],
+                         ["bold", "single", "255,0,0", "baseline", "left"])
+        self.assertEqual(runs[2]["vertical-align"], "super")
+        self.assertEqual(runs[4]["justification"], "center")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,76 @@
+"""What a screen reader gets to know: conducted like a host, each answer one line of JSON.
+
+tree      every object of the programs on the desktop: role, name, states, attributes of its text
+events    what has been told since the last question: kind, detail, text, name of the object
+"""
+import json
+import sys
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib
+
+KINDS = ("object:text-caret-moved", "object:text-changed", "object:text-selection-changed",
+         "object:state-changed:focused")
+STATES = {getattr(Atspi.StateType, name.upper()): name
+          for name in ("focused", "focusable", "showing", "checked", "editable")}
+told = []
+
+
+def hear(event):
+    text = event.any_data if isinstance(event.any_data, str) else ""
+    told.append([event.type, event.detail1, text, event.source.get_name()])
+
+
+def runs(text):
+    """The attributes of the text, run by run, each as a dictionary with its range."""
+    found, at, length = [], 0, min(text.get_character_count(), 200)
+    while at < length:
+        attributes, start, end = text.get_attribute_run(at, False)
+        found.append(dict(attributes, range=[start, end]))
+        at = max(end, at + 1)
+    return found
+
+
+def describe(item, window):
+    states = item.get_state_set()
+    text = item.get_text_iface()
+    return {"window": window, "role": item.get_role_name(), "name": item.get_name(),
+            "states": [name for state, name in STATES.items() if states.contains(state)],
+            "runs": runs(text) if text else []}
+
+
+def walk(item, window):
+    yield describe(item, window)
+    for number in range(item.get_child_count()):
+        if child := item.get_child_at_index(number):
+            yield from walk(child, window)
+
+
+def tree():
+    desktop = Atspi.get_desktop(0)
+    programs = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
+    windows = [program.get_child_at_index(i) for program in programs
+               for i in range(program.get_child_count())]
+    return [item for window in windows for item in walk(window, window.get_name())]
+
+
+def obey(*_):
+    line = sys.stdin.readline()
+    if not line:
+        Atspi.event_quit()
+        return False
+    answer = tree() if line.strip() == "tree" else told[:]
+    if line.strip() == "events":
+        told.clear()
+    print(json.dumps(answer), flush=True)
+    return True
+
+
+Atspi.init()
+listener = Atspi.EventListener.new(hear)
+for kind in KINDS:
+    listener.register(kind)
+GLib.io_add_watch(0, GLib.IO_IN | GLib.IO_HUP, obey)
+Atspi.event_main()
