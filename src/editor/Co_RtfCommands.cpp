@@ -77,6 +77,7 @@ void Co_Rtf::WirePrograms() {
 }
 
 void Co_Rtf::WireOcr() {
+  Bx_RTF.ChecksSpelling(true);
   Bx_RTF.Learn = [this](const std::u16string& wrong, const std::u16string& right) {
     AppendCorrection(Machine().FileSystem(), session_.listCorrPath, wrong, right);
   };

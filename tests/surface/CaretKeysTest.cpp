@@ -4,6 +4,7 @@
 #include "base/DataFile.h"
 #include "base/Rows.h"
 #include "surface/UserBench.h"
+#include "surface/keys/SpelledWords.h"
 
 namespace lumenote {
 namespace {
@@ -49,6 +50,24 @@ TEST(Keys, NamesAreRead) {
   EXPECT_EQ(ParseKey(u"F12"), (KeyStroke{.name = KeyName::Function, .character = 12}));
   for (const auto* none : {u"F25", u"F05", u"Delette", u"Ctrl+", u""})
     EXPECT_FALSE(ParseKey(none)) << ToUtf8(none);
+}
+
+TEST(SpelledWords, AreThoseThatAFrenchDictionaryMayHave) {
+  const std::pair<std::u16string_view, std::u16string_view> rows[] = {
+      {u"L'arbre aujourd\\'92hui porte-greffe", u"L'arbre|aujourd\u2019hui|porte-greffe"},
+      {u"'un' -deux- a 2n x2 12 \\'c9t\\'e9, {\\i Orchis}", u"un|deux|\u00C9t\u00E9"},
+      {u"{\\lang1033 color }{\\lang3084 couleur }{\\v vu}\\par deux", u"couleur|deux"},
+      {u"Huds., 1762 ; alt. 420 ; fin.\\par Plante. Une.", u"fin|Plante|Une"},
+      {u"un_deux trois\\u769 ? quatre", u"quatre"}};
+  for (const auto& [rtf, words] : rows) {
+    UserBench bench;
+    bench.surface.TextRTF(u"{\\rtf1 " + std::u16string(rtf) + u"}");
+    const Document& note = bench.surface.Content();
+    std::u16string found;
+    for (const Selection& word : SpelledWords(note, 0, note.Length()))
+      found += (found.empty() ? u"" : u"|") + note.Text(word.start, word.end);
+    EXPECT_EQ(found, words);
+  }
 }
 
 }  // namespace

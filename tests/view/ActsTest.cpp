@@ -6,7 +6,6 @@
 #include "base/Rows.h"
 #include "view/Window.h"
 #include "view/acts/AccessibleText.h"
-#include "view/acts/SpelledWords.h"
 #include "view/acts/TextDrag.h"
 #include "view/acts/TextTips.h"
 #include "view/acts/TextWalk.h"
@@ -352,24 +351,6 @@ TEST(TextWalks, GoFromUnitToUnit) {
     EXPECT_EQ(step.count, row.moved) << row.from.start;
     const TextWalk::Step edge = walk.EdgeMoved(row.from.start, row.unit, row.count);
     EXPECT_EQ((Selection{edge.range.start, edge.count}), row.edge) << row.from.start;
-  }
-}
-
-TEST(SpelledWords, AreThoseThatAFrenchDictionaryMayHave) {
-  const std::pair<std::u16string_view, std::u16string_view> rows[] = {
-      {u"L'arbre aujourd\\'92hui porte-greffe", u"L'arbre|aujourd\u2019hui|porte-greffe"},
-      {u"'un' -deux- a 2n x2 12 \\'c9t\\'e9, {\\i Orchis}", u"un|deux|\u00C9t\u00E9"},
-      {u"{\\lang1033 color }{\\lang3084 couleur }{\\v vu}\\par deux", u"couleur|deux"},
-      {u"Huds., 1762 ; alt. 420 ; fin.\\par Plante. Une.", u"fin|Plante|Une"},
-      {u"un_deux trois\\u769 ? quatre", u"quatre"}};
-  for (const auto& [rtf, words] : rows) {
-    User user;
-    user.surface.TextRTF(u"{\\rtf1 " + std::u16string(rtf) + u"}");
-    const Document& note = user.surface.Content();
-    std::u16string found;
-    for (const Selection& word : SpelledWords(note, 0, note.Length()))
-      found += (found.empty() ? u"" : u"|") + note.Text(word.start, word.end);
-    EXPECT_EQ(found, words);
   }
 }
 

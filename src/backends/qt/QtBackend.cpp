@@ -38,6 +38,10 @@ std::unique_ptr<RichTextSurface> QtBackend::MakeSurface(RichTextBox& box, Clipbo
   return std::make_unique<DocumentSurface>(clipboard, files, layout->breaker);
 }
 
+Speller* QtBackend::SpellerOf(const RichTextBox& box) {
+  return box.ChecksSpelling() ? speller_ : nullptr;
+}
+
 // A modal parent elsewhere would lock windows above another one.
 QWidget* QtBackend::DialogParent(const Form* over) const {
   if (!over) return nullptr;

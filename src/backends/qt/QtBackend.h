@@ -33,8 +33,8 @@ class QtBackend final : public Backend, private PeerServices {
   WidgetRegistry& Widgets() override { return widgets_; }
   void Used(Form& form) override;
 
-  /// Windows opened from now on check their words; null: they do not. It must outlive them.
-  void WordChecker(Speller* speller) { speller_ = speller; }
+  /// Windows opened from now on check their words by it; null: they do not. It must outlive them.
+  void CheckSpelling(Speller* speller) { speller_ = speller; }
 
   /// Closes the remaining windows as the user would, the latest first; abandons those that refuse.
   void CloseForms();
@@ -46,7 +46,7 @@ class QtBackend final : public Backend, private PeerServices {
   };
 
   QtLayouter& LayouterOf(const Control& box) override { return layouts_.at(&box)->layouter; }
-  Speller* WordChecker() override { return speller_; }
+  Speller* SpellerOf(const RichTextBox& box) override;
   /// The owner of a box that `over` asks for; null for none.
   QWidget* DialogParent(const Form* over) const;
   void NativelyActive(Form& form) override;

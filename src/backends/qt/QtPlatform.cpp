@@ -101,7 +101,9 @@ struct QtPlatform::Parts {
 };
 
 struct QtPlatform::Desktop {
-  explicit Desktop(Settings& settings) : speller(settings) {}
+  explicit Desktop(Parts& parts) : speller(parts.settings) { CheckSpelling(parts.spelling); }
+
+  void CheckSpelling(bool on) { windows.CheckSpelling(on ? &speller : nullptr); }
 
   OwnApplication application;
   Speller speller;
@@ -119,12 +121,14 @@ QtPlatform::Desktop& QtPlatform::OnDesktop() {
   if (desktop_)
     CheckApplication();
   else
-    desktop_ = std::make_unique<Desktop>(parts_->settings);
-  desktop_->windows.WordChecker(parts_->spelling ? &desktop_->speller : nullptr);
+    desktop_ = std::make_unique<Desktop>(*parts_);
   return *desktop_;
 }
 
-void QtPlatform::Spelling(bool on) { parts_->spelling = on; }
+void QtPlatform::Spelling(bool on) {
+  parts_->spelling = on;
+  if (desktop_) desktop_->CheckSpelling(on);
+}
 
 Backend& QtPlatform::Windows() { return OnDesktop().windows; }
 

@@ -29,8 +29,10 @@ class RichTextBox : public Control {
   /// The content has changed, whatever changed it.
   std::function<void()> Change;
 
-  /// The user mends a wrong word for good: stores both. The words of a box that has this are
-  /// checked, if the backend can.
+  /// Whether misspelt words are marked, if the backend can. To be set before the window is shown.
+  bool ChecksSpelling() const { return checksSpelling_; }
+  void ChecksSpelling(bool on) { checksSpelling_ = on; }
+  /// Required then. The user has mended a word and wants the correction to be kept.
   std::function<void(const std::u16string& wrong, const std::u16string& right)> Learn;
 
   void Describe(MemberTable& members) override;
@@ -38,6 +40,7 @@ class RichTextBox : public Control {
  private:
   std::unique_ptr<RichTextSurface> surface_;
   bool locked_ = false;
+  bool checksSpelling_ = false;
 };
 
 }  // namespace lumenote

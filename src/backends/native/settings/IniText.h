@@ -18,6 +18,7 @@ namespace lumenote {
 class IniText {
  public:
   explicit IniText(std::string_view bytes = {});
+  // Movable only: the lines point into `sections_`.
   IniText(IniText&&) = default;
   IniText& operator=(IniText&&) = default;
 

@@ -11,6 +11,7 @@
 
 namespace lumenote {
 
+class RichTextBox;
 class Speller;
 
 /// Common to all controls; each kind has a derived class. The parent widget owns the widget, which
@@ -55,7 +56,7 @@ class LayouterSource {
   /// What lays out the text of the box's surface.
   virtual QtLayouter& LayouterOf(const Control& box) = 0;
   /// What looks up its words; null if they are not checked.
-  virtual Speller* WordChecker() = 0;
+  virtual Speller* SpellerOf(const RichTextBox& box) = 0;
 };
 
 /// Creates the peer for any kind of control, its widget a child of `parent`, in the control's

@@ -14,8 +14,7 @@ RichTextView* MakeView(RichTextBox& box, QWidget& parent, LayouterSource& layout
   callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
   auto* view = new RichTextView(surface, layouters.LayouterOf(box), std::move(callbacks), &parent);
-  if (Speller* speller = layouters.WordChecker(); speller && box.Learn)
-    view->CheckSpelling(*speller, box.Learn);
+  if (Speller* speller = layouters.SpellerOf(box)) view->CheckSpelling(*speller, box.Learn);
   return view;
 }
 

@@ -18,11 +18,11 @@ constexpr int kGathering = 20;               // milliseconds
 }  // namespace
 
 Speller::Speller(Settings& settings) : settings_(settings) {
-  asking_.setSingleShot(true);
-  asking_.setInterval(kGathering);
-  telling_.setSingleShot(true);
-  QObject::connect(&asking_, &QTimer::timeout, [this] { LookUp(); });
-  there_.moveToThread(&thread_);
+  askTimer_.setSingleShot(true);
+  askTimer_.setInterval(kGathering);
+  changeTimer_.setSingleShot(true);
+  QObject::connect(&askTimer_, &QTimer::timeout, [this] { LookUp(); });
+  worker_.moveToThread(&thread_);
 }
 
 Speller::~Speller() {
@@ -31,9 +31,9 @@ Speller::~Speller() {
 }
 
 template <class Act>
-void Speller::Behind(Act act) {
+void Speller::OnWorker(Act act) {
   if (!thread_.isRunning()) thread_.start(QThread::LowPriority);
-  QMetaObject::invokeMethod(&there_, [this, act = std::move(act)] {
+  QMetaObject::invokeMethod(&worker_, [this, act = std::move(act)] {
     if (!std::exchange(searched_, true))
       if (const auto path = Dictionary::Installed())
         dictionary_ = std::make_unique<Dictionary>(*path);
@@ -46,32 +46,32 @@ bool Speller::IsWrong(const std::u16string& word) {
   const auto [known, added] = wrong_.try_emplace(word, false);
   if (!added) return known->second;
   asked_.push_back(word);
-  if (!asking_.isActive()) asking_.start();
+  if (!askTimer_.isActive()) askTimer_.start();
   return false;
 }
 
 void Speller::LookUp() {
-  Behind([this, words = std::exchange(asked_, {})] { Judge(words); });
+  OnWorker([this, words = std::exchange(asked_, {})] { LookUpOnWorker(words); });
 }
 
-void Speller::Judge(const Words& words) {
+void Speller::LookUpOnWorker(const Words& words) {
   Words wrong;
   for (const std::u16string& word : words)
     if (dictionary_ && !dictionary_->Knows(ToQString(word))) wrong.push_back(word);
-  if (!wrong.empty()) QMetaObject::invokeMethod(&here_, [this, wrong] { Found(wrong); });
+  if (!wrong.empty()) QMetaObject::invokeMethod(&gui_, [this, wrong] { Found(wrong); });
 }
 
 void Speller::Found(const Words& wrong) {
   for (const std::u16string& word : wrong)
     wrong_[word] = settings_.Read(kApplication, kSection, word) != kRight;
-  telling_.start(0);
+  changeTimer_.start(0);
 }
 
 void Speller::Suggest(const std::u16string& word, QObject* context,
                       std::function<void(const QStringList&)> found) {
-  Behind([this, word, context = QPointer(context), found = std::move(found)] {
+  OnWorker([this, word, context = QPointer(context), found = std::move(found)] {
     const QStringList all = dictionary_ ? dictionary_->Suggestions(ToQString(word)) : QStringList();
-    QMetaObject::invokeMethod(&here_, [=] {
+    QMetaObject::invokeMethod(&gui_, [=] {
       if (context) found(all);
     });
   });
@@ -80,11 +80,11 @@ void Speller::Suggest(const std::u16string& word, QObject* context,
 void Speller::Add(const std::u16string& word) {
   settings_.Write(kApplication, kSection, word, kRight);
   wrong_[word] = false;
-  telling_.start(0);
+  changeTimer_.start(0);
 }
 
 void Speller::OnChange(QObject* context, const std::function<void()>& changed) {
-  QObject::connect(&telling_, &QTimer::timeout, context, changed);
+  QObject::connect(&changeTimer_, &QTimer::timeout, context, changed);
 }
 
 }  // namespace lumenote

@@ -1,4 +1,4 @@
-// Which words are spelt wrong, looked up behind the windows' back.
+// Which words are spelt wrong, looked up by a thread of its own.
 #pragma once
 #include <QObject>
 #include <QStringList>
@@ -42,19 +42,19 @@ class Speller {
 
   /// Runs an act on the dictionary's thread.
   template <class Act>
-  void Behind(Act act);
+  void OnWorker(Act act);
   void LookUp();
-  void Judge(const Words& words);
+  void LookUpOnWorker(const Words& words);
   void Found(const Words& wrong);
 
   Settings& settings_;
   std::unordered_map<std::u16string, bool> wrong_;  // by the words asked for so far
   Words asked_;                                     // but not looked up yet
-  QTimer asking_;
-  QTimer telling_;
-  QObject here_;  // on the windows' thread
+  QTimer askTimer_;
+  QTimer changeTimer_;
+  QObject gui_;  // on the windows' thread
   QThread thread_;
-  QObject there_;                           // on the dictionary's
+  QObject worker_;                          // on the dictionary's
   std::unique_ptr<Dictionary> dictionary_;  // only used there
   bool searched_ = false;                   // likewise: for an installed one
 };

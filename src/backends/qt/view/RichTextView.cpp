@@ -68,7 +68,6 @@ void RichTextView::CheckSpelling(Speller& speller, SpellingMarks::Learn learn) {
 
 void RichTextView::Detach() {
   blinking_.stop();
-  spelling_.reset();
   text_.Detach();
 }
 

@@ -1,6 +1,5 @@
 #include "backends/qt/view/SpellingMarks.h"
 
-#include <QMenu>
 #include <QPainterPath>
 #include <algorithm>
 
@@ -9,7 +8,7 @@
 #include "backends/qt/toolkit/Pixels.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/view/RichTextView.h"
-#include "view/acts/SpelledWords.h"
+#include "surface/keys/SpelledWords.h"
 
 namespace lumenote {
 
@@ -99,43 +98,54 @@ void SpellingMarks::Open() {
 void SpellingMarks::Open(Selection word) {
   const std::u16string wrong = TextOf(word);
   speller_.Suggest(wrong, this, [this, word, wrong](const QStringList& suggestions) {
-    if (view_.IsAttached() && TextOf(word) == wrong) ShowPopup(word, suggestions);
+    const Misspelling misspelling{word, wrong};
+    if (IsThere(misspelling)) ShowPopup(misspelling, suggestions.mid(0, kMostSuggestions));
   });
 }
 
-void SpellingMarks::ShowPopup(Selection word, const QStringList& suggestions) {
-  const auto box = view_.Pane().CaretAt(word.start);
-  if (!box) return;
-  const PixelPoint below{box->left, box->bottom};
-  const std::u16string wrong = TextOf(word);
+bool SpellingMarks::IsThere(const Misspelling& word) const {
+  return view_.IsAttached() && TextOf(word.range) == word.text;
+}
+
+void SpellingMarks::ShowPopup(const Misspelling& word, const QStringList& suggestions) {
+  const auto caret = view_.Pane().CaretAt(word.range.start);
+  if (!caret) return;
+  const PixelPoint below{caret->left, caret->bottom};
   auto* menu = new QMenu(&view_);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->setFont(ControlFont());
-  const QStringList best = suggestions.mid(0, kMostSuggestions);
-  for (const QString& right : best)
-    menu->addAction(right, this, [=, this] { Mend(word, wrong, right); });
-  if (best.isEmpty()) menu->addAction(QStringLiteral("Aucune proposition"))->setEnabled(false);
+  AddSuggestions(*menu, word, suggestions);
   menu->addSeparator();
-  if (learn_ && !best.isEmpty()) {
-    QMenu* learn = menu->addMenu(QStringLiteral("&Apprendre la correction"));
-    for (const QString& right : best)
-      learn->addAction(right, this, [=, this] {
-        Mend(word, wrong, right);
-        view_.Text().Act([&] { learn_(wrong, FromQString(right)); });
-      });
-  }
   menu->addAction(QStringLiteral("Ajouter au &dictionnaire"), this,
-                  [=, this] { view_.Text().Act([&] { speller_.Add(wrong); }); });
+                  [=, this] { view_.Text().Act([&] { speller_.Add(word.text); }); });
   menu->addSeparator();
   menu->addAction(QStringLiteral("&Menu de la note"), this,
                   [=, this] { view_.OpenNoteMenu(below); });
   menu->popup(view_.viewport()->mapToGlobal(ToQPoint(below).toPoint()));
 }
 
-void SpellingMarks::Mend(Selection word, const std::u16string& wrong, const QString& right) {
-  if (!view_.IsAttached() || TextOf(word) != wrong) return;
-  view_.Text().Select(word.start, word.end);
+void SpellingMarks::AddSuggestions(QMenu& menu, const Misspelling& word,
+                                   const QStringList& suggestions) {
+  if (suggestions.isEmpty())
+    return menu.addAction(QStringLiteral("Aucune proposition"))->setEnabled(false);
+  for (const QString& right : suggestions)
+    menu.addAction(right, this, [=, this] { Mend(word, right); });
+  menu.addSeparator();
+  QMenu* learn = menu.addMenu(QStringLiteral("&Apprendre la correction"));
+  for (const QString& right : suggestions)
+    learn->addAction(right, this, [=, this] { MendAndLearn(word, right); });
+}
+
+void SpellingMarks::Mend(const Misspelling& word, const QString& right) {
+  if (!IsThere(word)) return;
+  view_.Text().Select(word.range.start, word.range.end);
   view_.Text().Type(FromQString(right));
+}
+
+void SpellingMarks::MendAndLearn(const Misspelling& word, const QString& right) {
+  if (!IsThere(word)) return;
+  Mend(word, right);
+  if (view_.IsAttached()) view_.Text().Act([&] { learn_(word.text, FromQString(right)); });
 }
 
 }  // namespace lumenote

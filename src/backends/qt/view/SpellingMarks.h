@@ -1,11 +1,11 @@
 // Waves under misspelt words, and the popup that mends one.
 #pragma once
 #include <QBasicTimer>
+#include <QMenu>
 #include <QObject>
 #include <QPainter>
 #include <QPointF>
 #include <functional>
-#include <optional>
 #include <string>
 
 #include "document/Document.h"
@@ -23,7 +23,7 @@ class SpellingMarks : public QObject {
   /// Stores the correction of a word: wrong, right.
   using Learn = std::function<void(const std::u16string&, const std::u16string&)>;
 
-  /// Both must outlive the marks.
+  /// The view must outlive the marks, the speller the view's being attached.
   SpellingMarks(RichTextView& view, Speller& speller, Learn learn);
 
   void Paint(QPainter& painter, const QRectF& area);
@@ -38,12 +38,21 @@ class SpellingMarks : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
+  /// A word as it was when its popup was asked for.
+  struct Misspelling {
+    Selection range;
+    std::u16string text;
+  };
+
   std::u16string TextOf(Selection word) const;
   bool IsMarked(Selection word) const;
   void PaintPiece(QPainter& painter, const ShownPiece& item);
   void Open(Selection word);
-  void ShowPopup(Selection word, const QStringList& suggestions);
-  void Mend(Selection word, const std::u16string& wrong, const QString& right);
+  bool IsThere(const Misspelling& word) const;
+  void ShowPopup(const Misspelling& word, const QStringList& suggestions);
+  void AddSuggestions(QMenu& menu, const Misspelling& word, const QStringList& suggestions);
+  void Mend(const Misspelling& word, const QString& right);
+  void MendAndLearn(const Misspelling& word, const QString& right);
 
   RichTextView& view_;
   Speller& speller_;

@@ -1,4 +1,4 @@
-#include "view/acts/SpelledWords.h"
+#include "surface/keys/SpelledWords.h"
 
 #include <algorithm>
 #include <string_view>
@@ -45,12 +45,17 @@ bool MayBeFrench(const CharFormat& format) {
 }  // namespace
 
 std::vector<Selection> SpelledWords(const Document& document, Position from, Position to) {
-  const std::u16string text = document.Text(from, to);
+  // Words reach beyond the range, but not into other paragraphs.
+  const Position first = document.ParagraphStart(document.ParagraphOf(from));
+  const Position last = document.ParagraphEnd(document.ParagraphOf(to));
+  const Position start = std::max(from - kLongest, first);
+  const std::u16string text = document.Text(start, std::min(to + kLongest, last));
   std::vector<Selection> words;
-  for (std::size_t start = 0, end = 0; start < text.size(); start = end + 1) {
-    for (end = start; end < text.size() && IsInWord(text, end);) ++end;
-    const std::u16string_view word = std::u16string_view(text).substr(start, end - start);
-    const Selection range{from + static_cast<Position>(start), from + static_cast<Position>(end)};
+  for (std::size_t begin = 0, end = 0; begin < text.size(); begin = end + 1) {
+    for (end = begin; end < text.size() && IsInWord(text, end);) ++end;
+    const Selection range{start + static_cast<Position>(begin), start + static_cast<Position>(end)};
+    if (range.end < from || range.start > to) continue;
+    const std::u16string_view word = std::u16string_view(text).substr(begin, end - begin);
     const CharId format = document.CharFormatAt(range.start);
     if (IsSpelled(word) && !IsAbbreviated(text, end) &&
         MayBeFrench(document.Formats().characters[format]))
@@ -60,12 +65,8 @@ std::vector<Selection> SpelledWords(const Document& document, Position from, Pos
 }
 
 Selection SpelledWordAt(const Document& document, Position position) {
-  const Position paragraph = document.ParagraphOf(position);
-  const Position from = std::max(position - kLongest, document.ParagraphStart(paragraph));
-  const Position to = std::min(position + kLongest, document.ParagraphEnd(paragraph));
-  for (const Selection& word : SpelledWords(document, from, to))
-    if (word.start <= position && position <= word.end) return word;
-  return {position, position};
+  const std::vector<Selection> words = SpelledWords(document, position, position);
+  return words.empty() ? Selection{position, position} : words.front();
 }
 
 }  // namespace lumenote
