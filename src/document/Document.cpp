@@ -61,6 +61,7 @@ Fragment Document::Copy(Position from, Position to) const {
 
 Fragment Document::Replace(Selection range, Fragment fragment) {
   Fragment removed{leaves_.Replace(range.start, range.end, std::move(fragment.leaves)), {}};
+  ++version_;
   if (fragment.mark) removed.mark = std::exchange(mark_, *fragment.mark);
   return removed;
 }

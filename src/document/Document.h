@@ -28,6 +28,9 @@ class Document {
   FormatTables& Formats() { return *formats_; }
   const FormatTables& Formats() const { return *formats_; }
 
+  /// Differs after each edit.
+  std::uint64_t Version() const { return version_; }
+
   Position Length() const { return leaves_.Length(); }
   /// At least 1: each break starts another paragraph.
   Position ParagraphCount() const { return leaves_.Breaks() + 1; }
@@ -97,6 +100,7 @@ class Document {
   std::shared_ptr<FormatTables> formats_;
   LeafList leaves_;
   FinalMark mark_;
+  std::uint64_t version_ = 1;
 };
 
 }  // namespace lumenote

@@ -121,6 +121,41 @@ TEST(Links, OpenWithCtrlAndTellWhereTheyLead) {
   }
 }
 
+/// The numbers that the notes show; "-" between paragraphs.
+std::string NumbersOf(User& user) {
+  std::string numbers;
+  user.view.Settle();
+  for (const auto& piece : user.pane.Cache().Pieces()) {
+    for (const InlineBox& box : piece->boxes) numbers += std::to_string(box.number) + ' ';
+    numbers += '-';
+  }
+  return numbers;
+}
+
+TEST(Footnotes, AreNumberedThroughTheNote) {
+  User user;
+  const std::u16string note = u"{\\super\\chftn{\\footnote\\chftn  a}}";
+  user.surface.TextRTF(u"{\\rtf1 a" + note + u"b*{\\footnote * marque}c" + note + u"\\par d{\\v" +
+                       note + u"}" + note + u"}");
+  EXPECT_EQ(NumbersOf(user), "1 2 -4 -");
+  EXPECT_EQ(user.pane.Cache().At(0).XOf(6) - user.pane.Cache().At(0).XOf(5), 10);
+  EXPECT_EQ(TipAt(user.pane, {35, 12}), u"* marque");
+  user.surface.UserSelect(0, 2);
+  user.surface.UserKey({.name = KeyName::Delete});
+  EXPECT_EQ(NumbersOf(user), "1 -3 -");
+  user.surface.Undo();
+  EXPECT_EQ(NumbersOf(user), "1 2 -4 -");
+  user.surface.UserSelect(0, user.surface.TextLength());
+  user.surface.Copy();
+  user.surface.UserSelect(0, 0);
+  for (int i = 0; i < 3; ++i) user.surface.Paste();
+  user.surface.UserSelect(user.surface.TextLength(), user.surface.TextLength());
+  user.view.Settle();
+  user.pane.Reveal(user.surface.TextLength());
+  EXPECT_TRUE(NumbersOf(user).ends_with("16 -")) << NumbersOf(user);
+  EXPECT_EQ(user.view.Differences(), std::vector<std::string>());
+}
+
 TEST(Keys, AreTheViewsOrTheWindows) {
   struct KeyRow {
     std::u16string_view key, typed, shown;

@@ -77,6 +77,10 @@ class ReapingProcesses final : public PosixProcesses {
     timer_.start(kInterval);
     return PosixProcesses::Start(commandLine);
   }
+  void Open(std::u16string_view address) override {
+    timer_.start(kInterval);
+    PosixProcesses::Open(address);
+  }
 
  private:
   static constexpr int kInterval = 1000;  // milliseconds

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "document/Footnotes.h"
 #include "document/Links.h"
-#include "document/pictures/PictureFrame.h"
 #include "view/layout/TextLayouter.h"
 
 namespace lumenote {
@@ -16,7 +16,6 @@ constexpr double kMaxPoints = 1638;
 constexpr double kScriptSize = 0.65;
 constexpr double kSuperscriptRaise = 0.33;  // of the full size
 constexpr double kSubscriptRaise = -0.14;
-constexpr double kPlaceholderSize = 1.6;
 constexpr double kLeastContrast = 2;
 constexpr Colour kBlack = 0;
 constexpr Colour kWhite = 0xFFFFFF;
@@ -63,7 +62,6 @@ Colour Readable(Colour wanted, Colour ground) {
 
 void SetColours(CharLook& look, const CharFormat& format, Colour ground) {
   look.ground = format.highlight;
-  if (look.object) return;
   if (format.highlight == kAutoColour)
     look.ink = format.colour == kAutoColour ? kAutoColour : Readable(format.colour, ground);
   else if (format.colour == kAutoColour)
@@ -81,7 +79,6 @@ void SetSize(CharLook& look, const CharFormat& format, double zoom) {
   const double raise = super ? kSuperscriptRaise : sub ? kSubscriptRaise : 0;
   look.points = super || sub ? full * kScriptSize : full;
   look.raise = (format.offset / kTwipsInPixel + pixels * raise) * zoom;
-  if (look.object) look.points *= kPlaceholderSize;
 }
 
 int StrikesOf(unsigned effects) {
@@ -93,16 +90,15 @@ int StrikesOf(unsigned effects) {
 void ShowLink(CharLook& look, Colour ground) {
   if (look.underline == Underline::None) look.underline = Underline::Single;
   const bool plain = look.ink == kAutoColour && look.ground == kAutoColour;
-  if (plain && !look.object) look.ink = Readable(kLinkColour, ground);
+  if (plain) look.ink = Readable(kLinkColour, ground);
 }
 
 }  // namespace
 
 CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground) {
   CharLook look;
-  look.hidden = format.effects & kHidden;
-  const Kept& kept = tables.kept[format.kept];
-  look.object = kept.kind == Kept::Kind::Embedded && !IsBoxed(tables.items[kept.self]);
+  const bool bareNote = IsFootnote(tables, format) && !HasNumber(tables, format);
+  look.hidden = bareNote || (format.effects & kHidden);
   look.underline = format.underline;
   look.strikes = StrikesOf(format.effects);
   look.capitals = format.effects & (kAllCaps | kSmallCaps);

@@ -20,7 +20,6 @@ struct CharLook {
   bool capitals = false;                // shown instead of small letters
   bool smallCapitals = false;           // and these are smaller
   SymbolFont signs = SymbolFont::None;  // to show, if the font is not installed
-  bool object = false;  // an invisible placeholder for what has no box, painted separately
   Colour ink = kAutoColour;
   Colour ground = kAutoColour;
 };

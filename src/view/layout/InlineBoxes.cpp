@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
+#include "document/Footnotes.h"
 #include "document/pictures/PictureFrame.h"
 #include "view/layout/LineStack.h"
 
@@ -11,14 +13,6 @@ namespace lumenote {
 namespace {
 
 constexpr double kTallest = 31680;  // twips
-
-/// The item that text of the format stands for; 0 if it is other text, or hidden.
-ItemId BoxedItem(const FormatTables& tables, CharId id) {
-  const CharFormat& format = tables.characters[id];
-  const Kept& kept = tables.kept[format.kept];
-  const bool boxed = kept.kind == Kept::Kind::Embedded && IsBoxed(tables.items[kept.self]);
-  return boxed && !(format.effects & kHidden) ? kept.self : 0;
-}
 
 double RoomOf(const TextLayouter& layouter, const ParaFormat& format) {
   const LineEdges edges = EdgesOf(layouter, format);
@@ -33,6 +27,44 @@ PixelSize Fitted(PixelSize wanted, PixelSize room) {
           whole(wanted.height)};
 }
 
+/// As wide as one digit.
+PixelSize NumberSize(const TextLayouter& layouter, const CharFormat& format) {
+  constexpr double kTwipsInHalfPoint = 10;
+  constexpr double kHeight = 0.8125;
+  constexpr double kDigit = 0.38;
+  const double size = layouter.Pixels(format.size * kTwipsInHalfPoint);
+  return {size * kDigit, size * kHeight};
+}
+
+/// The box for a character of the format; without an item if it needs none.
+InlineBox BoxOf(const TextLayouter& layouter, const FormatTables& tables, const CharFormat& format,
+                const ParaFormat& paragraph) {
+  const Kept& kept = tables.kept[format.kept];
+  if (kept.kind != Kept::Kind::Embedded || format.effects & kHidden) return {};
+  const KeptItem& item = tables.items[kept.self];
+  if (IsFootnote(tables, format))
+    return {.item = kept.self, .size = NumberSize(layouter, format), .number = 1};
+  if (!IsBoxed(item)) return {};
+  const PictureFrame frame = FrameOf(item);
+  const double pixel = layouter.Pixels(kTwipsInPixel) / kTwipsInPixel;
+  const PixelSize room{RoomOf(layouter, paragraph), kTallest * pixel};
+  return {.item = kept.self, .size = Fitted({frame.width * pixel, frame.height * pixel}, room)};
+}
+
+/// Gives the boxes of footnotes their numbers, and room for all digits.
+void NumberNotes(const TextLayouter& layouter, const Document& document, const Piece& piece,
+                 std::vector<InlineBox>& boxes) {
+  for (InlineBox& box : boxes) {
+    if (box.number == 0) continue;
+    box.number = layouter.Notes().At(document, piece.ToPosition(box.index));
+    const auto digits = static_cast<double>(std::to_string(box.number).size());
+    box.size.width = std::ceil(box.size.width * digits);
+  }
+  std::erase_if(boxes, [&](const InlineBox& box) {
+    return box.number == 0 && document.Formats().items[box.item].kind == KeptItem::Kind::Note;
+  });
+}
+
 }  // namespace
 
 std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& document,
@@ -40,17 +72,15 @@ std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& doc
   const FormatTables& tables = document.Formats();
   std::vector<InlineBox> boxes;
   for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
-    const ItemId item = BoxedItem(tables, run->format);
-    if (item == 0) continue;
-    const PictureFrame frame = FrameOf(tables.items[item]);
-    const double pixel = layouter.Pixels(kTwipsInPixel) / kTwipsInPixel;
-    const PixelSize room{RoomOf(layouter, tables.paragraphs[piece.format]), kTallest * pixel};
-    const PixelSize size = Fitted({frame.width * pixel, frame.height * pixel}, room);
+    const CharFormat& format = tables.characters[run->format];
+    const InlineBox box = BoxOf(layouter, tables, format, tables.paragraphs[piece.format]);
+    if (box.item == 0) continue;
     const auto next = std::next(run);
     const int end = next == piece.runs.end() ? length : next->start;
     for (int i = run->start; i < end; ++i)
-      if (!piece.IsComposed(i)) boxes.push_back({.index = i, .item = item, .size = size});
+      if (!piece.IsComposed(i)) boxes.push_back(box), boxes.back().index = i;
   }
+  NumberNotes(layouter, document, piece, boxes);
   return boxes;
 }
 

@@ -1,4 +1,5 @@
-// The boxes that stand in the text for pictures, objects and drawings.
+// The boxes that stand in the text for pictures, objects and drawings, and the numbers of
+// footnotes.
 #pragma once
 #include <vector>
 
@@ -6,8 +7,14 @@
 
 namespace lumenote {
 
-/// Those in the text of a piece, which has its runs already and is `length` units long: as large as
-/// the source says, but scaled down to what the paragraph has room for.
+/// A footnote's number in its box, in parts of the box's height: the font's height, and the
+/// distance of the baseline from the top.
+inline constexpr double kNumberHeight = 0.8;
+inline constexpr double kNumberBaseline = 0.6;
+
+/// Those in the text of a piece, which has its runs already and is `length` units long. Pictures
+/// are as large as the source says, but scaled down to what the paragraph has room for; a footnote
+/// without a number has no box.
 std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& document,
                                const Piece& piece, int length);
 

@@ -31,6 +31,7 @@ struct InlineBox {
   int index = 0;
   ItemId item = 0;  // what it shows
   PixelSize size;
+  int number = 0;  // of a footnote, shown instead; 0 for other boxes
 };
 
 /// A cell of a table row: the lines from `firstLine` to the next cell's, beside those of other

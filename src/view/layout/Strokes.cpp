@@ -62,7 +62,6 @@ class DecorationPainter {
       : pencil_(pencil), piece_(piece), text_(text), decoration_(decoration), left_(left) {}
 
   void Paint(const Stretch& stretch) const {
-    if (decoration_.object) PaintObjects(stretch);
     if (decoration_.strikes > 0) PaintStrikes(stretch);
     if (decoration_.underline == Underline::Words)
       UnderlineWords(stretch);
@@ -71,7 +70,6 @@ class DecorationPainter {
   }
 
  private:
-  void PaintObjects(const Stretch& stretch) const;
   void PaintStrikes(const Stretch& stretch) const;
   double Weight() const;
   void UnderlineWords(const Stretch& stretch) const;
@@ -121,32 +119,15 @@ void DecorationPainter::PaintStrikes(const Stretch& stretch) const {
     DrawLine(X(stretch, stretch.start), X(stretch, stretch.end), y, {});
 }
 
-// A box with a tick in it.
-void DecorationPainter::PaintObjects(const Stretch& stretch) const {
-  const double top = stretch.baseline - decoration_.ascent * 0.8;
-  const double bottom = stretch.baseline;
-  for (int i = stretch.start; i < stretch.end; ++i) {
-    const double left = X(stretch, i) + 1;
-    const double right = X(stretch, i + 1) - 1;
-    const PixelPoint centre{(left + right) / 2, (top + bottom) / 2};
-    const PixelPoint path[] = {{left, bottom}, {left, top}, {right, top},   {right, bottom},
-                               {left, bottom}, centre,      {right, bottom}};
-    for (const PixelPoint* at = path; at + 1 != std::end(path); ++at)
-      pencil_.Line(at[0], at[1], {}, 1, decoration_.ink);
-  }
-}
-
 }  // namespace
 
 std::vector<Decoration> DecorationsOf(const CharLook& look, int start, int end) {
-  const bool drawn =
-      look.underline != Underline::None || look.strikes > 0 || look.object || look.raise != 0;
+  const bool drawn = look.underline != Underline::None || look.strikes > 0 || look.raise != 0;
   if (!drawn || look.hidden) return {};
   return {{.start = start,
            .end = end,
            .underline = look.underline,
            .strikes = look.strikes,
-           .object = look.object,
            .ascent = look.ascent,
            .descent = look.descent,
            .raise = look.raise,

@@ -23,8 +23,7 @@ struct Decoration {
   int end = 0;
   Underline underline = Underline::None;
   int strikes = 0;
-  bool object = false;  // a placeholder for an object that cannot be shown
-  double ascent = 0;    // of the font, pixels
+  double ascent = 0;  // of the font, pixels
   double descent = 0;
   double raise = 0;  // of its baseline above the line's
   Colour ink = kAutoColour;

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "document/NoteNumbers.h"
 #include "view/layout/Piece.h"
 
 namespace lumenote {
@@ -48,6 +49,8 @@ class TextLayouter {
   void Scale(double factor);
   const Composition& Composed() const { return composed_; }
   void Composed(Composition text) { composed_ = std::move(text); }
+  /// Those that the boxes of footnotes show.
+  NoteNumbers& Notes() const { return notes_; }
   /// Converts a length in the document to zoomed pixels of the device; clamps it to the largest
   /// page.
   double Pixels(double twips) const;
@@ -71,6 +74,7 @@ class TextLayouter {
   double zoom_ = 1;
   double scale_ = 1;
   Composition composed_;
+  mutable NoteNumbers notes_;  // a cache
 };
 
 }  // namespace lumenote

@@ -78,12 +78,24 @@ void NoteView::Settle() {
   settleSoon_ = false;
   if (!attached_ || !visible_) return;
   if (std::exchange(revealing_, false)) pane_.Reveal(Surface().Caret());
+  if (!NotesAreNumbered()) WrapWidthChanged();
   host_.ShowScrolling();
   const Damage damage = damage_.Take(Marks());
   const std::vector<ShownPiece> shown = pane_.Visible();
   pane_.Cache().Trim(shown.front().piece->from, shown.back().piece->to);
   if (std::exchange(moved_, false)) host_.SelectionMoved();
   host_.ShowDamage(damage);
+}
+
+/// Whether the notes laid out have the numbers that they should have; an edit moves those behind
+/// it, and lines with another number of digits may break elsewhere.
+bool NoteView::NotesAreNumbered() {
+  NoteNumbers& notes = pane_.Layouter().Notes();
+  for (const auto& piece : pane_.Cache().Pieces())
+    for (const InlineBox& box : piece->boxes)
+      if (box.number > 0 && box.number != notes.At(pane_.Content(), piece->ToPosition(box.index)))
+        return false;
+  return true;
 }
 
 ViewMarks NoteView::Marks() {

@@ -88,6 +88,7 @@ class NoteView : private SurfaceView {
   std::optional<Line> ShownLine(Position position) override { return pane_.ShownLine(position); }
 
   void SettleSoon();
+  bool NotesAreNumbered();
 
   mutable TextPane pane_;
   ViewHost& host_;

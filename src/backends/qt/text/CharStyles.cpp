@@ -32,10 +32,7 @@ QFont MakeFont(const FontFace& face, const CharFormat& format, double points, do
 
 void SetColours(CharStyle& style) {
   if (style.ground != kAutoColour) style.format.setBackground(FromBgr(style.ground));
-  if (style.object)
-    style.format.setForeground(QColor(Qt::transparent));
-  else if (style.ink != kAutoColour)
-    style.format.setForeground(FromBgr(style.ink));
+  if (style.ink != kAutoColour) style.format.setForeground(FromBgr(style.ink));
 }
 
 }  // namespace

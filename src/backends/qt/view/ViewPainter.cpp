@@ -5,7 +5,9 @@
 
 #include "backends/qt/text/BoxPainter.h"
 #include "backends/qt/text/Decorations.h"
+#include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/Pixels.h"
+#include "view/layout/InlineBoxes.h"
 
 namespace lumenote {
 
@@ -44,9 +46,26 @@ void ViewPainter::PaintBoxes(QPainter& painter, const ShownPiece& item, const QR
     const QRectF place = ToQRect(piece.PlaceOf(box).MovedBy(pane_.TextLeft(), item.y));
     const Position at = piece.ToPosition(box.index);
     const Selection& selection = state_.marks.selection;
-    if (place.intersects(area))
-      boxes.Paint(box, place, at >= selection.start && at < selection.end);
+    const bool selected = at >= selection.start && at < selection.end;
+    if (!place.intersects(area)) continue;
+    if (box.number > 0)
+      PaintNumber(painter, box.number, place, pane_.Content().CharFormatAt(at), selected);
+    else
+      boxes.Paint(box, place, selected);
   }
+}
+
+void ViewPainter::PaintNumber(QPainter& painter, int number, const QRectF& place, CharId format,
+                              bool selected) {
+  const CharStyle& style = layouter_.styles.Of(pane_.Content(), format);
+  QFont font = style.format.font();
+  font.setPixelSize(std::max(1, qRound(place.height() * kNumberHeight)));
+  painter.setFont(font);
+  const QColor own =
+      style.ink == kAutoColour ? state_.palette.color(QPalette::Text) : FromBgr(style.ink);
+  painter.setPen(selected ? state_.palette.color(QPalette::HighlightedText) : own);
+  painter.drawText(QPointF(place.left(), place.top() + place.height() * kNumberBaseline),
+                   QString::number(number));
 }
 
 // Qt's own selection painting clips raised and lowered text.
@@ -68,7 +87,7 @@ void ViewPainter::PaintSelectedText(QPainter& painter, const ShownPiece& item,
     const int to = next == piece.runs.end() ? part.end : std::min(next->start, part.end);
     if (from >= to) continue;
     const CharStyle& style = layouter_.styles.Of(pane_.Content(), run->format);
-    if (style.object || piece.BoxAt(from)) continue;
+    if (piece.BoxAt(from)) continue;
     for (const QGlyphRun& glyphs : text.glyphRuns(from, to - from))
       painter.drawGlyphRun({pane_.TextLeft(), item.y - style.raise}, glyphs);
   }

@@ -5,6 +5,7 @@
 
 #include "backends/win32/view/BoxPainter.h"
 #include "backends/win32/view/GdiPencil.h"
+#include "view/layout/InlineBoxes.h"
 #include "view/pane/RangeBoxes.h"
 
 namespace lumenote {
@@ -94,9 +95,29 @@ void ViewPainter::PaintBoxes(HDC dc, const ShownPiece& item, const PixelRect& ar
     const PixelRect place = piece.PlaceOf(box).MovedBy(std::round(pane_.TextLeft()), item.y);
     const Position at = piece.ToPosition(box.index);
     const Selection& selection = marks_.selection;
-    if (place.bottom > area.top && place.top < area.bottom)
-      boxes.Paint(box, place, at >= selection.start && at < selection.end);
+    const bool selected = at >= selection.start && at < selection.end;
+    if (place.bottom <= area.top || place.top >= area.bottom) continue;
+    if (box.number > 0)
+      PaintNumber(dc, box.number, place, pane_.Content().CharFormatAt(at), selected);
+    else
+      boxes.Paint(box, place, selected);
   }
+}
+
+void ViewPainter::PaintNumber(HDC dc, int number, const PixelRect& place, CharId format,
+                              bool selected) const {
+  const CharStyle& style = layouter_.styles.Of(pane_.Content(), format);
+  LOGFONTW wanted = style.font->Wanted();
+  wanted.lfHeight = -std::max(1, Rounded(place.Height() * kNumberHeight));
+  const GdiObject<HFONT> font(CreateFontIndirectW(&wanted));
+  const SelectScope fontScope(dc, font.Get());
+  const bool own = style.ink != kAutoColour && !colours_.plain;
+  SetTextColor(dc, selected ? colours_.highlightInk : own ? style.ink : colours_.ink);
+  const std::wstring digits = std::to_wstring(number);
+  const UINT before = SetTextAlign(dc, TA_BASELINE);
+  TextOutW(dc, Rounded(place.left), Rounded(place.top + place.Height() * kNumberBaseline),
+           digits.data(), static_cast<int>(digits.size()));
+  SetTextAlign(dc, before);
 }
 
 void ViewPainter::PaintGrounds(HDC dc, const LinePlace& place, Selection selected) const {
@@ -120,7 +141,7 @@ void ViewPainter::PaintText(HDC dc, const LinePlace& place, Selection selected) 
   for (const LinePart& part : place.piece.parts[place.line]) {
     const GlyphRun& run = place.piece.glyphs[part.run];
     const CharStyle& style = StyleOf(run);
-    if (!run.font || style.object || place.piece.BoxAt(run.start)) continue;
+    if (!run.font || place.piece.BoxAt(run.start)) continue;
     const bool own = style.ink != kAutoColour && !colours_.plain;
     const Selection inside = SelectedOf({part.start, part.end}, selected);
     DrawUnits(dc, place, part, {part.start, inside.start}, own ? style.ink : colours_.ink);

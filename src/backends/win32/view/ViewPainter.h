@@ -41,6 +41,8 @@ class ViewPainter {
   void PaintArea(HDC dc, const PixelRect& area);
   void PaintPiece(HDC dc, const ShownPiece& item, const PixelRect& area);
   void PaintBoxes(HDC dc, const ShownPiece& item, const PixelRect& area) const;
+  /// The raised number of a footnote.
+  void PaintNumber(HDC dc, int number, const PixelRect& place, CharId format, bool selected) const;
   void PaintGrounds(HDC dc, const LinePlace& place, Selection selected) const;
   void PaintText(HDC dc, const LinePlace& place, Selection selected) const;
   void FillUnits(HDC dc, const LinePlace& place, const LinePart& part, Selection units,
