@@ -19,7 +19,8 @@ constexpr double kSubscriptRaise = -0.14;
 constexpr double kLeastContrast = 2;
 constexpr Colour kBlack = 0;
 constexpr Colour kWhite = 0xFFFFFF;
-constexpr Colour kLinkColour = 0xC16305;  // a blue
+constexpr Colour kLinkColour = 0xC16305;  // a blue, and a lighter one
+constexpr Colour kLinkOnDark = 0xFFB46B;
 
 struct Channels {
   int red, green, blue;
@@ -55,9 +56,10 @@ Colour Reflected(Colour colour) {
   return channel(of.red) | channel(of.green) << 8 | channel(of.blue) << 16;
 }
 
+bool IsDark(Colour ground) { return Channels(ground).Lightness() < 255; }
+
 Colour Readable(Colour wanted, Colour ground) {
-  const bool dark = Channels(ground).Lightness() < 255;
-  return !dark || Contrast(wanted, ground) >= kLeastContrast ? wanted : Reflected(wanted);
+  return !IsDark(ground) || Contrast(wanted, ground) >= kLeastContrast ? wanted : Reflected(wanted);
 }
 
 void SetColours(CharLook& look, const CharFormat& format, Colour ground) {
@@ -90,7 +92,7 @@ int StrikesOf(unsigned effects) {
 void ShowLink(CharLook& look, Colour ground) {
   if (look.underline == Underline::None) look.underline = Underline::Single;
   const bool plain = look.ink == kAutoColour && look.ground == kAutoColour;
-  if (plain) look.ink = Readable(kLinkColour, ground);
+  if (plain) look.ink = IsDark(ground) ? kLinkOnDark : kLinkColour;
 }
 
 }  // namespace
