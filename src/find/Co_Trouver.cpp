@@ -17,6 +17,7 @@ constexpr std::u16string_view kExpanded = u"&Remplace";
 
 Co_Trouver::Co_Trouver(WindowList& windows, EditorWindow& editor)
     : Form(windows, "Co_Trouver", {0, 0, 5430, 1700}, u"Trouver / Remplacer"), editor_(editor) {
+  FixedSize(true);
   DefaultButton(&cmdFind);
   CancelButton(&cmdCancel);
   cmdFind.Click = [this] { Command(&Co_Trouver::cmdFind_Click); };

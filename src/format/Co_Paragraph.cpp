@@ -36,22 +36,23 @@ int TakeArrow(UpDown& spinner) {
   return arrow;
 }
 
-void AddChoices(ControlArray<OptionButton>& choices, Frame& frame,
-                std::initializer_list<const char16_t*> captions) {
+}  // namespace
+
+ControlArray<OptionButton> Co_Paragraph::Choices(const char* name, Frame& frame,
+                                                 std::initializer_list<const char16_t*> captions) {
+  ControlArray<OptionButton> choices(name);
   float top = 240;
   for (const char16_t* caption : captions) {
     choices.Add(frame, Rect{105, top, 2040, 240}, caption);
     top += 240;
   }
+  return choices;
 }
-
-}  // namespace
 
 Co_Paragraph::Co_Paragraph(WindowList& windows, EditorWindow& editor)
     : Form(windows, "Co_Paragraph", {0, 0, 5580, 4980}, u"Format Paragraphe - Style"),
       editor_(editor) {
-  AddChoices(opnAlign, Fr_Alignement, {u"&Gauche", u"&Centre", u"&Droit"});
-  AddChoices(opnInter, Fr_Interligne, {u"Simple", u"Un 1/4", u"Un et 1/2", u"Double"});
+  FixedSize(true);
   EscapeCloses(true);
   Bx_FontName.Locked(true);
   Bx_FontSize.Locked(true);

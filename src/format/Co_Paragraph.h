@@ -52,9 +52,11 @@ class Co_Paragraph : public Form {
   Label Lb_AutoMargin{*this, "Lb_AutoMargin", {2865, 2130, 2400, 240}, u"Marge Droite Automatique"};
 
   Frame Fr_Alignement{*this, "Fr_Alignement", {60, 2130, 2640, 1290}, u"Alignement"};
-  ControlArray<OptionButton> opnAlign{"opnAlign"};
+  ControlArray<OptionButton> opnAlign =
+      Choices("opnAlign", Fr_Alignement, {u"&Gauche", u"&Centre", u"&Droit"});
   Frame Fr_Interligne{*this, "Fr_Interligne", {2760, 2415, 2640, 1650}, u"Interligne"};
-  ControlArray<OptionButton> opnInter{"opnInter"};
+  ControlArray<OptionButton> opnInter =
+      Choices("opnInter", Fr_Interligne, {u"Simple", u"Un 1/4", u"Un et 1/2", u"Double"});
   Label Lb_LineSpacing{Fr_Interligne, "Lb_LineSpacing", {105, 1275, 840, 240}, u"Définir"};
   TextBox Bx_LineSpacing{Fr_Interligne, "Bx_LineSpacing", {1365, 1230, 825, 300}};
   UpDown UD_LineSpacing{Fr_Interligne, "UD_LineSpacing", {2205, 1230, 255, 300}, 20, 40, 20};
@@ -72,6 +74,10 @@ class Co_Paragraph : public Form {
   void SetPosFenPara();
 
  private:
+  /// Option buttons below each other.
+  static ControlArray<OptionButton> Choices(const char* name, Frame& frame,
+                                            std::initializer_list<const char16_t*> captions);
+
   void Form_Load() override;
   void Form_Activate() override;
 

@@ -75,6 +75,13 @@ void Control::UserMouseMove(const MouseEvent& event) {
   Owner().Raise([&] { MouseMove(event); });
 }
 
+bool Control::UserMouseWheel(int notches) {
+  auto* outer = dynamic_cast<Control*>(&container_);
+  if (!MouseWheel) return outer && outer->UserMouseWheel(notches);
+  Owner().Raise([&] { MouseWheel(notches); });
+  return true;
+}
+
 void Control::UserClick() {
   if (Click) Owner().Raise(Click);
 }

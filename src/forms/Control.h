@@ -76,12 +76,16 @@ class Control : public ShownElement {
   /// Events, connected by the form.
   std::function<void(const MouseEvent&)> MouseUp;
   std::function<void(const MouseEvent&)> MouseMove;
+  /// The wheel turns by a number of notches, downwards if positive.
+  std::function<void(int)> MouseWheel;
   std::function<void()> Click;
   std::function<void()> DblClick;
 
   /// User input, reported by the peer.
   void UserMouseUp(const MouseEvent& event);
   void UserMouseMove(const MouseEvent& event);
+  /// Goes to the container if the control has no use for it. Whether it was used.
+  bool UserMouseWheel(int notches);
   virtual void UserClick();
   void UserDoubleClick();
   /// Character keys; ignored by controls without text.

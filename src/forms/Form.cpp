@@ -77,6 +77,11 @@ void Form::Width(float twips) { Bounds({bounds_.left, bounds_.top, twips, bounds
 
 void Form::Height(float twips) { Bounds({bounds_.left, bounds_.top, bounds_.width, twips}); }
 
+void Form::CentreOver(const Rect& other) {
+  Left(std::max(0.0F, other.left + (other.width - Width()) / 2));
+  Top(std::max(0.0F, other.top + (other.height - Height()) / 2));
+}
+
 void Form::UserResize(float width, float height) {
   bounds_.width = width;
   bounds_.height = height;

@@ -48,6 +48,13 @@ class Form : public Element, public Container {
   float Height() const { return bounds_.height; }
   void Height(float twips);
 
+  /// The user cannot resize the window: its controls have fixed places. Written before it is
+  /// loaded.
+  void FixedSize(bool on) { fixedSize_ = on; }
+  bool IsFixedSize() const { return fixedSize_; }
+  /// Moves it over the middle of `other`, but not beyond the screen's upper left corner.
+  void CentreOver(const Rect& other);
+
   bool Visible() const { return visible_; }
   /// Above all other windows; set on the native window in place.
   bool OnTop() const { return onTop_; }
@@ -232,6 +239,7 @@ class Form : public Element, public Container {
   bool lost_ = false;  // the native window has gone
   bool modal_ = false;
   bool escapeCloses_ = false;
+  bool fixedSize_ = false;
   bool menuBarFocused_ = false;
   bool menuBarLeft_ = false;  // the window has not heard of it yet
   bool pressed_ = false;

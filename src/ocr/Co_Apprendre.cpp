@@ -1,7 +1,5 @@
 #include "ocr/Co_Apprendre.h"
 
-#include <algorithm>
-
 #include "base/RuntimeError.h"
 #include "base/ScopedFlag.h"
 #include "lumenote/Platform.h"
@@ -13,7 +11,10 @@ namespace lumenote {
 
 Co_Apprendre::Co_Apprendre(WindowList& windows, EditorWindow& editor)
     : Form(windows, "Co_Apprendre", {0, 0, 5400, 3555}, u"Apprentissage"), editor_(editor) {
+  FixedSize(true);
   CancelButton(&Bt_Quitter);
+  Bx_TextErroné.TabLeaves(true);
+  Bx_Saisircorr.TabLeaves(true);
   Bx_TextErroné.Change = [this] { Bx_TextErroné_Change(); };
   Bx_Saisircorr.MouseUp = [this](const MouseEvent& event) { Bx_Saisircorr_MouseUp(event); };
   Bt_Valider.Click = [this] { Bt_Valider_Click(); };
@@ -30,9 +31,7 @@ void Co_Apprendre::Describe(MemberTable& members) {
 
 void Co_Apprendre::Form_Load() {
   erronModifie_ = false;
-  const Rect editor = editor_.WindowBounds();
-  Left(std::max(0.0F, editor.left + (editor.width - Width()) / 2));
-  Top(std::max(0.0F, editor.top + (editor.height - Height()) / 2));
+  CentreOver(editor_.WindowBounds());
 }
 
 // Clears the boxes first, so that filling them again does not double the text.
@@ -44,6 +43,10 @@ void Co_Apprendre::Form_Activate() {
   }
   IgnoringErrors([this] { ErrPaste(); });
   IgnoringErrors([this] { SaiPaste(); });
+  RichTextSurface& correction = Bx_Saisircorr.Surface();
+  correction.SelStart(0);
+  correction.SelLength(static_cast<Position>(correction.Text().size()));
+  if (!ActiveControl()) Bx_Saisircorr.SetFocus();
 }
 
 void Co_Apprendre::Bx_TextErroné_Change() {

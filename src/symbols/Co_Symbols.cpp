@@ -1,5 +1,6 @@
 #include "symbols/Co_Symbols.h"
 
+#include <algorithm>
 #include <string>
 
 #include "base/Numbers.h"
@@ -22,6 +23,11 @@ constexpr float kBigFontSize = 26;
 constexpr float kInsertFontSize = 12;
 constexpr float kTemplateLeft = -5000;  // out of sight
 
+bool Holds(const Rect& box, Point at) {
+  return at.x >= box.left && at.x < box.left + box.width && at.y >= box.top &&
+         at.y < box.top + box.height;
+}
+
 std::u16string SymbolOf(int code) { return Decode1252(std::string(1, static_cast<char>(code))); }
 
 }  // namespace
@@ -29,6 +35,7 @@ std::u16string SymbolOf(int code) { return Decode1252(std::string(1, static_cast
 Co_Symbols::Co_Symbols(WindowList& windows, EditorWindow& editor)
     : Form(windows, "Co_Symbols", {4000, 3000, 6930, 5160}, u"   Insertion/Copie de Symboles"),
       editor_(editor) {
+  FixedSize(true);
   CancelButton(&cmdClose);
   picHolder.SpokenName(u"Symboles");
   VScroll1.SpokenName(u"Défilement des symboles");
@@ -41,6 +48,8 @@ Co_Symbols::Co_Symbols(WindowList& windows, EditorWindow& editor)
   cboFonts.DropDown = [this] { cboFonts_DropDown(); };
   cboFonts.Click = [this] { cboFonts_Click(); };
   VScroll1.Change = [this] { VScroll1_Change(); };
+  picHolder.MouseWheel = [this](int notches) { picHolder_MouseWheel(notches); };
+  lblBigDisplay.MouseMove = [this](const MouseEvent& event) { lblBigDisplay_MouseMove(event); };
   lblBigDisplay.DblClick = [this] { lblBigDisplay_DblClick(); };
   cmdInsert.Click = [this] { cmdInsert_Click(); };
   cmdCopy.Click = [this] { cmdCopy_Click(); };
@@ -56,6 +65,7 @@ void Co_Symbols::WireHiding() {
 }
 
 void Co_Symbols::Form_Load() {
+  CentreOver(editor_.WindowBounds());
   IgnoringErrors([this] { currentFont_ = editor_.Document().BaseFontName(); });
   lblBigDisplay.FontName(currentFont_);
   lblsymbols(0).FontName(currentFont_);
@@ -109,6 +119,17 @@ void Co_Symbols::lblsymbols_MouseMove(int index) {
   lblBigDisplay.Visible(true);
   const int code = ByteIn1252(cell.Caption().at(0));
   lblStatus.Caption(u"Special Char " + NumberText(std::int64_t{code}));
+}
+
+void Co_Symbols::lblBigDisplay_MouseMove(const MouseEvent& event) {
+  const float x = lblBigDisplay.Left() + event.at.x;
+  const float y = lblBigDisplay.Top() + event.at.y;
+  for (int index = 1; index < lblsymbols.Count(); ++index)
+    if (Holds(lblsymbols(index).Bounds(), {x, y})) return lblsymbols_MouseMove(index);
+}
+
+void Co_Symbols::picHolder_MouseWheel(int notches) {
+  VScroll1.Value(std::clamp(VScroll1.Value() + notches, VScroll1.Min(), VScroll1.Max()));
 }
 
 // --- the font

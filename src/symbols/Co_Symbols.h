@@ -19,6 +19,8 @@ class EditorWindow;
 /// Shows the characters 33 to 255 of code page 1252 in a font of the user's choice. Collected
 /// characters go into the note in that font, or to the clipboard as plain text.
 class Co_Symbols : public Form {
+  static constexpr float kGridHeight = 3184;  // nine whole rows
+
  public:
   /// `editor` must outlive the picker.
   Co_Symbols(WindowList& windows, EditorWindow& editor);
@@ -26,8 +28,8 @@ class Co_Symbols : public Form {
   Label lblMessage{*this, "lblMessage", {120, 165, 1350, 240}, u"Choisir la fonte"};
   ComboBox cboFonts{*this, "cboFonts", {1500, 120, 3300, 315}, ComboStyle::ListOnly};
   Label lblStatus{*this, "lblStatus", {4950, 165, 1770, 240}};
-  PictureBox picHolder{*this, "picHolder", {120, 540, 6300, 3300}};
-  ScrollBar VScroll1{*this, "VScroll1", {6435, 540, 255, 3300}};
+  PictureBox picHolder{*this, "picHolder", {120, 540, 6300, kGridHeight}};
+  ScrollBar VScroll1{*this, "VScroll1", {6435, 540, 255, kGridHeight}};
   /// In front of the cell that it magnifies.
   Label lblBigDisplay{picHolder, "lblBigDisplay", {0, 0, 720, 720}, u"", LabelStyle::Cell};
   ControlArray<Label> lblsymbols{"lblsymbols"};
@@ -51,6 +53,9 @@ class Co_Symbols : public Form {
   void cboFonts_Click();
   void VScroll1_Change();
   void lblsymbols_MouseMove(int index);
+  /// What is beyond the magnified cell belongs to the cell beneath.
+  void lblBigDisplay_MouseMove(const MouseEvent& event);
+  void picHolder_MouseWheel(int notches);
   void lblBigDisplay_DblClick();
   void cmdInsert_Click();
   void cmdCopy_Click();

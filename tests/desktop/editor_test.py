@@ -15,7 +15,7 @@ class Editor(Notes):
         self.open("Z:" + str(self.path).replace("/", "\\"))
 
     def tip_shown(self, point):
-        self.mouse(self.note, TEXT, "sleep 0.1", point, "sleep 0.1", (point[0] + 1, point[1]))
+        self.mouse(self.note, TEXT, "sleep 0.4", point, "sleep 0.4", (point[0] + 3, point[1]))
         self.wait(self.popup, "the tooltip")
 
     def test_the_sign_follows_the_first_edit_and_the_save(self):

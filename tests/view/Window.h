@@ -47,6 +47,7 @@ struct Window : ViewHost {
 
   void Act(const std::function<void()>& act) override { act(); }
   bool IsLocked() const override { return locked; }
+  bool TabLeaves() const override { return false; }
   PointerManners Pointer() const override { return {}; }
   void SettleSoon() override {}
   void ShowScrolling() override {}

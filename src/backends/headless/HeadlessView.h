@@ -28,6 +28,7 @@ class HeadlessView final : private ViewHost {
  private:
   void Act(const std::function<void()>& act) override;
   bool IsLocked() const override { return box_.Locked(); }
+  bool TabLeaves() const override { return box_.TabLeaves(); }
   PointerManners Pointer() const override { return {}; }
   void SettleSoon() override {}
   void ShowScrolling() override {}

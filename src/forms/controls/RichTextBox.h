@@ -20,6 +20,9 @@ class RichTextBox : public Control {
 
   bool Locked() const { return locked_; }
   void Locked(bool on) { locked_ = on; }
+  /// Tab goes to the next control instead of being typed.
+  bool TabLeaves() const { return tabLeaves_; }
+  void TabLeaves(bool on) { tabLeaves_ = on; }
   bool TakesFocus() const override { return true; }
   void CompleteComposition() override { surface_->CompleteComposition(); }
 
@@ -41,6 +44,7 @@ class RichTextBox : public Control {
   std::unique_ptr<RichTextSurface> surface_;
   bool locked_ = false;
   bool checksSpelling_ = false;
+  bool tabLeaves_ = false;
 };
 
 }  // namespace lumenote

@@ -20,6 +20,7 @@ bool IsZoom(const KeyStroke& key) {
 }  // namespace
 
 bool ViewKeys::Press(const std::optional<KeyStroke>& key, std::u16string_view text) {
+  if (key && key->name == KeyName::Tab && !key->control && view_.Host().TabLeaves()) return false;
   if (key && Zoom(*key)) return true;
   if (key == kLinkKey) return OpenLink();
   if (key != kMenuKey) return Edit(key, text);

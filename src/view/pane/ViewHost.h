@@ -25,6 +25,8 @@ class ViewHost {
   virtual void Act(const std::function<void()>& act) = 0;
   /// Whether user edits are blocked.
   virtual bool IsLocked() const = 0;
+  /// Whether Tab goes to the next control instead of being typed.
+  virtual bool TabLeaves() const = 0;
   virtual PointerManners Pointer() const = 0;
 
   /// Requests a call of `NoteView::Settle` soon, before the next paint.

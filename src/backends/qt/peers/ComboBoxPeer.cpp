@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QProxyStyle>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -13,6 +14,17 @@
 namespace lumenote {
 
 namespace {
+
+constexpr int kRows = 12;  // of the open list
+
+/// Opens a list without editing as any other, not over the whole screen.
+class ListStyle : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
 
 /// Keys that Qt would step through a closed list with.
 bool IsStep(const QKeyEvent& key, bool editable) {
@@ -37,6 +49,10 @@ ComboBoxWidget::ComboBoxWidget(ComboBox& combo, QWidget* parent)
   setEditable(combo.Style() == ComboStyle::Editable);
   setInsertPolicy(QComboBox::NoInsert);
   setDuplicatesEnabled(true);
+  setMaxVisibleItems(kRows);
+  auto* style = new ListStyle;
+  style->setParent(this);
+  setStyle(style);
   if (isEditable()) KeepTextApart();
 }
 

@@ -13,7 +13,8 @@ namespace lumenote {
 
 namespace {
 constexpr float kTwipsPerPoint = 20;
-}
+constexpr int kWheelNotch = 120;  // eighths of a degree
+}  // namespace
 
 ControlPeer::ControlPeer(Control& control, QWidget& widget) : control_(control), widget_(&widget) {
   widget.installEventFilter(this);
@@ -55,8 +56,17 @@ void ControlPeer::ShowFont() {
 bool ControlPeer::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::FocusIn) control_.Owner().ActiveControl(&control_);
   if (!PassesMouse()) return false;
+  if (event->type() == QEvent::Wheel) return PassWheel(static_cast<const QWheelEvent&>(*event));
   if (const auto* mouse = dynamic_cast<const QMouseEvent*>(event)) PassMouse(*mouse);
   return false;
+}
+
+// A fine wheel turns by parts of a notch.
+bool ControlPeer::PassWheel(const QWheelEvent& wheel) {
+  turned_ -= wheel.angleDelta().y();
+  const int notches = turned_ / kWheelNotch;
+  turned_ %= kWheelNotch;
+  return notches != 0 && control_.UserMouseWheel(notches);
 }
 
 // Any event may close the window and destroy the peer.

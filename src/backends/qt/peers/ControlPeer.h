@@ -2,6 +2,7 @@
 #pragma once
 #include <QMouseEvent>
 #include <QPointer>
+#include <QWheelEvent>
 #include <QWidget>
 #include <memory>
 
@@ -43,10 +44,12 @@ class ControlPeer : public QObject {
 
  private:
   void ShowFont();
+  bool PassWheel(const QWheelEvent& wheel);
   void PassMouse(const QMouseEvent& mouse);
 
   Control& control_;
   QPointer<QWidget> widget_;
+  int turned_ = 0;  // the wheel, since its last whole notch
 };
 
 /// What peers need of the backend.

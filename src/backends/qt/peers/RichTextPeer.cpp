@@ -12,6 +12,7 @@ RichTextView* MakeView(RichTextBox& box, QWidget& parent, LayouterSource& layout
   callbacks.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
   callbacks.locked = [&box] { return box.Locked(); };
   callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
+  callbacks.tabLeaves = [&box] { return box.TabLeaves(); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
   auto* view = new RichTextView(surface, layouters.LayouterOf(box), std::move(callbacks), &parent);
   if (Speller* speller = layouters.SpellerOf(box)) view->CheckSpelling(*speller, box.Learn);

@@ -34,6 +34,8 @@ struct ViewCallbacks {
   std::function<bool()> locked{};
   /// A link was chosen.
   std::function<void(std::u16string_view)> link{};
+  /// Whether Tab goes to the next control.
+  std::function<bool()> tabLeaves{};
 };
 
 /// Shows a `NoteView` with Qt: translates events and paints. The surface may be destroyed first,
@@ -47,6 +49,7 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   void Detach();
   bool IsAttached() const { return text_.IsAttached(); }
   bool IsLocked() const override { return callbacks_.locked && callbacks_.locked(); }
+  bool TabLeaves() const override { return callbacks_.tabLeaves && callbacks_.tabLeaves(); }
   NoteView& Text() { return text_; }
   DocumentSurface& Surface() const { return text_.Surface(); }
   TextPane& Pane() { return text_.Pane(); }

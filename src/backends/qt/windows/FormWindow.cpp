@@ -11,6 +11,7 @@
 #include "backends/qt/toolkit/Keys.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
+#include "backends/qt/windows/OwnIcon.h"
 
 namespace lumenote {
 namespace {
@@ -26,6 +27,7 @@ bool IsAlt(const QEvent& event) {
 FormWindow::FormWindow(Form& form, ActivationListener& listener)
     : SpokenWidget(nullptr, Qt::Window), form_(&form), listener_(listener) {
   setAttribute(Qt::WA_QuitOnClose, false);  // the host decides when its program ends
+  setWindowIcon(OwnIcon());
   setFont(ControlFont());
   content_ = new QWidget(this);
   content_->setAutoFillBackground(true);
@@ -56,6 +58,11 @@ void FormWindow::LayOutParts() {
   docked_->raise();
 }
 
+void FormWindow::ShowSize() {
+  const QSize size = WindowGeometry::ClientSize(form_->Bounds());
+  form_->IsFixedSize() ? setFixedSize(size) : resize(size);
+}
+
 void FormWindow::ShowCaption() { setWindowTitle(ToQString(form_->Caption())); }
 
 void FormWindow::ShowGeometry() {
@@ -63,7 +70,7 @@ void FormWindow::ShowGeometry() {
   const bool elsewhere = corner != geometry_.AskedCorner();
   geometry_.Asked(form_->Bounds());
   if (elsewhere) move(corner);
-  resize(WindowGeometry::ClientSize(form_->Bounds()));
+  ShowSize();
   LayOutParts();
 }
 

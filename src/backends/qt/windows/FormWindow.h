@@ -65,6 +65,7 @@ class FormWindow : public SpokenWidget {
   void moveEvent(QMoveEvent* event) override;
 
  private:
+  void ShowSize();
   void HearNative(const QEvent& event);
   void HearMouse(const QMouseEvent& event);
   void ChooseKind();

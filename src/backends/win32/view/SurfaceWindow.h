@@ -33,6 +33,8 @@ struct ViewCallbacks {
   std::function<bool()> locked{};
   /// A link was chosen.
   std::function<void(std::u16string_view)> link{};
+  /// Whether Tab goes to the next control.
+  std::function<bool()> tabLeaves{};
   /// What users call the view.
   ViewName name{};
   /// A key that the view has no use for; true if the form has.
@@ -52,6 +54,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   void Detach();
   bool IsAttached() const { return text_.IsAttached(); }
   bool IsLocked() const override { return callbacks_.locked && callbacks_.locked(); }
+  bool TabLeaves() const override { return callbacks_.tabLeaves && callbacks_.tabLeaves(); }
   NoteView& Text() { return text_; }
   void Settle() { text_.Settle(); }
   std::vector<std::string> Differences() { return text_.Differences(); }

@@ -11,7 +11,7 @@ void FormStacking::Own() {
 // A dialog goes with its owner.
 void FormStacking::ChooseBoxes() const {
   constexpr LONG_PTR kBoxes = WS_MINIMIZEBOX | WS_MAXIMIZEBOX;
-  const bool dialog = form_.OwnerWindow() || form_.IsModal();
+  const bool dialog = form_.OwnerWindow() || form_.IsModal() || form_.IsFixedSize();
   const LONG_PTR style = GetWindowLongPtrW(window_.Handle(), GWL_STYLE);
   SetWindowLongPtrW(window_.Handle(), GWL_STYLE, dialog ? style & ~kBoxes : style | kBoxes);
 }

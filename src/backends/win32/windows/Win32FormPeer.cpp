@@ -10,8 +10,10 @@
 namespace lumenote {
 namespace {
 
-WindowKind FormKind() {
-  return {OwnClass(L"LumenoteForm"), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
+WindowKind FormKind(const Form& form) {
+  constexpr DWORD kResizing = WS_THICKFRAME | WS_MAXIMIZEBOX;
+  const DWORD frame = form.IsFixedSize() ? WS_OVERLAPPEDWINDOW & ~kResizing : WS_OVERLAPPEDWINDOW;
+  return {OwnClass(L"LumenoteForm"), frame | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
 }
 
 bool Has(HWND window, int which, LONG_PTR style) {
@@ -36,7 +38,7 @@ BOOL CALLBACK TellChild(HWND child, LPARAM told) {
 Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
     : form_(form),
       services_(services),
-      window_(std::make_shared<Window>(nullptr, FormKind())),
+      window_(std::make_shared<Window>(nullptr, FormKind(form))),
       stacking_(form, *window_, services.Windows()),
       scale_(Scale::Of(window_->Handle())),
       menus_(form, window_),

@@ -93,9 +93,19 @@ std::optional<LRESULT> ControlPeer::Hear(const Message& message) {
   if (!PassesInput()) return std::nullopt;
   if (message.id == WM_KEYDOWN || message.id == WM_SYSKEYDOWN || message.id == WM_SYSCHAR)
     return HearKey(message);
+  if (message.id == WM_MOUSEWHEEL && PassWheel(message)) return 0;
+  if (!window->HasListener()) return 0;
   if (message.id < WM_MOUSEFIRST || message.id > WM_MBUTTONDBLCLK) return std::nullopt;
   HearMouse(message);
   return window->HasListener() ? std::optional<LRESULT>() : 0;
+}
+
+// A fine wheel turns by parts of a notch.
+bool ControlPeer::PassWheel(const Message& message) {
+  turned_ -= GET_WHEEL_DELTA_WPARAM(message.w);
+  const int notches = turned_ / WHEEL_DELTA;
+  turned_ %= WHEEL_DELTA;
+  return notches != 0 && control_.UserMouseWheel(notches);
 }
 
 void ControlPeer::HearHandled(const Message& message) {

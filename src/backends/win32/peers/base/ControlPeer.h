@@ -62,11 +62,13 @@ class ControlPeer : protected MessageListener {
   void ShowVisible();
   void ShowEnabled();
   void LeaveFocus();
+  bool PassWheel(const Message& message);
   void HearMouse(const Message& message);
 
   Control& control_;
   std::shared_ptr<Window> window_;
   PeerHost& host_;
+  int turned_ = 0;  // the wheel, since its last whole notch
 };
 
 /// Creates the peer for any kind of control, its window a child of `parent`, in the control's

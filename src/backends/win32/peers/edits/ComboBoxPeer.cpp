@@ -10,7 +10,7 @@
 namespace lumenote {
 namespace {
 
-constexpr int kLines = 10;  // of the open list
+constexpr int kLines = 12;  // of the open list
 
 WindowKind KindOf(ComboStyle style) {
   const DWORD kind = style == ComboStyle::Editable ? CBS_DROPDOWN : CBS_DROPDOWNLIST;

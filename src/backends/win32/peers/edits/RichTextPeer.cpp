@@ -14,6 +14,7 @@ std::shared_ptr<SurfaceWindow> MakeWindow(RichTextBox& box, HWND parent, PeerHos
   callbacks.locked = [&box] { return box.Locked(); };
   callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
   callbacks.name = [&box] { return SpokenNameOf(box); };
+  callbacks.tabLeaves = [&box] { return box.TabLeaves(); };
   callbacks.key = [&box, &host](const KeyStroke& key) { return host.UnusedKey(box, key); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
   return std::make_shared<SurfaceWindow>(parent, surface, host.LayouterOf(box),

@@ -1,0 +1,9 @@
+// The icon of the component's windows.
+#pragma once
+#include <QIcon>
+
+namespace lumenote {
+
+QIcon OwnIcon();
+
+}  // namespace lumenote
