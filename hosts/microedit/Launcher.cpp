@@ -41,6 +41,8 @@ lettre de lecteur). Un fichier .rtf ou .txt qui manque est créé.
   --version       affiche la version
 )";
 
+constexpr const char* kDesktopsOwn = "-1";  // also in a dark palette
+
 constexpr OptionRule kOptions[] = {{"--title", true},   {"--frame", true}, {"--colour", true},
                                    {"--key", true},     {"--app", true},   {"--readonly"},
                                    {"--capture", true}, {"--pilot", true}, {"--root", true},
@@ -84,7 +86,7 @@ void Describe(CoBxRtf& control, const CommandLine& line) {
   control.pNomAppli(text("--app", "microedit"));
   control.pTitreFenêtre(text("--title", "MicroEditeur"));
   control.pTitreCadre(text("--frame", ""));
-  control.pCouleurFen(text("--colour", "14737632"));
+  control.pCouleurFen(text("--colour", kDesktopsOwn));
   control.pSScléReg(text("--key", "microedit"));
 }
 

@@ -52,6 +52,9 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   MessageBox::Answer Ask(const MessageBox& box) override { return Form::Ask(box); }
   std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* dialog) override;
   Rect WindowBounds() const override { return Bounds(); }
+  std::optional<Rect> SelectionBounds() override {
+    return Peer() ? Peer()->SelectionIn(Bx_RTF) : std::nullopt;
+  }
   float DocumentWidth() const override { return Bx_RTF.Width(); }
   void FocusDocument() override { Bx_RTF.SetFocus(); }
   void EnableSuivant(bool on) override { Bar.mnuEdtSuivantppp.Enabled(on); }

@@ -12,6 +12,7 @@ constexpr std::u16string_view kFirst = u"&Trouver";
 constexpr std::u16string_view kNext = u"&Suivant";
 constexpr std::u16string_view kCompact = u"&Remplace...";
 constexpr std::u16string_view kExpanded = u"&Remplace";
+constexpr float kClearance = 300;  // around a match, in twips; decorations may be large
 
 }  // namespace
 
@@ -37,6 +38,8 @@ void Co_Trouver::Form_Load() {
   const std::u16string selected = editor_.Document().SelText();
   cboFind.AddItem(selected);
   cboFind.Text(selected);
+  CentreOver(editor_.WindowBounds());
+  UncoverMatch();
 }
 
 void Co_Trouver::Form_Unload() {
@@ -74,6 +77,7 @@ void Co_Trouver::cmdFind_Click() {
 void Co_Trouver::FirstSearch() {
   const bool found = editor_.Document().Find(cboFind.Text(), 0, Options()) != -1;
   if (found) {
+    UncoverMatch();
     editor_.FocusDocument();
     ReplaceButtons(true);
     cmdFind.Caption(kNext);
@@ -98,8 +102,19 @@ bool Co_Trouver::FindOn() {
   RichTextSurface& surface = editor_.Document();
   if (surface.Find(cboFind.Text(), surface.SelStart() + surface.SelLength(), Options()) == -1)
     return false;
+  UncoverMatch();
   editor_.FocusDocument();
   return true;
+}
+
+void Co_Trouver::UncoverMatch() {
+  const std::optional<Rect> match = editor_.SelectionBounds();
+  if (!match) return;
+  const Rect kept = {match->left - kClearance, match->top - kClearance,
+                     match->width + 2 * kClearance, match->height + 2 * kClearance};
+  if (!Bounds().Meets(kept)) return;
+  const float above = kept.top - Height();
+  Top(above >= 0 ? above : kept.top + kept.height);
 }
 
 void Co_Trouver::cmdReplace_Click() {
@@ -117,6 +132,7 @@ void Co_Trouver::Expand() {
   lblReplace.Visible(true);
   cboReplace.Visible(true);
   cmdReplaceAll.Visible(true);
+  UncoverMatch();
 }
 
 void Co_Trouver::ReplaceAndFind() {

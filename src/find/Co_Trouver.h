@@ -51,6 +51,8 @@ class Co_Trouver : public Form {
   bool FindOn();
   void ShowNotFound();
   void ReplaceButtons(bool on);
+  /// Moves the dialog off what is selected in the note: above it, or where there is no room below.
+  void UncoverMatch();
 
   EditorWindow& editor_;
 };

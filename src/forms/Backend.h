@@ -36,6 +36,8 @@ class FormPeer {
   virtual void FocusMenuBar(bool on) = 0;
   /// Raises the window and gives it the keyboard.
   virtual void Activate() = 0;
+  /// What frames the box's selection on the screen, in twips; empty if nothing selected is seen.
+  virtual std::optional<Rect> SelectionIn(const RichTextBox& box) = 0;
   /// Called while the window exists: a control was added to the form, or is about to be removed.
   virtual void Add(Control& control) = 0;
   virtual void Remove(Control& control) = 0;

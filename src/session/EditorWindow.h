@@ -48,6 +48,8 @@ class EditorWindow {
 
   /// The window's bounds on the screen, in twips.
   virtual Rect WindowBounds() const = 0;
+  /// What frames the note's selection on the screen, in twips; empty if nothing selected is seen.
+  virtual std::optional<Rect> SelectionBounds() = 0;
   /// Width of the note's box, in twips.
   virtual float DocumentWidth() const = 0;
   /// Focuses the note.

@@ -23,11 +23,6 @@ constexpr float kBigFontSize = 26;
 constexpr float kInsertFontSize = 12;
 constexpr float kTemplateLeft = -5000;  // out of sight
 
-bool Holds(const Rect& box, Point at) {
-  return at.x >= box.left && at.x < box.left + box.width && at.y >= box.top &&
-         at.y < box.top + box.height;
-}
-
 std::u16string SymbolOf(int code) { return Decode1252(std::string(1, static_cast<char>(code))); }
 
 }  // namespace
@@ -125,7 +120,7 @@ void Co_Symbols::lblBigDisplay_MouseMove(const MouseEvent& event) {
   const float x = lblBigDisplay.Left() + event.at.x;
   const float y = lblBigDisplay.Top() + event.at.y;
   for (int index = 1; index < lblsymbols.Count(); ++index)
-    if (Holds(lblsymbols(index).Bounds(), {x, y})) return lblsymbols_MouseMove(index);
+    if (lblsymbols(index).Bounds().Holds({x, y})) return lblsymbols_MouseMove(index);
 }
 
 void Co_Symbols::picHolder_MouseWheel(int notches) {

@@ -43,6 +43,24 @@ void HeadlessPeer::Update(Element& element, Property property) {
   if (view && property == Property::Geometry) view->Resize();
 }
 
+// A window without decorations of its own has the nominal ones.
+std::optional<Rect> HeadlessPeer::SelectionIn(const RichTextBox& box) {
+  constexpr Point kClientCorner = {60, 345};
+  constexpr float kMenuBarHeight = 300;
+  const auto selected = ViewOf(box)->Text().SelectionBox();
+  if (!selected) return std::nullopt;
+  const auto twips = [](double pixels) { return static_cast<float>(pixels * kTwipsInPixel); };
+  Rect place = {twips(selected->left), twips(selected->top), twips(selected->Width()),
+                twips(selected->Height())};
+  for (const Control* inner = &box; inner; inner = dynamic_cast<const Control*>(&inner->Parent())) {
+    place.left += inner->Left();
+    place.top += inner->Top();
+  }
+  place.left += form_.Left() + kClientCorner.x;
+  place.top += form_.Top() + kClientCorner.y + (form_.HasMenuBar() ? kMenuBarHeight : 0);
+  return place;
+}
+
 void HeadlessPeer::ShowFocus(const Control* focused) {
   for (const Control* box : mine_) ViewOf(*box)->Text().Focus(box == focused);
 }

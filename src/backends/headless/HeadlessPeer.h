@@ -23,6 +23,7 @@ class HeadlessPeer : public FormPeer {
   void Focus(Control& control) override { ShowFocus(&control); }
   void FocusMenuBar(bool on) override { ShowFocus(on ? nullptr : form_.ActiveControl()); }
   void Activate() override {}
+  std::optional<Rect> SelectionIn(const RichTextBox& box) override;
   void Add(Control& control) override;
   void Remove(Control& control) override;
   void PopUp(Menu&, Point) override {}

@@ -14,6 +14,14 @@ struct Rect {
   float width = 0;
   float height = 0;
   bool operator==(const Rect&) const = default;
+
+  bool Meets(const Rect& other) const {
+    return left < other.left + other.width && other.left < left + width &&
+           top < other.top + other.height && other.top < top + height;
+  }
+  bool Holds(Point at) const {
+    return at.x >= left && at.x < left + width && at.y >= top && at.y < top + height;
+  }
 };
 
 }  // namespace lumenote

@@ -18,6 +18,9 @@ class PilotPeer final : public FormPeer {
   void Focus(Control& control) override { inner_->Focus(control); }
   void FocusMenuBar(bool on) override { inner_->FocusMenuBar(on); }
   void Activate() override { inner_->Activate(); }
+  std::optional<Rect> SelectionIn(const RichTextBox& box) override {
+    return inner_->SelectionIn(box);
+  }
   void Add(Control& control) override { inner_->Add(control); }
   void Remove(Control& control) override { inner_->Remove(control); }
   void PopUp(Menu& menu, Point) override { popUp_ = menu.Name(); }

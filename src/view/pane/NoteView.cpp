@@ -7,6 +7,7 @@
 
 #include "base/ScopedFlag.h"
 #include "base/Strings.h"
+#include "view/pane/RangeBoxes.h"
 
 namespace lumenote {
 
@@ -96,6 +97,16 @@ bool NoteView::NotesAreNumbered() {
       if (box.number > 0 && box.number != notes.At(pane_.Content(), piece->ToPosition(box.index)))
         return false;
   return true;
+}
+
+std::optional<PixelRect> NoteView::SelectionBox() {
+  Settle();
+  if (!attached_ || Surface().Selected().Length() == 0) return std::nullopt;
+  PixelRect box;
+  for (const ShownPiece& piece : pane_.Visible())
+    for (const RangeBox& part : BoxesOf(pane_, piece, Surface().Selected()))
+      box = box.United(part.box);
+  return box.IsEmpty() ? std::nullopt : std::optional(box);
 }
 
 ViewMarks NoteView::Marks() {

@@ -1,6 +1,8 @@
 #include "backends/qt/peers/FramePeer.h"
 
+#include <QChildEvent>
 #include <QPainter>
+#include <algorithm>
 
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/DeviceLines.h"
@@ -11,12 +13,35 @@ namespace lumenote {
 namespace {
 constexpr int kTitleLeft = 10;
 constexpr int kTitleGap = 3;
+constexpr int kBorder = 2;
 constexpr float kRelief = 0.35F;
 }  // namespace
 
 void FrameWidget::Title(const QString& text) {
   title_ = text;
   update();
+}
+
+void FrameWidget::Clip(QWidget& child) const {
+  const int room = width() - kBorder - child.x();
+  if (child.width() > room)
+    child.setMask(QRect(0, 0, std::max(0, room), child.height()));
+  else
+    child.clearMask();
+}
+
+void FrameWidget::resizeEvent(QResizeEvent*) {
+  for (QWidget* child : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) Clip(*child);
+}
+
+void FrameWidget::childEvent(QChildEvent* event) {
+  if (event->added()) event->child()->installEventFilter(this);
+}
+
+bool FrameWidget::eventFilter(QObject* object, QEvent* event) {
+  const bool placed = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+  if (auto* child = qobject_cast<QWidget*>(object); child && placed) Clip(*child);
+  return false;
 }
 
 void FrameWidget::paintEvent(QPaintEvent*) {

@@ -6,7 +6,8 @@
 
 namespace lumenote {
 
-/// An etched border with the title in its top edge, transparent to the background.
+/// An etched border with the title in its top edge, transparent to the background. Controls that
+/// are too wide end before its right side.
 class FrameWidget : public SpokenWidget {
  public:
   using SpokenWidget::SpokenWidget;
@@ -17,8 +18,13 @@ class FrameWidget : public SpokenWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void childEvent(QChildEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
+  void Clip(QWidget& child) const;
+
   QString title_;
 };
 

@@ -219,8 +219,8 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Control) mouse_.Control(true);
   if (spelling_ && IsSpellingKey(*event)) return spelling_->Open();
   const bool used = keys_.Press(StrokeOf(*event), FromQString(TypedText(*event)));
-  event->setAccepted(used);
   const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+  event->setAccepted(used || tab);  // else the window would move the focus once more
   if (!used && tab) QAbstractScrollArea::focusNextPrevChild(event->key() == Qt::Key_Tab);
 }
 

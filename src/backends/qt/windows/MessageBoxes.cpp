@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <memory>
 
+#include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/QtText.h"
 
 namespace lumenote {
@@ -44,6 +45,7 @@ class NativeBox : public QMessageBox {
  public:
   NativeBox(const MessageBox& box, QWidget* over)
       : QMessageBox(IconOf(box.icon), TitleOf(box), ToLines(box.text), {}, over), over_(over) {
+    setFont(ControlFont());
     setTextFormat(Qt::PlainText);
     setModal(true);
     if (box.buttons == MessageBox::Buttons::YesNo)

@@ -6,7 +6,9 @@
 
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
+#include "backends/qt/view/RichTextView.h"
 #include "forms/controls/Label.h"
+#include "forms/controls/RichTextBox.h"
 
 namespace lumenote {
 
@@ -127,6 +129,15 @@ void QtFormPeer::Activate() {
   window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
   if (QGuiApplication::platformName() != u"offscreen") window_->raise();  // it only warns
   window_->activateWindow();
+}
+
+std::optional<Rect> QtFormPeer::SelectionIn(const RichTextBox& box) {
+  auto& view = dynamic_cast<RichTextView&>(controls_.at(&box)->Widget());
+  const auto selected = view.Text().SelectionBox();
+  if (!selected) return std::nullopt;
+  const QPointF corner = view.viewport()->mapToGlobal(QPointF(selected->left, selected->top));
+  return Rect{ToTwips(corner.x()), ToTwips(corner.y()), ToTwips(selected->Width()),
+              ToTwips(selected->Height())};
 }
 
 void QtFormPeer::PopUp(Menu& menu, Point at) {

@@ -31,6 +31,7 @@ class QtFormPeer final : public FormPeer {
   void Focus(Control& control) override;
   void FocusMenuBar(bool on) override;
   void Activate() override;
+  std::optional<Rect> SelectionIn(const RichTextBox& box) override;
   void Add(Control& control) override;
   void Remove(Control& control) override;
   void PopUp(Menu& menu, Point at) override;

@@ -1,11 +1,15 @@
 #include "backends/win32/windows/Win32FormPeer.h"
 
+#include <cmath>
+
 #include "backends/win32/toolkit/Keys.h"
 #include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/view/SurfaceWindow.h"
 #include "backends/win32/windows/OwnIcon.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 #include "base/ScopedFlag.h"
 #include "forms/Button.h"
+#include "forms/controls/RichTextBox.h"
 
 namespace lumenote {
 namespace {
@@ -170,6 +174,16 @@ void Win32FormPeer::ShowVisible() {
   ShowGeometry();
   stacking_.ShowOnTop();
   if (form_.IsModal()) lock_ = std::make_unique<ModalLock>(Handle());
+}
+
+std::optional<Rect> Win32FormPeer::SelectionIn(const RichTextBox& box) {
+  auto& surface = dynamic_cast<SurfaceWindow&>(controls_.at(&box)->Native());
+  const auto selected = surface.Text().SelectionBox();
+  if (!selected) return std::nullopt;
+  POINT corner = {std::lround(selected->left), std::lround(selected->top)};
+  ClientToScreen(surface.Handle(), &corner);
+  return Rect{scale_.Twips(corner.x), scale_.Twips(corner.y), scale_.Twips(selected->Width()),
+              scale_.Twips(selected->Height())};
 }
 
 void Win32FormPeer::PopUp(Menu& menu, Point at) {

@@ -37,6 +37,7 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   void Focus(Control& control) override;
   void FocusMenuBar(bool on) override;
   void Activate() override;
+  std::optional<Rect> SelectionIn(const RichTextBox& box) override;
   void Add(Control& control) override;
   void Remove(Control& control) override;
   void PopUp(Menu& menu, Point at) override;
