@@ -25,7 +25,7 @@ class Processes {
   /// `SplitCommandLine`. Raises FileNotFound, PathNotFound or PathAccess.
   virtual ProcessId Start(std::u16string_view commandLine) = 0;
   /// Opens a page, a file or a mail to an address with the program that the desktop has for it;
-  /// does nothing if it has none.
+  /// does nothing if it has none, or if the file is a program itself.
   virtual void Open(std::u16string_view address) = 0;
   /// Whether the program still runs, or a process that it left running in its place, or an instance
   /// that it passed its file to, as far as the system can tell; false for one never started.

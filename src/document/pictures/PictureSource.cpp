@@ -155,7 +155,7 @@ std::string PictureGroup(const PictureData& picture) {
 
 std::optional<PictureData> PictureOf(std::string_view source) {
   const std::optional<PictureSource> found = FindPicture(source);
-  if (!found || found->type > PictureType::Jpeg) return std::nullopt;
+  if (!found || !IsKeptFile(found->type)) return std::nullopt;
   std::string bytes = BytesOf(*found);
   if (bytes.empty()) return std::nullopt;
   return PictureData{found->type, std::move(bytes), found->across.goal, found->down.goal};

@@ -17,6 +17,11 @@ enum class PictureType : std::uint8_t {
   Unknown,
 };
 
+/// Whether it is that of files that notes keep as they are.
+constexpr bool IsKeptFile(PictureType type) {
+  return type == PictureType::Png || type == PictureType::Jpeg;
+}
+
 /// What the words say of a picture's width, or of its height.
 struct PictureExtent {
   int size = 0;     // pixels, of metafiles hundredths of a millimetre; 0 unknown
@@ -34,6 +39,7 @@ struct PictureSource {
   int bytesPerRow = 0;
   std::string_view data{};  // what follows in the group: digits, among them other groups
 };
+
 /// The first picture in a piece of kept source, which outlives the result. Costs little, however
 /// much data there is.
 std::optional<PictureSource> FindPicture(std::string_view source);

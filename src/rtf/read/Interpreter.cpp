@@ -185,7 +185,7 @@ void Interpreter::Close() {
   } else {
     HoldParagraph();
     groups_.pop_back();
-    if (State().character.reset != 0) EditCharacter().reset = 0;
+    if (State().character.reset != 0) EditCharacter().reset = 0;  // } is between it and the text
   }
   if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
 }

@@ -34,7 +34,7 @@ bool ShowsOnlyImages(std::string_view html) {
 
 std::optional<PictureData> Picture(const std::string& file, double room) {
   const std::optional<PictureType> type = TypeOfImage(file);
-  if (!type || *type > PictureType::Jpeg) return std::nullopt;
+  if (!type || !IsKeptFile(*type)) return std::nullopt;
   const ImageSize size = SizeOfImage(*type, file).value_or(ImageSize{});
   const double scale = room > 0 && size.width > room ? room / size.width : 1;
   const auto twips = [&](double side) { return static_cast<int>(std::lround(side * scale)); };

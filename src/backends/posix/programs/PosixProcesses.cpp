@@ -66,6 +66,7 @@ void PosixProcesses::Open(std::u16string_view address) {
     const pid_t leader = SpawnFromPath({"xdg-open", ToUtf8(address)});
     started_.emplace_back(++last_, leader, std::string(), std::string());
   } catch (const RuntimeError&) {
+    // No desktop: nothing to open it with.
   }
 }
 

@@ -6,8 +6,8 @@
 
 namespace lumenote {
 
-/// Wrapped text from the upper left corner, without the mnemonic's ampersand. The text covers a
-/// frame's border behind it. A strip shows nothing until the pointer is over it.
+/// Wrapped text from the upper left corner, without the mnemonic's ampersand. A title covers
+/// a frame's border behind it. A strip shows nothing until the pointer is over it.
 class LabelWidget : public SpokenWidget {
  public:
   using SpokenWidget::SpokenWidget;

@@ -1,9 +1,7 @@
 #include "backends/qt/text/BoxPainter.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "backends/qt/text/FontNames.h"
+#include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "document/pictures/PictureFrame.h"
 
@@ -16,18 +14,11 @@ constexpr double kFaint = 0.08;     // of the ground of a label
 constexpr double kLabelMargin = 3;  // pixels
 constexpr double kLeastLabel = 9;   // a lower or narrower box has no text
 
-/// On the device's own pixels, so that neither edges nor pictures blur.
-QRectF OnPixels(const QRectF& place, double ratio) {
-  const auto snapped = [&](double at) { return std::round(at * ratio) / ratio; };
-  return {QPointF(snapped(place.left()), snapped(place.top())),
-          QPointF(snapped(place.right()), snapped(place.bottom()))};
-}
-
 }  // namespace
 
 void BoxPainter::Paint(const InlineBox& box, const QRectF& place, bool selected) {
   const double ratio = painter_.device()->devicePixelRatioF();
-  const QRectF target = OnPixels(place, ratio);
+  const QRectF target = OnDevicePixels(painter_, place);
   const PictureFrame frame = FrameOf(document_.Formats().items[box.item]);
   const QSizeF whole(target.width() * ratio / (frame.right - frame.left),
                      target.height() * ratio / (frame.bottom - frame.top));
@@ -52,10 +43,8 @@ void BoxPainter::PaintLabel(ItemId item, const QRectF& place) {
   ink.setAlphaF(kFaint);
   painter_.fillRect(place, ink);
   ink.setAlphaF(1 - kTint);
-  const double ratio = painter_.device()->devicePixelRatioF();
-  const double thin = std::max(1.0, std::floor(ratio)) / ratio;
-  painter_.setPen(QPen(ink, thin));
-  painter_.drawRect(place.adjusted(thin / 2, thin / 2, -thin / 2, -thin / 2));
+  DrawBorder(painter_, place, ink);
+  painter_.setPen(ink);
   painter_.setFont(ControlFont());
   const QRectF inside = place.adjusted(kLabelMargin, 0, -kLabelMargin, 0);
   if (inside.width() >= kLeastLabel && inside.height() >= kLeastLabel) {

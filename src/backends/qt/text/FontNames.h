@@ -11,7 +11,7 @@ namespace lumenote {
 /// the best match for the kind of font that the note states.
 QString MachineFamily(const FontFace& face);
 
-/// Whether the named family is.
+/// Whether a font of that name is installed.
 bool IsInstalled(const FontFace& face);
 
 /// The small font of labels, menus and panels.

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 #include <QUrl>
 #include <algorithm>
 #include <iterator>
@@ -27,7 +26,7 @@ bool IsNamed(const QString& name) {
 /// Whether the bytes are in a format that notes hold.
 bool IsKept(const std::string& file) {
   const auto type = TypeOfImage(file);
-  return type && *type <= PictureType::Jpeg;
+  return type && IsKeptFile(*type);
 }
 
 QByteArray PngOf(const QImage& image) {

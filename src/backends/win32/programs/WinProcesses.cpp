@@ -41,10 +41,14 @@ int End(const std::vector<pid_t>& processes) {
   return failure;
 }
 
-/// Whether opening a file of that name would start it.
-bool IsProgram(const std::wstring& address) {
-  const wchar_t* extension = PathFindExtensionW(address.c_str());
-  return StrCmpNIW(address.c_str(), L"file:", 5) == 0 && AssocIsDangerous(extension);
+/// What to open for an address: of a file its path, which says more surely than the address whether
+/// opening the file would start it; empty then.
+std::wstring TargetOf(const std::wstring& address) {
+  if (StrCmpNIW(address.c_str(), L"file:", 5) != 0) return address;
+  wchar_t path[MAX_PATH] = {};
+  DWORD length = MAX_PATH;
+  const bool known = SUCCEEDED(PathCreateFromUrlW(address.c_str(), path, &length, 0));
+  return known && !AssocIsDangerous(PathFindExtensionW(path)) ? path : std::wstring();
 }
 
 }  // namespace
@@ -60,8 +64,8 @@ ProcessId WinProcesses::Start(std::u16string_view commandLine) {
 }
 
 void WinProcesses::Open(std::u16string_view address) {
-  const std::wstring target = ToWide(address);
-  if (!IsProgram(target))
+  const std::wstring target = TargetOf(ToWide(address));
+  if (!target.empty())
     ShellExecuteW(nullptr, L"open", target.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }
 
