@@ -1,6 +1,11 @@
 // Windows on real widgets: they show what the forms hold, and what the user does comes in.
 #include <QAccessible>
 #include <QApplication>
+#include <QColorDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -165,6 +170,53 @@ TEST_F(WindowTest, AModalWindowLocksTheOthersUntilItHasUnloaded) {
   modal.ShowModal();
   EXPECT_TRUE(locked);
   EXPECT_FALSE(modal.IsLoaded());
+}
+
+/// What the labels, buttons and frames of the topmost dialog say, without mnemonics and what is
+/// hidden.
+QStringList TextsOf(const QWidget& dialog) {
+  QStringList texts;
+  const auto add = [&](const QWidget& part, QString text) {
+    if (part.isVisible() && !text.trimmed().isEmpty()) texts += text.remove(u'&');
+  };
+  for (auto* label : dialog.findChildren<QLabel*>()) add(*label, label->text());
+  for (auto* button : dialog.findChildren<QAbstractButton*>()) add(*button, button->text());
+  for (auto* frame : dialog.findChildren<QGroupBox*>()) add(*frame, frame->title());
+  for (auto* style : dialog.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly))
+    if (style->isReadOnly()) add(*style, style->text());
+  texts.sort();
+  return texts;
+}
+
+TEST_F(WindowTest, FontsAndColoursAreChosenInFrench) {
+  QStringList fonts;
+  QStringList colours;
+  const auto later = [](auto act) { QTimer::singleShot(0, qApp, act); };
+  const auto top = [] { return qobject_cast<QDialog*>(QApplication::activeModalWidget()); };
+  const auto inColours = [&] {
+    colours = TextsOf(*top());
+    static_cast<QColorDialog*>(top())->setCurrentColor(Qt::red);
+    top()->accept();
+  };
+  const auto inFonts = [&] {
+    QDialog& dialog = *top();
+    fonts = TextsOf(dialog);
+    later(inColours);
+    for (auto* button : dialog.findChildren<QPushButton*>())
+      if (button->text().contains(u"ouleur")) button->click();
+    dialog.accept();
+  };
+  later(inFonts);
+  const auto choice = backend.ChooseFont({.size = 12.F, .bold = true}, form.get());
+  ASSERT_TRUE(choice);
+  EXPECT_EQ(choice->colour, 0xFF);
+  EXPECT_EQ(choice->bold, std::nullopt);
+  EXPECT_EQ(fonts.join(u'|').toStdString(),
+            "Annuler|Barré|Couleur...|Effets|Exemple|Gras|OK|Police|Souligné|Style|Taille");
+  EXPECT_EQ(colours.join(u'|').toStdString(),
+            "Ajouter aux couleurs personnelles|Annuler|Bleu :|Couleurs de base|Couleurs "
+            "personnelles|HTML:|Luminosité :|OK|Prélever à l'écran|Rouge :|Saturation :|Teinte "
+            ":|Vert :");
 }
 
 }  // namespace

@@ -1,14 +1,22 @@
 #include "backends/qt/windows/FontDialog.h"
 
+#include <QCheckBox>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QFontDialog>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
+#include <QListView>
 #include <QPointer>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/windows/FrenchTexts.h"
 
 namespace lumenote {
 
@@ -38,11 +46,16 @@ FontChoice Changes(const QFont& before, const QFont& after) {
   return choice;
 }
 
-std::int32_t ToBgr(const QColor& colour) {
-  return colour.blue() << 16 | colour.green() << 8 | colour.red();
-}
+/// Shows the names of styles in French; the dialog goes on knowing its own.
+class FrenchStyles : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QString displayText(const QVariant& value, const QLocale&) const override {
+    return InFrench(value.toString());
+  }
+};
 
-/// Qt's font dialog with a colour button.
+/// Qt's font dialog in French, with a colour button; the sample is in that colour.
 class ColouredFontDialog : public QFontDialog {
  public:
   ColouredFontDialog(const FontChoice& shown, QWidget* over)
@@ -50,20 +63,64 @@ class ColouredFontDialog : public QFontDialog {
         colour_(FromBgr(static_cast<std::uint32_t>(shown.colour.value_or(0)))) {
     setOption(QFontDialog::DontUseNativeDialog);
     setWindowTitle(QStringLiteral("Police"));
-    auto* button = new QPushButton(QStringLiteral("C&ouleur..."), this);
-    layout()->addWidget(button);
-    connect(button, &QPushButton::clicked, this, [this] { ChooseColour(); });
+    HideWritingSystems();
+    ShowStylesInFrench();
+    AddColour();
+    ShowInFrench(*this);
   }
 
   /// Empty until the user chooses one.
   std::optional<std::int32_t> Colour() const { return chosen_; }
 
  private:
+  // Notes are in French; the list is in English.
+  void HideWritingSystems() {
+    for (auto* list : findChildren<QComboBox*>()) list->hide();
+    for (auto* label : findChildren<QLabel*>())
+      if (qobject_cast<QComboBox*>(label->buddy())) label->hide();
+  }
+
+  void ShowStylesInFrench() {
+    for (auto* list : findChildren<QListView*>()) list->setItemDelegate(new FrenchStyles(list));
+    for (auto* chosen : findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+      if (!chosen->isReadOnly()) continue;
+      const auto translate = [chosen] { chosen->setText(InFrench(chosen->text())); };
+      connect(chosen, &QLineEdit::textChanged, chosen, translate);
+      translate();
+    }
+  }
+
+  void AddColour() {
+    auto* button = new QPushButton(QStringLiteral("C&ouleur..."), this);
+    connect(button, &QPushButton::clicked, this, [this] { ChooseColour(); });
+    const auto* effect = findChild<QCheckBox*>();
+    if (effect && effect->parentWidget()->layout())
+      effect->parentWidget()->layout()->addWidget(button);
+    else
+      layout()->addWidget(button);
+    ShowColour();
+  }
+
+  void ShowColour() {
+    for (auto* frame : findChildren<QGroupBox*>())
+      for (auto* sample : frame->findChildren<QLineEdit*>()) {
+        QPalette palette = sample->palette();
+        palette.setColor(QPalette::Text, colour_);
+        sample->setPalette(palette);
+      }
+  }
+
+  // The parent window may destroy either dialog while it is open.
   void ChooseColour() {
-    const QColor colour = QColorDialog::getColor(colour_, this, QStringLiteral("Couleur"));
-    if (!colour.isValid()) return;
-    colour_ = colour;
-    chosen_ = ToBgr(colour);
+    const QPointer<QColorDialog> dialog = new QColorDialog(colour_, this);
+    dialog->setOption(QColorDialog::DontUseNativeDialog);
+    dialog->setWindowTitle(QStringLiteral("Couleur"));
+    ShowInFrench(*dialog);
+    if (dialog->exec() != QDialog::Accepted || !dialog) return;
+    colour_ = dialog->selectedColor();
+    chosen_ = static_cast<std::int32_t>(ToBgr(colour_));
+    delete dialog;
+    ShowColour();
   }
 
   QColor colour_;

@@ -1,0 +1,15 @@
+// French for the toolkit's own dialogs, whatever the language of the host's application.
+#pragma once
+#include <QString>
+#include <QWidget>
+
+namespace lumenote {
+
+/// The French for one of the toolkit's texts, with or without its mnemonic; any other text as it
+/// is.
+QString InFrench(const QString& text);
+
+/// Puts the labels, buttons and frames of a dialog into French.
+void ShowInFrench(const QWidget& dialog);
+
+}  // namespace lumenote
