@@ -48,8 +48,9 @@ std::vector<Selection> SpelledWords(const Document& document, Position from, Pos
   // Words reach beyond the range, but not into other paragraphs.
   const Position first = document.ParagraphStart(document.ParagraphOf(from));
   const Position last = document.ParagraphEnd(document.ParagraphOf(to));
-  const Position start = std::max(from - kLongest, first);
-  const std::u16string text = document.Text(start, std::min(to + kLongest, last));
+  constexpr Position kBeyond = kLongest + 1;  // so that longer words are seen to be longer
+  const Position start = std::max(from - kBeyond, first);
+  const std::u16string text = document.Text(start, std::min(to + kBeyond, last));
   std::vector<Selection> words;
   for (std::size_t begin = 0, end = 0; begin < text.size(); begin = end + 1) {
     for (end = begin; end < text.size() && IsInWord(text, end);) ++end;

@@ -41,6 +41,7 @@ Dictionary::Dictionary(const QString& path)
 // A dictionary in an encoding that Qt does not know finds no fault.
 bool Dictionary::Knows(const QString& word) {
   if (!encode_.isValid()) return true;
+  encode_.resetState();
   const std::string bytes = Encoded(word);
   return encode_.hasError() || words_.spell(bytes);
 }

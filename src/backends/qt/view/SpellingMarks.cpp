@@ -1,5 +1,6 @@
 #include "backends/qt/view/SpellingMarks.h"
 
+#include <QApplication>
 #include <QPainterPath>
 #include <algorithm>
 
@@ -51,11 +52,13 @@ bool SpellingMarks::IsMarked(Selection word) const {
 }
 
 void SpellingMarks::Paint(QPainter& painter, const QRectF& area) {
+  painter.save();
   painter.setPen(QPen(Qt::red, 1));
   painter.setRenderHint(QPainter::Antialiasing);
   for (const ShownPiece& item : view_.Pane().Visible())
     if (item.y < area.bottom() && item.y + item.piece->height > area.top())
       PaintPiece(painter, item);
+  painter.restore();
 }
 
 void SpellingMarks::PaintPiece(QPainter& painter, const ShownPiece& item) {
@@ -96,15 +99,22 @@ void SpellingMarks::Open() {
 }
 
 void SpellingMarks::Open(Selection word) {
-  const std::u16string wrong = TextOf(word);
-  speller_.Suggest(wrong, this, [this, word, wrong](const QStringList& suggestions) {
-    const Misspelling misspelling{word, wrong};
-    if (IsThere(misspelling)) ShowPopup(misspelling, suggestions.mid(0, kMostSuggestions));
+  const Misspelling wanted{word, TextOf(word)};
+  const int request = ++requests_;
+  speller_.Suggest(wanted.text, this, [=, this](const QStringList& suggestions) {
+    if (request == requests_ && IsThere(wanted) && MayPopUp())
+      ShowPopup(wanted, suggestions.mid(0, kMostSuggestions));
   });
 }
 
 bool SpellingMarks::IsThere(const Misspelling& word) const {
   return view_.IsAttached() && TextOf(word.range) == word.text;
+}
+
+// The user may have gone on to something else meanwhile.
+bool SpellingMarks::MayPopUp() const {
+  return view_.hasFocus() && !QApplication::activePopupWidget() &&
+         QApplication::mouseButtons() == Qt::NoButton;
 }
 
 void SpellingMarks::ShowPopup(const Misspelling& word, const QStringList& suggestions) {
@@ -126,6 +136,7 @@ void SpellingMarks::ShowPopup(const Misspelling& word, const QStringList& sugges
 
 void SpellingMarks::AddSuggestions(QMenu& menu, const Misspelling& word,
                                    const QStringList& suggestions) {
+  if (view_.IsLocked()) return;
   if (suggestions.isEmpty())
     return menu.addAction(QStringLiteral("Aucune proposition"))->setEnabled(false);
   for (const QString& right : suggestions)
@@ -136,16 +147,17 @@ void SpellingMarks::AddSuggestions(QMenu& menu, const Misspelling& word,
     learn->addAction(right, this, [=, this] { MendAndLearn(word, right); });
 }
 
+// What happens between two acts may end the view, but not this object.
 void SpellingMarks::Mend(const Misspelling& word, const QString& right) {
-  if (!IsThere(word)) return;
+  if (!IsThere(word) || view_.IsLocked()) return;
   view_.Text().Select(word.range.start, word.range.end);
-  view_.Text().Type(FromQString(right));
+  if (IsThere(word)) view_.Text().Type(FromQString(right));
 }
 
 void SpellingMarks::MendAndLearn(const Misspelling& word, const QString& right) {
-  if (!IsThere(word)) return;
   Mend(word, right);
-  if (view_.IsAttached()) view_.Text().Act([&] { learn_(word.text, FromQString(right)); });
+  if (!view_.IsAttached() || IsThere(word)) return;
+  view_.Text().Act([&] { learn_(word.text, FromQString(right)); });
 }
 
 }  // namespace lumenote

@@ -49,6 +49,7 @@ class SpellingMarks : public QObject {
   void PaintPiece(QPainter& painter, const ShownPiece& item);
   void Open(Selection word);
   bool IsThere(const Misspelling& word) const;
+  bool MayPopUp() const;
   void ShowPopup(const Misspelling& word, const QStringList& suggestions);
   void AddSuggestions(QMenu& menu, const Misspelling& word, const QStringList& suggestions);
   void Mend(const Misspelling& word, const QString& right);
@@ -58,6 +59,7 @@ class SpellingMarks : public QObject {
   Speller& speller_;
   Learn learn_;
   QBasicTimer typing_;
+  int requests_ = 0;  // for suggestions; only the last one is answered
 };
 
 }  // namespace lumenote
