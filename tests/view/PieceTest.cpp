@@ -1,18 +1,16 @@
 // Pieces of the fixed layouter: breaks, edges, boxes in a line, rows of cells.
 #include <cmath>
 #include <gtest/gtest.h>
+#include <sstream>
 
 #include "base/Rows.h"
 #include "view/LayoutContract.h"
 #include "view/Window.h"
+#include "view/layout/Backdrop.h"
 
 namespace lumenote {
 
-std::unique_ptr<TextLayouter> MakeLayouter() {
-  auto layouter = std::make_unique<FixedLayouter>();
-  layouter->cells = true;
-  return layouter;
-}
+std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<FixedLayouter>(); }
 
 namespace {
 
@@ -82,7 +80,6 @@ TEST(Pieces, OfAnImageAreAsWideAsTheTextAtMost) {
 
 struct RowsTest : testing::Test {
   RowsTest() {
-    window.layouter.cells = true;
     window.surface.TextRTF(
         u"{\\rtf1 avant\\par\\trowd\\cellx600\\cellx1500\\cellx2000\\intbl "
         u"un deux trois\\cell quatre cinq\\cell six\\cell\\row apr\\'e8s}");
@@ -97,12 +94,12 @@ TEST_F(RowsTest, LieBesideEachOther) {
   ASSERT_EQ(Row().cells.size(), 3u);
   EXPECT_TRUE(Row().opens && Row().closes);
   EXPECT_EQ(Row().lines.size(), 3u + 2 + 1);
-  EXPECT_EQ(Row().height, 3 * 25);
-  const std::tuple<const char16_t*, double, double> places[] = {{u"trois", 0, 75},
-                                                                {u"quatre", 60, 25},
-                                                                {u"cinq", 60, 50},
-                                                                {u"six", 150, 25},
-                                                                {u"apr", 0, 100}};
+  EXPECT_EQ(Row().height, 3 * 25 + 3);
+  const std::tuple<const char16_t*, double, double> places[] = {{u"trois", 5, 75},
+                                                                {u"quatre", 65, 25},
+                                                                {u"cinq", 65, 50},
+                                                                {u"six", 155, 25},
+                                                                {u"apr", 0, 103}};
   for (const auto& [word, left, top] : places) {
     const auto at = static_cast<Position>(window.surface.Text().find(word));
     EXPECT_EQ(window.pane.CaretAt(at)->left, left) << ToUtf8(word);
@@ -151,6 +148,55 @@ TEST_F(RowsTest, AreAsWideAsDefined) {
     for (const PieceCell& cell : row.cells) rights.push_back(cell.right);
     EXPECT_EQ(rights, one.rights) << ToUtf8(one.row);
     EXPECT_EQ(row.cells.front().left, one.left) << ToUtf8(one.row);
+  }
+}
+
+// The parts behind a paragraph as "left,top,right,bottom colour".
+std::string Parts(Window& window, int paragraph) {
+  const Document& document = window.surface.Content();
+  const Piece& piece = window.pane.Cache().At(document.ParagraphStart(paragraph));
+  std::ostringstream out;
+  for (const auto& [area, colour] :
+       BackdropOf(window.layouter, document, piece, {-9, 0, 400, 200}, {}))
+    out << area.left << ',' << area.top << ',' << area.right << ',' << area.bottom << ' '
+        << std::hex << colour << std::dec << "; ";
+  return out.str();
+}
+
+TEST_F(RowsTest, HaveLinesAndGrounds) {
+  const std::u16string red = u"{\\rtf1{\\colortbl;\\red255\\green0\\blue0;}";
+  const std::tuple<std::u16string, int, const char*> notes[] = {
+      {u"\\trowd\\cellx600\\intbl a\\cell\\row\\trowd\\cellx600\\intbl b\\cell\\row", 1,
+       "0,27,61,28 b3b3b3; 0,0,1,28 b3b3b3; 60,0,61,28 b3b3b3; "},
+      {u"\\trowd\\clbrdrl\\brdrs\\brdrw20\\brdrcf1\\clcbpat1\\cellx600\\intbl a\\cell\\row", 0,
+       "0,0,60,28 ff; 0,0,2,28 ff; "},
+      {u"\\brdrt\\brdrs\\brdrw10\\brsp30 a\\par b", 0, "0,0,300,1 0; "},
+      {u"\\brdrt\\brdrs\\brdrw10\\brsp30 a\\par b", 1, ""},
+      {u"\\brdrb\\brdrdot\\brdrw999999999 a", 0,
+       "0,25,26,51 0; 52,25,78,51 0; "
+       "104,25,130,51 0; 156,25,182,51 0; 208,25,234,51 0; 260,25,286,51 0; "},
+      {u"\\shading2000 a", 0, "0,0,300,25 cccccc; "},
+      {u"\\cbpat77\\brdrl\\brdrnone a", 0, ""}};
+  for (const auto& [source, paragraph, parts] : notes) {
+    window.surface.TextRTF(red + source + u"}");
+    window.view.Settle();
+    EXPECT_EQ(Parts(window, paragraph), parts) << ToUtf8(source);
+  }
+}
+
+TEST_F(RowsTest, TabGoesFromCellToCell) {
+  window.surface.UserSelect(0, 0);
+  EXPECT_FALSE(window.surface.UserKey({.name = KeyName::Tab, .shift = true})) << "no table there";
+  window.surface.UserSelect(9, 9);
+  for (const auto& [shift, caret] : {std::pair{false, 21}, {false, 33}, {false, 38}, {false, 39}}) {
+    window.surface.UserKey({.name = KeyName::Tab, .shift = shift});
+    EXPECT_EQ(window.surface.Caret(), caret);
+  }
+  EXPECT_EQ(window.surface.Text().substr(38, 1), u"\t") << "outside the table it types";
+  window.surface.UserSelect(34, 34);
+  for (const Position caret : {21, 7, 7}) {
+    window.surface.UserKey({.name = KeyName::Tab, .shift = true});
+    EXPECT_EQ(window.surface.Caret(), caret);
   }
 }
 

@@ -77,8 +77,8 @@ class PieceBuilder {
 
   /// Returns false if an incomplete span gave no whole line.
   bool BuildLines(const PieceSpan& span);
-  /// Lays out a whole row of cells, whatever the span; false if the paragraph is not a row.
-  bool BuildRow();
+  /// Lays out a whole row of cells.
+  void BuildRow();
 
  private:
   Glyph GlyphOf(char16_t unit, CharId format) const;
@@ -203,31 +203,32 @@ bool PieceBuilder::BuildLines(const PieceSpan& span) {
   return true;
 }
 
-bool PieceBuilder::BuildRow() {
+void PieceBuilder::BuildRow() {
   const std::vector<RowCell> cells = RowCellsAt(layouter_, document_, piece_.from);
-  if (cells.empty()) return false;
   AddText(piece_.from, piece_.to);
   LineStack stack(layouter_, document_, piece_);
+  const int count = static_cast<int>(piece_.glyphs.size());
+  const std::vector<int> ends = EndsOf(cells, piece_, count);
+  for (std::size_t i = 0; i + 1 < ends.size(); ++i)
+    piece_.glyphs[static_cast<std::size_t>(ends[i]) - 1].EndCell();
   int start = 0;
-  for (const RowCell& cell : cells) {
-    const bool last = &cell == &cells.back();
-    const int end = EndOf(cell, piece_, last);
-    if (!last) piece_.glyphs[static_cast<std::size_t>(end) - 1].EndCell();
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const RowCell& cell = cells[i];
+    const int end = ends[i];
     const std::size_t line = piece_.lines.size();
     AddCell(cell, start, end);
-    if (last && EndsWithLineBreak()) AddLine(end, end, cell.left);
+    if (end == count && EndsWithLineBreak()) AddLine(end, end, cell.TextLeft());
     stack.BeginCell(cell.left, cell.right);
     PlaceFrom(stack, line);
     start = end;
   }
   stack.Finish(Text());
-  return true;
 }
 
 void PieceBuilder::AddCell(const RowCell& cell, int start, int end) {
   for (int lineEnd = -1; lineEnd != end; start = lineEnd) {
-    lineEnd = LineEnd(start, end, cell.left, cell.right - cell.left);
-    AddLine(start, lineEnd, cell.left);
+    lineEnd = LineEnd(start, end, cell.TextLeft(), cell.Room());
+    AddLine(start, lineEnd, cell.TextLeft());
   }
 }
 
@@ -238,12 +239,13 @@ FontMetrics FixedLayouter::MetricsOf(const Document&, const CharFormat& format) 
 }
 
 std::unique_ptr<Piece> FixedLayouter::Make(const Document& document, const PieceSpan& span) {
-  if (cells) {
+  if (RowAt(document, span.from)) {
     const Position paragraph = document.ParagraphOf(span.from);
     auto row = std::make_unique<FixedPiece>();
     Open(*row, document,
          {.from = document.ParagraphStart(paragraph), .to = document.ParagraphEnd(paragraph)});
-    if (PieceBuilder(*this, document, *row).BuildRow()) return row;
+    PieceBuilder(*this, document, *row).BuildRow();
+    return row;
   }
   auto piece = std::make_unique<FixedPiece>();
   Open(*piece, document, span);

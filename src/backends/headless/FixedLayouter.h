@@ -8,13 +8,10 @@ namespace lumenote {
 
 /// A ten-point character is 20/3 pixels wide, in a line of 16 pixels. Tabs advance to the next
 /// multiple of half an inch; lines break after spaces, tabs and hyphens, and inside a word that is
-/// too long; trailing spaces hang; every alignment is set flush left.
+/// too long; trailing spaces hang; every alignment is set flush left; cells of a row lie beside
+/// each other.
 class FixedLayouter final : public TextLayouter {
  public:
-  /// Whether table rows are laid out as cells beside each other; else their cells are text
-  /// separated by tabs.
-  bool cells = false;
-
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 
  private:

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "base/Characters.h"
+#include "surface/keys/CellKeys.h"
 #include "surface/keys/Words.h"
 
 namespace lumenote {
@@ -90,6 +91,7 @@ bool UserKeys::Press(const KeyStroke& key) {
     text_.Type({&character, 1});
     return true;
   }
+  if (key == Shift(KeyName::Tab)) return GoTo(PreviousCell(core_.Content(), core_.Caret()));
   const auto* command = std::ranges::find(kCommands, key, &Command::key);
   if (command == std::end(kCommands)) return false;
   (this->*command->action)();
@@ -125,7 +127,14 @@ void UserKeys::Break() { text_.Type(u"\r\n"); }
 
 void UserKeys::BreakLine() { text_.Type(u"\v"); }
 
-void UserKeys::Tab() { text_.Type(u"\t"); }
+void UserKeys::Tab() {
+  if (!GoTo(NextCell(core_.Content(), core_.Caret()))) text_.Type(u"\t");
+}
+
+bool UserKeys::GoTo(std::optional<Position> target) {
+  if (target) core_.Select(*target, *target);
+  return target.has_value();
+}
 
 void UserKeys::Blank() { text_.Type(u" "); }
 

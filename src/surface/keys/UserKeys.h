@@ -1,5 +1,7 @@
 // Keys that edit the document or act on the clipboard and the history.
 #pragma once
+#include <optional>
+
 #include "surface/editing/CharacterFormats.h"
 #include "surface/editing/ParagraphFormats.h"
 #include "surface/editing/TextEditing.h"
@@ -38,6 +40,7 @@ class UserKeys {
   void Break();
   void BreakLine();
   void Tab();
+  bool GoTo(std::optional<Position> target);
   void Blank();
   void SelectAll();
   void Copy() { transfer_.Copy(); }

@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kLeastWidth = 16;
 constexpr double kBulletRoom = 240;  // twips; the minimum
+constexpr double kRowRoom = 30;      // twips between the text of a row and the line below it
 
 std::uint64_t Mixed(std::uint64_t hash, std::uint64_t value) {
   constexpr std::uint64_t kGolden = 0x9E3779B97F4A7C15;
@@ -54,7 +55,8 @@ LineStack::LineStack(const TextLayouter& layouter, const Document& document, Pie
       piece_(piece),
       format_(document.Formats().paragraphs[piece.format]),
       edges_(EdgesOf(layouter, format_)),
-      start_(piece.opens ? layouter.Pixels(format_.spaceBefore) : 0),
+      room_(BorderRoomOf(layouter, document.Formats(), format_)),
+      start_(piece.opens ? layouter.Pixels(format_.spaceBefore) + room_.above : 0),
       top_(start_),
       most_(start_) {}
 
@@ -97,6 +99,7 @@ void LineStack::BeginCell(double left, double right) {
 
 void LineStack::Finish(std::u16string_view text) {
   const bool spaced = piece_.closes && format_.spaceAfter > 0;
+  if (piece_.closes) most_ += piece_.cells.empty() ? room_.below : layouter_.Pixels(kRowRoom);
   piece_.height = std::round(most_ + (spaced ? layouter_.Pixels(format_.spaceAfter) : 0));
   if (piece_.opens) piece_.bulletX = edges_.bullet;
   for (PieceLine& line : piece_.lines) line.look = LookOf(line, text);

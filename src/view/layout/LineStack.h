@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "view/layout/Backdrop.h"
 #include "view/layout/TextLayouter.h"
 
 namespace lumenote {
@@ -60,6 +61,7 @@ class LineStack {
   Piece& piece_;
   const ParaFormat& format_;
   const LineEdges edges_;
+  const BorderRoom room_;
   double start_ = 0;  // below the space before the paragraph
   double top_ = 0;    // of the next line
   double most_ = 0;   // lowest bottom of the cells so far

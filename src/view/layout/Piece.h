@@ -79,8 +79,7 @@ class Piece {
   int LineOfIndex(int index) const;
   Position LineStart(int line) const { return ToPosition(lines[Index(line)].start); }
   /// Whether what callers know as a line begins there: cells of a row stand beside each other in
-  /// one, up to its line breaks, so that lines count alike where rows are laid out as text with
-  /// tabs.
+  /// one, up to its line breaks.
   bool BeginsLine(const Document& document, int line) const;
   /// Distance from the text's left edge.
   double XOf(Position position) const;

@@ -1,13 +1,17 @@
 #include "view/layout/RowCells.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
+
+#include "document/BorderSource.h"
 
 namespace lumenote {
 
 namespace {
 
 constexpr double kLeastWidth = 240;  // twips
+constexpr int kLeastPadding = 45;    // twips; text never touches a line
 
 const Kept& KeptOf(const FormatTables& tables, CharId format) {
   return tables.kept[tables.characters[format].kept];
@@ -39,35 +43,59 @@ std::vector<RowCell> CellsBetween(const Document& document, Position start, Posi
 /// Gives each cell the stated edge, or an equal share of what is left of the line; of more edges
 /// than cells, the last ones.
 void SetEdges(std::vector<RowCell>& cells, const std::vector<std::int32_t>& stated,
-              const TextLayouter& layouter) {
+              const RowFrame& frame, const TextLayouter& layouter) {
   const double least = layouter.Pixels(kLeastWidth);
   std::size_t next = stated.size() - std::min(stated.size(), cells.size());
-  double left = next == 0 ? 0 : layouter.Pixels(stated[next - 1]);
+  double left = std::max(0.0, layouter.Pixels(next == 0 ? frame.left : stated[next - 1]));
+  const double padding = std::round(layouter.Pixels(std::max(frame.gap, kLeastPadding)));
   auto sharing = static_cast<double>(cells.size());
   for (RowCell& cell : cells) {
     const double share = left + (layouter.Width() - left) / sharing--;
     const double right = next < stated.size() ? layouter.Pixels(stated[next++]) : share;
     cell.left = left;
     left = cell.right = std::max(right, left + least);
+    cell.padding = std::min(padding, std::floor((cell.right - cell.left) / 4));
   }
+}
+
+int EndOf(const RowCell& cell, const Piece& row) {
+  const int index = cell.end - row.from;
+  return index > row.composedAt ? index + row.composedLength : index;
 }
 
 }  // namespace
 
+const Kept* RowAt(const Document& document, Position position) {
+  const Position end = document.ParagraphEnd(document.ParagraphOf(position));
+  const Kept& kept = KeptOf(document.Formats(), document.CharFormatAt(end));
+  return kept.kind == Kept::Kind::Row ? &kept : nullptr;
+}
+
 std::vector<RowCell> RowCellsAt(const TextLayouter& layouter, const Document& document,
                                 Position position) {
+  const Kept* row = RowAt(document, position);
+  if (!row) return {};
   const Position paragraph = document.ParagraphOf(position);
-  const Position end = document.ParagraphEnd(paragraph);
-  const Kept& row = KeptOf(document.Formats(), document.CharFormatAt(end));
-  if (row.kind != Kept::Kind::Row) return {};
-  std::vector<RowCell> cells = CellsBetween(document, document.ParagraphStart(paragraph), end);
-  SetEdges(cells, StatedEdges(document.Formats(), row.self), layouter);
+  std::vector<RowCell> cells =
+      CellsBetween(document, document.ParagraphStart(paragraph), document.ParagraphEnd(paragraph));
+  const FormatTables& tables = document.Formats();
+  SetEdges(cells, StatedEdges(tables, row->self), RowFrameOf(tables, row->self), layouter);
   return cells;
 }
 
-int EndOf(const RowCell& cell, const Piece& row, bool last) {
-  const int index = cell.end - row.from;
-  return last || index > row.composedAt ? index + row.composedLength : index;
+PieceSpan SpanOf(const std::vector<RowCell>& cells, const Document& document,
+                 const PieceSpan& wanted) {
+  if (cells.empty()) return wanted;
+  const Position paragraph = document.ParagraphOf(wanted.from);
+  return {.from = document.ParagraphStart(paragraph), .to = document.ParagraphEnd(paragraph)};
+}
+
+std::vector<int> EndsOf(const std::vector<RowCell>& cells, const Piece& row, int length) {
+  std::vector<int> ends;
+  for (const RowCell& cell : cells) ends.push_back(EndOf(cell, row));
+  if (ends.empty()) ends.push_back(length);
+  ends.back() = length;
+  return ends;
 }
 
 }  // namespace lumenote

@@ -11,6 +11,10 @@ struct RowCell {
       0;            // where the next cell's text begins; a cell's last unit is the tab that ends it
   double left = 0;  // pixels from the text's left edge
   double right = 0;
+  double padding = 0;  // beside the text, left and right
+
+  double TextLeft() const { return left + padding; }
+  double Room() const { return right - left - 2 * padding; }
 };
 
 /// The cells, from left to right, of the row that the paragraph at `position` ends; empty if it
@@ -19,8 +23,16 @@ struct RowCell {
 std::vector<RowCell> RowCellsAt(const TextLayouter& layouter, const Document& document,
                                 Position position);
 
-/// The unit behind a cell in the text of the row's piece; `last` tells the row's last cell. Text
-/// composed where a cell begins belongs to that cell.
-int EndOf(const RowCell& cell, const Piece& row, bool last);
+/// What is kept at the break of a row, which the paragraph at `position` ends; null if it ends
+/// none.
+const Kept* RowAt(const Document& document, Position position);
+
+/// The paragraph if it is a row, which is always laid out whole; else what is wanted.
+PieceSpan SpanOf(const std::vector<RowCell>& cells, const Document& document,
+                 const PieceSpan& wanted);
+
+/// Where cells end in the text of their row's piece, which has `length` units; only the text's end
+/// if there are none. Text composed where a cell begins belongs to that cell.
+std::vector<int> EndsOf(const std::vector<RowCell>& cells, const Piece& row, int length);
 
 }  // namespace lumenote

@@ -6,6 +6,8 @@
 #include <numeric>
 #include <utility>
 
+#include "view/layout/Backdrop.h"
+
 namespace lumenote {
 
 namespace {
@@ -49,14 +51,22 @@ void Damage::Add(const PixelRect& area) {
     areas.push_back(whole);
 }
 
-ViewDamage::Lines ViewDamage::LinesOf(const std::vector<ShownPiece>& shown, Selection selection) {
+// Before a backdrop, the lines of a piece take all its height.
+ViewDamage::Lines ViewDamage::LinesOf(const std::vector<ShownPiece>& shown,
+                                      Selection selection) const {
   Lines lines;
-  for (const ShownPiece& item : shown)
+  for (const ShownPiece& item : shown) {
+    const std::uint64_t backdrop = BackdropLook(pane_.Content(), *item.piece);
+    const std::size_t first = lines.size();
     item.piece->ForEachBand([&](const PieceLine& line) {
       const double top = item.y + line.top;
-      lines.push_back({line.look, top, top + line.height, item.y + line.baseline,
+      lines.push_back({line.look ^ backdrop, top, top + line.height, item.y + line.baseline,
                        SelectedIn(*item.piece, line, selection)});
     });
+    if (backdrop == 0) continue;
+    lines[first].top = item.y;
+    lines.back().bottom = item.y + item.piece->height;
+  }
   return lines;
 }
 

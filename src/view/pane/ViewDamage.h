@@ -57,7 +57,7 @@ class ViewDamage {
   };
   using Lines = std::vector<Seen>;
 
-  static Lines LinesOf(const std::vector<ShownPiece>& shown, Selection selection);
+  Lines LinesOf(const std::vector<ShownPiece>& shown, Selection selection) const;
   std::optional<PixelShift> FindShift(const Lines& now) const;
   PixelShift LongestRun(const Lines& now, std::ptrdiff_t ahead) const;
   void Shift(Damage& damage);

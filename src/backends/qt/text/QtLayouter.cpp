@@ -7,6 +7,7 @@
 #include "backends/qt/toolkit/QtText.h"
 #include "view/layout/InlineBoxes.h"
 #include "view/layout/LineStack.h"
+#include "view/layout/RowCells.h"
 #include "view/layout/ShownText.h"
 
 namespace lumenote {
@@ -52,11 +53,14 @@ class LineMaker {
 
   /// Returns false if an incomplete span gave no whole line.
   bool Build(const PieceSpan& span);
+  /// Lays out a row; `ends` are those of the cells in the piece's text.
+  void BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends);
 
  private:
   QTextOption Option(double lineX) const;
   bool AddLines(const PieceSpan& span);
   double Hang(const QTextLine& line, const PieceLine& box) const;
+  void AddCellLines(const std::vector<RowCell>& cells, const std::vector<int>& ends);
   void Place(QTextLine line, PieceLine& box);
 
   QtPiece& piece_;
@@ -167,6 +171,35 @@ double LineMaker::Hang(const QTextLine& line, const PieceLine& box) const {
   return alignment == Alignment::Centre ? blanks / 2 : blanks;
 }
 
+void LineMaker::BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends) {
+  piece_.layout.beginLayout();
+  AddCellLines(cells, ends);
+  piece_.layout.endLayout();
+  std::size_t line = 0;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    stack_.BeginCell(cells[i].left, cells[i].right);
+    const bool last = i + 1 == cells.size();
+    for (; line < piece_.lines.size() && (last || piece_.lines[line].start < ends[i]); ++line)
+      Place(piece_.layout.lineAt(static_cast<int>(line)), piece_.lines[line]);
+  }
+  stack_.Finish(Utf16(piece_.layout.text()));
+}
+
+// A cell's text ends with a line break.
+void LineMaker::AddCellLines(const std::vector<RowCell>& cells, const std::vector<int>& ends) {
+  piece_.layout.setTextOption(Option(0));
+  std::size_t cell = 0;
+  for (;;) {
+    QTextLine line = piece_.layout.createLine();
+    if (!line.isValid()) return;
+    line.setLineWidth(cells[cell].Room());
+    line.setPosition({cells[cell].TextLeft(), 0});
+    const int end = line.textStart() + line.textLength();
+    piece_.lines.push_back({.start = line.textStart(), .end = end});
+    if (end == ends[cell] && cell + 1 < cells.size()) ++cell;
+  }
+}
+
 void LineMaker::Place(QTextLine line, PieceLine& box) {
   double ascent = line.ascent();
   double descent = line.descent();
@@ -176,6 +209,12 @@ void LineMaker::Place(QTextLine line, PieceLine& box) {
   line.setPosition({line.position().x() + Hang(line, box), box.baseline - line.ascent()});
 }
 
+/// Each cell begins a line.
+void BreakBehindCells(const std::vector<int>& ends, std::u16string& text) {
+  for (std::size_t i = 0; i + 1 < ends.size(); ++i)
+    text[static_cast<std::size_t>(ends[i]) - 1] = kShownLineBreak;
+}
+
 }  // namespace
 
 FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& format) {
@@ -183,12 +222,16 @@ FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& fo
   return {style.ascent, style.descent, style.raise};
 }
 
-std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpan& span) {
+std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpan& wanted) {
   auto piece = std::make_unique<QtPiece>();
+  const std::vector<RowCell> cells = RowCellsAt(*this, document, wanted.from);
+  const PieceSpan span = SpanOf(cells, document, wanted);
   ShownText text(document, span.from, span.to,
                  [&](CharId id) -> const CharLook& { return styles.Of(document, id); });
   const bool composing = Open(*piece, document, span);
   if (composing) text.Insert(piece->composedAt, Composed().text);
+  const std::vector<int> ends = EndsOf(cells, *piece, static_cast<int>(text.text.size()));
+  BreakBehindCells(ends, text.text);
   QList<FormatRange> formats = FormatsOf(text, document, styles);
   if (composing)
     for (FormatRange range : composedFormats) {
@@ -205,7 +248,11 @@ std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpa
   AddBoxes(*piece, document, styles, formats);
   piece->layout.setFormats(formats);
   const bool tabs = text.text.find(u'\t') != text.text.npos;
-  if (!LineMaker(*this, document, *piece, tabs).Build(span)) return nullptr;
+  LineMaker lines(*this, document, *piece, tabs);
+  if (!cells.empty())
+    lines.BuildRow(cells, ends);
+  else if (!lines.Build(span))
+    return nullptr;
   return piece;
 }
 

@@ -7,7 +7,7 @@
 
 namespace lumenote {
 
-/// Creates `QtPiece`s.
+/// Creates `QtPiece`s, also of table rows as cells beside each other.
 class QtLayouter final : public TextLayouter {
  public:
   CharStyles styles;
@@ -18,7 +18,7 @@ class QtLayouter final : public TextLayouter {
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 
  private:
-  std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& span) override;
+  std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& wanted) override;
   void Zoomed() override { styles.Zoom(Zoom()); }
 };
 

@@ -6,7 +6,9 @@
 #include "backends/qt/text/BoxPainter.h"
 #include "backends/qt/text/Decorations.h"
 #include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/Pixels.h"
+#include "view/layout/Backdrop.h"
 #include "view/layout/InlineBoxes.h"
 
 namespace lumenote {
@@ -29,6 +31,7 @@ void ViewPainter::Paint(QPainter& painter, const QRectF& area) {
 
 void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area) {
   const QPointF origin(pane_.TextLeft(), item.y);
+  PaintBackdrop(painter, item, area);
   painter.setPen(state_.palette.color(QPalette::Text));
   if (const auto stripe = BreakBoxOf(pane_, item, state_.marks.selection))
     painter.fillRect(ToQRect(*stripe), state_.palette.highlight());
@@ -37,6 +40,17 @@ void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QR
   PaintSelection(painter, item);
   PaintBoxes(painter, item, area);
   PaintDecorations(painter, PieceOf(item), origin, state_.palette.color(QPalette::Text));
+}
+
+void ViewPainter::PaintBackdrop(QPainter& painter, const ShownPiece& item, const QRectF& area) {
+  const double left = pane_.TextLeft();
+  const PixelRect seen{area.left(), area.top(), area.right(), area.bottom()};
+  const BackdropColours colours{.ink = ToBgr(state_.palette.color(QPalette::Text)),
+                                .ground = ToBgr(state_.palette.color(QPalette::Base))};
+  for (const BackdropPart& part :
+       BackdropOf(layouter_, pane_.Content(), *item.piece, seen.MovedBy(-left, -item.y), colours))
+    painter.fillRect(OnDevicePixels(painter, ToQRect(part.area.MovedBy(left, item.y))),
+                     FromBgr(part.colour));
 }
 
 void ViewPainter::PaintBoxes(QPainter& painter, const ShownPiece& item, const QRectF& area) {

@@ -26,6 +26,7 @@ class ViewPainter {
 
  private:
   void PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area);
+  void PaintBackdrop(QPainter& painter, const ShownPiece& item, const QRectF& area);
   void PaintBullet(QPainter& painter, const ShownPiece& item);
   void PaintSelection(QPainter& painter, const ShownPiece& item);
   void PaintBoxes(QPainter& painter, const ShownPiece& item, const QRectF& area);

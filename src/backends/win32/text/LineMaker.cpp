@@ -11,7 +11,6 @@ namespace lumenote {
 namespace {
 
 constexpr double kTolerance = 1e-6;  // pixels
-constexpr double kCellGap = 90;      // twips between the text of a cell and the next cell
 
 int Rounded(double pixels) { return static_cast<int>(std::lround(pixels)); }
 
@@ -25,8 +24,7 @@ LineMaker::LineMaker(const TextLayouter& layouter, const Document& document, Cha
       stack_(layouter, document, piece),
       units_(std::move(shaped.units)),
       tabs_(TabsOf(layouter, document.Formats().tabs[stack_.Format().tabs], stack_.Edges())),
-      tabStep_(layouter.Pixels(kDefaultTabStep)),
-      cellGap_(layouter.Pixels(kCellGap)) {
+      tabStep_(layouter.Pixels(kDefaultTabStep)) {
   for (PixelTab& tab : tabs_) tab.x = std::round(tab.x);  // as the text before it ends
   piece_.glyphs = std::move(shaped.runs);
   piece_.units.resize(units_.size());
@@ -112,8 +110,7 @@ void LineMaker::BuildRow(const std::vector<RowCell>& cells, const std::vector<in
 }
 
 void LineMaker::AddCell(const RowCell& cell, int start, int end) {
-  const double room = cell.right - cell.left - cellGap_;
-  column_ = {.end = end, .edges = {.right = room}, .left = std::round(cell.left)};
+  column_ = {.end = end, .edges = {.right = cell.Room()}, .left = std::round(cell.TextLeft())};
   const std::size_t first = piece_.lines.size();
   AddLines(start, end, false);
   if (end == std::ssize(units_)) EndWithLineBreak();

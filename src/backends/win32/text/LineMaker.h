@@ -61,7 +61,6 @@ class LineMaker {
   std::vector<ShapedUnit> units_;
   std::vector<PixelTab> tabs_;
   const double tabStep_;
-  const double cellGap_;
   Column column_;
 };
 

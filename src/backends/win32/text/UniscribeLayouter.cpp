@@ -18,23 +18,6 @@ Decoration ComposedLine(const Piece& piece, const CharStyle& style) {
           .descent = style.descent};
 }
 
-/// The paragraph if it is a row, which is always laid out whole.
-PieceSpan SpanOf(const std::vector<RowCell>& cells, const Document& document,
-                 const PieceSpan& wanted) {
-  if (cells.empty()) return wanted;
-  const Position paragraph = document.ParagraphOf(wanted.from);
-  return {.from = document.ParagraphStart(paragraph), .to = document.ParagraphEnd(paragraph)};
-}
-
-/// Where the cells end in the text of a row's piece; only the text's end if there are none.
-std::vector<int> EndsOf(const std::vector<RowCell>& cells, const Piece& piece,
-                        const std::u16string& text) {
-  if (cells.empty()) return {static_cast<int>(text.size())};
-  std::vector<int> ends;
-  for (const RowCell& cell : cells) ends.push_back(EndOf(cell, piece, &cell == &cells.back()));
-  return ends;
-}
-
 /// The tabs that end cells show nothing.
 void HideCellEnds(const std::vector<int>& ends, std::u16string& text) {
   for (std::size_t i = 0; i + 1 < ends.size(); ++i)
@@ -64,7 +47,7 @@ std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const P
   const std::vector<RowCell> cells = RowCellsAt(*this, document, wanted.from);
   const PieceSpan span = SpanOf(cells, document, wanted);
   ShownText text = Show(*piece, document, span);
-  const std::vector<int> ends = EndsOf(cells, *piece, text.text);
+  const std::vector<int> ends = EndsOf(cells, *piece, static_cast<int>(text.text.size()));
   HideCellEnds(ends, text.text);
   const bool rightToLeft = document.Formats().paragraphs[piece->format].rightToLeft;
   ShapedText shaped = Shaper(document, styles, text).Shape(rightToLeft, ends);

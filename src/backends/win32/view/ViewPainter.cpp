@@ -5,6 +5,7 @@
 
 #include "backends/win32/view/BoxPainter.h"
 #include "backends/win32/view/GdiPencil.h"
+#include "view/layout/Backdrop.h"
 #include "view/layout/InlineBoxes.h"
 #include "view/pane/RangeBoxes.h"
 
@@ -75,6 +76,7 @@ void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item, const PixelRect& ar
   const Selection selected{piece.ToIndex(std::max(marks_.selection.start, piece.from)),
                            piece.ToIndex(std::min(marks_.selection.end, piece.to))};
   const double left = std::round(pane_.TextLeft());
+  PaintBackdrop(dc, item, area);
   if (const auto stripe = BreakBoxOf(pane_, item, marks_.selection))
     Fill(dc, *stripe, colours_.highlight);
   PaintBullet(dc, item);
@@ -85,6 +87,14 @@ void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item, const PixelRect& ar
   PaintBoxes(dc, item, area);
   GdiPencil pencil(dc, colours_.ink, colours_.plain);
   DrawDecorations(pencil, piece, piece.text, piece.decorations, {left, item.y});
+}
+
+void ViewPainter::PaintBackdrop(HDC dc, const ShownPiece& item, const PixelRect& area) const {
+  const double left = std::round(pane_.TextLeft());
+  for (const BackdropPart& part :
+       BackdropOf(layouter_, pane_.Content(), *item.piece, area.MovedBy(-left, -item.y),
+                  {.ink = colours_.ink, .ground = colours_.ground, .plain = colours_.plain}))
+    Fill(dc, part.area.MovedBy(left, item.y), part.colour);
 }
 
 void ViewPainter::PaintBoxes(HDC dc, const ShownPiece& item, const PixelRect& area) const {

@@ -40,6 +40,7 @@ class ViewPainter {
 
   void PaintArea(HDC dc, const PixelRect& area);
   void PaintPiece(HDC dc, const ShownPiece& item, const PixelRect& area);
+  void PaintBackdrop(HDC dc, const ShownPiece& item, const PixelRect& area) const;
   void PaintBoxes(HDC dc, const ShownPiece& item, const PixelRect& area) const;
   /// The raised number of a footnote.
   void PaintNumber(HDC dc, int number, const PixelRect& place, CharId format, bool selected) const;
