@@ -82,11 +82,6 @@ class ReapingProcesses final : public PosixProcesses {
     PosixProcesses::Open(address);
   }
 
-  void Open(std::u16string_view address) override {
-    timer_.start(kInterval);
-    PosixProcesses::Open(address);
-  }
-
  private:
   static constexpr int kInterval = 1000;  // milliseconds
 
