@@ -207,12 +207,14 @@ TEST_F(WindowTest, FontsAndColoursAreChosenInFrench) {
     dialog.accept();
   };
   later(inFonts);
-  const auto choice = backend.ChooseFont({.size = 12.F, .bold = true}, form.get());
+  const auto choice =
+      backend.ChooseFont({.name = u"DejaVu Sans", .size = 12.F, .bold = true}, form.get());
   ASSERT_TRUE(choice);
   EXPECT_EQ(choice->colour, 0xFF);
   EXPECT_EQ(choice->bold, std::nullopt);
-  EXPECT_EQ(fonts.join(u'|').toStdString(),
-            "Annuler|Barré|Couleur...|Effets|Exemple|Gras|OK|Police|Souligné|Style|Taille");
+  EXPECT_EQ(
+      fonts.join(u'|').toStdString(),
+      "Annuler|Barré|Couleur...|DejaVu Sans|Effets|Exemple|Gras|OK|Police|Souligné|Style|Taille");
   EXPECT_EQ(colours.join(u'|').toStdString(),
             "Ajouter aux couleurs personnelles|Annuler|Bleu :|Couleurs de base|Couleurs "
             "personnelles|HTML:|Luminosité :|OK|Prélever à l'écran|Rouge :|Saturation :|Teinte "

@@ -63,11 +63,11 @@ std::size_t FindWords(std::string_view source) {
 }
 
 constexpr auto kDigitValues = [] {
-  std::array<signed char, 256> values{};
+  std::array<int, 256> values{};
   values.fill(-1);
   constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
   for (std::size_t i = 0; i < kDigits.size(); ++i)
-    values[static_cast<unsigned char>(kDigits[i])] = static_cast<signed char>(i < 16 ? i : i - 6);
+    values[static_cast<unsigned char>(kDigits[i])] = static_cast<int>(i < 16 ? i : i - 6);
   return values;
 }();
 
