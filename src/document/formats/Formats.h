@@ -95,8 +95,8 @@ struct CharFormat {
   std::uint16_t scale = 100;   // per cent of the width
   Underline underline = Underline::None;
   std::uint8_t stated = kStatesFont | kStatesSize;  // CharStated
-  // Begins with a \plain directly behind other text: 1, then 2, then 1, so that neighbouring runs of
-  // that kind stay apart. 0 does not.
+  // Begins with a \plain directly behind other text: 1, then 2, then 1, so that neighbouring runs
+  // of that kind stay apart. 0 does not.
   std::uint8_t reset = 0;
   std::uint8_t reserved = 0;
   bool operator==(const CharFormat&) const = default;
