@@ -207,8 +207,10 @@ TEST_F(WindowTest, FontsAndColoursAreChosenInFrench) {
     dialog.accept();
   };
   later(inFonts);
-  const auto choice =
-      backend.ChooseFont({.name = u"DejaVu Sans", .size = 12.F, .bold = true}, form.get());
+  FontChoice shown;
+  shown.name = u"DejaVu Sans";
+  shown.bold = true;
+  const auto choice = backend.ChooseFont(shown, form.get());
   ASSERT_TRUE(choice);
   EXPECT_EQ(choice->colour, 0xFF);
   EXPECT_EQ(choice->bold, std::nullopt);
