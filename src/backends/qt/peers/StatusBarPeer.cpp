@@ -73,8 +73,10 @@ void StatusBarWidget::PaintPanels(QPainter& painter) const {
     const QRect panel(left, kGap + 1, std::min(wanted, end - left), height() - 2 * kGap - 1);
     const QRect inside = panel.adjusted(kPadding, 0, -kPadding, 0);
     DrawBorder(painter, panel, Line());
-    painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
-                     fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
+    const bool whole = panel.width() == wanted;  // in whole pixels the text may seem not to fit
+    painter.drawText(
+        inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
+        whole ? text : fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
     left = panel.right() + 1 + kGap;
   }
 }
