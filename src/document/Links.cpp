@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <vector>
 
 #include "base/Characters.h"
+#include "base/FileAddresses.h"
 #include "document/kept/LinkSource.h"
 
 namespace lumenote {
@@ -21,13 +24,21 @@ std::u16string LinkAt(const Document& document, Position position) {
   return LinkOf(tables, tables.characters[document.CharFormatAt(position)]);
 }
 
+namespace {
+
+bool IsHarmlessFile(std::u16string_view address) {
+  const std::vector<std::string> paths = PathsOf(address);
+  return !paths.empty() && std::ranges::none_of(paths, RunsWhenOpened);
+}
+
+}  // namespace
+
 bool MayOpen(std::u16string_view address) {
-  constexpr std::array<std::u16string_view, 5> kSchemes{u"http:", u"https:", u"ftp:", u"mailto:",
-                                                        u"file:"};
+  constexpr std::array<std::u16string_view, 4> kSchemes{u"http:", u"https:", u"ftp:", u"mailto:"};
   const auto isControl = [](char16_t c) { return c < u' ' || c == u'\x7F'; };
   const std::u16string scheme = Lower(address.substr(0, address.find(u':') + 1));
-  return std::ranges::find(kSchemes, scheme) != kSchemes.end() &&
-         std::ranges::none_of(address, isControl);
+  const bool known = std::ranges::find(kSchemes, scheme) != kSchemes.end();
+  return std::ranges::none_of(address, isControl) && (known || IsHarmlessFile(address));
 }
 
 }  // namespace lumenote

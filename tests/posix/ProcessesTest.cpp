@@ -65,6 +65,26 @@ TEST_F(ProcessesTest, AnyFileNameIsOneNativeArgumentAndTheTemplateSwitchGoes) {
   EXPECT_FALSE(HasChildren());
 }
 
+TEST_F(ProcessesTest, LinksOpenNoProgram) {
+  std::filesystem::create_directory(Native("bin"));
+  Script("bin/xdg-open", "echo \"$1\" >> \"${0%/*}/opened\"\n");
+  const ScopedVariable path("PATH", (Native("bin") + ":" + getenv("PATH")).c_str());
+  Script("a b.txt", "exit\n");
+  Put("n.txt", "x");
+  Put("bin/opened", "");
+  const std::string folder = "file://" + Native("");
+  std::string opened;
+  for (const auto& [address, opens] : {std::pair(folder + "a%20b.txt", false),
+                                       {folder + "a b.txt#x", false},
+                                       {folder + "n.txt#x", true},
+                                       {"https://a.fr/", true}}) {
+    processes.Open(FromUtf8(address));
+    if (opens) opened += address + "\n";
+    EXPECT_TRUE(Soon([&] { return processes.Reap(), processes.Idle(); }));
+    EXPECT_EQ(Get("bin/opened"), opened) << address;
+  }
+}
+
 TEST_F(ProcessesTest, WhatCannotBeStartedIsAnError) {
   Put("text", "x");
   EXPECT_EQ(ErrorOf([&] { processes.Start(u"\"C:\\none.exe\""); }), 53);

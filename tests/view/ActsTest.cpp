@@ -109,6 +109,15 @@ TEST(Links, OpenWithCtrlAndTellWhereTheyLead) {
     EXPECT_EQ(user.opened, u"");
     user.Do("D 3 0 U 3 0");
     EXPECT_EQ(user.opened, opened);
+    user.opened = u"none";
+    user.Do("D 3 0");
+    user.mouse.Control(false);
+    user.Do("U 3 0");
+    user.mouse.Control(true);
+    user.surface.UserSelect(0, 0);
+    user.Do("S 3 0 U 3 0");
+    EXPECT_EQ(user.surface.Selected().Length(), 3);
+    EXPECT_EQ(user.opened, u"none");
     EXPECT_EQ(ToUtf8(TipAt(user.pane, User::At(2, 0))), tip);
     EXPECT_EQ(TipAt(user.pane, User::At(4, 0)) + TipAt(user.pane, User::At(9, 0)), u"");
     EXPECT_EQ(TipAt(user.pane, User::At(6, 0)), u"été");

@@ -24,6 +24,12 @@ std::u16string ViewMouse::LinkUnder(PixelPoint point) const {
   return MayOpen(address) ? address : std::u16string();
 }
 
+/// Not if Ctrl was let go meanwhile.
+void ViewMouse::OpenLink() const {
+  const std::u16string address = LinkUnder(pressed_);
+  if (!address.empty()) view_.Host().OpenLink(address);
+}
+
 void ViewMouse::ShowPointer() const {
   const bool opens = !LinkUnder(last_).empty();
   view_.Host().ShowPointer(opens                ? PointerShape::Hand
@@ -65,7 +71,7 @@ void ViewMouse::Down(const Press& press) {
   doubleClick_.reset();
   if (third)
     Begin(Unit::Paragraph, position, false);
-  else if (!LinkUnder(press.at).empty())
+  else if (!press.extend && !LinkUnder(press.at).empty())
     state_ = State::MayOpen;
   else if (!press.extend && InSelection(press.at))
     state_ = State::MayDrag;
@@ -115,7 +121,7 @@ void ViewMouse::ScrollOn() {
 void ViewMouse::Up(PixelPoint at) {
   const State pressed = state_;
   Cancel();
-  if (pressed == State::MayOpen && !IsFar(at, pressed_)) view_.Host().OpenLink(LinkUnder(pressed_));
+  if (pressed == State::MayOpen && !IsFar(at, pressed_)) OpenLink();
   if (pressed == State::MayDrag) Begin(Unit::Character, view_.Pane().PositionAt(at), false);
   state_ = State::Idle;
 }

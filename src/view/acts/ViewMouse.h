@@ -10,7 +10,7 @@ namespace lumenote {
 
 /// A click sets the caret, a double click selects a word, a triple click a paragraph; dragging
 /// extends the selection by that unit and scrolls when the mouse leaves the view; a click with Ctrl
-/// opens a link. Points are in pane pixels. Each member may detach the view.
+/// and without Shift opens a link. Points are in pane pixels. Each member may detach the view.
 class ViewMouse {
  public:
   explicit ViewMouse(NoteView& view) : view_(view) {}
@@ -45,6 +45,7 @@ class ViewMouse {
   Selection Around(Position position) const;
   bool InSelection(PixelPoint point) const;
   std::u16string LinkUnder(PixelPoint point) const;
+  void OpenLink() const;
   void ShowPointer() const;
   bool IsThird(const Press& press) const;
   bool IsFar(PixelPoint one, PixelPoint other) const;

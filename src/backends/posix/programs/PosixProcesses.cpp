@@ -4,10 +4,12 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <sys/stat.h>
 #include <system_error>
 
 #include "backends/posix/programs/ProcessTable.h"
 #include "backends/posix/programs/Spawn.h"
+#include "base/FileAddresses.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "platform/Paths.h"
@@ -48,6 +50,11 @@ int Signal(const std::vector<pid_t>& processes) {
   return failure;
 }
 
+bool IsProgram(const std::string& path) {
+  struct stat info {};
+  return stat(path.c_str(), &info) == 0 && S_ISREG(info.st_mode) && (info.st_mode & S_IXUSR) != 0;
+}
+
 }  // namespace
 
 ProcessId PosixProcesses::Start(std::u16string_view commandLine) {
@@ -61,6 +68,7 @@ ProcessId PosixProcesses::Start(std::u16string_view commandLine) {
 }
 
 void PosixProcesses::Open(std::u16string_view address) {
+  if (std::ranges::any_of(PathsOf(address), IsProgram)) return;
   Reap();
   try {
     const pid_t leader = SpawnFromPath({"xdg-open", ToUtf8(address)});

@@ -27,7 +27,7 @@ class PosixProcesses : public Processes {
   /// Drive-letter paths among the arguments become native, and a word processor's template switch
   /// is dropped: it means nothing to programs of this system.
   ProcessId Start(std::u16string_view commandLine) override;
-  /// By the desktop's `xdg-open`.
+  /// By the desktop's `xdg-open`; not what the system can execute.
   void Open(std::u16string_view address) override;
   bool IsRunning(ProcessId process) override;
   /// Closes the windows of a program that has some, so that it can ask its user first; sends others

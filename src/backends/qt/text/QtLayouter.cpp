@@ -154,11 +154,13 @@ bool LineMaker::Build(const PieceSpan& span) {
   return true;
 }
 
-/// How far the line moves so that the blanks at its end hang over the edge, as Qt has them do where
-/// it wraps a line.
+/// How far the line moves so that the blanks at its end hang over the edge that it is aligned at,
+/// as Qt has them do where it wraps a line.
 double LineMaker::Hang(const QTextLine& line, const PieceLine& box) const {
-  const Alignment alignment = stack_.Format().alignment;
-  if (alignment != Alignment::Right && alignment != Alignment::Centre) return 0;
+  const ParaFormat& format = stack_.Format();
+  const bool centred = format.alignment == Alignment::Centre;
+  const Alignment atEnd = format.rightToLeft ? Alignment::Left : Alignment::Right;
+  if (!centred && format.alignment != atEnd) return 0;
   const QString text = piece_.layout.text();
   int end = box.end;
   if (end > box.start && text[end - 1] == QChar(kShownLineBreak))
@@ -168,7 +170,7 @@ double LineMaker::Hang(const QTextLine& line, const PieceLine& box) const {
   int first = end;
   while (first > box.start && text[first - 1] == u' ') --first;
   const double blanks = line.cursorToX(end) - line.cursorToX(first);
-  return alignment == Alignment::Centre ? blanks / 2 : blanks;
+  return centred ? blanks / 2 : blanks;
 }
 
 void LineMaker::BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends) {
