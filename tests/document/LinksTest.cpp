@@ -23,7 +23,7 @@ TEST(Links, OpenNoProgramAndNoOtherMachinesFile) {
         u"file://s/a.txt", u"file:////s/a.txt", u"file://///s/b/a.txt", u"file:\\\\s\\a.txt",
         u"file:///\\\\s\\a.txt", u"file:/\\s/a.txt", u"file://localhost//s/a.txt",
         u"file:%5C%5Cs/a.txt", u"file:///%5Cs/a.txt", u"file:///%2Fs/a.txt", u"file://localhost",
-        u"file:///??/UNC/s/a.txt", u"file://127.0.0.1/a.txt", u"file://s%2Fa.txt",
+        u"file:///?\?/UNC/s/a.txt", u"file://127.0.0.1/a.txt", u"file://s%2Fa.txt",
         u"file://localhost@s/a.txt",
         // Programs, however they are written.
         u"file:///a.exe", u"file:///A.EXE", u"file:///C:/a.%65xe", u"file:C:\\a.bat",
