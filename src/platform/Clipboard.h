@@ -12,6 +12,7 @@ struct ClipboardContent {
   std::optional<std::string> rtf{};   // source bytes
   std::optional<std::string> html{};  // a page or a part of one, in UTF-8, without an envelope
   std::vector<std::string> images{};  // files in PNG or JPEG; not read where the rest is richer
+  std::u16string imageNames{};        // of images that are files: their text if only text is wanted
 };
 
 class Clipboard {

@@ -79,6 +79,18 @@ Metafile | 0100 | none ¦ Png | "" | none
   }
 }
 
+TEST(Pictures, AreDecodedIfTheirHeadTellsThatTheyAreNotHuge) {
+  for (const auto& [data, decoded] : Rows<2>(R"(
+PNG0000200000002000 => yes ¦ PNG0000200000002001 => no ¦ PNG0000 => no ¦ 47494638396101000100 => no
+ffd8ffc2000b0820002000 01011100 => yes ¦ ffd8ffc2000b084e204e20 03011100 => no ¦ ffd8ff => no
+ffd8ff010004ffc0000b0800100010 01011100 => no ¦ "" => no ¦ 424d => no
+424d000000000000000000000000 0c000000002000200100180000000000 => yes
+424d000000000000000000000000 0c000000002001200100180000000000 => no
+)",
+                                             " => "))
+    EXPECT_EQ(IsDecodable(FromHex(Replaced(data, "PNG", kPng))) ? "yes" : "no", decoded) << data;
+}
+
 // Of digits, whatever stands among them; bitmaps as files; nothing of what is damaged.
 TEST(Pictures, GiveTheirData) {
   const std::string dib =

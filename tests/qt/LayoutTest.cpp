@@ -110,5 +110,29 @@ TEST(AlignmentTest, BlanksAtTheEndMoveNoText) {
     }
 }
 
+// Of a red and a blue pixel, the blue one, however much larger the whole image would be.
+TEST(PicturesTest, ShowOnlyTheirPart) {
+  for (const char16_t* frame :
+       {u"\\picwgoal600\\pichgoal300\\piccropl300 ",
+        u"\\picwgoal2000000000\\pichgoal300\\piccropl1999999700 ",
+        u"\\picwgoal300\\pichgoal2000000000\\piccropl150\\piccropb1999999850 ",
+        u"\\picwgoal1000000000\\pichgoal60\\piccropl999999940 "}) {
+    TestSurface test;
+    test.surface.TextRTF(u"{\\rtf1{\\pict\\dibitmap0" + std::u16string(frame) +
+                         u"2800000002000000010000000100180000000000000000000000000000000000"
+                         u"00000000000000000000ffff00000000}}");
+    RichTextView view(test.surface, test.layouter, {}, nullptr);
+    view.Pane().Resize({100, 60});
+    const QImage image = Whole(view, {}, QImage(100, 60, QImage::Format_RGB32));
+    int blue = 0;
+    for (int i = 0; i < 100 * 60; ++i) {
+      const QRgb pixel = image.pixel(i % 100, i / 100) & RGB_MASK;
+      EXPECT_NE(pixel, 0xFF0000u);
+      blue += pixel == 0x0000FFu ? 1 : 0;
+    }
+    EXPECT_GT(blue, 10);
+  }
+}
+
 }  // namespace
 }  // namespace lumenote

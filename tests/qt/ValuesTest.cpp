@@ -69,12 +69,16 @@ TEST(MimeTest, ReadsImagesAndFilesOfImages) {
   files.setUrls({QUrl::fromLocalFile(file("a.jpg")), QUrl::fromLocalFile(file("c.bmp"))});
   const ClipboardContent read = ReadMime(files);
   EXPECT_FALSE(read.text);
+  EXPECT_TRUE(read.imageNames.find(u"c.bmp") != std::u16string::npos);
   ASSERT_EQ(read.images.size(), 2u);
   EXPECT_EQ(read.images[0], bytes.toStdString());
   EXPECT_TRUE(read.images[1].starts_with("\x89PNG"));
   files.setUrls({QUrl::fromLocalFile(file("b.png")), QUrl::fromLocalFile(file("d.txt"))});
   EXPECT_TRUE(ReadMime(files).images.empty());
   EXPECT_TRUE(ReadMime(files).text);
+  ASSERT_TRUE(QFile::resize(file("b.png"), 64 << 20));  // no room beside another
+  files.setUrls({QUrl::fromLocalFile(file("a.jpg")), QUrl::fromLocalFile(file("b.png"))});
+  EXPECT_TRUE(ReadMime(files).images.empty());
 
   QMimeData data;
   data.setData(QStringLiteral("image/jpeg"), bytes);

@@ -83,6 +83,9 @@ TEST(UserDoor, ImagesArePicturesWhereNothingIsRicher) {
   EXPECT_EQ(bench.surface.UndoType(), UndoKind::DragDrop);
   bench.surface.Copy();
   EXPECT_EQ(bench.clipboard.Get().images, std::vector{png});
+  bench.clipboard.Set({.images = {png}, .imageNames = u"i.png"});
+  bench.Press(u"Ctrl+Shift+v");
+  EXPECT_EQ(bench.Shown(), u"i.png|");
 }
 
 TEST(UserDoor, WhatIsPastedBringsItsTablesAndUndoTakesThemBack) {

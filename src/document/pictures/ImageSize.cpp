@@ -1,5 +1,6 @@
 #include "document/pictures/ImageSize.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -22,13 +23,20 @@ double Believed(double resolution) {
   return resolution >= 10 && resolution <= 4800 ? resolution : kUsual;
 }
 
-std::optional<ImageSize> Extent(double width, double height, double across, double down) {
+/// In pixels, and pixels per inch.
+struct Raster {
+  double width = 0;
+  double height = 0;
+  double across = 0;
+  double down = 0;
+};
+
+std::optional<Raster> Extent(double width, double height, double across, double down) {
   if (width < 1 || height < 1) return std::nullopt;
-  return ImageSize{width * kTwipsPerInch / Believed(across),
-                   height * kTwipsPerInch / Believed(down)};
+  return Raster{width, height, across, down};
 }
 
-std::optional<ImageSize> SizeOfPng(std::string_view data) {
+std::optional<Raster> RasterOfPng(std::string_view data) {
   constexpr std::size_t kChunkFrame = 12;  // length, name and sum
   if (!data.starts_with(kPngMark) || data.size() < 24) return std::nullopt;
   const double width = BigEndian32(data, 16);
@@ -45,12 +53,15 @@ std::optional<ImageSize> SizeOfPng(std::string_view data) {
   return Extent(width, height, 0, 0);
 }
 
+/// Whether no length follows; such a marker has no place before the width and height.
+bool IsAlone(unsigned marker) { return marker <= 0x01 || (marker >= 0xD0 && marker <= 0xD9); }
+
 /// Whether a segment tells width and height.
 bool IsFrame(unsigned marker) {
   return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
-std::optional<ImageSize> SizeOfJpeg(std::string_view data) {
+std::optional<Raster> RasterOfJpeg(std::string_view data) {
   constexpr double kCentimetresPerInch = 2.54;
   if (!data.starts_with(kJpegMark)) return std::nullopt;
   double across = 0;
@@ -58,6 +69,7 @@ std::optional<ImageSize> SizeOfJpeg(std::string_view data) {
   for (std::size_t at = 2; at + 9 <= data.size();) {
     if (data[at] != '\xFF') return std::nullopt;
     const unsigned marker = static_cast<unsigned char>(data[at + 1]);
+    if (IsAlone(marker)) return std::nullopt;
     if (IsFrame(marker))
       return Extent(BigEndian16(data, at + 7), BigEndian16(data, at + 5), across, down);
     if (data.substr(at + 4, 5) == "JFIF\0"sv && at + 16 <= data.size()) {
@@ -70,7 +82,7 @@ std::optional<ImageSize> SizeOfJpeg(std::string_view data) {
   return std::nullopt;
 }
 
-std::optional<ImageSize> SizeOfBitmap(std::string_view data) {
+std::optional<Raster> RasterOfBitmap(std::string_view data) {
   constexpr std::size_t kOldHeader = 12;
   if (data.size() < 16) return std::nullopt;
   if (LittleEndian32(data, 0) == kOldHeader)
@@ -85,25 +97,41 @@ std::optional<ImageSize> SizeOfBitmap(std::string_view data) {
   return Extent(side(4), side(8), metric(24), metric(28));
 }
 
-}  // namespace
-
-std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data) {
+std::optional<Raster> RasterOf(PictureType type, std::string_view data) {
   switch (type) {
     case PictureType::Png:
-      return SizeOfPng(data);
+      return RasterOfPng(data);
     case PictureType::Jpeg:
-      return SizeOfJpeg(data);
+      return RasterOfJpeg(data);
     case PictureType::Bitmap:
-      return SizeOfBitmap(data);
+      return RasterOfBitmap(data);
     default:
       return std::nullopt;
   }
+}
+
+}  // namespace
+
+std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data) {
+  const auto raster = RasterOf(type, data);
+  if (!raster) return std::nullopt;
+  return ImageSize{raster->width * kTwipsPerInch / Believed(raster->across),
+                   raster->height * kTwipsPerInch / Believed(raster->down)};
 }
 
 std::optional<PictureType> TypeOfImage(std::string_view file) {
   if (file.starts_with(kPngMark)) return PictureType::Png;
   if (file.starts_with(kJpegMark)) return PictureType::Jpeg;
   return file.starts_with("BM") ? std::optional(PictureType::Bitmap) : std::nullopt;
+}
+
+bool IsDecodable(std::string_view file) {
+  constexpr std::size_t kBitmapFileHeader = 14;
+  const auto type = TypeOfImage(file);
+  if (!type) return false;
+  if (*type == PictureType::Bitmap) file.remove_prefix(std::min(kBitmapFileHeader, file.size()));
+  const auto raster = RasterOf(*type, file);
+  return raster && raster->width * raster->height <= kMostImagePixels;
 }
 
 }  // namespace lumenote

@@ -18,4 +18,9 @@ std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data);
 /// The type of a file; only these three are told apart from others.
 std::optional<PictureType> TypeOfImage(std::string_view file);
 
+/// A decoder is not asked for more: a few bytes may claim any size.
+inline constexpr double kMostImagePixels = 1 << 26;
+/// Whether a file of one of those types tells its size, within that limit.
+bool IsDecodable(std::string_view file);
+
 }  // namespace lumenote

@@ -182,8 +182,10 @@ void Transfer::Paste() {
 
 // Some programs offer no text beside their RTF or HTML.
 void Transfer::PasteText() {
-  const ClipboardContent content = clipboard_.Get();
+  ClipboardContent content = clipboard_.Get();
+  content.images.clear();
   std::u16string text = content.text ? *content.text : TextOf(FragmentOf(content));
+  if (text.empty()) text = content.imageNames;
   std::erase(text, kPlaceholder);
   if (!text.empty()) text_.ReplaceSelection(UndoKind::Paste, text_.Plain(text));
 }

@@ -19,18 +19,11 @@ constexpr double kLeastLabel = 9;   // a lower or narrower box has no text
 void BoxPainter::Paint(const InlineBox& box, const QRectF& place, bool selected) {
   const double ratio = painter_.device()->devicePixelRatioF();
   const QRectF target = OnDevicePixels(painter_, place);
-  const PictureFrame frame = FrameOf(document_.Formats().items[box.item]);
-  const QSizeF whole(target.width() * ratio / (frame.right - frame.left),
-                     target.height() * ratio / (frame.bottom - frame.top));
-  const QImage image = pictures_.Of(document_, box.item, whole.toSize());
-  if (image.isNull()) {
+  const QImage image = pictures_.Of(document_, box.item, target.size() * ratio);
+  if (image.isNull())
     PaintLabel(box.item, target);
-  } else {
-    const QRectF part(frame.left * image.width(), frame.top * image.height(),
-                      (frame.right - frame.left) * image.width(),
-                      (frame.bottom - frame.top) * image.height());
-    painter_.drawImage(target, image, part);
-  }
+  else
+    painter_.drawImage(target, image);
   if (!selected) return;
   QColor tint = palette_.color(QPalette::Highlight);
   tint.setAlphaF(kTint);

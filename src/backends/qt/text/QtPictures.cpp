@@ -12,7 +12,8 @@ namespace lumenote {
 
 namespace {
 
-constexpr double kMostPixels = 1 << 24;
+constexpr double kMostPixels = 1 << 24;  // fewer than the cache has room for
+constexpr double kMostSide = 1 << 13;
 
 /// Plugins of the desktop read more formats, but no note should be able to call them.
 const char* FormatName(PictureType type) {
@@ -21,30 +22,47 @@ const char* FormatName(PictureType type) {
 }
 
 /// In proportion, but with no more pixels than that.
-QSize Bounded(QSize size) {
-  const double shrink = std::sqrt(kMostPixels / (1.0 * size.width() * size.height()));
-  if (shrink >= 1) return size;
-  return {std::max(1, static_cast<int>(size.width() * shrink)),
-          std::max(1, static_cast<int>(size.height() * shrink))};
+QSize Bounded(QSizeF size) {
+  const double width = std::clamp(size.width(), 1.0, kMostSide);
+  const double height = std::clamp(size.height(), 1.0, kMostSide);
+  const double shrink = std::min(1.0, std::sqrt(kMostPixels / (width * height)));
+  return {std::max(1, static_cast<int>(width * shrink)),
+          std::max(1, static_cast<int>(height * shrink))};
 }
 
-QImage Decoded(const std::string& file, QSize size) {
-  const std::optional<PictureType> type = TypeOfImage(file);
-  if (!type) return {};
+/// In pixels of the whole image, at least one; null for all of it.
+QRect PartOf(const PictureFrame& frame, QSize whole) {
+  const auto cut = [](double from, double to, int side, int& start, int& length) {
+    start = std::clamp(static_cast<int>(std::lround(from * side)), 0, side - 1);
+    length = std::clamp(static_cast<int>(std::lround(to * side)) - start, 1, side - start);
+  };
+  if (whole.isEmpty()) return {};
+  int left = 0, top = 0, width = 0, height = 0;
+  cut(frame.left, frame.right, whole.width(), left, width);
+  cut(frame.top, frame.bottom, whole.height(), top, height);
+  const QRect part(left, top, width, height);
+  return part.size() == whole ? QRect() : part;
+}
+
+QImage Decoded(const std::string& file, const PictureFrame& frame, QSize size) {
+  if (!IsDecodable(file)) return {};
   QByteArray bytes = QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size()));
   QBuffer buffer(&bytes);
-  QImageReader reader(&buffer, FormatName(*type));
+  QImageReader reader(&buffer, FormatName(*TypeOfImage(file)));
+  reader.setClipRect(PartOf(frame, reader.size()));
   reader.setScaledSize(size);
-  const QImage image = reader.read();
-  return image.isNull() ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  QImage image = reader.read();
+  return image.isNull() ? image
+                        : std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 }  // namespace
 
-QImage QtPictures::Of(const Document& document, ItemId item, QSize size) {
-  const Key key{item, Bounded(size.expandedTo({1, 1}))};
+QImage QtPictures::Of(const Document& document, ItemId item, QSizeF size) {
+  const Key key{item, Bounded(size)};
   if (const QImage* known = images_.object(key)) return *known;
-  const QImage image = Decoded(ImageFileOf(document.Formats().items[item]), key.size);
+  const KeptItem& source = document.Formats().items[item];
+  const QImage image = Decoded(ImageFileOf(source), FrameOf(source), key.size);
   images_.insert(key, new QImage(image), 1 + (image.sizeInBytes() >> 10));
   return image;
 }

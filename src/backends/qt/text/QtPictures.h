@@ -10,9 +10,9 @@ namespace lumenote {
 /// Decodes a picture when it is first painted at a size, and keeps as many as fit into some memory.
 class QtPictures {
  public:
-  /// The whole image of an item scaled to that size in pixels, or less if it would be huge; a null
-  /// image if it cannot be shown.
-  QImage Of(const Document& document, ItemId item, QSize size);
+  /// What is shown of an item's image, scaled to that size in pixels, or less if it would be huge;
+  /// a null image if it cannot be shown.
+  QImage Of(const Document& document, ItemId item, QSizeF size);
 
  private:
   struct Key {

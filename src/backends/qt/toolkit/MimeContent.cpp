@@ -50,7 +50,7 @@ std::optional<std::string> HtmlOf(const QMimeData& data) {
 
 ClipboardContent ReadMime(const QMimeData& data) {
   if (std::vector<std::string> files = ImageFilesOf(data); !files.empty())
-    return {.images = std::move(files)};
+    return {.images = std::move(files), .imageNames = TextOf(data).value_or(u"")};
   ClipboardContent content{TextOf(data), RtfOf(data), HtmlOf(data)};
   if (WantsImages(content)) content.images = ImagesOf(data);
   return content;

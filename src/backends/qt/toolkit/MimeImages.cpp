@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QUrl>
 #include <algorithm>
 #include <iterator>
@@ -14,7 +15,7 @@ namespace lumenote {
 
 namespace {
 
-constexpr qint64 kLargestFile = 64 << 20;
+constexpr qint64 kRoom = 64 << 20;                             // bytes of all files together
 constexpr const char* kNames[] = {"image/png", "image/jpeg"};  // indexed by PictureType
 
 QString NameOf(PictureType type) { return QLatin1String(kNames[static_cast<std::size_t>(type)]); }
@@ -36,14 +37,22 @@ QByteArray PngOf(const QImage& image) {
   return buffer.data();
 }
 
-/// Empty if the file is no image.
-std::string ImageIn(const QUrl& address) {
+/// Null if the data are no image, or a huge one.
+QImage Decoded(QIODevice& data) {
+  QImageReader reader(&data);
+  const QSize size = reader.size();
+  const bool sound = !size.isEmpty() && 1.0 * size.width() * size.height() <= kMostImagePixels;
+  return sound ? reader.read() : QImage();
+}
+
+/// Empty if the file is no image, or larger than the room. The head of others will do.
+std::string ImageIn(const QUrl& address, qint64 room) {
+  constexpr qint64 kHead = 16;
   const QFileInfo info(address.toLocalFile());
   QFile file(info.filePath());
-  if (!info.isFile() || info.size() > kLargestFile || !file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray bytes = file.readAll();
-  if (IsKept(bytes.toStdString())) return bytes.toStdString();
-  return PngOf(QImage::fromData(bytes)).toStdString();
+  if (!info.isFile() || info.size() > room || !file.open(QIODevice::ReadOnly)) return {};
+  if (IsKept(file.peek(kHead).toStdString())) return file.readAll().toStdString();
+  return PngOf(Decoded(file)).toStdString();
 }
 
 class ImageMime final : public QMimeData {
@@ -60,7 +69,9 @@ class ImageMime final : public QMimeData {
   QVariant retrieveData(const QString& format, QMetaType type) const override {
     const bool made = format == NameOf(PictureType::Png) && !QMimeData::formats().contains(format);
     if (!made) return QMimeData::retrieveData(format, type);
-    return PngOf(QImage::fromData(data(NameOf(PictureType::Jpeg))));
+    QByteArray jpeg = data(NameOf(PictureType::Jpeg));
+    QBuffer buffer(&jpeg);
+    return PngOf(Decoded(buffer));
   }
 };
 
@@ -68,9 +79,11 @@ class ImageMime final : public QMimeData {
 
 std::vector<std::string> ImageFilesOf(const QMimeData& data) {
   std::vector<std::string> files;
+  qint64 room = kRoom;
   for (const QUrl& address : data.urls()) {
-    files.push_back(ImageIn(address));
+    files.push_back(ImageIn(address, room));
     if (files.back().empty()) return {};
+    room -= static_cast<qint64>(files.back().size());
   }
   return files;
 }

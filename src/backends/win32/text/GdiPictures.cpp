@@ -51,7 +51,7 @@ Gdiplus::Bitmap* GdiPictures::Of(const Document& document, ItemId item, SIZE wan
   }
   if (!library_) library_.emplace();
   const std::string file = ImageFileOf(document.Formats().items[item]);
-  const auto image = TypeOfImage(file) ? library_->Decode(file) : nullptr;
+  const auto image = IsDecodable(file) ? library_->Decode(file) : nullptr;
   entries_.push_front({item, size, image ? Scaled(*image, size) : nullptr});
   DropOldest();
   return entries_.front().image.get();

@@ -2,10 +2,10 @@
 
 #include <cstring>
 
+#include "document/pictures/ImageSize.h"
+
 namespace lumenote {
 namespace {
-
-constexpr double kMostPixels = 1 << 26;
 
 /// A stream over a copy of the bytes, which the caller releases; null if there is no memory.
 IStream* StreamOf(const std::string& bytes) {
@@ -29,7 +29,7 @@ std::unique_ptr<Gdiplus::Bitmap> PictureLibrary::Decode(const std::string& file)
   stream->Release();
   const bool sound = image->GetLastStatus() == Gdiplus::Ok && image->GetWidth() > 0 &&
                      image->GetHeight() > 0 &&
-                     1.0 * image->GetWidth() * image->GetHeight() <= kMostPixels;
+                     1.0 * image->GetWidth() * image->GetHeight() <= kMostImagePixels;
   return sound ? std::move(image) : nullptr;
 }
 
