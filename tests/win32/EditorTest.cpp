@@ -254,8 +254,10 @@ TEST_F(EditorTest, OnTopIsChangedInPlaceAndActivatesNothing) {
   for (const bool on : {true, false, true}) {
     Editor()->Pop.mnuPopMettreDessus.UserClick();
     const bool shown = (GetWindowLongW(editor, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
-    EXPECT_EQ(shown, Editor()->OnTop());
-    EXPECT_EQ(backend.IsTopmost(*Editor()), shown || GetTopWindow(nullptr) == editor) << on;
+    EXPECT_EQ(shown, Editor()->OnTop()) << on;
+    HWND top = GetTopWindow(nullptr);
+    while (top && !IsWindowVisible(top)) top = GetWindow(top, GW_HWNDNEXT);  // tips to come
+    EXPECT_EQ(backend.IsTopmost(*Editor()), shown || top == editor) << on;
     EXPECT_EQ(GetActiveWindow(), other);
     EXPECT_EQ(Handle(), editor);
   }

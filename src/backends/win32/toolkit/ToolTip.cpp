@@ -28,10 +28,11 @@ LRESULT Tell(const Window& tip, UINT message, const TTTOOLINFOW& info) {
 
 }  // namespace
 
+// Without an owner: it would go where the form goes in the order of windows, and hold it there.
 void ToolTip::Make() {
+  constexpr DWORD kStyle = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX;
   window_ = std::make_shared<Window>(
-      GetAncestor(tool_, GA_ROOT),
-      WindowKind{TOOLTIPS_CLASSW, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, WS_EX_TOPMOST});
+      nullptr, WindowKind{TOOLTIPS_CLASSW, kStyle, WS_EX_TOPMOST | WS_EX_TOOLWINDOW});
   Tell(*window_, TTM_ADDTOOLW, InfoOf(tool_, {}));
   SendMessageW(window_->Handle(), TTM_SETMAXTIPWIDTH, 0, kWidest);
 }

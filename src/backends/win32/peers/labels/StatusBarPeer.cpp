@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <commctrl.h>
+#include <windowsx.h>
 
 #include "backends/win32/toolkit/NativeText.h"
 
@@ -12,17 +13,16 @@ constexpr double kPadding = 75;      // twips, at each side of a panel's text
 constexpr double kLeastWidth = 360;  // twips
 constexpr double kSignTwips = 240;
 constexpr double kGripTwips = 240;
-constexpr std::size_t kTipLength = 80;
 
 }  // namespace
 
 StatusBarPeer::StatusBarPeer(StatusBar& bar, HWND parent, PeerHost& host)
-    : ControlPeer(bar,
-                  std::make_shared<Window>(
-                      parent, WindowKind{STATUSCLASSNAMEW, WS_CHILD | WS_CLIPSIBLINGS |
-                                                               CCS_NORESIZE | CCS_NOPARENTALIGN |
-                                                               SBARS_SIZEGRIP | SBARS_TOOLTIPS}),
-                  host),
+    : ControlPeer(
+          bar,
+          std::make_shared<Window>(
+              parent, WindowKind{STATUSCLASSNAMEW, WS_CHILD | WS_CLIPSIBLINGS | CCS_NORESIZE |
+                                                       CCS_NOPARENTALIGN | SBARS_SIZEGRIP}),
+          host),
       bar_(bar) {}
 
 void StatusBarPeer::Update(Property property) {
@@ -33,7 +33,17 @@ void StatusBarPeer::Update(Property property) {
 
 void StatusBarPeer::HearHandled(const Message& message) {
   if (message.id == WM_SIZE) ShowPanels();
+  if (message.id >= WM_MOUSEFIRST && message.id <= WM_MOUSELAST) {
+    tip_.Text(IsOnSign({GET_X_LPARAM(message.l), GET_Y_LPARAM(message.l)}) ? bar_.SignTip() : u"");
+    tip_.Relay(message);
+  }
   ControlPeer::HearHandled(message);
+}
+
+bool StatusBarPeer::IsOnSign(POINT point) const {
+  RECT sign = {};
+  Tell(SB_GETRECT, Texts().size() + 1, reinterpret_cast<LPARAM>(&sign));
+  return PtInRect(&sign, point) != 0;
 }
 
 std::vector<std::u16string> StatusBarPeer::Texts() const {
@@ -81,7 +91,6 @@ void StatusBarPeer::ShowSign() {
   for (std::size_t part = 0; part < last; ++part) Tell(SB_SETICON, part);
   SignIcon icon(bar_.Sign(), side, GetSysColor(COLOR_BTNTEXT));
   Tell(SB_SETICON, last, reinterpret_cast<LPARAM>(icon.Get()));
-  Tell(SB_SETTIPTEXTW, last, bar_.SignTip());
   sign_ = std::move(icon);
 }
 
@@ -92,20 +101,13 @@ std::u16string StatusBarPeer::Shown(std::size_t part) const {
   return text;
 }
 
-std::u16string StatusBarPeer::ShownTip() const {
-  std::u16string tip(kTipLength, u'\0');
-  Tell(SB_GETTIPTEXTW, MAKEWPARAM(Texts().size() + 1, tip.size()), tip);
-  return tip.substr(0, tip.find(u'\0'));
-}
-
 void StatusBarPeer::Compare(DifferenceList& differences) const {
   ControlPeer::Compare(differences);
   const std::vector<std::u16string> texts = Texts();
   for (std::size_t part = 0; part < texts.size(); ++part)
     differences.Check(bar_, "Panels", Shown(part) == texts[part]);
   const bool drawn = sign_.Get() != nullptr;
-  differences.Check(bar_, "Sign",
-                    drawn == (bar_.Sign() != StatusSign::None) && ShownTip() == bar_.SignTip());
+  differences.Check(bar_, "Sign", drawn == (bar_.Sign() != StatusSign::None));
 }
 
 }  // namespace lumenote

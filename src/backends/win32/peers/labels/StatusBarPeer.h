@@ -2,6 +2,7 @@
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
 #include "backends/win32/peers/labels/SignIcon.h"
+#include "backends/win32/toolkit/ToolTip.h"
 #include "forms/controls/StatusBar.h"
 
 namespace lumenote {
@@ -27,10 +28,11 @@ class StatusBarPeer final : public ControlPeer {
   /// The right edges of the parts, in pixels.
   std::vector<int> Edges() const;
   std::u16string Shown(std::size_t part) const;
-  std::u16string ShownTip() const;
+  bool IsOnSign(POINT point) const;
 
   StatusBar& bar_;
   SignIcon sign_;
+  ToolTip tip_{Handle()};  // of the sign
 };
 
 }  // namespace lumenote
