@@ -45,7 +45,7 @@ class AccessibleText {
   struct Run {
     Selection range;
     CharFormat format;
-    Alignment alignment;
+    Alignment alignment = Alignment::Left;
   };
   std::optional<Run> RunAt(Position offset) const;
 

@@ -92,6 +92,7 @@ PieceSpan SpanOf(const std::vector<RowCell>& cells, const Document& document,
 
 std::vector<int> EndsOf(const std::vector<RowCell>& cells, const Piece& row, int length) {
   std::vector<int> ends;
+  ends.reserve(cells.size() + 1);
   for (const RowCell& cell : cells) ends.push_back(EndOf(cell, row));
   if (ends.empty()) ends.push_back(length);
   ends.back() = length;

@@ -62,7 +62,7 @@ QImage QtPictures::Of(const Document& document, ItemId item, QSizeF size) {
   const Key key{item, Bounded(size)};
   if (const QImage* known = images_.object(key)) return *known;
   const KeptItem& source = document.Formats().items[item];
-  const QImage image = Decoded(ImageFileOf(source), FrameOf(source), key.size);
+  QImage image = Decoded(ImageFileOf(source), FrameOf(source), key.size);
   images_.insert(key, new QImage(image), 1 + (image.sizeInBytes() >> 10));
   return image;
 }
