@@ -16,7 +16,7 @@
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/view/RichTextView.h"
 #include "forms/Form.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "ocr/Cleanup.h"
 #include "pilot/machine/PilotPlatform.h"
 #include "pilot/machine/ReportedFonts.h"

@@ -12,10 +12,10 @@
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
 #include "forms/Timer.h"
-#include "forms/controls/Frame.h"
-#include "forms/controls/Label.h"
-#include "forms/controls/RichTextBox.h"
-#include "forms/controls/StatusBar.h"
+#include "forms/controls/edits/RichTextBox.h"
+#include "forms/controls/labels/Frame.h"
+#include "forms/controls/labels/Label.h"
+#include "forms/controls/labels/StatusBar.h"
 
 namespace lumenote {
 

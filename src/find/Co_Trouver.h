@@ -2,10 +2,10 @@
 #pragma once
 #include "forms/Button.h"
 #include "forms/Form.h"
-#include "forms/controls/CheckBox.h"
-#include "forms/controls/ComboBox.h"
-#include "forms/controls/Frame.h"
-#include "forms/controls/Label.h"
+#include "forms/controls/buttons/CheckBox.h"
+#include "forms/controls/edits/ComboBox.h"
+#include "forms/controls/labels/Frame.h"
+#include "forms/controls/labels/Label.h"
 
 namespace lumenote {
 

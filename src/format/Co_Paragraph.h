@@ -3,12 +3,12 @@
 #include "forms/Button.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
-#include "forms/controls/ComboBox.h"
-#include "forms/controls/Frame.h"
-#include "forms/controls/Label.h"
-#include "forms/controls/OptionButton.h"
-#include "forms/controls/TextBox.h"
-#include "forms/controls/UpDown.h"
+#include "forms/controls/buttons/OptionButton.h"
+#include "forms/controls/buttons/UpDown.h"
+#include "forms/controls/edits/ComboBox.h"
+#include "forms/controls/edits/TextBox.h"
+#include "forms/controls/labels/Frame.h"
+#include "forms/controls/labels/Label.h"
 #include "platform/RichTextSurface.h"
 
 namespace lumenote {

@@ -3,8 +3,8 @@
 #include "forms/Button.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
-#include "forms/controls/Label.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
+#include "forms/controls/labels/Label.h"
 
 namespace lumenote {
 

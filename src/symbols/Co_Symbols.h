@@ -6,11 +6,11 @@
 #include "forms/Button.h"
 #include "forms/ControlArray.h"
 #include "forms/Form.h"
-#include "forms/controls/ComboBox.h"
-#include "forms/controls/Label.h"
-#include "forms/controls/PictureBox.h"
-#include "forms/controls/ScrollBar.h"
-#include "forms/controls/TextBox.h"
+#include "forms/controls/buttons/ScrollBar.h"
+#include "forms/controls/edits/ComboBox.h"
+#include "forms/controls/edits/TextBox.h"
+#include "forms/controls/labels/Label.h"
+#include "forms/controls/labels/PictureBox.h"
 
 namespace lumenote {
 

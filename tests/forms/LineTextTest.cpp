@@ -3,7 +3,7 @@
 
 #include "backends/headless/MemoryClipboard.h"
 #include "base/Strings.h"
-#include "forms/controls/LineText.h"
+#include "forms/controls/edits/LineText.h"
 
 namespace lumenote {
 namespace {

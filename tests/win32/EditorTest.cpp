@@ -1,7 +1,7 @@
 // The editor on native windows: in a host's plain loop, closed in every way, at the session's end.
 #include <cmath>
 
-#include "backends/win32/toolkit/ComObject.h"
+#include "backends/win32/system/ComObject.h"
 #include "backends/win32/view/SurfaceWindow.h"
 #include "win32/EditorBench.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "Meanwhile.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
 
 namespace lumenote {
 

@@ -6,7 +6,7 @@
 
 #include "backends/win32/Win32Backend.h"
 #include "backends/win32/Win32UserActs.h"
-#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 #include "pilot/RunPilot.h"
 #include "pilot/sandbox/FolderSandbox.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 #include <gtest/gtest.h>
 
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
 #include "backends/win32/view/SurfaceWindow.h"
 #include "surface/UserBench.h"
 #include "view/layout/PieceBreaker.h"

@@ -7,8 +7,8 @@
 #include "base/Strings.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
-#include "forms/controls/ComboBox.h"
-#include "forms/controls/UpDown.h"
+#include "forms/controls/buttons/UpDown.h"
+#include "forms/controls/edits/ComboBox.h"
 
 namespace lumenote {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "base/RuntimeError.h"
 #include "forms/Form.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "backends/headless/FixedLayouter.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "view/acts/ViewDrop.h"
 #include "view/acts/ViewKeys.h"
 #include "view/acts/ViewMouse.h"

@@ -9,7 +9,7 @@
 #include "backends/qt/windows/FontDialog.h"
 #include "backends/qt/windows/MessageBoxes.h"
 #include "backends/qt/x11/WindowOrder.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

@@ -18,7 +18,7 @@
 #include "backends/qt/view/RichTextView.h"
 #include "backends/qt/view/SelectionMime.h"
 #include "backends/qt/windows/FormWindow.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 
 namespace lumenote {
 

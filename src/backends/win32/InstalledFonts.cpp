@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "backends/win32/files/WideNames.h"
-#include "backends/win32/toolkit/FontFamilies.h"
-#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/drawing/FontFamilies.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote {

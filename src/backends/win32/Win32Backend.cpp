@@ -7,7 +7,7 @@
 #include "backends/win32/windows/boxes/FontDialog.h"
 #include "backends/win32/windows/boxes/MessageBoxes.h"
 #include "base/RuntimeError.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

@@ -3,14 +3,14 @@
 #include <stdexcept>
 
 #include "backends/win32/Win32Backend.h"
-#include "backends/win32/toolkit/Keys.h"
-#include "backends/win32/toolkit/MousePoint.h"
+#include "backends/win32/toolkit/input/Keys.h"
+#include "backends/win32/toolkit/input/MousePoint.h"
 #include "backends/win32/view/SurfaceWindow.h"
 #include "base/Strings.h"
 #include "forms/Menu.h"
-#include "forms/controls/ComboBox.h"
-#include "forms/controls/RichTextBox.h"
-#include "forms/controls/UpDown.h"
+#include "forms/controls/buttons/UpDown.h"
+#include "forms/controls/edits/ComboBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {

@@ -1,8 +1,8 @@
 #include "forms/controls/SpokenName.h"
 
 #include "forms/Form.h"
-#include "forms/controls/Frame.h"
-#include "forms/controls/Label.h"
+#include "forms/controls/labels/Frame.h"
+#include "forms/controls/labels/Label.h"
 #include "forms/values/Captions.h"
 
 namespace lumenote {

@@ -5,7 +5,7 @@
 
 #include "forms/Form.h"
 #include "forms/Menu.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "pilot/context/Objects.h"
 #include "pilot/context/ScriptContext.h"
 #include "pilot/language/ScriptError.h"

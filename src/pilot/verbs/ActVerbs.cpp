@@ -5,9 +5,9 @@
 
 #include "forms/Form.h"
 #include "forms/Menu.h"
-#include "forms/controls/ComboBox.h"
-#include "forms/controls/RichTextBox.h"
-#include "forms/controls/UpDown.h"
+#include "forms/controls/buttons/UpDown.h"
+#include "forms/controls/edits/ComboBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 #include "pilot/context/ScriptContext.h"
 #include "pilot/context/UsableElements.h"
 #include "pilot/language/Arguments.h"

@@ -4,8 +4,8 @@
 
 #include "backends/qt/peers/ControlPeer.h"
 #include "forms/Button.h"
-#include "forms/controls/CheckBox.h"
-#include "forms/controls/OptionButton.h"
+#include "forms/controls/buttons/CheckBox.h"
+#include "forms/controls/buttons/OptionButton.h"
 
 namespace lumenote {
 

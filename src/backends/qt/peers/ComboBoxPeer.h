@@ -3,7 +3,7 @@
 #include <QComboBox>
 
 #include "backends/qt/peers/ControlPeer.h"
-#include "forms/controls/ComboBox.h"
+#include "forms/controls/edits/ComboBox.h"
 
 namespace lumenote {
 

@@ -2,7 +2,7 @@
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
 #include "backends/qt/toolkit/SpokenWidget.h"
-#include "forms/controls/Frame.h"
+#include "forms/controls/labels/Frame.h"
 
 namespace lumenote {
 

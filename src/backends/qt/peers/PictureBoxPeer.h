@@ -3,7 +3,7 @@
 #include <QFrame>
 
 #include "backends/qt/peers/ControlPeer.h"
-#include "forms/controls/PictureBox.h"
+#include "forms/controls/labels/PictureBox.h"
 
 namespace lumenote {
 

@@ -2,7 +2,7 @@
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
 #include "backends/qt/view/RichTextView.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 
 namespace lumenote {
 

@@ -3,7 +3,7 @@
 #include <QScrollBar>
 
 #include "backends/qt/peers/ControlPeer.h"
-#include "forms/controls/ScrollBar.h"
+#include "forms/controls/buttons/ScrollBar.h"
 
 namespace lumenote {
 

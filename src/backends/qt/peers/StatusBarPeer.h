@@ -5,7 +5,7 @@
 
 #include "backends/qt/peers/ControlPeer.h"
 #include "backends/qt/toolkit/SpokenWidget.h"
-#include "forms/controls/StatusBar.h"
+#include "forms/controls/labels/StatusBar.h"
 
 namespace lumenote {
 

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 
 #include "backends/qt/peers/ControlPeer.h"
-#include "forms/controls/TextBox.h"
+#include "forms/controls/edits/TextBox.h"
 
 namespace lumenote {
 

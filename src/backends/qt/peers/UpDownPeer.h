@@ -4,7 +4,7 @@
 
 #include "backends/qt/peers/ControlPeer.h"
 #include "backends/qt/toolkit/SpokenWidget.h"
-#include "forms/controls/UpDown.h"
+#include "forms/controls/buttons/UpDown.h"
 
 namespace lumenote {
 

@@ -7,8 +7,8 @@
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
 #include "backends/qt/view/RichTextView.h"
-#include "forms/controls/Label.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
+#include "forms/controls/labels/Label.h"
 
 namespace lumenote {
 

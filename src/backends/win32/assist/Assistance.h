@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "backends/win32/assist/ViewLink.h"
-#include "backends/win32/toolkit/ComObject.h"
+#include "backends/win32/system/ComObject.h"
 
 namespace lumenote {
 

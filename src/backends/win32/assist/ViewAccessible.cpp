@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "backends/win32/toolkit/ComObject.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/ComObject.h"
+#include "backends/win32/system/NativeText.h"
 
 // After the system's own header.
 #include <oleacc.h>

@@ -1,7 +1,7 @@
 // The element of a view's window in UI Automation.
 #pragma once
 #include "backends/win32/assist/ViewLink.h"
-#include "backends/win32/toolkit/ComObject.h"
+#include "backends/win32/system/ComObject.h"
 
 namespace lumenote {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "backends/win32/system/NativeText.h"
 #include "backends/win32/text/LinkedFamilies.h"
-#include "backends/win32/toolkit/NativeText.h"
 
 namespace lumenote {
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "backends/win32/system/System.h"
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/MemoryDc.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
+#include "backends/win32/toolkit/drawing/MemoryDc.h"
 
 // After the system's own header.
 #include <usp10.h>

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "backends/win32/toolkit/PictureLibrary.h"
+#include "backends/win32/toolkit/drawing/PictureLibrary.h"
 #include "document/Document.h"
 
 namespace lumenote {

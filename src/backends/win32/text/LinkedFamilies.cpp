@@ -4,10 +4,10 @@
 #include <map>
 #include <mutex>
 
+#include "backends/win32/system/NativeText.h"
 #include "backends/win32/system/System.h"
-#include "backends/win32/toolkit/FontFamilies.h"
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/toolkit/drawing/FontFamilies.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 
 namespace lumenote {
 

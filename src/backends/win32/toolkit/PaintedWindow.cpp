@@ -1,7 +1,7 @@
 #include "backends/win32/toolkit/PaintedWindow.h"
 
-#include "backends/win32/toolkit/MemoryDc.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/MemoryDc.h"
 
 namespace lumenote {
 std::u16string PaintedWindow::Caption() const { return TextOf(Handle()); }

@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
 
 namespace lumenote {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 #include "document/pictures/PictureFrame.h"
 
 namespace lumenote {

@@ -1,6 +1,6 @@
 // Takes what is dropped on a window.
 #pragma once
-#include "backends/win32/toolkit/ComObject.h"
+#include "backends/win32/system/ComObject.h"
 #include "backends/win32/view/DragOut.h"
 #include "view/acts/ViewDrop.h"
 

@@ -1,6 +1,6 @@
 // Draws decorations with GDI.
 #pragma once
-#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 #include "view/layout/Strokes.h"
 
 namespace lumenote {

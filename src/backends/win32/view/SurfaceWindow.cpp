@@ -5,10 +5,10 @@
 #include <new>
 #include <utility>
 
-#include "backends/win32/toolkit/Keys.h"
-#include "backends/win32/toolkit/MousePoint.h"
-#include "backends/win32/toolkit/Units.h"
 #include "backends/win32/toolkit/VisualStyles.h"
+#include "backends/win32/toolkit/drawing/Units.h"
+#include "backends/win32/toolkit/input/Keys.h"
+#include "backends/win32/toolkit/input/MousePoint.h"
 #include "base/Strings.h"
 #include "view/acts/TextTips.h"
 

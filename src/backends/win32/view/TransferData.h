@@ -1,6 +1,6 @@
 // Text, RTF and HTML on their way between programs.
 #pragma once
-#include "backends/win32/toolkit/ComObject.h"
+#include "backends/win32/system/ComObject.h"
 #include "platform/Clipboard.h"
 #include "view/acts/TextDrag.h"
 

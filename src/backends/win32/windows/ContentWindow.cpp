@@ -2,8 +2,8 @@
 
 #include <windowsx.h>
 
-#include "backends/win32/toolkit/Colours.h"
-#include "backends/win32/toolkit/MouseButtons.h"
+#include "backends/win32/toolkit/drawing/Colours.h"
+#include "backends/win32/toolkit/input/MouseButtons.h"
 
 namespace lumenote {
 

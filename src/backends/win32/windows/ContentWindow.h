@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <functional>
 
-#include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 
 namespace lumenote {
 

@@ -1,9 +1,9 @@
 #include "backends/win32/windows/Shot.h"
 
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/NativeText.h"
-#include "backends/win32/toolkit/PictureLibrary.h"
-#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
+#include "backends/win32/toolkit/drawing/PictureLibrary.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 #include "base/RuntimeError.h"
 
 namespace lumenote {

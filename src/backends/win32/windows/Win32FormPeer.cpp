@@ -2,14 +2,14 @@
 
 #include <cmath>
 
-#include "backends/win32/toolkit/Keys.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/input/Keys.h"
 #include "backends/win32/view/SurfaceWindow.h"
 #include "backends/win32/windows/OwnIcon.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 #include "base/ScopedFlag.h"
 #include "forms/Button.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 
 namespace lumenote {
 namespace {

@@ -1,6 +1,6 @@
 // Translates a native window's geometry to its form's and back.
 #pragma once
-#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 
 namespace lumenote {
 

@@ -2,9 +2,9 @@
 
 #include <windowsx.h>
 
-#include "backends/win32/toolkit/Keys.h"
-#include "backends/win32/toolkit/MouseButtons.h"
-#include "backends/win32/toolkit/MousePoint.h"
+#include "backends/win32/toolkit/input/Keys.h"
+#include "backends/win32/toolkit/input/MouseButtons.h"
+#include "backends/win32/toolkit/input/MousePoint.h"
 #include "forms/Form.h"
 
 namespace lumenote {

@@ -1,7 +1,7 @@
 // What the peers of controls need of their window and its backend.
 #pragma once
 #include "backends/win32/text/UniscribeLayouter.h"
-#include "backends/win32/toolkit/Fonts.h"
+#include "backends/win32/toolkit/drawing/Fonts.h"
 #include "forms/Control.h"
 
 namespace lumenote {

@@ -1,6 +1,6 @@
 #include "backends/win32/peers/buttons/ButtonPeer.h"
 
-#include "backends/win32/toolkit/Keys.h"
+#include "backends/win32/toolkit/input/Keys.h"
 #include "base/ScopedFlag.h"
 
 namespace lumenote {

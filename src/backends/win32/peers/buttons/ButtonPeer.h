@@ -2,8 +2,8 @@
 #pragma once
 #include "backends/win32/peers/base/CaptionPeer.h"
 #include "forms/Button.h"
-#include "forms/controls/CheckBox.h"
-#include "forms/controls/OptionButton.h"
+#include "forms/controls/buttons/CheckBox.h"
+#include "forms/controls/buttons/OptionButton.h"
 
 namespace lumenote {
 

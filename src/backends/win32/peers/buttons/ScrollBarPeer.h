@@ -1,7 +1,7 @@
 // The peer of scroll bars.
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
-#include "forms/controls/ScrollBar.h"
+#include "forms/controls/buttons/ScrollBar.h"
 
 namespace lumenote {
 

@@ -1,7 +1,7 @@
 // The peer of spinners.
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
-#include "forms/controls/UpDown.h"
+#include "forms/controls/buttons/UpDown.h"
 
 namespace lumenote {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/Keys.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
+#include "backends/win32/toolkit/input/Keys.h"
 #include "base/ScopedFlag.h"
 
 namespace lumenote {

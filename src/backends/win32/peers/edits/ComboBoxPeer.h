@@ -2,7 +2,7 @@
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
 #include "backends/win32/peers/edits/EditKeys.h"
-#include "forms/controls/ComboBox.h"
+#include "forms/controls/edits/ComboBox.h"
 
 namespace lumenote {
 

@@ -1,6 +1,6 @@
 #include "backends/win32/peers/edits/EditKeys.h"
 
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
 
 namespace lumenote {
 

@@ -2,7 +2,7 @@
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
 #include "backends/win32/view/SurfaceWindow.h"
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 
 namespace lumenote {
 

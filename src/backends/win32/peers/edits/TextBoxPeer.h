@@ -2,7 +2,7 @@
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
 #include "backends/win32/peers/edits/EditKeys.h"
-#include "forms/controls/TextBox.h"
+#include "forms/controls/edits/TextBox.h"
 
 namespace lumenote {
 

@@ -2,7 +2,7 @@
 #pragma once
 #include "backends/win32/peers/base/CaptionPeer.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
-#include "forms/controls/Frame.h"
+#include "forms/controls/labels/Frame.h"
 
 namespace lumenote {
 

@@ -1,9 +1,9 @@
 #include "backends/win32/peers/labels/LabelPeer.h"
 
-#include "backends/win32/toolkit/Colours.h"
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/NativeText.h"
-#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/Colours.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 
 namespace lumenote {
 namespace {

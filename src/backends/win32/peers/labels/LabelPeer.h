@@ -3,7 +3,7 @@
 #include "backends/win32/peers/base/CaptionPeer.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
 #include "backends/win32/toolkit/ToolTip.h"
-#include "forms/controls/Label.h"
+#include "forms/controls/labels/Label.h"
 
 namespace lumenote {
 

@@ -1,10 +1,10 @@
 // The peer of sunken containers.
 #pragma once
 #include "backends/win32/peers/base/ControlPeer.h"
-#include "backends/win32/toolkit/Colours.h"
-#include "backends/win32/toolkit/Gdi.h"
 #include "backends/win32/toolkit/PaintedWindow.h"
-#include "forms/controls/PictureBox.h"
+#include "backends/win32/toolkit/drawing/Colours.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
+#include "forms/controls/labels/PictureBox.h"
 
 namespace lumenote {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <vector>
 
-#include "backends/win32/toolkit/MemoryDc.h"
+#include "backends/win32/toolkit/drawing/MemoryDc.h"
 
 namespace lumenote {
 namespace {

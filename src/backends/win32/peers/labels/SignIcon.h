@@ -2,7 +2,7 @@
 #pragma once
 #include <utility>
 
-#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 #include "forms/values/StatusSign.h"
 
 namespace lumenote {

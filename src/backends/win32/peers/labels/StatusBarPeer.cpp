@@ -4,7 +4,7 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
 
 namespace lumenote {
 namespace {

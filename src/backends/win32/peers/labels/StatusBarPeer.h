@@ -3,7 +3,7 @@
 #include "backends/win32/peers/base/ControlPeer.h"
 #include "backends/win32/peers/labels/SignIcon.h"
 #include "backends/win32/toolkit/ToolTip.h"
-#include "forms/controls/StatusBar.h"
+#include "forms/controls/labels/StatusBar.h"
 
 namespace lumenote {
 

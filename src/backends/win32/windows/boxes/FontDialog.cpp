@@ -7,9 +7,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
 #include "backends/win32/toolkit/VisualStyles.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 #include "backends/win32/windows/ModalLock.h"
 
 namespace lumenote {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
 #include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/windows/ModalLock.h"
 #include "base/RuntimeError.h"

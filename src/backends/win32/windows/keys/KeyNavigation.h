@@ -1,7 +1,7 @@
 // How the keyboard moves between the controls of a form.
 #pragma once
 #include "forms/Form.h"
-#include "forms/controls/OptionButton.h"
+#include "forms/controls/buttons/OptionButton.h"
 
 namespace lumenote {
 

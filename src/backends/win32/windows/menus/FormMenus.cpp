@@ -1,6 +1,6 @@
 #include "backends/win32/windows/menus/FormMenus.h"
 
-#include "backends/win32/toolkit/MousePoint.h"
+#include "backends/win32/toolkit/input/MousePoint.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 #include "backends/win32/windows/menus/MenuFilter.h"
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <windowsx.h>
 
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/Keys.h"
-#include "backends/win32/toolkit/MousePoint.h"
-#include "backends/win32/toolkit/NativeText.h"
+#include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
+#include "backends/win32/toolkit/input/Keys.h"
+#include "backends/win32/toolkit/input/MousePoint.h"
 #include "backends/win32/windows/keys/KeyNavigation.h"
 #include "forms/values/Captions.h"
 

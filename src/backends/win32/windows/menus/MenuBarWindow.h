@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "backends/win32/toolkit/PaintedWindow.h"
-#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
 

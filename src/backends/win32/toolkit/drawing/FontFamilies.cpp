@@ -1,4 +1,4 @@
-#include "backends/win32/toolkit/FontFamilies.h"
+#include "backends/win32/toolkit/drawing/FontFamilies.h"
 
 #include <algorithm>
 #include <new>

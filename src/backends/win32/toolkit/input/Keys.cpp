@@ -1,4 +1,4 @@
-#include "backends/win32/toolkit/Keys.h"
+#include "backends/win32/toolkit/input/Keys.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "forms/controls/TextBox.h"
+#include "forms/controls/edits/TextBox.h"
 
 #include "forms/Form.h"
 #include "lumenote/Platform.h"

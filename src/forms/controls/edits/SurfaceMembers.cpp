@@ -1,4 +1,4 @@
-#include "forms/controls/SurfaceMembers.h"
+#include "forms/controls/edits/SurfaceMembers.h"
 
 #include <optional>
 #include <type_traits>

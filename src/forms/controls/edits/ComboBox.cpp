@@ -1,4 +1,4 @@
-#include "forms/controls/ComboBox.h"
+#include "forms/controls/edits/ComboBox.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "backends/win32/toolkit/Gdi.h"
-#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 
 namespace lumenote {
 

@@ -1,4 +1,4 @@
-#include "forms/controls/Label.h"
+#include "forms/controls/labels/Label.h"
 
 namespace lumenote {
 

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "forms/Control.h"
-#include "forms/controls/LineText.h"
+#include "forms/controls/edits/LineText.h"
 
 namespace lumenote {
 

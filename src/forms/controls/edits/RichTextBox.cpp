@@ -1,8 +1,8 @@
-#include "forms/controls/RichTextBox.h"
+#include "forms/controls/edits/RichTextBox.h"
 
 #include "document/Links.h"
 #include "forms/Form.h"
-#include "forms/controls/SurfaceMembers.h"
+#include "forms/controls/edits/SurfaceMembers.h"
 #include "lumenote/Platform.h"
 #include "platform/Processes.h"
 

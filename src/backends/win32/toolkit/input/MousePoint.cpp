@@ -1,10 +1,10 @@
-#include "backends/win32/toolkit/MousePoint.h"
+#include "backends/win32/toolkit/input/MousePoint.h"
 
 #include <cmath>
 #include <utility>
 #include <windowsx.h>
 
-#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 
 namespace lumenote {
 namespace {

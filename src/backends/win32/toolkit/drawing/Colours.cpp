@@ -1,4 +1,4 @@
-#include "backends/win32/toolkit/Colours.h"
+#include "backends/win32/toolkit/drawing/Colours.h"
 
 namespace lumenote {
 

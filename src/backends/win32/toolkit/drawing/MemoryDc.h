@@ -1,6 +1,6 @@
 // A device context that belongs to no window.
 #pragma once
-#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 
 namespace lumenote {
 

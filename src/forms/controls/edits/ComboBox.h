@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/Control.h"
-#include "forms/controls/LineText.h"
+#include "forms/controls/edits/LineText.h"
 
 namespace lumenote {
 

@@ -1,4 +1,4 @@
-#include "forms/controls/ScrollBar.h"
+#include "forms/controls/buttons/ScrollBar.h"
 
 #include <algorithm>
 

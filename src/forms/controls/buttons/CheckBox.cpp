@@ -1,4 +1,4 @@
-#include "forms/controls/CheckBox.h"
+#include "forms/controls/buttons/CheckBox.h"
 
 #include "base/Numbers.h"
 #include "forms/Form.h"

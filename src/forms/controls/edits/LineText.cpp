@@ -1,4 +1,4 @@
-#include "forms/controls/LineText.h"
+#include "forms/controls/edits/LineText.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "backends/win32/toolkit/PictureLibrary.h"
+#include "backends/win32/toolkit/drawing/PictureLibrary.h"
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "forms/controls/OptionButton.h"
+#include "forms/controls/buttons/OptionButton.h"
 
 #include "forms/Form.h"
 

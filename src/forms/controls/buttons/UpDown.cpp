@@ -1,4 +1,4 @@
-#include "forms/controls/UpDown.h"
+#include "forms/controls/buttons/UpDown.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "forms/controls/StatusBar.h"
+#include "forms/controls/labels/StatusBar.h"
 
 #include "base/RuntimeError.h"
 

@@ -1,9 +1,9 @@
-#include "backends/win32/toolkit/Units.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "backends/win32/toolkit/Gdi.h"
+#include "backends/win32/toolkit/drawing/Gdi.h"
 
 namespace lumenote {
 namespace {
