@@ -6,12 +6,12 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
+#include "base/Twips.h"
 
 namespace lumenote {
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kHundredthsPerInch = 2540;
 constexpr std::int32_t kMaxSteps = 251;
 

@@ -2,6 +2,7 @@
 #pragma once
 #include <vector>
 
+#include "base/Twips.h"
 #include "view/layout/PieceBreaker.h"
 
 namespace lumenote {
@@ -22,7 +23,7 @@ class FixedLayouter final : public TextLayouter {
 class FixedBreaker final : public LineBreaker {
  public:
   /// `width` is the wrap width in twips.
-  explicit FixedBreaker(double width) { layouter_.Width(width / kTwipsInPixel); }
+  explicit FixedBreaker(double width) { layouter_.Width(width / kTwipsPerPixel); }
 
   std::vector<Position> Break(const Document& document, Position from, Position to) override {
     return breaker_.Break(document, from, to);

@@ -5,6 +5,7 @@
 
 #include "backends/headless/HeadlessBackend.h"
 #include "base/Strings.h"
+#include "base/Twips.h"
 #include "forms/Form.h"
 #include "forms/Menu.h"
 #include "forms/controls/buttons/UpDown.h"
@@ -13,7 +14,7 @@
 namespace lumenote {
 namespace {
 
-PixelPoint PixelsOf(Point twips) { return {twips.x / kTwipsInPixel, twips.y / kTwipsInPixel}; }
+PixelPoint PixelsOf(Point twips) { return {twips.x / kTwipsPerPixel, twips.y / kTwipsPerPixel}; }
 
 /// Units of the key at the start of the text; CR LF and a surrogate pair are one key.
 std::size_t KeyLength(std::u16string_view text) {

@@ -1,6 +1,7 @@
 #include "backends/headless/HeadlessBackend.h"
 
 #include "base/RuntimeError.h"
+#include "base/Twips.h"
 #include "forms/Form.h"
 #include "forms/controls/edits/RichTextBox.h"
 #include "surface/DocumentSurface.h"
@@ -13,7 +14,7 @@ std::unique_ptr<FormPeer> HeadlessBackend::Realise(Form& form) {
 std::unique_ptr<RichTextSurface> HeadlessBackend::MakeSurface(RichTextBox& box,
                                                               Clipboard& clipboard, Files& files) {
   auto& made = boxes_[&box] = std::make_unique<HeadlessBox>();
-  made->layouter.Width(box.Width() / kTwipsInPixel);
+  made->layouter.Width(box.Width() / kTwipsPerPixel);
   return std::make_unique<DocumentSurface>(clipboard, files, made->breaker);
 }
 

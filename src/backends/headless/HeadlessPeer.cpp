@@ -1,5 +1,7 @@
 #include "backends/headless/HeadlessPeer.h"
 
+#include "base/Twips.h"
+
 namespace lumenote {
 
 // Made in two steps, so that boxes already shown are hidden again if one cannot be.
@@ -49,7 +51,7 @@ std::optional<Rect> HeadlessPeer::SelectionIn(const RichTextBox& box) {
   constexpr float kMenuBarHeight = 300;
   const auto selected = ViewOf(box)->Text().SelectionBox();
   if (!selected) return std::nullopt;
-  const auto twips = [](double pixels) { return static_cast<float>(pixels * kTwipsInPixel); };
+  const auto twips = [](double pixels) { return static_cast<float>(pixels * kTwipsPerPixel); };
   Rect place = {twips(selected->left), twips(selected->top), twips(selected->Width()),
                 twips(selected->Height())};
   for (const Control* inner = &box; inner; inner = dynamic_cast<const Control*>(&inner->Parent())) {

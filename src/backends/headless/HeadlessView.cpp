@@ -1,5 +1,6 @@
 #include "backends/headless/HeadlessView.h"
 
+#include "base/Twips.h"
 #include "forms/Form.h"
 #include "surface/DocumentSurface.h"
 
@@ -13,13 +14,13 @@ HeadlessView::HeadlessView(RichTextBox& box, FixedLayouter& layouter)
 }
 
 void HeadlessView::Resize() {
-  text_.Resize({box_.Width() / kTwipsInPixel, box_.Height() / kTwipsInPixel});
+  text_.Resize({box_.Width() / kTwipsPerPixel, box_.Height() / kTwipsPerPixel});
 }
 
 void HeadlessView::Act(const std::function<void()>& act) { box_.Owner().Raise(act); }
 
 void HeadlessView::OpenMenu(PixelPoint at) {
-  const auto twips = [](double pixels) { return static_cast<float>(pixels * kTwipsInPixel); };
+  const auto twips = [](double pixels) { return static_cast<float>(pixels * kTwipsPerPixel); };
   box_.UserMouseUp({MouseButton::Right, {twips(at.x), twips(at.y)}});
 }
 

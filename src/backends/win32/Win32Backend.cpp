@@ -7,6 +7,7 @@
 #include "backends/win32/windows/boxes/FontDialog.h"
 #include "backends/win32/windows/boxes/MessageBoxes.h"
 #include "base/RuntimeError.h"
+#include "base/Twips.h"
 #include "forms/controls/edits/RichTextBox.h"
 #include "surface/DocumentSurface.h"
 
@@ -83,7 +84,7 @@ void Win32Backend::CloseForms() {
 std::unique_ptr<RichTextSurface> Win32Backend::MakeSurface(RichTextBox& box, Clipboard& clipboard,
                                                            Files& files) {
   auto& layout = layouts_[&box] = std::make_unique<SurfaceLayout>();
-  layout->layouter.Width(box.Bounds().width / kTwipsInPixel);
+  layout->layouter.Width(box.Bounds().width / kTwipsPerPixel);
   return std::make_unique<DocumentSurface>(clipboard, files, layout->breaker);
 }
 

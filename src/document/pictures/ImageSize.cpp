@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "base/Twips.h"
 #include "document/pictures/ByteOrder.h"
 
 namespace lumenote {
@@ -14,7 +15,6 @@ using namespace std::string_view_literals;
 
 constexpr std::string_view kPngMark = "\x89PNG\r\n\x1A\n"sv;
 constexpr std::string_view kJpegMark = "\xFF\xD8\xFF"sv;
-constexpr double kTwipsPerInch = 1440;
 constexpr double kMetresPerInch = 0.0254;
 
 /// Dots per inch; resolutions that no device has are not believed.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Twips.h"
 #include "document/pictures/BitmapFile.h"
 #include "document/pictures/ImageSize.h"
 
@@ -9,14 +10,13 @@ namespace lumenote {
 namespace {
 
 constexpr std::size_t kLongestImageHead = 131072;  // bytes
-constexpr double kTwipsInPixel = 15;
-constexpr double kTwipsInMetafileUnit = 1440 / 2540.0;
+constexpr double kTwipsPerMetafileUnit = kTwipsPerInch / 2540;
 constexpr ImageSize kUnknown{1200, 900};
 
 /// One side of a frame, in twips: the whole image's before it is cropped and scaled.
 double GoalOf(const PictureExtent& extent, bool metafile) {
   if (extent.goal > 0) return extent.goal;
-  return std::max(extent.size, 0) * (metafile ? kTwipsInMetafileUnit : kTwipsInPixel);
+  return std::max(extent.size, 0) * (metafile ? kTwipsPerMetafileUnit : kTwipsPerPixel);
 }
 
 bool IsMetafile(PictureType type) {

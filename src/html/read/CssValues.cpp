@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/Twips.h"
 #include "html/read/CssColours.h"
 #include "html/source/Ascii.h"
 
@@ -19,12 +20,12 @@ struct Unit {
   CssLength::Unit unit = CssLength::Unit::Twips;
 };
 constexpr Unit kUnits[] = {
-    {u"pt", 20},
-    {u"px", 15},
-    {u"cm", 1440 / 2.54},
-    {u"mm", 144 / 2.54},
-    {u"in", 1440},
-    {u"pc", 240},
+    {u"pt", kTwipsPerPoint},
+    {u"px", kTwipsPerPixel},
+    {u"cm", kTwipsPerInch / 2.54},
+    {u"mm", kTwipsPerInch / 25.4},
+    {u"in", kTwipsPerInch},
+    {u"pc", 12 * kTwipsPerPoint},
     {u"rem", 240},
     {u"em", 1, CssLength::Unit::Size},
     {u"ex", 0.5, CssLength::Unit::Size},

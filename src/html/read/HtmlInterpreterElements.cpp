@@ -3,6 +3,7 @@
 #include <iterator>
 #include <utility>
 
+#include "base/Twips.h"
 #include "document/kept/LinkSource.h"
 #include "document/kept/NumberingSource.h"
 #include "document/kept/RowSource.h"
@@ -13,7 +14,6 @@
 #include "html/source/Ascii.h"
 #include "html/words/LinkLook.h"
 #include "html/words/ListNumbers.h"
-#include "html/words/Pixels.h"
 
 namespace lumenote {
 namespace {
@@ -104,7 +104,7 @@ void HtmlInterpreter::ReadAttributes(const HtmlElement& element, const HtmlToken
   if (const auto* name = Attribute(tag, "class"); name && element.kind == Kind::Paragraph)
     ReadClass(*name, change);
   if (const int width = NumberOf(tag, "width", 0); width > 0)
-    change.width = CssLength{static_cast<double>(width) * kTwipsPerPixel};
+    change.width = CssLength{width * kTwipsPerPixel};
   if (const auto* address = Attribute(tag, "href");
       address && element.kind == Kind::Link && IsAddress(TrimHtml(*address))) {
     const FieldId field = formats_.fields.Intern(
@@ -163,8 +163,8 @@ void HtmlInterpreter::VoidElement(const HtmlToken& tag) {
 /// A picture that the source holds; of others, the text that stands for them.
 void HtmlInterpreter::Image(const HtmlToken& tag) {
   const std::u16string* const address = Attribute(tag, "src");
-  const int width = NumberOf(tag, "width", 0) * kTwipsPerPixel;
-  const int height = NumberOf(tag, "height", 0) * kTwipsPerPixel;
+  const auto width = static_cast<int>(NumberOf(tag, "width", 0) * kTwipsPerPixel);
+  const auto height = static_cast<int>(NumberOf(tag, "height", 0) * kTwipsPerPixel);
   if (auto picture = address ? ReadDataPicture(*address, width, height) : std::nullopt)
     text_.Object({.kind = KeptItem::Kind::Picture, .source = std::move(*picture)}, look_);
   else if (const auto* text = Attribute(tag, "alt"))

@@ -4,13 +4,13 @@
 #include <cmath>
 
 #include "base/Numbers.h"
+#include "base/Twips.h"
 
 namespace lumenote {
 namespace {
 
 constexpr double kLongest = 1'000'000;  // twips
-constexpr int kTwipsPerHalfPoint = 10;
-constexpr int kMaxSize = 0xFFFF;  // half-points
+constexpr int kMaxSize = 0xFFFF;        // half-points
 
 void SetLines(const LookChange::LineSpacing& lines, Look& look) {
   look.paragraph.lineRule = lines.rule;

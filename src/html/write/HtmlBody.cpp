@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "base/Twips.h"
 #include "document/kept/LinkSource.h"
 #include "html/words/ListNumbers.h"
-#include "html/words/Pixels.h"
 #include "html/write/HtmlText.h"
 
 namespace lumenote {
@@ -240,7 +240,8 @@ void HtmlBody::Footnote(const FootnoteText& note, const CharFormat& format) {
 
 void HtmlBody::Picture(const PictureData& picture) {
   const auto size = [&](const char* name, int twips) {
-    if (twips > 0) out_ += name + std::to_string(std::max(twips / kTwipsPerPixel, 1)) + "\"";
+    if (twips > 0)
+      out_ += name + std::to_string(std::max(static_cast<int>(twips / kTwipsPerPixel), 1)) + "\"";
   };
   out_ += picture.type == PictureType::Png ? "<img src=\"data:image/png;base64,"
                                            : "<img src=\"data:image/jpeg;base64,";

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "base/Strings.h"
+#include "base/Twips.h"
 #include "base/Windows1252.h"
 #include "base/codepages/CodePage.h"
 #include "rtf/words/FontFamilies.h"
@@ -12,7 +13,6 @@
 namespace lumenote {
 namespace {
 
-constexpr int kTwipsPerHalfPoint = 10;
 constexpr int kWildNumber = 1'000'000;  // real fonts never have such high numbers
 
 /// Rounds away from zero.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/Twips.h"
 #include "document/Footnotes.h"
 #include "document/Links.h"
 #include "view/layout/TextLayouter.h"
@@ -80,7 +81,7 @@ void SetSize(CharLook& look, const CharFormat& format, double zoom) {
   const bool sub = !super && (format.effects & kSubscript);
   const double raise = super ? kSuperscriptRaise : sub ? kSubscriptRaise : 0;
   look.points = super || sub ? full * kScriptSize : full;
-  look.raise = (format.offset / kTwipsInPixel + pixels * raise) * zoom;
+  look.raise = (format.offset / kTwipsPerPixel + pixels * raise) * zoom;
 }
 
 int StrikesOf(unsigned effects) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string>
 
+#include "base/Twips.h"
 #include "document/Footnotes.h"
 #include "document/pictures/PictureFrame.h"
 #include "view/layout/LineStack.h"
@@ -29,10 +30,9 @@ PixelSize Fitted(PixelSize wanted, PixelSize room) {
 
 /// As wide as one digit.
 PixelSize NumberSize(const TextLayouter& layouter, const CharFormat& format) {
-  constexpr double kTwipsInHalfPoint = 10;
   constexpr double kHeight = 0.8125;
   constexpr double kDigit = 0.38;
-  const double size = layouter.Pixels(format.size * kTwipsInHalfPoint);
+  const double size = layouter.Pixels(format.size * kTwipsPerHalfPoint);
   return {size * kDigit, size * kHeight};
 }
 
@@ -46,7 +46,7 @@ InlineBox BoxOf(const TextLayouter& layouter, const FormatTables& tables, const 
     return {.item = kept.self, .size = NumberSize(layouter, format), .number = 1};
   if (!IsBoxed(item)) return {};
   const PictureFrame frame = FrameOf(item);
-  const double pixel = layouter.Pixels(kTwipsInPixel) / kTwipsInPixel;
+  const double pixel = layouter.Pixels(kTwipsPerPixel) / kTwipsPerPixel;
   const PixelSize room{RoomOf(layouter, paragraph), kTallest * pixel};
   return {.item = kept.self, .size = Fitted({frame.width * pixel, frame.height * pixel}, room)};
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cassert>
 
+#include "base/Twips.h"
+
 namespace lumenote {
 
 namespace {
@@ -20,7 +22,7 @@ void TextLayouter::Scale(double factor) {
 }
 
 double TextLayouter::Pixels(double twips) const {
-  return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsInPixel * zoom_ * scale_;
+  return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsPerPixel * zoom_ * scale_;
 }
 
 std::unique_ptr<Piece> TextLayouter::LayOut(const Document& document, const PieceSpan& span) {

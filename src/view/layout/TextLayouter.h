@@ -8,9 +8,6 @@
 
 namespace lumenote {
 
-/// At 96 dots per inch, unzoomed.
-inline constexpr double kTwipsInPixel = 15;
-
 /// The part of a paragraph to lay out, from a line start on.
 struct PieceSpan {
   Position from = 0;

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include "base/Twips.h"
+
 namespace lumenote {
 
 namespace {
@@ -21,7 +23,7 @@ double TextPane::WrapWidth() const {
 }
 
 double TextPane::TextWidth() const {
-  return layouter_.Width() * kTwipsInPixel / layouter_.Pixels(kTwipsInPixel);
+  return layouter_.Width() * kTwipsPerPixel / layouter_.Pixels(kTwipsPerPixel);
 }
 
 void TextPane::Resize(PixelSize size) {

@@ -6,13 +6,13 @@
 #include "backends/qt/toolkit/MouseButtons.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
+#include "base/Twips.h"
 #include "forms/Form.h"
 #include "forms/controls/SpokenName.h"
 
 namespace lumenote {
 
 namespace {
-constexpr float kTwipsPerPoint = 20;
 constexpr int kWheelNotch = 120;  // eighths of a degree
 }  // namespace
 

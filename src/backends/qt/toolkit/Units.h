@@ -3,11 +3,10 @@
 #include <QRect>
 #include <QSize>
 
+#include "base/Twips.h"
 #include "forms/values/Geometry.h"
 
 namespace lumenote {
-
-inline constexpr double kTwipsPerPixel = 15;
 
 constexpr double ToPixels(double twips) { return twips / kTwipsPerPixel; }
 constexpr float ToTwips(double pixels) { return static_cast<float>(pixels * kTwipsPerPixel); }

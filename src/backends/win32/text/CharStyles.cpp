@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/Twips.h"
 #include "view/layout/TextLayouter.h"
 
 namespace lumenote {
@@ -52,7 +53,7 @@ CharStyle CharStyles::Make(const Document& document, const CharFormat& format) {
   style.descent = style.font->Descent();
   const double least = -style.points / 2;  // keeps characters in order
   style.spacing =
-      static_cast<int>(std::lround(std::max(format.spacing / kTwipsInPixel, least) * pixels_));
+      static_cast<int>(std::lround(std::max(format.spacing / kTwipsPerPixel, least) * pixels_));
   return style;
 }
 

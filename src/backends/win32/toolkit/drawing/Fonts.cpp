@@ -1,12 +1,12 @@
 #include "backends/win32/toolkit/drawing/Fonts.h"
 
 #include "backends/win32/system/NativeText.h"
+#include "base/Twips.h"
 
 namespace lumenote {
 namespace {
 
 constexpr float kUsualSize = 8.25F;  // points
-constexpr double kTwipsPerPoint = 20;
 
 HFONT Make(const std::u16string& family, int pixels) {
   const std::u16string name = family.empty() ? u"MS Shell Dlg 2" : family;

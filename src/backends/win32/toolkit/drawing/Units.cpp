@@ -4,11 +4,11 @@
 #include <cmath>
 
 #include "backends/win32/toolkit/drawing/Gdi.h"
+#include "base/Twips.h"
 
 namespace lumenote {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kMaxPixels = 16384;
 
 // Systems before Windows 10 have one resolution for all screens.
