@@ -1,4 +1,6 @@
 // Temporary folders and their owners.
+#include <chrono>
+#include <future>
 #include <optional>
 
 #include "Sandbox.h"
@@ -38,6 +40,21 @@ TEST_F(TempFoldersTest, AProgramThatWorksInOneKeepsIt) {
     folders.reset();
     EXPECT_EQ(IsOwnFolder(native), outlivesAll);
     RemoveTree(native);
+  }
+}
+
+// Some systems keep a deleted name while anybody has the file open.
+TEST_F(TempFoldersTest, ProgramsThatStartLeaveTheFilesOfTheOthersAlone) {
+  NativeFolders folders(around_);
+  const std::unique_ptr<TempFolder> temp = folders.MakeTemp();
+  const std::string path = around_.ToNative(temp->Path()) + "a.txt";
+  const std::future<void> starts = std::async(std::launch::async, [] {
+    for (int i = 0; i < 50; ++i) TemporaryFolder();
+  });
+  while (starts.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
+    EXPECT_TRUE(CreateNew(path).IsOpen());
+    EXPECT_EQ(RemoveFile(path), 0);
+    EXPECT_FALSE(StatusOf(path));
   }
 }
 

@@ -21,6 +21,8 @@ constexpr std::string_view kMark =
     "Temporary folder of Lumenote, removed a week after its last use\n";
 constexpr std::int64_t kLeftAlone = 7 * 24 * 3600;  // seconds
 
+bool IsRecent(std::int64_t time) { return time > std::time(nullptr) - kLeftAlone; }
+
 std::string MarkPath(const std::string& folder) {
   return folder + "/" + TemporaryFolder::kMarkName;
 }
@@ -58,10 +60,15 @@ std::int64_t LastChangeWithin(const std::string& folder) {
   return last;
 }
 
+/// Opens nothing in a folder that another program may be using: on some systems a file that is
+/// looked at cannot be deleted and made anew.
 void RemoveIfAbandoned(const std::string& path) {
+  if (IsRecent(LastChangeOf(path))) return;
   OpenFile mark = MarkIn(path);
-  if (!mark.IsOpen() || LastChangeWithin(path) > std::time(nullptr) - kLeftAlone) return;
-  if (TryLock(mark, Lock::Exclusive) == LockResult::Locked) RemoveTree(path);
+  if (!mark.IsOpen() || TryLock(mark, Lock::Exclusive) != LockResult::Locked) return;
+  if (IsRecent(LastChangeWithin(path))) return;
+  mark.Close();
+  RemoveTree(path);
 }
 
 void RemoveAbandonedIn(const std::string& parent) {

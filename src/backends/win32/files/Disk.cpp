@@ -40,13 +40,30 @@ bool IsGoing(const std::string& path) {
   return AttributesOf(path) == INVALID_FILE_ATTRIBUTES && LastError() == ERROR_ACCESS_DENIED;
 }
 
-int MakeFolder(const std::string& path) {
+/// Repeats the making of `path` for half a second while that name is going.
+template <class Make>
+int MakeOnceGone(const std::string& path, Make make) {
   int error = 0;
   Patiently([&] {
-    error = ErrorUnless(CreateDirectoryW(SystemPath(path).c_str(), nullptr));
+    error = make();
     return error == ERROR_ACCESS_DENIED && IsGoing(path) ? ERROR_SHARING_VIOLATION : error;
   });
+  SetLastError(static_cast<DWORD>(error));
   return error;
+}
+
+OpenFile Create(const std::string& path, DWORD access, DWORD creation) {
+  OpenFile file;
+  MakeOnceGone(path, [&] {
+    file = Open(path, access, creation, Links::AreFiles);
+    return ErrorUnless(file.IsOpen());
+  });
+  return file;
+}
+
+int MakeFolder(const std::string& path) {
+  return MakeOnceGone(
+      path, [&] { return ErrorUnless(CreateDirectoryW(SystemPath(path).c_str(), nullptr)); });
 }
 
 }  // namespace
@@ -70,12 +87,10 @@ std::string ReadWholeFile(const std::string& path) {
 
 // Whom a new file is private to is said by its folder's access list.
 OpenFile CreateNew(const std::string& path, Permissions) {
-  return Open(path, kReadAndWrite | WRITE_DAC, CREATE_NEW, Links::AreFiles);
+  return Create(path, kReadAndWrite | WRITE_DAC, CREATE_NEW);
 }
 
-OpenFile Recreate(const std::string& path) {
-  return Open(path, kReadAndWrite, CREATE_ALWAYS, Links::AreFiles);
-}
+OpenFile Recreate(const std::string& path) { return Create(path, kReadAndWrite, CREATE_ALWAYS); }
 
 OpenFile OpenExisting(const std::string& path) {
   OpenFile file = Open(path, kReadAndWrite, OPEN_EXISTING, Links::AreFiles);
@@ -226,9 +241,10 @@ std::string FollowLinks(const std::string& path) {
 }
 
 std::int64_t LastChangeOf(const std::string& path) {
-  const OpenFile file = OpenToLook(path, Links::AreFiles);
-  if (!file.IsOpen()) return std::numeric_limits<std::int64_t>::max();
-  return InNanoseconds(InfoOf(file).ftLastWriteTime) / 1'000'000'000;
+  WIN32_FILE_ATTRIBUTE_DATA data = {};
+  if (!GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data))
+    return std::numeric_limits<std::int64_t>::max();
+  return InNanoseconds(data.ftLastWriteTime) / 1'000'000'000;
 }
 
 std::string AbsolutePath(const std::string& path) {
