@@ -22,6 +22,8 @@ Co_Rtf::Co_Rtf(WindowList& windows, std::shared_ptr<Session>& session, const Tem
       roundTrip_(*this, *this, programs_, Machine().Programs(), outstandingWork) {
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 195, 5262, 75}, u"", LabelStyle::Strip);
   Lb_3Bascules.Add(Fr_Notes, Rect{57, 3510, 5262, 50}, u"", LabelStyle::Strip);
+  for (int index = 0; index < Lb_3Bascules.Count(); ++index)
+    Lb_3Bascules(index).SpokenName(u"Menus, Règle, Paragraphe");
   Bx_Règle.Locked(true);
   Bx_Règle.SpokenName(u"Règle");
   Bx_RTF.Change = [this] { Bx_RTF_Change(); };

@@ -1,6 +1,7 @@
 """What a screen reader gets to know: conducted like a host, each answer one line of JSON.
 
-tree      every object of the programs on the desktop: role, name, states, attributes of its text
+tree      every object of the programs on the desktop: role, name, states, names of its
+          labels, attributes of its text
 events    what has been told since the last question: kind, detail, text, name of the object
 """
 import json
@@ -33,16 +34,33 @@ def runs(text):
     return found
 
 
-def describe(item, window):
+def labels(item):
+    """The names of what labels it."""
+    return [relation.get_target(number).get_name() for relation in item.get_relation_set()
+            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+            for number in range(relation.get_n_targets())]
+
+
+def states_of(item):
+    """Qt tells nothing until it has found the bus: what had the focus before may only seem to."""
+    if item.get_state_set().contains(Atspi.StateType.FOCUSED):
+        item.clear_cache()
     states = item.get_state_set()
+    return [name for state, name in STATES.items() if states.contains(state)]
+
+
+def describe(item, window):
     text = item.get_text_iface()
     return {"window": window, "role": item.get_role_name(), "name": item.get_name(),
-            "states": [name for state, name in STATES.items() if states.contains(state)],
+            "states": states_of(item), "labels": labels(item),
             "runs": runs(text) if text else []}
 
 
 def walk(item, window):
+    """It and what it holds, but for the rows of lists, of which Qt says too much."""
     yield describe(item, window)
+    if item.get_role() == Atspi.Role.LIST:
+        return
     for number in range(item.get_child_count()):
         if child := item.get_child_at_index(number):
             yield from walk(child, window)
@@ -56,12 +74,21 @@ def tree():
     return [item for window in windows for item in walk(window, window.get_name())]
 
 
+def whole_tree():
+    """Begins again when something goes meanwhile."""
+    while True:
+        try:
+            return tree()
+        except GLib.Error:
+            pass
+
+
 def obey(*_):
     line = sys.stdin.readline()
     if not line:
         Atspi.event_quit()
         return False
-    answer = tree() if line.strip() == "tree" else told[:]
+    answer = whole_tree() if line.strip() == "tree" else told[:]
     if line.strip() == "events":
         told.clear()
     print(json.dumps(answer), flush=True)

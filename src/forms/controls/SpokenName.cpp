@@ -9,17 +9,6 @@ namespace lumenote {
 
 namespace {
 
-const std::u16string* LabelBefore(const Control& control) {
-  const std::u16string* found = nullptr;
-  for (const Control* other : control.Parent().Controls()) {
-    if (other == &control) break;
-    const auto* label = dynamic_cast<const Label*>(other);
-    if (label && label->Style() == LabelStyle::Text && !label->Caption().empty())
-      found = &label->Caption();
-  }
-  return found;
-}
-
 std::u16string NameOfPlace(const Control& control) {
   const auto* frame = dynamic_cast<const Frame*>(&control.Parent());
   return frame && !frame->Caption().empty() ? WithoutMnemonic(frame->Caption())
@@ -28,14 +17,26 @@ std::u16string NameOfPlace(const Control& control) {
 
 }  // namespace
 
+const Label* LabelOf(const Control& control) {
+  if (!control.SpokenName().empty() || dynamic_cast<const CaptionedControl*>(&control))
+    return nullptr;
+  const Label* found = nullptr;
+  for (const Control* other : control.Parent().Controls()) {
+    if (other == &control) break;
+    const auto* label = dynamic_cast<const Label*>(other);
+    if (label && label->Style() == LabelStyle::Text && !label->Caption().empty()) found = label;
+  }
+  return found;
+}
+
 std::u16string SpokenNameOf(const Control& control) {
   if (!control.SpokenName().empty()) return control.SpokenName();
   if (const auto* label = dynamic_cast<const Label*>(&control); label && label->Caption().empty())
     return label->ToolTip();
   if (const auto* captioned = dynamic_cast<const CaptionedControl*>(&control))
     return WithoutMnemonic(captioned->Caption());
-  const std::u16string* label = LabelBefore(control);
-  return label ? WithoutMnemonic(*label) : NameOfPlace(control);
+  const Label* label = LabelOf(control);
+  return label ? WithoutMnemonic(label->Caption()) : NameOfPlace(control);
 }
 
 }  // namespace lumenote

@@ -6,6 +6,10 @@
 
 namespace lumenote {
 
+class Label;
+
+/// The label that names a control that has no name of its own; null for none.
+const Label* LabelOf(const Control& control);
 /// Its own spoken name or caption; else the label that stands before it in its container, or the
 /// title of the container, or of the window. A label's tooltip stands in for a caption it lacks.
 std::u16string SpokenNameOf(const Control& control);

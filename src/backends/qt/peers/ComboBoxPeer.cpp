@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "backends/qt/peers/AccessibleCombo.h"
 #include "backends/qt/toolkit/Keys.h"
 #include "backends/qt/toolkit/LineEdits.h"
 #include "backends/qt/toolkit/QtText.h"
@@ -66,9 +67,25 @@ void ComboBoxWidget::KeepTextApart() {
 void ComboBoxWidget::showPopup() {
   if (combo_) combo_->UserDrop();
   if (!combo_) return;
-  view()->setAccessibleName(accessibleName());
   QComboBox::showPopup();
   view()->setCurrentIndex(model()->index(findText(currentText(), Qt::MatchExactly), modelColumn()));
+}
+
+QAccessibleInterface* ComboBoxWidget::MakeInterface(QWidget&) {
+  return new AccessibleCombo(*this, *this);
+}
+
+// Qt tells that the box has the focus, right after this; it is its line that the user types into.
+void ComboBoxWidget::focusInEvent(QFocusEvent* event) {
+  QComboBox::focusInEvent(event);
+  if (!isEditable() || !QAccessible::isActive()) return;
+  QMetaObject::invokeMethod(
+      lineEdit(),
+      [line = lineEdit()] {
+        QAccessibleEvent focus(line, QAccessible::Focus);
+        if (line->hasFocus()) QAccessible::updateAccessibility(&focus);
+      },
+      Qt::QueuedConnection);
 }
 
 void ComboBoxWidget::keyPressEvent(QKeyEvent* event) {
@@ -125,7 +142,9 @@ void ComboBoxPeer::Update(Property property) {
 
 void ComboBoxPeer::ShowName() {
   ControlPeer::ShowName();
-  if (QLineEdit* line = widget_->lineEdit()) line->setAccessibleName(widget_->accessibleName());
+  const QString name = widget_->accessibleName();
+  widget_->view()->setAccessibleName(name);
+  if (QLineEdit* line = widget_->lineEdit()) line->setAccessibleName(name);
 }
 
 void ComboBoxPeer::Compare(DifferenceList& differences) const {

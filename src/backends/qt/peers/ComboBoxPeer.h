@@ -3,20 +3,24 @@
 #include <QComboBox>
 
 #include "backends/qt/peers/ControlPeer.h"
+#include "backends/qt/toolkit/Spoken.h"
 #include "forms/controls/edits/ComboBox.h"
 
 namespace lumenote {
 
 /// Signals before its list opens. `activated` is emitted only for a choice from the open list: keys
 /// open the list first, and neither the wheel nor leaving the box nor Return chooses.
-class ComboBoxWidget : public QComboBox {
+class ComboBoxWidget : public QComboBox, public Spoken {
  public:
   ComboBoxWidget(ComboBox& combo, QWidget* parent);
 
   void Detach() { combo_ = nullptr; }
   void showPopup() override;
+  QAccessible::Role Role() const override { return QAccessible::ComboBox; }
+  QAccessibleInterface* MakeInterface(QWidget&) override;
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 

@@ -1,5 +1,6 @@
 // The base of peers: the widget of one control.
 #pragma once
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWheelEvent>
@@ -31,6 +32,8 @@ class ControlPeer : public QObject {
   virtual void Update(Property property);
   /// Names the widget for assistive programs.
   virtual void ShowName();
+  /// The label that names it.
+  virtual void ShowLabel(QLabel& label) { label.setBuddy(widget_); }
   virtual void Compare(DifferenceList& differences) const;
 
   bool eventFilter(QObject* object, QEvent* event) override;

@@ -1,7 +1,7 @@
 // The peer of frames.
 #pragma once
 #include "backends/qt/peers/ControlPeer.h"
-#include "backends/qt/toolkit/SpokenWidget.h"
+#include "backends/qt/toolkit/Spoken.h"
 #include "forms/controls/labels/Frame.h"
 
 namespace lumenote {

@@ -1,20 +1,23 @@
 // The peer of labels.
 #pragma once
+#include <QLabel>
+
 #include "backends/qt/peers/ControlPeer.h"
-#include "backends/qt/toolkit/SpokenWidget.h"
+#include "backends/qt/toolkit/Spoken.h"
 #include "forms/controls/labels/Label.h"
 
 namespace lumenote {
 
 /// Wrapped text from the upper left corner, without the mnemonic's ampersand. A title covers
 /// a frame's border behind it. A strip shows nothing until the pointer is over it.
-class LabelWidget : public SpokenWidget {
+class LabelWidget : public QLabel, public Spoken {
  public:
-  using SpokenWidget::SpokenWidget;
+  explicit LabelWidget(QWidget* parent) : QLabel(parent) {}
 
   QAccessible::Role Role() const override {
     return style_ == LabelStyle::Strip ? QAccessible::Button : QAccessible::StaticText;
   }
+  QWidget* LabelFor() const override { return buddy(); }
   const QString& Text() const { return text_; }
   void Text(const QString& text);
   void Style(LabelStyle style);

@@ -1,6 +1,5 @@
 // The peer of sunken containers.
 #pragma once
-#include <QFrame>
 
 #include "backends/qt/peers/ControlPeer.h"
 #include "forms/controls/labels/PictureBox.h"
@@ -10,9 +9,6 @@ namespace lumenote {
 class PictureBoxPeer final : public ControlPeer {
  public:
   PictureBoxPeer(PictureBox& box, QWidget& parent, LayouterSource&);
-
- private:
-  PictureBoxPeer(PictureBox& box, QFrame* frame);
 };
 
 }  // namespace lumenote

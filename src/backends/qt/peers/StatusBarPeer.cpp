@@ -115,8 +115,9 @@ void StatusBarPeer::Update(Property property) {
 
 // Its name is all that it says.
 void StatusBarPeer::ShowName() {
-  QStringList texts = widget_.Panels() + QStringList(widget_.SignTip());
-  texts.removeAll(QString());
+  QStringList texts;
+  for (const QString& text : widget_.Panels() + QStringList(widget_.SignTip()))
+    if (!text.trimmed().isEmpty()) texts.push_back(text.trimmed());
   widget_.setAccessibleName(texts.join(QStringLiteral(", ")));
 }
 

@@ -4,7 +4,7 @@
 #include <QStringList>
 
 #include "backends/qt/peers/ControlPeer.h"
-#include "backends/qt/toolkit/SpokenWidget.h"
+#include "backends/qt/toolkit/Spoken.h"
 #include "forms/controls/labels/StatusBar.h"
 
 namespace lumenote {

@@ -34,7 +34,8 @@ void UpDownWidget::keyPressEvent(QKeyEvent* event) {
 UpDownPeer::UpDownPeer(UpDown& spinner, QWidget& parent, LayouterSource&)
     : UpDownPeer(spinner, new UpDownWidget(&parent)) {}
 
-UpDownPeer::UpDownPeer(UpDown& spinner, UpDownWidget* widget) : ControlPeer(spinner, *widget) {
+UpDownPeer::UpDownPeer(UpDown& spinner, UpDownWidget* widget)
+    : ControlPeer(spinner, *widget), widget_(*widget) {
   for (const bool up : {true, false})
     connect(&widget->Arrow(up), &QToolButton::clicked, this,
             [&spinner, up] { spinner.UserSpin(up); });

@@ -3,7 +3,7 @@
 #include <QToolButton>
 
 #include "backends/qt/peers/ControlPeer.h"
-#include "backends/qt/toolkit/SpokenWidget.h"
+#include "backends/qt/toolkit/Spoken.h"
 #include "forms/controls/buttons/UpDown.h"
 
 namespace lumenote {
@@ -14,6 +14,8 @@ class UpDownWidget : public SpokenWidget {
   explicit UpDownWidget(QWidget* parent);
 
   QAccessible::Role Role() const override { return QAccessible::SpinBox; }
+  QWidget* LabelledBy() const override { return label_; }
+  void LabelledBy(QWidget& label) { label_ = &label; }
   QToolButton& Arrow(bool up) { return up ? up_ : down_; }
 
  protected:
@@ -23,14 +25,20 @@ class UpDownWidget : public SpokenWidget {
  private:
   QToolButton up_{this};
   QToolButton down_{this};
+  QPointer<QWidget> label_;
 };
 
 class UpDownPeer final : public ControlPeer {
  public:
   UpDownPeer(UpDown& spinner, QWidget& parent, LayouterSource&);
 
+  // The label's own field is the box beside the spinner.
+  void ShowLabel(QLabel& label) override { widget_.LabelledBy(label); }
+
  private:
   UpDownPeer(UpDown& spinner, UpDownWidget* widget);
+
+  UpDownWidget& widget_;
 };
 
 }  // namespace lumenote

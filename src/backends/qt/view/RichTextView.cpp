@@ -19,7 +19,6 @@
 #include "backends/qt/toolkit/Units.h"
 #include "backends/qt/view/InputMethods.h"
 #include "backends/qt/view/SelectionMime.h"
-#include "backends/qt/view/ViewAccessible.h"
 #include "view/acts/TextTips.h"
 
 namespace lumenote {
@@ -50,7 +49,6 @@ RichTextView::RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewC
       layouter_(layouter),
       callbacks_(std::move(callbacks)),
       text_(surface, layouter, *this) {
-  UseViewAccessibility();
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_InputMethodEnabled);
   setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "backends/qt/text/QtLayouter.h"
+#include "backends/qt/toolkit/Spoken.h"
 #include "backends/qt/view/Announcer.h"
 #include "backends/qt/view/DragOut.h"
 #include "backends/qt/view/DropEvents.h"
@@ -40,7 +41,7 @@ struct ViewCallbacks {
 
 /// Shows a `NoteView` with Qt: translates events and paints. The surface may be destroyed first,
 /// after `Detach`; the widget is inert then.
-class RichTextView : public QAbstractScrollArea, private ViewHost {
+class RichTextView : public QAbstractScrollArea, public Spoken, private ViewHost {
  public:
   /// `layouter`, shared with the surface's breaker, must outlive the view.
   RichTextView(DocumentSurface& surface, QtLayouter& layouter, ViewCallbacks callbacks,
@@ -60,6 +61,9 @@ class RichTextView : public QAbstractScrollArea, private ViewHost {
   void CheckSpelling(Speller& speller, SpellingMarks::Learn learn);
   /// Opens the menu that a click with the right button there opens.
   void OpenNoteMenu(PixelPoint at) { OpenMenu(at); }
+
+  QAccessible::Role Role() const override { return QAccessible::EditableText; }
+  QAccessibleInterface* MakeInterface(QWidget&) override;
 
   void Settle() { text_.Settle(); }
   std::vector<std::string> Differences() { return text_.Differences(); }

@@ -51,7 +51,7 @@ class AttributeList {
 QString TextAttributes(const AccessibleText::Run& run, const FormatTables& formats) {
   const CharFormat& format = run.format;
   AttributeList list;
-  list.Add("font-family", QStringLiteral("\"%1\"").arg(ToQString(formats.fonts[format.font].name)));
+  list.Add("font-family", ToQString(formats.fonts[format.font].name));
   list.Add("font-size", QStringLiteral("%1pt").arg(format.size / 2.0));
   list.Add("font-weight", format.effects & kBold ? "bold" : "normal");
   list.Add("font-style", format.effects & kItalic ? "italic" : "normal");

@@ -1,7 +1,4 @@
-#include "backends/qt/view/ViewAccessible.h"
-
-#include <QAccessibleWidget>
-
+// A view as assistive programs see it.
 #include "backends/qt/toolkit/Pixels.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/view/RichTextView.h"
@@ -31,14 +28,14 @@ TextUnit UnitOf(QAccessible::TextBoundaryType type) {
 }
 
 /// Adapts `AccessibleText` to Qt's interfaces.
-class AccessibleView final : public QAccessibleWidget,
+class AccessibleView final : public AccessibleWidget,
                              public QAccessibleTextInterface,
                              public QAccessibleEditableTextInterface {
  public:
   using Boundary = QAccessible::TextBoundaryType;
 
   explicit AccessibleView(RichTextView& view)
-      : QAccessibleWidget(&view, QAccessible::EditableText), view_(view), text_(view.Text()) {}
+      : AccessibleWidget(view, view), view_(view), text_(view.Text()) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override;
   QAccessible::State state() const override;
@@ -91,11 +88,11 @@ void* AccessibleView::interface_cast(QAccessible::InterfaceType type) {
   if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
   if (type == QAccessible::EditableTextInterface)
     return static_cast<QAccessibleEditableTextInterface*>(this);
-  return QAccessibleWidget::interface_cast(type);
+  return AccessibleWidget::interface_cast(type);
 }
 
 QAccessible::State AccessibleView::state() const {
-  QAccessible::State state = QAccessibleWidget::state();
+  QAccessible::State state = AccessibleWidget::state();
   state.multiLine = true;
   state.selectableText = true;
   state.editable = !view_.IsLocked();
@@ -106,7 +103,7 @@ QAccessible::State AccessibleView::state() const {
 QString AccessibleView::text(QAccessible::Text what) const {
   constexpr Position kMax = 10'000;  // an excerpt; the rest is available through the text interface
   return what == QAccessible::Value && view_.IsAttached() ? text(0, kMax)
-                                                          : QAccessibleWidget::text(what);
+                                                          : AccessibleWidget::text(what);
 }
 
 void AccessibleView::selection(int index, int* start, int* end) const {
@@ -138,18 +135,8 @@ QString AccessibleView::attributes(int offset, int* start, int* end) const {
   return run ? TextAttributes(*run, Surface().Content().Formats()) : QString();
 }
 
-QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
-  auto* view = dynamic_cast<RichTextView*>(object);
-  return view ? new AccessibleView(*view) : nullptr;
-}
-
 }  // namespace
 
-void UseViewAccessibility() {
-  [[maybe_unused]] static const bool kInstalled = [] {
-    QAccessible::installFactory(MakeInterface);
-    return true;
-  }();
-}
+QAccessibleInterface* RichTextView::MakeInterface(QWidget&) { return new AccessibleView(*this); }
 
 }  // namespace lumenote

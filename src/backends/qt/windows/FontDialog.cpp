@@ -4,9 +4,9 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLayout>
 #include <QLineEdit>
 #include <QListView>
 #include <QPointer>
@@ -67,6 +67,7 @@ class ColouredFontDialog : public QFontDialog {
     ShowStylesInFrench();
     AddColour();
     ShowInFrench(*this);
+    NameLists();
   }
 
   /// Empty until the user chooses one.
@@ -87,6 +88,24 @@ class ColouredFontDialog : public QFontDialog {
       const auto translate = [chosen] { chosen->setText(InFrench(chosen->text())); };
       connect(chosen, &QLineEdit::textChanged, chosen, translate);
       translate();
+    }
+  }
+
+  // A label, a line that shows what is chosen, and a list lie below each other. Qt lets two of the
+  // lines have the focus of their lists: to assistive programs both would have it.
+  void NameLists() {
+    const auto* grid = qobject_cast<QGridLayout*>(layout());
+    for (int column = 0; grid && column < grid->columnCount(); ++column) {
+      const auto part = [&](int row) {
+        QLayoutItem* item = grid->itemAtPosition(row, column);
+        return item ? item->widget() : nullptr;
+      };
+      const auto* label = qobject_cast<QLabel*>(part(0));
+      if (!label || !part(1) || !part(2)) continue;
+      for (const int row : {1, 2}) part(row)->setAccessibleName(label->text().remove(u'&'));
+      if (!part(1)->focusProxy()) continue;
+      part(1)->setFocusProxy(nullptr);
+      part(1)->setFocusPolicy(Qt::NoFocus);
     }
   }
 

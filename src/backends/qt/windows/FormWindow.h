@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "backends/qt/toolkit/SpokenWidget.h"
+#include "backends/qt/toolkit/Spoken.h"
 #include "backends/qt/windows/MenuBarWidget.h"
 #include "backends/qt/windows/WindowGeometry.h"
 #include "forms/Form.h"

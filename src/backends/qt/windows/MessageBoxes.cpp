@@ -1,6 +1,7 @@
 #include "backends/qt/windows/MessageBoxes.h"
 
 #include <QCloseEvent>
+#include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -52,6 +53,8 @@ class NativeBox : public QMessageBox {
       AddYesAndNo();
     else
       setDefaultButton(addButton(QStringLiteral("OK"), AcceptRole));
+    // Assistive programs would find the focus at the row of buttons, too.
+    findChild<QDialogButtonBox*>()->setFocusProxy(nullptr);
   }
 
   bool AnsweredYes() const { return clickedButton() && clickedButton() == yes_; }

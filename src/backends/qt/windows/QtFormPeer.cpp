@@ -7,6 +7,7 @@
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
 #include "backends/qt/view/RichTextView.h"
+#include "forms/controls/SpokenName.h"
 #include "forms/controls/edits/RichTextBox.h"
 #include "forms/controls/labels/Label.h"
 
@@ -79,7 +80,11 @@ void QtFormPeer::Rename(const Element& element) {
 }
 
 void QtFormPeer::NameControls() {
-  for (const auto& [control, peer] : controls_) peer->ShowName();
+  for (const auto& [element, peer] : controls_) {
+    peer->ShowName();
+    if (const Label* label = LabelOf(peer->Shown()))
+      peer->ShowLabel(dynamic_cast<QLabel&>(controls_.at(label)->Widget()));
+  }
 }
 
 void QtFormPeer::Add(Control& control) {
