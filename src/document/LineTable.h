@@ -8,6 +8,14 @@
 
 namespace lumenote {
 
+/// A line of a cell in a table row.
+struct CellLine {
+  Position start = 0;
+  Position end = 0;  // the last caret position in it
+  int cell = 0;      // number of its cell, from the left
+  float right = 0;   // edge of its cell, measured as carets are
+};
+
 /// Breaks text into lines; each backend measures with its own fonts.
 class LineBreaker {
  public:
@@ -22,6 +30,9 @@ class LineBreaker {
   virtual float XOf(const Document& document, Position lineStart, Position position) = 0;
   /// The caret position nearest to `x` in the line `lineStart`..`lineEnd`.
   virtual Position AtX(const Document& document, Position lineStart, Position lineEnd, float x) = 0;
+  /// The lines of the row that the paragraph at `position` ends, in text order; empty if it ends
+  /// none. `XOf` and `AtX` take their starts, too.
+  virtual std::vector<CellLine> CellLines(const Document&, Position) { return {}; }
 };
 
 /// One line of the layout.

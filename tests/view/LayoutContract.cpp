@@ -126,6 +126,25 @@ TEST_P(LayoutContract, CellsLieBesideEachOther) {
   }
 }
 
+TEST_P(LayoutContract, CaretKeysGoAlongTheLinesOfACell) {
+  const std::vector<CellLine> lines = breaker.CellLines(document, 0);
+  const auto press = [&](Position from, KeyName key) {
+    surface.UserSelect(from, from);
+    surface.UserKey({.name = key});
+    return surface.Caret();
+  };
+  for (auto line = lines.begin(); line != lines.end(); ++line) {
+    EXPECT_EQ(press(line->start, KeyName::End), line->end);
+    EXPECT_EQ(press(line->end, KeyName::Home), line->start);
+    const auto next = std::next(line);
+    const bool last = next == lines.end() || next->cell != line->cell;
+    const Position below = press(line->start, KeyName::Down);
+    EXPECT_EQ(below > line->end, !last || lines.back().end < document.Length());
+    EXPECT_TRUE(last ? below == line->start || below > lines.back().end
+                     : below >= next->start && below <= next->end);
+  }
+}
+
 // As high as its highest box, and the carets of a box are its edges.
 TEST_P(LayoutContract, BoxesTakeTheirRoom) {
   const auto piece = layouter->LayOut(document, {.from = 0, .to = document.ParagraphEnd(0)});

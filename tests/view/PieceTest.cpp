@@ -108,9 +108,8 @@ TEST_F(RowsTest, LieBesideEachOther) {
     const Line line = window.surface.Lines().LineAt(at);
     EXPECT_EQ(line.start, word == u"apr"s ? at : 7) << "a row is one line";
     EXPECT_EQ(window.pane.ShownLine(at), line);
-    EXPECT_EQ(window.breaker.XOf(window.surface.Content(), line.start, at + 1), left + 10);
+    EXPECT_EQ(window.breaker.XOf(window.surface.Content(), at, at + 1), left + 10);
   }
-  EXPECT_EQ(window.breaker.AtX(window.surface.Content(), 7, 35, 70), 22) << "in the cell there";
 }
 
 TEST_F(RowsTest, HaveTheLinesOfTheirLineBreaks) {
@@ -182,6 +181,48 @@ TEST_F(RowsTest, HaveLinesAndGrounds) {
     window.view.Settle();
     EXPECT_EQ(Parts(window, paragraph), parts) << ToUtf8(source);
   }
+}
+
+TEST_F(RowsTest, CaretKeysStayInTheirColumn) {
+  window.surface.TextRTF(
+      u"{\\rtf1 avant\\par\\trowd\\cellx600\\cellx1500\\intbl un deux trois\\cell "
+      u"quatre cinq\\cell\\row\\trowd\\cellx600\\cellx1500\\intbl a\\cell bb\\cell\\row "
+      u"apr\\'e8s}");
+  using Name = KeyName;
+  const std::pair<Position, std::vector<std::pair<Name, Position>>> walks[] = {
+      {22,
+       {{Name::Down, 29},
+        {Name::Down, 37},
+        {Name::Down, 45},
+        {Name::Up, 37},
+        {Name::Up, 29},
+        {Name::Up, 22},
+        {Name::Up, 5},
+        {Name::Down, 22},
+        {Name::Home, 21},
+        {Name::End, 27}}},
+      {29, {{Name::Home, 28}, {Name::End, 32}, {Name::Up, 25}}},
+      {16, {{Name::Down, 35}, {Name::Up, 16}, {Name::Up, 11}, {Name::PageDown, 42}}}};
+  for (const auto& [start, keys] : walks) {
+    window.surface.UserSelect(start, start);
+    for (const auto& [key, caret] : keys) {
+      window.surface.UserKey({.name = key});
+      EXPECT_EQ(window.surface.Caret(), caret) << start << ' ' << static_cast<int>(key);
+    }
+  }
+  window.surface.UserSelect(16, 16);
+  EXPECT_EQ(window.pane.LinesPerPage(), 5);
+  window.surface.UserKey({.name = Name::Down, .shift = true});
+  EXPECT_EQ(window.surface.Selected(), (Selection{16, 35}));
+  window.surface.UserSelect(22, 22);
+  EXPECT_EQ(window.pane.LinesPerPage(), 4) << "there the row has two lines";
+}
+
+TEST_F(RowsTest, FitPicturesToTheirCells) {
+  window.surface.TextRTF(
+      u"{\\rtf1\\trowd\\cellx600\\cellx1500\\intbl a\\cell {\\pict\\pngblip\\picwgoal1600"
+      u"\\pichgoal800 00}\\cell\\row}");
+  EXPECT_EQ(window.pane.Cache().At(0).boxes.at(0).size, (PixelSize{80, 40}));
 }
 
 TEST_F(RowsTest, TabGoesFromCellToCell) {

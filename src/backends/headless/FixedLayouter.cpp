@@ -84,10 +84,11 @@ class PieceBuilder {
   Glyph GlyphOf(char16_t unit, CharId format) const;
   void AddText(Position from, Position to);
   void AddComposed();
+  void AddBoxes(const std::vector<CellBox>& cells, const std::vector<int>& ends);
   double Behind(int index, double x) const;
   int LineEnd(int start, int limit, double left, double room) const;
   void AddLine(int start, int end, double left);
-  void AddCell(const RowCell& cell, int start, int end);
+  void AddCell(const CellBox& cell, int start, int end);
   void PlaceFrom(LineStack& stack, std::size_t line);
   void Place(LineStack& stack, PieceLine& line);
   bool EndsWithLineBreak() const {
@@ -115,7 +116,10 @@ void PieceBuilder::AddText(Position from, Position to) {
     for (const char16_t c : text.String()) piece_.glyphs.push_back(GlyphOf(c, format));
   });
   if (piece_.composedLength > 0) AddComposed();
-  piece_.boxes = BoxesIn(layouter_, document_, piece_, static_cast<int>(piece_.glyphs.size()));
+}
+
+void PieceBuilder::AddBoxes(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
+  piece_.boxes = BoxesIn(layouter_, document_, piece_, cells, ends);
   for (const InlineBox& box : piece_.boxes) {
     Glyph& glyph = piece_.glyphs[static_cast<std::size_t>(box.index)];
     glyph.advance = box.size.width;
@@ -187,6 +191,7 @@ bool PieceBuilder::BuildLines(const PieceSpan& span) {
   AddText(span.from, span.to);
   LineStack stack(layouter_, document_, piece_);
   const int count = static_cast<int>(piece_.glyphs.size());
+  AddBoxes({}, {count});
   const int known = span.nextKnown < 0 ? count : piece_.ToIndex(span.nextKnown);
   for (int start = 0, end = -1; end != count && end != known; start = end) {
     const double left = stack.Edges().Left(piece_.opens && start == 0);
@@ -204,16 +209,17 @@ bool PieceBuilder::BuildLines(const PieceSpan& span) {
 }
 
 void PieceBuilder::BuildRow() {
-  const std::vector<RowCell> cells = RowCellsAt(layouter_, document_, piece_.from);
+  const std::vector<CellBox> cells = RowCellsAt(layouter_, document_, piece_.from);
   AddText(piece_.from, piece_.to);
   LineStack stack(layouter_, document_, piece_);
   const int count = static_cast<int>(piece_.glyphs.size());
   const std::vector<int> ends = EndsOf(cells, piece_, count);
+  AddBoxes(cells, ends);
   for (std::size_t i = 0; i + 1 < ends.size(); ++i)
     piece_.glyphs[static_cast<std::size_t>(ends[i]) - 1].EndCell();
   int start = 0;
   for (std::size_t i = 0; i < cells.size(); ++i) {
-    const RowCell& cell = cells[i];
+    const CellBox& cell = cells[i];
     const int end = ends[i];
     const std::size_t line = piece_.lines.size();
     AddCell(cell, start, end);
@@ -225,7 +231,7 @@ void PieceBuilder::BuildRow() {
   stack.Finish(Text());
 }
 
-void PieceBuilder::AddCell(const RowCell& cell, int start, int end) {
+void PieceBuilder::AddCell(const CellBox& cell, int start, int end) {
   for (int lineEnd = -1; lineEnd != end; start = lineEnd) {
     lineEnd = LineEnd(start, end, cell.TextLeft(), cell.Room());
     AddLine(start, lineEnd, cell.TextLeft());

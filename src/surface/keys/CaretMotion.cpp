@@ -17,6 +17,14 @@ Position LastCaret(const Document& document, const Line& line) {
   return std::max(line.start, document.SnapBackward(line.end - 1));
 }
 
+/// The lines of the row's cell nearest to `x`.
+auto CellAt(const std::vector<CellLine>& row, float x) {
+  const auto reaches = [&](const CellLine& line) { return x < line.right; };
+  const auto line = std::ranges::find_if(row, reaches);
+  return std::ranges::equal_range(row, line == row.end() ? row.back().cell : line->cell, {},
+                                  &CellLine::cell);
+}
+
 }  // namespace
 
 std::optional<Position> CaretMotion::Target(const KeyStroke& key) {
@@ -32,7 +40,7 @@ std::optional<Position> CaretMotion::Target(const KeyStroke& key) {
     case KeyName::Home:
       return key.control ? 0 : LineAt(caret).start;
     case KeyName::End:
-      return key.control ? document.Length() : LastCaret(document, LineAt(caret));
+      return key.control ? document.Length() : LineAt(caret).end;
     case KeyName::Up:
       return PreviousParagraph(document, caret);
     case KeyName::Down:
@@ -63,10 +71,30 @@ int CaretMotion::LinesOf(const KeyStroke& key) const {
 
 // Vertical movement follows the lines on screen, at no extra cost; without a view, those of the
 // line table.
-Line CaretMotion::LineAt(Position position) const {
+Line CaretMotion::ShownLine(Position position) const {
   std::optional<Line> shown;
   if (core_.View()) shown = core_.View()->ShownLine(position);
   return shown ? *shown : core_.Lines().LineAt(position);
+}
+
+CaretMotion::CaretLine CaretMotion::LineAt(Position position) const {
+  const CellLines row = breaker_.CellLines(core_.Content(), position);
+  if (!row.empty())
+    return LineOfCell(row,
+                      std::prev(std::ranges::upper_bound(row, position, {}, &CellLine::start)));
+  const Line line = ShownLine(position);
+  return {line.start, LastCaret(core_.Content(), line), line.start - 1, line.next};
+}
+
+CaretMotion::CaretLine CaretMotion::LineOfCell(const CellLines& row,
+                                               CellLines::const_iterator line) const {
+  const Document& document = core_.Content();
+  const Position end = row.back().end;
+  const bool first = line == row.begin() || std::prev(line)->cell != line->cell;
+  const bool last = std::next(line) == row.end() || std::next(line)->cell != line->cell;
+  const Position behind = end < document.Length() ? end + 2 : -1;
+  return {line->start, line->end, first ? row.front().start - 1 : std::prev(line)->start,
+          last ? behind : std::next(line)->start};
 }
 
 Position CaretMotion::LeftOf(bool extend) const {
@@ -80,16 +108,27 @@ Position CaretMotion::RightOf(bool extend) const {
   return document.SnapForward(std::min(core_.Caret() + 1, document.Length()));
 }
 
+CaretMotion::CaretLine CaretMotion::Above(const CaretLine& line) const {
+  const CellLines row = breaker_.CellLines(core_.Content(), line.above);
+  if (row.empty() || row.back().end >= line.start) return LineAt(line.above);
+  return LineOfCell(row, std::prev(CellAt(row, *goal_).end()));
+}
+
+CaretMotion::CaretLine CaretMotion::Below(const CaretLine& line) const {
+  const CellLines row = breaker_.CellLines(core_.Content(), line.below);
+  if (row.empty() || row.front().start <= line.start) return LineAt(line.below);
+  return LineOfCell(row, CellAt(row, *goal_).begin());
+}
+
 Position CaretMotion::Vertically(int lines) {
   const Document& document = core_.Content();
-  const Line from = LineAt(core_.Caret());
+  const CaretLine from = LineAt(core_.Caret());
   if (!goal_ || goalCaret_ != core_.Caret())
     goal_ = breaker_.XOf(document, from.start, core_.Caret());
-  Line to = from;
-  for (; lines < 0 && to.start > 0; ++lines) to = LineAt(to.start - 1);
-  for (; lines > 0 && to.next >= 0; --lines) to = LineAt(to.next);
-  goalCaret_ = to == from ? core_.Caret()
-                          : breaker_.AtX(document, to.start, LastCaret(document, to), *goal_);
+  CaretLine to = from;
+  for (; lines < 0 && to.above >= 0; ++lines) to = Above(to);
+  for (; lines > 0 && to.below >= 0; --lines) to = Below(to);
+  goalCaret_ = to == from ? core_.Caret() : breaker_.AtX(document, to.start, to.end, *goal_);
   return goalCaret_;
 }
 

@@ -1,14 +1,16 @@
 // Where the caret keys move the caret.
 #pragma once
 #include <optional>
+#include <vector>
 
 #include "surface/editing/EditingCore.h"
 #include "surface/keys/KeyStroke.h"
 
 namespace lumenote {
 
-/// Vertical moves in a row share one goal: the distance from the left edge at which the first
-/// began, so that the caret returns there after shorter lines.
+/// Vertical moves one after the other share one goal: the distance from the left edge at which the
+/// first began, so that the caret returns there after shorter lines. In a table the caret moves
+/// along the lines of its cell, and from there to the cell above or below at the goal.
 class CaretMotion {
  public:
   CaretMotion(EditingCore& core, LineBreaker& breaker) : core_(core), breaker_(breaker) {}
@@ -17,9 +19,23 @@ class CaretMotion {
   std::optional<Position> Target(const KeyStroke& key);
 
  private:
+  /// A line that the caret moves along: in a table, one of a cell.
+  struct CaretLine {
+    Position start = 0;
+    Position end = 0;     // the last caret position in it
+    Position above = -1;  // in the line above; -1: it is the first
+    Position below = -1;
+    bool operator==(const CaretLine&) const = default;
+  };
+  using CellLines = std::vector<CellLine>;
+
   Position LeftOf(bool extend) const;
   Position RightOf(bool extend) const;
-  Line LineAt(Position position) const;
+  Line ShownLine(Position position) const;
+  CaretLine LineAt(Position position) const;
+  CaretLine LineOfCell(const CellLines& row, CellLines::const_iterator line) const;
+  CaretLine Above(const CaretLine& line) const;
+  CaretLine Below(const CaretLine& line) const;
   int LinesOf(const KeyStroke& key) const;
   Position Vertically(int lines);
 

@@ -20,6 +20,14 @@ double RoomOf(const TextLayouter& layouter, const ParaFormat& format) {
   return edges.Room(std::max(edges.first, edges.following));
 }
 
+/// The width of the cell that holds a unit; that of the paragraph if there are no cells.
+double RoomAt(const TextLayouter& layouter, const ParaFormat& format,
+              const std::vector<CellBox>& cells, const std::vector<int>& ends, int index) {
+  if (cells.empty()) return RoomOf(layouter, format);
+  const auto end = std::upper_bound(ends.begin(), std::prev(ends.end()), index);
+  return cells[static_cast<std::size_t>(end - ends.begin())].Room();
+}
+
 /// Proportions stay; a box has whole pixels, at least one.
 PixelSize Fitted(PixelSize wanted, PixelSize room) {
   const double scale = std::min({1.0, room.width / wanted.width, room.height / wanted.height});
@@ -36,18 +44,18 @@ PixelSize NumberSize(const TextLayouter& layouter, const CharFormat& format) {
   return {size * kDigit, size * kHeight};
 }
 
-/// The box for a character of the format; without an item if it needs none.
+/// The box for an embedded character of the format; without an item if it needs none.
 InlineBox BoxOf(const TextLayouter& layouter, const FormatTables& tables, const CharFormat& format,
-                const ParaFormat& paragraph) {
+                double width) {
   const Kept& kept = tables.kept[format.kept];
-  if (kept.kind != Kept::Kind::Embedded || format.effects & kHidden) return {};
+  if (format.effects & kHidden) return {};
   const KeptItem& item = tables.items[kept.self];
   if (IsFootnote(tables, format))
     return {.item = kept.self, .size = NumberSize(layouter, format), .number = 1};
   if (!IsBoxed(item)) return {};
   const PictureFrame frame = FrameOf(item);
   const double pixel = layouter.Pixels(kTwipsPerPixel) / kTwipsPerPixel;
-  const PixelSize room{RoomOf(layouter, paragraph), kTallest * pixel};
+  const PixelSize room{width, kTallest * pixel};
   return {.item = kept.self, .size = Fitted({frame.width * pixel, frame.height * pixel}, room)};
 }
 
@@ -68,15 +76,18 @@ void NumberNotes(const TextLayouter& layouter, const Document& document, const P
 }  // namespace
 
 std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& document,
-                               const Piece& piece, int length) {
+                               const Piece& piece, const std::vector<CellBox>& cells,
+                               const std::vector<int>& ends) {
   const FormatTables& tables = document.Formats();
   std::vector<InlineBox> boxes;
   for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
     const CharFormat& format = tables.characters[run->format];
-    const InlineBox box = BoxOf(layouter, tables, format, tables.paragraphs[piece.format]);
+    if (tables.kept[format.kept].kind != Kept::Kind::Embedded) continue;
+    const double room = RoomAt(layouter, tables.paragraphs[piece.format], cells, ends, run->start);
+    const InlineBox box = BoxOf(layouter, tables, format, room);
     if (box.item == 0) continue;
     const auto next = std::next(run);
-    const int end = next == piece.runs.end() ? length : next->start;
+    const int end = next == piece.runs.end() ? ends.back() : next->start;
     for (int i = run->start; i < end; ++i)
       if (!piece.IsComposed(i)) boxes.push_back(box), boxes.back().index = i;
   }

@@ -3,7 +3,7 @@
 #pragma once
 #include <vector>
 
-#include "view/layout/TextLayouter.h"
+#include "view/layout/RowCells.h"
 
 namespace lumenote {
 
@@ -12,11 +12,12 @@ namespace lumenote {
 inline constexpr double kNumberHeight = 0.8;
 inline constexpr double kNumberBaseline = 0.6;
 
-/// Those in the text of a piece, which has its runs already and is `length` units long. Pictures
-/// are as large as the source says, but scaled down to what the paragraph has room for; a footnote
-/// without a number has no box.
+/// Those in the text of a piece, which has its runs already; `ends` are those of its cells, if any,
+/// and of the text. Pictures are as large as the source says, but scaled down to what the paragraph
+/// or cell has room for; a footnote without a number has no box.
 std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& document,
-                               const Piece& piece, int length);
+                               const Piece& piece, const std::vector<CellBox>& cells,
+                               const std::vector<int>& ends);
 
 /// The ascent of a line's text, at least that of the boxes in it.
 void Extend(const std::vector<InlineBox>& boxes, const PieceLine& line, double& ascent);

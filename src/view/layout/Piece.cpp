@@ -55,16 +55,21 @@ Position Piece::CharacterAt(int line, double x) const {
   return unit < 0 ? -1 : ToPosition(unit);
 }
 
+std::span<const PieceLine> Piece::LinesAt(double x) const {
+  if (cells.empty()) return lines;
+  const auto last = std::prev(cells.end());
+  const auto cell =
+      std::find_if(cells.begin(), last, [&](const PieceCell& one) { return x < one.right; });
+  const std::size_t end = cell == last ? lines.size() : Index(std::next(cell)->firstLine);
+  return std::span(lines).subspan(Index(cell->firstLine), end - Index(cell->firstLine));
+}
+
 int Piece::LineAt(double y, double x) const {
-  const auto right = std::find_if(cells.begin(), cells.end(),
-                                  [&](const PieceCell& cell) { return x < cell.right; });
-  const auto cell = right == cells.end() && !cells.empty() ? std::prev(right) : right;
-  const bool last = cell == cells.end() || std::next(cell) == cells.end();
-  const auto first = lines.begin() + (cell == cells.end() ? 0 : cell->firstLine);
-  const auto end = last ? lines.end() : lines.begin() + std::next(cell)->firstLine;
-  const auto below =
-      std::find_if(first, end, [&](const PieceLine& line) { return y < line.top + line.height; });
-  return static_cast<int>((below == end ? std::prev(end) : below) - lines.begin());
+  const std::span<const PieceLine> column = LinesAt(x);
+  const auto below = std::find_if(column.begin(), column.end(), [&](const PieceLine& line) {
+    return y < line.top + line.height;
+  });
+  return static_cast<int>((below == column.end() ? &column.back() : &*below) - lines.data());
 }
 
 PieceLine Piece::Row() const {

@@ -2,6 +2,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "document/Document.h"
@@ -95,6 +96,10 @@ class Piece {
   Position PositionAt(int line, double x) const;
   /// The character shown there; -1 if `x` is outside the line's text.
   Position CharacterAt(int line, double x) const;
+  /// Index of the first line of a cell.
+  int FirstLine(int cell) const { return cells[Index(cell)].firstLine; }
+  /// The lines that stand below each other there: all, or those of the cell nearest to `x`.
+  std::span<const PieceLine> LinesAt(double x) const;
   /// The line at a point or, outside the piece, the nearest line of the cell there.
   int LineAt(double y, double x = 0) const;
   /// Calls `visit(const PieceLine&)` for each vertical band: a line, or a whole row of cells.

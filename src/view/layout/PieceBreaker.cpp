@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "view/layout/RowCells.h"
+
 namespace lumenote {
 
 namespace {
@@ -41,7 +43,7 @@ std::unique_ptr<Piece> PieceBreaker::LineFrom(const Document& document, Position
 
 float PieceBreaker::XOf(const Document& document, Position lineStart, Position position) {
   const auto piece = LineFrom(document, lineStart);
-  const int line = piece->LineOf(piece->cells.empty() ? lineStart : position);
+  const int line = piece->LineOf(lineStart);
   const int end = piece->lines[static_cast<std::size_t>(line)].end;
   return static_cast<float>(piece->CaretX(line, std::min(piece->ToIndex(position), end)));
 }
@@ -49,8 +51,23 @@ float PieceBreaker::XOf(const Document& document, Position lineStart, Position p
 Position PieceBreaker::AtX(const Document& document, Position lineStart, Position lineEnd,
                            float x) {
   const auto piece = LineFrom(document, lineStart);
-  const int line = piece->cells.empty() ? piece->LineOf(lineStart) : piece->LineAt(0, x);
-  return std::clamp(piece->PositionAt(line, x), lineStart, lineEnd);
+  return std::clamp(piece->PositionAt(piece->LineOf(lineStart), x), lineStart, lineEnd);
+}
+
+std::vector<CellLine> PieceBreaker::CellLines(const Document& document, Position position) {
+  if (!RowAt(document, position)) return {};
+  const Position end = document.ParagraphEnd(document.ParagraphOf(position));
+  const auto row = LayOut(document, {.from = position, .to = end});
+  std::vector<CellLine> lines;
+  int cell = 0;
+  for (int line = 0; line < std::ssize(row->lines); ++line) {
+    while (cell + 1 < std::ssize(row->cells) && row->FirstLine(cell + 1) <= line) ++cell;
+    lines.push_back({.start = row->LineStart(line), .end = end, .cell = cell});
+    lines.back().right = static_cast<float>(row->cells[static_cast<std::size_t>(cell)].right);
+  }
+  for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+    lines[i].end = std::max(lines[i].start, document.SnapBackward(lines[i + 1].start - 1));
+  return lines;
 }
 
 }  // namespace lumenote

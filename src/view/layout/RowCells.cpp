@@ -27,8 +27,8 @@ std::vector<std::int32_t> StatedEdges(const FormatTables& tables, ItemId items) 
   return edges;
 }
 
-std::vector<RowCell> CellsBetween(const Document& document, Position start, Position end) {
-  std::vector<RowCell> cells;
+std::vector<CellBox> CellsBetween(const Document& document, Position start, Position end) {
+  std::vector<CellBox> cells;
   document.ForEachRun(start, end, [&](Position at, TextView text, CharId format) {
     if (KeptOf(document.Formats(), format).kind != Kept::Kind::Cell) return;
     for (const char16_t c : text.String()) {
@@ -42,14 +42,14 @@ std::vector<RowCell> CellsBetween(const Document& document, Position start, Posi
 
 /// Gives each cell the stated edge, or an equal share of what is left of the line; of more edges
 /// than cells, the last ones.
-void SetEdges(std::vector<RowCell>& cells, const std::vector<std::int32_t>& stated,
+void SetEdges(std::vector<CellBox>& cells, const std::vector<std::int32_t>& stated,
               const RowFrame& frame, const TextLayouter& layouter) {
   const double least = layouter.Pixels(kLeastWidth);
   std::size_t next = stated.size() - std::min(stated.size(), cells.size());
   double left = std::max(0.0, layouter.Pixels(next == 0 ? frame.left : stated[next - 1]));
   const double padding = std::round(layouter.Pixels(std::max(frame.gap, kLeastPadding)));
   auto sharing = static_cast<double>(cells.size());
-  for (RowCell& cell : cells) {
+  for (CellBox& cell : cells) {
     const double share = left + (layouter.Width() - left) / sharing--;
     const double right = next < stated.size() ? layouter.Pixels(stated[next++]) : share;
     cell.left = left;
@@ -58,7 +58,7 @@ void SetEdges(std::vector<RowCell>& cells, const std::vector<std::int32_t>& stat
   }
 }
 
-int EndOf(const RowCell& cell, const Piece& row) {
+int EndOf(const CellBox& cell, const Piece& row) {
   const int index = cell.end - row.from;
   return index > row.composedAt ? index + row.composedLength : index;
 }
@@ -71,29 +71,29 @@ const Kept* RowAt(const Document& document, Position position) {
   return kept.kind == Kept::Kind::Row ? &kept : nullptr;
 }
 
-std::vector<RowCell> RowCellsAt(const TextLayouter& layouter, const Document& document,
+std::vector<CellBox> RowCellsAt(const TextLayouter& layouter, const Document& document,
                                 Position position) {
   const Kept* row = RowAt(document, position);
   if (!row) return {};
   const Position paragraph = document.ParagraphOf(position);
-  std::vector<RowCell> cells =
+  std::vector<CellBox> cells =
       CellsBetween(document, document.ParagraphStart(paragraph), document.ParagraphEnd(paragraph));
   const FormatTables& tables = document.Formats();
   SetEdges(cells, StatedEdges(tables, row->self), RowFrameOf(tables, row->self), layouter);
   return cells;
 }
 
-PieceSpan SpanOf(const std::vector<RowCell>& cells, const Document& document,
+PieceSpan SpanOf(const std::vector<CellBox>& cells, const Document& document,
                  const PieceSpan& wanted) {
   if (cells.empty()) return wanted;
   const Position paragraph = document.ParagraphOf(wanted.from);
   return {.from = document.ParagraphStart(paragraph), .to = document.ParagraphEnd(paragraph)};
 }
 
-std::vector<int> EndsOf(const std::vector<RowCell>& cells, const Piece& row, int length) {
+std::vector<int> EndsOf(const std::vector<CellBox>& cells, const Piece& row, int length) {
   std::vector<int> ends;
   ends.reserve(cells.size() + 1);
-  for (const RowCell& cell : cells) ends.push_back(EndOf(cell, row));
+  for (const CellBox& cell : cells) ends.push_back(EndOf(cell, row));
   if (ends.empty()) ends.push_back(length);
   ends.back() = length;
   return ends;

@@ -6,7 +6,7 @@
 
 namespace lumenote {
 
-struct RowCell {
+struct CellBox {
   Position end =
       0;            // where the next cell's text begins; a cell's last unit is the tab that ends it
   double left = 0;  // pixels from the text's left edge
@@ -20,7 +20,7 @@ struct RowCell {
 /// The cells, from left to right, of the row that the paragraph at `position` ends; empty if it
 /// ends none. They are as wide as the row's definition says, and share the rest of the line where
 /// it says nothing. A row of several paragraphs lies in the last one with its last cells only.
-std::vector<RowCell> RowCellsAt(const TextLayouter& layouter, const Document& document,
+std::vector<CellBox> RowCellsAt(const TextLayouter& layouter, const Document& document,
                                 Position position);
 
 /// What is kept at the break of a row, which the paragraph at `position` ends; null if it ends
@@ -28,11 +28,11 @@ std::vector<RowCell> RowCellsAt(const TextLayouter& layouter, const Document& do
 const Kept* RowAt(const Document& document, Position position);
 
 /// The paragraph if it is a row, which is always laid out whole; else what is wanted.
-PieceSpan SpanOf(const std::vector<RowCell>& cells, const Document& document,
+PieceSpan SpanOf(const std::vector<CellBox>& cells, const Document& document,
                  const PieceSpan& wanted);
 
 /// Where cells end in the text of their row's piece, which has `length` units; only the text's end
 /// if there are none. Text composed where a cell begins belongs to that cell.
-std::vector<int> EndsOf(const std::vector<RowCell>& cells, const Piece& row, int length);
+std::vector<int> EndsOf(const std::vector<CellBox>& cells, const Piece& row, int length);
 
 }  // namespace lumenote

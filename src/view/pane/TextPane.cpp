@@ -150,13 +150,15 @@ void TextPane::RevealAcross(Position position) {
 }
 
 int TextPane::LinesPerPage() {
-  int lines = 0;
+  const Position caret = surface_.Caret();
+  const double x = cache_.At(caret).XOf(caret);
+  std::ptrdiff_t lines = 0;
   for (const ShownPiece& item : Visible())
-    item.piece->ForEachBand([&](const PieceLine& line) {
+    lines += std::ranges::count_if(item.piece->LinesAt(x), [&](const PieceLine& line) {
       const double top = item.y + line.top;
-      if (top >= 0 && top + line.height <= size_.height) ++lines;
+      return top >= 0 && top + line.height <= size_.height;
     });
-  return std::max(1, lines - 1);
+  return static_cast<int>(std::max<std::ptrdiff_t>(1, lines - 1));
 }
 
 }  // namespace lumenote

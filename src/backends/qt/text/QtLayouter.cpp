@@ -54,13 +54,13 @@ class LineMaker {
   /// Returns false if an incomplete span gave no whole line.
   bool Build(const PieceSpan& span);
   /// Lays out a row; `ends` are those of the cells in the piece's text.
-  void BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends);
+  void BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends);
 
  private:
   QTextOption Option(double lineX) const;
   bool AddLines(const PieceSpan& span);
   double Hang(const QTextLine& line, const PieceLine& box) const;
-  void AddCellLines(const std::vector<RowCell>& cells, const std::vector<int>& ends);
+  void AddCellLines(const std::vector<CellBox>& cells, const std::vector<int>& ends);
   void Place(QTextLine line, PieceLine& box);
 
   QtPiece& piece_;
@@ -173,7 +173,7 @@ double LineMaker::Hang(const QTextLine& line, const PieceLine& box) const {
   return centred ? blanks / 2 : blanks;
 }
 
-void LineMaker::BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends) {
+void LineMaker::BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
   piece_.layout.beginLayout();
   AddCellLines(cells, ends);
   piece_.layout.endLayout();
@@ -188,7 +188,7 @@ void LineMaker::BuildRow(const std::vector<RowCell>& cells, const std::vector<in
 }
 
 // A cell's text ends with a line break.
-void LineMaker::AddCellLines(const std::vector<RowCell>& cells, const std::vector<int>& ends) {
+void LineMaker::AddCellLines(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
   piece_.layout.setTextOption(Option(0));
   std::size_t cell = 0;
   for (;;) {
@@ -226,7 +226,7 @@ FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& fo
 
 std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpan& wanted) {
   auto piece = std::make_unique<QtPiece>();
-  const std::vector<RowCell> cells = RowCellsAt(*this, document, wanted.from);
+  const std::vector<CellBox> cells = RowCellsAt(*this, document, wanted.from);
   const PieceSpan span = SpanOf(cells, document, wanted);
   ShownText text(document, span.from, span.to,
                  [&](CharId id) -> const CharLook& { return styles.Of(document, id); });
@@ -246,7 +246,7 @@ std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpa
   piece->layout.setText(ToQString(text.text));
   piece->decorations = std::move(text.decorations);
   piece->runs = std::move(text.runs);
-  piece->boxes = BoxesIn(*this, document, *piece, static_cast<int>(text.text.size()));
+  piece->boxes = BoxesIn(*this, document, *piece, cells, ends);
   AddBoxes(*piece, document, styles, formats);
   piece->layout.setFormats(formats);
   const bool tabs = text.text.find(u'\t') != text.text.npos;

@@ -103,13 +103,13 @@ bool LineMaker::Build(const PieceSpan& span) {
   return true;
 }
 
-void LineMaker::BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends) {
+void LineMaker::BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
   int start = 0;
   for (std::size_t i = 0; i < cells.size(); start = ends[i++]) AddCell(cells[i], start, ends[i]);
   stack_.Finish(piece_.text);
 }
 
-void LineMaker::AddCell(const RowCell& cell, int start, int end) {
+void LineMaker::AddCell(const CellBox& cell, int start, int end) {
   column_ = {.end = end, .edges = {.right = cell.Room()}, .left = std::round(cell.TextLeft())};
   const std::size_t first = piece_.lines.size();
   AddLines(start, end, false);

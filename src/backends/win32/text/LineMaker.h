@@ -15,7 +15,7 @@ class LineMaker {
   /// Returns false if an incomplete span gave no whole line.
   bool Build(const PieceSpan& span);
   /// Lays out a row; `ends` are those of the cells in the piece's text.
-  void BuildRow(const std::vector<RowCell>& cells, const std::vector<int>& ends);
+  void BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends);
 
  private:
   /// What lies between the same edges: a paragraph, or a cell of a row.
@@ -33,7 +33,7 @@ class LineMaker {
   };
 
   void AddLines(int start, int known, bool omitLast);
-  void AddCell(const RowCell& cell, int start, int end);
+  void AddCell(const CellBox& cell, int start, int end);
   void EndWithLineBreak();
   int LineEnd(int start);
   int TabWidth(int tab, double x) const;

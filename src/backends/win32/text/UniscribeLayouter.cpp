@@ -44,7 +44,7 @@ ShownText UniscribeLayouter::Show(UniscribePiece& piece, const Document& documen
 
 std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const PieceSpan& wanted) {
   auto piece = std::make_unique<UniscribePiece>();
-  const std::vector<RowCell> cells = RowCellsAt(*this, document, wanted.from);
+  const std::vector<CellBox> cells = RowCellsAt(*this, document, wanted.from);
   const PieceSpan span = SpanOf(cells, document, wanted);
   ShownText text = Show(*piece, document, span);
   const std::vector<int> ends = EndsOf(cells, *piece, static_cast<int>(text.text.size()));
@@ -54,7 +54,7 @@ std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const P
   piece->text = std::move(text.text);
   piece->decorations = std::move(text.decorations);
   piece->runs = std::move(text.runs);
-  piece->boxes = BoxesIn(*this, document, *piece, static_cast<int>(piece->text.size()));
+  piece->boxes = BoxesIn(*this, document, *piece, cells, ends);
   LineMaker lines(*this, document, styles, *piece, std::move(shaped));
   if (!cells.empty())
     lines.BuildRow(cells, ends);
