@@ -1,5 +1,6 @@
 // The system clipboard, limited to plain text, RTF, HTML and images.
 #pragma once
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,8 +13,12 @@ struct ClipboardContent {
   std::optional<std::string> rtf{};   // source bytes
   std::optional<std::string> html{};  // a page or a part of one, in UTF-8, without an envelope
   std::vector<std::string> images{};  // files in PNG or JPEG; not read where the rest is richer
+  bool imagesTooLarge = false;        // files that are images, left out for their size
   std::u16string imageNames{};        // of images that are files: their text if only text is wanted
 };
+
+/// Of the images of one act, in bytes.
+inline constexpr std::uint64_t kMostImageBytes = 64 << 20;
 
 class Clipboard {
  public:

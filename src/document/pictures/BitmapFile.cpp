@@ -38,15 +38,6 @@ std::uint32_t PixelsAt(std::string_view bitmap) {
   return header + (masks ? 12 : 0) + 4 * PaletteSize(bits, LittleEndian32(bitmap, 32));
 }
 
-std::string FileOfBitmap(std::string_view bitmap) {
-  if (bitmap.size() < kOldHeader) return {};
-  const std::uint32_t header = LittleEndian32(bitmap, 0);
-  const bool known = header == kOldHeader || (header >= kHeader && header < bitmap.size());
-  if (!known || bitmap.size() < std::min(header, kHeader)) return {};
-  const std::uint32_t pixels = PixelsAt(bitmap);
-  return pixels < bitmap.size() ? File(pixels, bitmap) : std::string();
-}
-
 // Rows from the top, each padded to two bytes; a file's are padded to four.
 std::string FileOfDeviceBitmap(const PictureSource& picture) {
   const auto width = static_cast<std::uint32_t>(picture.across.size);
@@ -76,9 +67,18 @@ std::string FileOfDeviceBitmap(const PictureSource& picture) {
 
 }  // namespace
 
+std::string BitmapFile(std::string_view bitmap) {
+  if (bitmap.size() < kOldHeader) return {};
+  const std::uint32_t header = LittleEndian32(bitmap, 0);
+  const bool known = header == kOldHeader || (header >= kHeader && header < bitmap.size());
+  if (!known || bitmap.size() < std::min(header, kHeader)) return {};
+  const std::uint32_t pixels = PixelsAt(bitmap);
+  return pixels < bitmap.size() ? File(pixels, bitmap) : std::string();
+}
+
 std::string BitmapFile(const PictureSource& picture) {
   if (picture.type == PictureType::DeviceBitmap) return FileOfDeviceBitmap(picture);
-  return FileOfBitmap(BytesOf(picture));
+  return BitmapFile(BytesOf(picture));
 }
 
 }  // namespace lumenote

@@ -15,7 +15,7 @@ struct ImageSize {
 /// do for most images. Empty for data of another type, damaged data and metafiles.
 std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data);
 
-/// The type of a file; only these three are told apart from others.
+/// The type of a file, of which the beginning will do; only these three are told apart from others.
 std::optional<PictureType> TypeOfImage(std::string_view file);
 
 /// A decoder is not asked for more: a few bytes may claim any size.

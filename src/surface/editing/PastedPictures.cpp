@@ -33,15 +33,20 @@ bool ShowsOnlyImages(std::string_view html) {
 }
 
 std::optional<PictureData> Picture(const std::string& file, double room) {
-  const std::optional<PictureType> type = TypeOfImage(file);
-  if (!type || !IsKeptFile(*type)) return std::nullopt;
-  const ImageSize size = SizeOfImage(*type, file).value_or(ImageSize{});
+  if (!IsPicture(file)) return std::nullopt;
+  const PictureType type = *TypeOfImage(file);
+  const ImageSize size = SizeOfImage(type, file).value_or(ImageSize{});
   const double scale = room > 0 && size.width > room ? room / size.width : 1;
   const auto twips = [&](double side) { return static_cast<int>(std::lround(side * scale)); };
-  return PictureData{*type, file, twips(size.width), twips(size.height)};
+  return PictureData{type, file, twips(size.width), twips(size.height)};
 }
 
 }  // namespace
+
+bool IsPicture(std::string_view file) {
+  const auto type = TypeOfImage(file);
+  return type && IsKeptFile(*type);
+}
 
 bool WantsImages(const ClipboardContent& content) {
   if (content.rtf) return false;

@@ -1,12 +1,16 @@
 // Pictures that come from other programs, and go to them.
 #pragma once
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "document/Document.h"
 #include "platform/Clipboard.h"
 
 namespace lumenote {
+
+/// Whether a file, of which the beginning will do, is in a format that notes hold.
+bool IsPicture(std::string_view file);
 
 /// Whether images are wanted with that content, whose own do not matter: beside text they are not,
 /// unless the text only tells whence an image was copied.

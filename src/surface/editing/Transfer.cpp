@@ -184,6 +184,7 @@ void Transfer::Paste() {
 void Transfer::PasteText() {
   ClipboardContent content = clipboard_.Get();
   content.images.clear();
+  content.imagesTooLarge = false;
   std::u16string text = content.text ? *content.text : TextOf(FragmentOf(content));
   if (text.empty()) text = content.imageNames;
   std::erase(text, kPlaceholder);
@@ -204,6 +205,8 @@ double Transfer::TextWidth() {
 // RTF before HTML before text before images, unless the others only name an image; plain text looks
 // like what would be typed.
 Fragment Transfer::FragmentOf(const ClipboardContent& content) {
+  if (content.imagesTooLarge)
+    throw RuntimeError(ErrorNumber::OutOfMemory, u"Images trop volumineuses (plus de 64 Mo)");
   Fragment fragment;
   if (content.rtf && LooksLikeRtf(*content.rtf))
     fragment = ReadRtf(*content.rtf, core_.Formats(), RtfTarget::Selection, unstated_,

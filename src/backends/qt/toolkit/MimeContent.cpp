@@ -49,8 +49,10 @@ std::optional<std::string> HtmlOf(const QMimeData& data) {
 }  // namespace
 
 ClipboardContent ReadMime(const QMimeData& data) {
-  if (std::vector<std::string> files = ImageFilesOf(data); !files.empty())
-    return {.images = std::move(files), .imageNames = TextOf(data).value_or(u"")};
+  if (ClipboardContent files = ImageFilesOf(data); files.imagesTooLarge || !files.images.empty()) {
+    files.imageNames = TextOf(data).value_or(u"");
+    return files;
+  }
   ClipboardContent content{TextOf(data), RtfOf(data), HtmlOf(data)};
   if (WantsImages(content)) content.images = ImagesOf(data);
   return content;

@@ -10,24 +10,18 @@
 #include <iterator>
 
 #include "document/pictures/ImageSize.h"
+#include "surface/editing/PastedPictures.h"
 
 namespace lumenote {
 
 namespace {
 
-constexpr qint64 kRoom = 64 << 20;                             // bytes of all files together
 constexpr const char* kNames[] = {"image/png", "image/jpeg"};  // indexed by PictureType
 
 QString NameOf(PictureType type) { return QLatin1String(kNames[static_cast<std::size_t>(type)]); }
 
 bool IsNamed(const QString& name) {
   return std::ranges::any_of(kNames, [&](const char* one) { return name == QLatin1String(one); });
-}
-
-/// Whether the bytes are in a format that notes hold.
-bool IsKept(const std::string& file) {
-  const auto type = TypeOfImage(file);
-  return type && IsKeptFile(*type);
 }
 
 QByteArray PngOf(const QImage& image) {
@@ -45,14 +39,23 @@ QImage Decoded(QIODevice& data) {
   return sound ? reader.read() : QImage();
 }
 
-/// Empty if the file is no image, or larger than the room. The head of others will do.
-std::string ImageIn(const QUrl& address, qint64 room) {
+/// Adds a file that is an image, or that it is too large; false if it is none. The head of others
+/// will do.
+bool AddImage(const QUrl& address, std::uint64_t& room, ClipboardContent& content) {
   constexpr qint64 kHead = 16;
   const QFileInfo info(address.toLocalFile());
   QFile file(info.filePath());
-  if (!info.isFile() || info.size() > room || !file.open(QIODevice::ReadOnly)) return {};
-  if (IsKept(file.peek(kHead).toStdString())) return file.readAll().toStdString();
-  return PngOf(Decoded(file)).toStdString();
+  if (!info.isFile() || !file.open(QIODevice::ReadOnly)) return false;
+  const bool kept = IsPicture(file.peek(kHead).toStdString());
+  std::string image;
+  if (!kept) image = PngOf(Decoded(file)).toStdString();
+  const std::uint64_t size = kept ? static_cast<std::uint64_t>(info.size()) : image.size();
+  if (size == 0) return false;
+  content.imagesTooLarge |= size > room;
+  if (content.imagesTooLarge) return true;
+  room -= size;
+  content.images.push_back(kept ? file.readAll().toStdString() : std::move(image));
+  return true;
 }
 
 class ImageMime final : public QMimeData {
@@ -77,15 +80,13 @@ class ImageMime final : public QMimeData {
 
 }  // namespace
 
-std::vector<std::string> ImageFilesOf(const QMimeData& data) {
-  std::vector<std::string> files;
-  qint64 room = kRoom;
-  for (const QUrl& address : data.urls()) {
-    files.push_back(ImageIn(address, room));
-    if (files.back().empty()) return {};
-    room -= static_cast<qint64>(files.back().size());
-  }
-  return files;
+ClipboardContent ImageFilesOf(const QMimeData& data) {
+  ClipboardContent content;
+  std::uint64_t room = kMostImageBytes;
+  for (const QUrl& address : data.urls())
+    if (!AddImage(address, room, content)) return {};
+  if (content.imagesTooLarge) content.images.clear();
+  return content;
 }
 
 // The format that is offered first is the image's own.
@@ -93,7 +94,7 @@ std::vector<std::string> ImagesOf(const QMimeData& data) {
   for (const QString& name : data.formats()) {
     if (!IsNamed(name)) continue;
     std::string file = data.data(name).toStdString();
-    if (IsKept(file)) return {std::move(file)};
+    if (IsPicture(file)) return {std::move(file)};
   }
   const QByteArray png = PngOf(qvariant_cast<QImage>(data.imageData()));
   if (png.isEmpty()) return {};
@@ -106,7 +107,7 @@ bool HasImage(const QMimeData& data) {
 
 std::unique_ptr<QMimeData> OfferImage(const std::string& file) {
   auto data = std::make_unique<ImageMime>();
-  if (IsKept(file)) data->setData(NameOf(*TypeOfImage(file)), QByteArray::fromStdString(file));
+  if (IsPicture(file)) data->setData(NameOf(*TypeOfImage(file)), QByteArray::fromStdString(file));
   return data;
 }
 

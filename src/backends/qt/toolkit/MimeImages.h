@@ -5,11 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "platform/Clipboard.h"
+
 namespace lumenote {
 
-/// Files in PNG or JPEG: those that are dragged or copied, if all of them are images. Other formats
-/// become PNG; what is larger than a limit is no image.
-std::vector<std::string> ImageFilesOf(const QMimeData& data);
+/// Files that are dragged or copied, if all of them are images: in PNG or JPEG, what other formats
+/// become, too; or that they are too large. Else empty.
+ClipboardContent ImageFilesOf(const QMimeData& data);
 /// The image itself, in PNG or JPEG; none if there is no image, or no whole one.
 std::vector<std::string> ImagesOf(const QMimeData& data);
 /// Whether `ImagesOf` could return anything, without transferring it.

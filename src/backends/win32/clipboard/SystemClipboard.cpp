@@ -1,8 +1,11 @@
 #include "backends/win32/clipboard/SystemClipboard.h"
 
+#include <algorithm>
+
 #include "backends/win32/clipboard/HtmlFormat.h"
-#include "backends/win32/clipboard/SharedText.h"
-#include "backends/win32/files/WideNames.h"
+#include "backends/win32/clipboard/OfferedData.h"
+#include "backends/win32/clipboard/SharedImages.h"
+#include "backends/win32/system/SharedMemory.h"
 
 namespace lumenote {
 namespace {
@@ -27,50 +30,50 @@ class OpenedClipboard {
   bool open_ = false;
 };
 
-/// What the open clipboard holds in a format.
-template <class Text>
-std::optional<Text> Taken(UINT format) {
-  return TextIn<Text>(GetClipboardData(format));
-}
+class Offered final : public OfferedData {
+ public:
+  std::vector<UINT> Formats() const override {
+    std::vector<UINT> formats;
+    for (UINT format = EnumClipboardFormats(0); format != 0; format = EnumClipboardFormats(format))
+      formats.push_back(format);
+    return formats;
+  }
+  OfferedMemory In(UINT format) const override {
+    return {GetClipboardData(format), [](HGLOBAL) {}};
+  }
+};
 
-/// Gives the open clipboard a copy.
-template <class Text>
-void Put(UINT format, const Text& text) {
-  const HGLOBAL data = SharedCopy(text);
+/// Gives the open clipboard what was made for it.
+void Put(UINT format, HGLOBAL data) {
   if (data && !SetClipboardData(format, data)) GlobalFree(data);
 }
 
 }  // namespace
 
 SystemClipboard::SystemClipboard()
-    : rtf_(RegisterClipboardFormatW(L"Rich Text Format")),
-      owner_(CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
+    : owner_(CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr,
                              nullptr)) {}
 
 SystemClipboard::~SystemClipboard() { DestroyWindow(owner_); }
 
 ClipboardContent SystemClipboard::Get() const {
-  ClipboardContent content;
   const OpenedClipboard clipboard(owner_);
-  if (!clipboard) return content;
-  if (const auto text = Taken<std::wstring>(CF_UNICODETEXT)) content.text = FromWide(*text);
-  content.rtf = Taken<std::string>(rtf_);
-  if (content.rtf && content.rtf->empty()) content.rtf.reset();
-  if (const auto html = Taken<std::string>(HtmlFormat())) content.html = WithoutHtmlHeader(*html);
-  return content;
+  return clipboard ? ReadOffered(Offered()) : ClipboardContent();
 }
 
 bool SystemClipboard::HasContent() const {
-  return IsClipboardFormatAvailable(CF_UNICODETEXT) || IsClipboardFormatAvailable(rtf_) ||
-         IsClipboardFormatAvailable(HtmlFormat());
+  return std::ranges::any_of(ReadableFormats(), IsClipboardFormatAvailable);
 }
 
 void SystemClipboard::Set(const ClipboardContent& content) {
   const OpenedClipboard clipboard(owner_);
   if (!clipboard || !EmptyClipboard()) return;
-  if (content.rtf) Put(rtf_, *content.rtf);
-  if (content.html) Put(HtmlFormat(), WithHtmlHeader(*content.html));
-  if (content.text) Put(CF_UNICODETEXT, ToWide(*content.text));
+  if (content.rtf) Put(RtfFormat(), SharedCopy(*content.rtf));
+  if (content.html) Put(HtmlFormat(), SharedCopy(WithHtmlHeader(*content.html)));
+  if (!content.images.empty())
+    for (const ImageForm& form : FormsOf(content.images.front()))
+      Put(form.format, SharedBytes(form.bytes));
+  if (content.text) Put(CF_UNICODETEXT, SharedCopy(*content.text));
 }
 
 void SystemClipboard::Clear() { Set({}); }

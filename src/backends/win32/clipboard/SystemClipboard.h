@@ -5,8 +5,8 @@
 
 namespace lumenote {
 
-/// Offers and takes Unicode text, RTF and HTML. A clipboard that another program holds open for
-/// longer than a moment reads as empty and takes nothing.
+/// Offers and takes Unicode text, RTF, HTML and images, and takes files. A clipboard that another
+/// program holds open for longer than a moment reads as empty and takes nothing.
 class SystemClipboard final : public Clipboard {
  public:
   SystemClipboard();
@@ -20,7 +20,6 @@ class SystemClipboard final : public Clipboard {
   void Clear() override;
 
  private:
-  UINT rtf_;    // the format's number
   HWND owner_;  // what is put on the clipboard must belong to a window
 };
 

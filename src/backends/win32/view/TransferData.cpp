@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "backends/win32/clipboard/HtmlFormat.h"
-#include "backends/win32/clipboard/SharedText.h"
-#include "base/Strings.h"
+#include "backends/win32/clipboard/OfferedData.h"
+#include "backends/win32/system/SharedMemory.h"
 
 // After the system's own header.
 #include <shlobj.h>
@@ -16,14 +16,10 @@ namespace lumenote {
 
 namespace {
 
-CLIPFORMAT RtfFormat() {
-  static const UINT format = RegisterClipboardFormatW(L"Rich Text Format");
-  return static_cast<CLIPFORMAT>(format);
-}
-
-/// The formats that are offered and taken, the richest first.
+/// The formats that are offered, the richest first.
 std::array<CLIPFORMAT, 3> Formats() {
-  return {RtfFormat(), static_cast<CLIPFORMAT>(HtmlFormat()), CF_UNICODETEXT};
+  return {static_cast<CLIPFORMAT>(RtfFormat()), static_cast<CLIPFORMAT>(HtmlFormat()),
+          CF_UNICODETEXT};
 }
 
 FORMATETC FormatOf(CLIPFORMAT format) {
@@ -41,16 +37,32 @@ HGLOBAL CopyOf(const TextExcerpt& text, CLIPFORMAT format) {
   return SharedCopy(format == RtfFormat() ? text.Rtf() : WithHtmlHeader(text.Html()));
 }
 
-/// What is offered in a format.
-template <class Text>
-std::optional<Text> Taken(IDataObject& data, CLIPFORMAT format) {
-  FORMATETC wanted = FormatOf(format);
-  STGMEDIUM medium = {};
-  if (FAILED(data.GetData(&wanted, &medium))) return std::nullopt;
-  std::optional<Text> text = TextIn<Text>(medium.hGlobal);
-  ReleaseStgMedium(&medium);
-  return text;
-}
+/// What a drag offers in memory.
+class Offered final : public OfferedData {
+ public:
+  explicit Offered(IDataObject& data) : data_(data) {}
+
+  std::vector<UINT> Formats() const override {
+    std::vector<UINT> formats;
+    IEnumFORMATETC* made = nullptr;
+    if (data_.EnumFormatEtc(DATADIR_GET, &made) != S_OK) return formats;
+    const ComOwner<IEnumFORMATETC> all(made);
+    for (FORMATETC format = {}; all->Next(1, &format, nullptr) == S_OK;) {
+      if (format.tymed & TYMED_HGLOBAL) formats.push_back(format.cfFormat);
+      CoTaskMemFree(format.ptd);
+    }
+    return formats;
+  }
+  OfferedMemory In(UINT format) const override {
+    FORMATETC wanted = FormatOf(static_cast<CLIPFORMAT>(format));
+    STGMEDIUM medium = {};
+    if (FAILED(data_.GetData(&wanted, &medium))) return {};
+    return {medium.hGlobal, [medium](HGLOBAL) mutable { ReleaseStgMedium(&medium); }};
+  }
+
+ private:
+  IDataObject& data_;
+};
 
 }  // namespace
 
@@ -82,21 +94,12 @@ HRESULT TransferData::EnumFormatEtc(DWORD direction, IEnumFORMATETC** out) {
 }
 
 bool HasTransfer(IDataObject& data) {
-  return std::ranges::any_of(Formats(), [&](CLIPFORMAT format) {
-    FORMATETC wanted = FormatOf(format);
+  return std::ranges::any_of(ReadableFormats(), [&](UINT format) {
+    FORMATETC wanted = FormatOf(static_cast<CLIPFORMAT>(format));
     return data.QueryGetData(&wanted) == S_OK;
   });
 }
 
-ClipboardContent ReadTransfer(IDataObject& data) {
-  ClipboardContent content;
-  content.text = Taken<std::u16string>(data, CF_UNICODETEXT);
-  content.rtf = Taken<std::string>(data, RtfFormat());
-  if (content.text) content.text = WithCrLf(*content.text);
-  if (content.rtf && content.rtf->empty()) content.rtf.reset();
-  const auto html = Taken<std::string>(data, static_cast<CLIPFORMAT>(HtmlFormat()));
-  if (html) content.html = WithoutHtmlHeader(*html);
-  return content;
-}
+ClipboardContent ReadTransfer(IDataObject& data) { return ReadOffered(Offered(data)); }
 
 }  // namespace lumenote

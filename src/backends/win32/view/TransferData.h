@@ -1,4 +1,4 @@
-// Text, RTF and HTML on their way between programs.
+// Text, RTF, HTML and images on their way between programs.
 #pragma once
 #include "backends/win32/system/ComObject.h"
 #include "platform/Clipboard.h"
@@ -29,7 +29,7 @@ class TransferData final : public ComObject<IDataObject> {
   TextExcerpt text_;
 };
 
-/// Whether `ReadTransfer` would return anything.
+/// Whether `ReadTransfer` could return anything.
 bool HasTransfer(IDataObject& data);
 ClipboardContent ReadTransfer(IDataObject& data);
 

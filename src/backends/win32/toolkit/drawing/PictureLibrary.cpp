@@ -1,7 +1,7 @@
 #include "backends/win32/toolkit/drawing/PictureLibrary.h"
 
-#include <cstring>
-
+#include "backends/win32/system/ComObject.h"
+#include "backends/win32/system/SharedMemory.h"
 #include "document/pictures/ImageSize.h"
 
 namespace lumenote {
@@ -9,10 +9,8 @@ namespace {
 
 /// A stream over a copy of the bytes, which the caller releases; null if there is no memory.
 IStream* StreamOf(const std::string& bytes) {
-  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+  const HGLOBAL memory = SharedBytes(bytes);
   if (!memory) return nullptr;
-  std::memcpy(GlobalLock(memory), bytes.data(), bytes.size());
-  GlobalUnlock(memory);
   IStream* stream = nullptr;
   if (SUCCEEDED(CreateStreamOnHGlobal(memory, TRUE, &stream))) return stream;
   GlobalFree(memory);
@@ -31,6 +29,18 @@ std::unique_ptr<Gdiplus::Bitmap> PictureLibrary::Decode(const std::string& file)
                      image->GetHeight() > 0 &&
                      1.0 * image->GetWidth() * image->GetHeight() <= kMostImagePixels;
   return sound ? std::move(image) : nullptr;
+}
+
+std::string Encoded(Gdiplus::Image& image, const CLSID& writer) {
+  IStream* stream = nullptr;
+  if (FAILED(CreateStreamOnHGlobal(nullptr, TRUE, &stream))) return {};
+  const ComOwner<IStream> owner(stream);
+  HGLOBAL memory = nullptr;
+  STATSTG status = {};
+  const bool written = image.Save(stream, &writer, nullptr) == Gdiplus::Ok &&
+                       SUCCEEDED(stream->Stat(&status, STATFLAG_NONAME)) &&
+                       SUCCEEDED(GetHGlobalFromStream(stream, &memory));
+  return written ? BytesIn(memory).substr(0, status.cbSize.QuadPart) : std::string();
 }
 
 }  // namespace lumenote
