@@ -73,6 +73,8 @@ void Co_Paragraph::WireBoxes() {
   Bx_AprèsPara.Change = [this] { Bx_AprèsPara.Text(NormalisedNumber(Bx_AprèsPara.Text())); };
   Bx_RightMargin.Change = [this] { Bx_RightMargin_Change(); };
   Lb_AutoMargin.Click = [this] { Bx_RightMargin.Text(u"0"); };
+  Lb_AutoMargin.ToolTip(u"Ctrl+M");
+  AddShortcut(u"Ctrl+M", Lb_AutoMargin.Click);
   Bx_FontName.MouseUp = [this](const MouseEvent&) { Bx_Font_MouseUp(); };
   Bx_FontSize.MouseUp = [this](const MouseEvent&) { Bx_Font_MouseUp(); };
   Bt_Rafraichir.Click = [this] { RafraichirFenFmt(); };

@@ -14,6 +14,9 @@ TEST(SymbolFonts, ShowTheirSigns) {
       {u"Symbol", u"fjV~Þ³ïñý\r\n\v\uFFFC", u"φϕς∼⇒≥⎪⟩⎬\r\n\v\uFFFC"},
       {u"Wingdings", u"\uF0A7\uF0D8\uF0FC\uF0E0", u"▪➢✓→"},
       {u"wingdings", u"lmnov\uF076\u008A\u0095^i\uF044é", u"●❍■□❖❖⑩❿♈♓\uF044⬆"},
+      {u"Wingdings 2", u"PR\uF06A\u0098ÿ", u"✓☑①⬤ÿ"},
+      {u"WINGDINGS 3", u"fg\uF070}\u00C8ì", u"←→▲▸⬇⬇"},
+      {u"Webdings", u"a4g\uF0E9!", u"✔▶■♿!"},
       {u"Arial", u"ab\uF0B7", u"ab\uF0B7"}};
   for (const auto& [name, text, shown] : rows) {
     std::u16string signs(text);

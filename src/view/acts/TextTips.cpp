@@ -34,6 +34,7 @@ std::u16string TipAt(TextPane& pane, PixelPoint point) {
   if (at < 0) return {};
   if (const auto note = NoteOfMark(document, at)) return Shortened(note->text);
   const std::u16string link = LinkAt(document, at);
+  if (link.starts_with(u'#')) return Shortened(link) + u"\r\nCtrl+clic pour y aller";
   return Shortened(link) + (MayOpen(link) ? u"\r\nCtrl+clic pour ouvrir" : u"");
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/Links.h"
 #include "surface/keys/UserKeys.h"
+#include "view/acts/FollowedLinks.h"
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
@@ -67,8 +68,9 @@ bool ViewKeys::OpenLink() {
   const Position caret = surface.Caret();
   std::u16string address = LinkAt(surface.Content(), caret);
   if (address.empty()) address = LinkAt(surface.Content(), caret - 1);
-  if (!address.empty()) view_.Host().OpenLink(address);
-  return !address.empty();
+  if (address.empty()) return false;
+  FollowLink(view_, address);
+  return true;
 }
 
 void ViewKeys::OpenMenu() {

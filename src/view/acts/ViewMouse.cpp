@@ -6,6 +6,7 @@
 
 #include "document/Links.h"
 #include "surface/keys/Words.h"
+#include "view/acts/FollowedLinks.h"
 #include "view/acts/TextUnits.h"
 
 namespace lumenote {
@@ -21,13 +22,13 @@ bool ViewMouse::InSelection(PixelPoint point) const {
 std::u16string ViewMouse::LinkUnder(PixelPoint point) const {
   if (!control_) return {};
   std::u16string address = LinkAt(view_.Surface().Content(), view_.Pane().CharacterAt(point));
-  return MayOpen(address) ? address : std::u16string();
+  return MayFollow(address) ? address : std::u16string();
 }
 
 /// Not if Ctrl was let go meanwhile.
 void ViewMouse::OpenLink() const {
   const std::u16string address = LinkUnder(pressed_);
-  if (!address.empty()) view_.Host().OpenLink(address);
+  if (!address.empty()) FollowLink(view_, address);
 }
 
 void ViewMouse::ShowPointer() const {

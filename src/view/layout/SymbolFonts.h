@@ -7,7 +7,7 @@
 
 namespace lumenote {
 
-enum class SymbolFont : std::uint8_t { None, Symbol, Wingdings };
+enum class SymbolFont : std::uint8_t { None, Symbol, Wingdings, Wingdings2, Wingdings3, Webdings };
 
 /// The symbol font that a note names.
 SymbolFont SymbolFontOf(const FontFace& face);

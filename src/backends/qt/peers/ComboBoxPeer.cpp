@@ -60,6 +60,7 @@ ComboBoxWidget::ComboBoxWidget(ComboBox& combo, QWidget* parent)
 // By default Qt takes finished text, or text equal to an entry, for a choice.
 void ComboBoxWidget::KeepTextApart() {
   setCompleter(nullptr);
+  GiveFrenchMenu(*lineEdit());
   disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
 }

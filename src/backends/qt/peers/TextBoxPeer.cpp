@@ -10,6 +10,7 @@ TextBoxPeer::TextBoxPeer(TextBox& box, QWidget& parent, LayouterSource&)
 
 TextBoxPeer::TextBoxPeer(TextBox& box, QLineEdit* widget)
     : ControlPeer(box, *widget), box_(box), widget_(*widget) {
+  GiveFrenchMenu(widget_);
   connect(widget, &QLineEdit::textEdited, this,
           [this](const QString& text) { box_.UserEdited(FromQString(text), SelectedIn(widget_)); });
 }

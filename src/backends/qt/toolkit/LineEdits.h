@@ -20,4 +20,7 @@ inline void ShowText(QLineEdit& line, std::u16string_view text) {
   if (line.text() != wanted) line.setText(wanted);
 }
 
+/// Its context menu speaks French, whatever the language of the host's application.
+void GiveFrenchMenu(QLineEdit& line);
+
 }  // namespace lumenote

@@ -15,8 +15,8 @@
 
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/FrenchTexts.h"
 #include "backends/qt/toolkit/QtText.h"
-#include "backends/qt/windows/FrenchTexts.h"
 
 namespace lumenote {
 

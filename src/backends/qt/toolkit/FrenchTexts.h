@@ -1,5 +1,6 @@
 // French for the toolkit's own dialogs, whatever the language of the host's application.
 #pragma once
+#include <QMenu>
 #include <QString>
 #include <QWidget>
 
@@ -9,6 +10,8 @@ namespace lumenote {
 /// is.
 QString InFrench(const QString& text);
 
+/// Puts the entries of a menu into French; shortcuts stay.
+void ShowInFrench(const QMenu& menu);
 /// Puts the labels, buttons and frames of a dialog into French.
 void ShowInFrench(const QWidget& dialog);
 

@@ -1,4 +1,4 @@
-#include "backends/qt/windows/FrenchTexts.h"
+#include "backends/qt/toolkit/FrenchTexts.h"
 
 #include <QAbstractButton>
 #include <QGroupBox>
@@ -15,6 +15,14 @@ const QHash<QString, QString>& FrenchTexts() {
       // Buttons of any dialog.
       {QStringLiteral("OK"), QStringLiteral("OK")},
       {QStringLiteral("Cancel"), QStringLiteral("Annuler")},
+      // Menus of text boxes.
+      {QStringLiteral("Undo"), QStringLiteral("&Annuler")},
+      {QStringLiteral("Redo"), QStringLiteral("&Rétablir")},
+      {QStringLiteral("Cut"), QStringLiteral("Co&uper")},
+      {QStringLiteral("Copy"), QStringLiteral("&Copier")},
+      {QStringLiteral("Paste"), QStringLiteral("C&oller")},
+      {QStringLiteral("Delete"), QStringLiteral("&Supprimer")},
+      {QStringLiteral("Select All"), QStringLiteral("&Tout sélectionner")},
       // Fonts.
       {QStringLiteral("Font"), QStringLiteral("&Police")},
       {QStringLiteral("Font style"), QStringLiteral("St&yle")},
@@ -56,6 +64,13 @@ QString InFrench(const QString& text) {
   QString plain = text;
   plain.remove(QLatin1Char('&'));
   return FrenchTexts().value(plain, text);
+}
+
+void ShowInFrench(const QMenu& menu) {
+  for (QAction* entry : menu.actions()) {
+    const QString label = entry->text().section(QLatin1Char('\t'), 0, 0);
+    entry->setText(InFrench(label) + entry->text().mid(label.size()));
+  }
 }
 
 void ShowInFrench(const QWidget& dialog) {
