@@ -4,6 +4,7 @@
 
 #include "base/Rows.h"
 #include "document/pictures/ImageSize.h"
+#include "document/pictures/Orientation.h"
 #include "document/pictures/PictureFrame.h"
 
 namespace lumenote {
@@ -66,6 +67,9 @@ Jpeg | ffd8ffe0ffff4a464946 | none ¦ Jpeg | ffd8ff00 | none ¦ Jpeg | ffd8ffda0
 Bitmap | 28000000100000002000000001001800 00000000 00000000 230b0000 c40e0000 0000000000000000 | 318 480
 Bitmap | 280000001000000 0f0ffffff01001800 00000000 00000000 00000000 00000000 0000000000000000 | 240 240
 Bitmap | 0c000000100020000100180000000000 | 240 480 ¦ Bitmap | 0b000000100020000100180000000000 | none
+// upright
+Jpeg | ffd8ffe100224578696600004d4d002a00000008000101120003000000010006000000000000
+    ffc0000b080096012c01011100 | 2250 4500
 Metafile | 0100 | none ¦ Png | "" | none
 )")) {
     const std::string bytes = FromHex(Replaced(data, "PNG", kPng));
@@ -77,6 +81,44 @@ Metafile | 0100 | none ¦ Png | "" | none
     EXPECT_EQ(found ? Number(found->width) + " " + Number(found->height) : "none", size) << data;
     for (std::size_t cut = 0; cut < bytes.size(); ++cut) SizeOfImage(of, bytes.substr(0, cut));
   }
+}
+
+// What is shown as the left and upper part lies elsewhere in the image before it is turned.
+TEST(Pictures, StandUpright) {
+  const PictureFrame shown{200, 100, 0.1, 0.2, 0.5, 0.9};
+  for (const auto& [tiff, part] : Rows<2>(R"(
+4d4d002a00000008 0001 0112 0003 00000001 0001 => 10 20 50 90
+4d4d002a00000008 0001 0112 0003 00000001 0002 => 50 20 90 90
+4d4d002a00000008 0001 0112 0003 00000001 0003 => 50 10 90 80
+4d4d002a00000008 0001 0112 0003 00000001 0004 => 10 10 50 80
+49492a0008000000 0100 1201 0300 01000000 0500 => 20 10 90 50
+49492a0009000000 00 0200 00010300010000000600 0000 1201 0300 01000000 0600 => 20 50 90 90
+49492a0008000000 0100 1201 0300 01000000 0700 => 10 50 80 90
+4d4d002a00000008 0001 0112 0003 00000001 0008 => 10 10 80 50
+// damaged: no such number, type or place
+4d4d002a00000008 0001 0112 0003 00000001 0009 => 10 20 50 90
+4d4d002a00000008 0001 0112 0004 00000001 0006 => 10 20 50 90
+4d4d002affffffff 0001 0112 0003 00000001 0006 => 10 20 50 90
+4d4d002a00000008 ffff 0111 0003 00000001 0006 => 10 20 50 90 ¦ "" => 10 20 50 90
+)",
+                                          " => ")) {
+    const std::string file = FromHex("ffd8ffe100404578696600 00" + tiff + std::string(80, '0'));
+    const PictureFrame before = BeforeTurning(shown, OrientationOf(file));
+    std::string found;
+    for (const double edge : {before.left, before.top, before.right, before.bottom})
+      found += (found.empty() ? "" : " ") + Number(100 * edge);
+    EXPECT_EQ(found, part) << tiff;
+    for (std::size_t cut = 0; cut < file.size(); ++cut) OrientationOf(file.substr(0, cut));
+  }
+}
+
+TEST(Pictures, AreNotTurnedInAFrameOfTheirOwnShape) {
+  const std::string file = FromHex(
+      "ffd8ffe100224578696600004d4d002a00000008000101120003000000010006000000000000"
+      "ffc0000b080096012c01011100");
+  EXPECT_TRUE(OrientationIn({150, 300}, file).exchanged);
+  EXPECT_TRUE(OrientationIn({150, 30, 0, 0, 1, 0.1}, file).exchanged);
+  EXPECT_FALSE(OrientationIn({300, 150}, file).exchanged);
 }
 
 TEST(Pictures, AreDecodedIfTheirHeadTellsThatTheyAreNotHuge) {

@@ -2,6 +2,7 @@
 // of its image, whatever they say.
 #include "Target.h"
 #include "document/pictures/ImageSize.h"
+#include "document/pictures/Orientation.h"
 #include "document/pictures/PictureFrame.h"
 
 using namespace lumenote;
@@ -15,6 +16,9 @@ void Try(std::string_view bytes) {
   Check(frame.top >= 0 && frame.top < frame.bottom && frame.bottom <= 1);
   Check(!LabelOf(item).empty());
   Check(ImageFileOf(item).size() <= bytes.size() + 100);
+  const PictureFrame before =
+      BeforeTurning(frame, OrientationIn(frame, "\xFF\xD8\xFF" + std::string(bytes)));
+  Check(before.left >= 0 && before.left < before.right && before.right <= 1);
   for (const PictureType type : {PictureType::Png, PictureType::Jpeg, PictureType::Bitmap})
     if (const auto size = SizeOfImage(type, bytes)) Check(size->width > 0 && size->height > 0);
 }

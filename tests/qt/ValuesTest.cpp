@@ -79,6 +79,7 @@ TEST(MimeTest, ReadsImagesAndFilesOfImages) {
   ASSERT_TRUE(QFile::resize(file("b.png"), 64 << 20));  // no room beside another
   files.setUrls({QUrl::fromLocalFile(file("a.jpg")), QUrl::fromLocalFile(file("b.png"))});
   EXPECT_TRUE(ReadMime(files).images.empty());
+  EXPECT_TRUE(ReadMime(files).imagesTooLarge);
 
   QMimeData data;
   data.setData(QStringLiteral("image/jpeg"), bytes);

@@ -76,6 +76,9 @@ TEST(Pieces, OfAnImageAreAsWideAsTheTextAtMost) {
   const std::u16string goal = u"\\picwgoal" + FromUtf8(std::to_string(std::lround(width))) + u"\\";
   EXPECT_NE(window.surface.TextRTF().find(goal), std::u16string::npos) << ToUtf8(goal);
   EXPECT_EQ(window.pane.Cache().At(0).boxes.at(0).size.width, window.layouter.Width());
+  const std::u16string before = window.surface.TextRTF();
+  EXPECT_THROW(window.surface.UserDropContent({.imagesTooLarge = true}, 0), RuntimeError);
+  EXPECT_EQ(window.surface.TextRTF(), before);
 }
 
 struct RowsTest : testing::Test {

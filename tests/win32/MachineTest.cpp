@@ -9,6 +9,10 @@
 #include "backends/win32/programs/WinProcesses.h"
 #include "backends/win32/settings/RegistryKey.h"
 #include "backends/win32/settings/UserSettings.h"
+#include "backends/win32/system/SharedMemory.h"
+#include "backends/win32/toolkit/drawing/PictureLibrary.h"
+#include "backends/win32/view/TransferData.h"
+#include "document/pictures/ByteOrder.h"
 #include "platform/Sandbox.h"
 
 namespace lumenote {
@@ -71,6 +75,110 @@ TEST(SystemClipboardTest, HoldsTextRtfAndHtml) {
   EXPECT_EQ(clipboard.Get().rtf, std::nullopt);
   clipboard.Clear();
   EXPECT_FALSE(clipboard.HasContent());
+}
+
+/// Puts bytes on the clipboard as another program does.
+void Offer(UINT format, const std::string& bytes) {
+  ASSERT_TRUE(OpenClipboard(nullptr));
+  EmptyClipboard();
+  SetClipboardData(format, SharedBytes(bytes));
+  CloseClipboard();
+}
+
+std::string Numbers(std::initializer_list<std::uint32_t> numbers) {
+  std::string bytes;
+  for (const std::uint32_t number : numbers) AppendLittleEndian(number, 4, bytes);
+  return bytes;
+}
+
+/// Two pixels, the left one red.
+std::string Bitmap(std::uint32_t header = 40) {
+  return Numbers({header, 2, 1, 0x180001, 0, 8, 0, 0, 0, 0}) + std::string(header - 40, '\0') +
+         std::string("\0\0\xFF\xFF\xFF\xFF\0\0", 8);
+}
+
+/// Width, height and the first pixel, "none" without an image.
+std::string Seen(const std::vector<std::string>& images) {
+  const PictureLibrary library;
+  const auto image = images.size() == 1 ? library.Decode(images.front()) : nullptr;
+  if (!image) return "none";
+  Gdiplus::Color first;
+  image->GetPixel(0, 0, &first);
+  return std::to_string(image->GetWidth()) + "x" + std::to_string(image->GetHeight()) +
+         (first.GetValue() == 0xFFFF0000 ? " red" : " other");
+}
+
+TEST(SystemClipboardTest, ImagesComeAsTheyAreOrAsBitmaps) {
+  SystemClipboard clipboard;
+  Offer(CF_DIB, Bitmap());
+  const std::vector<std::string> made = clipboard.Get().images;
+  ASSERT_EQ(Seen(made), "2x1 red");
+  const UINT png = RegisterClipboardFormatW(L"PNG");
+  const std::tuple<UINT, std::string, const char*> rows[] = {
+      {CF_DIBV5, Bitmap(124), "2x1 red"},
+      {png, made.front(), "2x1 red"},
+      {png, "\x89PNG", "none"},
+      {RegisterClipboardFormatW(L"JFIF"), "<html>", "none"},
+      {CF_DIB, Bitmap().substr(0, 43), "none"},
+      {CF_DIB, std::string(3, '\xFF'), "none"},
+      {CF_DIB, Numbers({0xFFFFFFFF, 2, 1, 0x180001, 0, 0, 0, 0, 0, 0}), "none"},
+      {CF_DIB, Numbers({40, 0x7FFFFFFF, 0x7FFFFFFF, 0x200001, 0, 0, 0, 0, 0, 0, 0}), "none"},
+      {CF_DIB, Numbers({40, 0, 0, 0, 0, 0, 0, 0, 0xFFFFFFFF, 0, 0}), "none"}};
+  for (const auto& [format, bytes, seen] : rows) {
+    Offer(format, bytes);
+    EXPECT_TRUE(clipboard.HasContent());
+    EXPECT_EQ(Seen(clipboard.Get().images), seen) << format << " " << bytes.size();
+  }
+  clipboard.Set({.text = u"", .rtf = "{\\rtf1}", .images = made});
+  EXPECT_TRUE(IsClipboardFormatAvailable(CF_DIB));
+  EXPECT_TRUE(clipboard.Get().images.empty()) << "richer content accompanies it";
+  clipboard.Set({.images = made});
+  EXPECT_EQ(clipboard.Get().images, made);
+}
+
+/// Files on the clipboard, as a drag offers them, too.
+class CopiedFilesTest : public SandboxTest {
+ protected:
+  void Copy(const std::vector<std::string>& names) {
+    std::u16string list;
+    for (const std::string& name : names) list += Drive(name) + u'\0';
+    list += u'\0';
+    Offer(CF_HDROP, Numbers({20, 0, 0, 0, 1}) +
+                        std::string(reinterpret_cast<const char*>(list.data()), 2 * list.size()));
+  }
+  std::u16string Drive(const std::string& name) {
+    return DrivePaths::OfUser().ToDrivePath(Native(name));
+  }
+};
+
+TEST_F(CopiedFilesTest, AreImagesIfAllOfThemAreElseTheirNames) {
+  const OleScope ole;
+  const std::string jpeg = "\xFF\xD8\xFF\xE0";
+  Put("red.bmp", "BM" + Numbers({0, 0, 54}) + Bitmap());
+  Put("flower.jpg", jpeg);
+  Put("note.txt", "x");
+  Put("large.jpg", jpeg + std::string(kMostImageBytes, 'x'));
+  const auto content = [&](const std::vector<std::string>& names) {
+    Copy(names);
+    IDataObject* data = nullptr;
+    OleGetClipboard(&data);
+    const ComOwner<IDataObject> owner(data);
+    const ClipboardContent dragged = ReadTransfer(*data);
+    const ClipboardContent copied = SystemClipboard().Get();
+    EXPECT_TRUE(HasTransfer(*data));
+    EXPECT_EQ(dragged.images, copied.images);
+    EXPECT_EQ(dragged.text, copied.text);
+    return copied;
+  };
+  EXPECT_EQ(Seen(content({"red.bmp"}).images), "2x1 red");
+  const ClipboardContent two = content({"flower.jpg", "red.bmp"});
+  EXPECT_EQ(two.images.size(), 2u);
+  EXPECT_EQ(two.images.front(), jpeg);
+  EXPECT_EQ(two.imageNames, Drive("flower.jpg") + u"\r\n" + Drive("red.bmp"));
+  EXPECT_EQ(content({"flower.jpg", "note.txt"}).text,
+            Drive("flower.jpg") + u"\r\n" + Drive("note.txt"));
+  EXPECT_TRUE(content({"flower.jpg", "large.jpg"}).imagesTooLarge);
+  EXPECT_TRUE(content({"none.jpg"}).images.empty());
 }
 
 class WinProcessesTest : public SandboxTest {

@@ -7,6 +7,7 @@
 
 #include "base/Twips.h"
 #include "document/pictures/ByteOrder.h"
+#include "document/pictures/Orientation.h"
 
 namespace lumenote {
 namespace {
@@ -113,8 +114,10 @@ std::optional<Raster> RasterOf(PictureType type, std::string_view data) {
 }  // namespace
 
 std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data) {
-  const auto raster = RasterOf(type, data);
+  auto raster = RasterOf(type, data);
   if (!raster) return std::nullopt;
+  if (OrientationOf(data).exchanged)
+    raster = Raster{raster->height, raster->width, raster->down, raster->across};
   return ImageSize{raster->width * kTwipsPerInch / Believed(raster->across),
                    raster->height * kTwipsPerInch / Believed(raster->down)};
 }

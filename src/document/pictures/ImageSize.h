@@ -11,8 +11,8 @@ struct ImageSize {
   double width = 0;  // twips
   double height = 0;
 };
-/// At the resolution that the data state, else at 96 dots per inch. The beginning of the data will
-/// do for most images. Empty for data of another type, damaged data and metafiles.
+/// Upright, at the resolution that the data state, else at 96 dots per inch. The beginning of the
+/// data will do for most images. Empty for data of another type, damaged data and metafiles.
 std::optional<ImageSize> SizeOfImage(PictureType type, std::string_view data);
 
 /// The type of a file, of which the beginning will do; only these three are told apart from others.

@@ -2,10 +2,12 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 
 #include "document/pictures/ImageSize.h"
+#include "document/pictures/Orientation.h"
 #include "document/pictures/PictureFrame.h"
 
 namespace lumenote {
@@ -44,16 +46,23 @@ QRect PartOf(const PictureFrame& frame, QSize whole) {
   return part.size() == whole ? QRect() : part;
 }
 
+QImage Upright(const QImage& image, const Orientation& turn) {
+  const QTransform exchange(0, 1, 1, 0, 0, 0);
+  return (turn.exchanged ? image.transformed(exchange) : image)
+      .mirrored(turn.mirrored, turn.upsideDown);
+}
+
 QImage Decoded(const std::string& file, const PictureFrame& frame, QSize size) {
   if (!IsDecodable(file)) return {};
+  const Orientation turn = OrientationIn(frame, file);
   QByteArray bytes = QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size()));
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer, FormatName(*TypeOfImage(file)));
-  reader.setClipRect(PartOf(frame, reader.size()));
-  reader.setScaledSize(size);
-  QImage image = reader.read();
+  reader.setClipRect(PartOf(BeforeTurning(frame, turn), reader.size()));
+  reader.setScaledSize(turn.exchanged ? size.transposed() : size);
+  const QImage image = reader.read();
   return image.isNull() ? image
-                        : std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+                        : Upright(image, turn).convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 }  // namespace

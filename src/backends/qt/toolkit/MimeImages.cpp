@@ -31,9 +31,10 @@ QByteArray PngOf(const QImage& image) {
   return buffer.data();
 }
 
-/// Null if the data are no image, or a huge one.
+/// Upright; null if the data are no image, or a huge one.
 QImage Decoded(QIODevice& data) {
   QImageReader reader(&data);
+  reader.setAutoTransform(true);
   const QSize size = reader.size();
   const bool sound = !size.isEmpty() && 1.0 * size.width() * size.height() <= kMostImagePixels;
   return sound ? reader.read() : QImage();

@@ -29,6 +29,7 @@ std::string BitmapOf(const std::string& file) {
   const PictureLibrary library;
   const auto image = IsDecodable(file) ? library.Decode(file) : nullptr;
   if (!image) return {};
+  TurnUpright(*image, OrientationOf(file));
   const auto width = static_cast<INT>(image->GetWidth());
   const auto height = static_cast<INT>(image->GetHeight());
   Gdiplus::Bitmap flat(width, height, PixelFormat24bppRGB);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "backends/win32/toolkit/drawing/FontFamilies.h"
+#include "backends/win32/toolkit/drawing/MemoryDc.h"
 #include "base/Twips.h"
 #include "view/layout/TextLayouter.h"
 
@@ -28,6 +30,15 @@ FontWish WishOf(const FontFace& face, const CharFormat& format, double height) {
   return wish;
 }
 
+bool IsInstalled(const FontFace& face) {
+  bool found = false;
+  ForEachFont(MemoryDc().Get(), face.name, [&](const LOGFONTW&) {
+    found = true;
+    return false;
+  });
+  return found;
+}
+
 }  // namespace
 
 const CharStyle& CharStyles::Of(const Document& document, CharId id) {
@@ -44,7 +55,12 @@ const CharStyle& CharStyles::Of(const Document& document, const CharFormat& form
 
 CharStyle CharStyles::Make(const Document& document, const CharFormat& format) {
   CharStyle style{LookOf(document.Formats(), format, pixels_, ground_), nullptr, nullptr};
-  const FontFace& face = document.Formats().fonts[format.font];
+  FontFace face = document.Formats().fonts[format.font];
+  const SymbolFont signs = SymbolFontOf(face);
+  if (signs != SymbolFont::None && !IsInstalled(face)) {
+    style.signs = signs;
+    face.charset = DEFAULT_CHARSET;
+  }
   const double height = style.points * kPixelsInPoint * pixels_;
   style.font = fonts_.Of(WishOf(face, format, height));
   if (style.smallCapitals)

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "document/pictures/ImageSize.h"
+#include "document/pictures/Orientation.h"
 #include "document/pictures/PictureFrame.h"
 
 namespace lumenote {
@@ -22,20 +23,39 @@ SIZE Bounded(SIZE size) {
           std::max(1L, static_cast<LONG>(size.cy * shrink))};
 }
 
+/// In pixels of the whole image, at least one.
+Gdiplus::Rect PartOf(const PictureFrame& frame, Gdiplus::Bitmap& image) {
+  const auto cut = [](double from, double to, UINT side, INT& start, INT& length) {
+    const auto whole = static_cast<INT>(side);
+    start = std::clamp(static_cast<INT>(std::lround(from * side)), 0, whole - 1);
+    length = std::clamp(static_cast<INT>(std::lround(to * side)) - start, 1, whole - start);
+  };
+  Gdiplus::Rect part;
+  cut(frame.left, frame.right, image.GetWidth(), part.X, part.Width);
+  cut(frame.top, frame.bottom, image.GetHeight(), part.Y, part.Height);
+  return part;
+}
+
 /// The edges blend with more of the image, not with nothing.
-std::unique_ptr<Gdiplus::Bitmap> Scaled(Gdiplus::Bitmap& image, SIZE size) {
+std::unique_ptr<Gdiplus::Bitmap> Scaled(Gdiplus::Bitmap& image, const Gdiplus::Rect& part,
+                                        SIZE size) {
   auto scaled = std::make_unique<Gdiplus::Bitmap>(size.cx, size.cy, PixelFormat32bppPARGB);
   Gdiplus::Graphics canvas(scaled.get());
   canvas.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
   canvas.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
   Gdiplus::ImageAttributes edges;
   edges.SetWrapMode(Gdiplus::WrapModeTileFlipXY);
-  const Gdiplus::Rect whole(0, 0, size.cx, size.cy);
-  const auto width = static_cast<INT>(image.GetWidth());
-  const auto height = static_cast<INT>(image.GetHeight());
-  const auto done =
-      canvas.DrawImage(&image, whole, 0, 0, width, height, Gdiplus::UnitPixel, &edges);
+  const auto done = canvas.DrawImage(&image, Gdiplus::Rect(0, 0, size.cx, size.cy), part.X, part.Y,
+                                     part.Width, part.Height, Gdiplus::UnitPixel, &edges);
   return done == Gdiplus::Ok ? std::move(scaled) : nullptr;
+}
+
+std::unique_ptr<Gdiplus::Bitmap> Shown(Gdiplus::Bitmap& image, const PictureFrame& frame,
+                                       const Orientation& turn, SIZE size) {
+  if (turn.exchanged) std::swap(size.cx, size.cy);
+  auto shown = Scaled(image, PartOf(BeforeTurning(frame, turn), image), size);
+  if (shown) TurnUpright(*shown, turn);
+  return shown;
 }
 
 }  // namespace
@@ -50,9 +70,12 @@ Gdiplus::Bitmap* GdiPictures::Of(const Document& document, ItemId item, SIZE wan
     return known->image.get();
   }
   if (!library_) library_.emplace();
-  const std::string file = ImageFileOf(document.Formats().items[item]);
+  const KeptItem& source = document.Formats().items[item];
+  const std::string file = ImageFileOf(source);
+  const PictureFrame frame = FrameOf(source);
   const auto image = IsDecodable(file) ? library_->Decode(file) : nullptr;
-  entries_.push_front({item, size, image ? Scaled(*image, size) : nullptr});
+  entries_.push_front(
+      {item, size, image ? Shown(*image, frame, OrientationIn(frame, file), size) : nullptr});
   DropOldest();
   return entries_.front().image.get();
 }

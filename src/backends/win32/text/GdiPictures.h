@@ -13,8 +13,8 @@ namespace lumenote {
 /// memory.
 class GdiPictures {
  public:
-  /// The whole image of an item scaled to that size in pixels, or less if it would be huge; null if
-  /// it cannot be shown. Valid until the next call.
+  /// What is shown of an item's image, scaled to that size in pixels, or less if it would be huge;
+  /// null if it cannot be shown. Valid until the next call.
   Gdiplus::Bitmap* Of(const Document& document, ItemId item, SIZE size);
 
  private:

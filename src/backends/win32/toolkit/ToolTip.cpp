@@ -3,13 +3,13 @@
 #include <commctrl.h>
 
 #include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/Units.h"
 
 namespace lumenote {
 namespace {
 
-constexpr std::size_t kLength = 80;  // what the system copies of a tooltip's text
-
-constexpr LPARAM kWidest = 500;  // pixels; a longer text has several lines
+constexpr std::size_t kLength = 2048;  // more than any tooltip says
+constexpr double kWidest = 7500;       // twips; a longer text has several lines
 
 /// The form that every version of the common controls knows.
 TTTOOLINFOW InfoOf(HWND tool, const std::u16string& text) {
@@ -22,8 +22,8 @@ TTTOOLINFOW InfoOf(HWND tool, const std::u16string& text) {
   return info;
 }
 
-LRESULT Tell(const Window& tip, UINT message, const TTTOOLINFOW& info) {
-  return SendMessageW(tip.Handle(), message, 0, reinterpret_cast<LPARAM>(&info));
+LRESULT Tell(const Window& tip, UINT message, const TTTOOLINFOW& info, std::size_t room = 0) {
+  return SendMessageW(tip.Handle(), message, room, reinterpret_cast<LPARAM>(&info));
 }
 
 }  // namespace
@@ -34,19 +34,19 @@ void ToolTip::Make() {
   window_ = std::make_shared<Window>(
       nullptr, WindowKind{TOOLTIPS_CLASSW, kStyle, WS_EX_TOPMOST | WS_EX_TOOLWINDOW});
   Tell(*window_, TTM_ADDTOOLW, InfoOf(tool_, {}));
-  SendMessageW(window_->Handle(), TTM_SETMAXTIPWIDTH, 0, kWidest);
 }
 
 void ToolTip::Text(const std::u16string& text) {
   if (!window_ && text.empty()) return;
   if (!window_) Make();
+  SendMessageW(window_->Handle(), TTM_SETMAXTIPWIDTH, 0, Scale::Of(tool_).Pixels(kWidest));
   Tell(*window_, TTM_UPDATETIPTEXTW, InfoOf(tool_, text));
 }
 
 std::u16string ToolTip::Text() const {
   if (!window_) return {};
   std::u16string text(kLength, u'\0');
-  Tell(*window_, TTM_GETTEXTW, InfoOf(tool_, text));
+  Tell(*window_, TTM_GETTEXTW, InfoOf(tool_, text), kLength);
   return text.substr(0, text.find(u'\0'));
 }
 

@@ -29,20 +29,13 @@ void BoxPainter::Paint(const InlineBox& box, const PixelRect& place, bool select
 }
 
 bool BoxPainter::PaintImage(ItemId item, const Gdiplus::Rect& place) {
-  const PictureFrame frame = FrameOf(document_.Formats().items[item]);
-  const double across = frame.right - frame.left;
-  const double down = frame.bottom - frame.top;
-  Gdiplus::Bitmap* const image =
-      pictures_.Of(document_, item, {Whole(place.Width / across), Whole(place.Height / down)});
+  Gdiplus::Bitmap* const image = pictures_.Of(document_, item, {place.Width, place.Height});
   if (!image) return false;
-  const double width = image->GetWidth();
-  const double height = image->GetHeight();
+  const auto width = static_cast<INT>(image->GetWidth());
+  const auto height = static_cast<INT>(image->GetHeight());
   Gdiplus::Graphics canvas(dc_);
   canvas.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
-  const auto side = [](double pixels) { return static_cast<INT>(Whole(pixels)); };
-  return canvas.DrawImage(image, place, side(frame.left * width), side(frame.top * height),
-                          side(across * width), side(down * height),
-                          Gdiplus::UnitPixel) == Gdiplus::Ok;
+  return canvas.DrawImage(image, place, 0, 0, width, height, Gdiplus::UnitPixel) == Gdiplus::Ok;
 }
 
 void BoxPainter::PaintLabel(ItemId item, const PixelRect& place) {

@@ -31,6 +31,13 @@ std::unique_ptr<Gdiplus::Bitmap> PictureLibrary::Decode(const std::string& file)
   return sound ? std::move(image) : nullptr;
 }
 
+// A turn by 90 degrees and a mirror exchange rows and columns.
+void TurnUpright(Gdiplus::Image& image, const Orientation& turn) {
+  if (turn.exchanged) image.RotateFlip(Gdiplus::Rotate90FlipX);
+  if (turn.mirrored) image.RotateFlip(Gdiplus::RotateNoneFlipX);
+  if (turn.upsideDown) image.RotateFlip(Gdiplus::RotateNoneFlipY);
+}
+
 std::string Encoded(Gdiplus::Image& image, const CLSID& writer) {
   IStream* stream = nullptr;
   if (FAILED(CreateStreamOnHGlobal(nullptr, TRUE, &stream))) return {};

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "backends/win32/system/System.h"
+#include "document/pictures/Orientation.h"
 // Its headers need these names, and this order.
 using std::max;
 using std::min;
@@ -36,6 +37,7 @@ inline constexpr CLSID kBitmapWriter = {
     0x557cf400, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
 inline constexpr CLSID kPngWriter = {
     0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
+void TurnUpright(Gdiplus::Image& image, const Orientation& turn);
 /// The image as a file; empty if it cannot be written.
 std::string Encoded(Gdiplus::Image& image, const CLSID& writer);
 
