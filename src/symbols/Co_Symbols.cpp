@@ -129,18 +129,17 @@ void Co_Symbols::picHolder_MouseWheel(int notches) {
 
 // --- the font
 
-// Lists as many screen fonts as the printer has fonts.
+// Lists as many screen fonts as the printer has fonts, at once: each change of the list shows all
+// of it.
 void Co_Symbols::cboFonts_DropDown() {
   if (fontsListed_) return;
   const Fonts& fonts = Machine().SystemFonts();
-  const std::vector<std::u16string> screen = fonts.ScreenFonts();
-  const int count = fonts.PrinterFontCount();
-  cboFonts.List({});
-  for (int index = 0; index < count; ++index) {
-    if (index >= static_cast<int>(screen.size()))
-      throw RuntimeError(ErrorNumber::InvalidPropertyValue);
-    cboFonts.AddItem(screen[static_cast<std::size_t>(index)]);
-  }
+  std::vector<std::u16string> names = fonts.ScreenFonts();
+  const auto count = static_cast<std::size_t>(std::max(0, fonts.PrinterFontCount()));
+  const bool missing = names.size() < count;
+  names.resize(std::min(names.size(), count));
+  cboFonts.List(std::move(names));
+  if (missing) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
   fontsListed_ = true;
   IgnoringErrors([this] { cboFonts.Text(currentFont_); });
 }
