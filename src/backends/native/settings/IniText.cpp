@@ -82,23 +82,23 @@ std::string HeaderText(const std::pair<std::u16string, std::u16string>& name) {
 }  // namespace
 
 IniText::IniText(std::string_view bytes) {
-  const SectionName* section = nullptr;
+  Section* section = nullptr;
   while (!bytes.empty()) {
     const std::size_t end = std::min(bytes.find('\n'), bytes.size());
-    lines_.push_back(Read(bytes.substr(0, end), section));
+    Enter(lines_.insert(lines_.end(), Read(bytes.substr(0, end), section)));
     section = lines_.back().section;
     bytes.remove_prefix(std::min(end + 1, bytes.size()));
   }
 }
 
-IniText::Line IniText::Read(std::string_view text, const SectionName* section) {
+IniText::Line IniText::Read(std::string_view text, Section* section) {
   const std::string_view content = Trimmed(text);
   Line line{std::string(text), section};
   if (content.starts_with('#') || content.starts_with(';')) return line;
   if (content.starts_with('[')) {
     const bool closed = content.ends_with(']');
     const auto name = closed ? Halves(content.substr(1, content.size() - 2), '/') : std::nullopt;
-    line.section = name ? &*sections_.insert(*name).first : nullptr;
+    line.section = name ? &sections_[*name] : nullptr;
   } else if (auto entry = Halves(content, '=')) {
     line.key = std::move(entry->first);
     line.value = std::move(entry->second);
@@ -106,44 +106,45 @@ IniText::Line IniText::Read(std::string_view text, const SectionName* section) {
   return line;
 }
 
-std::optional<std::size_t> IniText::FindLine(std::u16string_view application,
-                                             std::u16string_view section,
-                                             std::u16string_view key) const {
-  const auto name = sections_.find({std::u16string(application), std::u16string(section)});
-  if (name == sections_.end()) return std::nullopt;
-  for (std::size_t i = lines_.size(); i-- > 0;)
-    if (lines_[i].section == &*name && lines_[i].key == key) return i;
-  return std::nullopt;
+void IniText::Enter(Lines::iterator line) {
+  if (!line->section) return;
+  if (line->key) line->section->keys[*line->key] = line;
+  if (!Trimmed(line->text).empty()) line->section->last = line;
+}
+
+const IniText::Lines::iterator* IniText::FindLine(std::u16string_view application,
+                                                  std::u16string_view section,
+                                                  std::u16string_view key) const {
+  const auto named = sections_.find({std::u16string(application), std::u16string(section)});
+  if (named == sections_.end()) return nullptr;
+  const auto line = named->second.keys.find(key);
+  return line == named->second.keys.end() ? nullptr : &line->second;
 }
 
 std::optional<std::u16string> IniText::Find(std::u16string_view application,
                                             std::u16string_view section,
                                             std::u16string_view key) const {
-  const std::optional<std::size_t> line = FindLine(application, section, key);
-  return line ? std::optional(lines_[*line].value) : std::nullopt;
+  const Lines::iterator* line = FindLine(application, section, key);
+  return line ? std::optional((*line)->value) : std::nullopt;
 }
 
 void IniText::Set(std::u16string_view application, std::u16string_view section,
                   std::u16string_view key, std::u16string_view value) {
-  if (const auto line = FindLine(application, section, key)) {
-    lines_[*line].text = EntryText(key, value);
-    lines_[*line].value = value;
+  if (const Lines::iterator* line = FindLine(application, section, key)) {
+    (*line)->text = EntryText(key, value);
+    (*line)->value = value;
     return;
   }
-  const SectionName& name =
-      *sections_.emplace(std::u16string(application), std::u16string(section)).first;
-  lines_.insert(EndOf(name),
-                Line{EntryText(key, value), &name, std::u16string(key), std::u16string(value)});
+  const SectionName name(application, section);
+  Section& entered = sections_[name];
+  if (!entered.last) AppendHeader(name, entered);
+  Enter(lines_.insert(std::next(*entered.last), Line{EntryText(key, value), &entered,
+                                                     std::u16string(key), std::u16string(value)}));
 }
 
-std::vector<IniText::Line>::iterator IniText::EndOf(const SectionName& section) {
-  const auto last = std::find_if(lines_.rbegin(), lines_.rend(), [&](const Line& line) {
-    return line.section == &section && !Trimmed(line.text).empty();
-  });
-  if (last != lines_.rend()) return last.base();
+void IniText::AppendHeader(const SectionName& name, Section& section) {
   if (!lines_.empty()) lines_.push_back({});
-  lines_.push_back({HeaderText(section), &section});
-  return lines_.end();
+  Enter(lines_.insert(lines_.end(), Line{HeaderText(name), &section}));
 }
 
 std::string IniText::Bytes() const {

@@ -1,12 +1,12 @@
 // The text of a settings file, parsed and edited line by line.
 #pragma once
-#include <cstddef>
+#include <functional>
+#include <list>
+#include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace lumenote {
 
@@ -18,7 +18,7 @@ namespace lumenote {
 class IniText {
  public:
   explicit IniText(std::string_view bytes = {});
-  // Movable only: the lines point into `sections_`.
+  // Movable only: lines and sections point to each other.
   IniText(IniText&&) = default;
   IniText& operator=(IniText&&) = default;
 
@@ -31,21 +31,28 @@ class IniText {
  private:
   using SectionName = std::pair<std::u16string, std::u16string>;  // application, section
 
+  struct Section;
   struct Line {
     std::string text;
-    const SectionName* section = nullptr;              // in `sections_`
+    Section* section = nullptr;                        // in `sections_`
     std::optional<std::u16string> key = std::nullopt;  // of a `key=value` line
     std::u16string value = {};
   };
+  using Lines = std::list<Line>;
+  struct Section {
+    std::map<std::u16string, Lines::iterator, std::less<>> keys;  // the last line of each
+    std::optional<Lines::iterator> last;                          // of its lines that are not blank
+  };
 
-  Line Read(std::string_view text, const SectionName* section);
-  std::optional<std::size_t> FindLine(std::u16string_view application, std::u16string_view section,
-                                      std::u16string_view key) const;
-  /// Where to insert a new line of this section; appends the section if it has no line.
-  std::vector<Line>::iterator EndOf(const SectionName& section);
+  Line Read(std::string_view text, Section* section);
+  /// Makes a line that is in the list known to its section.
+  void Enter(Lines::iterator line);
+  const Lines::iterator* FindLine(std::u16string_view application, std::u16string_view section,
+                                  std::u16string_view key) const;
+  void AppendHeader(const SectionName& name, Section& section);
 
-  std::set<SectionName> sections_;
-  std::vector<Line> lines_;
+  std::map<SectionName, Section> sections_;
+  Lines lines_;
 };
 
 }  // namespace lumenote
