@@ -60,10 +60,19 @@ std::size_t LineStarts::LastUpTo(Position position) const {
   return static_cast<std::size_t>(behind - starts_.begin()) - 1;
 }
 
-std::size_t LineStarts::IndexOf(Position position) {
-  while (starts_.back().at <= position && Extend()) {
+// The least index that a line of this paragraph, not before the last line known, can have.
+std::size_t LineStarts::LeastIndexIn(Position paragraph) const {
+  const Position between = paragraph - document_.ParagraphOf(starts_.back().at);
+  return starts_.size() - 1 + static_cast<std::size_t>(between);
+}
+
+std::size_t LineStarts::IndexOf(Position position, std::size_t limit) {
+  const Position paragraph = document_.ParagraphOf(position);
+  while (starts_.back().at <= position) {
+    if (LeastIndexIn(paragraph) >= limit) return limit;
+    if (!Extend()) break;
   }
-  return LastUpTo(position);
+  return std::min(LastUpTo(position), limit);
 }
 
 bool LineStarts::Has(std::size_t line) {
@@ -123,8 +132,9 @@ bool LineStarts::IsSound(std::size_t from) const {
 LineTable::LineTable(const Document& document, LineBreaker& breaker)
     : document_(document), all_(document, breaker), near_(document, breaker) {}
 
-std::int32_t LineTable::LineOf(Position position) {
-  return static_cast<std::int32_t>(all_.IndexOf(std::clamp(position, 0, document_.Length())));
+std::int32_t LineTable::LineOf(Position position, std::int32_t limit) {
+  const Position inside = std::clamp(position, 0, document_.Length());
+  return static_cast<std::int32_t>(all_.IndexOf(inside, static_cast<std::size_t>(limit)));
 }
 
 Position LineTable::LineStart(std::int32_t line) {

@@ -2,6 +2,7 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "document/Document.h"
@@ -48,6 +49,8 @@ struct Line {
 /// its paragraph's format.
 class LineStarts {
  public:
+  static constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
+
   LineStarts(const Document& document, LineBreaker& breaker);
 
   /// Discards everything and restarts at a paragraph's start.
@@ -55,8 +58,9 @@ class LineStarts {
   Position First() const { return starts_.front().at; }
   /// Whether `position` lies in the known lines or in the last one's paragraph.
   bool Covers(Position position) const;
-  /// Index of the line that holds `position`, relative to the first line here.
-  std::size_t IndexOf(Position position);
+  /// Index of the line that holds `position`, relative to the first line here; `limit` as soon as
+  /// it is known to be no less, as a paragraph that is not laid out has one line at least.
+  std::size_t IndexOf(Position position, std::size_t limit = kNoLimit);
   /// Whether line `line` exists; lays out up to it.
   bool Has(std::size_t line);
   Line At(std::size_t line);
@@ -70,6 +74,7 @@ class LineStarts {
   };
 
   bool Extend();
+  std::size_t LeastIndexIn(Position paragraph) const;
   std::size_t LastUpTo(Position position) const;
   bool FollowsSpace(Position start) const;
   bool StartsParagraph(Position start) const;
@@ -89,11 +94,12 @@ class LineStarts {
 class LineTable {
  public:
   static constexpr Position kPiece = 4000;
+  static constexpr std::int32_t kEveryLine = std::numeric_limits<std::int32_t>::max();
 
   LineTable(const Document& document, LineBreaker& breaker);
 
-  /// Number, from 0, of the line that holds `position`.
-  std::int32_t LineOf(Position position);
+  /// Number, from 0, of the line that holds `position`, if less than `limit`, else `limit`.
+  std::int32_t LineOf(Position position, std::int32_t limit = kEveryLine);
   /// First position of a line, or -1 if there is no such line.
   Position LineStart(std::int32_t line);
   /// The position after the line's last character, excluding its break; -1 as above.

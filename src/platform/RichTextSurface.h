@@ -164,6 +164,8 @@ class RichTextSurface {
 
   /// Lines as laid out on screen, counted from 0.
   virtual std::int32_t LineFromChar(Position position) const = 0;
+  /// The same, but `limit` for any line from it on, so that no more is laid out than that takes.
+  virtual std::int32_t LineFromChar(Position position, std::int32_t limit) const = 0;
   /// First position of a line; -1 for a line that does not exist.
   virtual Position LineIndex(std::int32_t line) const = 0;
   /// Length of the line that holds `position`, without its break.

@@ -1,5 +1,7 @@
 #include "selection/TextUnits.h"
 
+#include <limits>
+
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 
@@ -10,6 +12,8 @@ namespace {
 constexpr std::u16string_view kWordEnds = u"\r\n ,;:.?!";
 constexpr std::u16string_view kSentenceEnds = u".?!";
 constexpr std::u16string_view kParagraphEnds = u"\r\n";
+// The first line number that overflows.
+constexpr std::int32_t kLineLimit = std::numeric_limits<std::int16_t>::max() + 1;
 
 void SelectBetween(RichTextSurface& surface, std::u16string_view delimiters) {
   surface.Span(delimiters, false, true);
@@ -36,7 +40,8 @@ void SelectParagraphe(RichTextSurface& surface) {
 
 void SelectLigne(RichTextSurface& surface, bool& failed) {
   const Position caret = surface.SelStart();
-  const Position start = surface.LineIndex(ToInt16(std::int64_t{surface.LineFromChar(caret)}));
+  const std::int32_t line = surface.LineFromChar(caret, kLineLimit);
+  const Position start = surface.LineIndex(ToInt16(std::int64_t{line}));
   if (start < 0) {
     failed = true;
     return;

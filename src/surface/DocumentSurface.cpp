@@ -108,6 +108,10 @@ std::int32_t DocumentSurface::LineFromChar(Position position) const {
   return core_.Lines().LineOf(position);
 }
 
+std::int32_t DocumentSurface::LineFromChar(Position position, std::int32_t limit) const {
+  return core_.Lines().LineOf(position, limit);
+}
+
 Position DocumentSurface::LineIndex(std::int32_t line) const {
   return core_.Lines().LineStart(line);
 }

@@ -110,6 +110,7 @@ class DocumentSurface final : public RichTextSurface {
   void Clear() override { text_.DeleteSelection(UndoKind::Delete); }
 
   std::int32_t LineFromChar(Position position) const override;
+  std::int32_t LineFromChar(Position position, std::int32_t limit) const override;
   Position LineIndex(std::int32_t line) const override;
   Position LineLength(Position position) const override;
 

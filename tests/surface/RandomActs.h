@@ -207,6 +207,8 @@ class RandomActs : UserBench {
     EXPECT_EQ(surface.Lines().LineAt(at), fresh.LineAt(at));
     const std::int32_t line = fresh.LineOf(at);
     EXPECT_EQ(surface.LineFromChar(at), line);
+    for (const std::int32_t limit : {line / 2, line, line + 1})
+      EXPECT_EQ(LineTable(surface.Content(), breaker).LineOf(at, limit), std::min(line, limit));
     EXPECT_EQ(LineTable(surface.Content(), breaker).LineStart(line), fresh.LineAt(at).start);
   }
   void Open() {
