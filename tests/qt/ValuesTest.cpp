@@ -1,11 +1,14 @@
 // Values that cross the edge to the toolkit: lengths, typed text, clipboard content.
 #include <QGuiApplication>
 #include <QImage>
+#include <QLineEdit>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QUrl>
 #include <gtest/gtest.h>
 
 #include "backends/qt/toolkit/Keys.h"
+#include "backends/qt/toolkit/LineEdits.h"
 #include "backends/qt/toolkit/MimeContent.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
@@ -20,6 +23,20 @@ TEST(UnitsTest, NeighboursNeitherGapNorOverlap) {
     EXPECT_EQ(ToPixels(one).right() + 1, ToPixels(other).left());
   }
   EXPECT_EQ(ToPixels({-10, 0, 25, 1e30F}), QRect(-1, 0, 2, 32000));
+}
+
+TEST(LineEditsTest, MenusSpeakFrench) {
+  QLineEdit line(QStringLiteral("texte"));
+  GiveFrenchMenu(line);
+  emit line.customContextMenuRequested({});
+  const auto* const menu = line.findChild<QMenu*>();
+  ASSERT_TRUE(menu);
+  QStringList labels;
+  for (const QAction* entry : menu->actions())
+    labels += entry->text().section(u'\t', 0, 0).remove(u'&');
+  EXPECT_EQ(labels.join(u'|').toStdString(),
+            "Annuler|Rétablir||Couper|Copier|Coller|Supprimer||Tout sélectionner");
+  EXPECT_TRUE(menu->actions().front()->text().contains(u'\t')) << "the shortcut stays";
 }
 
 TEST(KeysTest, OnlyTextIsTyped) {

@@ -58,6 +58,7 @@ TEST(SpelledWords, AreThoseThatAFrenchDictionaryMayHave) {
       {u"'un' -deux- a 2n x2 12 \\'c9t\\'e9, {\\i Orchis}", u"un|deux|\u00C9t\u00E9"},
       {u"{\\lang1033 color }{\\lang3084 couleur }{\\v vu}\\par deux", u"couleur|deux"},
       {u"Huds., 1762 ; alt. 420 ; fin.\\par Plante. Une.", u"fin|Plante|Une"},
+      {u"mot \\u945 ?\\u946 ? \\u28450 ?\\u23383 ? \\u339 ?uf", u"mot|\u0153uf"},
       {u"un_deux trois\\u769 ? quatre", u"quatre"}};
   for (const auto& [rtf, words] : rows) {
     UserBench bench;

@@ -23,8 +23,11 @@ bool IsInWord(std::u16string_view text, std::size_t i) {
          IsWordCharacter(text[i + 1]);
 }
 
+bool IsLatin(char16_t c) { return c < u'\u0250' || (c >= u'\u1E00' && c < u'\u1F00'); }
+
+/// Words of other scripts are in no French dictionary.
 bool IsSpelled(std::u16string_view word) {
-  const auto isLetter = [](char16_t c) { return IsLetter(c) || IsJoint(c); };
+  const auto isLetter = [](char16_t c) { return (IsLatin(c) && IsLetter(c)) || IsJoint(c); };
   return word.size() > 1 && word.size() <= kLongest && std::ranges::all_of(word, isLetter);
 }
 

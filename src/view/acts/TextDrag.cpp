@@ -1,10 +1,16 @@
 #include "view/acts/TextDrag.h"
 
+#include <algorithm>
+
 #include "html/write/Writer.h"
 #include "rtf/write/Writer.h"
 
 namespace lumenote {
 
+std::u16string TextExcerpt::Beginning() const {
+  constexpr Position kMost = 100;
+  return document_.Text(range_.start, std::min(range_.end, range_.start + kMost));
+}
 std::string TextExcerpt::Rtf() const { return WriteRtf(document_, range_.start, range_.end); }
 std::string TextExcerpt::Html() const { return WriteHtml(document_, range_.start, range_.end); }
 

@@ -17,6 +17,8 @@ class TextExcerpt {
   Selection Range() const { return range_; }
   /// Generated on request.
   std::u16string Text() const { return document_.Text(range_.start, range_.end); }
+  /// As much of the text as tells what it is.
+  std::u16string Beginning() const;
   std::string Rtf() const;
   std::string Html() const;
   ClipboardContent Content() const { return {Text(), Rtf(), Html()}; }

@@ -17,7 +17,7 @@ constexpr double kMaxPoints = 1638;
 constexpr double kScriptSize = 0.65;
 constexpr double kSuperscriptRaise = 0.33;  // of the full size
 constexpr double kSubscriptRaise = -0.14;
-constexpr double kLeastContrast = 2;
+constexpr double kLeastContrast = 3;
 constexpr Colour kBlack = 0;
 constexpr Colour kWhite = 0xFFFFFF;
 constexpr Colour kLinkColour = 0xC16305;  // a blue, and a lighter one
@@ -59,10 +59,6 @@ Colour Reflected(Colour colour) {
 
 bool IsDark(Colour ground) { return Channels(ground).Lightness() < 255; }
 
-Colour Readable(Colour wanted, Colour ground) {
-  return !IsDark(ground) || Contrast(wanted, ground) >= kLeastContrast ? wanted : Reflected(wanted);
-}
-
 void SetColours(CharLook& look, const CharFormat& format, Colour ground) {
   look.ground = format.highlight;
   if (format.highlight == kAutoColour)
@@ -97,6 +93,10 @@ void ShowLink(CharLook& look, Colour ground) {
 }
 
 }  // namespace
+
+Colour Readable(Colour wanted, Colour ground) {
+  return !IsDark(ground) || Contrast(wanted, ground) >= kLeastContrast ? wanted : Reflected(wanted);
+}
 
 CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground) {
   CharLook look;

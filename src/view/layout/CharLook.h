@@ -24,6 +24,9 @@ struct CharLook {
   Colour ground = kAutoColour;
 };
 
+/// The colour, lightened if it has too little contrast with a dark ground.
+Colour Readable(Colour wanted, Colour ground);
+
 /// `ground` is that of the note; ink with too little contrast is lightened on a dark one.
 CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground);
 

@@ -17,6 +17,7 @@
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/FrenchTexts.h"
 #include "backends/qt/toolkit/QtText.h"
+#include "view/layout/CharLook.h"
 
 namespace lumenote {
 
@@ -62,6 +63,7 @@ class ColouredFontDialog : public QFontDialog {
       : QFontDialog(FontOf(shown), over),
         colour_(FromBgr(static_cast<std::uint32_t>(shown.colour.value_or(0)))) {
     setOption(QFontDialog::DontUseNativeDialog);
+    setFont(ControlFont());
     setWindowTitle(QStringLiteral("Police"));
     HideWritingSystems();
     ShowStylesInFrench();
@@ -124,7 +126,8 @@ class ColouredFontDialog : public QFontDialog {
     for (auto* frame : findChildren<QGroupBox*>())
       for (auto* sample : frame->findChildren<QLineEdit*>()) {
         QPalette palette = sample->palette();
-        palette.setColor(QPalette::Text, colour_);
+        const std::uint32_t ground = ToBgr(palette.color(QPalette::Base));
+        palette.setColor(QPalette::Text, FromBgr(Readable(ToBgr(colour_), ground)));
         sample->setPalette(palette);
       }
   }
@@ -133,6 +136,7 @@ class ColouredFontDialog : public QFontDialog {
   void ChooseColour() {
     const QPointer<QColorDialog> dialog = new QColorDialog(colour_, this);
     dialog->setOption(QColorDialog::DontUseNativeDialog);
+    dialog->setFont(ControlFont());
     dialog->setWindowTitle(QStringLiteral("Couleur"));
     ShowInFrench(*dialog);
     if (dialog->exec() != QDialog::Accepted || !dialog) return;

@@ -2,10 +2,12 @@
 
 #include <windowsx.h>
 
+#include "backends/win32/peers/base/FrameClip.h"
 #include "backends/win32/toolkit/input/Keys.h"
 #include "backends/win32/toolkit/input/MouseButtons.h"
 #include "backends/win32/toolkit/input/MousePoint.h"
 #include "forms/Form.h"
+#include "forms/controls/labels/Frame.h"
 
 namespace lumenote {
 namespace {
@@ -43,6 +45,7 @@ void ControlPeer::Place(const RECT& bounds) {
   const SIZE size = SizeOf(bounds);
   SetWindowPos(Handle(), nullptr, bounds.left, bounds.top, size.cx, size.cy,
                SWP_NOZORDER | SWP_NOACTIVATE);
+  if (dynamic_cast<const Frame*>(&control_.Parent())) ClipInFrame(Handle());
 }
 
 void ControlPeer::Rescale() {

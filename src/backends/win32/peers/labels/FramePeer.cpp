@@ -1,5 +1,6 @@
 #include "backends/win32/peers/labels/FramePeer.h"
 
+#include "backends/win32/peers/base/FrameClip.h"
 #include "backends/win32/system/NativeText.h"
 #include "backends/win32/toolkit/drawing/Colours.h"
 #include "backends/win32/toolkit/drawing/Gdi.h"
@@ -39,6 +40,13 @@ void FrameWindow::Paint(HDC dc, const RECT& area) {
   if (!caption.empty()) DrawTextW(dc, Wide(caption), -1, &title, DT_CALCRECT | DT_SINGLELINE);
   PaintBorder(dc, area, title, scale.Pixels(kTitleGap));
   PaintCaption(dc, title, DT_SINGLELINE);
+}
+
+LRESULT FrameWindow::Receive(const Message& message) {
+  if (message.id == WM_SIZE)
+    for (HWND child = GetWindow(Handle(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+      ClipInFrame(child);
+  return PaintedWindow::Receive(message);
 }
 
 FramePeer::FramePeer(Frame& frame, HWND parent, PeerHost& host)

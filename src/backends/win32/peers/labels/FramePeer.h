@@ -13,6 +13,7 @@ class FrameWindow final : public PaintedWindow {
 
  protected:
   void Paint(HDC dc, const RECT& area) override;
+  LRESULT Receive(const Message& message) override;
 };
 
 class FramePeer final : public CaptionPeer {
