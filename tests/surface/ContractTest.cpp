@@ -156,7 +156,7 @@ TEST_F(SurfaceContract, WhatNobodyStatesIsShownAndStaysUnsaid) {
   };
   for (const auto& [source, font, points, body] : Rows16<4>(R"(
 \b ab => Arial => 10 => \b ab ¦ \fs24\li0 ab => Arial => 12 => \li0\fs24 ab
-\deff1{\fonttbl{\f1 Courier;}}\plain\qc ab => Courier => 10 => \qc ab
+\deff1{\fonttbl{\f1 Courier;}}\plain\qc ab => Courier => 10 => \qc\plain ab
 {\fonttbl{\f0 Courier;}}\f0\cf0 ab => Courier => 10 => \cf0\f0 ab
 )",
                                                             " => ")) {
@@ -165,6 +165,12 @@ TEST_F(SurfaceContract, WhatNobodyStatesIsShownAndStaysUnsaid) {
     EXPECT_EQ(s.SelFontSize(), std::stof(ToUtf8(points)));
     EXPECT_EQ(saved(), body + u"\\par }\r\n");
   }
+  s.TextRTF(u"{\\rtf1\\sa4 a\\plain b\\sa6}");
+  EXPECT_EQ(saved(), u"\\sa4 a\\plain b\\sa6\\par }\r\n");
+  Select(u"^a|b");
+  s.SelBold(true);
+  s.SelAlignment(1);
+  EXPECT_EQ(saved(), u"\\sa6\\qr\\b a\\b0 b\\par }\r\n");
   s.TextRTF(u"{\\rtf1 ab\\par}");
   Select(u"^a|b");
   s.SelFontName(*s.SelFontName());

@@ -79,6 +79,20 @@ inline constexpr Colour kAutoColour = 0xFF000000;
 /// written anyway.
 enum CharStated : std::uint8_t { kStatesFont = 1, kStatesSize = 2, kStatesColour = 4 };
 
+/// Whether the source says \plain where a run begins although that changes nothing, since some
+/// readers understand it in another way there.
+enum class Reset : std::uint8_t {
+  None,
+  BehindText,       // directly behind other text
+  AgainBehindText,  // the same in a neighbour of such a run, to stay apart from it
+  First,            // nowhere before it
+  Edited            // an edit formatted the run: neither it nor the text behind it begins so
+};
+
+inline bool IsBehindText(Reset reset) {
+  return reset == Reset::BehindText || reset == Reset::AgainBehindText;
+}
+
 /// All attributes of a run. Plain data without padding, so that it can be hashed and compared
 /// bytewise.
 struct CharFormat {
@@ -95,9 +109,7 @@ struct CharFormat {
   std::uint16_t scale = 100;   // per cent of the width
   Underline underline = Underline::None;
   std::uint8_t stated = kStatesFont | kStatesSize;  // CharStated
-  // Begins with a \plain directly behind other text: 1, then 2, then 1, so that neighbouring runs
-  // of that kind stay apart. 0 does not.
-  std::uint8_t reset = 0;
+  Reset reset = Reset::None;
   std::uint8_t reserved = 0;
   bool operator==(const CharFormat&) const = default;
 };
@@ -140,6 +152,9 @@ struct ParaFormat {
   std::uint8_t nesting = 0;  // of the enclosing table, 0 none
   std::uint16_t stated = 0;  // ParaStated
   std::uint16_t reserved = 0;
+  // What the source says of the paragraph before its text, where it goes on behind it; 0 the same.
+  // Some readers take only that.
+  ParaId opening = 0;
   bool operator==(const ParaFormat&) const = default;
 };
 static_assert(std::has_unique_object_representations_v<ParaFormat>);

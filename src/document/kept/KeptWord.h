@@ -30,6 +30,7 @@ static_assert(std::has_unique_object_representations_v<KeptWord>);
 inline bool IsScript(KeptWord word) {
   return word.kind == KeptWord::Kind::Script || word.kind == KeptWord::Kind::HighScript;
 }
+inline bool IsNumbering(KeptWord word) { return word.kind == KeptWord::Kind::Numbering; }
 inline bool IsMark(KeptWord word) {
   return word.kind >= KeptWord::Kind::Direction && word.kind <= KeptWord::Kind::HighScript;
 }

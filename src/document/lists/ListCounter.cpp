@@ -3,11 +3,6 @@
 #include <algorithm>
 
 namespace lumenote {
-namespace {
-
-bool IsNumbering(KeptWord word) { return word.kind == KeptWord::Kind::Numbering; }
-
-}  // namespace
 
 NoteLists::NoteLists(const FormatTables& tables, HeadId head)
     : tables_(tables), page_(tables.heads[head].page), definitions_(page_) {

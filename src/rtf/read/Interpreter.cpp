@@ -8,6 +8,7 @@
 #include "document/paste/HeadMerge.h"
 #include "document/paste/PastedText.h"
 #include "rtf/read/Keywords.h"
+#include "rtf/words/LateWords.h"
 
 namespace lumenote {
 namespace {
@@ -185,7 +186,8 @@ void Interpreter::Close() {
   } else {
     HoldParagraph();
     groups_.pop_back();
-    if (State().character.reset != 0) EditCharacter().reset = 0;  // } is between it and the text
+    // } is between the text and its \plain.
+    if (IsBehindText(State().character.reset)) EditCharacter().reset = Reset::None;
   }
   if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
 }
@@ -274,6 +276,8 @@ void Interpreter::BeforeText() {
   if (inHead_) BeginBody();
   if (!marker_.empty()) PlaceMarker();
   if (body_.Holds()) body_.Release();
+  const bool opens = !opening_ && !placingMarker_ && target_ == RtfTarget::Document;
+  if (opens) opening_ = ParagraphNumber();
 }
 
 CharFormat& Interpreter::EditCharacter() {
@@ -322,11 +326,42 @@ ParaId Interpreter::NumberOf(const ParagraphState& paragraph) {
 
 ParaId Interpreter::EndedParagraph() {
   paragraphStart_ = contentCount_;
-  if (!held_) return ParagraphNumber();
+  if (!held_) return Opened(ParagraphNumber());
   ParagraphState ended = *std::exchange(held_, std::nullopt);
   ended.inTable |= State().paragraph.inTable;
   ended.nesting = std::max(ended.nesting, State().paragraph.nesting);
-  return NumberOf(ended);
+  return Opened(NumberOf(ended));
+}
+
+/// The format of a paragraph that ends with `ended`, with that which it began with.
+ParaId Interpreter::Opened(ParaId ended) {
+  const ParaId began = std::exchange(opening_, std::nullopt).value_or(ended);
+  const bool alignedLate = std::exchange(alignedLate_, false);
+  if (began == ended) return ended;
+  ParaFormat format = formats_.paragraphs[ended];
+  const ParaFormat opening = OpeningOf(format, formats_.paragraphs[began], alignedLate);
+  if (opening == format) return ended;
+  format.opening = formats_.paragraphs.Intern(opening);
+  return formats_.paragraphs.Intern(format);
+}
+
+/// The format that the source states in the beginning of a paragraph which ends in `format`. Lists
+/// and tables are said only once, and so is an alignment behind the text, since with it readers
+/// take what else is said there, too.
+ParaFormat Interpreter::OpeningOf(const ParaFormat& format, ParaFormat began, bool alignedLate) {
+  began.bullet = format.bullet;
+  began.list = format.list;
+  began.level = format.level;
+  began.nesting = format.nesting;
+  const bool numbered =
+      formats_.words.Any(format.words, IsNumbering) || formats_.words.Any(began.words, IsNumbering);
+  if (numbered) began.words = format.words;
+  const bool late = alignedLate || !Addition(began, format, formats_);
+  if (late && (format.stated & kStatesAlignment) != 0) {
+    began.stated = static_cast<std::uint16_t>(began.stated & ~kStatesAlignment);
+    began.alignment = Alignment::Left;
+  }
+  return began;
 }
 
 /// Groups can restore long lists at no cost in source bytes, so their total is limited.

@@ -160,12 +160,15 @@ class Interpreter {
   /// The enclosing group's state, for groups that affect what follows them.
   GroupState& Outer() { return groups_.size() > 1 ? groups_[groups_.size() - 2] : groups_.back(); }
   CharFormat& EditCharacter();
+  Reset ResetHere();
   CharFormat& StatedCharacter(CharStated attribute);
   ParagraphState& EditParagraph();
   ParaFormat& StatedFormat(ParaStated attribute);
   CharId CharacterNumber();
   ParaId ParagraphNumber();
   ParaId NumberOf(const ParagraphState& paragraph);
+  ParaId Opened(ParaId ended);
+  ParaFormat OpeningOf(const ParaFormat& format, ParaFormat began, bool alignedLate);
   void HoldParagraph();
   /// The format of the paragraph or cell that ends here.
   ParaId EndedParagraph();
@@ -192,6 +195,8 @@ class Interpreter {
   std::uint32_t paragraphEdits_ = 0;
   std::size_t paragraphStart_ = 0;           // the content count when the paragraph began
   std::optional<ParagraphState> held_ = {};  // of a closed group with all its text
+  std::optional<ParaId> opening_ = {};       // its format where its text began
+  bool alignedLate_ = false;                 // its alignment has been said behind that
 
   ItemKeeper items_;
   ItemKeeper nestedRow_;  // the definition of the current nested row, if in a group of its own
@@ -206,15 +211,16 @@ class Interpreter {
   KeptHead head_;
   KeptItems headItems_;
 
-  int swallow_ = 0;             // fallback characters of a \u still to skip
-  bool atText_ = false;         // the last token was text
-  bool behindText_ = false;     // so was the token before the present one
-  std::uint8_t lastReset_ = 2;  // `CharFormat::reset` of the last run that has one
-  bool opened_ = false;         // the last token was {
-  bool wasOpened_ = false;      // so was the token before the present one
-  bool starred_ = false;        // the last token was \* directly after {
-  bool wasStarred_ = false;     // so was the token before the current one
-  std::string bytes_;           // undecoded bytes of a multi-byte page
+  int swallow_ = 0;                // fallback characters of a \u still to skip
+  bool atText_ = false;            // the last token was text
+  bool behindText_ = false;        // so was the token before the present one
+  bool wasReset_ = false;          // there has been a \plain
+  Reset lastReset_ = Reset::None;  // of the last \plain behind text
+  bool opened_ = false;            // the last token was {
+  bool wasOpened_ = false;         // so was the token before the present one
+  bool starred_ = false;           // the last token was \* directly after {
+  bool wasStarred_ = false;        // so was the token before the current one
+  std::string bytes_;              // undecoded bytes of a multi-byte page
   std::u16string decoded_;
   bool placingMarker_ = false;
   bool numbering_ = false;   // the marker being read is a list number

@@ -1,7 +1,9 @@
 // Control words for character formats, and the document's defaults.
 #include <algorithm>
+#include <utility>
 
 #include "base/Numbers.h"
+#include "document/kept/EntryWords.h"
 #include "rtf/read/Interpreter.h"
 #include "rtf/words/CharacterWords.h"
 
@@ -41,15 +43,23 @@ void Interpreter::Fallback(int, const Token& word) {
   State().fallback = word.hasNumber ? std::max(word.number, 0) : 1;
 }
 
-/// A note's \plain directly behind text is remembered, since some readers understand it in another
-/// way there.
 void Interpreter::Plain(int, const Token&) {
   BeginBody();
   CharFormat& format = EditCharacter();
   format = default_;
-  if (behindText_ && target_ == RtfTarget::Document) format.reset = lastReset_ ^= 3;
+  format.reset = ResetHere();
   const SourceFont* font = fonts_.Find(defaultFont_);
   State().page = CodePage(font && font->page ? font->page : documentPage_);
+}
+
+/// How readers may misunderstand the \plain here. They give text font 0 from the first one on, but
+/// the default one before.
+Reset Interpreter::ResetHere() {
+  if (target_ != RtfTarget::Document) return Reset::None;
+  const bool first = !std::exchange(wasReset_, true) && defaultFont_ > 0;
+  if (!behindText_) return first ? Reset::First : Reset::None;
+  const bool again = lastReset_ == Reset::BehindText;
+  return lastReset_ = again ? Reset::AgainBehindText : Reset::BehindText;
 }
 
 /// The character format, to change an attribute that the source states.
@@ -65,7 +75,10 @@ void Interpreter::Font(int, const Token& word) {
   CharFormat& format = StatedCharacter(kStatesFont);
   format.font = font->font;
   const WordsId words = words_.WithFont(State().fontNumber, format.words);
-  needsTables_ |= words != format.words;
+  const auto namesFont = [this](KeptWord kept) {
+    return TableNamedBy(formats_.names[kept.name]).has_value();
+  };
+  needsTables_ |= words != format.words && formats_.words.Any(words, namesFont);
   format.words = words;
   State().fontNumber = word.number;
   State().page = CodePage(font->page ? font->page : documentPage_);

@@ -76,6 +76,7 @@ ParaFormat& Interpreter::StatedFormat(ParaStated attribute) {
 }
 
 void Interpreter::Align(int value, const Token&) {
+  alignedLate_ |= opening_.has_value();
   StatedFormat(kStatesAlignment).alignment = static_cast<Alignment>(value);
 }
 

@@ -205,9 +205,10 @@ void Output::Word(std::string_view name, int number) {
                                 digits));
 }
 
-void Output::Reset() {
-  if (afterText_) Raw("{}");
+void Output::Reset(bool behindText) {
+  if (afterText_ && !behindText) Raw("{}");
   Word("plain");
+  hasReset_ = true;
 }
 
 void Output::Symbol(std::string_view name) {

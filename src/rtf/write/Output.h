@@ -32,8 +32,10 @@ class Output {
   void Word(std::string_view name);
   void Word(std::string_view name, int number);
   /// Writes \plain. After text it is set apart, since some readers format text only when they meet
-  /// the next word.
-  void Reset();
+  /// the next word, unless it is to be `behindText` as it is.
+  void Reset(bool behindText = false);
+  /// Whether there has been a \plain.
+  bool HasReset() const { return hasReset_; }
   /// Whether text without a word or brace behind it precedes.
   bool AfterText() const { return afterText_; }
   /// Writes a control word that stands for a character.
@@ -86,6 +88,7 @@ class Output {
   std::vector<char> buffer_;
   std::size_t size_ = 0;
   bool openWord_ = false;
+  bool hasReset_ = false;
   bool afterText_ = false;  // the last characters have no word or brace behind them
 };
 

@@ -3,19 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "rtf/words/LateWords.h"
+
 namespace lumenote {
 namespace {
 
-bool IsNumbering(KeptWord word) { return word.kind == KeptWord::Kind::Numbering; }
-
 bool IsDefinition(const KeptItem& item) {
   return item.kind == KeptItem::Kind::Section || item.kind == KeptItem::Kind::Row;
-}
-
-/// Whether the source has \plain directly behind the text; so has the copy, for readers that take
-/// the text's format away then.
-bool Resets(const WrittenFormat& from, const WrittenFormat& to) {
-  return to.reset != 0 && to.reset != from.reset && (from.effects & kSuperscript) == 0;
 }
 
 }  // namespace
@@ -24,18 +18,19 @@ bool Resets(const WrittenFormat& from, const WrittenFormat& to) {
 
 void WrittenBody::BeginParagraph() {
   begun_ = true;
-  if (HasFormat()) Paragraph(Governing(), true);
+  if (HasFormat()) Paragraph(Opening(Governing()), true);
   const std::vector<WrittenParagraphs::LeadingItems>& leading = paragraphs_.leading;
   for (; leading_ < leading.size() && leading[leading_].paragraph <= index_; ++leading_)
     Items(tables_.kept[leading[leading_].kept].before);
 }
 
+WrittenBody::Known WrittenBody::KnownOf(ParaId id) {
+  return {&Words(id), Nesting(), tables_.paragraphs[id].bullet != 0};
+}
+
 void WrittenBody::Paragraph(ParaId id, bool atStart) {
-  const Known wanted{&Words(id), Nesting(), tables_.paragraphs[id].bullet != 0};
-  const bool sameWords =
-      wanted.words == known_.words || (known_.words && *wanted.words == *known_.words);
-  const bool changed =
-      !sameWords || wanted.nesting != known_.nesting || wanted.bullet != known_.bullet;
+  const Known wanted = KnownOf(id);
+  const bool changed = wanted != known_;
   known_ = wanted;
   if (changed) out_.Word("pard");
   if (wanted.bullet) Bullet(id, changed, atStart);
@@ -43,6 +38,24 @@ void WrittenBody::Paragraph(ParaId id, bool atStart) {
   if (wanted.nesting > 0) out_.Word("intbl");
   if (wanted.nesting > 1) out_.Word("itap", wanted.nesting);
   out_.Words(*wanted.words);
+}
+
+/// The format that the paragraph's text begins with.
+ParaId WrittenBody::Opening(ParaId id) const {
+  const ParaId opening = tables_.paragraphs[id].opening;
+  return opening != 0 && !part_ ? opening : id;
+}
+
+void WrittenBody::EndFormat(ParaId id) {
+  const ParaId opening = Opening(id);
+  if (opening != id && known_ == KnownOf(opening)) {
+    const auto added = Addition(tables_.paragraphs[opening], tables_.paragraphs[id], tables_);
+    if (added) {
+      out_.Words(ParagraphWords(*added, tables_));
+      known_ = KnownOf(id);
+    }
+  }
+  Paragraph(id, false);
 }
 
 /// The format, without a list that the source does not define.
@@ -160,15 +173,25 @@ void WrittenBody::CloseField() {
   out_.Raw(IsListNumber(field.id) ? "}" : "}}");
   known_ = field.known;
   format_ = field.format;
-  if (begun_ && HasFormat()) Paragraph(Governing(), false);
+  if (begun_ && HasFormat()) Paragraph(Opening(Governing()), false);
 }
 
 // --- characters
 
+/// Whether the source has a \plain here that this format begins with; so has the copy, for readers
+/// that take the format away from the text before.
+bool WrittenBody::Resets(const WrittenFormat& wanted) const {
+  if (wanted.reset == Reset::First) return !out_.HasReset();
+  return IsBehindText(wanted.reset) && wanted.reset != format_.reset && out_.AfterText() &&
+         (format_.effects & kSuperscript) == 0 && !edited_;
+}
+
 void WrittenBody::Format(CharId format) {
   const WrittenFormat& wanted = formats_[format];
+  const bool resets = Resets(wanted);
+  edited_ = tables_.characters[format].reset == Reset::Edited;
   if (wanted == format_) return;
-  if (!(out_.AfterText() && Resets(format_, wanted))) format_.reset = wanted.reset;
+  if (!resets) format_.reset = wanted.reset;
   if (wanted == format_) return;
   WriteChange(format_, wanted, tables_, out_);
   format_ = wanted;
@@ -251,7 +274,7 @@ std::size_t WrittenBody::KeptCharacter(const Kept& kept, char16_t unit) {
 }
 
 void WrittenBody::EndCell(const Kept& kept) {
-  Paragraph(Governing(), false);
+  EndFormat(Governing());
   out_.Word(kept.nested != 0 ? "nestcell" : "cell");
   if (kept.kind == Kept::Kind::Row && kept.nested != 0)
     EndNestedRow(kept.self);
@@ -287,7 +310,7 @@ std::size_t WrittenBody::Step(TextView text) {
 /// Writes a tab, break or object, identified by its first unit; returns its length.
 std::size_t WrittenBody::Special(char16_t unit) {
   if (unit == u'\r') {
-    Paragraph(paragraphs_.formats[index_], false);
+    EndFormat(paragraphs_.formats[index_]);
     out_.Raw("\\par\r\n");
     EndParagraph();
     return 2;
@@ -308,7 +331,7 @@ void WrittenBody::Finish(const FinalMark* mark) {
     if (IsValid(kept, u'\r')) {
       KeptCharacter(kept, u'\r');
     } else {
-      Paragraph(mark->paragraph, false);
+      EndFormat(mark->paragraph);
       out_.Raw("\\par ");
       begun_ = false;
     }

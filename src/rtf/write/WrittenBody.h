@@ -37,6 +37,11 @@ class WrittenBody {
     const std::string* words = nullptr;  // in `knownWords_`; null: nothing yet
     int nesting = 0;
     bool bullet = false;
+    bool operator==(const Known& other) const {
+      const bool sameWords =
+          words == other.words || (words && other.words && *words == *other.words);
+      return sameWords && nesting == other.nesting && bullet == other.bullet;
+    }
   };
   /// An open field, and the state to restore after it.
   struct Open {
@@ -48,7 +53,12 @@ class WrittenBody {
   void BeginParagraph();
   /// Writes the paragraph format `id` unless the reader knows it already.
   void Paragraph(ParaId id, bool atStart);
+  /// Writes the format that the paragraph or cell ends with.
+  void EndFormat(ParaId id);
+  ParaId Opening(ParaId id) const;
   void Bullet(ParaId id, bool changed, bool atStart);
+  /// What the reader knows behind the format `id`.
+  Known KnownOf(ParaId id);
   ParaFormat WrittenOf(ParaId paragraph) const;
   const std::string& Words(ParaId paragraph);
   /// The current cell; null if the rest of the paragraph has none.
@@ -69,6 +79,7 @@ class WrittenBody {
   void OpenField(FieldId id);
   void CloseField();
 
+  bool Resets(const WrittenFormat& wanted) const;
   void Format(CharId format);
   void KeptText(TextView text, CharId format, const Kept& kept, bool again);
   void Items(ItemId first);
@@ -97,6 +108,7 @@ class WrittenBody {
   Known known_;
   std::vector<std::optional<std::string>> knownWords_;  // by ParaId
   WrittenFormat format_;
+  bool edited_ = false;  // an edit made that format
   std::vector<Open> fields_;
   std::vector<FieldId> chain_;
   KeptId lastKept_;

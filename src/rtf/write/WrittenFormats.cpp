@@ -131,8 +131,14 @@ WrittenFormat WrittenFormats::Written(const CharFormat& format) {
     written.numbers[i] = Number(kNumberWords[i], format);
   written.effects = WrittenEffects(format.effects);
   written.underline = format.underline;
-  if (resets_) written.reset = format.reset;
+  if (Resets(format.reset)) written.reset = format.reset;
   return written;
+}
+
+/// A first \plain only matters if it ends the rule of another default font than font 0.
+bool WrittenFormats::Resets(Reset reset) const {
+  if (reset == Reset::First) return resets_ && defaultFont_ > 0;
+  return resets_ && reset != Reset::Edited;
 }
 
 /// Some readers give text that states no font font 0, not the default one.

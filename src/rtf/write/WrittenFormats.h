@@ -40,7 +40,8 @@ struct WrittenFormat {
   Underline underline = Underline::None;
   Encoding encoding = Encoding::Windows;  // that of the font
   WordsId words = 0;
-  std::uint32_t reset = 0;  // that of `CharFormat`; as wide as leaves no padding
+  Reset reset = Reset::None;
+  std::uint8_t reserved[3] = {};
   bool operator==(const WrittenFormat&) const = default;
 };
 
@@ -74,6 +75,7 @@ class WrittenFormats {
  private:
   const KeptHead& Head() const { return tables_.heads[head_]; }
   WrittenFormat Written(const CharFormat& format);
+  bool Resets(Reset reset) const;
   void SetFont(const CharFormat& format, WrittenFormat& written);
   struct Font {
     int number = 0;

@@ -69,6 +69,8 @@ struct WordOrder {
   bool marked = false;       // there are markers
   bool scripts = false;      // some of them of scripts
   bool leftToRight = false;  // one of text from left to right
+  bool ownFont = false;      // the font's place precedes the markers, and so does
+  bool ownSize = false;      // the size's, unless a script's marker comes first
   bool settled = true;       // a change of the run's own formats may follow as it is
 };
 
@@ -77,6 +79,8 @@ WordOrder OrderOf(WordsId words, const FormatTables& tables) {
   for (WordsId id = words; id != 0; id = tables.words[id].next) {
     const KeptWord word = tables.words[id];
     if (IsMark(word)) {
+      if (!order.marked) order.ownFont = order.hasFont;
+      if (!order.marked) order.ownSize = order.hasSize || IsScript(word);
       order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
       order.settled = !order.hasFont;
       order.marked = true;
@@ -105,6 +109,13 @@ void WriteWord(KeptWord word, const WrittenFormat& run, const FormatTables& tabl
     default:
       out.Word(name);
   }
+}
+
+/// Whether readers would take a font or size that is in force for that of text before the markers.
+bool Misplaces(const WrittenFormat& from, const WordOrder& order) {
+  const bool font = from.font >= 0 && !order.ownFont && !order.scripts;
+  const bool size = from.size > 0 && !order.ownSize;
+  return order.marked && (font || size);
 }
 
 /// Writes the kept words of a run from `first` up to `end`, its font and size among them.
@@ -199,14 +210,12 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   const bool moves = order.scripts || (order.marked && !order.leftToRight);
   const bool movesSize = rewords && moves && !order.hasSize && from.size > 0;
   const bool resets = from.reset != to.reset;
-  const bool anew = resets || (rewords && from.words != 0) || movesSize || TakesBack(from, to);
+  const bool anew = resets || movesSize || TakesBack(from, to) ||
+                    (rewords && (from.words != 0 || Misplaces(from, order)));
   const bool worded = anew || rewords;
   const WrittenFormat& base = anew ? kPlain : from;
   EndMark(from.effects, to.effects, anew, out);
-  if (resets)
-    out.Word("plain");
-  else if (anew)
-    out.Reset();
+  if (anew) out.Reset(resets && to.reset != Reset::First);
   if (worded) WriteWords(to.words, order.high, to, tables, out);
   if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
   if (base.underline != to.underline)

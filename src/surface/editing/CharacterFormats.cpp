@@ -54,16 +54,20 @@ auto CharacterFormats::Common(Get get) const -> std::optional<decltype(get(CharF
 template <class Differs, class Set>
 void CharacterFormats::Apply(Differs differs, Set set) {
   core_.RefuseWhileNotifying();
+  const auto edit = [&](CharFormat& format) {
+    set(format);
+    format.reset = Reset::Edited;
+  };
   if (!core_.HasSelection()) {
     CharFormat format = core_.InsertionFormat();
     if (!differs(format)) return;
-    set(format);
+    edit(format);
     return core_.InsertionFormat(format);
   }
   const auto map = [&](CharId id) {
     CharFormat format = core_.CharacterFormat(id);
     if (!differs(format)) return id;
-    set(format);
+    edit(format);
     return core_.Formats().characters.Intern(format);
   };
   const Selection selection = core_.Selected();

@@ -65,6 +65,8 @@ void ParagraphFormats::Apply(UndoKind kind, Set set) {
   const auto map = [&](ParaId id) {
     ParaFormat format = core_.ParagraphFormat(id);
     set(format);
+    if (format == core_.ParagraphFormat(id)) return id;
+    format.opening = 0;
     return core_.Formats().paragraphs.Intern(format);
   };
   // A table row is one paragraph here; the characters that end its cells hold the cells' formats.
