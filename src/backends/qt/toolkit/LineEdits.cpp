@@ -11,6 +11,7 @@ void GiveFrenchMenu(QLineEdit& line) {
   QObject::connect(&line, &QLineEdit::customContextMenuRequested, &line, [&line](QPoint at) {
     QMenu* const menu = line.createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setFont(line.font());
     ShowInFrench(*menu);
     menu->popup(line.mapToGlobal(at));
   });
