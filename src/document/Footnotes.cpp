@@ -3,21 +3,20 @@
 namespace lumenote {
 
 bool IsFootnote(const FormatTables& tables, const CharFormat& format) {
-  const Kept& kept = tables.kept[format.kept];
-  return kept.kind == Kept::Kind::Embedded && tables.items[kept.self].kind == KeptItem::Kind::Note;
+  return tables.items[EmbeddedItem(tables, format)].kind == KeptItem::Kind::Note;
 }
 
 bool HasNumber(const FormatTables& tables, const CharFormat& footnote) {
   const KeptHead none;
   constexpr int kAnyPage = 1252;
-  const KeptItem& item = tables.items[tables.kept[footnote.kept].self];
+  const KeptItem& item = tables.items[EmbeddedItem(tables, footnote)];
   return TextOfFootnote(item.source, SourcePages(none), kAnyPage).numbered;
 }
 
 std::optional<FootnoteText> FootnoteOf(const Document& document, const CharFormat& format) {
   const FormatTables& tables = document.Formats();
   if (!IsFootnote(tables, format)) return std::nullopt;
-  const KeptItem& item = tables.items[tables.kept[format.kept].self];
+  const KeptItem& item = tables.items[EmbeddedItem(tables, format)];
   const SourcePages pages(tables.heads[document.Mark().head]);
   return TextOfFootnote(item.source, pages, pages.At(format, tables.fonts[format.font].charset));
 }

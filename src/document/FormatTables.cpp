@@ -13,4 +13,9 @@ FormatTables::FormatTables() {
   heads.Intern({});
 }
 
+ItemId EmbeddedItem(const FormatTables& tables, const CharFormat& format) {
+  const Kept& kept = tables.kept[format.kept];
+  return kept.kind == Kept::Kind::Embedded ? kept.self : 0;
+}
+
 }  // namespace lumenote

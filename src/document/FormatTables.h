@@ -32,4 +32,7 @@ struct FormatTables {
   std::uint32_t serials = 0;
 };
 
+/// The item that text of the format stands for; 0 for other text.
+ItemId EmbeddedItem(const FormatTables& tables, const CharFormat& format);
+
 }  // namespace lumenote

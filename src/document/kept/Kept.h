@@ -43,12 +43,15 @@ inline bool IsBreak(const KeptItem& item) {
   return item.kind >= KeptItem::Kind::PageBreak && item.kind <= KeptItem::Kind::SectionBreak;
 }
 
+/// Stands in the text for an embedded item.
+inline constexpr char16_t kObjectCharacter = u'\uFFFC';
+
 /// What the source says at one character; it moves with the character.
 struct Kept {
   enum class Kind : std::uint8_t {
     Character,  // an ordinary character
     Break,      // the paragraph break that ends a page, column or section
-    Embedded,   // U+FFFC, the placeholder of an item
+    Embedded,   // `kObjectCharacter`
     Cell,       // the tab after a table cell
     Row,        // the break after a table row, which also ends its last cell
   };

@@ -10,7 +10,6 @@ namespace {
 
 constexpr int kHanging = 360;  // twips between a marker and its text
 constexpr char16_t kNoBreakSpace = u'\u00A0';
-constexpr char16_t kObject = u'\uFFFC';
 
 bool IsControl(char16_t c) { return c < u' ' || (c >= 0x7F && c < 0xA0); }
 
@@ -33,7 +32,7 @@ CharFormat OutsideOfLink(CharFormat character) {
 }  // namespace
 
 bool IsOrdinary(char16_t c) {
-  return c != u' ' && c != kNoBreakSpace && c != kObject && !IsControl(c);
+  return c != u' ' && c != kNoBreakSpace && c != kObjectCharacter && !IsControl(c);
 }
 
 // --- characters
@@ -79,7 +78,7 @@ void NoteText::Object(KeptItem item, const Look& look) {
   const ItemId self = formats_.items.Chain({std::move(item)});
   const CharFormat character = FormatOf(look.character);
   const FieldId field = formats_.kept[character.kept].field;
-  builder_.Append(std::u16string_view(&kObject, 1),
+  builder_.Append(std::u16string_view(&kObjectCharacter, 1),
                   With(character, {.self = self, .field = field, .kind = Kept::Kind::Embedded}));
 }
 

@@ -10,8 +10,6 @@
 namespace lumenote {
 namespace {
 
-constexpr char16_t kObject = u'\uFFFC';
-
 /// In base 64.
 std::string Encoded(std::string_view bytes) {
   constexpr char kDigits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
@@ -160,7 +158,7 @@ bool HtmlBody::Text(Position from, Position to, const CharFormat& around) {
 /// Whether one run can be made of text in both formats.
 bool HtmlBody::LooksAs(CharId one, CharId other) {
   const auto isObject = [this](CharId format) {
-    return tables_.kept[tables_.characters[format].kept].kind == Kept::Kind::Embedded;
+    return EmbeddedItem(tables_, tables_.characters[format]) != 0;
   };
   if (one == other) return true;
   return !isObject(one) && !isObject(other) && LinkIn(FieldOf(one)) == LinkIn(FieldOf(other)) &&
@@ -171,7 +169,7 @@ bool HtmlBody::LooksAs(CharId one, CharId other) {
 bool HtmlBody::Run(std::u16string_view text, std::size_t from, std::size_t to, CharId format) {
   const std::size_t before = out_.size();
   while (from < to) {
-    const std::size_t object = std::min(text.substr(0, to).find(kObject, from), to);
+    const std::size_t object = std::min(text.substr(0, to).find(kObjectCharacter, from), to);
     AppendHtmlText(text, from, object, out_);
     if (object < to) Object(tables_.characters[format]);
     from = object + 1;
@@ -215,10 +213,9 @@ void HtmlBody::WearNothing() {
 }
 
 void HtmlBody::Object(const CharFormat& format) {
-  const Kept& kept = tables_.kept[format.kept];
-  if (kept.kind != Kept::Kind::Embedded) return;
   if (const auto note = FootnoteOf(document_, format)) return Footnote(*note, format);
-  if (const auto picture = PictureOf(tables_.items[kept.self].source)) Picture(*picture);
+  if (const auto picture = PictureOf(tables_.items[EmbeddedItem(tables_, format)].source))
+    Picture(*picture);
 }
 
 /// A raised number here, unless the mark is in the text, and the note behind all paragraphs.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Strings.h"
+#include "document/kept/Kept.h"
 
 namespace lumenote {
 namespace {
@@ -33,7 +34,7 @@ std::string_view EscapeOf(char16_t c) {
 }
 
 /// Characters that HTML cannot hold, and those that stand for kept items.
-bool IsDropped(char16_t c) { return c < u' ' || (c >= 0x7F && c < 0xA0) || c == u'\uFFFC'; }
+bool IsDropped(char16_t c) { return c < u' ' || (c >= 0x7F && c < 0xA0) || c == kObjectCharacter; }
 
 bool IsPlain(char16_t c) { return c != u' ' && EscapeOf(c).empty() && !IsDropped(c); }
 

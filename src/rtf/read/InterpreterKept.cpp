@@ -10,7 +10,6 @@
 namespace lumenote {
 namespace {
 
-constexpr std::u16string_view kObjectCharacter = u"\uFFFC";
 constexpr std::string_view kOwnName = "Lumenote";
 
 /// Words of the head that the writer always writes itself.
@@ -103,7 +102,8 @@ void Interpreter::KeepGroup(int value, const Token&) {
   const auto kind = static_cast<KeptItem::Kind>(value);
   const ItemId self = formats_.items.Chain({{.kind = kind, .source = GroupSource(from)}});
   BeforeText();
-  body_.Append(kObjectCharacter, CharacterWith({.self = self, .kind = Kept::Kind::Embedded}));
+  body_.Append(std::u16string_view(&kObjectCharacter, 1),
+               CharacterWith({.self = self, .kind = Kept::Kind::Embedded}));
 }
 
 /// Kept groups that are invisible in the text.

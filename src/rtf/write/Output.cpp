@@ -9,6 +9,7 @@
 #include <type_traits>
 
 #include "base/codepages/CodePage.h"
+#include "document/kept/Kept.h"
 #include "rtf/source/PlainText.h"
 
 namespace lumenote {
@@ -138,7 +139,7 @@ std::string_view WordFor(char16_t unit, Encoding encoding) {
 
 /// Whether a character has a special meaning.
 bool StopsText(char16_t unit) {
-  return unit == u'\t' || unit == u'\v' || unit == u'\r' || unit == u'\uFFFC';
+  return unit == u'\t' || unit == u'\v' || unit == u'\r' || unit == kObjectCharacter;
 }
 
 }  // namespace

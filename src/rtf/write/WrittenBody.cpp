@@ -242,7 +242,7 @@ void WrittenBody::Before(const Kept& kept, CharId format, char16_t unit, bool ag
 bool WrittenBody::IsValid(const Kept& kept, char16_t unit) const {
   switch (kept.kind) {
     case Kept::Kind::Embedded:
-      return unit == u'\uFFFC';
+      return unit == kObjectCharacter;
     case Kept::Kind::Cell:
       return unit == u'\t' && InRow();
     case Kept::Kind::Row:
@@ -315,7 +315,7 @@ std::size_t WrittenBody::Special(char16_t unit) {
     EndParagraph();
     return 2;
   }
-  if (unit == u'\uFFFC') {
+  if (unit == kObjectCharacter) {
     out_.Character(unit, format_.encoding);
   } else {
     out_.Symbol(unit == u'\t' ? "tab" : "line");

@@ -13,8 +13,6 @@ namespace lumenote {
 
 namespace {
 
-constexpr char16_t kObject = u'\uFFFC';
-
 bool IsBlank(std::u16string_view text) {
   return text.find_first_not_of(u" \t\r\n\u00A0") == text.npos;
 }
@@ -65,17 +63,17 @@ Fragment PictureFragment(const std::vector<std::string>& files, const CharFormat
     CharFormat character = format;
     character.kept =
         formats.kept.Intern({.self = self, .field = field, .kind = Kept::Kind::Embedded});
-    pictures.Append(std::u16string_view(&kObject, 1), formats.characters.Intern(character));
+    pictures.Append(std::u16string_view(&kObjectCharacter, 1),
+                    formats.characters.Intern(character));
   }
   return pictures.Finish();
 }
 
 std::vector<std::string> LonePicture(const Document& document, Selection range) {
-  if (range.Length() != 1 || document.At(range.start) != kObject) return {};
+  if (range.Length() != 1 || document.At(range.start) != kObjectCharacter) return {};
   const FormatTables& tables = document.Formats();
-  const Kept& kept = tables.kept[tables.characters[document.CharFormatAt(range.start)].kept];
-  if (kept.kind != Kept::Kind::Embedded) return {};
-  const std::optional<PictureData> picture = PictureOf(tables.items[kept.self].source);
+  const ItemId item = EmbeddedItem(tables, tables.characters[document.CharFormatAt(range.start)]);
+  const std::optional<PictureData> picture = PictureOf(tables.items[item].source);
   return picture ? std::vector{picture->bytes} : std::vector<std::string>();
 }
 

@@ -19,7 +19,6 @@ namespace {
 
 constexpr std::uint16_t kFrench = 1036;
 constexpr std::u16string_view kDefaultFont = u"Arial";
-constexpr char16_t kPlaceholder = u'\uFFFC';  // of what is kept, which plain text cannot hold
 
 CharFormat BaseFormat(FormatTables& formats) {
   CharFormat format;
@@ -180,14 +179,14 @@ void Transfer::Paste() {
   if (fragment.Length() > 0) text_.ReplaceSelection(UndoKind::Paste, fragment);
 }
 
-// Some programs offer no text beside their RTF or HTML.
+// Some programs offer no text beside their RTF or HTML. What is kept has no place in plain text.
 void Transfer::PasteText() {
   ClipboardContent content = clipboard_.Get();
   content.images.clear();
   content.imagesTooLarge = false;
   std::u16string text = content.text ? *content.text : TextOf(FragmentOf(content));
   if (text.empty()) text = content.imageNames;
-  std::erase(text, kPlaceholder);
+  std::erase(text, kObjectCharacter);
   if (!text.empty()) text_.ReplaceSelection(UndoKind::Paste, text_.Plain(text));
 }
 

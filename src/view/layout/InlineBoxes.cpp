@@ -47,16 +47,15 @@ PixelSize NumberSize(const TextLayouter& layouter, const CharFormat& format) {
 /// The box for an embedded character of the format; without an item if it needs none.
 InlineBox BoxOf(const TextLayouter& layouter, const FormatTables& tables, const CharFormat& format,
                 double width) {
-  const Kept& kept = tables.kept[format.kept];
+  const ItemId id = EmbeddedItem(tables, format);
   if (format.effects & kHidden) return {};
-  const KeptItem& item = tables.items[kept.self];
   if (IsFootnote(tables, format))
-    return {.item = kept.self, .size = NumberSize(layouter, format), .number = 1};
-  if (!IsBoxed(item)) return {};
-  const PictureFrame frame = FrameOf(item);
+    return {.item = id, .size = NumberSize(layouter, format), .number = 1};
+  if (!IsBoxed(tables.items[id])) return {};
+  const PictureFrame frame = FrameOf(tables.items[id]);
   const double pixel = layouter.Pixels(kTwipsPerPixel) / kTwipsPerPixel;
   const PixelSize room{width, kTallest * pixel};
-  return {.item = kept.self, .size = Fitted({frame.width * pixel, frame.height * pixel}, room)};
+  return {.item = id, .size = Fitted({frame.width * pixel, frame.height * pixel}, room)};
 }
 
 /// Gives the boxes of footnotes their numbers, and room for all digits.
@@ -82,7 +81,7 @@ std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& doc
   std::vector<InlineBox> boxes;
   for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
     const CharFormat& format = tables.characters[run->format];
-    if (tables.kept[format.kept].kind != Kept::Kind::Embedded) continue;
+    if (EmbeddedItem(tables, format) == 0) continue;
     const double room = RoomAt(layouter, tables.paragraphs[piece.format], cells, ends, run->start);
     const InlineBox box = BoxOf(layouter, tables, format, room);
     if (box.item == 0) continue;

@@ -24,7 +24,7 @@ void ShownText::Append(std::u16string run, CharId format, const CharLook& look) 
     ShowSigns(run, look.signs);
     if (look.capitals) run = Upper(run);
     std::ranges::replace(run, u'\v', kShownLineBreak);
-    std::ranges::replace(run, u'\uFFFC', kShownObject);
+    std::ranges::replace(run, kObjectCharacter, kShownObject);
     text += run;
   }
   for (const Decoration& decoration : DecorationsOf(look, start, static_cast<int>(text.size())))
