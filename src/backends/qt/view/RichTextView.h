@@ -17,27 +17,13 @@
 #include "backends/qt/view/SpellingMarks.h"
 #include "backends/qt/view/ViewBars.h"
 #include "backends/qt/view/ViewPainter.h"
-#include "forms/Control.h"
+#include "forms/controls/edits/ViewCallbacks.h"
 #include "view/acts/ViewInput.h"
 #include "view/acts/ViewKeys.h"
 #include "view/acts/ViewMouse.h"
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
-
-/// Callbacks from a view to its window; each may be empty.
-struct ViewCallbacks {
-  /// Executes user input on the surface, as an event of the window.
-  std::function<void(const std::function<void()>&)> act{};
-  /// A button was released at a point in twips from the view's corner.
-  std::function<void(const MouseEvent&)> mouseUp{};
-  /// Whether user edits are blocked.
-  std::function<bool()> locked{};
-  /// A link was chosen.
-  std::function<void(std::u16string_view)> link{};
-  /// Whether Tab goes to the next control.
-  std::function<bool()> tabLeaves{};
-};
 
 /// Shows a `NoteView` with Qt: translates events and paints. The surface may be destroyed first,
 /// after `Detach`; the widget is inert then.

@@ -14,32 +14,13 @@
 #include "backends/win32/view/SystemCaret.h"
 #include "backends/win32/view/ViewBars.h"
 #include "backends/win32/view/ViewPainter.h"
-#include "forms/Control.h"
-#include "surface/keys/KeyStroke.h"
+#include "forms/controls/edits/ViewCallbacks.h"
 #include "view/acts/ViewDrop.h"
 #include "view/acts/ViewKeys.h"
 #include "view/acts/ViewMouse.h"
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
-
-/// Callbacks from a view to its form; each may be empty.
-struct ViewCallbacks {
-  /// Executes user input on the surface, as an event of the form.
-  std::function<void(const std::function<void()>&)> act{};
-  /// A button was released at a point in twips from the window's corner.
-  std::function<void(const MouseEvent&)> mouseUp{};
-  /// Whether user edits are blocked.
-  std::function<bool()> locked{};
-  /// A link was chosen.
-  std::function<void(std::u16string_view)> link{};
-  /// Whether Tab goes to the next control.
-  std::function<bool()> tabLeaves{};
-  /// What users call the view.
-  ViewName name{};
-  /// A key that the view has no use for; true if the form has.
-  std::function<bool(const KeyStroke&)> key{};
-};
 
 /// Shows a `NoteView` in a window of its own class: translates messages and paints. The surface may
 /// be destroyed first, after `Detach`; the window is inert then.

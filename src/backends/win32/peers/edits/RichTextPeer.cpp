@@ -1,20 +1,12 @@
 #include "backends/win32/peers/edits/RichTextPeer.h"
 
-#include "forms/Form.h"
-#include "forms/controls/SpokenName.h"
 #include "surface/DocumentSurface.h"
 
 namespace lumenote {
 namespace {
 
 std::shared_ptr<SurfaceWindow> MakeWindow(RichTextBox& box, HWND parent, PeerHost& host) {
-  ViewCallbacks callbacks;
-  callbacks.act = [&box](const std::function<void()>& act) { box.Owner().Raise(act); };
-  callbacks.mouseUp = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
-  callbacks.locked = [&box] { return box.Locked(); };
-  callbacks.link = [&box](std::u16string_view address) { box.UserOpenLink(address); };
-  callbacks.name = [&box] { return SpokenNameOf(box); };
-  callbacks.tabLeaves = [&box] { return box.TabLeaves(); };
+  ViewCallbacks callbacks = CallbacksOf(box);
   callbacks.key = [&box, &host](const KeyStroke& key) { return host.UnusedKey(box, key); };
   auto& surface = dynamic_cast<DocumentSurface&>(box.Surface());
   return std::make_shared<SurfaceWindow>(parent, surface, host.LayouterOf(box),
