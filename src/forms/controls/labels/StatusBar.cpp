@@ -30,7 +30,7 @@ void StatusBar::Describe(MemberTable& members) {
   members.AddIndexed(
       "Panels", [this](int number) { return Value(Panel(number)); },
       [this](const Value& value, int number) { Panel(number, TextOf(value)); });
-  members.Add("Sign", [this] { return Value(SignTip()); });
+  members.Add("SignTip", [this] { return Value(SignTip()); });
 }
 
 }  // namespace lumenote
