@@ -10,7 +10,7 @@ constexpr Point kPencil[] = {{3.5F, 10}, {10.5F, 3},    {13, 5.5F}, {6, 12.5F},
 
 }  // namespace
 
-std::span<const Point> LineOf(StatusSign sign) {
+std::span<const Point> StrokeOf(StatusSign sign) {
   switch (sign) {
     case StatusSign::Saved:
       return kCheckMark;

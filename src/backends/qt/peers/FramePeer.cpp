@@ -7,12 +7,11 @@
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/toolkit/Units.h"
 
 namespace lumenote {
 
 namespace {
-constexpr int kTitleLeft = 10;
-constexpr int kTitleGap = 3;
 constexpr int kBorder = 2;
 constexpr float kRelief = 0.35F;
 }  // namespace
@@ -49,12 +48,13 @@ void FrameWidget::paintEvent(QPaintEvent*) {
   const QColor ground = palette().color(QPalette::Window);
   const QFontMetrics metrics = fontMetrics();
   const int lineY = metrics.height() / 2;
-  const QRect titleBox(kTitleLeft, 0, metrics.size(Qt::TextShowMnemonic, title_).width(),
-                       metrics.height());
+  const int gap = RoundToPixel(kTitleGap);
+  const QRect titleBox(RoundToPixel(kTitleLeft), 0,
+                       metrics.size(Qt::TextShowMnemonic, title_).width(), metrics.height());
   if (!title_.isEmpty()) {
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(titleBox, Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic, title_);
-    painter.setClipRegion(QRegion(rect()) - titleBox.adjusted(-kTitleGap, 0, kTitleGap, 0));
+    painter.setClipRegion(QRegion(rect()) - titleBox.adjusted(-gap, 0, gap, 0));
   }
   const QRectF line(0, lineY, width() - 1, height() - lineY - 1);
   DrawBorder(painter, line.translated(1, 1), Mixed(ground, Qt::white, kRelief));

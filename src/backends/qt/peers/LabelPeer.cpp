@@ -8,11 +8,12 @@
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/toolkit/Units.h"
+#include "forms/controls/labels/Frame.h"
 
 namespace lumenote {
 
 namespace {
-constexpr int kClearance = 3;
 constexpr float kLine = 0.25F;
 constexpr float kTint = 0.5F;
 }  // namespace
@@ -53,9 +54,10 @@ void LabelWidget::PaintCell() {
 void LabelWidget::PaintTitle() {
   if (text_.isEmpty()) return;
   QPainter painter(this);
-  const QRect box = rect().adjusted(0, 0, -kClearance, 0);
+  const int gap = RoundToPixel(kTitleGap);
+  const QRect box = rect().adjusted(0, 0, -gap, 0);
   const int textWidth = fontMetrics().horizontalAdvance(text_);
-  const int left = box.right() + 1 - textWidth - kClearance;
+  const int left = box.right() + 1 - textWidth - gap;
   painter.fillRect(left, 0, width() - left, height(), palette().window());
   painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(box, Qt::AlignRight | Qt::AlignTop | Qt::TextSingleLine, text_);

@@ -7,18 +7,15 @@
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/QtText.h"
+#include "backends/qt/toolkit/Units.h"
 
 namespace lumenote {
 
 namespace {
 
-constexpr int kPadding = 5;
 constexpr int kGap = 2;
-constexpr int kLeastWidth = 24;
 constexpr int kGripSide = 13;
-constexpr double kSignStroke = 1.5;
 constexpr float kLine = 0.25F;
-constexpr float kQuiet = 0.4F;  // what is saved needs no attention
 
 }  // namespace
 
@@ -34,7 +31,7 @@ void StatusBarWidget::Sign(StatusSign sign, const QString& tip) {
 }
 
 QRect StatusBarWidget::SignBox() const {
-  const int side = static_cast<int>(kSignSide);
+  const int side = RoundToPixel(kSignTwips);
   return {width() - kGripSide - kGap - side, (height() + 1 - side) / 2, side, side};
 }
 
@@ -66,12 +63,14 @@ QColor StatusBarWidget::Line() const {
 void StatusBarWidget::PaintPanels(QPainter& painter) const {
   painter.setPen(palette().color(QPalette::WindowText));
   const int end = SignBox().left() - kGap;
+  const int padding = RoundToPixel(kPanelPadding);
   int left = kGap;
   for (const QString& text : panels_) {
-    if (text.isEmpty() || left >= end) continue;
-    const int wanted = std::max(kLeastWidth, fontMetrics().horizontalAdvance(text) + 2 * kPadding);
+    if (left >= end) break;
+    const int wanted = std::max(RoundToPixel(kLeastPanelWidth),
+                                fontMetrics().horizontalAdvance(text) + 2 * padding);
     const QRect panel(left, kGap + 1, std::min(wanted, end - left), height() - 2 * kGap - 1);
-    const QRect inside = panel.adjusted(kPadding, 0, -kPadding, 0);
+    const QRect inside = panel.adjusted(padding, 0, -padding, 0);
     DrawBorder(painter, panel, Line());
     const bool whole = panel.width() == wanted;  // in whole pixels the text may seem not to fit
     painter.drawText(
@@ -83,13 +82,12 @@ void StatusBarWidget::PaintPanels(QPainter& painter) const {
 
 void StatusBarWidget::PaintSign(QPainter& painter) const {
   QPolygonF line;
-  for (const Point& point : LineOf(sign_)) line << QPointF(point.x, point.y);
+  for (const Point& point : StrokeOf(sign_)) line << QPointF(point.x, point.y);
   const QColor ink = palette().color(QPalette::WindowText);
-  const bool quiet = sign_ == StatusSign::Saved;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(SignBox().topLeft());
-  painter.setPen(QPen(quiet ? Mixed(ink, palette().color(QPalette::Window), kQuiet) : ink,
-                      kSignStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(Mixed(ink, palette().color(QPalette::Window), PalenessOf(sign_)), kSignStroke,
+                      Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   painter.drawPolyline(line);
 }
 
@@ -101,8 +99,7 @@ StatusBarPeer::StatusBarPeer(StatusBar& bar, StatusBarWidget* widget)
 
 QStringList StatusBarPeer::Texts() const {
   QStringList texts;
-  for (int number = 1; number <= bar_.Count(); ++number)
-    texts.push_back(ToQString(bar_.Panel(number)));
+  for (const std::u16string& text : bar_.ShownPanels()) texts.push_back(ToQString(text));
   return texts;
 }
 

@@ -18,6 +18,12 @@ void StatusBar::Panel(int number, std::u16string_view text) {
   Changed(Property::Panels);
 }
 
+std::vector<std::u16string> StatusBar::ShownPanels() const {
+  std::vector<std::u16string> shown = panels_;
+  std::erase(shown, u"");
+  return shown;
+}
+
 void StatusBar::Sign(StatusSign sign, std::u16string_view tip) {
   if (sign == sign_ && tip == signTip_) return;
   sign_ = sign;

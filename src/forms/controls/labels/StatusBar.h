@@ -5,6 +5,11 @@
 
 namespace lumenote {
 
+/// In twips: the room at each side of a panel's text, the least width of a panel, the sign's side.
+inline constexpr double kPanelPadding = 75;
+inline constexpr double kLeastPanelWidth = 360;
+inline constexpr double kSignTwips = 240;
+
 /// Panels count from 1; each is as wide as its text, and without text not shown. The backend
 /// chooses the bar's bounds, at most 300 twips high.
 class StatusBar : public Control {
@@ -15,6 +20,8 @@ class StatusBar : public Control {
   /// Raises NoSuchElement (340) for a missing panel.
   const std::u16string& Panel(int number) const;
   void Panel(int number, std::u16string_view text);
+  /// What the panels say that have a text.
+  std::vector<std::u16string> ShownPanels() const;
 
   StatusSign Sign() const { return sign_; }
   /// What the sign says in words.

@@ -9,9 +9,6 @@
 namespace lumenote {
 namespace {
 
-constexpr double kTitleLeft = 150;  // twips
-constexpr double kTitleGap = 45;
-
 /// The line of the border is covered where the title stands.
 void PaintBorder(HDC dc, const RECT& area, const RECT& title, int gap) {
   const int saved = SaveDC(dc);

@@ -4,11 +4,10 @@
 #include "backends/win32/toolkit/drawing/Colours.h"
 #include "backends/win32/toolkit/drawing/Gdi.h"
 #include "backends/win32/toolkit/drawing/Units.h"
+#include "forms/controls/labels/Frame.h"
 
 namespace lumenote {
 namespace {
-
-constexpr double kClearance = 45;  // twips, at each side of a title
 
 WindowKind KindOf(LabelStyle style) {
   const wchar_t* const name = style == LabelStyle::Strip
@@ -20,10 +19,7 @@ WindowKind KindOf(LabelStyle style) {
 /// Half the ground and half what is selected.
 COLORREF TintOn(COLORREF ground) {
   const COLORREF tint = GetSysColor(COLOR_HIGHLIGHT);
-  if (HighContrast()) return tint;
-  const auto mix = [](int one, int other) { return (one + other) / 2; };
-  return RGB(mix(GetRValue(ground), GetRValue(tint)), mix(GetGValue(ground), GetGValue(tint)),
-             mix(GetBValue(ground), GetBValue(tint)));
+  return HighContrast() ? tint : Mixed(ground, tint, 0.5);
 }
 
 }  // namespace
@@ -70,13 +66,13 @@ void LabelWindow::PaintCell(HDC dc, const RECT& area) const {
 }
 
 void LabelWindow::PaintTitle(HDC dc, RECT area) const {
-  const int clearance = Scale::Of(Handle()).Pixels(kClearance);
+  const int gap = Scale::Of(Handle()).Pixels(kTitleGap);
   RECT text = area;
   DrawTextW(dc, Wide(Caption()), -1, &text, DT_CALCRECT | DT_SINGLELINE);
-  const RECT cleared = {area.right - text.right - 2 * clearance, area.top, area.right, area.bottom};
+  const RECT cleared = {area.right - text.right - 2 * gap, area.top, area.right, area.bottom};
   const GdiObject<HBRUSH> ground(CreateSolidBrush(GetBkColor(dc)));
   if (text.right > 0) FillRect(dc, &cleared, ground.Get());
-  area.right -= clearance;
+  area.right -= gap;
   PaintCaption(dc, area, DT_RIGHT | DT_SINGLELINE);
 }
 

@@ -8,8 +8,6 @@
 namespace lumenote {
 namespace {
 
-constexpr double kStroke = 1.5;
-
 /// Where the line is drawn the mask lets the colours through.
 void Draw(HDC dc, HBITMAP bitmap, StatusSign sign, int side, COLORREF ground, COLORREF ink) {
   const SelectScope drawn(dc, bitmap);
@@ -17,11 +15,11 @@ void Draw(HDC dc, HBITMAP bitmap, StatusSign sign, int side, COLORREF ground, CO
   const RECT area = {0, 0, side, side};
   FillRect(dc, &area, brush.Get());
   const double scale = side / double{kSignSide};
-  const auto width = static_cast<int>(std::lround(kStroke * scale));
+  const auto width = static_cast<int>(std::lround(kSignStroke * scale));
   const GdiObject<HPEN> pen(CreatePen(PS_SOLID, width, ink));
   const SelectScope drawing(dc, pen.Get());
   std::vector<POINT> line;
-  for (const Point& point : LineOf(sign))
+  for (const Point& point : StrokeOf(sign))
     line.push_back({std::lround(point.x * scale), std::lround(point.y * scale)});
   Polyline(dc, line.data(), static_cast<int>(line.size()));
 }

@@ -5,14 +5,18 @@
 #include <windowsx.h>
 
 #include "backends/win32/system/NativeText.h"
+#include "backends/win32/toolkit/drawing/Colours.h"
 
 namespace lumenote {
 namespace {
 
-constexpr double kPadding = 75;      // twips, at each side of a panel's text
-constexpr double kLeastWidth = 360;  // twips
-constexpr double kSignTwips = 240;
 constexpr double kGripTwips = 240;
+
+/// On the ground of the bar. Who wants a few strong colours gets no pale one.
+COLORREF InkOf(StatusSign sign) {
+  const COLORREF ink = GetSysColor(COLOR_BTNTEXT);
+  return HighContrast() ? ink : Mixed(ink, GetSysColor(COLOR_BTNFACE), PalenessOf(sign));
+}
 
 }  // namespace
 
@@ -42,15 +46,8 @@ void StatusBarPeer::HearHandled(const Message& message) {
 
 bool StatusBarPeer::IsOnSign(POINT point) const {
   RECT sign = {};
-  Tell(SB_GETRECT, Texts().size() + 1, reinterpret_cast<LPARAM>(&sign));
+  Tell(SB_GETRECT, bar_.ShownPanels().size() + 1, reinterpret_cast<LPARAM>(&sign));
   return PtInRect(&sign, point) != 0;
-}
-
-std::vector<std::u16string> StatusBarPeer::Texts() const {
-  std::vector<std::u16string> texts;
-  for (int number = 1; number <= bar_.Count(); ++number)
-    if (!bar_.Panel(number).empty()) texts.push_back(bar_.Panel(number));
-  return texts;
 }
 
 std::vector<int> StatusBarPeer::Edges() const {
@@ -62,11 +59,11 @@ std::vector<int> StatusBarPeer::Edges() const {
   const int sign = static_cast<int>(client.right) - scale.Pixels(kSignTwips + kGripTwips);
   std::vector<int> edges;
   int right = 0;
-  for (const std::u16string& text : Texts()) {
+  for (const std::u16string& text : bar_.ShownPanels()) {
     SIZE size = {};
     GetTextExtentPoint32W(dc.Get(), Wide(text), static_cast<int>(text.size()), &size);
-    const int wanted = size.cx + 2 * scale.Pixels(kPadding);
-    right += std::max(wanted, scale.Pixels(kLeastWidth));
+    const int wanted = size.cx + 2 * scale.Pixels(kPanelPadding);
+    right += std::max(wanted, scale.Pixels(kLeastPanelWidth));
     edges.push_back(std::clamp(right, 0, std::max(0, sign)));
   }
   edges.push_back(std::max(0, sign));
@@ -75,7 +72,7 @@ std::vector<int> StatusBarPeer::Edges() const {
 }
 
 void StatusBarPeer::ShowPanels() {
-  const std::vector<std::u16string> texts = Texts();
+  const std::vector<std::u16string> texts = bar_.ShownPanels();
   std::vector<int> edges = Edges();
   Tell(SB_SETPARTS, edges.size(), reinterpret_cast<LPARAM>(edges.data()));
   for (std::size_t part = 0; part < edges.size(); ++part) {
@@ -87,9 +84,9 @@ void StatusBarPeer::ShowPanels() {
 
 void StatusBarPeer::ShowSign() {
   const int side = Host().Resolution().Pixels(kSignTwips);
-  const std::size_t last = Texts().size() + 1;
+  const std::size_t last = bar_.ShownPanels().size() + 1;
   for (std::size_t part = 0; part < last; ++part) Tell(SB_SETICON, part);
-  SignIcon icon(bar_.Sign(), side, GetSysColor(COLOR_BTNTEXT));
+  SignIcon icon(bar_.Sign(), side, InkOf(bar_.Sign()));
   Tell(SB_SETICON, last, reinterpret_cast<LPARAM>(icon.Get()));
   sign_ = std::move(icon);
 }
@@ -103,7 +100,7 @@ std::u16string StatusBarPeer::Shown(std::size_t part) const {
 
 void StatusBarPeer::Compare(DifferenceList& differences) const {
   ControlPeer::Compare(differences);
-  const std::vector<std::u16string> texts = Texts();
+  const std::vector<std::u16string> texts = bar_.ShownPanels();
   for (std::size_t part = 0; part < texts.size(); ++part)
     differences.Check(bar_, "Panels", Shown(part) == texts[part]);
   const bool drawn = sign_.Get() != nullptr;

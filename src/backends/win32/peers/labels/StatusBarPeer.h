@@ -23,8 +23,6 @@ class StatusBarPeer final : public ControlPeer {
  private:
   void ShowPanels();
   void ShowSign();
-  /// What the panels say that are not empty.
-  std::vector<std::u16string> Texts() const;
   /// The right edges of the parts, in pixels.
   std::vector<int> Edges() const;
   std::u16string Shown(std::size_t part) const;
