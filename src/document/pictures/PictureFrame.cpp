@@ -35,14 +35,22 @@ ImageSize GoalsOf(const PictureSource& picture) {
   return natural;
 }
 
+/// What is shown of one side: how long, in twips, and which part, in fractions.
+struct Cropped {
+  double length = 0;
+  double from = 0;
+  double to = 1;
+};
+
 /// Crops and scales one side; cropping that would leave nothing is none.
-void Shape(const PictureExtent& extent, double goal, double& shown, double& from, double& to) {
+Cropped Crop(const PictureExtent& extent, double goal) {
   const double before = std::max(extent.cropBefore, 0);
   const double behind = std::max(extent.cropBehind, 0);
-  const bool cropped = before + behind < goal;
-  from = cropped ? before / goal : 0;
-  to = cropped ? 1 - behind / goal : 1;
-  shown = goal * (to - from) * (extent.scale > 0 ? extent.scale / 100.0 : 1);
+  const double scale = extent.scale > 0 ? extent.scale / 100.0 : 1;
+  if (before + behind >= goal) return {.length = goal * scale};
+  const double from = before / goal;
+  const double to = 1 - behind / goal;
+  return {goal * (to - from) * scale, from, to};
 }
 
 }  // namespace
@@ -55,10 +63,9 @@ bool IsBoxed(const KeptItem& item) {
 PictureFrame FrameOf(const KeptItem& item) {
   const PictureSource picture = FindPicture(item.source).value_or(PictureSource{});
   const ImageSize goals = GoalsOf(picture);
-  PictureFrame frame;
-  Shape(picture.across, goals.width, frame.width, frame.left, frame.right);
-  Shape(picture.down, goals.height, frame.height, frame.top, frame.bottom);
-  return frame;
+  const Cropped across = Crop(picture.across, goals.width);
+  const Cropped down = Crop(picture.down, goals.height);
+  return {across.length, down.length, across.from, down.from, across.to, down.to};
 }
 
 std::u16string_view LabelOf(const KeptItem& item) {

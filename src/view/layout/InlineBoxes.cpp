@@ -13,8 +13,6 @@ namespace lumenote {
 
 namespace {
 
-constexpr double kTallest = 31680;  // twips
-
 double RoomOf(const TextLayouter& layouter, const ParaFormat& format) {
   const LineEdges edges = EdgesOf(layouter, format);
   return edges.Room(std::max(edges.first, edges.following));
@@ -53,9 +51,9 @@ InlineBox BoxOf(const TextLayouter& layouter, const FormatTables& tables, const 
     return {.item = id, .size = NumberSize(layouter, format), .number = 1};
   if (!IsBoxed(tables.items[id])) return {};
   const PictureFrame frame = FrameOf(tables.items[id]);
-  const double pixel = layouter.Pixels(kTwipsPerPixel) / kTwipsPerPixel;
-  const PixelSize room{width, kTallest * pixel};
-  return {.item = id, .size = Fitted({frame.width * pixel, frame.height * pixel}, room)};
+  const double twips = layouter.TwipsPerPixel();
+  const PixelSize room{width, layouter.Pixels(kMaxTwips)};
+  return {.item = id, .size = Fitted({frame.width / twips, frame.height / twips}, room)};
 }
 
 /// Gives the boxes of footnotes their numbers, and room for all digits.

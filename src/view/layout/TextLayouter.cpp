@@ -3,13 +3,7 @@
 #include <algorithm>
 #include <cassert>
 
-#include "base/Twips.h"
-
 namespace lumenote {
-
-namespace {
-constexpr double kMaxTwips = 31680;  // 22 inches
-}  // namespace
 
 void TextLayouter::Zoom(double factor) {
   zoom_ = factor;

@@ -3,10 +3,14 @@
 #include <memory>
 #include <string>
 
+#include "base/Twips.h"
 #include "document/NoteNumbers.h"
 #include "view/layout/Piece.h"
 
 namespace lumenote {
+
+/// The largest page, in twips: 22 inches.
+inline constexpr double kMaxTwips = 31680;
 
 /// The part of a paragraph to lay out, from a line start on.
 struct PieceSpan {
@@ -48,6 +52,8 @@ class TextLayouter {
   void Composed(Composition text) { composed_ = std::move(text); }
   /// Those that the boxes of footnotes show.
   NoteNumbers& Notes() const { return notes_; }
+  /// In zoomed pixels of the device.
+  double TwipsPerPixel() const { return kTwipsPerPixel / (zoom_ * scale_); }
   /// Converts a length in the document to zoomed pixels of the device; clamps it to the largest
   /// page.
   double Pixels(double twips) const;

@@ -5,8 +5,6 @@
 #include <cmath>
 #include <utility>
 
-#include "base/Twips.h"
-
 namespace lumenote {
 
 namespace {
@@ -22,9 +20,7 @@ double TextPane::WrapWidth() const {
   return margin > 0 ? layouter_.Pixels(margin) : size_.width - 2 * margin_;
 }
 
-double TextPane::TextWidth() const {
-  return layouter_.Width() * kTwipsPerPixel / layouter_.Pixels(kTwipsPerPixel);
-}
+double TextPane::TextWidth() const { return layouter_.Width() * layouter_.TwipsPerPixel(); }
 
 void TextPane::Resize(PixelSize size) {
   size_ = size;
