@@ -50,10 +50,11 @@ InlineBox BoxOf(const TextLayouter& layouter, const FormatTables& tables, const 
   if (IsFootnote(tables, format))
     return {.item = id, .size = NumberSize(layouter, format), .number = 1};
   if (!IsBoxed(tables.items[id])) return {};
-  const PictureFrame frame = FrameOf(tables.items[id]);
+  const PictureFrame& frame = layouter.FrameOf(tables, id);
   const double twips = layouter.TwipsPerPixel();
   const PixelSize room{width, layouter.Pixels(kMaxTwips)};
-  return {.item = id, .size = Fitted({frame.width / twips, frame.height / twips}, room)};
+  const PixelSize size = Fitted({frame.width / twips, frame.height / twips}, room);
+  return {.item = id, .size = size, .frame = frame};
 }
 
 /// Gives the boxes of footnotes their numbers, and room for all digits.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "document/Document.h"
+#include "document/pictures/PictureFrame.h"
 #include "view/layout/Pixels.h"
 
 namespace lumenote {
@@ -33,6 +34,7 @@ struct InlineBox {
   ItemId item = 0;  // what it shows
   PixelSize size;
   int number = 0;  // of a footnote, shown instead; 0 for other boxes
+  PictureFrame frame{};
 };
 
 /// A cell of a table row: the lines from `firstLine` to the next cell's, beside those of other

@@ -19,6 +19,12 @@ double TextLayouter::Pixels(double twips) const {
   return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsPerPixel * zoom_ * scale_;
 }
 
+const PictureFrame& TextLayouter::FrameOf(const FormatTables& tables, ItemId item) const {
+  const auto [known, isNew] = frames_.try_emplace(item);
+  if (isNew) known->second = lumenote::FrameOf(tables.items[item]);
+  return known->second;
+}
+
 std::unique_ptr<Piece> TextLayouter::LayOut(const Document& document, const PieceSpan& span) {
   auto piece = Make(document, span);
   assert(piece || !span.complete);

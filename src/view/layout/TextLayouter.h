@@ -2,9 +2,11 @@
 #pragma once
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 #include "base/Twips.h"
 #include "document/NoteNumbers.h"
+#include "document/pictures/PictureFrame.h"
 #include "view/layout/Piece.h"
 
 namespace lumenote {
@@ -54,6 +56,8 @@ class TextLayouter {
   NoteNumbers& Notes() const { return notes_; }
   /// In zoomed pixels of the device.
   double TwipsPerPixel() const { return kTwipsPerPixel / (zoom_ * scale_); }
+  /// That of a boxed item, read once.
+  const PictureFrame& FrameOf(const FormatTables& tables, ItemId item) const;
   /// Converts a length in the document to zoomed pixels of the device; clamps it to the largest
   /// page.
   double Pixels(double twips) const;
@@ -77,7 +81,8 @@ class TextLayouter {
   double zoom_ = 1;
   double scale_ = 1;
   Composition composed_;
-  mutable NoteNumbers notes_;  // a cache
+  mutable NoteNumbers notes_;                                // a cache
+  mutable std::unordered_map<ItemId, PictureFrame> frames_;  // likewise
 };
 
 }  // namespace lumenote

@@ -19,7 +19,7 @@ constexpr double kLeastLabel = 9;   // a lower or narrower box has no text
 void BoxPainter::Paint(const InlineBox& box, const QRectF& place, bool selected) {
   const double ratio = painter_.device()->devicePixelRatioF();
   const QRectF target = OnDevicePixels(painter_, place);
-  const QImage image = pictures_.Of(document_, box.item, target.size() * ratio);
+  const QImage image = pictures_.Of(document_, box, target.size() * ratio);
   if (image.isNull())
     PaintLabel(box.item, target);
   else

@@ -67,11 +67,10 @@ QImage Decoded(const std::string& file, const PictureFrame& frame, QSize size) {
 
 }  // namespace
 
-QImage QtPictures::Of(const Document& document, ItemId item, QSizeF size) {
-  const Key key{item, Bounded(size)};
+QImage QtPictures::Of(const Document& document, const InlineBox& box, QSizeF size) {
+  const Key key{box.item, Bounded(size)};
   if (const QImage* known = images_.object(key)) return *known;
-  const KeptItem& source = document.Formats().items[item];
-  QImage image = Decoded(ImageFileOf(source), FrameOf(source), key.size);
+  QImage image = Decoded(ImageFileOf(document.Formats().items[box.item]), box.frame, key.size);
   images_.insert(key, new QImage(image), 1 + (image.sizeInBytes() >> 10));
   return image;
 }

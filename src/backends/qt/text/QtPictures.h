@@ -3,16 +3,16 @@
 #include <QCache>
 #include <QImage>
 
-#include "document/Document.h"
+#include "view/layout/Piece.h"
 
 namespace lumenote {
 
 /// Decodes a picture when it is first painted at a size, and keeps as many as fit into some memory.
 class QtPictures {
  public:
-  /// What is shown of an item's image, scaled to that size in pixels, or less if it would be huge;
+  /// What a box shows of its image, scaled to that size in pixels, or less if it would be huge;
   /// a null image if it cannot be shown.
-  QImage Of(const Document& document, ItemId item, QSizeF size);
+  QImage Of(const Document& document, const InlineBox& box, QSizeF size);
 
  private:
   struct Key {
