@@ -158,6 +158,15 @@ TEST_P(LayoutContract, BoxesTakeTheirRoom) {
   }
 }
 
+// Behind a word, blanks at the end of an aligned line do not move it.
+class HangingBlanks : public LayoutContract {};
+TEST_P(HangingBlanks, DoNotMoveWords) {
+  const auto piece = layouter->LayOut(document, {.from = 0, .to = document.ParagraphEnd(0)});
+  ASSERT_EQ(piece->lines.size(), 4u);
+  for (int line = 1; line < 4; ++line)
+    EXPECT_NEAR(piece->XOf(piece->LineStart(line) + 1), piece->XOf(1), 0.02) << line;
+}
+
 const std::u16string kWords = Words(700);
 const std::u16string kHebrew = u"\\u1513?\\u1500?\\u1493?\\u1501? ";
 const std::u16string kObject = u"{\\pict\\pngblip\\picwgoal900\\pichgoal600 00}";
@@ -192,6 +201,13 @@ INSTANTIATE_TEST_SUITE_P(
                                                    Words(90) + u"\\cell " + Words(80) + u"\\row"},
                     LayoutCase{"NoRoom", u"\\li30000\\ri30000 " + Words(60)}),
     [](const auto& info) { return info.param.name; });
+
+const std::u16string kLines = u" mot\\line mot  \\line mot {\\v  }  \\line mot {\\v x}";
+INSTANTIATE_TEST_SUITE_P(Alignments, HangingBlanks,
+                         testing::Values(LayoutCase{"Right", u"\\qr" + kLines},
+                                         LayoutCase{"Cell", u"\\trowd\\cellx4000\\intbl\\qr" +
+                                                                kLines + u"\\cell\\row"}),
+                         [](const auto& info) { return info.param.name; });
 
 }  // namespace
 }  // namespace lumenote

@@ -6,6 +6,13 @@
 
 namespace lumenote {
 
+int FirstHanging(std::u16string_view text, int start, int end) {
+  constexpr char16_t kHanging[] = {u' ', kShownHidden, kShownLineBreak, u'\0'};
+  const auto first = static_cast<std::size_t>(start);
+  const std::u16string_view line = text.substr(first, static_cast<std::size_t>(end) - first);
+  return start + static_cast<int>(line.find_last_not_of(kHanging) + 1);
+}
+
 ShownText::ShownText(const Document& document, Position from, Position to, const Looks& lookOf)
     : first_(document.CharFormatAt(from)) {
   text.reserve(static_cast<std::size_t>(to - from));

@@ -2,6 +2,7 @@
 #pragma once
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "view/layout/Strokes.h"
@@ -12,6 +13,10 @@ namespace lumenote {
 inline constexpr char16_t kShownLineBreak = u'\u2028';
 inline constexpr char16_t kShownObject = u'\u25A1';
 inline constexpr char16_t kShownHidden = u'\u200C';
+
+/// Where the blanks at the end of a line begin, which hang beyond the edge that it is aligned at,
+/// with what takes no room among them; `end` if there are none.
+int FirstHanging(std::u16string_view text, int start, int end);
 
 /// Units of one format and size, up to the start of the next part.
 struct ShownPart {

@@ -162,13 +162,10 @@ double LineMaker::Hang(const QTextLine& line, const PieceLine& box) const {
   const Alignment atEnd = format.rightToLeft ? Alignment::Left : Alignment::Right;
   if (!centred && format.alignment != atEnd) return 0;
   const QString text = piece_.layout.text();
-  int end = box.end;
-  if (end > box.start && text[end - 1] == QChar(kShownLineBreak))
-    --end;
-  else if (end < text.size())
-    return 0;
-  int first = end;
-  while (first > box.start && text[first - 1] == u' ') --first;
+  const bool broken = box.end > box.start && text[box.end - 1] == QChar(kShownLineBreak);
+  if (!broken && box.end < text.size()) return 0;
+  const int end = broken ? box.end - 1 : box.end;
+  const int first = FirstHanging(Utf16(text), box.start, end);
   const double blanks = line.cursorToX(end) - line.cursorToX(first);
   return centred ? blanks / 2 : blanks;
 }

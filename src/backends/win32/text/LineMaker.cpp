@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "view/layout/InlineBoxes.h"
+#include "view/layout/ShownText.h"
 
 namespace lumenote {
 
@@ -120,16 +121,9 @@ void LineMaker::AddCell(const CellBox& cell, int start, int end) {
 
 // --- placing
 
-/// The first of the blanks at a line's end.
-int LineMaker::FirstHanging(int start, int end) const {
-  int first = end;
-  while (first > start && (UnitAt(first - 1) == u' ' || Unit(first - 1).width == 0)) --first;
-  return first;
-}
-
 LineMaker::Extent LineMaker::Measure(int start, int end) const {
   Extent extent;
-  const int hangs = FirstHanging(start, end);
+  const int hangs = FirstHanging(piece_.text, start, end);
   for (int i = start; i < end; ++i) (i < hangs ? extent.width : extent.hanging) += Unit(i).width;
   return extent;
 }
@@ -138,7 +132,7 @@ LineMaker::Extent LineMaker::Measure(int start, int end) const {
 void LineMaker::Justify(int start, int end) {
   int first = end;
   while (first > start && UnitAt(first - 1) != u'\t') --first;
-  const int last = FirstHanging(first, end);
+  const int last = FirstHanging(piece_.text, first, end);
   int blanks = 0;
   for (int i = first; i < last; ++i) blanks += UnitAt(i) == u' ' ? 1 : 0;
   const double room = column_.edges.Room(LeftEdge(start));
@@ -174,7 +168,7 @@ std::vector<LinePart> LineMaker::PartsOf(int start, int end) const {
   std::vector<LinePart> parts;
   const auto& runs = piece_.glyphs;
   auto run = std::ranges::upper_bound(runs, start, {}, &GlyphRun::end);
-  const int hangs = FirstHanging(start, end);
+  const int hangs = FirstHanging(piece_.text, start, end);
   for (; run != runs.end() && run->start < end; ++run) {
     const int from = std::max(start, run->start);
     const int to = std::min(end, run->end);
@@ -231,7 +225,7 @@ void LineMaker::PlaceLine(PieceLine& line) {
   if (IsJustified(line)) Justify(line.start, line.end);
   const int left = LeftOf(line, Measure(line.start, line.end));
   std::vector<LinePart> parts = PartsOf(line.start, line.end);
-  if (!parts.empty()) PlaceParts(parts, left, FirstHanging(line.start, line.end));
+  if (!parts.empty()) PlaceParts(parts, left, FirstHanging(piece_.text, line.start, line.end));
   for (const LinePart& part : parts) PlaceUnits(part);
   piece_.lefts.push_back(left);
   piece_.parts.push_back(std::move(parts));

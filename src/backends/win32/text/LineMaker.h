@@ -39,7 +39,6 @@ class LineMaker {
   int TabWidth(int tab, double x) const;
   double TabRoom(int tab, TabKind kind) const;
   Extent Measure(int start, int end) const;
-  int FirstHanging(int start, int end) const;
   bool IsJustified(const PieceLine& line) const;
   void Justify(int start, int end);
   int LeftOf(const PieceLine& line, const Extent& extent) const;
