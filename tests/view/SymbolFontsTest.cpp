@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "base/Strings.h"
-#include "view/layout/SymbolFonts.h"
+#include "view/layout/CharLook.h"
 
 namespace lumenote {
 namespace {
@@ -23,6 +23,16 @@ TEST(SymbolFonts, ShowTheirSigns) {
     ShowSigns(signs, SymbolFontOf({.name = std::u16string(name)}));
     EXPECT_EQ(ToUtf8(signs), ToUtf8(shown)) << ToUtf8(name);
   }
+}
+
+TEST(SymbolFonts, AreShownAsSignsWhereTheyAreMissing) {
+  FormatTables tables;
+  const CharFormat symbols{.font = tables.fonts.Intern({.name = u"Symbol"})};
+  const auto signsOf = [&](FontTest isInstalled) {
+    return LookOf(tables, symbols, 1, 0xFFFFFF, isInstalled).signs;
+  };
+  EXPECT_EQ(signsOf([](const FontFace&) { return true; }), SymbolFont::None);
+  EXPECT_EQ(signsOf([](const FontFace&) { return false; }), SymbolFont::Symbol);
 }
 
 }  // namespace

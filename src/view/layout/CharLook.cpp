@@ -98,7 +98,8 @@ Colour Readable(Colour wanted, Colour ground) {
   return !IsDark(ground) || Contrast(wanted, ground) >= kLeastContrast ? wanted : Reflected(wanted);
 }
 
-CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground) {
+CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground,
+                FontTest isInstalled) {
   CharLook look;
   const bool bareNote = IsFootnote(tables, format) && !HasNumber(tables, format);
   look.hidden = bareNote || (format.effects & kHidden);
@@ -106,6 +107,9 @@ CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoo
   look.strikes = StrikesOf(format.effects);
   look.capitals = format.effects & (kAllCaps | kSmallCaps);
   look.smallCapitals = (format.effects & (kAllCaps | kSmallCaps)) == kSmallCaps;
+  const FontFace& face = tables.fonts[format.font];
+  const SymbolFont signs = SymbolFontOf(face);
+  if (signs != SymbolFont::None && !isInstalled(face)) look.signs = signs;
   SetSize(look, format, zoom);
   SetColours(look, format, ground);
   if (!LinkOf(tables, format).empty()) ShowLink(look, ground);

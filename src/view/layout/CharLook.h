@@ -8,7 +8,7 @@ namespace lumenote {
 /// Size of capitals shown for small letters, relative to the font's.
 inline constexpr double kSmallCapitalSize = 0.8;
 
-/// A character format at one zoom. The backend adds what depends on its fonts: extent and signs.
+/// A character format at one zoom. The backend adds what depends on its fonts: their extent.
 struct CharLook {
   double points = 0;  // of the font, not zoomed
   double raise = 0;   // pixels, of the font's baseline above the line's
@@ -27,7 +27,11 @@ struct CharLook {
 /// The colour, lightened if it has too little contrast with a dark ground.
 Colour Readable(Colour wanted, Colour ground);
 
+/// Whether the machine has a font.
+using FontTest = bool (*)(const FontFace&);
+
 /// `ground` is that of the note; ink with too little contrast is lightened on a dark one.
-CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground);
+CharLook LookOf(const FormatTables& tables, const CharFormat& format, double zoom, Colour ground,
+                FontTest isInstalled);
 
 }  // namespace lumenote

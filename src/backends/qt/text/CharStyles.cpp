@@ -73,10 +73,8 @@ const CharStyle& CharStyles::Of(const Document& document, const CharFormat& form
 }
 
 CharStyle CharStyles::Make(const Document& document, const CharFormat& format) const {
-  CharStyle style{LookOf(document.Formats(), format, zoom_, ground_), {}, {}};
+  CharStyle style{LookOf(document.Formats(), format, zoom_, ground_, IsInstalled), {}, {}};
   const FontFace& face = document.Formats().fonts[format.font];
-  const SymbolFont signs = SymbolFontOf(face);
-  if (signs != SymbolFont::None && !IsInstalled(face)) style.signs = signs;
   const QFont font = MakeFont(face, format, style.points, zoom_);
   const QFontMetricsF metrics(font);
   style.ascent = metrics.ascent();

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "backends/win32/toolkit/drawing/FontFamilies.h"
-#include "backends/win32/toolkit/drawing/MemoryDc.h"
 #include "base/Twips.h"
 #include "view/layout/TextLayouter.h"
 
@@ -30,14 +29,7 @@ FontWish WishOf(const FontFace& face, const CharFormat& format, double height) {
   return wish;
 }
 
-bool IsInstalled(const FontFace& face) {
-  bool found = false;
-  ForEachFont(MemoryDc().Get(), face.name, [&](const LOGFONTW&) {
-    found = true;
-    return false;
-  });
-  return found;
-}
+bool IsInstalled(const FontFace& face) { return HasFamily(face.name); }
 
 }  // namespace
 
@@ -54,13 +46,10 @@ const CharStyle& CharStyles::Of(const Document& document, const CharFormat& form
 }
 
 CharStyle CharStyles::Make(const Document& document, const CharFormat& format) {
-  CharStyle style{LookOf(document.Formats(), format, pixels_, ground_), nullptr, nullptr};
+  CharStyle style{LookOf(document.Formats(), format, pixels_, ground_, IsInstalled), nullptr,
+                  nullptr};
   FontFace face = document.Formats().fonts[format.font];
-  const SymbolFont signs = SymbolFontOf(face);
-  if (signs != SymbolFont::None && !IsInstalled(face)) {
-    style.signs = signs;
-    face.charset = DEFAULT_CHARSET;
-  }
+  if (style.signs != SymbolFont::None) face.charset = DEFAULT_CHARSET;  // another stands in
   const double height = style.points * kPixelsInPoint * pixels_;
   style.font = fonts_.Of(WishOf(face, format, height));
   if (style.smallCapitals)

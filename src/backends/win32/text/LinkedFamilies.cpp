@@ -7,7 +7,6 @@
 #include "backends/win32/system/NativeText.h"
 #include "backends/win32/system/System.h"
 #include "backends/win32/toolkit/drawing/FontFamilies.h"
-#include "backends/win32/toolkit/drawing/Gdi.h"
 
 namespace lumenote {
 
@@ -37,15 +36,6 @@ constexpr const char16_t* kBroadFamilies[] = {u"Segoe UI",
                                               u"DejaVu Sans",
                                               u"Arial Unicode MS"};
 
-bool IsInstalled(const std::u16string& family) {
-  bool found = false;
-  ForEachFont(DcScope(nullptr).Get(), family, [&](const LOGFONTW&) {
-    found = true;
-    return false;
-  });
-  return found;
-}
-
 /// The strings that the system keeps for a family, each "file,family,scale,scale" or "file,family".
 std::vector<std::u16string> LinksOf(const std::u16string& family) {
   DWORD size = 0;
@@ -72,7 +62,7 @@ std::vector<std::u16string> Find(const std::u16string& family) {
   std::vector<std::u16string> families;
   const auto add = [&](const std::u16string& one) {
     if (!one.empty() && one != family && std::ranges::find(families, one) == families.end() &&
-        IsInstalled(one))
+        HasFamily(one))
       families.push_back(one);
   };
   for (const std::u16string& link : LinksOf(family)) add(FamilyIn(link));

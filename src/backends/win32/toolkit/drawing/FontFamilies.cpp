@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <new>
 
+#include "backends/win32/toolkit/drawing/Gdi.h"
+
 namespace lumenote {
 namespace {
 
@@ -24,6 +26,15 @@ void ForEachFont(HDC device, std::u16string_view family, const Visitor& visit) {
   std::copy_n(family.begin(), std::min<std::size_t>(family.size(), LF_FACESIZE - 1),
               wanted.lfFaceName);
   EnumFontFamiliesExW(device, &wanted, Visit, reinterpret_cast<LPARAM>(&visit), 0);
+}
+
+bool HasFamily(std::u16string_view family) {
+  bool found = false;
+  ForEachFont(DcScope(nullptr).Get(), family, [&](const LOGFONTW&) {
+    found = true;
+    return false;
+  });
+  return found;
 }
 
 }  // namespace lumenote

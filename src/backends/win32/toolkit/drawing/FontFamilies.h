@@ -12,4 +12,7 @@ namespace lumenote {
 void ForEachFont(HDC device, std::u16string_view family,
                  const std::function<bool(const LOGFONTW& font)>& visit);
 
+/// Whether a screen can show text in that family.
+bool HasFamily(std::u16string_view family);
+
 }  // namespace lumenote
