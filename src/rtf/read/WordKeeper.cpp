@@ -91,8 +91,8 @@ WordsId WordKeeper::WithMark(NameId mark, Kind kind, std::uint8_t stated, WordsI
   if (mark == 0) return words;
   Words all = formats_.words.List(words);
   if ((stated & kStatesFont) != 0 && !HasMark(all)) all.push_back({.kind = Kind::Font});
-  const bool sizeStays = (stated & kStatesSize) != 0 && kind == Kind::Direction &&
-                         !HasScript(all) && std::ranges::none_of(all, IsSize);
+  const bool sizeStays = (stated & kStatesSize) != 0 && IsDirection(kind) && !HasScript(all) &&
+                         std::ranges::none_of(all, IsSize);
   if (sizeStays) all.push_back({.kind = Kind::Size});
   const Part part = PartOf(mark, all);
   Words moved(part.begin, part.end);
@@ -162,10 +162,9 @@ void WordKeeper::LeavePlace(Kind place, KeptWord associated, Words& words) {
 
 /// Begins the parts with a marker, if it has no part yet.
 void WordKeeper::MarkStart(Words& words) {
-  const NameId leftToRight = formats_.names.Intern("ltrch");
-  if (std::ranges::any_of(words, [=](KeptWord w) { return w.name == leftToRight; })) return;
+  if (std::ranges::any_of(words, [](KeptWord w) { return w.kind == Kind::LeftToRight; })) return;
   const Iterator first = std::ranges::find_if(words, IsOfParts);
-  if (!IsMark(*first)) words.insert(first, {.name = leftToRight, .kind = Kind::Direction});
+  if (!IsMark(*first)) words.insert(first, {formats_.names.Intern("ltrch"), Kind::LeftToRight});
 }
 
 NameId WordKeeper::Name(const Token& word) {

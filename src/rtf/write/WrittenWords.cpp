@@ -84,7 +84,7 @@ WordOrder OrderOf(WordsId words, const FormatTables& tables) {
       order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
       order.settled = !order.hasFont;
       order.marked = true;
-      order.leftToRight |= tables.names[word.name] == "ltrch";
+      order.leftToRight |= word.kind == KeptWord::Kind::LeftToRight;
     }
     if (IsScript(word)) order.scripts = true;
     if (word.kind == KeptWord::Kind::Font) order.hasFont = order.settled = true;
