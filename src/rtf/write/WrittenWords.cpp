@@ -139,6 +139,26 @@ bool TakesBack(const WrittenFormat& from, const WrittenFormat& to) {
          takesBackNumber(NumberWordCalled("lang"));
 }
 
+/// Whether some of what is said must be taken back first.
+bool BeginsAnew(const WrittenFormat& from, const WrittenFormat& to, const WordOrder& order,
+                bool rewords) {
+  // A size that is said already would be that of what is said before the markers.
+  const bool moves = order.scripts || (order.marked && !order.leftToRight);
+  const bool movesSize = rewords && moves && !order.hasSize && from.size > 0;
+  return from.reset != to.reset || movesSize || TakesBack(from, to) ||
+         (rewords && (from.words != 0 || Misplaces(from, order)));
+}
+
+void WriteAttributes(const WrittenFormat& from, const WrittenFormat& to, Output& out) {
+  if (from.effects != to.effects) WriteEffects(from.effects, to.effects, out);
+  if (from.underline != to.underline)
+    out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
+  if (from.halfPoints != to.halfPoints)
+    out.Word(to.halfPoints < 0 ? "dn" : "up", std::abs(to.halfPoints));
+  for (std::size_t i = 0; i < to.numbers.size(); ++i)
+    if (from.numbers[i] != to.numbers[i]) out.Word(kNumberWords[i].name, to.numbers[i]);
+}
+
 class ParagraphWriter {
  public:
   explicit ParagraphWriter(const ParaFormat& format) : format_(format) {}
@@ -206,25 +226,13 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
                  Output& out) {
   const WordOrder order = OrderOf(to.words, tables);
   const bool rewords = from.words != to.words || !order.settled;
-  // A size that is said already would be that of what is said before the markers.
-  const bool moves = order.scripts || (order.marked && !order.leftToRight);
-  const bool movesSize = rewords && moves && !order.hasSize && from.size > 0;
-  const bool resets = from.reset != to.reset;
-  const bool anew = resets || movesSize || TakesBack(from, to) ||
-                    (rewords && (from.words != 0 || Misplaces(from, order)));
+  const bool anew = BeginsAnew(from, to, order, rewords);
   const bool worded = anew || rewords;
   const WrittenFormat& base = anew ? kPlain : from;
   EndMark(from.effects, to.effects, anew, out);
-  if (anew) out.Reset(resets && to.reset != Reset::First);
+  if (anew) out.Reset(from.reset != to.reset && to.reset != Reset::First);
   if (worded) WriteWords(to.words, order.high, to, tables, out);
-  if (base.effects != to.effects) WriteEffects(base.effects, to.effects, out);
-  if (base.underline != to.underline)
-    out.Word(kUnderlineWords[static_cast<std::size_t>(to.underline)]);
-  if (base.halfPoints != to.halfPoints) {
-    out.Word(to.halfPoints < 0 ? "dn" : "up", std::abs(to.halfPoints));
-  }
-  for (std::size_t i = 0; i < to.numbers.size(); ++i)
-    if (base.numbers[i] != to.numbers[i]) out.Word(kNumberWords[i].name, to.numbers[i]);
+  WriteAttributes(base, to, out);
   if (!(order.hasFont && worded) && base.font != to.font) out.Word("f", to.font);
   const bool sizeAnew = base.size != to.size || (worded && order.marked && to.size > 0);
   if (!(order.hasSize && worded) && sizeAnew) out.Word("fs", to.size);
