@@ -38,7 +38,19 @@ std::uint32_t PixelsAt(std::string_view bitmap) {
   return header + (masks ? 12 : 0) + 4 * PaletteSize(bits, LittleEndian32(bitmap, 32));
 }
 
-// Rows from the top, each padded to two bytes; a file's are padded to four.
+std::string HeaderOf(std::uint32_t width, std::uint32_t height, std::uint32_t bits) {
+  std::string header;
+  AppendLittleEndian(kHeader, 4, header);
+  AppendLittleEndian(width, 4, header);
+  AppendLittleEndian(0 - height, 4, header);  // rows from the top
+  AppendLittleEndian(1, 2, header);
+  AppendLittleEndian(bits, 2, header);
+  header.append(kHeader - header.size(), '\0');
+  if (bits == 1) header.append("\0\0\0\0\xFF\xFF\xFF\0", 8);
+  return header;
+}
+
+/// Each row has some padding, in a file up to four bytes.
 std::string FileOfDeviceBitmap(const PictureSource& picture) {
   const auto width = static_cast<std::uint32_t>(picture.across.size);
   const auto height = static_cast<std::uint32_t>(picture.down.size);
@@ -49,19 +61,10 @@ std::string FileOfDeviceBitmap(const PictureSource& picture) {
   const auto step = static_cast<std::size_t>(std::max(picture.bytesPerRow, 0));
   const std::string data = BytesOf(picture, height * step);
   if (step < row || data.size() < height * step) return {};
-  std::string bitmap;
-  AppendLittleEndian(kHeader, 4, bitmap);
-  AppendLittleEndian(width, 4, bitmap);
-  AppendLittleEndian(0 - height, 4, bitmap);
-  AppendLittleEndian(1, 2, bitmap);
-  AppendLittleEndian(bits, 2, bitmap);
-  bitmap.append(kHeader - bitmap.size(), '\0');
-  if (bits == 1) bitmap.append("\0\0\0\0\xFF\xFF\xFF\0", 8);
+  std::string bitmap = HeaderOf(width, height, bits);
   const auto pixels = static_cast<std::uint32_t>(bitmap.size());
-  for (std::uint32_t i = 0; i < height; ++i) {
-    bitmap.append(data, i * step, row);
-    bitmap.append((4 - row % 4) % 4, '\0');
-  }
+  for (std::uint32_t i = 0; i < height; ++i)
+    bitmap.append(data, i * step, row).append((4 - row % 4) % 4, '\0');
   return File(pixels, bitmap);
 }
 

@@ -93,10 +93,11 @@ void Interpreter::Take(const Token& token) {
   using Kind = Token::Kind;
   wasStarred_ = std::exchange(starred_, false);
   wasOpened_ = std::exchange(opened_, false);
-  behindText_ = std::exchange(atText_, false);
-  if (State().page.MultiByte() && IsEscapedByte(token)) return Byte(token.byte);
+  const bool escaped = State().page.MultiByte() && IsEscapedByte(token);
   const bool ofBytes =
-      token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
+      escaped || token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
+  behindText_ = std::exchange(atText_, ofBytes);
+  if (escaped) return Byte(token.byte);
   if (!ofBytes) EndBytes();
   switch (token.kind) {
     case Kind::Byte:
@@ -123,8 +124,7 @@ void Interpreter::Take(const Token& token) {
 void Interpreter::TakeText() {
   if (swallow_ > 0 || starred_ || State().page.MultiByte() || !AtText()) return;
   opened_ = false;
-  BeforeText();
-  atText_ = true;
+  BeginText();
   if (items_.Pending()) {
     TakeSome(1, NextCharacter());
     if (!AtText()) return;
@@ -226,7 +226,6 @@ bool Interpreter::Swallowed() {
 }
 
 void Interpreter::Byte(unsigned char byte) {
-  atText_ = true;
   if (Swallowed() || byte == 0) return;
   if (byte == '\r' || byte == '\n') {
     EndBytes();
@@ -241,7 +240,6 @@ void Interpreter::Byte(unsigned char byte) {
 
 /// The slow path for text.
 void Interpreter::Bytes(std::string_view bytes) {
-  atText_ = true;
   const auto passed = std::min(static_cast<std::size_t>(swallow_), bytes.size());
   swallow_ -= static_cast<int>(passed);
   bytes.remove_prefix(passed);
@@ -265,9 +263,13 @@ void Interpreter::EndBytes() {
 }
 
 void Interpreter::Put(char16_t unit) {
-  BeforeText();
-  atText_ = true;
+  BeginText();
   body_.Append(std::u16string_view(&unit, 1), NextCharacter());
+}
+
+void Interpreter::BeginText() {
+  atText_ = true;
+  BeforeText();
 }
 
 void Interpreter::BeforeText() {

@@ -122,6 +122,7 @@ class Interpreter {
   bool Swallowed();
 
   void Put(char16_t unit);
+  void BeginText();
   void BeforeText();
   void PlaceMarker();
   bool IsNumbered() const;
