@@ -1,5 +1,6 @@
-// Kept content: what a note's RTF source says that the editor does not show, at characters, around
-// them, and for the whole note. The reader creates these items, the writer prints them.
+// Kept content: what a note's RTF source says beside text and formats, at characters, around them,
+// and for the whole note. The reader creates these items, the writer prints them, and some, such as
+// pictures, notes and rows, are shown.
 #pragma once
 #include <cstddef>
 #include <cstdint>
