@@ -7,13 +7,6 @@
 
 #include "backends/win32/toolkit/VisualStyles.h"
 #include "backends/win32/toolkit/drawing/Units.h"
-#include "backends/win32/toolkit/input/Keys.h"
-#include "backends/win32/toolkit/input/MousePoint.h"
-#include "base/Strings.h"
-#include "view/acts/TextTips.h"
-
-// After the system's own header.
-#include <windowsx.h>
 
 namespace lumenote {
 
@@ -25,14 +18,6 @@ constexpr UINT kScrollInterval = 30;
 constexpr int kFramelessHeight = 20;  // a lower window gets no frame
 constexpr double kMargin = 3;
 constexpr DWORD kStyle = WS_CHILD | WS_TABSTOP | WS_VSCROLL | WS_HSCROLL;
-
-PixelPoint PointOf(LPARAM at) { return {1.0 * GET_X_LPARAM(at), 1.0 * GET_Y_LPARAM(at)}; }
-
-/// A key whose text comes as a WM_CHAR: a character, also one made with AltGr.
-bool Types(const KeyStroke& key) {
-  const bool text = key.name == KeyName::Character || key.name == KeyName::Space;
-  return text && key.control == key.alt;
-}
 
 HCURSOR CursorOf(PointerShape shape) {
   const LPCWSTR names[] = {IDC_IBEAM, IDC_ARROW, IDC_HAND};
@@ -161,16 +146,19 @@ std::optional<LRESULT> SurfaceWindow::Answer(const Message& message) {
 }
 
 bool SurfaceWindow::HandleAny(const Message& message) {
-  if (message.id >= WM_MOUSEFIRST && message.id <= WM_MOUSELAST) return HandleMouse(message);
+  if (message.id >= WM_MOUSEFIRST && message.id <= WM_MOUSELAST) return mouse_.Handle(message);
   if (message.id >= WM_KEYFIRST && message.id <= WM_KEYLAST) return HandleKeys(message);
-  return HandleWindow(message);
+  return HandleLook(message) || HandleRest(message);
 }
 
-bool SurfaceWindow::HandleWindow(const Message& message) {
+bool SurfaceWindow::HandleKeys(const Message& message) {
+  const bool down = message.id == WM_KEYDOWN || message.id == WM_SYSKEYDOWN;
+  if (message.w == VK_CONTROL && (down || message.id == WM_KEYUP)) mouse_.Acts().Control(down);
+  return keys_.Handle(message);
+}
+
+bool SurfaceWindow::HandleLook(const Message& message) {
   switch (message.id) {
-    case kSettle:
-      Settle();
-      return true;
     case WM_PAINT:
       Paint();
       return true;
@@ -184,10 +172,6 @@ bool SurfaceWindow::HandleWindow(const Message& message) {
     case WM_SHOWWINDOW:
       text_.Show(message.w != 0);
       return false;
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-      Focus(message.id == WM_SETFOCUS);
-      return true;
     case WM_DPICHANGED_AFTERPARENT:
       TakeScale();
       return true;
@@ -197,11 +181,24 @@ bool SurfaceWindow::HandleWindow(const Message& message) {
     case WM_THEMECHANGED:
       ShowGround();
       return true;
+  }
+  return false;
+}
+
+bool SurfaceWindow::HandleRest(const Message& message) {
+  switch (message.id) {
+    case kSettle:
+      Settle();
+      return true;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      Focus(message.id == WM_SETFOCUS);
+      return true;
     case WM_CAPTURECHANGED:
-      mouse_.Cancel();
+      mouse_.Acts().Cancel();
       return true;
     case WM_TIMER:
-      if (message.w == kScrolling) mouse_.ScrollOn();
+      if (message.w == kScrolling) mouse_.Acts().ScrollOn();
       return true;
     case WM_VSCROLL:
       bars_.Down(Handle(), LOWORD(message.w));
@@ -262,144 +259,6 @@ void SurfaceWindow::Focus(bool has) {
   focused_ = has;
   if (!has) caret_.Remove();
   text_.Focus(has);
-}
-
-// --- keyboard
-
-bool SurfaceWindow::HandleKeys(const Message& message) {
-  switch (message.id) {
-    case WM_KEYDOWN:
-    case WM_SYSKEYDOWN:
-      if (message.w == VK_CONTROL) mouse_.Control(true);
-      return PressKey(message);
-    case WM_KEYUP:
-      if (message.w == VK_CONTROL) mouse_.Control(false);
-      return false;
-    case WM_CHAR:
-      TypeUnit(static_cast<char16_t>(message.w));
-      return true;
-    case WM_UNICHAR:
-      TypeCharacter(static_cast<char32_t>(message.w));
-      return true;
-  }
-  return false;
-}
-
-bool SurfaceWindow::PressKey(const Message& message) {
-  if (message.w == VK_APPS) {
-    keys_.OpenMenu();
-    return true;
-  }
-  const std::optional<KeyStroke> key = StrokeOf(message.w);
-  if (!key || Types(*key)) return false;
-  const HWND window = Handle();
-  const std::u16string accent = TakeAccent(window, message.l);
-  if (!IsAttached()) return true;
-  const bool used = UseAccent(*key, accent) || keys_.Press(key, {}) || Offer(*key);
-  if (used) SwallowCharacter(window);
-  return used;
-}
-
-// The accent of a dead key stands by itself, unless it is taken back.
-bool SurfaceWindow::UseAccent(const KeyStroke& key, const std::u16string& accent) {
-  if (accent.empty()) return false;
-  if (key.name != KeyName::BackSpace) keys_.Press(std::nullopt, accent);
-  return key.name == KeyName::BackSpace || !IsAttached();
-}
-
-bool SurfaceWindow::Offer(const KeyStroke& key) {
-  return IsAttached() && callbacks_.key && callbacks_.key(key);
-}
-
-void SurfaceWindow::TypeCharacter(char32_t character) {
-  constexpr char32_t kLast = 0x10FFFF;
-  constexpr char32_t kFirstPair = 0x10000;
-  if (character < kFirstPair) return TypeUnit(static_cast<char16_t>(character));
-  if (character > kLast) return;
-  TypeUnit(static_cast<char16_t>(0xD800 + ((character - kFirstPair) >> 10)));
-  TypeUnit(static_cast<char16_t>(0xDC00 + (character & 0x3FF)));
-}
-
-// The halves of a surrogate pair come one by one; one without the other is none of the text.
-void SurfaceWindow::TypeUnit(char16_t unit) {
-  const char16_t high = std::exchange(highSurrogate_, IsHighSurrogate(unit) ? unit : u'\0');
-  constexpr char16_t kDelete = 0x7F;
-  if (unit < u' ' || unit == kDelete || IsHighSurrogate(unit)) return;
-  if (!IsLowSurrogate(unit))
-    keys_.Press(std::nullopt, std::u16string{unit});
-  else if (high)
-    keys_.Press(std::nullopt, std::u16string{high, unit});
-}
-
-// --- mouse
-
-bool SurfaceWindow::HandleMouse(const Message& message) {
-  if (message.id == WM_RBUTTONDOWN || message.id == WM_MBUTTONDOWN) text_.Complete();
-  ShowTip(message);
-  if (message.id <= WM_LBUTTONDOWN) mouse_.Control(message.w & MK_CONTROL);
-  switch (message.id) {
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-      PressLeft(message);
-      return true;
-    case WM_MOUSEMOVE:
-      mouse_.Move(PointOf(message.l), message.w & MK_LBUTTON);
-      return true;
-    case WM_LBUTTONUP:
-      mouse_.Up(PointOf(message.l));
-      ReleaseCapture();
-      Release(MouseButton::Left, message.l);
-      return true;
-    case WM_RBUTTONUP:
-      mouse_.Cancel();
-      Release(MouseButton::Right, message.l);
-      return true;
-    case WM_MBUTTONUP:
-      mouse_.Cancel();
-      Release(MouseButton::Middle, message.l);
-      return true;
-    case WM_MOUSEWHEEL:
-    case WM_MOUSEHWHEEL:
-      Turn(message);
-      return true;
-  }
-  return false;
-}
-
-void SurfaceWindow::ShowTip(const Message& message) {
-  if (message.id == WM_MOUSEMOVE) {
-    std::u16string tip = TipAt(text_.Pane(), PointOf(message.l));
-    if (std::exchange(shownTip_, tip) != tip) tip_.Text(tip);
-  }
-  tip_.Relay(message);
-}
-
-void SurfaceWindow::PressLeft(const Message& message) {
-  const HWND window = Handle();
-  if (GetFocus() != window) SetFocus(window);
-  if (!IsAttached()) return;
-  SetCapture(window);
-  const ViewMouse::Press press{
-      .at = PointOf(message.l), .time = GetMessageTime(), .extend = (message.w & MK_SHIFT) != 0};
-  if (message.id == WM_LBUTTONDBLCLK)
-    mouse_.DoubleClick(press);
-  else
-    mouse_.Down(press);
-}
-
-void SurfaceWindow::Release(MouseButton button, LPARAM at) {
-  if (IsAttached() && callbacks_.mouseUp)
-    callbacks_.mouseUp({button, PointOf(Handle(), {.l = at})});
-}
-
-void SurfaceWindow::Turn(const Message& message) {
-  const double notches = 1.0 * GET_WHEEL_DELTA_WPARAM(message.w) / WHEEL_DELTA;
-  if (message.id == WM_MOUSEHWHEEL)
-    bars_.TurnAcross(notches);
-  else if (GET_KEYSTATE_WPARAM(message.w) & MK_CONTROL)
-    text_.ZoomBy(notches);
-  else
-    bars_.Turn(notches);
 }
 
 }  // namespace lumenote

@@ -7,17 +7,15 @@
 
 #include "backends/win32/assist/Assistance.h"
 #include "backends/win32/text/UniscribeLayouter.h"
-#include "backends/win32/toolkit/ToolTip.h"
 #include "backends/win32/toolkit/Window.h"
-#include "backends/win32/view/Composing.h"
 #include "backends/win32/view/DropTarget.h"
-#include "backends/win32/view/SystemCaret.h"
-#include "backends/win32/view/ViewBars.h"
 #include "backends/win32/view/ViewPainter.h"
+#include "backends/win32/view/input/Composing.h"
+#include "backends/win32/view/input/KeyInput.h"
+#include "backends/win32/view/input/MouseInput.h"
+#include "backends/win32/view/input/SystemCaret.h"
 #include "forms/controls/edits/ViewCallbacks.h"
 #include "view/acts/ViewDrop.h"
-#include "view/acts/ViewKeys.h"
-#include "view/acts/ViewMouse.h"
 #include "view/pane/NoteView.h"
 
 namespace lumenote {
@@ -62,16 +60,16 @@ class SurfaceWindow final : public Window, private ViewHost {
     if (callbacks_.link) callbacks_.link(address);
   }
   void OpenMenu(PixelPoint at) override {
-    Release(MouseButton::Right, MAKELPARAM(std::lround(at.x), std::lround(at.y)));
+    mouse_.Release(MouseButton::Right, MAKELPARAM(std::lround(at.x), std::lround(at.y)));
   }
 
   /// Nothing for a message that is the system's.
   std::optional<LRESULT> Answer(const Message& message);
   // Each returns whether it has handled the message.
   bool HandleAny(const Message& message);
-  bool HandleWindow(const Message& message);
   bool HandleKeys(const Message& message);
-  bool HandleMouse(const Message& message);
+  bool HandleLook(const Message& message);
+  bool HandleRest(const Message& message);
 
   void Leave();
   void Paint();
@@ -79,33 +77,21 @@ class SurfaceWindow final : public Window, private ViewHost {
   void ShowGround();
   void TakeScale();
   void Focus(bool has);
-  bool PressKey(const Message& message);
-  bool UseAccent(const KeyStroke& key, const std::u16string& accent);
-  bool Offer(const KeyStroke& key);
-  void TypeUnit(char16_t unit);
-  void TypeCharacter(char32_t character);
-  void Turn(const Message& message);
-  void PressLeft(const Message& message);
-  void Release(MouseButton button, LPARAM at);
   void ShowCaretPlace();
-  void ShowTip(const Message& message);
 
   UniscribeLayouter& layouter_;
   ViewCallbacks callbacks_;
   NoteView text_;
-  ViewKeys keys_{text_};
-  ViewMouse mouse_{text_};
+  ViewBars bars_{text_};
+  KeyInput keys_{Handle(), text_, callbacks_};
+  MouseInput mouse_{Handle(), text_, bars_, callbacks_};
   Composing composing_{Handle(), text_};
   ViewDrop drop_{text_};
-  ViewBars bars_{text_};
-  ToolTip tip_{Handle()};
-  std::u16string shownTip_;
   SystemCaret caret_{Handle()};
   Assistance assistance_{Handle(), text_, callbacks_.name};
   OleScope ole_;
   DragOut drag_;
   ComOwner<DropTarget> target_{new DropTarget(Handle(), text_, drag_)};
-  char16_t highSurrogate_ = 0;  // typed, its other half still to come
   bool focused_ = false;
   PointerShape shape_ = PointerShape::Text;
   bool framed_ = true;

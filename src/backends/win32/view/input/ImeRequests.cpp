@@ -1,4 +1,4 @@
-#include "backends/win32/view/ImeRequests.h"
+#include "backends/win32/view/input/ImeRequests.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "backends/win32/view/SystemCaret.h"
+#include "backends/win32/view/input/SystemCaret.h"
 
 #include <cmath>
 

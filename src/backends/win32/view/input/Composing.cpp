@@ -1,8 +1,8 @@
-#include "backends/win32/view/Composing.h"
+#include "backends/win32/view/input/Composing.h"
 
 #include <cmath>
 
-#include "backends/win32/view/ImeRequests.h"
+#include "backends/win32/view/input/ImeRequests.h"
 
 // After the system's own header.
 #include <imm.h>

@@ -1,4 +1,4 @@
-#include "backends/win32/view/ViewBars.h"
+#include "backends/win32/view/input/ViewBars.h"
 
 #include <algorithm>
 #include <cmath>
