@@ -2,31 +2,17 @@
 #pragma once
 #include <string>
 #include <sys/types.h>
-#include <utility>
 #include <vector>
 
+#include "backends/win32/system/OwnedHandle.h"
 #include "backends/win32/system/System.h"
 
 namespace lumenote {
 
-/// Owns a handle of the system, or none.
-class Handle {
- public:
-  explicit Handle(HANDLE handle = nullptr) : handle_(handle) {}
-  Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
-  Handle& operator=(Handle&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-  }
-  ~Handle() {
-    if (handle_) CloseHandle(handle_);
-  }
-  HANDLE Get() const { return handle_; }
-  explicit operator bool() const { return handle_ != nullptr; }
-
- private:
-  HANDLE handle_;
+struct HandleClosing {
+  void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
+using Handle = OwnedHandle<HANDLE, HandleClosing>;
 
 /// A job of the system's: it knows its processes though the one that was started has ended. They
 /// outlive this object.

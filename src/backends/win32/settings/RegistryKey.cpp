@@ -17,10 +17,6 @@ RegistryKey RegistryKey::Create(HKEY root, std::u16string_view path) {
   return RegistryKey(status == ERROR_SUCCESS ? key : nullptr);
 }
 
-RegistryKey::~RegistryKey() {
-  if (key_) RegCloseKey(key_);
-}
-
 std::optional<std::u16string> RegistryKey::Read(std::u16string_view name) const {
   const std::wstring wide = ToWide(name);
   std::wstring value;
@@ -28,7 +24,8 @@ std::optional<std::u16string> RegistryKey::Read(std::u16string_view name) const 
   for (DWORD size = 256; status == ERROR_MORE_DATA;) {
     value.resize(size / sizeof(wchar_t) + 1);
     size = static_cast<DWORD>(value.size() * sizeof(wchar_t));
-    status = RegGetValueW(key_, nullptr, wide.c_str(), RRF_RT_REG_SZ, nullptr, value.data(), &size);
+    status = RegGetValueW(key_.Get(), nullptr, wide.c_str(), RRF_RT_REG_SZ, nullptr, value.data(),
+                          &size);
     if (status == ERROR_SUCCESS) value.resize(size / sizeof(wchar_t) - 1);  // without its end
   }
   if (status != ERROR_SUCCESS) return std::nullopt;
@@ -38,7 +35,7 @@ std::optional<std::u16string> RegistryKey::Read(std::u16string_view name) const 
 bool RegistryKey::Write(std::u16string_view name, std::u16string_view value) const {
   const std::wstring text = ToWide(value);
   const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-  return key_ && RegSetValueExW(key_, ToWide(name).c_str(), 0, REG_SZ,
+  return key_ && RegSetValueExW(key_.Get(), ToWide(name).c_str(), 0, REG_SZ,
                                 reinterpret_cast<const BYTE*>(text.c_str()), size) == ERROR_SUCCESS;
 }
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 
+#include "backends/win32/system/OwnedHandle.h"
 #include "backends/win32/system/System.h"
 
 namespace lumenote {
@@ -17,11 +17,6 @@ class RegistryKey {
   /// Made with its parents if it is missing.
   static RegistryKey Create(HKEY root, std::u16string_view path);
 
-  RegistryKey(RegistryKey&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
-  RegistryKey(const RegistryKey&) = delete;
-  RegistryKey& operator=(const RegistryKey&) = delete;
-  ~RegistryKey();
-
   /// A string; an empty name is the key's default value.
   std::optional<std::u16string> Read(std::u16string_view name) const;
   /// Returns whether it is stored.
@@ -30,7 +25,10 @@ class RegistryKey {
  private:
   explicit RegistryKey(HKEY key) : key_(key) {}
 
-  HKEY key_;
+  struct Closing {
+    void operator()(HKEY key) const { RegCloseKey(key); }
+  };
+  OwnedHandle<HKEY, Closing> key_;
 };
 
 }  // namespace lumenote

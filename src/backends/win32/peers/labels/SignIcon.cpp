@@ -26,8 +26,8 @@ void Draw(HDC dc, HBITMAP bitmap, StatusSign sign, int side, COLORREF ground, CO
 
 }  // namespace
 
-SignIcon::SignIcon(StatusSign sign, int side, COLORREF ink) {
-  if (sign == StatusSign::None) return;
+SignIcon MakeSignIcon(StatusSign sign, int side, COLORREF ink) {
+  if (sign == StatusSign::None) return SignIcon();
   const DcScope screen(nullptr);
   const MemoryDc dc(screen.Get());
   const GdiObject<HBITMAP> colour(CreateCompatibleBitmap(screen.Get(), side, side));
@@ -39,7 +39,7 @@ SignIcon::SignIcon(StatusSign sign, int side, COLORREF ink) {
   icon.fIcon = TRUE;
   icon.hbmColor = colour.Get();
   icon.hbmMask = mask.Get();
-  handle_ = CreateIconIndirect(&icon);
+  return SignIcon(CreateIconIndirect(&icon));
 }
 
 }  // namespace lumenote

@@ -86,7 +86,7 @@ void StatusBarPeer::ShowSign() {
   const int side = Host().Resolution().Pixels(kSignTwips);
   const std::size_t last = bar_.ShownPanels().size() + 1;
   for (std::size_t part = 0; part < last; ++part) Tell(SB_SETICON, part);
-  SignIcon icon(bar_.Sign(), side, InkOf(bar_.Sign()));
+  SignIcon icon = MakeSignIcon(bar_.Sign(), side, InkOf(bar_.Sign()));
   Tell(SB_SETICON, last, reinterpret_cast<LPARAM>(icon.Get()));
   sign_ = std::move(icon);
 }

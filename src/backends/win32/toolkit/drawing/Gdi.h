@@ -1,8 +1,8 @@
 // Owners of the system's drawing objects.
 #pragma once
 #include <atomic>
-#include <utility>
 
+#include "backends/win32/system/OwnedHandle.h"
 #include "backends/win32/system/System.h"
 
 namespace lumenote {
@@ -22,25 +22,18 @@ class GdiCount {
   static inline std::atomic<int> alive_ = 0;
 };
 
+template <class Handle, class Free>
+class GdiOwner : private GdiCount, public OwnedHandle<Handle, Free> {
+ public:
+  using OwnedHandle<Handle, Free>::OwnedHandle;
+};
+
+struct ObjectDeletion {
+  void operator()(HGDIOBJ object) const { DeleteObject(object); }
+};
 /// Owns a font, brush, pen, bitmap or region.
 template <class Handle>
-class GdiObject : private GdiCount {
- public:
-  explicit GdiObject(Handle handle) : handle_(handle) {}
-  GdiObject(GdiObject&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
-  GdiObject& operator=(GdiObject&& other) noexcept {
-    std::swap(handle_, other.handle_);
-    return *this;
-  }
-  ~GdiObject() {
-    if (handle_) DeleteObject(handle_);
-  }
-
-  Handle Get() const { return handle_; }
-
- private:
-  Handle handle_;
-};
+using GdiObject = GdiOwner<Handle, ObjectDeletion>;
 
 /// Selects an object into a device context for a block.
 class SelectScope {
