@@ -38,6 +38,15 @@ std::optional<std::u16string> IniSettings::Read(std::u16string_view application,
   return text_.Find(application, section, key);
 }
 
+std::vector<std::optional<std::u16string>> IniSettings::ReadEach(
+    std::u16string_view application, std::u16string_view section,
+    const std::vector<std::u16string>& keys) const {
+  Refresh();
+  std::vector<std::optional<std::u16string>> values;
+  for (const std::u16string& key : keys) values.push_back(text_.Find(application, section, key));
+  return values;
+}
+
 void IniSettings::Write(std::u16string_view application, std::u16string_view section,
                         std::u16string_view key, std::u16string_view value) {
   const bool stored = IgnoringErrors([&] { Store(application, section, key, value); });

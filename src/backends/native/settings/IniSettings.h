@@ -20,6 +20,9 @@ class IniSettings : public Settings {
 
   std::optional<std::u16string> Read(std::u16string_view application, std::u16string_view section,
                                      std::u16string_view key) const override;
+  std::vector<std::optional<std::u16string>> ReadEach(
+      std::u16string_view application, std::u16string_view section,
+      const std::vector<std::u16string>& keys) const override;
   void Write(std::u16string_view application, std::u16string_view section, std::u16string_view key,
              std::u16string_view value) override;
 

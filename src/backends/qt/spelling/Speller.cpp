@@ -62,8 +62,8 @@ void Speller::LookUpOnWorker(const Words& words) {
 }
 
 void Speller::Found(const Words& wrong) {
-  for (const std::u16string& word : wrong)
-    wrong_[word] = settings_.Read(kApplication, kSection, word) != kRight;
+  const auto added = settings_.ReadEach(kApplication, kSection, wrong);
+  for (std::size_t i = 0; i < wrong.size(); ++i) wrong_[wrong[i]] = added[i] != kRight;
   changeTimer_.start(0);
 }
 
