@@ -6,6 +6,7 @@
 #include "base/Rows.h"
 #include "view/Window.h"
 #include "view/acts/AccessibleText.h"
+#include "view/acts/SpellingEntries.h"
 #include "view/acts/TextDrag.h"
 #include "view/acts/TextTips.h"
 #include "view/acts/TextWalk.h"
@@ -184,6 +185,27 @@ TEST(Keys, AreTheViewsOrTheWindows) {
       EXPECT_EQ(user.menu.x, row.key == u"Shift+F10" ? 10 : 0);
       EXPECT_EQ(user.pane.Zoom(), row.key == u"Ctrl+0" ? 1 : 1.5);
     }
+}
+
+// A line before each part, the entries of an entry in brackets, "-" before what cannot be chosen.
+std::string Offered(const std::vector<SpellingEntry>& entries) {
+  std::string offered;
+  for (const SpellingEntry& entry : entries) {
+    const bool dead = entry.act == SpellingEntry::Act::None && entry.entries.empty();
+    offered += (entry.startsPart ? "| " : "") + ToUtf8((dead ? u"-" : u"") + entry.caption) + " ";
+    if (!entry.entries.empty()) offered += "[ " + Offered(entry.entries) + "] ";
+  }
+  return offered;
+}
+
+TEST(Spelling, OffersWhatTheNoteTakes) {
+  const std::string always = "Ajouter au &dictionnaire | &Menu de la note ";
+  const std::vector<std::u16string> many(9, u"mot");
+  EXPECT_EQ(Offered(SpellingEntries({u"un", u"eu"}, false)),
+            "un eu | &Apprendre la correction [ un eu ] | " + always);
+  EXPECT_EQ(Offered(SpellingEntries({}, false)), "-Aucune proposition | " + always);
+  EXPECT_EQ(Offered(SpellingEntries(many, true)), always);
+  EXPECT_EQ(SpellingEntries(many, false).size(), 8u + 3);
 }
 
 TEST(Drags, TakeTheirTextWhenTheyBegin) {

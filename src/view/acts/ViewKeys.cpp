@@ -24,6 +24,10 @@ bool ViewKeys::Press(const std::optional<KeyStroke>& key, std::u16string_view te
   if (key && key->name == KeyName::Tab && !key->control && view_.Host().TabLeaves()) return false;
   if (key && Zoom(*key)) return true;
   if (key == kLinkKey) return OpenLink();
+  if (key && IsForSpelling(*key)) {
+    view_.Host().OpenSpelling();
+    return true;
+  }
   if (key != kMenuKey) return Edit(key, text);
   OpenMenu();
   return true;
@@ -41,7 +45,14 @@ bool ViewKeys::Edit(const std::optional<KeyStroke>& key, std::u16string_view tex
   return used;
 }
 
-bool ViewKeys::IsForEditing(const KeyStroke& key) {
+// The full stop of a French keyboard is shifted.
+bool ViewKeys::IsForSpelling(const KeyStroke& key) const {
+  return key.name == KeyName::Character && key.character == u'.' && key.control && !key.alt &&
+         view_.Host().ChecksSpelling();
+}
+
+bool ViewKeys::IsForEditing(const KeyStroke& key) const {
+  if (IsForSpelling(key)) return true;
   if (key.alt || key.name == KeyName::Escape || key.name == KeyName::Function) return false;
   return key.name != KeyName::Character || !key.control || IsCommandKey(key) || IsZoom(key);
 }

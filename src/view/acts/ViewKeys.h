@@ -19,7 +19,7 @@ class ViewKeys {
   /// name here, `text` for one that types nothing.
   bool Press(const std::optional<KeyStroke>& key, std::u16string_view text);
   /// Whether an editor uses such a key, so that no shortcut of the host's should take it.
-  static bool IsForEditing(const KeyStroke& key);
+  bool IsForEditing(const KeyStroke& key) const;
   /// Acts like the right button at the caret.
   void OpenMenu();
 
@@ -27,6 +27,7 @@ class ViewKeys {
   bool Edit(const std::optional<KeyStroke>& key, std::u16string_view text);
   bool Zoom(const KeyStroke& key);
   bool OpenLink();
+  bool IsForSpelling(const KeyStroke& key) const;
 
   NoteView& view_;
 };

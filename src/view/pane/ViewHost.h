@@ -27,6 +27,8 @@ class ViewHost {
   virtual bool IsLocked() const = 0;
   /// Whether Tab goes to the next control instead of being typed.
   virtual bool TabLeaves() const = 0;
+  /// Whether the key for it opens the popup of a misspelt word.
+  virtual bool ChecksSpelling() const { return false; }
   virtual PointerManners Pointer() const = 0;
 
   /// Requests a call of `NoteView::Settle` soon, before the next paint.
@@ -57,6 +59,8 @@ class ViewHost {
   virtual void OpenLink(std::u16string_view address) = 0;
   /// Acts like releasing the right button there.
   virtual void OpenMenu(PixelPoint at) = 0;
+  /// Opens the popup of the word at the caret, if that is misspelt.
+  virtual void OpenSpelling() {}
 };
 
 }  // namespace lumenote

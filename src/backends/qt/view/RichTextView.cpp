@@ -30,12 +30,6 @@ constexpr double kMargin = 3;
 constexpr double kWheelNotch = 120;
 constexpr int kScrollInterval = 30;  // milliseconds
 
-// The full stop of a French keyboard is shifted.
-bool IsSpellingKey(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Period &&
-         (event.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
-}
-
 QEvent::Type SettleEvent() {
   static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
   return type;
@@ -215,7 +209,6 @@ void RichTextView::wheelEvent(QWheelEvent* event) {
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Menu) return keys_.OpenMenu();
   if (event->key() == Qt::Key_Control) mouse_.Control(true);
-  if (spelling_ && IsSpellingKey(*event)) return spelling_->Open();
   const bool used = keys_.Press(StrokeOf(*event), FromQString(TypedText(*event)));
   const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
   event->setAccepted(used || tab);  // else the window would move the focus once more
@@ -288,8 +281,7 @@ bool RichTextView::HandleEvent(QEvent* event) {
   }
   if (event->type() == QEvent::ShortcutOverride) {
     const auto key = StrokeOf(static_cast<const QKeyEvent&>(*event));
-    const bool spelling = spelling_ && IsSpellingKey(static_cast<const QKeyEvent&>(*event));
-    if (spelling || (key && ViewKeys::IsForEditing(*key))) event->accept();
+    if (key && keys_.IsForEditing(*key)) event->accept();
   }
   return QAbstractScrollArea::event(event);
 }

@@ -97,6 +97,8 @@ class RichTextView : public QAbstractScrollArea, public Spoken, private ViewHost
   void ScrollTimer(bool on) override;
   void Drag() override { drag_.Run(); }
   void OpenLink(std::u16string_view address) override;
+  bool ChecksSpelling() const override { return spelling_ != nullptr; }
+  void OpenSpelling() override { spelling_->Open(); }
   void OpenMenu(PixelPoint at) override { ReleaseMouse(MouseButton::Right, {at.x, at.y}); }
 
   void ReleaseMouse(MouseButton button, QPointF at);

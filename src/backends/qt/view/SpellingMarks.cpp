@@ -18,7 +18,6 @@ namespace {
 constexpr int kPause = 600;       // milliseconds without a key, after which no word is being typed
 constexpr double kBelow = 2;      // pixels from the baseline to the wave
 constexpr double kClickable = 3;  // pixels above the wave that belong to it
-constexpr qsizetype kMostSuggestions = 8;
 
 QPainterPath WaveUnder(const PixelRect& box, double y) {
   constexpr double kStep = 2, kHeight = 1.5;
@@ -32,6 +31,25 @@ QPainterPath WaveUnder(const PixelRect& box, double y) {
 double WaveOf(const ShownPiece& item, const RangeBox& part) {
   const PieceLine& line = item.piece->lines[static_cast<std::size_t>(part.line)];
   return item.y + line.baseline + kBelow;
+}
+
+std::vector<std::u16string> FromQStrings(const QStringList& texts) {
+  std::vector<std::u16string> all;
+  for (const QString& text : texts) all.push_back(FromQString(text));
+  return all;
+}
+
+void AddEntries(QMenu& menu, const std::vector<SpellingEntry>& entries,
+                const std::function<void(const SpellingEntry&)>& perform) {
+  for (const SpellingEntry& entry : entries) {
+    if (entry.startsPart) menu.addSeparator();
+    const QString caption = ToQString(entry.caption);
+    if (!entry.entries.empty())
+      AddEntries(*menu.addMenu(caption), entry.entries, perform);
+    else
+      menu.addAction(caption, [=] { perform(entry); })
+          ->setEnabled(entry.act != SpellingEntry::Act::None);
+  }
 }
 
 }  // namespace
@@ -102,8 +120,7 @@ void SpellingMarks::Open(Selection word) {
   const Misspelling wanted{word, TextOf(word)};
   const int request = ++requests_;
   speller_.Suggest(wanted.text, this, [=, this](const QStringList& suggestions) {
-    if (request == requests_ && IsThere(wanted) && MayPopUp())
-      ShowPopup(wanted, suggestions.mid(0, kMostSuggestions));
+    if (request == requests_ && IsThere(wanted) && MayPopUp()) ShowPopup(wanted, suggestions);
   });
 }
 
@@ -124,40 +141,37 @@ void SpellingMarks::ShowPopup(const Misspelling& word, const QStringList& sugges
   auto* menu = new QMenu(&view_);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->setFont(ControlFont());
-  AddSuggestions(*menu, word, suggestions);
-  menu->addSeparator();
-  menu->addAction(QStringLiteral("Ajouter au &dictionnaire"), this,
-                  [=, this] { view_.Text().Act([&] { speller_.Add(word.text); }); });
-  menu->addSeparator();
-  menu->addAction(QStringLiteral("&Menu de la note"), this,
-                  [=, this] { view_.OpenNoteMenu(below); });
+  AddEntries(*menu, SpellingEntries(FromQStrings(suggestions), view_.IsLocked()),
+             [=, this](const SpellingEntry& entry) { Perform(entry, word, below); });
   menu->popup(view_.viewport()->mapToGlobal(ToQPoint(below).toPoint()));
 }
 
-void SpellingMarks::AddSuggestions(QMenu& menu, const Misspelling& word,
-                                   const QStringList& suggestions) {
-  if (view_.IsLocked()) return;
-  if (suggestions.isEmpty())
-    return menu.addAction(QStringLiteral("Aucune proposition"))->setEnabled(false);
-  for (const QString& right : suggestions)
-    menu.addAction(right, this, [=, this] { Mend(word, right); });
-  menu.addSeparator();
-  QMenu* learn = menu.addMenu(QStringLiteral("&Apprendre la correction"));
-  for (const QString& right : suggestions)
-    learn->addAction(right, this, [=, this] { MendAndLearn(word, right); });
+void SpellingMarks::Perform(const SpellingEntry& entry, const Misspelling& word, PixelPoint below) {
+  switch (entry.act) {
+    case SpellingEntry::Act::None:
+      return;
+    case SpellingEntry::Act::Mend:
+      return Mend(word, entry.right);
+    case SpellingEntry::Act::MendAndLearn:
+      return MendAndLearn(word, entry.right);
+    case SpellingEntry::Act::AddWord:
+      return view_.Text().Act([&] { speller_.Add(word.text); });
+    case SpellingEntry::Act::OpenNoteMenu:
+      return view_.OpenNoteMenu(below);
+  }
 }
 
 // What happens between two acts may end the view, but not this object.
-void SpellingMarks::Mend(const Misspelling& word, const QString& right) {
+void SpellingMarks::Mend(const Misspelling& word, const std::u16string& right) {
   if (!IsThere(word) || view_.IsLocked()) return;
   view_.Text().Select(word.range.start, word.range.end);
-  if (IsThere(word)) view_.Text().Type(FromQString(right));
+  if (IsThere(word)) view_.Text().Type(right);
 }
 
-void SpellingMarks::MendAndLearn(const Misspelling& word, const QString& right) {
+void SpellingMarks::MendAndLearn(const Misspelling& word, const std::u16string& right) {
   Mend(word, right);
   if (!view_.IsAttached() || IsThere(word)) return;
-  view_.Text().Act([&] { learn_(word.text, FromQString(right)); });
+  view_.Text().Act([&] { learn_(word.text, right); });
 }
 
 }  // namespace lumenote

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "document/Document.h"
+#include "view/acts/SpellingEntries.h"
 #include "view/pane/RangeBoxes.h"
 
 namespace lumenote {
@@ -51,9 +52,9 @@ class SpellingMarks : public QObject {
   bool IsThere(const Misspelling& word) const;
   bool MayPopUp() const;
   void ShowPopup(const Misspelling& word, const QStringList& suggestions);
-  void AddSuggestions(QMenu& menu, const Misspelling& word, const QStringList& suggestions);
-  void Mend(const Misspelling& word, const QString& right);
-  void MendAndLearn(const Misspelling& word, const QString& right);
+  void Perform(const SpellingEntry& entry, const Misspelling& word, PixelPoint below);
+  void Mend(const Misspelling& word, const std::u16string& right);
+  void MendAndLearn(const Misspelling& word, const std::u16string& right);
 
   RichTextView& view_;
   Speller& speller_;
