@@ -11,7 +11,7 @@ import sys
 
 TOP = pathlib.Path(__file__).resolve().parent.parent
 MICROEDIT = str(pathlib.Path(sys.argv[1]).resolve() / "hosts/microedit/microedit")
-sys.argv[1:] = [MICROEDIT] * 4  # what the rig asks for
+sys.argv[1:] = [MICROEDIT]
 sys.path.insert(0, str(TOP / "tests/desktop"))
 from rig import Desktop, main  # noqa: E402
 

@@ -16,7 +16,7 @@ class Editor(Notes):
 
     def tip_shown(self, point):
         self.mouse(self.note, TEXT, "sleep 0.4", point, "sleep 0.4", (point[0] + 3, point[1]))
-        self.wait(self.popup, "the tooltip")
+        self.wait(self.tooltip, "the tooltip")
 
     def test_the_sign_follows_the_first_edit_and_the_save(self):
         sign = lambda: self.picture(self.note, SIGN[0] - 8, SIGN[1] - 8, 16, 16)

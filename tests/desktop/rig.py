@@ -1,6 +1,6 @@
 """A desktop of its own for tests: an X server without a screen, a window manager, a home folder.
 
-Each test is run as NAME_test.py MICROEDIT LUMENOTE NOTES_HOST DROP_TARGET; status 77 when the desktop
+Each test is run as NAME_test.py MICROEDIT [LUMENOTE NOTES_HOST DROP_TARGET]; status 77 when the desktop
 cannot be had.
 """
 import ctypes
@@ -14,7 +14,7 @@ import tempfile
 import time
 import unittest
 
-MICROEDIT, LUMENOTE, NOTES_HOST, DROP_TARGET = map(os.path.abspath, sys.argv[1:5])
+MICROEDIT, LUMENOTE, NOTES_HOST, DROP_TARGET = [*map(os.path.abspath, sys.argv[1:5]), *[None] * 3][:4]
 del sys.argv[1:5]
 NEEDED = ("Xvfb", "openbox", "xdotool", "xprop", "ps")
 SKIPPED = 77
@@ -203,9 +203,13 @@ class Desktop(unittest.TestCase):
         self.run_x(*command)
 
     def popup(self):
-        """Whether a menu, a list or something dragged is shown over the editor's windows."""
+        """What is shown over the editor's windows: menus, lists, tooltips, something dragged."""
         shown = self.run_x("xdotool", "search", "--onlyvisible", "--class", "notes_host|microedit")
-        return bool({hex(int(number)) for number in shown.split()} - self.windows().keys())
+        return {hex(int(number)) for number in shown.split()} - self.windows().keys()
+
+    def tooltip(self):
+        return any("_TOOLTIP" in self.run_x("xprop", "-id", window, "_NET_WM_WINDOW_TYPE")
+                   for window in self.popup())
 
     def choose(self, window, *keys):
         """An entry of a note's context menu, or only the menu."""

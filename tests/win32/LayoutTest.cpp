@@ -4,9 +4,6 @@
 
 namespace lumenote {
 
-std::unique_ptr<TextLayouter> MakeLayouter() {
-  auto layouter = std::make_unique<UniscribeLayouter>();
-  return layouter;
-}
+std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<UniscribeLayouter>(); }
 
 }  // namespace lumenote
