@@ -99,16 +99,9 @@ std::optional<Raster> RasterOfBitmap(std::string_view data) {
 }
 
 std::optional<Raster> RasterOf(PictureType type, std::string_view data) {
-  switch (type) {
-    case PictureType::Png:
-      return RasterOfPng(data);
-    case PictureType::Jpeg:
-      return RasterOfJpeg(data);
-    case PictureType::Bitmap:
-      return RasterOfBitmap(data);
-    default:
-      return std::nullopt;
-  }
+  if (type == PictureType::Png) return RasterOfPng(data);
+  if (type == PictureType::Jpeg) return RasterOfJpeg(data);
+  return type == PictureType::Bitmap ? RasterOfBitmap(data) : std::nullopt;
 }
 
 }  // namespace
