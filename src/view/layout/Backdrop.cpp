@@ -61,7 +61,9 @@ class Painter {
   void Across(const BorderLine& line, double left, double right, double top);
   void Down(const BorderLine& line, double top, double bottom, double left);
   /// A line that marks a cell without lines of its own.
-  void Grid(const PixelRect& area) { Fill(area, Mixed(colours_.ground, colours_.ink, kGridShare)); }
+  void Grid(const PixelRect& area) {
+    if (colours_.grid) Fill(area, Mixed(colours_.ground, colours_.ink, kGridShare));
+  }
   double Thickness(const BorderLine& line) const { return ThicknessOf(layouter_, line); }
 
   std::vector<BackdropPart> parts;

@@ -31,6 +31,7 @@ struct BackdropColours {
   Colour ink = 0;
   Colour ground = 0xFFFFFF;
   bool plain = false;  // no colours of the note's own
+  bool grid = true;    // lines show where cells without lines of their own are
 };
 
 /// The parts of a piece within `clip`. Neighbours with equal borders share theirs, as do rows.

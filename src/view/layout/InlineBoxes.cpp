@@ -52,7 +52,7 @@ InlineBox BoxOf(const TextLayouter& layouter, const FormatTables& tables, const 
   if (!IsBoxed(tables.items[id])) return {};
   const PictureFrame& frame = layouter.FrameOf(tables, id);
   const double twips = layouter.TwipsPerPixel();
-  const PixelSize room{width, layouter.Pixels(kMaxTwips)};
+  const PixelSize room{width, layouter.Pixels(layouter.Tallest())};
   const PixelSize size = Fitted({frame.width / twips, frame.height / twips}, room);
   return {.item = id, .size = size, .frame = frame};
 }

@@ -50,6 +50,9 @@ class TextLayouter {
   /// Pixels of the device in one at 96 dots per inch; the zoom does not count.
   double Scale() const { return scale_; }
   void Scale(double factor);
+  /// The most that a box in a line may be high, in twips.
+  double Tallest() const { return tallest_; }
+  void Tallest(double twips) { tallest_ = twips; }
   const Composition& Composed() const { return composed_; }
   void Composed(Composition text) { composed_ = std::move(text); }
   /// Those that the boxes of footnotes show.
@@ -80,6 +83,7 @@ class TextLayouter {
   double width_ = 400;
   double zoom_ = 1;
   double scale_ = 1;
+  double tallest_ = kMaxTwips;
   Composition composed_;
   mutable NoteNumbers notes_;                                // a cache
   mutable std::unordered_map<ItemId, PictureFrame> frames_;  // likewise
