@@ -1,21 +1,13 @@
 #include "backends/qt/view/ViewPainter.h"
 
 #include <algorithm>
-#include <cmath>
 
-#include "backends/qt/text/BoxPainter.h"
-#include "backends/qt/text/Decorations.h"
-#include "backends/qt/toolkit/Colours.h"
-#include "backends/qt/toolkit/DeviceLines.h"
+#include "backends/qt/text/PiecePainter.h"
 #include "backends/qt/toolkit/Pixels.h"
-#include "view/layout/Backdrop.h"
-#include "view/layout/InlineBoxes.h"
 
 namespace lumenote {
 
 namespace {
-constexpr char16_t kBullet[] = u"\u2022";
-
 const QtPiece& PieceOf(const ShownPiece& item) { return static_cast<const QtPiece&>(*item.piece); }
 
 }  // namespace
@@ -31,55 +23,13 @@ void ViewPainter::Paint(QPainter& painter, const QRectF& area) {
 
 void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area) {
   const QPointF origin(pane_.TextLeft(), item.y);
-  PaintBackdrop(painter, item, area);
-  painter.setPen(state_.palette.color(QPalette::Text));
+  PiecePainter pieces(painter, pane_.Content(), layouter_, state_.palette);
+  pieces.PaintBackdrop(*item.piece, origin, area, true);
   if (const auto stripe = BreakBoxOf(pane_, item, state_.marks.selection))
     painter.fillRect(ToQRect(*stripe), state_.palette.highlight());
-  PaintBullet(painter, item);
-  PieceOf(item).layout.draw(&painter, origin, {}, area);
+  pieces.PaintText(PieceOf(item), origin, area);
   PaintSelection(painter, item);
-  PaintBoxes(painter, item, area);
-  PaintDecorations(painter, PieceOf(item), origin, state_.palette.color(QPalette::Text));
-}
-
-void ViewPainter::PaintBackdrop(QPainter& painter, const ShownPiece& item, const QRectF& area) {
-  const double left = pane_.TextLeft();
-  const PixelRect seen{area.left(), area.top(), area.right(), area.bottom()};
-  const BackdropColours colours{.ink = ToBgr(state_.palette.color(QPalette::Text)),
-                                .ground = ToBgr(state_.palette.color(QPalette::Base))};
-  for (const BackdropPart& part :
-       BackdropOf(layouter_, pane_.Content(), *item.piece, seen.MovedBy(-left, -item.y), colours))
-    painter.fillRect(OnDevicePixels(painter, ToQRect(part.area.MovedBy(left, item.y))),
-                     FromBgr(part.colour));
-}
-
-void ViewPainter::PaintBoxes(QPainter& painter, const ShownPiece& item, const QRectF& area) {
-  const Piece& piece = *item.piece;
-  BoxPainter boxes(painter, pane_.Content(), layouter_.pictures, state_.palette);
-  for (const InlineBox& box : piece.boxes) {
-    const QRectF place = ToQRect(piece.PlaceOf(box).MovedBy(pane_.TextLeft(), item.y));
-    const Position at = piece.ToPosition(box.index);
-    const Selection& selection = state_.marks.selection;
-    const bool selected = at >= selection.start && at < selection.end;
-    if (!place.intersects(area)) continue;
-    if (box.number > 0)
-      PaintNumber(painter, box.number, place, pane_.Content().CharFormatAt(at), selected);
-    else
-      boxes.Paint(box, place, selected);
-  }
-}
-
-void ViewPainter::PaintNumber(QPainter& painter, int number, const QRectF& place, CharId format,
-                              bool selected) {
-  const CharStyle& style = layouter_.styles.Of(pane_.Content(), format);
-  QFont font = style.format.font();
-  font.setPixelSize(std::max(1, qRound(place.height() * kNumberHeight)));
-  painter.setFont(font);
-  const QColor own =
-      style.ink == kAutoColour ? state_.palette.color(QPalette::Text) : FromBgr(style.ink);
-  painter.setPen(selected ? state_.palette.color(QPalette::HighlightedText) : own);
-  painter.drawText(QPointF(place.left(), place.top() + place.height() * kNumberBaseline),
-                   QString::number(number));
+  pieces.PaintOver(PieceOf(item), origin, area, state_.marks.selection);
 }
 
 // Qt's own selection painting clips raised and lowered text.
@@ -105,15 +55,6 @@ void ViewPainter::PaintSelectedText(QPainter& painter, const ShownPiece& item,
     for (const QGlyphRun& glyphs : text.glyphRuns(from, to - from))
       painter.drawGlyphRun({pane_.TextLeft(), item.y - style.raise}, glyphs);
   }
-}
-
-void ViewPainter::PaintBullet(QPainter& painter, const ShownPiece& item) {
-  const QtPiece& piece = PieceOf(item);
-  if (piece.bulletX < 0) return;
-  const PieceLine& line = piece.lines.front();
-  painter.setFont(piece.layout.font());
-  painter.drawText(QPointF(pane_.TextLeft() + piece.bulletX, item.y + line.baseline),
-                   QString::fromUtf16(kBullet));
 }
 
 }  // namespace lumenote

@@ -26,13 +26,7 @@ class ViewPainter {
 
  private:
   void PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area);
-  void PaintBackdrop(QPainter& painter, const ShownPiece& item, const QRectF& area);
-  void PaintBullet(QPainter& painter, const ShownPiece& item);
   void PaintSelection(QPainter& painter, const ShownPiece& item);
-  void PaintBoxes(QPainter& painter, const ShownPiece& item, const QRectF& area);
-  /// The raised number of a footnote.
-  void PaintNumber(QPainter& painter, int number, const QRectF& place, CharId format,
-                   bool selected);
   void PaintSelectedText(QPainter& painter, const ShownPiece& item, const RangeBox& part);
 
   TextPane& pane_;

@@ -1,0 +1,84 @@
+#include "backends/qt/text/PiecePainter.h"
+
+#include <QFontInfo>
+#include <algorithm>
+
+#include "backends/qt/text/BoxPainter.h"
+#include "backends/qt/text/Decorations.h"
+#include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/DeviceLines.h"
+#include "backends/qt/toolkit/Pixels.h"
+#include "view/layout/Backdrop.h"
+#include "view/layout/InlineBoxes.h"
+
+namespace lumenote {
+
+namespace {
+
+constexpr char16_t kBullet[] = u"\u2022";
+
+/// The font in the layout's pixels, whatever device is painted on.
+QFont InPixels(QFont font, int pixels) {
+  font.setPixelSize(std::max(1, pixels));
+  return font;
+}
+
+}  // namespace
+
+void PiecePainter::PaintBackdrop(const Piece& piece, QPointF origin, const QRectF& area,
+                                 bool grid) {
+  const PixelRect seen{area.left(), area.top(), area.right(), area.bottom()};
+  const BackdropColours colours{.ink = ToBgr(palette_.color(QPalette::Text)),
+                                .ground = ToBgr(palette_.color(QPalette::Base)),
+                                .grid = grid};
+  for (const BackdropPart& part :
+       BackdropOf(layouter_, document_, piece, seen.MovedBy(-origin.x(), -origin.y()), colours))
+    painter_.fillRect(OnDevicePixels(painter_, ToQRect(part.area.MovedBy(origin.x(), origin.y()))),
+                      FromBgr(part.colour));
+}
+
+void PiecePainter::PaintText(const QtPiece& piece, QPointF origin, const QRectF& area) {
+  painter_.setPen(palette_.color(QPalette::Text));
+  PaintBullet(piece, origin);
+  piece.layout.draw(&painter_, origin, {}, area);
+}
+
+void PiecePainter::PaintBullet(const QtPiece& piece, QPointF origin) {
+  if (piece.bulletX < 0) return;
+  const QFont font = piece.layout.font();
+  painter_.setFont(InPixels(font, QFontInfo(font).pixelSize()));
+  painter_.drawText(origin + QPointF(piece.bulletX, piece.lines.front().baseline),
+                    QString::fromUtf16(kBullet));
+}
+
+void PiecePainter::PaintOver(const QtPiece& piece, QPointF origin, const QRectF& area,
+                             Selection selection) {
+  PaintBoxes(piece, origin, area, selection);
+  PaintDecorations(painter_, piece, origin, palette_.color(QPalette::Text));
+}
+
+void PiecePainter::PaintBoxes(const QtPiece& piece, QPointF origin, const QRectF& area,
+                              Selection selection) {
+  BoxPainter boxes(painter_, document_, layouter_.pictures, palette_);
+  for (const InlineBox& box : piece.boxes) {
+    const QRectF place = ToQRect(piece.PlaceOf(box).MovedBy(origin.x(), origin.y()));
+    const Position at = piece.ToPosition(box.index);
+    const bool selected = at >= selection.start && at < selection.end;
+    if (!place.intersects(area)) continue;
+    if (box.number > 0)
+      PaintNumber(box.number, place, document_.CharFormatAt(at), selected);
+    else
+      boxes.Paint(box, place, selected);
+  }
+}
+
+void PiecePainter::PaintNumber(int number, const QRectF& place, CharId format, bool selected) {
+  const CharStyle& style = layouter_.styles.Of(document_, format);
+  painter_.setFont(InPixels(style.format.font(), qRound(place.height() * kNumberHeight)));
+  const QColor own = style.ink == kAutoColour ? palette_.color(QPalette::Text) : FromBgr(style.ink);
+  painter_.setPen(selected ? palette_.color(QPalette::HighlightedText) : own);
+  painter_.drawText(QPointF(place.left(), place.top() + place.height() * kNumberBaseline),
+                    QString::number(number));
+}
+
+}  // namespace lumenote
