@@ -4,6 +4,8 @@
 #include <fstream>
 #include <iostream>
 
+#include "backends/headless/FixedLayouter.h"
+#include "backends/headless/MemoryClipboard.h"
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
@@ -17,6 +19,7 @@
 #include "platform/Files.h"
 #include "platform/Paths.h"
 #include "rtf/read/Reader.h"
+#include "surface/DocumentSurface.h"
 
 namespace lumenote {
 
@@ -34,19 +37,23 @@ lettre de lecteur). Un fichier .rtf ou .txt qui manque est créé.
   --app NOM       nom de l'application pour les styles et la liste de corrections
   --readonly      ouvre en lecture seule
   --capture PNG   dessine la fenêtre dans un fichier PNG et quitte
+  --pdf PDF       met NOTE en pages dans un fichier PDF, sans fenêtre ni écran
 
   --pilot SCRIPT [--root DOSSIER] [--shot PNG]
                   conduit l'éditeur par un script (voir docs/pilot.md)
   --help          affiche cette aide
   --version       affiche la version
+
+État de sortie : 0, 1 quand la note ne peut être ouverte ou un fichier écrit, 2 pour
+une ligne de commande incorrecte.
 )";
 
 constexpr const char* kDesktopsOwn = "-1";  // also in a dark palette
 
-constexpr OptionRule kOptions[] = {{"--title", true},   {"--frame", true}, {"--colour", true},
-                                   {"--key", true},     {"--app", true},   {"--readonly"},
-                                   {"--capture", true}, {"--pilot", true}, {"--root", true},
-                                   {"--shot", true},    {"--help"},        {"--version"}};
+constexpr OptionRule kOptions[] = {
+    {"--title", true}, {"--frame", true},   {"--colour", true}, {"--key", true},   {"--app", true},
+    {"--readonly"},    {"--capture", true}, {"--pdf", true},    {"--pilot", true}, {"--root", true},
+    {"--shot", true},  {"--help"},          {"--version"}};
 
 int Fail(const std::string& message, int status) {
   std::cerr << "microedit : " << message << "\n";
@@ -99,10 +106,41 @@ int Capture(CoBxRtf& control, Desktop& desktop, const std::string& png) {
   return 0;
 }
 
+/// The drive-letter path of a path that the user typed.
+std::u16string PathOf(const std::string& typed, Desktop& desktop) {
+  const std::u16string path = FromUtf8(typed);
+  return IsDrivePath(path) ? path : desktop.ToDrivePath(typed);
+}
+
+/// Lays the note out on pages and writes them to a PDF file. Returns the exit status.
+int WritePdf(const CommandLine& line, Desktop& desktop) {
+  desktop.WorkWithoutDisplay();
+  const std::string& note = line.Operands().front();
+  const std::string& pdf = *line.Value("--pdf");
+  Files& files = desktop.Machine().FileSystem();
+  const std::u16string path = PathOf(note, desktop);
+  const std::u16string target = PathOf(pdf, desktop);
+  if (!files.Exists(path)) return Fail(note + " : fichier introuvable", 1);
+  if (files.SameFile(path, target)) return Fail(pdf + " : est la note elle-même", 2);
+  if (const std::string why = Obstacle(files, path); !why.empty())
+    return Fail(note + " : " + why, 1);
+  MemoryClipboard clipboard;
+  FixedBreaker breaker(0);
+  DocumentSurface surface(clipboard, files, breaker);
+  surface.LoadFile(path, FormatDe(path) == u"txt" ? FileType::Text : FileType::Rtf, std::nullopt);
+  const std::string title = line.Value("--title").value_or(ToUtf8(BaseName(FileName(path))));
+  const std::string bytes = desktop.Pdf(surface.Content(), FromUtf8(title));
+  try {
+    files.Write(target, bytes);
+  } catch (const RuntimeError& error) {
+    return Fail(pdf + " : " + ToUtf8(error.Description()), 1);
+  }
+  return 0;
+}
+
 int Edit(const CommandLine& line, Desktop& desktop) {
   const std::string& note = line.Operands().front();
-  const std::u16string typed = FromUtf8(note);
-  const std::u16string path = IsDrivePath(typed) ? typed : desktop.ToDrivePath(note);
+  const std::u16string path = PathOf(note, desktop);
   if (!IsDrivePath(path)) return Fail(note + " : chemin trop court", 2);
   const Files& files = desktop.Machine().FileSystem();
   if (const std::string why = Obstacle(files, path); !why.empty())
@@ -141,10 +179,15 @@ int Follow(const CommandLine& line, Desktop& desktop) {
   }
   if (line.Operands().size() != (line.Has("--pilot") ? 0 : 1))
     return Fail("une note est attendue (voir --help)", 2);
-  return line.Has("--pilot") ? DrivePilot(line, desktop) : Edit(line, desktop);
+  if (line.Has("--pilot")) return DrivePilot(line, desktop);
+  return line.Has("--pdf") ? WritePdf(line, desktop) : Edit(line, desktop);
 }
 
 }  // namespace
+
+std::string Desktop::Pdf(const Document&, std::u16string_view) {
+  throw RuntimeError(ErrorNumber::InvalidArgument, u"--pdf demande l'éditeur de Linux");
+}
 
 int Launch(std::span<const std::string_view> arguments, Desktop& desktop) {
   try {

@@ -12,6 +12,7 @@
 namespace lumenote {
 
 class Backend;
+class Document;
 class Form;
 class UserActs;
 
@@ -28,6 +29,10 @@ class Desktop {
   virtual UserActs& ScriptUser() = 0;
   /// Renders a window to a PNG file. Raises PathAccess if that cannot be written.
   virtual void Capture(const Form& form, const std::string& png) = 0;
+  /// No window will be shown: nothing needs a display. To be called first.
+  virtual void WorkWithoutDisplay() {}
+  /// The note as a PDF file. Raises InvalidArgument on a desktop without printing.
+  virtual std::string Pdf(const Document& note, std::u16string_view title);
   /// Calls `keep` before the program ends without a chance to save, as long as the result lives.
   virtual std::shared_ptr<void> WatchEnds(std::function<void()> keep) = 0;
 };

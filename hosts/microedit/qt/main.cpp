@@ -7,6 +7,8 @@
 #include "SuddenEnds.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtUserActs.h"
+#include "backends/qt/printing/PrintedNote.h"
+#include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/windows/Shot.h"
 #include "lumenote/QtPlatform.h"
 
@@ -22,6 +24,10 @@ class QtDesktop final : public SystemDesktop<QtPlatform, QtBackend, QtUserActs> 
 
   void Capture(const Form& form, const std::string& png) override {
     SaveWindowShot(Shown().Widgets(), form, QString::fromStdString(png));
+  }
+  void WorkWithoutDisplay() override { qputenv("QT_QPA_PLATFORM", "offscreen"); }
+  std::string Pdf(const Document& note, std::u16string_view title) override {
+    return PdfOf(note, ToQString(title)).toStdString();
   }
   std::shared_ptr<void> WatchEnds(std::function<void()> keep) override {
     return std::make_shared<SuddenEnds>(std::move(keep));
