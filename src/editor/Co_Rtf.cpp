@@ -131,6 +131,14 @@ void Co_Rtf::Describe(MemberTable& members) {
   members.Add("DateTravail", [this] { return Value(roundTrip_.DateTravail()); });
 }
 
+void Co_Rtf::Imprimer() {
+  Document().CompleteComposition();
+  const std::u16string title = Fr_Notes.Caption().empty() ? Caption() : Fr_Notes.Caption();
+  SuspendreDessus();
+  Machine().Windows().Print(Bx_RTF, title, *this);
+  RetablirDessus();
+}
+
 std::optional<FontChoice> Co_Rtf::ChooseFont(const FontChoice& shown, Form* dialog) {
   SuspendreDessus();
   auto chosen = Machine().Windows().ChooseFont(shown, dialog ? dialog : this);

@@ -100,6 +100,7 @@ class Co_Rtf : public Form, public NoteWindow, private RoundTripClient {
   }
 
   void ShowSaved(bool dirty);
+  void Imprimer();
   void Bx_RTF_Change();
   void Bx_RTF_MouseUp(const MouseEvent& event);
   /// A click on the frame beside the labels is theirs, so that nobody has to aim.

@@ -122,6 +122,7 @@ void Co_Rtf::WireZones() {
 // The document knows the others that the menus show.
 void Co_Rtf::WireKeys() {
   AddShortcut(Pop.mnuPopEnregistrer.Shortcut(), [this] { EnregistrerNote(*this); });
+  AddShortcut(u"Ctrl+P", [this] { Imprimer(); });
   AddShortcut(Bar.mnuEdtTrouver.Shortcut(), [this] { dialogs_.Trouver(); });
   AddShortcut(Bar.mnuEdtSuivantppp.Shortcut(), [this] { dialogs_.TrouverSuivant(); });
   for (Menu* entry : {&Bar.mnuEdtSuperScript, &Bar.mnuEdtSubScript})

@@ -7,6 +7,8 @@ namespace lumenote {
 
 bool Backend::IsTopmost(const Form& form) { return form.Windows().Active() == &form; }
 
+void Backend::Print(RichTextBox&, std::u16string_view, Form&) {}
+
 void Backend::EventFailed(const RuntimeError& error, Form* form) {
   MessageBox box;
   box.text = u"Erreur d'exécution " + NumberText(std::int64_t{error.Number()}) + u"\r\n" +

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/RuntimeError.h"
@@ -61,6 +62,9 @@ class Backend {
   virtual MessageBox::Answer Show(const MessageBox& box, Form* over) = 0;
   /// The desktop's font dialog, preset to `shown`; blocks like a message box. Empty if cancelled.
   virtual std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* over) = 0;
+  /// Prints a box's note, or what is selected there, as the user wants it by the desktop's dialog;
+  /// blocks like a message box. Does nothing on a desktop without printing.
+  virtual void Print(RichTextBox& note, std::u16string_view title, Form& over);
   /// Dispatches events and timers until `done` returns true; it is checked after every event.
   virtual void RunUntil(const std::function<bool()>& done) = 0;
   /// Whether no other window of the desktop is above the form's. On a desktop that cannot tell, the

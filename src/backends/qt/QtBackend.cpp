@@ -5,9 +5,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
 #include "backends/qt/windows/FontDialog.h"
 #include "backends/qt/windows/MessageBoxes.h"
+#include "backends/qt/windows/PrintDialog.h"
 #include "backends/qt/x11/WindowOrder.h"
 #include "forms/controls/edits/RichTextBox.h"
 #include "surface/DocumentSurface.h"
@@ -55,6 +57,12 @@ MessageBox::Answer QtBackend::Show(const MessageBox& box, Form* over) {
 
 std::optional<FontChoice> QtBackend::ChooseFont(const FontChoice& shown, Form* over) {
   return ShowFontDialog(shown, DialogParent(over));
+}
+
+void QtBackend::Print(RichTextBox& note, std::u16string_view title, Form& over) {
+  const auto& surface = dynamic_cast<const DocumentSurface&>(note.Surface());
+  if (PrintByDialog(surface, ToQString(title), DialogParent(&over))) return;
+  Show({.text = u"Impression impossible", .icon = MessageBox::Icon::Critical}, &over);
 }
 
 bool QtBackend::IsTopmost(const Form& form) {

@@ -24,6 +24,7 @@ class QtBackend final : public Backend, private PeerServices {
                                                Files& files) override;
   MessageBox::Answer Show(const MessageBox& box, Form* over) override;
   std::optional<FontChoice> ChooseFont(const FontChoice& shown, Form* over) override;
+  void Print(RichTextBox& note, std::u16string_view title, Form& over) override;
   void RunUntil(const std::function<bool()>& done) override;
   bool IsTopmost(const Form& form) override;
   void Arm(Timer& timer) override { timers_.Arm(timer); }

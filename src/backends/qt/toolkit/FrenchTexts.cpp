@@ -1,9 +1,11 @@
 #include "backends/qt/toolkit/FrenchTexts.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QHash>
 #include <QLabel>
+#include <QTabWidget>
 
 namespace lumenote {
 
@@ -54,6 +56,68 @@ const QHash<QString, QString>& FrenchTexts() {
       {QStringLiteral("Red:"), QStringLiteral("&Rouge :")},
       {QStringLiteral("Green:"), QStringLiteral("&Vert :")},
       {QStringLiteral("Blue:"), QStringLiteral("Bl&eu :")},
+      // Printing.
+      {QStringLiteral("Print"), QStringLiteral("&Imprimer")},
+      {QStringLiteral("Options >>"), QStringLiteral("&Options >>")},
+      {QStringLiteral("Options <<"), QStringLiteral("&Options <<")},
+      {QStringLiteral("Printer"), QStringLiteral("Imprimante")},
+      {QStringLiteral("Name:"), QStringLiteral("&Nom :")},
+      {QStringLiteral("Properties"), QStringLiteral("P&ropriétés")},
+      {QStringLiteral("Location:"), QStringLiteral("Lieu :")},
+      {QStringLiteral("Preview"), QStringLiteral("Aperçu")},
+      {QStringLiteral("Type:"), QStringLiteral("Type :")},
+      {QStringLiteral("Output file:"), QStringLiteral("&Fichier :")},
+      {QStringLiteral("Print to File (PDF)"), QStringLiteral("Fichier PDF")},
+      {QStringLiteral("Local file"), QStringLiteral("Fichier local")},
+      {QStringLiteral("Write PDF file"), QStringLiteral("Écrit un fichier PDF")},
+      {QStringLiteral("Print To File ..."), QStringLiteral("Imprimer dans un fichier")},
+      {QStringLiteral("Copies"), QStringLiteral("Copies")},
+      {QStringLiteral("Options"), QStringLiteral("Options")},
+      {QStringLiteral("Print range"), QStringLiteral("Pages")},
+      {QStringLiteral("Print all"), QStringLiteral("&Toutes")},
+      {QStringLiteral("Pages from"), QStringLiteral("Pages &de")},
+      {QStringLiteral("Pages"), QStringLiteral("&Pages")},
+      {QStringLiteral("to"), QStringLiteral("à")},
+      {QStringLiteral("Current Page"), QStringLiteral("Page courante")},
+      {QStringLiteral("Selection"), QStringLiteral("&Sélection")},
+      {QStringLiteral("Page Set:"), QStringLiteral("Pages :")},
+      {QStringLiteral("All Pages"), QStringLiteral("Toutes")},
+      {QStringLiteral("Odd Pages"), QStringLiteral("Impaires")},
+      {QStringLiteral("Even Pages"), QStringLiteral("Paires")},
+      {QStringLiteral("Output Settings"), QStringLiteral("Copies")},
+      {QStringLiteral("Copies:"), QStringLiteral("&Copies :")},
+      {QStringLiteral("Collate"), QStringLiteral("&Assembler")},
+      {QStringLiteral("Reverse"), QStringLiteral("&Dernière page d'abord")},
+      {QStringLiteral("Color Mode"), QStringLiteral("Couleurs")},
+      {QStringLiteral("Color"), QStringLiteral("Couleurs")},
+      {QStringLiteral("Grayscale"), QStringLiteral("Niveaux de gris")},
+      {QStringLiteral("Duplex Printing"), QStringLiteral("Recto verso")},
+      {QStringLiteral("None"), QStringLiteral("Non")},
+      {QStringLiteral("Long side"), QStringLiteral("Bord long")},
+      {QStringLiteral("Short side"), QStringLiteral("Bord court")},
+      {QStringLiteral("Printer Properties"), QStringLiteral("Propriétés de l'imprimante")},
+      {QStringLiteral("Page"), QStringLiteral("Page")},
+      {QStringLiteral("Advanced"), QStringLiteral("Avancé")},
+      {QStringLiteral("Paper"), QStringLiteral("Papier")},
+      {QStringLiteral("Page size:"), QStringLiteral("&Format :")},
+      {QStringLiteral("Width:"), QStringLiteral("&Largeur :")},
+      {QStringLiteral("Height:"), QStringLiteral("&Hauteur :")},
+      {QStringLiteral("Paper source:"), QStringLiteral("&Bac :")},
+      {QStringLiteral("Orientation"), QStringLiteral("Orientation")},
+      {QStringLiteral("Portrait"), QStringLiteral("&Portrait")},
+      {QStringLiteral("Landscape"), QStringLiteral("P&aysage")},
+      {QStringLiteral("Reverse landscape"), QStringLiteral("Paysage inversé")},
+      {QStringLiteral("Reverse portrait"), QStringLiteral("Portrait inversé")},
+      {QStringLiteral("Margins"), QStringLiteral("Marges")},
+      {QStringLiteral("Page Layout"), QStringLiteral("Mise en page")},
+      {QStringLiteral("Page order:"), QStringLiteral("Ordre des pages :")},
+      {QStringLiteral("Pages per sheet:"), QStringLiteral("Pages par feuille :")},
+      {QStringLiteral("Custom"), QStringLiteral("Personnalisé")},
+      {QStringLiteral("Millimeters (mm)"), QStringLiteral("Millimètres (mm)")},
+      {QStringLiteral("Inches (in)"), QStringLiteral("Pouces (in)")},
+      {QStringLiteral("Points (pt)"), QStringLiteral("Points (pt)")},
+      {QStringLiteral("Yes"), QStringLiteral("&Oui")},
+      {QStringLiteral("No"), QStringLiteral("&Non")},
   };
   return kTexts;
 }
@@ -78,6 +142,10 @@ void ShowInFrench(const QWidget& dialog) {
   for (auto* button : dialog.findChildren<QAbstractButton*>())
     button->setText(InFrench(button->text()));
   for (auto* frame : dialog.findChildren<QGroupBox*>()) frame->setTitle(InFrench(frame->title()));
+  for (auto* tabs : dialog.findChildren<QTabWidget*>())
+    for (int i = 0; i < tabs->count(); ++i) tabs->setTabText(i, InFrench(tabs->tabText(i)));
+  for (auto* list : dialog.findChildren<QComboBox*>())
+    for (int i = 0; i < list->count(); ++i) list->setItemText(i, InFrench(list->itemText(i)));
 }
 
 }  // namespace lumenote

@@ -12,7 +12,7 @@ QString InFrench(const QString& text);
 
 /// Puts the entries of a menu into French; shortcuts stay.
 void ShowInFrench(const QMenu& menu);
-/// Puts the labels, buttons and frames of a dialog into French.
+/// Puts the labels, buttons, frames, tabs and lists of a dialog into French.
 void ShowInFrench(const QWidget& dialog);
 
 }  // namespace lumenote
