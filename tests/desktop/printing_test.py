@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Ctrl+P: the dialog in French, a PDF file of the note or of what is selected, Escape."""
 import subprocess
+import time
 
-from rig import Notes, main, until
+from rig import Notes, main
 
 
 class Printing(Notes):
@@ -14,9 +15,12 @@ class Printing(Notes):
         """Prints the note into a file of the home folder by keys alone."""
         self.keys(self.note, "ctrl+p")
         dialog = self.front("Imprimer")
-        self.keys(dialog, *choice, "alt+f", "ctrl+a")
+        for key in choice:
+            self.keys(dialog, key)
+            time.sleep(0.5)  # the dialog grows
+        self.keys(dialog, "alt+f", "ctrl+a")
         self.type(dialog, str(self.home / name))
-        self.keys(dialog, "Return")
+        self.keys(dialog, "alt+i")
         self.wait(lambda: not self.window("Imprimer"), "the end of the dialog")
         self.front("Note 1")
 
@@ -24,7 +28,7 @@ class Printing(Notes):
         path = self.home / name
         self.wait(path.exists, "the file")
         done = subprocess.run(["pdftotext", path, "-"], capture_output=True, text=True, check=True)
-        return done.stdout.split()
+        return done.stdout.replace("/", " / ").split()
 
     def test_a_file_of_the_note(self):
         self.print_to("tout.pdf")
@@ -35,7 +39,7 @@ class Printing(Notes):
 
     def test_what_is_selected(self):
         self.keys(self.note, "ctrl+Home", "shift+End")
-        self.print_to("choix.pdf", "alt+s")
+        self.print_to("choix.pdf", "alt+o", "alt+s")
         self.assertEqual(self.text_of("choix.pdf"), ["premier", "1", "/", "1"])
 
     def test_escape_and_a_file_that_cannot_be_written(self):
@@ -43,17 +47,17 @@ class Printing(Notes):
         self.keys(self.note, "ctrl+p")
         self.keys(self.front("Imprimer"), "Escape")
         self.wait(lambda: not self.window("Imprimer"), "the end of the dialog")
-        (self.home / "ro").mkdir()
-        self.print_to_nowhere()
-        self.assertEqual(self.host.ask("rtf 1"), before)
-
-    def print_to_nowhere(self):
         self.keys(self.note, "ctrl+p")
         dialog = self.front("Imprimer")
         self.keys(dialog, "alt+f", "ctrl+a")
-        self.type(dialog, "/proc/absent.pdf")
-        self.keys(dialog, "Return")
-        self.agree()
+        self.type(dialog, str(self.home))
+        self.keys(dialog, "alt+i")
+        self.wait(lambda: self.titles().count("Imprimer") == 2, "the dialog's refusal")
+        self.keys(self.front("Imprimer"), "Return")
+        self.wait(lambda: self.titles().count("Imprimer") == 1, "the end of the refusal")
+        self.keys(dialog, "Escape")
+        self.front("Note 1")
+        self.assertEqual(self.host.ask("rtf 1"), before)
 
 
 if __name__ == "__main__":

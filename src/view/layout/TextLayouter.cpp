@@ -16,7 +16,7 @@ void TextLayouter::Scale(double factor) {
 }
 
 double TextLayouter::Pixels(double twips) const {
-  return std::clamp(twips, -kLargestPage, kLargestPage) / kTwipsPerPixel * zoom_ * scale_;
+  return std::clamp(twips, -kMaxTwips, kMaxTwips) / kTwipsPerPixel * zoom_ * scale_;
 }
 
 const PictureFrame& TextLayouter::FrameOf(const FormatTables& tables, ItemId item) const {
