@@ -11,7 +11,7 @@ class Label;
 /// The label that names a control that has no name of its own; null for none.
 const Label* LabelOf(const Control& control);
 /// Its own spoken name or caption; else the label that stands before it in its container, or the
-/// title of the container, or of the window. A label's tooltip stands in for a caption it lacks.
+/// title of the container, or of the window. A status bar is called what it says.
 std::u16string SpokenNameOf(const Control& control);
 
 }  // namespace lumenote

@@ -110,14 +110,6 @@ void StatusBarPeer::Update(Property property) {
   ShowName();
 }
 
-// Its name is all that it says.
-void StatusBarPeer::ShowName() {
-  QStringList texts;
-  for (const QString& text : widget_.Panels() + QStringList(widget_.SignTip()))
-    if (!text.trimmed().isEmpty()) texts.push_back(text.trimmed());
-  widget_.setAccessibleName(texts.join(QStringLiteral(", ")));
-}
-
 void StatusBarPeer::Compare(DifferenceList& differences) const {
   ControlPeer::Compare(differences);
   differences.Check(bar_, "Panels", widget_.Panels() == Texts());

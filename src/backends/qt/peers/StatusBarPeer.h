@@ -45,7 +45,6 @@ class StatusBarPeer final : public ControlPeer {
 
   bool IsDocked() const override { return true; }
   void Update(Property property) override;
-  void ShowName() override;
   void Compare(DifferenceList& differences) const override;
 
  private:

@@ -67,7 +67,7 @@ void QtFormPeer::Update(Element& element, Property property) {
   else if (&element == &form_)
     UpdateForm(property);
   if (property == Property::Visible) window_->LayOutParts();
-  if (property == Property::Caption || property == Property::ToolTip) Rename(element);
+  if (property == Property::Caption) Rename(element);
 }
 
 // Frames, labels and the window name other controls, too; the many cells of a grid do not.

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "backends/win32/assist/Speech.h"
 #include "backends/win32/system/NativeText.h"
 #include "backends/win32/toolkit/input/Keys.h"
 #include "backends/win32/view/SurfaceWindow.h"
@@ -10,6 +11,7 @@
 #include "base/ScopedFlag.h"
 #include "forms/Button.h"
 #include "forms/controls/edits/RichTextBox.h"
+#include "forms/controls/labels/Label.h"
 
 namespace lumenote {
 namespace {
@@ -56,6 +58,7 @@ Win32FormPeer::Win32FormPeer(Form& form, PeerServices& services)
   content_->released = [this] { Released(); };
   window_->Listener(this);
   AddControls(form, content_->Handle());
+  NameControls();
   for (const Property property : {Property::Caption, Property::BackColor, Property::Geometry})
     UpdateForm(property);
   ShowMenuBar();
@@ -127,6 +130,17 @@ void Win32FormPeer::Update(Element& element, Property property) {
   } else if (&element == &form_) {
     UpdateForm(property);
   }
+  if (property == Property::Caption) Rename(element);
+}
+
+// The many cells of a grid name nothing.
+void Win32FormPeer::Rename(const Element& element) {
+  const auto* label = dynamic_cast<const Label*>(&element);
+  if (!label || label->Style() == LabelStyle::Text) NameControls();
+}
+
+void Win32FormPeer::NameControls() {
+  for (const auto& [control, peer] : controls_) peer->ShowName();
 }
 
 void Win32FormPeer::UpdateForm(Property property) {
@@ -273,6 +287,9 @@ void Win32FormPeer::Used() {
 
 std::optional<LRESULT> Win32FormPeer::Hear(const Message& message) {
   switch (message.id) {
+    case WM_GETOBJECT:
+      if (!AsksForSpeech(message) || !IsDialog()) return std::nullopt;
+      return Speak(Handle(), {form_.Caption(), ROLE_SYSTEM_DIALOG}, message);
     case WM_ACTIVATE:
       if (LOWORD(message.w) == WA_INACTIVE || HIWORD(message.w) != 0) return std::nullopt;
       form_.UserActivate();

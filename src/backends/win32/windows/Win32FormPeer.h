@@ -66,6 +66,10 @@ class Win32FormPeer final : public FormPeer, private PeerHost, private MessageLi
   std::optional<LRESULT> Hear(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message&) override { return std::nullopt; }
 
+  bool IsDialog() const { return form_.OwnerWindow() || form_.IsModal(); }
+  /// Captions of other elements name controls, too.
+  void Rename(const Element& element);
+  void NameControls();
   void AddControls(const Container& container, HWND parent);
   void Add(Control& control, HWND parent);
   void UpdateForm(Property property);

@@ -2,11 +2,14 @@
 
 #include <windowsx.h>
 
+#include "backends/win32/assist/Speech.h"
 #include "backends/win32/peers/base/FrameClip.h"
 #include "backends/win32/toolkit/input/Keys.h"
 #include "backends/win32/toolkit/input/MouseButtons.h"
 #include "backends/win32/toolkit/input/MousePoint.h"
+#include "forms/CaptionedControl.h"
 #include "forms/Form.h"
+#include "forms/controls/SpokenName.h"
 #include "forms/controls/labels/Frame.h"
 
 namespace lumenote {
@@ -21,7 +24,7 @@ bool TypesNothing(const KeyStroke& key) {
 
 // As everywhere, a later control stands above the earlier ones.
 ControlPeer::ControlPeer(Control& control, std::shared_ptr<Window> window, PeerHost& host)
-    : control_(control), window_(std::move(window)), host_(host) {
+    : control_(control), window_(std::move(window)), host_(host), annotation_(Handle()) {
   window_->Listener(this);
   SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
@@ -76,6 +79,12 @@ void ControlPeer::ShowFont() {
   Tell(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
+// The caption of a window is its name.
+void ControlPeer::ShowName() {
+  if (Role() != 0 && !dynamic_cast<const CaptionedControl*>(&control_))
+    annotation_.Name(SpokenNameOf(control_));
+}
+
 void ControlPeer::Compare(DifferenceList& differences) const {
   const LONG_PTR style = GetWindowLongPtrW(Handle(), GWL_STYLE);
   differences.Check(control_, "Visible", ((style & WS_VISIBLE) != 0) == control_.Visible());
@@ -93,6 +102,8 @@ std::optional<LRESULT> ControlPeer::Hear(const Message& message) {
   if (message.id == WM_SETFOCUS) host_.Focused(control_);
   if (IsPress(message.id)) host_.Pressed();
   if (!window->HasListener()) return 0;
+  if (AsksForSpeech(message) && Role() != 0)
+    return Speak(Handle(), {SpokenNameOf(control_), Role()}, message);
   if (!PassesInput()) return std::nullopt;
   if (message.id == WM_KEYDOWN || message.id == WM_SYSKEYDOWN || message.id == WM_SYSCHAR)
     return HearKey(message);

@@ -2,6 +2,7 @@
 #pragma once
 #include <memory>
 
+#include "backends/win32/assist/Annotation.h"
 #include "backends/win32/peers/base/PeerHost.h"
 #include "backends/win32/toolkit/Window.h"
 #include "forms/Control.h"
@@ -26,6 +27,8 @@ class ControlPeer : protected MessageListener {
 
   /// Copies the changed state from the control.
   virtual void Update(Property property);
+  /// Tells assistive programs that do not ask its window what it is called.
+  virtual void ShowName();
   virtual void Compare(DifferenceList& differences) const;
   /// Marks the control as the one that Return clicks, or not; only push buttons show it.
   virtual void ShowDefault(bool) {}
@@ -37,6 +40,8 @@ class ControlPeer : protected MessageListener {
   void HearHandled(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message&) override { return std::nullopt; }
 
+  /// What it is, as a ROLE_SYSTEM_... number; 0 if its window says so itself.
+  virtual LONG Role() const = 0;
   /// Whether the native control itself uses the key.
   virtual bool Wants(const KeyStroke&) const { return false; }
   /// Whether pressing and releasing the left button is a click; native buttons report clicks
@@ -68,6 +73,7 @@ class ControlPeer : protected MessageListener {
   Control& control_;
   std::shared_ptr<Window> window_;
   PeerHost& host_;
+  Annotation annotation_;
   int turned_ = 0;  // the wheel, since its last whole notch
 };
 

@@ -18,6 +18,7 @@ class ButtonPeer : public CaptionPeer {
   void ShowDefault(bool isDefault) override;
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_PUSHBUTTON; }
   ButtonPeer(CaptionedControl& control, std::shared_ptr<Window> window, PeerHost& host);
   std::optional<LRESULT> Hear(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message& message) override;
@@ -34,6 +35,7 @@ class CheckBoxPeer final : public ButtonPeer {
   CheckBoxPeer(CheckBox& box, HWND parent, PeerHost& host);
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_CHECKBUTTON; }
   bool IsChecked() const override { return box_.Value() == 1; }
 
  private:
@@ -59,6 +61,7 @@ class OptionButtonPeer final : public ButtonPeer {
   OptionButtonPeer(OptionButton& option, HWND parent, PeerHost& host);
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_RADIOBUTTON; }
   std::optional<LRESULT> HearNotice(const Message& message) override;
   bool IsChecked() const override { return option_.Value(); }
 

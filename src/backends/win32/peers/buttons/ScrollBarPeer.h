@@ -13,6 +13,7 @@ class ScrollBarPeer final : public ControlPeer {
   void Compare(DifferenceList& differences) const override;
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_SCROLLBAR; }
   std::optional<LRESULT> HearNotice(const Message& message) override;
   bool Wants(const KeyStroke& key) const override;
 

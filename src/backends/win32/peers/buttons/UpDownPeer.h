@@ -10,6 +10,7 @@ class UpDownPeer final : public ControlPeer {
   UpDownPeer(UpDown& spinner, HWND parent, PeerHost& host);
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_SPINBUTTON; }
   std::optional<LRESULT> Hear(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message& message) override;
   bool Wants(const KeyStroke& key) const override {

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include "backends/win32/assist/Speech.h"
 #include "backends/win32/system/NativeText.h"
 #include "backends/win32/toolkit/drawing/Gdi.h"
 #include "backends/win32/toolkit/input/Keys.h"
 #include "base/ScopedFlag.h"
+#include "forms/controls/SpokenName.h"
 
 namespace lumenote {
 namespace {
@@ -32,6 +34,7 @@ ComboBoxPeer::ComboBoxPeer(ComboBox& combo, HWND parent, PeerHost& host)
   if (combo.Style() == ComboStyle::ListOnly) return;
   edit_ = std::make_shared<Window>(InfoOf(Handle()).hwndItem);
   edit_->Listener(&listener_);
+  editName_.emplace(edit_->Handle());
 }
 
 ComboBoxPeer::~ComboBoxPeer() {
@@ -78,6 +81,11 @@ void ComboBoxPeer::Update(Property property) {
   if (property == Property::Font) ControlPeer::Update(Property::Geometry);
   if (property == Property::List) ShowList();
   if (property == Property::Content) ShowContent();
+}
+
+void ComboBoxPeer::ShowName() {
+  ControlPeer::ShowName();
+  if (editName_) editName_->Name(SpokenNameOf(combo_));
 }
 
 void ComboBoxPeer::ShowList() {
@@ -139,6 +147,8 @@ std::optional<LRESULT> ComboBoxPeer::Hear(const Message& message) {
 }
 
 std::optional<LRESULT> ComboBoxPeer::HearEdit(const Message& message) {
+  if (AsksForSpeech(message))
+    return Speak(edit_->Handle(), {SpokenNameOf(combo_), ROLE_SYSTEM_TEXT}, message);
   const bool isKey = message.id == WM_KEYDOWN || message.id == WM_SYSKEYDOWN ||
                      message.id == WM_SYSCHAR || message.id == WM_MOUSEWHEEL ||
                      message.id == WM_SETFOCUS;

@@ -15,9 +15,11 @@ class ComboBoxPeer final : public ControlPeer {
 
   HWND FocusTarget() const override { return edit_ ? edit_->Handle() : Handle(); }
   void Update(Property property) override;
+  void ShowName() override;
   void Compare(DifferenceList& differences) const override;
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_COMBOBOX; }
   std::optional<LRESULT> Hear(const Message& message) override;
   std::optional<LRESULT> HearNotice(const Message& message) override;
   bool Wants(const KeyStroke& key) const override;
@@ -50,6 +52,7 @@ class ComboBoxPeer final : public ControlPeer {
   ComboBox& combo_;
   std::shared_ptr<Window> edit_;  // null for a list without editing
   EditListener listener_{*this};
+  std::optional<Annotation> editName_;
   bool pushing_ = false;
   bool chosen_ = false;  // the list is closing with a choice
 };

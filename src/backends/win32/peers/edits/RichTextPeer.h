@@ -15,6 +15,7 @@ class RichTextPeer final : public ControlPeer {
   void Rescale() override;
 
  protected:
+  LONG Role() const override { return 0; }
   bool PassesInput() const override { return false; }  // the surface's own window does
 
  private:

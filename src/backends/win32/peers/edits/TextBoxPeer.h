@@ -14,6 +14,7 @@ class TextBoxPeer final : public ControlPeer {
   void Compare(DifferenceList& differences) const override;
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_TEXT; }
   std::optional<LRESULT> HearNotice(const Message& message) override;
   bool Wants(const KeyStroke& key) const override { return IsEditKey(key); }
 

@@ -19,6 +19,9 @@ class FrameWindow final : public PaintedWindow {
 class FramePeer final : public CaptionPeer {
  public:
   FramePeer(Frame& frame, HWND parent, PeerHost& host);
+
+ protected:
+  LONG Role() const override { return ROLE_SYSTEM_GROUPING; }
 };
 
 }  // namespace lumenote

@@ -38,6 +38,9 @@ class LabelPeer final : public CaptionPeer {
   void Compare(DifferenceList& differences) const override;
 
  protected:
+  LONG Role() const override {
+    return label_.Style() == LabelStyle::Strip ? ROLE_SYSTEM_PUSHBUTTON : ROLE_SYSTEM_STATICTEXT;
+  }
   bool ClicksByMouse() const override { return true; }
 
  private:

@@ -33,6 +33,9 @@ class PictureBoxPeer final : public ControlPeer {
  public:
   PictureBoxPeer(PictureBox& box, HWND parent, PeerHost& host)
       : ControlPeer(box, std::make_shared<PictureWindow>(parent), host) {}
+
+ protected:
+  LONG Role() const override { return ROLE_SYSTEM_GROUPING; }
 };
 
 }  // namespace lumenote

@@ -33,6 +33,7 @@ void StatusBarPeer::Update(Property property) {
   ControlPeer::Update(property);
   if (property == Property::Panels || property == Property::Font) ShowPanels();
   if (property == Property::Sign) ShowSign();
+  ShowName();
 }
 
 void StatusBarPeer::HearHandled(const Message& message) {

@@ -18,6 +18,7 @@ class StatusBarPeer final : public ControlPeer {
   void Compare(DifferenceList& differences) const override;
 
  protected:
+  LONG Role() const override { return ROLE_SYSTEM_STATUSBAR; }
   void HearHandled(const Message& message) override;
 
  private:

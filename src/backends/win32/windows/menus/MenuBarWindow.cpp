@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <windowsx.h>
 
+#include "backends/win32/assist/Speech.h"
 #include "backends/win32/system/NativeText.h"
 #include "backends/win32/toolkit/drawing/Gdi.h"
 #include "backends/win32/toolkit/input/Keys.h"
@@ -100,6 +101,10 @@ LRESULT MenuBarWindow::Receive(const Message& message) {
     return point;
   };
   switch (message.id) {
+    case WM_GETOBJECT:
+      if (!AsksForSpeech(message)) return PaintedWindow::Receive(message);
+      return Speak(Handle(), {Caption(), lit_ ? ROLE_SYSTEM_MENUITEM : ROLE_SYSTEM_MENUBAR},
+                   message);
     case WM_LBUTTONDOWN:
       Press(MenuAt(at()));
       return 0;

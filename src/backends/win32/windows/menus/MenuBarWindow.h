@@ -21,7 +21,7 @@ class MenuBarWindow final : public PaintedWindow {
   /// The form is going; the window may stay.
   void Detach();
 
-  /// Null for none. Its caption is the name that assistive programs read.
+  /// Null for none. Assistive programs take the bar for the menu that is lit.
   void Light(Menu* menu);
   void TakeKeyboard(Menu& lit);
   /// The menu at a point of the screen; null for none.
