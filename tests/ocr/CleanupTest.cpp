@@ -1,9 +1,11 @@
 // Replacements, blanks, the correction list; the rewrite of RTF source.
 #include <gtest/gtest.h>
+#include <random>
 #include <vector>
 
 #include "base/ErrorOf.h"
 #include "base/Rows.h"
+#include "base/Windows1252.h"
 #include "ocr/Cleanup.h"
 #include "ocr/CorrectionList.h"
 #include "ocr/RtfHeader.h"
@@ -125,6 +127,28 @@ a=:=b¶¶c=:=d¶ | a c | b c | 5 ¦ a=:=b¶no pair¶ | a | b | 5
   Note note(u"a");
   ApplyListCorr(note.surface, note.files, u"C:\\none.txt");
   EXPECT_EQ(note.surface.Text(), u"a");
+}
+
+// Few letters, so that pairs meet what earlier ones put in; breaks and both cases included.
+TEST(AppliquerPaires, EqualsTheLiteralLoopOnRandomTexts) {
+  std::mt19937 random(1);
+  const auto word = [&](std::size_t longest) {
+    std::string text(random() % (longest + 1), ' ');
+    for (char& c : text) c = "abABe\xE9\xC9 ,\r"[random() % 10];
+    return text;
+  };
+  for (int round = 0; round < 400; ++round) {
+    const std::string text = word(300);
+    std::string list;
+    for (int pair = 0; pair < 60; ++pair) list += word(7) + "=:=" + word(6) + "\n";
+    Note quick(Decode1252(text));
+    Note literal(Decode1252(text));
+    std::vector<std::int16_t> counts;
+    for (const auto& [wrong, right] : Read(list))
+      counts.push_back(RemplacerTout(literal.surface, wrong, right));
+    ASSERT_EQ(AppliquerPaires(quick.surface, list), counts) << list;
+    ASSERT_EQ(quick.surface.Text(), literal.surface.Text()) << list;
+  }
 }
 
 TEST(NormaliserEnteteRtf, RewritesItsThreeWords) {
