@@ -34,7 +34,7 @@ class Links(Notes):
     def test_show_their_target_but_open_no_commands(self):
         self.open(LINK % "notes.sh", "autre")
         self.follow(WORD, "click 1")
-        self.mouse(self.note, (200, 100), (17, 36), WORD)
+        self.mouse(self.note, (200, 100), "sleep 0.4", (17, 36), "sleep 0.4", WORD)
         self.wait(self.tooltip, "the tooltip")
         self.assertFalse(self.opened.exists())
 
