@@ -6,9 +6,8 @@ top=$(cd "$(dirname "$0")" && pwd)
 . "$top/scripts/packages.sh"
 
 ensure_packages "${BUILD_PACKAGES[@]}" "${FONT_PACKAGES[@]}" libbenchmark-dev
-build="$top/build/bench"
-cmake -S "$top" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMENOTE_TESTS=OFF \
-  -DLUMENOTE_BENCH=ON >/dev/null
+build="$top/build/test"
+cmake -S "$top" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMENOTE_BENCH=ON >/dev/null
 cmake --build "$build" --target bench_speed >/dev/null
 sizes=(30000 1000000 10000000)
 [ "${1:-}" != --short ] || sizes=(30000 300000)
