@@ -21,8 +21,11 @@ Position LastCaret(const Document& document, const Line& line) {
 auto CellAt(const std::vector<CellLine>& row, float x) {
   const auto reaches = [&](const CellLine& line) { return x < line.right; };
   const auto line = std::ranges::find_if(row, reaches);
-  return std::ranges::equal_range(row, line == row.end() ? row.back().cell : line->cell, {},
-                                  &CellLine::cell);
+  const CellLine& nearest = line == row.end() ? row.back() : *line;
+  const auto precedes = [](const CellLine& one, const CellLine& other) {
+    return one.cell < other.cell;
+  };
+  return std::equal_range(row.begin(), row.end(), nearest, precedes);
 }
 
 }  // namespace
@@ -111,13 +114,13 @@ Position CaretMotion::RightOf(bool extend) const {
 CaretMotion::CaretLine CaretMotion::Above(const CaretLine& line) const {
   const CellLines row = breaker_.CellLines(core_.Content(), line.above);
   if (row.empty() || row.back().end >= line.start) return LineAt(line.above);
-  return LineOfCell(row, std::prev(CellAt(row, *goal_).end()));
+  return LineOfCell(row, std::prev(CellAt(row, *goal_).second));
 }
 
 CaretMotion::CaretLine CaretMotion::Below(const CaretLine& line) const {
   const CellLines row = breaker_.CellLines(core_.Content(), line.below);
   if (row.empty() || row.front().start <= line.start) return LineAt(line.below);
-  return LineOfCell(row, CellAt(row, *goal_).begin());
+  return LineOfCell(row, CellAt(row, *goal_).first);
 }
 
 Position CaretMotion::Vertically(int lines) {
