@@ -152,8 +152,8 @@ struct ParaFormat {
   std::uint8_t nesting = 0;  // of the enclosing table, 0 none
   std::uint16_t stated = 0;  // ParaStated
   std::uint16_t reserved = 0;
-  // What the source says of the paragraph before its text, where it goes on behind it; 0 the same.
-  // Some readers take only that.
+  // What the source says of the paragraph before its text, where it goes on behind it, counted from
+  // 1; 0 the same. Some readers take only that.
   ParaId opening = 0;
   bool operator==(const ParaFormat&) const = default;
 };

@@ -343,7 +343,7 @@ ParaId Interpreter::Opened(ParaId ended) {
   ParaFormat format = formats_.paragraphs[ended];
   const ParaFormat opening = OpeningOf(format, formats_.paragraphs[began], alignedLate);
   if (opening == format) return ended;
-  format.opening = formats_.paragraphs.Intern(opening);
+  format.opening = formats_.paragraphs.Intern(opening) + 1;
   return formats_.paragraphs.Intern(format);
 }
 
@@ -358,7 +358,8 @@ ParaFormat Interpreter::OpeningOf(const ParaFormat& format, ParaFormat began, bo
   const bool numbered =
       formats_.words.Any(format.words, IsNumbering) || formats_.words.Any(began.words, IsNumbering);
   if (numbered) began.words = format.words;
-  const bool late = alignedLate || !Addition(began, format, formats_);
+  const bool late =
+      alignedLate || began.alignment != format.alignment || !Addition(began, format, formats_);
   if (late && (format.stated & kStatesAlignment) != 0) {
     began.stated = static_cast<std::uint16_t>(began.stated & ~kStatesAlignment);
     began.alignment = Alignment::Left;

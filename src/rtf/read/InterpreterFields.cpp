@@ -96,6 +96,8 @@ void Interpreter::PlaceMarker() {
   const Tokenizer tokens = std::exchange(tokens_, Tokenizer(marker));
   const std::size_t outermost = std::exchange(outermost_, groups_.size());
   const std::size_t uncounted = std::exchange(uncounted_, 0);
+  const bool atText = std::exchange(atText_, false);
+  const bool behindText = behindText_;
   const KeptItems behind = items_.TakeSince(markerIndex_);
   placingMarker_ = true;
   Interpret();
@@ -108,6 +110,8 @@ void Interpreter::PlaceMarker() {
   tokens_ = tokens;
   outermost_ = outermost;
   uncounted_ = uncounted;
+  atText_ = atText;
+  behindText_ = behindText;
   swallow_ = 0;
   starred_ = false;
   groups_.erase(groups_.begin() + depth, groups_.end());

@@ -76,8 +76,8 @@ ParaFormat& Interpreter::StatedFormat(ParaStated attribute) {
 }
 
 void Interpreter::Align(int value, const Token&) {
-  alignedLate_ |= opening_.has_value();
   StatedFormat(kStatesAlignment).alignment = static_cast<Alignment>(value);
+  alignedLate_ |= opening_ && ParagraphNumber() != *opening_;
 }
 
 void Interpreter::Length(int row, const Token& word) {

@@ -43,7 +43,7 @@ void WrittenBody::Paragraph(ParaId id, bool atStart) {
 /// The format that the paragraph's text begins with.
 ParaId WrittenBody::Opening(ParaId id) const {
   const ParaId opening = tables_.paragraphs[id].opening;
-  return opening != 0 && !part_ ? opening : id;
+  return opening != 0 && !part_ ? opening - 1 : id;
 }
 
 void WrittenBody::EndFormat(ParaId id) {

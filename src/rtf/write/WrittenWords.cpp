@@ -65,10 +65,12 @@ LineWords WordsOf(LineRule rule, int spacing) {
 struct WordOrder {
   WordsId high = 0;          // the start of the last part if that is \hich's
   bool hasFont = false;      // the own font has a place among the words
+  bool fontLast = false;     // and that is the last one
   bool hasSize = false;      // so has the size
   bool marked = false;       // there are markers
   bool scripts = false;      // some of them of scripts
   bool leftToRight = false;  // one of text from left to right
+  bool leftFirst = false;    // and that is the first one
   bool ownFont = false;      // the font's place precedes the markers, and so does
   bool ownSize = false;      // the size's, unless a script's marker comes first
   bool settled = true;       // a change of the run's own formats may follow as it is
@@ -83,11 +85,13 @@ WordOrder OrderOf(WordsId words, const FormatTables& tables) {
       if (!order.marked) order.ownSize = order.hasSize || IsScript(word);
       order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
       order.settled = !order.hasFont;
+      if (!order.marked) order.leftFirst = word.kind == KeptWord::Kind::LeftToRight;
       order.marked = true;
       order.leftToRight |= word.kind == KeptWord::Kind::LeftToRight;
     }
     if (IsScript(word)) order.scripts = true;
-    if (word.kind == KeptWord::Kind::Font) order.hasFont = order.settled = true;
+    order.fontLast = word.kind == KeptWord::Kind::Font;
+    if (order.fontLast) order.hasFont = order.settled = true;
     if (word.kind == KeptWord::Kind::Size) order.hasSize = true;
   }
   order.settled = order.settled && order.high == 0 && !order.hasSize;
@@ -112,10 +116,11 @@ void WriteWord(KeptWord word, const WrittenFormat& run, const FormatTables& tabl
 }
 
 /// Whether readers would take a font or size that is in force for that of text before the markers.
+/// A first part of text from left to right takes the place of it.
 bool Misplaces(const WrittenFormat& from, const WordOrder& order) {
-  const bool font = from.font >= 0 && !order.ownFont && !order.scripts;
-  const bool size = from.size > 0 && !order.ownSize;
-  return order.marked && (font || size);
+  const bool ownFont = order.ownFont || order.scripts || (order.leftFirst && order.hasFont);
+  const bool ownSize = order.ownSize || order.leftFirst;
+  return order.marked && ((from.font >= 0 && !ownFont) || (from.size > 0 && !ownSize));
 }
 
 /// Writes the kept words of a run from `first` up to `end`, its font and size among them.
@@ -225,7 +230,9 @@ void ParagraphWriter::Tab(const TabStop& tab) {
 void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const FormatTables& tables,
                  Output& out) {
   const WordOrder order = OrderOf(to.words, tables);
-  const bool rewords = from.words != to.words || !order.settled;
+  // Alone, a font would be said last.
+  const bool movesFont = from.font != to.font && order.hasFont && !order.fontLast;
+  const bool rewords = from.words != to.words || !order.settled || movesFont;
   const bool anew = BeginsAnew(from, to, order, rewords);
   const bool worded = anew || rewords;
   const WrittenFormat& base = anew ? kPlain : from;
