@@ -116,7 +116,7 @@ std::u16string PathOf(const std::string& typed, Desktop& desktop) {
 int WritePdf(const CommandLine& line, Desktop& desktop) {
   desktop.WorkWithoutDisplay();
   const std::string& note = line.Operands().front();
-  const std::string& pdf = *line.Value("--pdf");
+  const std::string pdf = *line.Value("--pdf");
   Files& files = desktop.Machine().FileSystem();
   const std::u16string path = PathOf(note, desktop);
   const std::u16string target = PathOf(pdf, desktop);
