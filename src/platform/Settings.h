@@ -20,6 +20,7 @@ class Settings {
       std::u16string_view application, std::u16string_view section,
       const std::vector<std::u16string>& keys) const {
     std::vector<std::optional<std::u16string>> values;
+    values.reserve(keys.size());
     for (const std::u16string& key : keys) values.push_back(Read(application, section, key));
     return values;
   }

@@ -12,6 +12,7 @@ constexpr std::size_t kMostSuggestions = 8;
 
 std::vector<SpellingEntry> Each(const std::vector<std::u16string>& suggestions, Act act) {
   std::vector<SpellingEntry> entries;
+  entries.reserve(suggestions.size());
   for (const std::u16string& right : suggestions)
     entries.push_back({.act = act, .caption = right, .right = right});
   return entries;

@@ -43,6 +43,7 @@ std::vector<std::optional<std::u16string>> IniSettings::ReadEach(
     const std::vector<std::u16string>& keys) const {
   Refresh();
   std::vector<std::optional<std::u16string>> values;
+  values.reserve(keys.size());
   for (const std::u16string& key : keys) values.push_back(text_.Find(application, section, key));
   return values;
 }
