@@ -12,6 +12,7 @@
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
 #include "backends/qt/windows/OwnIcon.h"
+#include "backends/qt/x11/X11Server.h"
 
 namespace lumenote {
 namespace {
@@ -92,6 +93,15 @@ void FormWindow::ShowVisible(QWidget* owner) {
   windowHandle()->setTransientParent(owner ? owner->windowHandle() : HostWindow());
   ShowGeometry();
   show();
+  if (!owner) KeepAboveHost();
+}
+
+// The toolkit tells the window manager about the owners of dialogs alone.
+void FormWindow::KeepAboveHost() {
+  const QWindow* host = windowHandle()->transientParent();
+  const X11Server server;
+  if (host && server.IsConnected())
+    server.KeepAbove(static_cast<xcb_window_t>(winId()), static_cast<xcb_window_t>(host->winId()));
 }
 
 /// The host's native window, possibly of another toolkit; null for none.

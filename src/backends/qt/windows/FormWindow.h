@@ -70,6 +70,7 @@ class FormWindow : public SpokenWidget {
   void HearMouse(const QMouseEvent& event);
   void ChooseKind();
   QWindow* HostWindow();
+  void KeepAboveHost();
 
   Form* form_;
   ActivationListener& listener_;

@@ -64,6 +64,12 @@ bool X11Server::IsViewable(xcb_window_t window) const {
   return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
+void X11Server::KeepAbove(xcb_window_t window, xcb_window_t owner) const {
+  xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_TRANSIENT_FOR,
+                      XCB_ATOM_WINDOW, 32, 1, &owner);
+  xcb_flush(connection_);
+}
+
 void X11Server::SendDelete(xcb_window_t window) const {
   xcb_client_message_event_t event = {};
   event.response_type = XCB_CLIENT_MESSAGE;

@@ -24,6 +24,8 @@ class X11Server {
   std::string TextOf(xcb_window_t window, std::string_view property) const;
   /// Whether it and all its ancestors are mapped.
   bool IsViewable(xcb_window_t window) const;
+  /// Tells the window manager to keep a window above `owner`.
+  void KeepAbove(xcb_window_t window, xcb_window_t owner) const;
   /// Sends the protocol message of a close box.
   void SendDelete(xcb_window_t window) const;
 
