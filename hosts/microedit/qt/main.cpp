@@ -10,6 +10,7 @@
 #include "backends/qt/printing/PrintedNote.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/windows/Shot.h"
+#include "backends/qt/x11/Display.h"
 #include "lumenote/QtPlatform.h"
 
 using namespace lumenote;
@@ -45,7 +46,9 @@ int main(int argc, char** argv) {
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
   std::optional<QApplication> application;  // outlives all windows
   QtDesktop desktop([&] {
-    if (!application) application.emplace(argc, argv);
+    if (application) return;
+    RequireDisplay();
+    application.emplace(argc, argv);
   });
   return Launch(arguments, desktop);
 }

@@ -5,21 +5,17 @@
 #include <QThread>
 #include <QTimer>
 #include <QTranslator>
+#include <clocale>
 
-#include "backends/native/folders/DrivePaths.h"
 #include "backends/native/folders/NativeFolders.h"
-#include "backends/native/folders/NativeProgramFolders.h"
-#include "backends/native/saving/NativeFiles.h"
-#include "backends/native/settings/IniRegistry.h"
-#include "backends/native/settings/IniSettings.h"
-#include "backends/native/state/NativeStateFolder.h"
-#include "backends/posix/folders/UserFolders.h"
+#include "backends/posix/PosixParts.h"
 #include "backends/posix/programs/PosixProcesses.h"
 #include "backends/qt/ApplicationEnd.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/QtClipboard.h"
 #include "backends/qt/QtFonts.h"
 #include "backends/qt/spelling/Speller.h"
+#include "backends/qt/x11/Display.h"
 #include "backends/qt/x11/X11Windows.h"
 
 namespace lumenote {
@@ -48,7 +44,12 @@ class OwnApplication {
 
  private:
   void Make() {
+    RequireDisplay();
+    // The application object takes over the user's locale. A host without Qt writes its numbers
+    // as before.
+    const std::string numbers = std::setlocale(LC_NUMERIC, nullptr);
     application_ = std::make_unique<QApplication>(count_, names_);
+    std::setlocale(LC_NUMERIC, numbers.c_str());
     // Translates Qt's own dialogs to French.
     if (french_.load(QStringLiteral("qtbase_fr"),
                      QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -91,13 +92,7 @@ class ReapingProcesses final : public PosixProcesses {
 }  // namespace
 
 /// The parts that need no application object.
-struct QtPlatform::Parts {
-  DrivePaths drives = DrivePaths::OfUser();
-  NativeStateFolder state{NativeStateFolder::OfUser(), drives};
-  NativeFiles files{drives, &state};
-  IniSettings settings{SettingsFile()};
-  IniRegistry registry{RegistryFiles()};
-  NativeProgramFolders programFolders{drives};
+struct QtPlatform::Parts : PosixParts {
   X11Windows programWindows;
   ReapingProcesses programs{drives, programWindows};
   NativeFolders folders{drives, [this] { return programs.HoldsFiles(); }};
