@@ -23,7 +23,8 @@ BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev libxcb1-dev l
 FONT_PACKAGES=(fonts-liberation fonts-dejavu-core fontconfig)
 # With abiword (15 MB) a real word processor takes part in the tests too; without it they skip that.
 TEST_PACKAGES=(libgtest-dev python3 xvfb xauth openbox xdotool x11-utils procps
-  dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0 poppler-utils)
+  dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0 poppler-utils
+  pkg-config libgtk-3-dev)
 WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 WINE_PACKAGES=(wine64 wine)
 CHECK_PACKAGES=(ccache clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev)

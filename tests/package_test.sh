@@ -14,7 +14,7 @@ compile() {
 }
 
 cmake --install "$build" --prefix "$work/prefix" >/dev/null
-compile "$source/hosts/example" "$work/example"
+compile "$source/hosts/examples/cpp" "$work/example"
 answer=$("$work/example/example" --check 2>/dev/null)
 [ "$answer" = "Lisière sur calcaire, alt. 420 m." ] || { echo "unexpected note: $answer"; exit 1; }
 
@@ -39,5 +39,17 @@ int main() { return lumenote::Note("{\\rtf1 note}").Text() == u"note" ? 0 : 1; }
 END
 compile "$work/host" "$work/host/build"
 "$work/host/build/host"
+
+# In C, by pkg-config: the example, and a note without a window.
+PKG_CONFIG_PATH=$(dirname "$(find "$work/prefix" -name lumenote.pc)")
+export PKG_CONFIG_PATH
+cc "$source/hosts/examples/c/main.c" -o "$work/c_host" $(pkg-config --cflags --libs lumenote-qt)
+cat >"$work/convert.c" <<'END'
+#include <lumenote/lumenote.h>
+#include <string.h>
+int main(void) { return strcmp(lumenote_convert("{\\rtf1 note}", 12, "rtf", "text", NULL), "note"); }
+END
+cc "$work/convert.c" -o "$work/convert" $(pkg-config --cflags --libs lumenote)
+LD_LIBRARY_PATH=$(pkg-config --variable=libdir lumenote) "$work/convert"
 
 "$work/prefix/bin/lumenote" --version

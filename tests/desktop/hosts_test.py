@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+"""Hosts without Qt of their own: in C, on GTK and in Python. Their user types in the editor's window."""
+import os
+import subprocess
+import sys
+import unittest
+
+from rig import Desktop, main
+
+C_HOST, GTK_HOST, PYTHON_HOST, LIBRARY = sys.argv[1:5]
+del sys.argv[1:5]
+TITLE = "Orchis purpurea"
+
+
+class Hosts(Desktop):
+    def setUp(self):
+        super().setUp()
+        self.env["LD_LIBRARY_PATH"] = LIBRARY
+
+    def output(self):
+        return (self.home / "output").read_text(encoding="utf-8")
+
+    def close_and_save(self, editor):
+        self.ask_to_close(editor)
+        self.keys(self.front("Lumenote"), "Return")  # yes
+
+    def type_at_the_start(self, text):
+        editor = self.front(TITLE)
+        self.keys(editor, "ctrl+Home")
+        self.type(editor, text)
+        return editor
+
+    def test_in_c_a_note_in_a_file_is_edited_and_its_path_comes_back(self):
+        note = self.home / "orchis.rtf"
+        note.write_bytes(rb"{\rtf1 note}")
+        host = self.start(C_HOST, str(note), output="output")
+        editor = self.type_at_the_start("ma ")
+        self.keys(editor, "ctrl+s")
+        self.wait(lambda: b"ma note" in note.read_bytes(), "the saved note")
+        self.ask_to_close(editor)
+        self.assertEqual(host.wait(timeout=60), 0, self.log())
+        self.assertRegex(self.output(), r"^Z:\\.*\\orchis\.rtf\n$")
+
+    def test_in_c_an_error_has_its_text(self):
+        self.env["DISPLAY"] = ":999"
+        host = self.start(C_HOST, str(self.home / "orchis.rtf"))
+        self.assertEqual(host.wait(timeout=60), 1)
+        self.assertIn("ShowMicroEdit : Pas d'écran", self.log())
+
+    def test_in_python_the_note_itself_comes_back(self):
+        if "asan" in subprocess.run(["ldd", C_HOST], capture_output=True, text=True).stdout:
+            self.skipTest("the interpreter has no sanitizer")
+        host = self.start(sys.executable, PYTHON_HOST, output="output", stdin=subprocess.PIPE)
+        host.stdin.write("chênes, 120 m".encode())
+        host.stdin.close()
+        self.close_and_save(self.type_at_the_start("Sous "))
+        self.assertEqual(host.wait(timeout=60), 0, self.log())
+        self.assertIn("Sous chênes, 120 m", self.output())
+
+    def test_on_gtk_the_hosts_window_goes_on_beneath_the_editor(self):
+        host = self.start(GTK_HOST)
+        window = self.front("Herbier")
+        before = self.picture(window, 0, 0, 300, 100)
+        self.keys(window, "space")  # on its button
+        editor = self.type_at_the_start("Ici ")
+        owner = self.run_x("xprop", "-id", editor, "-notype", "WM_TRANSIENT_FOR")
+        self.assertEqual(int(owner.split()[-1], 16), int(window, 16))
+        self.close_and_save(editor)
+        self.wait(lambda: not self.window(TITLE), "the end of the editor")
+        self.wait(lambda: self.picture(window, 0, 0, 300, 100) != before, "the note in the host")
+        self.ask_to_close(window)
+        self.assertEqual(host.wait(timeout=60), 0, self.log())
+
+
+if __name__ == "__main__":
+    main()
