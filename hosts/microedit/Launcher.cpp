@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "PipedNote.h"
 #include "backends/headless/FixedLayouter.h"
 #include "backends/headless/MemoryClipboard.h"
 #include "base/CommandLine.h"
@@ -14,6 +15,7 @@
 #include "editor/storage/DocumentStorage.h"
 #include "forms/Backend.h"
 #include "lumenote/CoBxRtf.h"
+#include "lumenote/NativePaths.h"
 #include "pilot/RunPilot.h"
 #include "pilot/sandbox/FolderSandbox.h"
 #include "platform/Files.h"
@@ -28,7 +30,9 @@ namespace {
 constexpr const char* kUsage = R"(Utilisation : microedit [OPTION...] NOTE
 
 Ouvre l'éditeur sur NOTE, un fichier .rtf ou .txt (chemin du système ou avec
-lettre de lecteur). Un fichier .rtf ou .txt qui manque est créé.
+lettre de lecteur). Un fichier .rtf ou .txt qui manque est créé. Si NOTE est
+« - », la note vient de l'entrée standard et part, l'éditeur fermé, sur la
+sortie standard.
 
   --title T       titre de la fenêtre
   --frame T       titre du cadre
@@ -45,7 +49,8 @@ lettre de lecteur). Un fichier .rtf ou .txt qui manque est créé.
   --version       affiche la version
 
 État de sortie : 0, 1 quand la note ne peut être ouverte ou un fichier écrit, 2 pour
-une ligne de commande incorrecte.
+une ligne de commande incorrecte ; avec « - » aussi 3 quand la note n'a pas changé,
+4 quand elle a été supprimée.
 )";
 
 constexpr const char* kDesktopsOwn = "-1";  // also in a dark palette
@@ -154,6 +159,23 @@ int Edit(const CommandLine& line, Desktop& desktop) {
   return control.Parts().session->loaded ? 0 : 1;
 }
 
+/// Edits the note on standard input; what becomes of it goes to standard output. Returns the exit
+/// status.
+int Filter(const CommandLine& line, Desktop& desktop) {
+  if (line.Has("--capture")) return Fail("--capture demande un fichier", 2);
+  desktop.UseStandardStreams();
+  PipedNote note(std::cin);
+  CoBxRtf control(desktop.Machine());
+  Describe(control, line);
+  if (line.Has("--readonly")) control.pAttribut(u"readonly");
+  control.NotePath(desktop.ToDrivePath(note.Path()));
+  const auto ends = desktop.WatchEnds([&control] { control.KeepUnsaved(); });
+  control.ShowMicroEdit(1);
+  if (!control.Parts().session->loaded) return 1;  // the user was told why
+  const std::u16string left = control.pStrOrchm();
+  return static_cast<int>(note.Give(left.empty() ? "" : ToNativePath(left), std::cout));
+}
+
 /// Runs a script in a sandbox, on real windows.
 int DrivePilot(const CommandLine& line, Desktop& desktop) {
   std::ifstream script(*line.Value("--pilot"), std::ios::binary);
@@ -180,7 +202,8 @@ int Follow(const CommandLine& line, Desktop& desktop) {
   if (line.Operands().size() != (line.Has("--pilot") ? 0 : 1))
     return Fail("une note est attendue (voir --help)", 2);
   if (line.Has("--pilot")) return DrivePilot(line, desktop);
-  return line.Has("--pdf") ? WritePdf(line, desktop) : Edit(line, desktop);
+  if (line.Has("--pdf")) return WritePdf(line, desktop);
+  return line.Operands().front() == "-" ? Filter(line, desktop) : Edit(line, desktop);
 }
 
 }  // namespace

@@ -29,6 +29,9 @@ class Desktop {
   virtual UserActs& ScriptUser() = 0;
   /// Renders a window to a PNG file. Raises PathAccess if that cannot be written.
   virtual void Capture(const Form& form, const std::string& png) = 0;
+  /// A note will come and go through the standard streams, byte for byte; if nobody reads it, that
+  /// is an error like others.
+  virtual void UseStandardStreams() = 0;
   /// No window will be shown: nothing needs a display. To be called first.
   virtual void WorkWithoutDisplay() {}
   /// The note as a PDF file. Raises InvalidArgument on a desktop without printing.

@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Hosts without Qt of their own: in C, on GTK and in Python. Their user types in the editor's window."""
-import os
+"""Hosts without Qt of their own: in C, on GTK, in Python, and programs that start the editor as a filter.
+Their user types in its window."""
+import pathlib
 import subprocess
 import sys
 import unittest
 
-from rig import Desktop, main
+from rig import MICROEDIT, Desktop, main
 
 C_HOST, GTK_HOST, PYTHON_HOST, LIBRARY = sys.argv[1:5]
 del sys.argv[1:5]
@@ -70,6 +71,43 @@ class Hosts(Desktop):
         self.wait(lambda: self.picture(window, 0, 0, 300, 100) != before, "the note in the host")
         self.ask_to_close(window)
         self.assertEqual(host.wait(timeout=60), 0, self.log())
+
+
+class Filter(Desktop):
+    """microedit between two programs."""
+
+    def edit(self, note, *options, output="output"):
+        self.filter = self.start(MICROEDIT, *options, "-", output=output, stdin=subprocess.PIPE)
+        self.filter.stdin.write(note)
+        self.filter.stdin.close()
+        return self.front("MicroEditeur")
+
+    def gives(self, status, note):
+        self.assertEqual(self.filter.wait(timeout=60), status, self.log())
+        self.assertEqual((self.home / "output").read_bytes(), note)
+        self.assertEqual(list(self.home.glob("lumenote-*")), [])
+
+    def test_a_changed_note_keeps_its_encoding(self):
+        for name, note in (("utf-8", "chênes\net hêtres".encode()), ("cp1252", b"ch\xeanes\r\n")):
+            with self.subTest(name):
+                (self.home / "output").write_bytes(b"")
+                editor = self.edit(note)
+                self.type(editor, "Sous ")
+                self.ask_to_close(editor)
+                self.keys(self.front("microedit"), "Return")  # yes
+                self.gives(0, b"Sous " + note.replace(b"\r\n", b"\n").replace(b"\n", b"\r\n"))
+
+    def test_an_unchanged_note_goes_on_byte_for_byte(self):
+        note = b"{\\rtf1 {\\*\\odd 1}ma\nnote}\r\n\0"
+        self.ask_to_close(self.edit(note, "--readonly"))
+        self.gives(3, note)
+
+    def test_a_note_that_nobody_takes_is_kept(self):
+        editor = self.edit(b"note", output="/dev/full")
+        self.ask_to_close(editor)
+        self.assertEqual(self.filter.wait(timeout=60), 1)
+        kept = self.log().rpartition(" ")[2].strip()
+        self.assertEqual(pathlib.Path(kept).read_bytes(), b"note")
 
 
 if __name__ == "__main__":

@@ -1,5 +1,6 @@
 // The launcher on Qt.
 #include <QApplication>
+#include <csignal>
 #include <optional>
 #include <vector>
 
@@ -26,6 +27,7 @@ class QtDesktop final : public SystemDesktop<QtPlatform, QtBackend, QtUserActs> 
   void Capture(const Form& form, const std::string& png) override {
     SaveWindowShot(Shown().Widgets(), form, QString::fromStdString(png));
   }
+  void UseStandardStreams() override { std::signal(SIGPIPE, SIG_IGN); }
   void WorkWithoutDisplay() override { qputenv("QT_QPA_PLATFORM", "offscreen"); }
   std::string Pdf(const Document& note, std::u16string_view title) override {
     return PdfOf(note, ToQString(title)).toStdString();

@@ -1,5 +1,7 @@
 // The launcher on Windows.
 #include <cstdio>
+#include <fcntl.h>
+#include <io.h>
 
 #include "Launcher.h"
 #include "backends/win32/Win32Backend.h"
@@ -17,6 +19,10 @@ class Win32Desktop final : public SystemDesktop<Win32Platform, Win32Backend, Win
  public:
   void Capture(const Form& form, const std::string& png) override {
     SaveWindowShot(Shown().PeerOf(form)->Handle(), FromUtf8(png));
+  }
+  void UseStandardStreams() override {
+    _setmode(_fileno(stdin), _O_BINARY);
+    _setmode(_fileno(stdout), _O_BINARY);
   }
   /// The windows themselves hear of the session's end.
   std::shared_ptr<void> WatchEnds(std::function<void()>) override { return nullptr; }
