@@ -8,7 +8,7 @@ top=$(cd "$(dirname "$0")" && pwd)
 ensure_packages "${BUILD_PACKAGES[@]}" "${FONT_PACKAGES[@]}" hunspell-fr
 build="$top/build/run"
 cmake -S "$top" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMENOTE_TESTS=OFF >/dev/null
-cmake --build "$build" --target microedit
+cmake --build "$build"
 
 if [ $# -gt 0 ]; then
   note=$1

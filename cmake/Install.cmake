@@ -25,3 +25,15 @@ install(TARGETS lumenote_tool RUNTIME)
 if(LUMENOTE_QT)
   install(TARGETS microedit RUNTIME)
 endif()
+
+# Removes what the last installation put down.
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/uninstall.cmake [[
+file(STRINGS ${manifest} installed)
+foreach(file IN LISTS installed)
+  message(STATUS "Removing: ${file}")
+  file(REMOVE "${file}")
+endforeach()
+]])
+add_custom_target(uninstall COMMAND ${CMAKE_COMMAND}
+  -Dmanifest=${CMAKE_CURRENT_BINARY_DIR}/install_manifest.txt
+  -P ${CMAKE_CURRENT_BINARY_DIR}/uninstall.cmake)

@@ -53,3 +53,7 @@ cc "$work/convert.c" -o "$work/convert" $(pkg-config --cflags --libs lumenote)
 LD_LIBRARY_PATH=$(pkg-config --variable=libdir lumenote) "$work/convert"
 
 "$work/prefix/bin/lumenote" --version
+
+cmake --build "$build" --target uninstall >/dev/null
+left=$(find "$work/prefix" ! -type d)
+[ -z "$left" ] || { echo "not uninstalled: $left"; exit 1; }

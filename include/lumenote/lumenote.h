@@ -24,8 +24,8 @@ extern "C" {
 typedef struct LumenoteControl LumenoteControl;
 
 typedef struct LumenoteError {
-  int number;         /* 5 a bad argument, property or thread, 6 overflow, 7 memory, 13 not a number,
-                         51 internal, 53, 70, 75, 76 files and paths; 0 after a success */
+  int number; /* 5 a bad argument, property or thread, 6 overflow, 7 memory, 13 not a number,
+                 51 internal, 53, 70, 75, 76 files and paths; 0 after a success */
   const char* member; /* the control's member concerned ("pCouleurFen"), or "" */
   const char* text;   /* in French, for the user */
 } LumenoteError;
