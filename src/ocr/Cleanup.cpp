@@ -39,11 +39,14 @@ std::int16_t ReplaceAll(RichTextSurface& surface, std::u16string_view find,
   return count;
 }
 
+// A replacement may change more than its match: the numbers of lists follow it.
 std::int16_t ReplacePair(RichTextSurface& surface, const Correction& pair, TextIndex& index) {
   const std::u16string inserted = WithCrLf(pair.right);
-  return ReplaceAll(surface, pair.wrong, pair.right, [&](Position at) {
+  const std::int16_t count = ReplaceAll(surface, pair.wrong, pair.right, [&](Position at) {
     index.Replaced(static_cast<std::size_t>(at), pair.wrong.size(), inserted);
   });
+  if (count > 0) index.Correct(surface.Text());
+  return count;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "base/Characters.h"
 
@@ -19,7 +20,7 @@ std::size_t Slot(const char16_t* run) {
 
 }  // namespace
 
-TextIndex::TextIndex(std::u16string_view text) : text_(Lower(text)) { Add(0, text_.size()); }
+TextIndex::TextIndex(std::u16string text) : text_(std::move(text)) { Add(0, text_.size()); }
 
 bool TextIndex::MayContain(std::u16string_view part) const {
   const std::u16string folded = Lower(part);
@@ -29,13 +30,19 @@ bool TextIndex::MayContain(std::u16string_view part) const {
 }
 
 void TextIndex::Replaced(std::size_t at, std::size_t length, std::u16string_view replacement) {
-  text_.replace(at, length, Lower(replacement));
+  at = std::min(at, text_.size());
+  text_.replace(at, length, replacement);
   Add(at - std::min(at, kRun - 1), at + replacement.size());
 }
 
+void TextIndex::Correct(std::u16string text) {
+  if (text != text_) *this = TextIndex(std::move(text));
+}
+
 void TextIndex::Add(std::size_t from, std::size_t to) {
-  to = std::min(to, text_.size() - std::min(text_.size(), kRun - 1));
-  for (; from < to; ++from) runs_.set(Slot(&text_[from]));
+  const std::u16string folded =
+      Lower(std::u16string_view(text_).substr(from, to - from + kRun - 1));
+  for (std::size_t at = 0; at + kRun <= folded.size(); ++at) runs_.set(Slot(&folded[at]));
 }
 
 }  // namespace lumenote

@@ -7,22 +7,25 @@
 
 namespace lumenote {
 
-/// The runs of four characters of a text, case-folded. Only ever added to, and hashed: it may take
-/// a text for contained that is not, never the reverse, provided each change is reported.
+/// The runs of four characters of a text, case-folded. Replacements only add some, and they are
+/// hashed: it may take a text for contained that is not, never the reverse, provided each change is
+/// reported.
 class TextIndex {
  public:
-  explicit TextIndex(std::u16string_view text);
+  explicit TextIndex(std::u16string text);
 
   /// False only if the text does not contain `part`. A part shorter than a run is never ruled out.
   bool MayContain(std::u16string_view part) const;
-  /// The text's `length` characters from `at`, which must lie in it, became `replacement`.
+  /// The text's `length` characters from `at` became `replacement`.
   void Replaced(std::size_t at, std::size_t length, std::u16string_view replacement);
+  /// The text is this one now, be it by the replacements that were reported or by others.
+  void Correct(std::u16string text);
 
  private:
   /// Adds the runs that begin in `from`..`to` - 1.
   void Add(std::size_t from, std::size_t to);
 
-  std::u16string text_;  // case-folded
+  std::u16string text_;
   std::bitset<1 << 18> runs_;
 };
 

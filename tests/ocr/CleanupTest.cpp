@@ -151,6 +151,20 @@ TEST(AppliquerPaires, EqualsTheLiteralLoopOnRandomTexts) {
   }
 }
 
+// An item more gives those behind it other numbers.
+TEST(AppliquerPaires, EqualsTheLiteralLoopOnNumberedLists) {
+  std::string source =
+      R"({\rtf1{\*\listtable{\list{\listlevel\levelnfc0\levelstartat1{\leveltext\'02\'00.;}}\listid7}})"
+      R"({\*\listoverridetable{\listoverride\listid7\ls1}})";
+  for (int item = 1; item <= 9; ++item)
+    source += R"(\pard\ls1{\listtext )" + std::to_string(item) + R"(.\tab}pas \par )";
+  Note quick(u"");
+  quick.surface.TextRTF(FromUtf8(source + "}"));
+  const std::string list =
+      "s =:=s\ru\n18.\tu=:=found\n" + std::string("u=:=") + std::string(9, '\r') + "\n";
+  EXPECT_EQ(AppliquerPaires(quick.surface, list), (std::vector<std::int16_t>{9, 1, 9}));
+}
+
 TEST(NormaliserEnteteRtf, RewritesItsThreeWords) {
   for (const auto& [text, result] : Rows16<2>(R"(
 "" => "" ¦ x => $ ¦ ab => $$ ¦ abcd => $$ab ¦ \sl276\slmult1 abc => $$\sl240\slmult1 a
