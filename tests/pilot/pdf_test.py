@@ -48,8 +48,8 @@ class Pdf(unittest.TestCase):
         return [" ".join(page.replace("/", " / ").split()) for page in text[:-1]]
 
     def pixels(self, page=1):
-        self.run_it("pdftoppm", "-r", "36", "-f", str(page), "-l", str(page), "a.pdf", "page")
-        file = next(self.folder.glob("page*.ppm")).read_bytes()
+        self.run_it("pdftoppm", "-r", "36", "-f", str(page), "-singlefile", "a.pdf", "page")
+        file = (self.folder / "page.ppm").read_bytes()
         size = re.match(rb"P6\s(\d+) (\d+)\s255\s", file)
         body = file[size.end():]
         return [body[i:i + 3] for i in range(0, len(body), 3)]
@@ -77,6 +77,8 @@ class Pdf(unittest.TestCase):
         self.assertEqual(pages[2], "1. là-bas 3 / 3")
         red = [pixel for pixel in self.pixels(page=2) if pixel[0] > 250 and max(pixel[1:]) < 5]
         self.assertGreater(len(red), 50 * 200)
+        dark = [i // 210 for i, pixel in enumerate(self.pixels(page=3)) if pixel[0] < 250]
+        self.assertLess(max(dark, key=dark.count), 28, "the rule is above the text")
 
     def test_a_text_and_damaged_notes(self):
         (self.folder / "t.txt").write_text("œuf\nfin", encoding="utf-8")

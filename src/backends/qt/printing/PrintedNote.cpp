@@ -67,8 +67,8 @@ void PrintedNote::Paint(QPainter& painter, int page) {
   double y = 0;
   if (first < bodyEnd) y = PaintText(painter, body_, first, std::min(last, bodyEnd), 0);
   if (last > bodyEnd) {
-    if (first <= bodyEnd) PaintRule(painter, y + Dots(kRuleSpace) / 2);
     if (first < bodyEnd) y += Dots(kRuleSpace);
+    if (first <= bodyEnd) PaintRule(painter, y - Dots(kRuleSpace) / 2);
     PaintText(painter, notes_, std::max(first, bodyEnd) - bodyEnd, last - bodyEnd, y);
   }
   painter.restore();
