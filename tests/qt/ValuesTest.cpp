@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <gtest/gtest.h>
 
+#include "backends/qt/toolkit/FrenchTexts.h"
 #include "backends/qt/toolkit/Keys.h"
 #include "backends/qt/toolkit/LineEdits.h"
 #include "backends/qt/toolkit/MimeContent.h"
@@ -112,6 +113,17 @@ TEST(MimeTest, ReadsImagesAndFilesOfImages) {
   const auto offered = WriteMime({.text = u"\uFFFC", .images = {bytes.toStdString()}});
   EXPECT_EQ(offered->data(QStringLiteral("image/jpeg")), bytes);
   EXPECT_EQ(QImage::fromData(offered->data(QStringLiteral("image/png"))).size(), red.size());
+}
+
+TEST(InFrench, KeepsTheNamesInSentences) {
+  EXPECT_EQ(
+      InFrench(QStringLiteral("/tmp/a & b.pdf already exists.\nDo you want to overwrite it?")),
+      QStringLiteral("/tmp/a & b.pdf existe déjà.\nFaut-il le remplacer ?"));
+  EXPECT_EQ(
+      InFrench(QStringLiteral("File %2 is not writable.\nPlease choose a different file name.")),
+      QStringLiteral("Le fichier %2 est protégé.\nChoisissez un autre nom de fichier."));
+  EXPECT_EQ(InFrench(QStringLiteral("&Cancel")), QStringLiteral("Annuler"));
+  EXPECT_EQ(InFrench(QStringLiteral("a & b")), QStringLiteral("a & b"));
 }
 
 }  // namespace

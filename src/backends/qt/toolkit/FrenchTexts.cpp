@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QLabel>
 #include <QTabWidget>
+#include <optional>
+#include <vector>
 
 namespace lumenote {
 
@@ -116,15 +118,48 @@ const QHash<QString, QString>& FrenchTexts() {
       {QStringLiteral("Millimeters (mm)"), QStringLiteral("Millimètres (mm)")},
       {QStringLiteral("Inches (in)"), QStringLiteral("Pouces (in)")},
       {QStringLiteral("Points (pt)"), QStringLiteral("Points (pt)")},
+      {QStringLiteral("Invalid Pages Definition"), QStringLiteral("Pages incorrectes")},
       {QStringLiteral("Yes"), QStringLiteral("&Oui")},
       {QStringLiteral("No"), QStringLiteral("&Non")},
   };
   return kTexts;
 }
 
+/// A text about a file or about pages that the user typed, which %1 stands for.
+struct Sentence {
+  QString toolkits;
+  QString french;
+};
+const std::vector<Sentence>& FrenchSentences() {
+  static const std::vector<Sentence> kSentences{
+      {QStringLiteral("%1 already exists.\nDo you want to overwrite it?"),
+       QStringLiteral("%1 existe déjà.\nFaut-il le remplacer ?")},
+      {QStringLiteral("%1 is a directory.\nPlease choose a different file name."),
+       QStringLiteral("%1 est un dossier.\nChoisissez un autre nom de fichier.")},
+      {QStringLiteral("File %1 is not writable.\nPlease choose a different file name."),
+       QStringLiteral("Le fichier %1 est protégé.\nChoisissez un autre nom de fichier.")},
+      {QStringLiteral("%1 does not follow the correct syntax. Please use ',' to separate ranges "
+                      "and pages, '-' to define ranges and make sure ranges do not intersect with "
+                      "each other."),
+       QStringLiteral("« %1 » n'est pas une liste de pages. Séparez les pages et les suites de "
+                      "pages par « , », comme 1,3-5, sans en répéter une.")},
+  };
+  return kSentences;
+}
+
+/// What %1 stands for in a text; nothing if it is another sentence.
+std::optional<QString> NameIn(const QString& text, const QString& sentence) {
+  const QStringList around = sentence.split(QStringLiteral("%1"));
+  const auto length = text.size() - around[0].size() - around[1].size();
+  if (length < 0 || !text.startsWith(around[0]) || !text.endsWith(around[1])) return std::nullopt;
+  return text.mid(around[0].size(), length);
+}
+
 }  // namespace
 
 QString InFrench(const QString& text) {
+  for (const Sentence& sentence : FrenchSentences())
+    if (const auto name = NameIn(text, sentence.toolkits)) return sentence.french.arg(*name);
   QString plain = text;
   plain.remove(QLatin1Char('&'));
   return FrenchTexts().value(plain, text);
