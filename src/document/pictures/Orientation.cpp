@@ -17,7 +17,7 @@ class Tiff {
   explicit Tiff(std::string_view data) : data_(data), big_(data.starts_with("MM")) {}
 
   std::uint32_t Short(std::size_t at) const {
-    if (at + 2 > data_.size()) return 0;
+    if (data_.size() < 2 || at > data_.size() - 2) return 0;
     return big_ ? BigEndian16(data_, at) : LittleEndian16(data_, at);
   }
   std::uint32_t Long(std::size_t at) const {

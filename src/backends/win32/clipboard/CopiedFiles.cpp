@@ -27,13 +27,15 @@ bool AddImage(const std::wstring& path, std::uint64_t& room, ClipboardContent& c
   const OpenFile file = OpenToRead(NativePath(path));
   const std::uint64_t size = file.IsOpen() ? SizeOf(file).value_or(0) : 0;
   const std::string head = Read(file, std::min(size, kHead));
-  if (size > kMostImageBytes) return content.imagesTooLarge |= IsPicture(head);
-  std::string image = head + Read(file, size - head.size());
-  if (!IsPicture(image)) image = PngOf(image);
-  if (image.empty()) return false;
-  content.imagesTooLarge |= image.size() > room;
+  const bool kept = IsPicture(head);
+  std::string image;
+  if (size <= kMostImageBytes) image = head + Read(file, size - head.size());
+  if (!kept) image = PngOf(image);
+  const std::uint64_t wanted = kept ? size : image.size();
+  if (wanted == 0) return false;
+  content.imagesTooLarge |= wanted > room;
   if (content.imagesTooLarge) return true;
-  room -= image.size();
+  room -= wanted;
   content.images.push_back(std::move(image));
   return true;
 }
