@@ -10,7 +10,7 @@ namespace lumenote {
 namespace {
 
 /// Whether a bookmark of that name, in small letters, begins in the item. Groups without text
-/// between them may be one item.
+/// between them may be one item; one of table cells tells its columns before its name.
 bool Begins(const KeptItem& item, std::u16string_view wanted) {
   if (item.kind != KeptItem::Kind::Bookmark) return false;
   std::u16string name;
@@ -18,7 +18,8 @@ bool Begins(const KeptItem& item, std::u16string_view wanted) {
   SourceTokens tokens(item.source);
   for (auto token = tokens.Next(); token; token = tokens.Next()) {
     if (token->kind == SourceToken::Kind::Close && begins && Lower(name) == wanted) return true;
-    if (token->kind == SourceToken::Kind::Word) begins = token->word == "bkmkstart";
+    if (token->kind == SourceToken::Kind::Word && !token->word.starts_with("bkmkcol"))
+      begins = token->word == "bkmkstart";
     if (token->kind == SourceToken::Kind::Character)
       name += token->character;
     else
