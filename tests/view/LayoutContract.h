@@ -7,5 +7,7 @@
 namespace lumenote {
 
 std::unique_ptr<TextLayouter> MakeLayouter();
+/// Whether it sets lines at other edges than the left one.
+bool LayouterAligns();
 
 }  // namespace lumenote

@@ -11,6 +11,7 @@
 namespace lumenote {
 
 std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<FixedLayouter>(); }
+bool LayouterAligns() { return false; }
 
 namespace {
 

@@ -5,5 +5,6 @@
 namespace lumenote {
 
 std::unique_ptr<TextLayouter> MakeLayouter() { return std::make_unique<UniscribeLayouter>(); }
+bool LayouterAligns() { return true; }
 
 }  // namespace lumenote

@@ -67,6 +67,7 @@ void LookChange::ApplyTo(Look& look) const {
   if (lines) SetLines(*lines, look);
   paragraph.alignment = alignment.value_or(paragraph.alignment);
   if (rightToLeft) paragraph.rightToLeft = *rightToLeft ? 1 : 0;
+  if (paragraph.rightToLeft && alignment == Alignment::Left) paragraph.stated |= kStatesAlignment;
   look.preserve = preserve.value_or(look.preserve);
   look.spaces = look.spaces || spaces;
   if (text && look.text != Look::Text::Hidden) look.text = *text;

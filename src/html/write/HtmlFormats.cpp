@@ -22,7 +22,7 @@ constexpr std::string_view kLineStyles[] = {
     "",      "",      "",      " double", " dotted", " dashed", " dashed", " dashed", "",
     " wavy", " wavy", " wavy", " dashed", " dotted", " dashed", " dashed", " dashed", " dashed"};
 
-constexpr std::string_view kAlignments[] = {"", "right", "center", "justify"};
+constexpr std::string_view kAlignments[] = {"left", "right", "center", "justify"};
 
 /// A number of hundredths with at most two decimals.
 std::string Decimal(std::int64_t hundredths) {
@@ -146,7 +146,8 @@ std::string ItemStyle(const ParaFormat& format, const CharFormat& text,
   DeclareLength("margin-top", format.spaceBefore, style);
   DeclareLength("margin-bottom", format.spaceAfter, style);
   if (format.rightIndent != 0) DeclareLength("margin-right", format.rightIndent, style);
-  if (format.alignment != Alignment::Left)
+  const bool leftFromTheRight = format.rightToLeft != 0 && (format.stated & kStatesAlignment) != 0;
+  if (format.alignment != Alignment::Left || leftFromTheRight)
     Declare("text-align", kAlignments[static_cast<std::size_t>(format.alignment)], style);
   if (format.rightToLeft != 0) Declare("direction", "rtl", style);
   DeclareLines(format, style);

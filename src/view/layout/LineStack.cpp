@@ -36,6 +36,13 @@ LineEdges EdgesOf(const TextLayouter& layouter, const ParaFormat& format) {
   return edges;
 }
 
+double FreeRoomBefore(const ParaFormat& format) {
+  if (format.alignment == Alignment::Centre) return 0.5;
+  const bool toTheLeft = format.rightToLeft && format.alignment == Alignment::Left &&
+                         (format.stated & kStatesAlignment);
+  return toTheLeft || (!format.rightToLeft && format.alignment == Alignment::Right) ? 1 : 0;
+}
+
 std::vector<PixelTab> TabsOf(const TextLayouter& layouter, const TabStops& stops,
                              const LineEdges& edges) {
   std::vector<PixelTab> tabs;

@@ -26,6 +26,11 @@ struct LineEdges {
 
 LineEdges EdgesOf(const TextLayouter& layouter, const ParaFormat& format);
 
+/// The share of a line's free room on the side where its text begins: 0, 0.5 or 1. Left and right
+/// are the page's own, but a paragraph from right to left begins at the right unless it says
+/// otherwise.
+double FreeRoomBefore(const ParaFormat& format);
+
 struct PixelTab {
   double x = 0;
   TabKind kind = TabKind::Left;

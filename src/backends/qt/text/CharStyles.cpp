@@ -38,10 +38,10 @@ void SetColours(CharStyle& style) {
 }  // namespace
 
 // Letters are as wide as their advance and the space behind them.
-QTextCharFormat StandInFormat(const QTextCharFormat& text, double width) {
+QTextCharFormat StandInFormat(const QTextCharFormat& text, char16_t shown, double width) {
   QFont font(text.font(), CharStyles::Device());
   font.setLetterSpacing(QFont::AbsoluteSpacing, 0);
-  const double own = QFontMetricsF(font).horizontalAdvance(QChar(kShownObject));
+  const double own = QFontMetricsF(font).horizontalAdvance(QChar(shown));
   QTextCharFormat format;
   format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
   format.setFontLetterSpacing(width - own);

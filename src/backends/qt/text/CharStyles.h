@@ -16,9 +16,8 @@ struct CharStyle : CharLook {
   std::optional<QTextCharFormat> smallLetter;  // the look of small letters shown as small capitals
 };
 
-/// What makes the stand-in of a box (`kShownObject`) in text of that format invisible and as wide
-/// as the box, in pixels.
-QTextCharFormat StandInFormat(const QTextCharFormat& text, double width);
+/// What makes a stand-in in text of that format invisible and `width` pixels wide.
+QTextCharFormat StandInFormat(const QTextCharFormat& text, char16_t shown, double width);
 
 /// The styles of a document's formats, created on demand.
 class CharStyles {

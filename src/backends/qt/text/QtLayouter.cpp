@@ -36,7 +36,20 @@ void AddBoxes(const QtPiece& piece, const Document& document, CharStyles& styles
   for (const InlineBox& box : piece.boxes) {
     while (std::next(run) != piece.runs.end() && std::next(run)->start <= box.index) ++run;
     const QTextCharFormat& text = styles.Of(document, run->format).format;
-    formats.push_back({box.index, 1, StandInFormat(text, box.size.width)});
+    formats.push_back({box.index, 1, StandInFormat(text, kShownObject, box.size.width)});
+  }
+}
+
+/// Qt counts line breaks into the lines of a text from right to left.
+void AddLineBreaks(const QtPiece& piece, const Document& document, CharStyles& styles,
+                   QList<FormatRange>& formats) {
+  const QString text = piece.layout.text();
+  auto run = piece.runs.begin();
+  for (qsizetype at = -1; (at = text.indexOf(QChar(kShownLineBreak), at + 1)) >= 0;) {
+    const int index = static_cast<int>(at);
+    while (std::next(run) != piece.runs.end() && std::next(run)->start <= index) ++run;
+    const QTextCharFormat& look = styles.Of(document, run->format).format;
+    formats.push_back({index, 1, StandInFormat(look, kShownLineBreak, 0)});
   }
 }
 
@@ -59,7 +72,8 @@ class LineMaker {
  private:
   QTextOption Option(double lineX) const;
   bool AddLines(const PieceSpan& span);
-  double Hang(const QTextLine& line, const PieceLine& box) const;
+  double WidthOf(const QTextLine& line, const PieceLine& box) const;
+  double Shift(const QTextLine& line, const PieceLine& box) const;
   void AddCellLines(const std::vector<CellBox>& cells, const std::vector<int>& ends);
   void Place(QTextLine line, PieceLine& box);
 
@@ -68,20 +82,6 @@ class LineMaker {
   std::vector<PixelTab> tabs_;
   double tabStep_ = 0;
 };
-
-Qt::Alignment AlignmentOf(const ParaFormat& format) {
-  switch (format.alignment) {
-    case Alignment::Left:
-      return Qt::AlignLeft;
-    case Alignment::Right:
-      return Qt::AlignRight;
-    case Alignment::Centre:
-      return Qt::AlignHCenter;
-    case Alignment::Justify:
-      return Qt::AlignJustify;
-  }
-  return Qt::AlignLeft;
-}
 
 QTextOption::Tab TabAt(double x, TabKind kind) {
   switch (kind) {
@@ -98,10 +98,13 @@ QTextOption::Tab TabAt(double x, TabKind kind) {
   return {x, QTextOption::LeftTab};
 }
 
-// Qt measures tab stops from the line's start, the document from the left edge.
+// Qt measures tab stops from the line's start, the document from the left edge; it sets lines where
+// they begin, since blanks at their end move what it aligns.
 QTextOption LineMaker::Option(double lineX) const {
   const ParaFormat& format = stack_.Format();
-  QTextOption option(AlignmentOf(format));
+  QTextOption option(format.alignment == Alignment::Justify ? Qt::AlignJustify
+                     : format.rightToLeft                   ? Qt::AlignRight
+                                                            : Qt::AlignLeft);
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   option.setTextDirection(format.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
   if (tabStep_ == 0) return option;
@@ -154,20 +157,23 @@ bool LineMaker::Build(const PieceSpan& span) {
   return true;
 }
 
-/// How far the line moves so that the blanks at its end hang over the edge that it is aligned at,
-/// as Qt has them do where it wraps a line.
-double LineMaker::Hang(const QTextLine& line, const PieceLine& box) const {
-  const ParaFormat& format = stack_.Format();
-  const bool centred = format.alignment == Alignment::Centre;
-  const Alignment atEnd = format.rightToLeft ? Alignment::Left : Alignment::Right;
-  if (!centred && format.alignment != atEnd) return 0;
+/// The width of a line but for the blanks that hang at its end. Where Qt wraps a line, it leaves
+/// them out itself, wherever the directions of the text put them.
+double LineMaker::WidthOf(const QTextLine& line, const PieceLine& box) const {
   const QString text = piece_.layout.text();
   const bool broken = box.end > box.start && text[box.end - 1] == QChar(kShownLineBreak);
-  if (!broken && box.end < text.size()) return 0;
-  const int end = broken ? box.end - 1 : box.end;
-  const int first = FirstHanging(Utf16(text), box.start, end);
-  const double blanks = line.cursorToX(end) - line.cursorToX(first);
-  return centred ? blanks / 2 : blanks;
+  if (!broken && box.end < text.size()) return line.naturalTextWidth();
+  const double end = line.cursorToX(FirstHanging(Utf16(text), box.start, box.end)) - line.x();
+  return stack_.Format().rightToLeft ? line.width() - end : end;
+}
+
+/// How far a line moves to its place between the edges.
+double LineMaker::Shift(const QTextLine& line, const PieceLine& box) const {
+  const ParaFormat& format = stack_.Format();
+  const double before = FreeRoomBefore(format);
+  if (before == 0) return 0;
+  const double shift = before * std::max(0.0, line.width() - WidthOf(line, box));
+  return format.rightToLeft ? -shift : shift;
 }
 
 void LineMaker::BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
@@ -205,7 +211,7 @@ void LineMaker::Place(QTextLine line, PieceLine& box) {
   Extend(piece_.boxes, box, ascent);
   Extend(piece_.decorations, box, ascent, descent);
   stack_.Place(box, ascent, descent);
-  line.setPosition({line.position().x() + Hang(line, box), box.baseline - line.ascent()});
+  line.setPosition({line.x() + Shift(line, box), box.baseline - line.ascent()});
 }
 
 /// Each cell begins a line.
@@ -245,6 +251,8 @@ std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpa
   piece->runs = std::move(text.runs);
   piece->boxes = BoxesIn(*this, document, *piece, cells, ends);
   AddBoxes(*piece, document, styles, formats);
+  if (document.Formats().paragraphs[piece->format].rightToLeft)
+    AddLineBreaks(*piece, document, styles, formats);
   piece->layout.setFormats(formats);
   const bool tabs = text.text.find(u'\t') != text.text.npos;
   LineMaker lines(*this, document, *piece, tabs);

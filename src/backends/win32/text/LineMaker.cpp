@@ -155,9 +155,7 @@ int LineMaker::LeftOf(const PieceLine& line, const Extent& extent) const {
   const double edge = LeftEdge(line.start);
   const double room = column_.edges.Room(edge);
   const double rest = std::max(0.0, room - extent.width);
-  double shift = 0;
-  if (format.alignment == Alignment::Right) shift = rest;
-  if (format.alignment == Alignment::Centre) shift = rest / 2;
+  const double shift = rest * FreeRoomBefore(format);
   const double left = format.rightToLeft
                           ? column_.edges.right - edge - shift - extent.width - extent.hanging
                           : edge + shift;
