@@ -39,13 +39,15 @@ std::int16_t ReplaceAll(RichTextSurface& surface, std::u16string_view find,
   return count;
 }
 
-// A replacement may change more than its match: the numbers of lists follow it.
+// A replacement may change more than its match, and then the length: an item of a list that comes
+// or goes takes its number along, and those of others follow.
 std::int16_t ReplacePair(RichTextSurface& surface, const Correction& pair, TextIndex& index) {
   const std::u16string inserted = WithCrLf(pair.right);
   const std::int16_t count = ReplaceAll(surface, pair.wrong, pair.right, [&](Position at) {
     index.Replaced(static_cast<std::size_t>(at), pair.wrong.size(), inserted);
   });
-  if (count > 0) index.Correct(surface.Text());
+  if (static_cast<std::size_t>(surface.TextLength()) != index.Length())
+    index = TextIndex(surface.Text());
   return count;
 }
 

@@ -35,10 +35,6 @@ void TextIndex::Replaced(std::size_t at, std::size_t length, std::u16string_view
   Add(at - std::min(at, kRun - 1), at + replacement.size());
 }
 
-void TextIndex::Correct(std::u16string text) {
-  if (text != text_) *this = TextIndex(std::move(text));
-}
-
 void TextIndex::Add(std::size_t from, std::size_t to) {
   const std::u16string folded =
       Lower(std::u16string_view(text_).substr(from, to - from + kRun - 1));

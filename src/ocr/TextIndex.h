@@ -18,8 +18,8 @@ class TextIndex {
   bool MayContain(std::u16string_view part) const;
   /// The text's `length` characters from `at` became `replacement`.
   void Replaced(std::size_t at, std::size_t length, std::u16string_view replacement);
-  /// The text is this one now, be it by the replacements that were reported or by others.
-  void Correct(std::u16string text);
+  /// Of the text as it should be now.
+  std::size_t Length() const { return text_.size(); }
 
  private:
   /// Adds the runs that begin in `from`..`to` - 1.
