@@ -18,7 +18,7 @@ ensure_packages() {
 }
 
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev libgl1-mesa-dev libxcb1-dev libhunspell-dev
-  qt6-translations-l10n)
+  qt6-translations-l10n libqt6sql6-sqlite)
 # Metric-compatible with the fonts that notes name.
 FONT_PACKAGES=(fonts-liberation fonts-dejavu-core fontconfig)
 # With abiword (15 MB) a real word processor takes part in the tests too; without it they skip that.

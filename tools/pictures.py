@@ -2,7 +2,7 @@
 """Takes the pictures of docs/images from the real windows; needs imagemagick and
 hunspell-fr.
 
-usage: tools/pictures.py BUILD      BUILD holds hosts/microedit/microedit, as build/test does
+usage: tools/pictures.py BUILD      BUILD holds hosts/microedit/microedit, as build/test and build/run do
 """
 import pathlib
 import re
@@ -10,7 +10,8 @@ import shutil
 import sys
 
 TOP = pathlib.Path(__file__).resolve().parent.parent
-MICROEDIT = str(pathlib.Path(sys.argv[1]).resolve() / "hosts/microedit/microedit")
+HOSTS = pathlib.Path(sys.argv[1]).resolve() / "hosts"
+MICROEDIT, HERBIER = str(HOSTS / "microedit/microedit"), str(HOSTS / "herbier/herbier")
 sys.argv[1:] = [MICROEDIT]
 sys.path.insert(0, str(TOP / "tests/desktop"))
 from rig import Desktop, main  # noqa: E402
@@ -38,6 +39,16 @@ class Pictures(Desktop):
         part = f"{width + left + right}x{height + top + bottom}+{x - left}+{y - top}"
         self.run_x("import", "-window", "root", "-crop", part, "+repage", "-strip",
                    str(TOP / f"docs/images/{name}.png"))
+
+    def test_herbarium(self):
+        self.ask_to_close(self.note)
+        self.start(HERBIER)
+        window = self.front("Herbier")
+        self.keys(window, "ctrl+f")
+        self.type(window, "bois pale")
+        self.keys(window, "Return")
+        self.front("Orchis purpurea")
+        self.take("herbier", window)
 
     def in_bar(self, *keys):
         self.keys(self.note, "F10", *keys)

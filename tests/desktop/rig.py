@@ -204,7 +204,7 @@ class Desktop(unittest.TestCase):
 
     def popup(self):
         """What is shown over the editor's windows: menus, lists, tooltips, something dragged."""
-        shown = self.run_x("xdotool", "search", "--onlyvisible", "--class", "notes_host|microedit")
+        shown = self.run_x("xdotool", "search", "--onlyvisible", "--class", "notes_host|microedit|herbier")
         return {hex(int(number)) for number in shown.split()} - self.windows().keys()
 
     def tooltip(self):
