@@ -278,8 +278,13 @@ void Interpreter::BeforeText() {
   if (inHead_) BeginBody();
   if (!marker_.empty()) PlaceMarker();
   if (body_.Holds()) body_.Release();
-  const bool opens = !opening_ && !placingMarker_ && target_ == RtfTarget::Document;
-  if (opens) opening_ = ParagraphNumber();
+  const bool opens = !opening_ || opensAnew_;
+  if (opens && !placingMarker_ && target_ == RtfTarget::Document) OpenParagraph();
+}
+
+void Interpreter::OpenParagraph() {
+  opening_ = ParagraphNumber();
+  opensAnew_ = alignedLate_ = false;
 }
 
 CharFormat& Interpreter::EditCharacter() {

@@ -168,6 +168,7 @@ class Interpreter {
   CharId CharacterNumber();
   ParaId ParagraphNumber();
   ParaId NumberOf(const ParagraphState& paragraph);
+  void OpenParagraph();
   ParaId Opened(ParaId ended);
   ParaFormat OpeningOf(const ParaFormat& format, ParaFormat began, bool alignedLate);
   void HoldParagraph();
@@ -197,7 +198,8 @@ class Interpreter {
   std::size_t paragraphStart_ = 0;           // the content count when the paragraph began
   std::optional<ParagraphState> held_ = {};  // of a closed group with all its text
   std::optional<ParaId> opening_ = {};       // its format where its text began
-  bool alignedLate_ = false;                 // its alignment has been said behind that
+  bool opensAnew_ = false;                   // for readers, text after a \pard begins it again
+  bool alignedLate_ = false;                 // its alignment has been said behind its beginning
 
   ItemKeeper items_;
   ItemKeeper nestedRow_;  // the definition of the current nested row, if in a group of its own

@@ -66,6 +66,7 @@ ParaFormat ParagraphState::Resolved() const {
 void Interpreter::DefaultParagraph(int, const Token&) {
   BeginBody();
   EditParagraph() = {};
+  opensAnew_ = true;
 }
 
 /// The paragraph's format, to change an attribute that the source states.

@@ -63,7 +63,7 @@ LineWords WordsOf(LineRule rule, int spacing) {
 
 /// What the kept words of a run say of the order in which it is written.
 struct WordOrder {
-  WordsId high = 0;          // the start of the last part if that is \hich's
+  WordsId last = 0;          // the start of the last part if that takes what follows it
   bool hasFont = false;      // the own font has a place among the words
   bool fontLast = false;     // and that is the last one
   bool hasSize = false;      // so has the size
@@ -76,14 +76,23 @@ struct WordOrder {
   bool settled = true;       // a change of the run's own formats may follow as it is
 };
 
+/// Whether the part of a script is \hich's, or has a size of its own: readers take a size that
+/// follows for that of this script.
+bool TakesWhatFollows(WordsId part, const FormatTables& tables) {
+  if (tables.words[part].kind == KeptWord::Kind::HighScript) return true;
+  if (!IsScript(tables.words[part])) return false;
+  return tables.words.Any(part, [&](KeptWord word) { return tables.names[word.name] == "afs"; });
+}
+
 WordOrder OrderOf(WordsId words, const FormatTables& tables) {
   WordOrder order;
+  WordsId last = 0;
   for (WordsId id = words; id != 0; id = tables.words[id].next) {
     const KeptWord word = tables.words[id];
     if (IsMark(word)) {
       if (!order.marked) order.ownFont = order.hasFont;
       if (!order.marked) order.ownSize = order.hasSize || IsScript(word);
-      order.high = word.kind == KeptWord::Kind::HighScript ? id : 0;
+      last = id;
       order.settled = !order.hasFont;
       if (!order.marked) order.leftFirst = word.kind == KeptWord::Kind::LeftToRight;
       order.marked = true;
@@ -94,7 +103,8 @@ WordOrder OrderOf(WordsId words, const FormatTables& tables) {
     if (order.fontLast) order.hasFont = order.settled = true;
     if (word.kind == KeptWord::Kind::Size) order.hasSize = true;
   }
-  order.settled = order.settled && order.high == 0 && !order.hasSize;
+  if (last != 0 && TakesWhatFollows(last, tables)) order.last = last;
+  order.settled = order.settled && order.last == 0 && !order.hasSize;
   return order;
 }
 
@@ -238,12 +248,12 @@ void WriteChange(const WrittenFormat& from, const WrittenFormat& to, const Forma
   const WrittenFormat& base = anew ? kPlain : from;
   EndMark(from.effects, to.effects, anew, out);
   if (anew) out.Reset(from.reset != to.reset && to.reset != Reset::First);
-  if (worded) WriteWords(to.words, order.high, to, tables, out);
+  if (worded) WriteWords(to.words, order.last, to, tables, out);
   WriteAttributes(base, to, out);
   if (!(order.hasFont && worded) && base.font != to.font) out.Word("f", to.font);
   const bool sizeAnew = base.size != to.size || (worded && order.marked && to.size > 0);
   if (!(order.hasSize && worded) && sizeAnew) out.Word("fs", to.size);
-  if (worded) WriteWords(order.high, 0, to, tables, out);
+  if (worded) WriteWords(order.last, 0, to, tables, out);
 }
 
 std::string ParagraphWords(const ParaFormat& format, const FormatTables& tables) {
