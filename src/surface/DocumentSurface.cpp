@@ -128,11 +128,11 @@ void DocumentSurface::UserType(std::u16string_view text) {
 
 bool DocumentSurface::UserKey(const KeyStroke& key) {
   if (!keys_.Press(key)) return false;
-  Reveal();
+  if (!UserKeys::KeepsView(key)) Reveal();
   return true;
 }
 
-// Keys and searches reveal the caret even if it did not move.
+// Most keys, and searches, reveal the caret even if it did not move.
 void DocumentSurface::Reveal() { core_.Reveal(); }
 
 }  // namespace lumenote

@@ -69,12 +69,23 @@ bool EditingCore::Move(Position anchor, Position caret) {
   if (anchor == anchor_ && caret == caret_) return false;
   anchor_ = anchor;
   caret_ = caret;
-  return moved_ = true;
+  return moved_ = revealing_ = true;
 }
 
 void EditingCore::Select(Position anchor, Position caret) {
   RefuseWhileNotifying();
-  if (!Move(anchor, caret)) return;
+  if (Move(anchor, caret)) EndMove();
+}
+
+void EditingCore::SelectAll() {
+  RefuseWhileNotifying();
+  const bool revealing = revealing_;
+  if (!Move(0, document_.Length())) return;
+  revealing_ = revealing;
+  EndMove();
+}
+
+void EditingCore::EndMove() {
   chosenFormat_.reset();
   history_.Close();
   Notify();
@@ -225,7 +236,7 @@ void EditingCore::Reveal() {
 void EditingCore::NotifyView() {
   const std::optional<DocumentChange> change = std::exchange(change_, std::nullopt);
   const bool moved = std::exchange(moved_, false);
-  const bool reveal = std::exchange(revealing_, false) || moved;
+  const bool reveal = std::exchange(revealing_, false);
   if (!view_) return;
   const ScopedFlag notifying(notifying_);
   try {

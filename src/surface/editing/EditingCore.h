@@ -37,6 +37,8 @@ class EditingCore {
   /// Clips both to the document and moves them outwards if inside a pair. A change ends a run of
   /// typing.
   void Select(Position anchor, Position caret);
+  /// Selects everything; what is looked at stays in view.
+  void SelectAll();
 
   /// The format of text typed now: the one chosen for it, else that of the first selected
   /// character, else of the one before the caret in its paragraph, else of the one after it; never
@@ -86,6 +88,7 @@ class EditingCore {
   void Renumber();
   void RecordEdit(const DocumentChange& edit);
   bool Move(Position anchor, Position caret);
+  void EndMove();
   void RollBackTo(const UndoSavepoint& savepoint, Selection selected);
   void Revert(std::optional<Selection> (UndoHistory::*step)(const EditVisitor&));
   void Notify();

@@ -98,6 +98,8 @@ bool UserKeys::Press(const KeyStroke& key) {
   return true;
 }
 
+bool UserKeys::KeepsView(const KeyStroke& key) { return key == Ctrl(u'a'); }
+
 // At the start of a bulleted paragraph the key removes the bullet first.
 void UserKeys::BackSpace() {
   const Document& document = core_.Content();
@@ -138,7 +140,7 @@ bool UserKeys::GoTo(std::optional<Position> target) {
 
 void UserKeys::Blank() { text_.Type(u" "); }
 
-void UserKeys::SelectAll() { core_.Select(0, core_.Content().Length()); }
+void UserKeys::SelectAll() { core_.SelectAll(); }
 
 void UserKeys::ToggleBold() { characters_.Effect(kBold, characters_.Effect(kBold) != true); }
 

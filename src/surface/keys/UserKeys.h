@@ -22,6 +22,8 @@ class UserKeys {
 
   /// Handles a key; false if it means nothing here. A key with nothing to do counts as handled.
   bool Press(const KeyStroke& key);
+  /// Whether what is looked at stays in view, wherever the caret goes.
+  static bool KeepsView(const KeyStroke& key);
 
  private:
   using Action = void (UserKeys::*)();
