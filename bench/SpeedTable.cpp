@@ -78,6 +78,11 @@ class Stand {
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
     QApplication::sendEvent(&editor_->Widget(), &press);
   }
+  /// Between two widths.
+  void Resize() {
+    wide_ = !wide_;
+    editor_->Widget().resize(wide_ ? 1920 : 1900, 1000);
+  }
   void Turn() {
     const QPointF at(50, 50);
     QWheelEvent turn(at, editor_->Widget().mapToGlobal(at), {}, {0, -120}, Qt::NoButton,
@@ -88,6 +93,7 @@ class Stand {
  private:
   std::unique_ptr<Editor> editor_;
   FrameCounter counter_;
+  bool wide_ = true;
 };
 
 struct Note {
@@ -163,6 +169,8 @@ std::vector<Row> Rows() {
        [](Stand& s, const Note& note) {
          return s.ToFrame([&] { s.Act().PutCaret(static_cast<int>(note.units.size() / 2)); });
        }},
+      {"resize to frame",
+       [](Stand& s, const Note&) { return s.MedianToFrame([&] { s.Resize(); }); }},
       {"keystroke to frame", Key(Qt::Key_A, QStringLiteral("a"))},
       {"Return to frame", Key(Qt::Key_Return, QStringLiteral("\r"))},
       {"Down to frame", Key(Qt::Key_Down)},

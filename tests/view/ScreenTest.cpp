@@ -3,6 +3,7 @@
 
 #include "view/Window.h"
 #include "view/acts/ViewDrop.h"
+#include "view/acts/ViewKeys.h"
 
 namespace lumenote {
 namespace {
@@ -176,6 +177,43 @@ TEST(Scrolling, ReachesBothEndsOfTheScaleExactlyAndRevealsWithLittleMovement) {
   window.pane.Reveal(40'000);
   EXPECT_GE(window.pane.LineAt(40'000)->top, 0);
   EXPECT_LE(window.pane.LineAt(40'000)->bottom, 200);
+}
+
+// Meanwhile the slider stays about where it will be.
+TEST(Scrolling, LaysOutTheRestOfASmallNoteWhenTheUserIsIdle) {
+  Window window(kSize);
+  std::u16string text;
+  for (int i = 0; i < 60; ++i) text += Words(i % 3 == 0 ? 5 : 400) + u"\r\n";
+  window.surface.Text(text);
+  ScrollModel& scroll = window.pane.Scroll();
+  window.view.Settle();
+  EXPECT_EQ(window.idles, 1);
+  EXPECT_LT(window.pane.Cache().Pieces().size(), 10U);
+  const double first = scroll.Read().total;
+  for (int left = window.idles; left > 0; --left) {
+    const int before = window.idles;
+    window.view.WorkIdly();
+    left += window.idles - before;
+  }
+  const WholeLayout whole(window.surface.Content(), window.layouter);
+  const double height = whole.PlaceOf(window.surface.TextLength()).y + 24;
+  EXPECT_NEAR(scroll.Read().total, height, 1);
+  EXPECT_NEAR(first, height, 0.05 * height);
+
+  window.view.Resize({250, 200});
+  scroll.To(scroll.Read().total - 200);  // the bar's end is the text's, guessed or not
+  EXPECT_NEAR(window.pane.LineAt(window.surface.TextLength())->bottom, 200, 0.01);
+}
+
+TEST(Scrolling, SelectingAllKeepsWhatIsLookedAt) {
+  Window window(kSize);
+  window.surface.Text(Words(5'000));
+  window.view.Settle();
+  window.view.ScrollBy(100);
+  ViewKeys(window.view).Press(ParseKey(u"Ctrl+A"), u"");
+  window.view.Settle();
+  EXPECT_EQ(window.surface.Selected().Length(), 5'000);
+  EXPECT_EQ(window.pane.Scroll().Read().value, 100);
 }
 
 // Every character lies in exactly one piece, whichever way the text is walked through.

@@ -50,7 +50,8 @@ struct Window : ViewHost {
   bool TabLeaves() const override { return false; }
   PointerManners Pointer() const override { return {}; }
   void SettleSoon() override {}
-  void ShowScrolling() override {}
+  void IdleSoon() override { ++idles; }
+  void ShowScrolling() override { pane.Scroll().Read(); }
   void ShowDamage(const Damage& damage) override;
   void Changed(const DocumentChange&) override { ++changes; }
   void SelectionMoved() override { ++moves; }
@@ -67,6 +68,7 @@ struct Window : ViewHost {
   bool timer = false;
   int changes = 0;
   int moves = 0;
+  int idles = 0;
   int drags = 0;
   PixelPoint menu;
   std::function<void()> dropComposition = [] {};

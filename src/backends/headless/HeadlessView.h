@@ -31,6 +31,7 @@ class HeadlessView final : private ViewHost {
   bool TabLeaves() const override { return box_.TabLeaves(); }
   PointerManners Pointer() const override { return {}; }
   void SettleSoon() override {}
+  void IdleSoon() override {}
   void ShowScrolling() override {}
   void ShowDamage(const Damage&) override {}
   void Changed(const DocumentChange&) override {}

@@ -86,6 +86,13 @@ void NoteView::Settle() {
   pane_.Cache().Trim(shown.front().piece->from, shown.back().piece->to);
   if (std::exchange(moved_, false)) host_.SelectionMoved();
   host_.ShowDamage(damage);
+  if (pane_.Scroll().CanRefine()) host_.IdleSoon();
+}
+
+void NoteView::WorkIdly() {
+  if (!attached_ || !visible_) return;
+  pane_.Scroll().Refine();
+  Settle();
 }
 
 /// Whether the notes laid out have the numbers that they should have; an edit moves those behind

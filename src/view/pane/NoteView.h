@@ -73,6 +73,8 @@ class NoteView : private SurfaceView {
   /// Updates scroll bars and screen from the collected notifications.
   void Settle();
   bool IsSettled() const { return !settleSoon_; }
+  /// Does a part of what need not be done at once; asks for another call if more is left.
+  void WorkIdly();
   /// What frames the selection on the screen, in the pane; empty for none. Settles.
   std::optional<PixelRect> SelectionBox();
   /// What to paint over the text now.

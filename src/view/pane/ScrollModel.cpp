@@ -2,15 +2,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace lumenote {
 
 namespace {
 
-// Documents up to these sizes are laid out completely for the scroll bar.
+// Documents up to these sizes are laid out completely, in time, for the scroll bar.
 constexpr Position kSmallLength = 20'000;
 constexpr Position kSmallCount = 300;
+constexpr int kRefined = 16;  // pieces at once
+// Characters of a line that is full, where none is known.
+constexpr double kUsualLine = 100;
 
 /// Number of characters of a piece, including its break.
 double Span(const Piece& piece) { return piece.to - piece.from + (piece.closes ? 2 : 0); }
@@ -145,16 +149,53 @@ double ScrollModel::CharacterHeight() {
 
 ScrollModel::Scale ScrollModel::Read() {
   const Anchor top{Visible().front().piece, Top().offset};
-  return IsSmall() ? ReadExactly(top) : Estimate(top);
+  firstGap_ = -1;
+  return IsSmall() ? ReadPieces(top) : Estimate(top);
 }
 
-ScrollModel::Scale ScrollModel::ReadExactly(Anchor top) {
+ScrollModel::Scale ScrollModel::ReadPieces(Anchor top) {
   Scale scale;
-  for (const Piece* piece = &cache_.At(0); piece; piece = cache_.After(*piece)) {
-    if (piece == top.piece) scale.value = scale.total + top.offset;
+  Position next = 0;
+  const auto skipTo = [&](Position end) {
+    if (next >= end) return;
+    if (firstGap_ < 0) firstGap_ = next;
+    scale.total += Guess(next, end);
+  };
+  for (const auto& piece : cache_.Pieces()) {
+    skipTo(piece->from);
+    if (piece.get() == top.piece) scale.value = scale.total + top.offset;
     scale.total += piece->height;
+    next = piece->from + static_cast<Position>(Span(*piece));
   }
+  skipTo(document_.Length() + 2);
   return scale;
+}
+
+// Each paragraph has as many lines as it would have if all were like those that are laid out.
+double ScrollModel::Guess(Position from, Position to) const {
+  double height = 0;
+  double lines = 0;
+  double full = 0;
+  double characters = 0;  // of the full lines
+  for (const auto& piece : cache_.Pieces()) {
+    height += piece->height;
+    lines += static_cast<double>(piece->lines.size());
+    full += static_cast<double>(piece->lines.size()) - 1;
+    characters += piece->lines.back().start;
+  }
+  const double room = full > 0 ? characters / full : kUsualLine;
+  double guessed = 0;
+  for (Position end = from; from < to; from = end + 2) {
+    end = std::min(document_.ParagraphEnd(document_.ParagraphOf(from)), to);
+    guessed += std::max(1.0, std::ceil((end - from) / room));
+  }
+  return guessed * height / lines;
+}
+
+void ScrollModel::Refine() {
+  if (firstGap_ < 0) return;
+  const Piece* piece = &cache_.At(std::min(firstGap_, document_.Length()));
+  for (int count = 1; piece && count < kRefined; ++count) piece = cache_.After(*piece);
 }
 
 // Whatever the estimate, the scale's end coincides with the last line.
@@ -173,13 +214,13 @@ ScrollModel::Scale ScrollModel::Estimate(Anchor top) {
 }
 
 void ScrollModel::To(double value) {
+  const double most = Read().total - paneHeight_;
   if (IsSmall()) {
     ToStart();
-    By(value);
+    By(value >= most ? std::numeric_limits<float>::max() : value);
     return;
   }
   const double unit = CharacterHeight();
-  const double most = Read().total - paneHeight_;
   const double characters = value >= most ? document_.Length() : std::max(value, 0.0) / unit;
   const auto position = static_cast<Position>(std::min<double>(characters, document_.Length()));
   const Piece& piece = cache_.At(document_.SnapBackward(position));

@@ -13,8 +13,9 @@ struct ShownPiece {
 };
 
 /// Scrolling is exact in pixels and line by line, so it costs the same anywhere. The total height
-/// is computed for small documents and estimated from the character count for larger ones. All
-/// lengths are pixels.
+/// is estimated from the character count for large documents. For smaller ones it is that of what
+/// is laid out, and estimated for the rest, until `Refine` has laid out all. All lengths are
+/// pixels.
 class ScrollModel {
  public:
   ScrollModel(const Document& document, LayoutCache& cache) : document_(document), cache_(cache) {}
@@ -43,6 +44,10 @@ class ScrollModel {
   };
   Scale Read();
   void To(double value);
+  /// Whether `Refine` would make the scale last read more exact.
+  bool CanRefine() const { return firstGap_ >= 0; }
+  /// Lays out some more of a small document, in about the time of a frame.
+  void Refine();
 
  private:
   struct Anchor {
@@ -56,7 +61,8 @@ class ScrollModel {
   double RoomBelow(Anchor anchor);
   bool IsSmall() const;
   double CharacterHeight();
-  Scale ReadExactly(Anchor top);
+  Scale ReadPieces(Anchor top);
+  double Guess(Position from, Position to) const;
   Scale Estimate(Anchor top);
 
   const Document& document_;
@@ -65,6 +71,7 @@ class ScrollModel {
   Position line_ = 0;  // a position in the top line
   double hidden_ = 0;  // how much of that line is above the pane; negative for space above it
   double heightOfCharacter_ = 0;  // 0: unknown
+  Position firstGap_ = -1;        // the first position of a small document that is not laid out
 };
 
 }  // namespace lumenote

@@ -33,6 +33,8 @@ class ViewHost {
 
   /// Requests a call of `NoteView::Settle` soon, before the next paint.
   virtual void SettleSoon() = 0;
+  /// Requests a call of `NoteView::WorkIdly` when the user has been idle for a moment.
+  virtual void IdleSoon() = 0;
   /// Updates the scroll bars from the pane. May resize the pane.
   virtual void ShowScrolling() = 0;
   /// Updates the screen; ends each `Settle`, possibly without damage.

@@ -29,6 +29,7 @@ constexpr int kFramelessHeight = 20;  // a lower box gets no frame
 constexpr double kMargin = 3;
 constexpr double kWheelNotch = 120;
 constexpr int kScrollInterval = 30;  // milliseconds
+constexpr int kIdleTime = 20;        // milliseconds
 
 QEvent::Type SettleEvent() {
   static const auto type = static_cast<QEvent::Type>(QEvent::registerEventType());
@@ -60,6 +61,7 @@ void RichTextView::CheckSpelling(Speller& speller, SpellingMarks::Learn learn) {
 
 void RichTextView::Detach() {
   blinking_.stop();
+  idle_.stop();
   text_.Detach();
 }
 
@@ -80,6 +82,8 @@ PointerManners RichTextView::Pointer() const {
 void RichTextView::SettleSoon() {
   QCoreApplication::postEvent(this, new QEvent(SettleEvent()), Qt::HighEventPriority);
 }
+
+void RichTextView::IdleSoon() { idle_.start(kIdleTime, this); }
 
 void RichTextView::ShowDamage(const Damage& damage) {
   if (const auto& shift = damage.shift) {
@@ -239,11 +243,18 @@ void RichTextView::focusOutEvent(QFocusEvent*) {
   text_.Focus(false);
 }
 
+void RichTextView::WorkIdly() {
+  idle_.stop();
+  text_.WorkIdly();
+}
+
 void RichTextView::timerEvent(QTimerEvent* event) {
   if (event->timerId() == blinking_.timerId())
     text_.Blink();
   else if (event->timerId() == scrolling_.timerId())
     mouse_.ScrollOn();
+  else if (event->timerId() == idle_.timerId())
+    WorkIdly();
   else
     QAbstractScrollArea::timerEvent(event);
 }

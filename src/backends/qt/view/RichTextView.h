@@ -88,6 +88,7 @@ class RichTextView : public QAbstractScrollArea, public Spoken, private ViewHost
   void Act(const std::function<void()>& act) override;
   PointerManners Pointer() const override;
   void SettleSoon() override;
+  void IdleSoon() override;
   void ShowScrolling() override { bars_.Sync(); }
   void ShowDamage(const Damage& damage) override;
   void Changed(const DocumentChange& change) override;
@@ -105,6 +106,7 @@ class RichTextView : public QAbstractScrollArea, public Spoken, private ViewHost
   void PasteSelection(QPointF at);
   void OfferSelection();
   void ShowGround();
+  void WorkIdly();
   void ChooseFrame();
   PaintState State();
   void ShowTip(const QHelpEvent& event);
@@ -123,6 +125,7 @@ class RichTextView : public QAbstractScrollArea, public Spoken, private ViewHost
   Announcer announcer_{*this};
   QBasicTimer blinking_;
   QBasicTimer scrolling_;
+  QBasicTimer idle_;
   QPointer<const QMimeData> offered_;  // the desktop's selection while it is ours
 };
 

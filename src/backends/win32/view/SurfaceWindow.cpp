@@ -15,6 +15,8 @@ namespace {
 constexpr UINT kSettle = WM_APP + 1;
 constexpr UINT_PTR kScrolling = 1;  // a timer
 constexpr UINT kScrollInterval = 30;
+constexpr UINT_PTR kIdle = 2;  // a timer
+constexpr UINT kIdleTime = 20;
 constexpr int kFramelessHeight = 20;  // a lower window gets no frame
 constexpr double kMargin = 3;
 constexpr DWORD kStyle = WS_CHILD | WS_TABSTOP | WS_VSCROLL | WS_HSCROLL;
@@ -120,6 +122,8 @@ void SurfaceWindow::ScrollTimer(bool on) {
     KillTimer(Handle(), kScrolling);
 }
 
+void SurfaceWindow::IdleSoon() { SetTimer(Handle(), kIdle, kIdleTime, nullptr); }
+
 // --- messages
 
 // Exceptions must not pass through the system. What could not be laid out or painted for lack of
@@ -185,6 +189,13 @@ bool SurfaceWindow::HandleLook(const Message& message) {
   return false;
 }
 
+void SurfaceWindow::Tick(UINT_PTR timer) {
+  if (timer == kScrolling) mouse_.Acts().ScrollOn();
+  if (timer != kIdle) return;
+  KillTimer(Handle(), kIdle);
+  text_.WorkIdly();
+}
+
 bool SurfaceWindow::HandleRest(const Message& message) {
   switch (message.id) {
     case kSettle:
@@ -198,7 +209,7 @@ bool SurfaceWindow::HandleRest(const Message& message) {
       mouse_.Acts().Cancel();
       return true;
     case WM_TIMER:
-      if (message.w == kScrolling) mouse_.Acts().ScrollOn();
+      Tick(message.w);
       return true;
     case WM_VSCROLL:
       bars_.Down(Handle(), LOWORD(message.w));

@@ -55,6 +55,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   void DropComposition() override { composing_.Drop(); }
   void ShowPointer(PointerShape shape) override;
   void ScrollTimer(bool on) override;
+  void IdleSoon() override;
   void Drag() override { drag_.Run(text_); }
   void OpenLink(std::u16string_view address) override {
     if (callbacks_.link) callbacks_.link(address);
@@ -70,6 +71,7 @@ class SurfaceWindow final : public Window, private ViewHost {
   bool HandleKeys(const Message& message);
   bool HandleLook(const Message& message);
   bool HandleRest(const Message& message);
+  void Tick(UINT_PTR timer);
 
   void Leave();
   void Paint();
