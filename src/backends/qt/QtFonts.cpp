@@ -3,17 +3,17 @@
 #include <QFontDatabase>
 #include <QStringList>
 
+#include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/QtText.h"
 
 namespace lumenote {
 
 namespace {
 
-/// Each family once, without the foundry that Qt puts behind the name if several have it.
+/// Each family once.
 QStringList Families() {
   QStringList names;
-  for (const QString& family : QFontDatabase::families())
-    names.push_back(family.left(family.indexOf(QStringLiteral(" ["))));
+  for (const QString& family : QFontDatabase::families()) names.push_back(WithoutFoundry(family));
   names.removeDuplicates();
   return names;
 }

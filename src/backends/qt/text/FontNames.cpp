@@ -92,6 +92,10 @@ QString MachineFamily(const FontFace& face) {
   return *known.insert(key, FamilyFor(name, face));
 }
 
+QString WithoutFoundry(const QString& family) {
+  return family.left(family.indexOf(QStringLiteral(" [")));
+}
+
 QFont ControlFont() {
   QFont font(MachineFamily({u"MS Sans Serif"}));
   font.setPixelSize(kControlPixels);

@@ -14,6 +14,9 @@ QString MachineFamily(const FontFace& face);
 /// Whether a font of that name is installed.
 bool IsInstalled(const FontFace& face);
 
+/// A family as Qt names it, without the foundry that stands behind it if several have it.
+QString WithoutFoundry(const QString& family);
+
 /// The small font of labels, menus and panels.
 QFont ControlFont();
 

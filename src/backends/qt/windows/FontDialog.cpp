@@ -37,7 +37,7 @@ QFont FontOf(const FontChoice& choice) {
 
 FontChoice Changes(const QFont& before, const QFont& after) {
   FontChoice choice;
-  if (after.family() != before.family()) choice.name = FromQString(after.family());
+  if (after.family() != before.family()) choice.name = FromQString(WithoutFoundry(after.family()));
   if (after.pointSizeF() != before.pointSizeF())
     choice.size = static_cast<float>(after.pointSizeF());
   if (after.bold() != before.bold()) choice.bold = after.bold();
@@ -47,12 +47,15 @@ FontChoice Changes(const QFont& before, const QFont& after) {
   return choice;
 }
 
-/// Shows the names of styles in French; the dialog goes on knowing its own.
-class FrenchStyles : public QStyledItemDelegate {
+/// A style in French, or a family without its foundry.
+QString ShownName(const QString& name) { return WithoutFoundry(InFrench(name)); }
+
+/// Shows the names so; the dialog goes on knowing its own.
+class ShownNames : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
   QString displayText(const QVariant& value, const QLocale&) const override {
-    return InFrench(value.toString());
+    return ShownName(value.toString());
   }
 };
 
@@ -66,7 +69,7 @@ class ColouredFontDialog : public QFontDialog {
     setFont(ControlFont());
     setWindowTitle(QStringLiteral("Police"));
     HideWritingSystems();
-    ShowStylesInFrench();
+    ShowNames();
     AddColour();
     ShowInFrench(*this);
     NameLists();
@@ -83,14 +86,26 @@ class ColouredFontDialog : public QFontDialog {
       if (qobject_cast<QComboBox*>(label->buddy())) label->hide();
   }
 
-  void ShowStylesInFrench() {
-    for (auto* list : findChildren<QListView*>()) list->setItemDelegate(new FrenchStyles(list));
+  void ShowNames() {
+    for (auto* list : findChildren<QListView*>()) {
+      list->setItemDelegate(new ShownNames(list));
+      HideTwins(*list);
+    }
     for (auto* chosen : findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
       if (!chosen->isReadOnly()) continue;
-      const auto translate = [chosen] { chosen->setText(InFrench(chosen->text())); };
+      const auto translate = [chosen] { chosen->setText(ShownName(chosen->text())); };
       connect(chosen, &QLineEdit::textChanged, chosen, translate);
       translate();
     }
+  }
+
+  // The same family of several foundries looks like one.
+  static void HideTwins(QListView& list) {
+    const auto name = [&](int row) {
+      return ShownName(list.model()->index(row, 0).data().toString());
+    };
+    for (int row = 1; row < list.model()->rowCount(); ++row)
+      list.setRowHidden(row, name(row) == name(row - 1));
   }
 
   // A label, a line that shows what is chosen, and a list lie below each other. Qt lets two of the

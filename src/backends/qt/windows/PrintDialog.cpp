@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "backends/qt/printing/PrintedNote.h"
+#include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/FrenchTexts.h"
 #include "base/Twips.h"
 
@@ -114,6 +115,7 @@ bool PrintByDialog(const DocumentSurface& surface, const QString& title, QWidget
   const QPointer<QPrintDialog> dialog = new QPrintDialog(&printer, over);
   dialog->setOption(QAbstractPrintDialog::PrintSelection, surface.Selected().Length() > 0);
   dialog->setWindowTitle(QStringLiteral("Imprimer"));
+  dialog->setFont(ControlFont());
   const FrenchWindows french(*dialog);
   const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
   delete dialog;
