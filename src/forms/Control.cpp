@@ -75,6 +75,12 @@ void Control::UserMouseMove(const MouseEvent& event) {
   Owner().Raise([&] { MouseMove(event); });
 }
 
+void Control::SpokenName(std::u16string_view name) {
+  if (name == spokenName_) return;
+  spokenName_ = name;
+  Changed(Property::SpokenName);
+}
+
 bool Control::UserMouseWheel(int notches) {
   auto* outer = dynamic_cast<Control*>(&container_);
   if (!MouseWheel) return outer && outer->UserMouseWheel(notches);

@@ -59,7 +59,7 @@ class Control : public ShownElement {
   void FontSize(float points);
   /// What assistive programs call a control that no caption or label names.
   const std::u16string& SpokenName() const { return spokenName_; }
-  void SpokenName(std::u16string_view name) { spokenName_ = name; }
+  void SpokenName(std::u16string_view name);
   /// Raises it above its siblings.
   void BringToFront() { Changed(Property::Order); }
   /// Announces a control that was created after its window.

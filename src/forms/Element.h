@@ -26,6 +26,7 @@ enum class Property {
   Order,
   Sign,
   ToolTip,
+  SpokenName,
 };
 
 /// A window, control, menu entry or timer. A member of its form, so both have one lifetime.

@@ -10,7 +10,6 @@
 #include "platform/Clipboard.h"
 #include "platform/Fonts.h"
 #include "session/EditorWindow.h"
-#include "symbols/SymbolGrid.h"
 
 namespace lumenote {
 
@@ -22,6 +21,22 @@ constexpr float kCellFontSize = 11;  // points
 constexpr float kBigFontSize = 26;
 constexpr float kInsertFontSize = 12;
 constexpr float kTemplateLeft = -5000;  // out of sight
+
+constexpr int kAll = kLastSymbol;  // more steps than there are symbols
+
+/// How many symbols on a key goes; empty if it goes nowhere.
+std::optional<int> StepOf(KeyName key, int columns, int rows) {
+  const std::pair<KeyName, int> steps[] = {{KeyName::Left, -1},
+                                           {KeyName::Right, 1},
+                                           {KeyName::Up, -columns},
+                                           {KeyName::Down, columns},
+                                           {KeyName::Home, -kAll},
+                                           {KeyName::End, kAll},
+                                           {KeyName::PageUp, -rows * columns},
+                                           {KeyName::PageDown, rows * columns}};
+  const auto found = std::ranges::find(steps, key, &std::pair<KeyName, int>::first);
+  return found == std::end(steps) ? std::nullopt : std::optional(found->second);
+}
 
 std::u16string SymbolOf(int code) { return Decode1252(std::string(1, static_cast<char>(code))); }
 
@@ -44,6 +59,7 @@ Co_Symbols::Co_Symbols(WindowList& windows, EditorWindow& editor)
   cboFonts.Click = [this] { cboFonts_Click(); };
   VScroll1.Change = [this] { VScroll1_Change(); };
   picHolder.MouseWheel = [this](int notches) { picHolder_MouseWheel(notches); };
+  picHolder.KeyDown = [this](const KeyStroke& key) { return picHolder_KeyDown(key); };
   lblBigDisplay.MouseMove = [this](const MouseEvent& event) { lblBigDisplay_MouseMove(event); };
   lblBigDisplay.DblClick = [this] { lblBigDisplay_DblClick(); };
   cmdInsert.Click = [this] { cmdInsert_Click(); };
@@ -112,8 +128,9 @@ void Co_Symbols::lblsymbols_MouseMove(int index) {
   lblBigDisplay.Caption(cell.Caption());
   lblBigDisplay.BringToFront();
   lblBigDisplay.Visible(true);
-  const int code = ByteIn1252(cell.Caption().at(0));
-  lblStatus.Caption(u"Special Char " + NumberText(std::int64_t{code}));
+  shownCode_ = ByteIn1252(cell.Caption().at(0));
+  lblStatus.Caption(u"Special Char " + NumberText(std::int64_t{shownCode_}));
+  picHolder.SpokenName(u"Symboles, " + cell.Caption() + u", " + lblStatus.Caption());
 }
 
 void Co_Symbols::lblBigDisplay_MouseMove(const MouseEvent& event) {
@@ -125,6 +142,30 @@ void Co_Symbols::lblBigDisplay_MouseMove(const MouseEvent& event) {
 
 void Co_Symbols::picHolder_MouseWheel(int notches) {
   VScroll1.Value(std::clamp(VScroll1.Value() + notches, VScroll1.Min(), VScroll1.Max()));
+}
+
+bool Co_Symbols::picHolder_KeyDown(const KeyStroke& key) {
+  if (key.control || key.alt || key.shift) return false;
+  const bool shown = lblBigDisplay.Visible();
+  if (key.name == KeyName::Return || key.name == KeyName::Space) {
+    if (shown) lblBigDisplay_DblClick();
+    return shown;
+  }
+  const std::optional<int> step = StepOf(key.name, columns_, ShownRows());
+  if (!step) return false;
+  ShowSymbol(std::clamp(shownCode_ + (shown ? *step : 0), kFirstSymbol, kLastSymbol));
+  return true;
+}
+
+int Co_Symbols::ShownRows() const {
+  return (kLastSymbol - kFirstSymbol) / columns_ + 1 - VScroll1.Max();
+}
+
+void Co_Symbols::ShowSymbol(int code) {
+  const int place = code - kFirstSymbol;
+  const int row = place / columns_;
+  VScroll1.Value(std::clamp(VScroll1.Value(), std::max(0, row - ShownRows() + 1), row));
+  lblsymbols_MouseMove(place - columns_ * VScroll1.Value() + 1);
 }
 
 // --- the font

@@ -11,6 +11,7 @@
 #include "forms/controls/edits/TextBox.h"
 #include "forms/controls/labels/Label.h"
 #include "forms/controls/labels/PictureBox.h"
+#include "symbols/SymbolGrid.h"
 
 namespace lumenote {
 
@@ -56,6 +57,11 @@ class Co_Symbols : public Form {
   /// What is beyond the magnified cell belongs to the cell beneath.
   void lblBigDisplay_MouseMove(const MouseEvent& event);
   void picHolder_MouseWheel(int notches);
+  /// Arrows, Home, End and pages go along the grid, Return and the space bar collect.
+  bool picHolder_KeyDown(const KeyStroke& key);
+  /// Enlarges a character, scrolled to where it is seen.
+  void ShowSymbol(int code);
+  int ShownRows() const;
   void lblBigDisplay_DblClick();
   void cmdInsert_Click();
   void cmdCopy_Click();
@@ -66,6 +72,7 @@ class Co_Symbols : public Form {
   std::u16string currentFont_;
   bool fontsListed_ = false;
   bool building_ = false;
+  int shownCode_ = kFirstSymbol;  // the character enlarged last
   std::int16_t columns_ = 0;
   std::int16_t hiddenRows_ = 0;
 };

@@ -135,6 +135,72 @@ class Accessibility(Notes):
         self.assertEqual(runs[2]["vertical-align"], "super")
         self.assertEqual(runs[4]["justification"], "center")
 
+    def reach(self, window, role, name):
+        """Presses Tab until that part has the focus."""
+        def there():
+            parts = [(item["role"], item["name"]) for item in self.tree() if "focused" in item["states"]]
+            if (role, name) in parts:
+                return True
+            self.keys(window, "Tab")
+            return False
+        self.wait(there, f"the focus at {name!r}")
+
+    def part(self, role, name):
+        return next(item for item in self.tree() if (item["role"], item["name"]) == (role, name))
+
+    def test_a_spinner_has_the_number_of_its_box(self):
+        self.open(r"{\rtf1\li567 a\par}")
+        window = self.paragraph_dialog()
+        self.reach(window, "spin button", "Indent Gauche")
+        before = self.part("spin button", "Indent Gauche")["value"]
+        self.listener.ask("events")
+        self.keys(window, "Up")
+        self.wait(lambda: self.part("spin button", "Indent Gauche")["value"] > before, "the step")
+        heard = self.wait(lambda: json.loads(self.listener.ask("events")), "its event")
+        self.assertIn(("object:property-change:accessible-value", "Indent Gauche"),
+                      [(event[0], event[3]) for event in heard])
+
+    def test_the_keyboard_walks_the_symbols(self):
+        self.open(NOTE)
+        self.keys(self.note, "F10", "Down", "Down", "Down", "Return")
+        window = self.front("symboles")
+        self.reach(window, "panel", "Symboles")
+        self.keys(window, "Right", "Right", "Down")
+        self.wait(lambda: any(item["name"] == "Symboles, 5, Special Char 53" for item in self.tree()),
+                  "the sign's name")
+        self.keys(window, "space", "End", "Return")
+        self.wait(lambda: any(item["name"] == "Symboles, ÿ, Special Char 255" for item in self.tree()),
+                  "the last sign")
+        self.keys(window, "alt+f")
+        self.wait(lambda: window not in self.windows(), "the window's end")
+
+    def test_menu_entries_are_told_without_their_keys(self):
+        self.open(NOTE)
+        self.keys(self.note, "F10", "Down")
+        entry = self.wait(lambda: next((item for item in self.tree() if item["name"] == "Trouver"), None),
+                          "the entry")
+        self.assertEqual((entry["role"], entry["keys"]), ("menu item", "Ctrl+F"))
+
+    def test_saving_is_told(self):
+        self.open(NOTE)
+        self.type(self.note, "x")
+        self.keys(self.note, "ctrl+s")
+        heard = []
+        def told():
+            heard.extend(json.loads(self.listener.ask("events")))
+            return any("accessible-name" in event[0] and "Enregistré" in event[3] for event in heard)
+        self.wait(told, f"the sign among {heard}")
+
+    def test_a_misspelt_word_is_told(self):
+        (self.home / "fr_FR.aff").write_text("SET UTF-8\n")
+        (self.home / "fr_FR.dic").write_text("2\nune\nplante\n")
+        self.env["DICPATH"] = str(self.home)
+        self.open(r"{\rtf1 une rebuste plante}")
+        text = lambda: next(item["runs"] for item in self.tree() if "editable" in item["states"] and
+                            item["runs"])
+        wrong = lambda: [run["range"] for run in text() if run.get("invalid") == "spelling"]
+        self.wait(lambda: wrong() == [[4, 11]], "the word")
+
 
 if __name__ == "__main__":
     main()

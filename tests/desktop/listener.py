@@ -13,7 +13,8 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib
 
 KINDS = ("object:text-caret-moved", "object:text-changed", "object:text-selection-changed",
-         "object:state-changed:focused")
+         "object:state-changed:focused", "object:property-change:accessible-name",
+         "object:property-change:accessible-value")
 STATES = {getattr(Atspi.StateType, name.upper()): name
           for name in ("focused", "focusable", "showing", "checked", "editable")}
 told = []
@@ -50,10 +51,13 @@ def states_of(item):
 
 
 def describe(item, window):
-    text = item.get_text_iface()
+    text, role = item.get_text_iface(), item.get_role()
+    counts, chosen = role == Atspi.Role.SPIN_BUTTON, role == Atspi.Role.MENU_ITEM
     return {"window": window, "role": item.get_role_name(), "name": item.get_name(),
             "states": states_of(item), "labels": labels(item),
-            "runs": runs(text) if text else []}
+            "runs": runs(text) if text else [],
+            "value": Atspi.Value.get_current_value(item) if counts else None,
+            "keys": Atspi.Action.get_key_binding(item, 0) if chosen else None}
 
 
 def walk(item, window):

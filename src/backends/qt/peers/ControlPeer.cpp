@@ -33,6 +33,7 @@ void ControlPeer::Update(Property property) {
   if (property == Property::Order) widget_->raise();
   if (property == Property::Font) ShowFont();
   if (property == Property::Enabled) widget_->setEnabled(control_.Enabled());
+  if (property == Property::SpokenName) ShowName();
 }
 
 void ControlPeer::ShowName() { widget_->setAccessibleName(ToQString(SpokenNameOf(control_))); }

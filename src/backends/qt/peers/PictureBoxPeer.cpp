@@ -2,6 +2,7 @@
 
 #include <QFrame>
 
+#include "backends/qt/toolkit/Keys.h"
 #include "backends/qt/toolkit/Spoken.h"
 
 namespace lumenote {
@@ -10,16 +11,25 @@ namespace {
 
 class SunkenFrame final : public QFrame, public Spoken {
  public:
-  explicit SunkenFrame(QWidget& parent) : QFrame(&parent) {
+  SunkenFrame(QWidget& parent, PictureBox& box) : QFrame(&parent), box_(box) {
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setFocusPolicy(Qt::StrongFocus);
   }
   QAccessible::Role Role() const override { return QAccessible::Grouping; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const auto key = StrokeOf(*event);
+    if (!key || !box_.UserKey(*key)) QFrame::keyPressEvent(event);
+  }
+
+ private:
+  PictureBox& box_;
 };
 
 }  // namespace
 
 PictureBoxPeer::PictureBoxPeer(PictureBox& box, QWidget& parent, LayouterSource&)
-    : ControlPeer(box, *new SunkenFrame(parent)) {}
+    : ControlPeer(box, *new SunkenFrame(parent, box)) {}
 
 }  // namespace lumenote

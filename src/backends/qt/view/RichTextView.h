@@ -45,6 +45,8 @@ class RichTextView : public QAbstractScrollArea, public Spoken, private ViewHost
 
   /// From now on misspelt words are marked. `speller` must outlive the view.
   void CheckSpelling(Speller& speller, SpellingMarks::Learn learn);
+  /// Null: words are not checked.
+  const SpellingMarks* Spelling() const { return spelling_.get(); }
   /// Opens the menu that a click with the right button there opens.
   void OpenNoteMenu(PixelPoint at) { OpenMenu(at); }
 

@@ -88,6 +88,23 @@ void SpellingMarks::PaintPiece(QPainter& painter, const ShownPiece& item) {
   }
 }
 
+bool SpellingMarks::Narrow(Selection& range, Position at) const {
+  constexpr Position kReach = 500;  // of the search in a long range
+  range = {std::max(range.start, at - kReach), std::min(range.end, at + kReach)};
+  for (const Selection& word : SpelledWords(view_.Surface().Content(), range.start, range.end)) {
+    if (!IsMarked(word)) continue;
+    if (word.start > at) {
+      range.end = std::min(range.end, word.start);
+      return false;
+    }
+    const bool inside = at < word.end;
+    range.start = std::max(range.start, inside ? word.start : word.end);
+    if (inside) range.end = std::min(range.end, word.end);
+    if (inside) return true;
+  }
+  return false;
+}
+
 void SpellingMarks::Changed() { typing_.start(kPause, this); }
 
 void SpellingMarks::timerEvent(QTimerEvent*) {

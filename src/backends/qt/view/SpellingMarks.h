@@ -28,6 +28,8 @@ class SpellingMarks : public QObject {
   SpellingMarks(RichTextView& view, Speller& speller, Learn learn);
 
   void Paint(QPainter& painter, const QRectF& area);
+  /// Cuts a range down to what around `at` is one marked word, or holds none; whether it is marked.
+  bool Narrow(Selection& range, Position at) const;
   /// The text has changed: the user may be typing.
   void Changed();
   /// Opens the popup of the wave at a point, if there is one.

@@ -48,7 +48,7 @@ class AttributeList {
 
 }  // namespace
 
-QString TextAttributes(const AccessibleText::Run& run, const FormatTables& formats) {
+QString TextAttributes(const AccessibleText::Run& run, const FormatTables& formats, bool misspelt) {
   const CharFormat& format = run.format;
   AttributeList list;
   list.Add("font-family", ToQString(formats.fonts[format.font].name));
@@ -62,6 +62,7 @@ QString TextAttributes(const AccessibleText::Run& run, const FormatTables& forma
   list.Add("text-align", NameOf(run.alignment));
   list.AddColour("color", format.colour);
   list.AddColour("background-color", format.highlight);
+  if (misspelt) list.Add("invalid", "spelling");
   return list.Text();
 }
 

@@ -7,6 +7,7 @@
 
 namespace lumenote {
 
-QString TextAttributes(const AccessibleText::Run& run, const FormatTables& formats);
+/// `misspelt`: the run is a misspelt word, or a part of one.
+QString TextAttributes(const AccessibleText::Run& run, const FormatTables& formats, bool misspelt);
 
 }  // namespace lumenote

@@ -129,10 +129,12 @@ int AccessibleView::offsetAtPoint(const QPoint& point) const {
 }
 
 QString AccessibleView::attributes(int offset, int* start, int* end) const {
-  const std::optional<AccessibleText::Run> run = text_.RunAt(offset);
+  std::optional<AccessibleText::Run> run = text_.RunAt(offset);
+  const SpellingMarks* spelling = view_.Spelling();
+  const bool misspelt = run && spelling && spelling->Narrow(run->range, offset);
   *start = run ? run->range.start : offset;
   *end = run ? run->range.end : offset;
-  return run ? TextAttributes(*run, Surface().Content().Formats()) : QString();
+  return run ? TextAttributes(*run, Surface().Content().Formats(), misspelt) : QString();
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "backends/qt/windows/MenuTree.h"
 
+#include <QKeySequence>
 #include <QPointer>
+#include <QStyleOptionMenuItem>
 
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/QtText.h"
@@ -9,9 +11,29 @@ namespace lumenote {
 
 namespace {
 
+/// Shows the shortcuts of its entries as French keyboards name them.
+class MenuList final : public QMenu {
+ public:
+  MenuList(QWidget& window, const Menu& menu) : QMenu(&window), menu_(menu) {}
+
+ protected:
+  void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override {
+    QMenu::initStyleOption(option, action);
+    const qsizetype index = actions().indexOf(action);
+    if (!action->shortcut().isEmpty())
+      option->text = ToQString(menu_.Entries()[static_cast<std::size_t>(index)]->ShownText());
+  }
+
+ private:
+  const Menu& menu_;
+};
+
+/// The key is the entry's for those who read menus, but pressing it is the form's affair.
 void Show(const Menu& menu, QAction& action) {
   action.setSeparator(menu.IsSeparator());
-  if (!menu.IsSeparator()) action.setText(ToQString(menu.ShownText()));
+  if (!menu.IsSeparator()) action.setText(ToQString(menu.Caption()));
+  action.setShortcutContext(Qt::WidgetShortcut);
+  action.setShortcut(QKeySequence(ToQString(menu.Shortcut()), QKeySequence::PortableText));
   action.setVisible(menu.Visible());
   action.setEnabled(menu.Enabled());
   action.setCheckable(menu.Checked());
@@ -51,7 +73,7 @@ QAction* MenuTree::MakeAction(Menu& menu) {
     });
     return action;
   }
-  auto* list = new QMenu(&window_);
+  auto* list = new MenuList(window_, menu);
   list->setFont(ControlFont());
   for (Menu* entry : menu.Entries()) list->addAction(Add(*entry));
   QObject::connect(list, &QMenu::aboutToShow, listener_.get(), [this, &menu] {
@@ -74,7 +96,7 @@ void MenuTree::PopUp(Menu& menu, QPoint at) {
 void MenuTree::Compare(DifferenceList& differences) const {
   for (const auto& [menu, action] : actions_) {
     differences.Check(*menu, "Caption",
-                      menu->IsSeparator() || action->text() == ToQString(menu->ShownText()));
+                      menu->IsSeparator() || action->text() == ToQString(menu->Caption()));
     differences.Check(*menu, "Visible", action->isVisible() == menu->Visible());
     differences.Check(*menu, "Enabled", !menu->Visible() || action->isEnabled() == menu->Enabled());
     differences.Check(*menu, "Checked", action->isChecked() == menu->Checked());

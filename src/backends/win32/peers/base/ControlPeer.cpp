@@ -42,6 +42,7 @@ void ControlPeer::Update(Property property) {
     SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   if (property == Property::Font) ShowFont();
   if (property == Property::Enabled) ShowEnabled();
+  if (property == Property::SpokenName) ShowName();
 }
 
 void ControlPeer::Place(const RECT& bounds) {
@@ -83,6 +84,8 @@ void ControlPeer::ShowFont() {
 void ControlPeer::ShowName() {
   if (Role() != 0 && !dynamic_cast<const CaptionedControl*>(&control_))
     annotation_.Name(SpokenNameOf(control_));
+  if (IsWindowVisible(Handle()))
+    NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void ControlPeer::Compare(DifferenceList& differences) const {

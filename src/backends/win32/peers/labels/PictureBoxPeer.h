@@ -4,6 +4,7 @@
 #include "backends/win32/toolkit/PaintedWindow.h"
 #include "backends/win32/toolkit/drawing/Colours.h"
 #include "backends/win32/toolkit/drawing/Gdi.h"
+#include "backends/win32/toolkit/input/Keys.h"
 #include "forms/controls/labels/PictureBox.h"
 
 namespace lumenote {
@@ -32,10 +33,17 @@ class PictureWindow final : public PaintedWindow {
 class PictureBoxPeer final : public ControlPeer {
  public:
   PictureBoxPeer(PictureBox& box, HWND parent, PeerHost& host)
-      : ControlPeer(box, std::make_shared<PictureWindow>(parent), host) {}
+      : ControlPeer(box, std::make_shared<PictureWindow>(parent), host), box_(box) {}
 
  protected:
   LONG Role() const override { return ROLE_SYSTEM_GROUPING; }
+  std::optional<LRESULT> Hear(const Message& message) override {
+    const auto key = message.id == WM_KEYDOWN ? StrokeOf(message.w) : std::nullopt;
+    return key && box_.UserKey(*key) ? 0 : ControlPeer::Hear(message);
+  }
+
+ private:
+  PictureBox& box_;
 };
 
 }  // namespace lumenote
