@@ -38,6 +38,14 @@ class Links(Notes):
         self.wait(self.tooltip, "the tooltip")
         self.assertFalse(self.opened.exists())
 
+    def test_lead_to_bookmarks_of_the_note(self):
+        self.open(r'{\rtf1{\field{\*\fldinst HYPERLINK \\l "ici"}{\fldrslt un lien}}\par '
+                  r'une {\*\bkmkstart ici}cible{\*\bkmkend ici}}')
+        self.follow(WORD, "click 1")
+        self.keys(self.note, "x")
+        self.host.waits_for("text 1", r"un lien\nune xcible")
+        self.assertFalse(self.opened.exists())
+
 
 if __name__ == "__main__":
     main()
