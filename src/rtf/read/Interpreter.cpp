@@ -8,7 +8,6 @@
 #include "document/paste/HeadMerge.h"
 #include "document/paste/PastedText.h"
 #include "rtf/read/Keywords.h"
-#include "rtf/words/LateWords.h"
 
 namespace lumenote {
 namespace {
@@ -93,6 +92,7 @@ void Interpreter::Take(const Token& token) {
   using Kind = Token::Kind;
   wasStarred_ = std::exchange(starred_, false);
   wasOpened_ = std::exchange(opened_, false);
+  behindStar_ = std::exchange(atStar_, false);
   const bool escaped = State().page.MultiByte() && IsEscapedByte(token);
   const bool ofBytes =
       escaped || token.kind == Kind::Text || token.kind == Kind::Byte || token.kind == Kind::High;
@@ -105,7 +105,8 @@ void Interpreter::Take(const Token& token) {
     case Kind::Word:
       return Word(token);
     case Kind::Symbol:
-      starred_ = wasOpened_ && token.byte == '*';
+      atStar_ = token.byte == '*';
+      starred_ = wasOpened_ && atStar_;
       return Symbol(static_cast<char>(token.byte));
     case Kind::Open:
       return Open();
@@ -123,7 +124,7 @@ void Interpreter::Take(const Token& token) {
 /// its characters may have several bytes.
 void Interpreter::TakeText() {
   if (swallow_ > 0 || starred_ || State().page.MultiByte() || !AtText()) return;
-  opened_ = false;
+  opened_ = atStar_ = false;
   BeginText();
   if (items_.Pending()) {
     TakeSome(1, NextCharacter());
@@ -190,14 +191,6 @@ void Interpreter::Close() {
     if (IsBehindText(State().character.reset)) EditCharacter().reset = Reset::None;
   }
   if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
-}
-
-/// What a group with all text of the paragraph says of it holds, though the paragraph ends outside.
-void Interpreter::HoldParagraph() {
-  const GroupState& group = State();
-  if (group.paragraphEdit == Outer().paragraphEdit || placingMarker_) return;
-  const bool first = group.contentAtStart <= paragraphStart_;
-  if (first && contentCount_ > paragraphStart_) held_ = group.paragraph;
 }
 
 /// A word counts as one fallback character of a \u, but only words for characters are skipped: no
@@ -282,21 +275,9 @@ void Interpreter::BeforeText() {
   if (opens && !placingMarker_ && target_ == RtfTarget::Document) OpenParagraph();
 }
 
-void Interpreter::OpenParagraph() {
-  opening_ = ParagraphNumber();
-  opensAnew_ = alignedLate_ = false;
-}
-
 CharFormat& Interpreter::EditCharacter() {
   State().characterKnown = false;
   return State().character;
-}
-
-ParagraphState& Interpreter::EditParagraph() {
-  held_.reset();
-  State().paragraphKnown = false;
-  State().paragraphEdit = ++paragraphEdits_;
-  return State().paragraph;
 }
 
 CharId Interpreter::CharacterNumber() {
@@ -308,81 +289,6 @@ CharId Interpreter::CharacterNumber() {
     state.characterKnown = true;
   }
   return state.characterId;
-}
-
-ParaId Interpreter::ParagraphNumber() {
-  GroupState& state = State();
-  if (!state.paragraphKnown) {
-    state.paragraphId = NumberOf(state.paragraph);
-    state.paragraphKnown = true;
-  }
-  return state.paragraphId;
-}
-
-ParaId Interpreter::NumberOf(const ParagraphState& paragraph) {
-  ParaFormat format = paragraph.Resolved();
-  format.bullet = HasBullet(paragraph);
-  const bool listed = paragraph.list >= 0 && !paragraph.bullet;
-  if (listed) {
-    format.list = static_cast<std::uint16_t>(std::min(paragraph.list, 0xFFFE) + 1);
-    format.level = static_cast<std::uint8_t>(std::clamp(paragraph.level, 0, 0xFF));
-  }
-  if (paragraph.tabs) format.tabs = TabsNumber(*paragraph.tabs);
-  return formats_.paragraphs.Intern(format);
-}
-
-ParaId Interpreter::EndedParagraph() {
-  paragraphStart_ = contentCount_;
-  if (!held_) return Opened(ParagraphNumber());
-  ParagraphState ended = *std::exchange(held_, std::nullopt);
-  ended.inTable |= State().paragraph.inTable;
-  ended.nesting = std::max(ended.nesting, State().paragraph.nesting);
-  return Opened(NumberOf(ended));
-}
-
-/// The format of a paragraph that ends with `ended`, with that which it began with.
-ParaId Interpreter::Opened(ParaId ended) {
-  const ParaId began = std::exchange(opening_, std::nullopt).value_or(ended);
-  const bool alignedLate = std::exchange(alignedLate_, false);
-  if (began == ended) return ended;
-  ParaFormat format = formats_.paragraphs[ended];
-  const ParaFormat opening = OpeningOf(format, formats_.paragraphs[began], alignedLate);
-  if (opening == format) return ended;
-  format.opening = formats_.paragraphs.Intern(opening) + 1;
-  return formats_.paragraphs.Intern(format);
-}
-
-/// The format that the source states in the beginning of a paragraph which ends in `format`. Lists
-/// and tables are said only once, and so is an alignment behind the text, since with it readers
-/// take what else is said there, too.
-ParaFormat Interpreter::OpeningOf(const ParaFormat& format, ParaFormat began, bool alignedLate) {
-  began.bullet = format.bullet;
-  began.list = format.list;
-  began.level = format.level;
-  began.nesting = format.nesting;
-  const bool numbered =
-      formats_.words.Any(format.words, IsNumbering) || formats_.words.Any(began.words, IsNumbering);
-  if (numbered) began.words = format.words;
-  const bool late =
-      alignedLate || began.alignment != format.alignment || !Addition(began, format, formats_);
-  if (late && (format.stated & kStatesAlignment) != 0) {
-    began.stated = static_cast<std::uint16_t>(began.stated & ~kStatesAlignment);
-    began.alignment = Alignment::Left;
-  }
-  return began;
-}
-
-/// Groups can restore long lists at no cost in source bytes, so their total is limited.
-TabsId Interpreter::TabsNumber(const TabStops& stops) {
-  if (stops.size() > tabsLeft_) return 0;
-  const std::uint32_t known = formats_.tabs.Size();
-  const TabsId number = formats_.tabs.Intern(stops);
-  if (formats_.tabs.Size() != known) tabsLeft_ -= stops.size();
-  return number;
-}
-
-bool Interpreter::HasBullet(const ParagraphState& paragraph) const {
-  return paragraph.bullet || lists_.IsBullet(paragraph.list, paragraph.level);
 }
 
 }  // namespace lumenote

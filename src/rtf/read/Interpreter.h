@@ -221,6 +221,8 @@ class Interpreter {
   Reset lastReset_ = Reset::None;  // of the last \plain behind text
   bool opened_ = false;            // the last token was {
   bool wasOpened_ = false;         // so was the token before the present one
+  bool atStar_ = false;            // the last token was \*
+  bool behindStar_ = false;        // so was the token before the current one
   bool starred_ = false;           // the last token was \* directly after {
   bool wasStarred_ = false;        // so was the token before the current one
   std::string bytes_;              // undecoded bytes of a multi-byte page

@@ -86,12 +86,13 @@ void Interpreter::KeepCell(int, const Token& word) {
 
 // --- groups
 
-/// The source of the group from its first word, at `from`, to the current position.
+/// The source of the group from its first word, at `from`, to the current position. A \* behind
+/// formats counts for readers, too.
 std::string Interpreter::GroupSource(std::size_t from) {
   KeptSource kept(tokens_.Source(from, tokens_.At()), State().fallback);
   needsTables_ |= kept.needsHead;
   std::string source = std::move(kept).Closed();
-  source.insert(0, wasStarred_ ? "{\\*" : "{");
+  source.insert(0, behindStar_ ? "{\\*" : "{");
   return source += '}';
 }
 

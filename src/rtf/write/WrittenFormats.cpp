@@ -201,7 +201,9 @@ void WrittenFormats::WriteFontTable(Output& out) const {
   if (kept.empty() && written.empty()) return;
   out.Raw("{\\fonttbl");
   for (const std::uint32_t index : written) WriteFont(faces_[index], fonts_[index], out);
-  if (!kept.empty() && kept[0] != '{' && kept[0] != '\\') out.Raw(" ");
+  // Some readers take a blank between fonts for a font's name.
+  constexpr std::string_view kEndingWord = "{\\\r";
+  if (written.empty() && kEndingWord.find(kept[0]) == kEndingWord.npos) out.Raw(" ");
   out.Words(kept);
   out.Raw("}\r\n");
 }
