@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <vector>
 
 #include "document/Document.h"
@@ -13,8 +14,16 @@ namespace lumenote {
 struct CellLine {
   Position start = 0;
   Position end = 0;  // the last caret position in it
-  int cell = 0;      // number of its cell, from the left
-  float right = 0;   // edge of its cell, measured as carets are
+  Selection row;     // up to the break that ends the row
+};
+
+/// Where a line of a row is looked for.
+enum class CellStep {
+  Here,     // the one that holds a position
+  Above,    // the one above that, at some x
+  Below,    // likewise
+  Topmost,  // of the row, at some x
+  Lowest,   // likewise
 };
 
 /// Breaks text into lines; each backend measures with its own fonts.
@@ -31,9 +40,11 @@ class LineBreaker {
   virtual float XOf(const Document& document, Position lineStart, Position position) = 0;
   /// The caret position nearest to `x` in the line `lineStart`..`lineEnd`.
   virtual Position AtX(const Document& document, Position lineStart, Position lineEnd, float x) = 0;
-  /// The lines of the row that the paragraph at `position` ends, in text order; empty if it ends
-  /// none. `XOf` and `AtX` take their starts, too.
-  virtual std::vector<CellLine> CellLines(const Document&, Position) { return {}; }
+  /// A line of the row that holds `position`; empty if none does, or if the line would be outside.
+  /// `XOf` and `AtX` take its start, too.
+  virtual std::optional<CellLine> FindCellLine(const Document&, Position, CellStep, float) {
+    return std::nullopt;
+  }
 };
 
 /// One line of the layout.

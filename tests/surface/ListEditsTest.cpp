@@ -91,8 +91,8 @@ TEST(ListEdits, WhatTheSourceSaysAtNumbersStays) {
        "1.⇥un¶2.⇥|¶3.⇥b", "{\\*\\bkmkstart c}"},
       {Numbered(kDeux), "1.\tun¶2.\tdeux|", "Ctrl+a Ctrl+c Ctrl+End Return Ctrl+v",
        "1.⇥un¶2.⇥deux¶3.⇥un¶4.⇥deux|", "3.\\tab}"},
-      {"{\\rtf1" + Tables("1/0/%1.") + cells + "}", "1.\ta|\t2.\tb¶3.\tc", "Delete", "1.⇥a|b¶2.⇥c",
-       "2.\\tab}"},
+      {"{\\rtf1" + Tables("1/0/%1.") + cells + "}", "1.\ta|\t2.\tb¶3.\tc", "Shift+Right Delete",
+       "1.⇥a|b¶2.⇥c", "2.\\tab}"},
       {cyrillic, "Гл 1\tun|", "Return", "Гл 1⇥un¶|", "\\u1043?\\u1083? 1\\tab}"},
   };
   for (const auto& [source, before, keys, after, kept] : cases) {

@@ -10,6 +10,7 @@
 
 #include "base/Characters.h"
 #include "document/Model.h"
+#include "document/tables/TableRow.h"
 #include "surface/Choices.h"
 #include "surface/UserBench.h"
 
@@ -155,6 +156,9 @@ class RandomActs : UserBench {
     if (range.Length() == 0 && back) range.start = std::max(range.start - 1, 0);
     if (range.Length() == 0 && !back) range.end = std::min(range.end + 1, now_.Length());
     range = {range.start - InsidePair(range.start), range.end + InsidePair(range.end)};
+    const Selection cell = CellAround(surface.Content(), surface.Caret());
+    if (surface.Selected().Length() == 0)
+      range = {std::max(range.start, cell.start), std::min(range.end, cell.end)};
     surface.UserKey({.name = back ? KeyName::BackSpace : KeyName::Delete});
     Expect(Replaced(range, {}), true);
   }

@@ -102,48 +102,55 @@ TEST_P(LayoutContract, ComposedTextIsShownButNotCounted) {
   const auto piece = layouter->LayOut(document, {.from = 0, .to = document.ParagraphEnd(0)});
   EXPECT_EQ(piece->composedLength, 2);
   EXPECT_EQ(piece->ToIndex(at), at + 1);
-  EXPECT_EQ(piece->to, document.ParagraphEnd(0));
+  EXPECT_TRUE(piece->closes);
   EXPECT_GT(piece->lines.front().height, 0);
 }
 
-// A row that is laid out as cells is one piece, whatever is asked for; its cells do not overlap.
+// A row is one piece, whatever is asked for; its cells do not overlap, nor do tables in them.
 TEST_P(LayoutContract, CellsLieBesideEachOther) {
-  const Position end = document.ParagraphEnd(0);
-  const auto row = layouter->LayOut(document, {.from = 0, .to = end});
+  const auto row = layouter->LayOut(document, {.from = 0, .to = document.ParagraphEnd(0)});
   if (row->cells.empty()) return;
-  const auto part = layouter->LayOut(document, {.from = end / 2, .to = end});
-  EXPECT_EQ(std::pair(part->from, part->to), std::pair(0, end));
-  for (std::size_t i = 0; i < row->cells.size(); ++i) {
-    const PieceCell& cell = row->cells[i];
-    const bool last = i + 1 == row->cells.size();
-    const int behind = last ? static_cast<int>(row->lines.size()) : row->cells[i + 1].firstLine;
-    for (int line = cell.firstLine; line < behind; ++line) {
-      const PieceLine& box = row->lines[static_cast<std::size_t>(line)];
-      EXPECT_EQ(row->LineAt(box.top, cell.right - 1), line);
-      for (int index = box.start; index < box.end; ++index) {
-        EXPECT_GE(row->CaretX(line, index), cell.left - 0.5);
-        EXPECT_LE(row->CaretX(line, index), cell.right + 0.5);
-      }
+  const auto part = layouter->LayOut(document, {.from = row->to / 2, .to = row->to});
+  EXPECT_EQ(std::pair(part->from, part->to), std::pair(0, row->to));
+  for (int line = 0; line < std::ssize(row->lines); ++line) {
+    const PieceLine& box = row->lines[static_cast<std::size_t>(line)];
+    const PieceCell& cell = row->cells[static_cast<std::size_t>(row->CellOf(line))];
+    EXPECT_EQ(row->LineAt(box.top, cell.right - 1), line);
+    EXPECT_GE(box.top, cell.top);
+    EXPECT_LE(box.top + box.height, cell.bottom);
+    for (int index = box.start; index < box.end; ++index) {
+      EXPECT_GE(row->CaretX(line, index), cell.left - 0.5);
+      EXPECT_LE(row->CaretX(line, index), cell.right + 0.5);
     }
+  }
+  for (const PieceCell& cell : row->cells) {
+    if (cell.parent < 0) continue;
+    const PieceCell& around = row->cells[static_cast<std::size_t>(cell.parent)];
+    EXPECT_TRUE(cell.left >= around.left && cell.right <= around.right + 0.5);
+    EXPECT_TRUE(cell.top >= around.top && cell.bottom <= around.bottom);
   }
 }
 
+// Down and Up go where the piece says that the neighbouring line at the same x is.
 TEST_P(LayoutContract, CaretKeysGoAlongTheLinesOfACell) {
-  const std::vector<CellLine> lines = breaker.CellLines(document, 0);
+  const auto row = layouter->LayOut(document, {.from = 0, .to = document.ParagraphEnd(0)});
+  if (row->cells.empty()) return;
   const auto press = [&](Position from, KeyName key) {
     surface.UserSelect(from, from);
     surface.UserKey({.name = key});
     return surface.Caret();
   };
-  for (auto line = lines.begin(); line != lines.end(); ++line) {
-    EXPECT_EQ(press(line->start, KeyName::End), line->end);
-    EXPECT_EQ(press(line->end, KeyName::Home), line->start);
-    const auto next = std::next(line);
-    const bool last = next == lines.end() || next->cell != line->cell;
-    const Position below = press(line->start, KeyName::Down);
-    EXPECT_EQ(below > line->end, !last || lines.back().end < document.Length());
-    EXPECT_TRUE(last ? below == line->start || below > lines.back().end
-                     : below >= next->start && below <= next->end);
+  for (int line = 0; line < std::ssize(row->lines); ++line) {
+    const Position start = row->LineStart(line);
+    EXPECT_EQ(press(press(start, KeyName::End), KeyName::Home), start);
+    const double x = row->XOf(start);
+    const int below = row->LineBeside(line, true, x);
+    const Position found = press(start, KeyName::Down);
+    EXPECT_TRUE(below < 0 ? found == start || found > row->to : row->LineOf(found) == below);
+    if (below < 0) continue;
+    EXPECT_GE(row->lines[static_cast<std::size_t>(below)].top,
+              row->lines[static_cast<std::size_t>(line)].top);
+    EXPECT_EQ(row->LineOf(press(found, KeyName::Up)), row->LineBeside(below, false, x));
   }
 }
 
@@ -184,6 +191,17 @@ std::u16string Times(int count, const std::u16string& text) {
   return all;
 }
 
+const std::u16string kParagraphs = u"\\trowd\\cellx2400\\cellx4800\\intbl\\qr un\\par\\qc " +
+                                   Words(30) + u"\\par\\qj\\li300\\sb200 " + Words(40) +
+                                   u"\\cell\\pard\\intbl a\\line b\\par c\\tab " + kHebrew +
+                                   u"\\par\\cell\\row\\pard x";
+const std::u16string kNested =
+    u"\\trowd\\cellx3000\\cellx4800\\intbl un\\par\\itap2 a " + Words(20) +
+    u"\\nestcell b\\par c\\nestcell{\\*\\nesttableprops\\trowd\\cellx900\\cellx9000\\nestrow}"
+    u"\\itap3 d\\nestcell{\\*\\nesttableprops\\trowd\\cellx400\\nestrow}\\itap2 e\\nestcell"
+    u"{\\*\\nesttableprops\\trowd\\cellx900\\nestrow}\\pard\\intbl " +
+    Words(20) + u"\\cell deux\\cell\\row\\pard x";
+
 INSTANTIATE_TEST_SUITE_P(
     Paragraphs, LayoutContract,
     testing::Values(LayoutCase{"Plain", kWords + u"\\par\\par " + kWords},
@@ -206,6 +224,7 @@ INSTANTIATE_TEST_SUITE_P(
                                    Words(90) + u"\\tab x" + kHebrew + u"\\row " + kWords},
                     LayoutCase{"JustifiedRow", u"\\trowd\\cellx2400\\cellx4800\\qj\\intbl " +
                                                    Words(90) + u"\\cell " + Words(80) + u"\\row"},
+                    LayoutCase{"Paragraphs", kParagraphs}, LayoutCase{"Nested", kNested},
                     LayoutCase{"NoRoom", u"\\li30000\\ri30000 " + Words(60)}),
     [](const auto& info) { return info.param.name; });
 

@@ -138,7 +138,8 @@ TEST_F(RowsTest, AreAsWideAsDefined) {
       {u"\\cellx600\\intbl a\\cell b\\cell c\\cell", {60, 180, 300}},
       {u"\\cellx600\\cellx100\\intbl a\\cell b\\cell", {60, 84}},
       {u"\\cellx600{\\*\\x}\\cellx1500\\intbl a\\tab b\\cell c\\cell", {60, 150}},
-      {u"\\cellx600\\cellx1500\\intbl a\\cell b\\par c\\cell", {150}, 60}};
+      {u"\\cellx600\\cellx1500\\intbl a\\cell b\\par c\\cell", {60, 150}},
+      {u"\\cellx600\\cellx1500\\cellx2000\\intbl a\\cell b\\cell", {150, 200}, 60}};
   for (const Definition& one : definitions) {
     window.surface.TextRTF(u"{\\rtf1\\trowd" + std::u16string(one.row) + u"\\row}");
     window.view.Settle();
@@ -157,7 +158,7 @@ std::string Parts(Window& window, int paragraph) {
   const Document& document = window.surface.Content();
   const Piece& piece = window.pane.Cache().At(document.ParagraphStart(paragraph));
   std::ostringstream out;
-  for (const auto& [area, colour] :
+  for (const auto& [area, colour, line] :
        BackdropOf(window.layouter, document, piece, {-9, 0, 400, 200}, {}))
     out << area.left << ',' << area.top << ',' << area.right << ',' << area.bottom << ' '
         << std::hex << colour << std::dec << "; ";
@@ -218,6 +219,38 @@ TEST_F(RowsTest, CaretKeysStayInTheirColumn) {
   EXPECT_EQ(window.surface.Selected(), (Selection{16, 35}));
   window.surface.UserSelect(22, 22);
   EXPECT_EQ(window.pane.LinesPerPage(), 4) << "there the row has two lines";
+}
+
+// A cell ends with ¦, a paragraph or row with ¶.
+TEST_F(RowsTest, KeepTheirCellsWhateverTheKeys) {
+  const std::u16string source =
+      u"{\\rtf1 a\\par\\trowd\\cellx1500\\cellx3000\\intbl\\qr b\\par c\\cell\\ql d\\par "
+      u"e\\cell\\row"
+      u"\\pard f\\par}";
+  const std::tuple<Position, KeyName, const char*> rows[] = {
+      {3, KeyName::BackSpace, "a¶b¶c¦d¶e¶f"}, {1, KeyName::Delete, "a¶b¶c¦d¶e¶f"},
+      {7, KeyName::Delete, "a¶b¶c¦d¶e¶f"},    {8, KeyName::BackSpace, "a¶b¶c¦d¶e¶f"},
+      {12, KeyName::Delete, "a¶b¶c¦d¶e¶f"},   {14, KeyName::BackSpace, "a¶b¶c¦d¶e¶f"},
+      {6, KeyName::BackSpace, "a¶bc¦d¶e¶f"},  {4, KeyName::Delete, "a¶bc¦d¶e¶f"},
+      {11, KeyName::BackSpace, "a¶b¶c¦de¶f"}, {7, KeyName::Return, "a¶b¶c¶¦d¶e¶f"},
+      {9, KeyName::Return, "a¶b¶c¦d¶¶e¶f"},   {12, KeyName::Return, "a¶b¶c¦d¶e¶¶f"}};
+  for (const auto& [at, key, text] : rows) {
+    window.surface.TextRTF(source);
+    window.view.Settle();
+    window.surface.UserSelect(at, at);
+    window.surface.UserKey({.name = key});
+    window.view.Settle();
+    const std::u16string saved = window.surface.TextRTF();
+    for (int loaded = 0; loaded < 2; ++loaded) {
+      const std::u16string shown = ReplaceEvery(window.surface.Text(), u"\r\n", u"¶");
+      EXPECT_EQ(ToUtf8(ReplaceEvery(shown, u"\t", u"¦")), text) << at;
+      const Piece& row = window.pane.Cache().At(4);
+      EXPECT_EQ(row.cells.size(), 2u) << at;
+      EXPECT_EQ(ToUtf8(window.surface.TextRTF()), ToUtf8(saved)) << at;
+      window.surface.TextRTF(saved);
+      window.view.Settle();
+    }
+  }
 }
 
 TEST_F(RowsTest, FitPicturesToTheirCells) {

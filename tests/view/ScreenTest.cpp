@@ -70,12 +70,28 @@ void CompareWithWhole(Window& window, std::mt19937& random) {
   }
 }
 
+/// Rows with several paragraphs in their cells, a table in a cell, and cells whose row never ends.
+std::u16string Tables() {
+  const std::u16string row = u"\\trowd\\cellx1500\\cellx3000\\intbl\\qr " + Words(40) +
+                             u"\\par\\li200 " + Words(30) +
+                             u"\\cell\\pard\\intbl un\\line\\par\\cell\\row";
+  const std::u16string nested =
+      u"\\trowd\\cellx2000\\cellx3900\\intbl a\\par\\itap2 b\\par c\\nestcell " + Words(20) +
+      u"\\nestcell{\\*\\nesttableprops\\trowd\\cellx700\\cellx1400\\nestrow}\\pard\\intbl d\\cell "
+      u"e\\cell\\row";
+  return u"{\\rtf1 avant\\par" + row + row + u"\\pard " + Words(90) + u"\\par" + nested + row +
+         u"\\pard\\intbl f\\par g\\cell h\\par i\\par\\pard " + Words(90) + u"}";
+}
+
 TEST(Screen, ShowsWhatAWholeLayoutSaysAfterAnyActs) {
   int shifts = 0;
-  for (unsigned seed = 1; seed <= 6; ++seed) {
+  for (unsigned seed = 1; seed <= 12; ++seed) {
     std::mt19937 random(seed);
     Window window(kSize);
-    window.surface.Text(seed % 2 ? ShortParagraphs() : RandomNote());
+    if (seed % 2)
+      window.surface.TextRTF(Tables());
+    else
+      window.surface.Text(seed % 4 ? ShortParagraphs() : RandomNote());
     for (int i = 0; i < 120; ++i) {
       ActAtRandom(window, random);
       window.view.Settle();

@@ -49,7 +49,8 @@ void Screen::PaintPiece(TextPane& pane, const ViewMarks& marks, const ShownPiece
     }
     const bool last = piece.closes && i + 1 == std::ssize(piece.lines);
     if (last && isSelected(piece.to)) fill(piece.XOf(piece.to), piece.XOf(piece.to) + 5, 7);
-    if (i == 0 && piece.bulletX >= 0) fill(piece.bulletX, piece.bulletX + 5, 8);
+    for (const auto& [line, x] : piece.bullets)
+      if (line == i) fill(x, x + 5, 8);
   }
 }
 
@@ -98,15 +99,19 @@ void Window::ShowDamage(const Damage& damage) {
 // --- the whole layout
 
 WholeLayout::WholeLayout(const Document& document, TextLayouter& layouter) {
-  for (Position p = 0; p < document.ParagraphCount(); ++p) {
-    const Position end = document.ParagraphEnd(p);
-    longest_ = std::max(longest_, end - document.ParagraphStart(p));
-    auto piece = layouter.LayOut(document, {.from = document.ParagraphStart(p), .to = end});
-    for (int i = 0; i < std::ssize(piece->lines); ++i) {
-      const bool last = i + 1 == std::ssize(piece->lines);
-      const Position next = last ? end : piece->LineStart(i + 1);
-      const bool broken = !last && document.At(next - 1) == u'\v';
-      lines_.push_back({piece->LineStart(i), broken ? next - 1 : next, last ? end + 2 : next});
+  for (Position at = 0; at <= document.Length(); at = pieces_.back().piece->to + 2) {
+    const Position paragraph = document.ParagraphEnd(document.ParagraphOf(at));
+    auto piece = layouter.LayOut(document, {.from = at, .to = paragraph});
+    const Position end = piece->to;
+    longest_ = std::max(longest_, end - at);
+    for (int i = 0, behind = 0; i < std::ssize(piece->lines); i = behind) {
+      do ++behind;
+      while (behind < std::ssize(piece->lines) && !piece->BeginsLine(document, behind));
+      const bool last = behind == std::ssize(piece->lines);
+      const Position next = last ? end : piece->LineStart(behind);
+      const char16_t before = last ? u'\0' : document.At(next - 1);
+      const Position ending = before == u'\v' ? 1 : before == u'\n' ? 2 : 0;
+      lines_.push_back({piece->LineStart(i), next - ending, last ? end + 2 : next});
     }
     pieces_.push_back({std::move(piece), height_});
     height_ += pieces_.back().piece->height;

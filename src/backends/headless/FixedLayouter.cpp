@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "base/Strings.h"
+#include "document/tables/TableRow.h"
 #include "view/layout/InlineBoxes.h"
 #include "view/layout/LineStack.h"
-#include "view/layout/RowCells.h"
 
 namespace lumenote {
 
@@ -29,8 +29,8 @@ struct Glyph {
   double ascent;
   double descent;
 
-  /// Turns a tab into the invisible end of a table cell.
-  void EndCell() { unit = 0, advance = 0; }
+  /// Turns a unit that ends a paragraph or cell in a table into nothing seen.
+  void Hide() { unit = 0, advance = 0; }
 };
 
 class FixedPiece final : public Piece {
@@ -84,11 +84,11 @@ class PieceBuilder {
   Glyph GlyphOf(char16_t unit, CharId format) const;
   void AddText(Position from, Position to);
   void AddComposed();
-  void AddBoxes(const std::vector<CellBox>& cells, const std::vector<int>& ends);
+  void AddBoxes(const RowCells& row);
   double Behind(int index, double x) const;
   int LineEnd(int start, int limit, double left, double room) const;
   void AddLine(int start, int end, double left);
-  void AddCell(const CellBox& cell, int start, int end);
+  void HideEnds(const RowCells& row);
   void PlaceFrom(LineStack& stack, std::size_t line);
   void Place(LineStack& stack, PieceLine& line);
   bool EndsWithLineBreak() const {
@@ -118,8 +118,9 @@ void PieceBuilder::AddText(Position from, Position to) {
   if (piece_.composedLength > 0) AddComposed();
 }
 
-void PieceBuilder::AddBoxes(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
-  piece_.boxes = BoxesIn(layouter_, document_, piece_, cells, ends);
+void PieceBuilder::AddBoxes(const RowCells& row) {
+  const int count = static_cast<int>(piece_.glyphs.size());
+  piece_.boxes = BoxesIn(layouter_, document_, piece_, row, count);
   for (const InlineBox& box : piece_.boxes) {
     Glyph& glyph = piece_.glyphs[static_cast<std::size_t>(box.index)];
     glyph.advance = box.size.width;
@@ -189,9 +190,10 @@ std::u16string PieceBuilder::Text() const {
 
 bool PieceBuilder::BuildLines(const PieceSpan& span) {
   AddText(span.from, span.to);
-  LineStack stack(layouter_, document_, piece_);
+  const RowCells none;
+  LineStack stack(layouter_, document_, piece_, none);
   const int count = static_cast<int>(piece_.glyphs.size());
-  AddBoxes({}, {count});
+  AddBoxes(none);
   const int known = span.nextKnown < 0 ? count : piece_.ToIndex(span.nextKnown);
   for (int start = 0, end = -1; end != count && end != known; start = end) {
     const double left = stack.Edges().Left(piece_.opens && start == 0);
@@ -209,33 +211,34 @@ bool PieceBuilder::BuildLines(const PieceSpan& span) {
 }
 
 void PieceBuilder::BuildRow() {
-  const std::vector<CellBox> cells = RowCellsAt(layouter_, document_, piece_.from);
+  const RowCells row = RowCellsOf(layouter_, document_, piece_);
   AddText(piece_.from, piece_.to);
-  LineStack stack(layouter_, document_, piece_);
-  const int count = static_cast<int>(piece_.glyphs.size());
-  const std::vector<int> ends = EndsOf(cells, piece_, count);
-  AddBoxes(cells, ends);
-  for (std::size_t i = 0; i + 1 < ends.size(); ++i)
-    piece_.glyphs[static_cast<std::size_t>(ends[i]) - 1].EndCell();
+  LineStack stack(layouter_, document_, piece_, row);
+  AddBoxes(row);
+  HideEnds(row);
+  const std::vector<int> ends = EndsOf(row, static_cast<int>(piece_.glyphs.size()));
   int start = 0;
-  for (std::size_t i = 0; i < cells.size(); ++i) {
-    const CellBox& cell = cells[i];
-    const int end = ends[i];
+  for (std::size_t i = 0; i < ends.size(); ++i) {
     const std::size_t line = piece_.lines.size();
-    AddCell(cell, start, end);
-    if (end == count && EndsWithLineBreak()) AddLine(end, end, cell.TextLeft());
-    stack.BeginCell(cell.left, cell.right);
+    stack.Begin(row.texts[i]);
+    for (int from = start, end = -1; end != ends[i]; from = end) {
+      const double left = stack.Edges().Left(from == start);
+      const double room = stack.Edges().Room(left);
+      end = LineEnd(from, ends[i], stack.Left() + left, room);
+      AddLine(from, end, stack.Left() + left);
+    }
+    start = ends[i];
+    if (i + 1 == ends.size() && EndsWithLineBreak())
+      AddLine(start, start, stack.Left() + stack.Edges().following);
     PlaceFrom(stack, line);
-    start = end;
   }
   stack.Finish(Text());
 }
 
-void PieceBuilder::AddCell(const CellBox& cell, int start, int end) {
-  for (int lineEnd = -1; lineEnd != end; start = lineEnd) {
-    lineEnd = LineEnd(start, end, cell.TextLeft(), cell.Room());
-    AddLine(start, lineEnd, cell.TextLeft());
-  }
+void PieceBuilder::HideEnds(const RowCells& row) {
+  for (const CellText& text : row.texts)
+    for (int i = text.end - text.units; i < text.end; ++i)
+      piece_.glyphs[static_cast<std::size_t>(i)].Hide();
 }
 
 }  // namespace
@@ -245,15 +248,12 @@ FontMetrics FixedLayouter::MetricsOf(const Document&, const CharFormat& format) 
 }
 
 std::unique_ptr<Piece> FixedLayouter::Make(const Document& document, const PieceSpan& span) {
-  if (RowAt(document, span.from)) {
-    const Position paragraph = document.ParagraphOf(span.from);
-    auto row = std::make_unique<FixedPiece>();
-    Open(*row, document,
-         {.from = document.ParagraphStart(paragraph), .to = document.ParagraphEnd(paragraph)});
-    PieceBuilder(*this, document, *row).BuildRow();
-    return row;
-  }
   auto piece = std::make_unique<FixedPiece>();
+  if (RowAround(document, span.from)) {
+    Open(*piece, document, SpanOf(document, span));
+    PieceBuilder(*this, document, *piece).BuildRow();
+    return piece;
+  }
   Open(*piece, document, span);
   if (!PieceBuilder(*this, document, *piece).BuildLines(span)) return nullptr;
   return piece;

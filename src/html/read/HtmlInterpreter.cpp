@@ -5,8 +5,8 @@
 #include <iterator>
 #include <utility>
 
+#include "document/tables/CellParagraphs.h"
 #include "html/source/Ascii.h"
-#include "html/words/Tables.h"
 
 namespace lumenote {
 namespace {

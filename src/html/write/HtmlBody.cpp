@@ -29,7 +29,7 @@ std::string Encoded(std::string_view bytes) {
 }  // namespace
 
 void HtmlBody::Write(Selection range) {
-  Block(FindHtmlParagraphs(document_, range), 0);
+  Block(FindCellParagraphs(document_, range), 0);
   lists_.Close();
   if (!notes_.empty()) out_ += "<hr>\n" + notes_;
 }
@@ -38,7 +38,7 @@ void HtmlBody::Write(Selection range) {
 void HtmlBody::Block(Paragraphs part, int level) {
   while (!part.empty()) {
     const auto end =
-        std::ranges::find_if(part, [=](const HtmlParagraph& one) { return one.level <= level; });
+        std::ranges::find_if(part, [=](const CellParagraph& one) { return one.level <= level; });
     const auto inTable = static_cast<std::size_t>(end - part.begin());
     if (inTable > 0)
       Table(part.first(inTable), level + 1);
@@ -81,7 +81,7 @@ void HtmlBody::Cell(const HtmlCell& cell, int level) {
 
 // --- paragraphs
 
-void HtmlBody::Paragraph(const HtmlParagraph& paragraph) {
+void HtmlBody::Paragraph(const CellParagraph& paragraph) {
   const ParaFormat& format = tables_.paragraphs[paragraph.format];
   Position start = paragraph.start;
   const std::optional<ListMark> mark = MarkOf(paragraph, start);
@@ -99,7 +99,7 @@ void HtmlBody::Paragraph(const HtmlParagraph& paragraph) {
 
 /// The format of the first character, of which all characters state what it states; of an empty
 /// paragraph, that of its end.
-CharFormat HtmlBody::CommonFormat(Position start, const HtmlParagraph& paragraph) const {
+CharFormat HtmlBody::CommonFormat(Position start, const CellParagraph& paragraph) const {
   if (start == paragraph.end) return tables_.characters[paragraph.ender];
   CharFormat common = tables_.characters[document_.CharFormatAt(start)];
   document_.ForEachRun(start, paragraph.end, [&](Position, TextView, CharId format) {
@@ -109,7 +109,7 @@ CharFormat HtmlBody::CommonFormat(Position start, const HtmlParagraph& paragraph
 }
 
 /// The bullet or number before the text, which then begins behind it.
-std::optional<ListMark> HtmlBody::MarkOf(const HtmlParagraph& paragraph,
+std::optional<ListMark> HtmlBody::MarkOf(const CellParagraph& paragraph,
                                          Position& textStart) const {
   if (tables_.paragraphs[paragraph.format].bullet != 0) return ListMark();
   if (paragraph.start == paragraph.end) return std::nullopt;

@@ -10,10 +10,10 @@
 #include "document/Document.h"
 #include "document/Footnotes.h"
 #include "document/pictures/PictureSource.h"
+#include "document/tables/CellParagraphs.h"
 #include "html/words/LinkRepeats.h"
 #include "html/write/HtmlFormats.h"
 #include "html/write/HtmlLists.h"
-#include "html/write/HtmlParagraphs.h"
 #include "html/write/HtmlTable.h"
 
 namespace lumenote {
@@ -27,16 +27,16 @@ class HtmlBody {
   void Write(Selection range);
 
  private:
-  using Paragraphs = std::span<const HtmlParagraph>;
+  using Paragraphs = std::span<const CellParagraph>;
 
   void Block(Paragraphs part, int level);
   void Table(Paragraphs part, int level);
   void Cell(const HtmlCell& cell, int level);
 
   // Paragraphs.
-  void Paragraph(const HtmlParagraph& paragraph);
-  CharFormat CommonFormat(Position start, const HtmlParagraph& paragraph) const;
-  std::optional<ListMark> MarkOf(const HtmlParagraph& paragraph, Position& textStart) const;
+  void Paragraph(const CellParagraph& paragraph);
+  CharFormat CommonFormat(Position start, const CellParagraph& paragraph) const;
+  std::optional<ListMark> MarkOf(const CellParagraph& paragraph, Position& textStart) const;
   bool IsRule(const ParaFormat& format) const;
 
   // Text.

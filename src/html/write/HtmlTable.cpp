@@ -10,10 +10,10 @@ namespace lumenote {
 namespace {
 
 using Merge = RowCell::Merge;
-using Part = std::span<const HtmlParagraph>;
+using Part = std::span<const CellParagraph>;
 
 /// The last definition of a row among the items at its end; null if there is none.
-const KeptItem* DefinitionOf(const HtmlParagraph& end, const FormatTables& tables) {
+const KeptItem* DefinitionOf(const CellParagraph& end, const FormatTables& tables) {
   const KeptItem* definition = nullptr;
   const Kept& kept = tables.kept[tables.characters[end.ender].kept];
   tables.items.ForEach(kept.self, [&](const KeptItem& item) {
@@ -82,7 +82,7 @@ class TableFinder {
 
 void TableFinder::Row(Part row) {
   std::vector<HtmlCell> cells;
-  const auto ends = [this](const HtmlParagraph& one) {
+  const auto ends = [this](const CellParagraph& one) {
     return one.level == level_ && (one.endsCell || one.endsRow);
   };
   for (const Part content : Split(row, ends)) cells.push_back({.content = content});
@@ -143,7 +143,7 @@ HtmlTable TableFinder::Finish() {
 
 HtmlTable FindHtmlTable(Part part, int level, const FormatTables& tables) {
   TableFinder finder(level, tables);
-  const auto ends = [=](const HtmlParagraph& one) { return one.level == level && one.endsRow; };
+  const auto ends = [=](const CellParagraph& one) { return one.level == level && one.endsRow; };
   for (const Part row : Split(part, ends)) finder.Row(row);
   return finder.Finish();
 }

@@ -4,12 +4,12 @@
 #include <span>
 #include <vector>
 
-#include "html/write/HtmlParagraphs.h"
+#include "document/tables/CellParagraphs.h"
 
 namespace lumenote {
 
 struct HtmlCell {
-  std::span<const HtmlParagraph> content;
+  std::span<const CellParagraph> content;
   std::int32_t width = 1;  // twips
   int columns = 1;
   int rows = 1;
@@ -22,6 +22,6 @@ struct HtmlTable {
 };
 
 /// The table that the rows of that level make up, which fill `part`.
-HtmlTable FindHtmlTable(std::span<const HtmlParagraph> part, int level, const FormatTables& tables);
+HtmlTable FindHtmlTable(std::span<const CellParagraph> part, int level, const FormatTables& tables);
 
 }  // namespace lumenote

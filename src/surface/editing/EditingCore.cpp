@@ -7,6 +7,7 @@
 #include "base/RuntimeError.h"
 #include "base/ScopedFlag.h"
 #include "document/KeptEdits.h"
+#include "document/tables/TableRow.h"
 #include "surface/editing/MergeEdit.h"
 
 namespace lumenote {
@@ -166,8 +167,12 @@ void EditingCore::Replace(Position from, Position to, const Fragment& fragment) 
   RecordEdit(history_.Apply(from, to, fragment));
 }
 
+// A paragraph in a table has other lines once it is part of a row.
 void EditingCore::RecordEdit(const DocumentChange& edit) {
-  lines_.Edited(edit.at);
+  const Document& document = Content();
+  const Position rows = FirstOfRowsAround(document, edit.at);
+  const bool inRow = rows < document.ParagraphStart(document.ParagraphOf(edit.at));
+  lines_.Edited(inRow ? rows : edit.at);
   MergeEdit(change_, edit);
   changed_ = true;
 }

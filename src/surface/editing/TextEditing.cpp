@@ -5,6 +5,7 @@
 
 #include "base/Strings.h"
 #include "document/KeptEdits.h"
+#include "document/tables/TableRow.h"
 
 namespace lumenote {
 
@@ -21,8 +22,14 @@ CharId TextEditing::TypedFormat() const {
 Fragment TextEditing::Plain(std::u16string_view text) const {
   const bool hasBreaks = text.find_first_of(kBreak) != std::u16string_view::npos;
   const Position start = core_.Selected().start;
-  const ParaId paragraph = hasBreaks ? core_.Content().ParaFormatAt(start) : 0;
-  return PlainFragment(text, TypedFormat(), paragraph);
+  return PlainFragment(text, TypedFormat(), hasBreaks ? TypedParagraph(start) : 0);
+}
+
+/// In a table, that of the paragraph in its cell.
+ParaId TextEditing::TypedParagraph(Position start) const {
+  const ParaId own = core_.Content().ParaFormatAt(start);
+  if (!RowAround(core_.Content(), start)) return own;
+  return core_.Formats().paragraphs.Intern(FormatInCell(core_.Content(), start));
 }
 
 void TextEditing::ReplaceSelection(UndoKind kind, std::u16string_view text) {
@@ -56,7 +63,7 @@ bool TextEditing::IsSelected(std::u16string_view text) const {
   const Selection old = core_.Selected();
   if (static_cast<std::size_t>(old.Length()) != text.size()) return false;
   const CharId format = TypedFormat();
-  const ParaId paragraph = document.ParaFormatAt(old.start);
+  const ParaId paragraph = TypedParagraph(old.start);
   bool same = true;
   document.ForEachRun(old.start, old.end, [&](Position at, TextView piece, CharId id) {
     const auto offset = static_cast<std::size_t>(at - old.start);
@@ -92,7 +99,7 @@ void TextEditing::ReplaceRange(Position from, Position to, const Fragment& fragm
   if (first != last) {
     const bool firstStays = from > document.ParagraphStart(first) ||
                             (fragment.Length() > 0 && to > document.ParagraphStart(last));
-    if (firstStays) Reformat(last, document.ParaFormatAt(from));
+    if (firstStays && !ReformatCell(from, to)) Reformat(last, document.ParaFormatAt(from));
   }
   ReplaceKeepingSectionStart(from, to, fragment);
 }
@@ -110,6 +117,21 @@ void TextEditing::ReplaceKeepingSectionStart(Position from, Position to, const F
   Fragment next = document.Copy(from, behind);
   if (next.Length() == 0) next.mark = document.Mark();
   core_.Replace(from, behind, WithSectionStart(std::move(next), tables, sectionStart));
+}
+
+/// Gives the paragraph at `to` the format of the one at `from` if both are in the same cell, which
+/// ends with a tab.
+bool TextEditing::ReformatCell(Position from, Position to) {
+  const Document& document = core_.Content();
+  const auto tab = CellEndBehind(document, to);
+  if (!tab || CellAround(document, from) != CellAround(document, to)) return false;
+  const ParaId format = TypedParagraph(from);
+  const auto map = [&](CharId id) {
+    return WithCellFormat(id, core_.Formats(), [=](ParaId) { return format; });
+  };
+  if (const auto mapped = document.MapFormats(*tab, *tab + 1, map, {}))
+    core_.Replace(*tab, *tab + 1, *mapped);
+  return true;
 }
 
 void TextEditing::Reformat(Position paragraph, ParaId format) {

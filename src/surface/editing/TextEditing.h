@@ -37,9 +37,11 @@ class TextEditing {
   void TakeTables(const Fragment& fragment, Position at);
   void ReplaceRange(Position from, Position to, const Fragment& fragment);
   void ReplaceKeepingSectionStart(Position from, Position to, const Fragment& fragment);
+  bool ReformatCell(Position from, Position to);
   void Reformat(Position paragraph, ParaId format);
   bool IsSelected(std::u16string_view text) const;
   CharId TypedFormat() const;
+  ParaId TypedParagraph(Position start) const;
   void TypeBreak();
 
   EditingCore& core_;

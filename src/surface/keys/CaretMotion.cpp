@@ -1,6 +1,7 @@
 #include "surface/keys/CaretMotion.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "surface/keys/Words.h"
 
@@ -15,17 +16,6 @@ constexpr int kPageWithoutView = 20;
 Position LastCaret(const Document& document, const Line& line) {
   if (line.end != line.next) return line.end;
   return std::max(line.start, document.SnapBackward(line.end - 1));
-}
-
-/// The lines of the row's cell nearest to `x`.
-auto CellAt(const std::vector<CellLine>& row, float x) {
-  const auto reaches = [&](const CellLine& line) { return x < line.right; };
-  const auto line = std::ranges::find_if(row, reaches);
-  const CellLine& nearest = line == row.end() ? row.back() : *line;
-  const auto precedes = [](const CellLine& one, const CellLine& other) {
-    return one.cell < other.cell;
-  };
-  return std::equal_range(row.begin(), row.end(), nearest, precedes);
 }
 
 }  // namespace
@@ -81,23 +71,15 @@ Line CaretMotion::ShownLine(Position position) const {
 }
 
 CaretMotion::CaretLine CaretMotion::LineAt(Position position) const {
-  const CellLines row = breaker_.CellLines(core_.Content(), position);
-  if (!row.empty())
-    return LineOfCell(row,
-                      std::prev(std::ranges::upper_bound(row, position, {}, &CellLine::start)));
+  if (const auto line = breaker_.FindCellLine(core_.Content(), position, CellStep::Here, 0))
+    return LineOfCell(*line);
   const Line line = ShownLine(position);
   return {line.start, LastCaret(core_.Content(), line), line.start - 1, line.next};
 }
 
-CaretMotion::CaretLine CaretMotion::LineOfCell(const CellLines& row,
-                                               CellLines::const_iterator line) const {
-  const Document& document = core_.Content();
-  const Position end = row.back().end;
-  const bool first = line == row.begin() || std::prev(line)->cell != line->cell;
-  const bool last = std::next(line) == row.end() || std::next(line)->cell != line->cell;
-  const Position behind = end < document.Length() ? end + 2 : -1;
-  return {line->start, line->end, first ? row.front().start - 1 : std::prev(line)->start,
-          last ? behind : std::next(line)->start};
+CaretMotion::CaretLine CaretMotion::LineOfCell(const CellLine& line) const {
+  const Position behind = line.row.end < core_.Content().Length() ? line.row.end + 2 : -1;
+  return {line.start, line.end, line.row.start - 1, behind, true};
 }
 
 Position CaretMotion::LeftOf(bool extend) const {
@@ -111,16 +93,17 @@ Position CaretMotion::RightOf(bool extend) const {
   return document.SnapForward(std::min(core_.Caret() + 1, document.Length()));
 }
 
-CaretMotion::CaretLine CaretMotion::Above(const CaretLine& line) const {
-  const CellLines row = breaker_.CellLines(core_.Content(), line.above);
-  if (row.empty() || row.back().end >= line.start) return LineAt(line.above);
-  return LineOfCell(row, std::prev(CellAt(row, *goal_).second));
-}
-
-CaretMotion::CaretLine CaretMotion::Below(const CaretLine& line) const {
-  const CellLines row = breaker_.CellLines(core_.Content(), line.below);
-  if (row.empty() || row.front().start <= line.start) return LineAt(line.below);
-  return LineOfCell(row, CellAt(row, *goal_).first);
+CaretMotion::CaretLine CaretMotion::Beside(const CaretLine& line, bool below) const {
+  const auto find = [&](Position position, CellStep step) {
+    return breaker_.FindCellLine(core_.Content(), position, step, *goal_);
+  };
+  if (line.inCell)
+    if (const auto next = find(line.start, below ? CellStep::Below : CellStep::Above))
+      return LineOfCell(*next);
+  const Position beside = below ? line.below : line.above;
+  if (beside < 0) return line;
+  const auto entered = find(beside, below ? CellStep::Topmost : CellStep::Lowest);
+  return entered ? LineOfCell(*entered) : LineAt(beside);
 }
 
 Position CaretMotion::Vertically(int lines) {
@@ -129,8 +112,11 @@ Position CaretMotion::Vertically(int lines) {
   if (!goal_ || goalCaret_ != core_.Caret())
     goal_ = breaker_.XOf(document, from.start, core_.Caret());
   CaretLine to = from;
-  for (; lines < 0 && to.above >= 0; ++lines) to = Above(to);
-  for (; lines > 0 && to.below >= 0; --lines) to = Below(to);
+  for (int moved = 0; moved < std::abs(lines); ++moved) {
+    const CaretLine next = Beside(to, lines > 0);
+    if (next == to) break;
+    to = next;
+  }
   goalCaret_ = to == from ? core_.Caret() : breaker_.AtX(document, to.start, to.end, *goal_);
   return goalCaret_;
 }

@@ -23,19 +23,19 @@ class CaretMotion {
   struct CaretLine {
     Position start = 0;
     Position end = 0;     // the last caret position in it
-    Position above = -1;  // in the line above; -1: it is the first
+    Position above = -1;  // in the line or row above; -1: it is the first
     Position below = -1;
+    bool inCell = false;
     bool operator==(const CaretLine&) const = default;
   };
-  using CellLines = std::vector<CellLine>;
 
   Position LeftOf(bool extend) const;
   Position RightOf(bool extend) const;
   Line ShownLine(Position position) const;
   CaretLine LineAt(Position position) const;
-  CaretLine LineOfCell(const CellLines& row, CellLines::const_iterator line) const;
-  CaretLine Above(const CaretLine& line) const;
-  CaretLine Below(const CaretLine& line) const;
+  CaretLine LineOfCell(const CellLine& line) const;
+  /// The next line upwards or downwards; the same one at the document's edge.
+  CaretLine Beside(const CaretLine& line, bool below) const;
   int LinesOf(const KeyStroke& key) const;
   Position Vertically(int lines);
 

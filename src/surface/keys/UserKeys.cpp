@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "base/Characters.h"
+#include "document/tables/TableRow.h"
 #include "surface/keys/CellKeys.h"
 #include "surface/keys/Words.h"
 
@@ -119,13 +120,20 @@ void UserKeys::DeleteNext() {
 
 void UserKeys::DeleteNextWord() { Erase(NextWord(core_.Content(), core_.Caret())); }
 
-// Deletes the selection or, if empty, the range between the caret and `to`.
+// Deletes the selection or, if empty, the range between the caret and `to`, as far as it is in the
+// caret's cell: cells are never joined, nor is a table with the text around it.
 void UserKeys::Erase(Position to) {
   if (core_.HasSelection()) return text_.DeleteSelection(UndoKind::Delete);
+  const Selection cell = CellAround(core_.Content(), core_.Caret());
+  to = std::clamp(to, cell.start, cell.end);
   text_.Delete(UndoKind::Delete, std::min(core_.Caret(), to), std::max(core_.Caret(), to));
 }
 
-void UserKeys::Break() { text_.Type(u"\r\n"); }
+// A row that is not marked as one would fall apart.
+void UserKeys::Break() {
+  if (IsInUnmarkedRow(core_.Content(), core_.Caret())) return BreakLine();
+  text_.Type(u"\r\n");
+}
 
 void UserKeys::BreakLine() { text_.Type(u"\v"); }
 

@@ -16,10 +16,7 @@ Selection AccessibleText::Visible() const {
   return {pane.PositionAt({0, 0}), pane.PositionAt({pane.Size().width, pane.Size().height})};
 }
 
-Selection AccessibleText::LineAt(Position offset) const {
-  const Line line = view_.Pane().ShownLine(offset);
-  return {line.start, line.next < 0 ? line.end : line.next};
-}
+Selection AccessibleText::LineAt(Position offset) const { return view_.Pane().CellLine(offset); }
 
 Selection AccessibleText::At(Position offset, TextUnit unit) const {
   offset = std::clamp(offset, 0, Content().Length());

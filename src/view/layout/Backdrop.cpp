@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "document/BorderSource.h"
+#include "document/tables/TableRow.h"
 #include "view/layout/LineStack.h"
-#include "view/layout/RowCells.h"
 
 namespace lumenote {
 
@@ -62,14 +63,16 @@ class Painter {
   void Down(const BorderLine& line, double top, double bottom, double left);
   /// A line that marks a cell without lines of its own.
   void Grid(const PixelRect& area) {
-    if (colours_.grid) Fill(area, Mixed(colours_.ground, colours_.ink, kGridShare));
+    if (colours_.grid) Line(area, Mixed(colours_.ground, colours_.ink, kGridShare));
   }
   double Thickness(const BorderLine& line) const { return ThicknessOf(layouter_, line); }
 
   std::vector<BackdropPart> parts;
 
  private:
-  void Fill(PixelRect area, Colour colour);
+  PixelRect Clipped(const PixelRect& area) const;
+  void Fill(const PixelRect& area, Colour colour);
+  void Line(const PixelRect& area, Colour colour);
   void Strokes(const BorderLine& line, const PixelRect& area, bool across);
   void Dashes(PixelRect area, bool across, double dash, Colour colour);
   Colour InkOf(const BorderLine& line) const;
@@ -80,12 +83,22 @@ class Painter {
   const BackdropColours& colours_;
 };
 
-void Painter::Fill(PixelRect area, Colour colour) {
-  area.left = std::max(area.left, clip_.left);
-  area.top = std::max(area.top, clip_.top);
-  area.right = std::min(area.right, clip_.right);
-  area.bottom = std::min(area.bottom, clip_.bottom);
-  if (!area.IsEmpty()) parts.push_back({area, colour});
+PixelRect Painter::Clipped(const PixelRect& area) const {
+  return {std::max(area.left, clip_.left), std::max(area.top, clip_.top),
+          std::min(area.right, clip_.right), std::min(area.bottom, clip_.bottom)};
+}
+
+void Painter::Fill(const PixelRect& area, Colour colour) {
+  if (const PixelRect seen = Clipped(area); !seen.IsEmpty()) parts.push_back({seen, colour});
+}
+
+void Painter::Line(const PixelRect& area, Colour colour) {
+  PixelRect seen = Clipped(area);
+  if (seen.IsEmpty()) return;
+  const bool across = area.Width() > area.Height();
+  (across ? seen.top : seen.left) = across ? area.top : area.left;
+  (across ? seen.bottom : seen.right) = across ? area.bottom : area.right;
+  parts.push_back({seen, colour, true});
 }
 
 // Text of automatic colour stays readable on a shade that the note's author saw under black text.
@@ -123,14 +136,14 @@ void Painter::Strokes(const BorderLine& line, const PixelRect& area, bool across
     case Style::None:
       return;
     case Style::Single:
-      return Fill(area, ink);
+      return Line(area, ink);
     case Style::Double: {
       PixelRect first = area;
       PixelRect last = area;
       (across ? first.bottom : first.right) -= 2 * width / 3;
       (across ? last.top : last.left) += 2 * width / 3;
-      Fill(first, ink);
-      return Fill(last, ink);
+      Line(first, ink);
+      return Line(last, ink);
     }
     case Style::Dotted:
       return Dashes(area, across, width, ink);
@@ -154,20 +167,20 @@ void Painter::Dashes(PixelRect area, bool across, double dash, Colour colour) {
 
 // --- rows
 
-bool HasRowAbove(const Document& document, const Piece& piece) {
-  return piece.from > 0 && RowAt(document, piece.from - 1);
+const Kept* RowAbove(const Document& document, const Piece& piece) {
+  return piece.from > 0 ? RowEndAt(document, piece.from - 2) : nullptr;
 }
 
 /// Where lines of a cell are, on whole pixels.
-PixelRect PlaceOf(const PieceCell& cell, const Piece& row) {
-  return {std::round(cell.left), 0, std::round(cell.right), row.height};
+PixelRect PlaceOf(const PieceCell& cell) {
+  return {std::round(cell.left), cell.top, std::round(cell.right), cell.bottom};
 }
 
 void PaintGrid(Painter& painter, const PixelRect& cell, bool top) {
-  if (top) painter.Grid({cell.left, 0, cell.right + 1, 1});
+  if (top) painter.Grid({cell.left, cell.top, cell.right + 1, cell.top + 1});
   painter.Grid({cell.left, cell.bottom - 1, cell.right + 1, cell.bottom});
-  painter.Grid({cell.left, 0, cell.left + 1, cell.bottom});
-  painter.Grid({cell.right, 0, cell.right + 1, cell.bottom});
+  painter.Grid({cell.left, cell.top, cell.left + 1, cell.bottom});
+  painter.Grid({cell.right, cell.top, cell.right + 1, cell.bottom});
 }
 
 void PaintCell(Painter& painter, const Borders& borders, const PixelRect& cell, bool top) {
@@ -180,31 +193,47 @@ void PaintCell(Painter& painter, const Borders& borders, const PixelRect& cell, 
   painter.Down(sides[Borders::Right], cell.top, cell.bottom, cell.right);
 }
 
+/// What is kept at the end of the row that ends where this one begins; empty if none does.
+std::optional<ItemId> RowBefore(const Document& document, const Piece& piece,
+                                const PieceCell& cell) {
+  if (cell.parent < 0) {
+    const Kept* above = RowAbove(document, piece);
+    return above ? std::optional(above->self) : std::nullopt;
+  }
+  for (const PieceCell& other : piece.cells)
+    if (other.parent == cell.parent && other.row != cell.row && other.bottom == cell.top)
+      return piece.rows[static_cast<std::size_t>(other.row)];
+  return std::nullopt;
+}
+
 /// Whether a row draws the line between itself and the row above, which draws its own below it.
-bool DrawsTop(const Document& document, const Piece& row) {
-  if (!HasRowAbove(document, row)) return true;
-  const Kept& above = *RowAt(document, row.from - 1);
-  const RowFrame frame = RowFrameOf(document.Formats(), above.self);
+bool DrawsTop(const Document& document, const Piece& piece, const PieceCell& first) {
+  const auto above = RowBefore(document, piece, first);
+  if (!above) return true;
+  const RowFrame frame = RowFrameOf(document.Formats(), *above);
   return frame.IsLined() && std::ranges::all_of(frame.cells, [](const Borders& cell) {
            return cell.sides[Borders::Bottom].style == Style::None;
          });
 }
 
-void PaintRow(Painter& painter, const Document& document, const Piece& row) {
-  const RowFrame frame = RowFrameOf(document.Formats(), RowAt(document, row.from)->self);
-  const bool top = DrawsTop(document, row);
+void PaintRow(Painter& painter, const Document& document, const Piece& piece, int row) {
+  const RowFrame frame = RowFrameOf(document.Formats(), piece.rows[static_cast<std::size_t>(row)]);
+  std::vector<const PieceCell*> cells;
+  for (const PieceCell& cell : piece.cells)
+    if (cell.row == row) cells.push_back(&cell);
+  const bool top = DrawsTop(document, piece, *cells.front());
   const bool lined = frame.IsLined();
-  const std::size_t skipped = frame.cells.size() - std::min(frame.cells.size(), row.cells.size());
+  const std::size_t skipped = frame.cells.size() - std::min(frame.cells.size(), cells.size());
   const auto bordersOf = [&](std::size_t cell) {
     return skipped + cell < frame.cells.size() ? frame.cells[skipped + cell] : Borders();
   };
-  for (std::size_t i = 0; i < row.cells.size(); ++i)
-    painter.Shade(PlaceOf(row.cells[i], row), bordersOf(i).shading);
-  for (std::size_t i = 0; i < row.cells.size(); ++i)
+  for (std::size_t i = 0; i < cells.size(); ++i)
+    painter.Shade(PlaceOf(*cells[i]), bordersOf(i).shading);
+  for (std::size_t i = 0; i < cells.size(); ++i)
     if (lined)
-      PaintCell(painter, bordersOf(i), PlaceOf(row.cells[i], row), top);
+      PaintCell(painter, bordersOf(i), PlaceOf(*cells[i]), top);
     else
-      PaintGrid(painter, PlaceOf(row.cells[i], row), top);
+      PaintGrid(painter, PlaceOf(*cells[i]), top);
 }
 
 // --- paragraphs
@@ -225,13 +254,13 @@ bool Join(const FormatTables& tables, const ParaFormat& one, const ParaFormat& o
 
 /// The format of the paragraph above, or below, if it is in the same box.
 bool JoinsAbove(const Document& document, const Piece& piece, const ParaFormat& format) {
-  return piece.from > 0 && !HasRowAbove(document, piece) &&
+  return piece.from > 0 && !RowAbove(document, piece) &&
          Join(document.Formats(), FormatOf(document, piece.from - 1), format);
 }
 
 bool JoinsBelow(const Document& document, const Piece& piece, const ParaFormat& format) {
   const Position below = piece.to + 2;
-  return below <= document.Length() && !RowAt(document, below) &&
+  return below <= document.Length() && !RowAround(document, below) &&
          Join(document.Formats(), FormatOf(document, below), format);
 }
 
@@ -297,15 +326,16 @@ BorderRoom BorderRoomOf(const TextLayouter& layouter, const FormatTables& tables
 
 std::uint64_t BackdropLook(const Document& document, const Piece& piece) {
   const ParaFormat& format = document.Formats().paragraphs[piece.format];
-  const Kept* row = piece.cells.empty() ? nullptr : RowAt(document, piece.from);
-  if (!row && format.words == 0) return 0;
-  std::uint64_t look = Hashed(row ? row->self + 1 : 0, format.words);
-  for (const Position beside : {piece.from - 1, piece.to + 2}) {
+  if (piece.rows.empty() && format.words == 0) return 0;
+  std::uint64_t look = format.words;
+  for (const ItemId row : piece.rows) look = Hashed(look, row + 1);
+  for (const Position beside : {piece.from - 2, piece.to + 2}) {
     if (beside < 0 || beside > document.Length()) continue;
-    const Kept* other = RowAt(document, beside);
+    const Kept* other = RowEndAt(document, beside);
     look = Hashed(look, other ? other->self + 1 : 0);
     look = Hashed(look, document.ParaFormatAt(beside));
   }
+  look = Hashed(look, piece.rows.empty() && RowAround(document, piece.to + 2) ? 1 : 0);
   return look | 1;
 }
 
@@ -314,7 +344,7 @@ std::vector<BackdropPart> BackdropOf(const TextLayouter& layouter, const Documen
                                      const BackdropColours& colours) {
   Painter painter(layouter, document, clip, colours);
   if (!piece.cells.empty()) {
-    PaintRow(painter, document, piece);
+    for (int row = 0; row < std::ssize(piece.rows); ++row) PaintRow(painter, document, piece, row);
     return std::move(painter.parts);
   }
   const FormatTables& tables = document.Formats();

@@ -24,6 +24,7 @@ std::uint64_t BackdropLook(const Document& document, const Piece& piece);
 struct BackdropPart {
   PixelRect area;
   Colour colour = 0;
+  bool line = false;  // thin: its thickness is not clipped
 };
 
 /// The colours of a surface.

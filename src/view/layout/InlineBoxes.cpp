@@ -13,17 +13,15 @@ namespace lumenote {
 
 namespace {
 
-double RoomOf(const TextLayouter& layouter, const ParaFormat& format) {
-  const LineEdges edges = EdgesOf(layouter, format);
-  return edges.Room(std::max(edges.first, edges.following));
-}
+/// Of the lines that follow the first one, or of the first if that has less.
+double RoomOf(const LineEdges& edges) { return edges.Room(std::max(edges.first, edges.following)); }
 
-/// The width of the cell that holds a unit; that of the paragraph if there are no cells.
-double RoomAt(const TextLayouter& layouter, const ParaFormat& format,
-              const std::vector<CellBox>& cells, const std::vector<int>& ends, int index) {
-  if (cells.empty()) return RoomOf(layouter, format);
-  const auto end = std::upper_bound(ends.begin(), std::prev(ends.end()), index);
-  return cells[static_cast<std::size_t>(end - ends.begin())].Room();
+/// The room in the cell that holds a unit; that of the paragraph if there are no cells.
+double RoomAt(const TextLayouter& layouter, const FormatTables& tables, const Piece& piece,
+              const RowCells& row, int index) {
+  if (row.Empty()) return RoomOf(EdgesOf(layouter, tables.paragraphs[piece.format]));
+  const CellText& text = row.TextAt(index);
+  return RoomOf(EdgesIn(layouter, tables.paragraphs[text.format], row.CellOf(text)));
 }
 
 /// Proportions stay; a box has whole pixels, at least one.
@@ -74,18 +72,17 @@ void NumberNotes(const TextLayouter& layouter, const Document& document, const P
 }  // namespace
 
 std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& document,
-                               const Piece& piece, const std::vector<CellBox>& cells,
-                               const std::vector<int>& ends) {
+                               const Piece& piece, const RowCells& row, int length) {
   const FormatTables& tables = document.Formats();
   std::vector<InlineBox> boxes;
   for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
     const CharFormat& format = tables.characters[run->format];
     if (EmbeddedItem(tables, format) == 0) continue;
-    const double room = RoomAt(layouter, tables.paragraphs[piece.format], cells, ends, run->start);
+    const double room = RoomAt(layouter, tables, piece, row, run->start);
     const InlineBox box = BoxOf(layouter, tables, format, room);
     if (box.item == 0) continue;
     const auto next = std::next(run);
-    const int end = next == piece.runs.end() ? ends.back() : next->start;
+    const int end = next == piece.runs.end() ? length : next->start;
     for (int i = run->start; i < end; ++i)
       if (!piece.IsComposed(i)) boxes.push_back(box), boxes.back().index = i;
   }

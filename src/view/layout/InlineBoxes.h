@@ -12,12 +12,11 @@ namespace lumenote {
 inline constexpr double kNumberHeight = 0.8;
 inline constexpr double kNumberBaseline = 0.6;
 
-/// Those in the text of a piece, which has its runs already; `ends` are those of its cells, if any,
-/// and of the text. Pictures are as large as the source says, but scaled down to what the paragraph
+/// Those in the text of a piece, which has `length` units, its runs already and the cells of `row`,
+/// if any. Pictures are as large as the source says, but scaled down to what the paragraph
 /// or cell has room for; a footnote without a number has no box.
 std::vector<InlineBox> BoxesIn(const TextLayouter& layouter, const Document& document,
-                               const Piece& piece, const std::vector<CellBox>& cells,
-                               const std::vector<int>& ends);
+                               const Piece& piece, const RowCells& row, int length);
 
 /// The ascent of a line's text, at least that of the boxes in it.
 void Extend(const std::vector<InlineBox>& boxes, const PieceLine& line, double& ascent);

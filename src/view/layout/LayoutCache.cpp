@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cassert>
 
+#include "document/tables/TableRow.h"
+
 namespace lumenote {
 
 namespace {
@@ -136,6 +138,8 @@ void LayoutCache::Changed(const DocumentChange& change) {
   pieces_.erase(first, last);
   DropOldFormat(change.at);
   DropOldFormat(change.at + change.inserted);
+  DropRows(change.at);
+  DropRows(change.at + change.inserted);
   assert(IsSound(change.at) && IsSound(change.at + change.inserted));
 }
 
@@ -148,6 +152,18 @@ void LayoutCache::DropOldFormat(Position position) {
   pieces_.erase(
       std::remove_if(first, last, [&](const auto& piece) { return piece->format != format; }),
       last);
+}
+
+// An edit in a table may part or join rows, and with them paragraphs that it does not touch.
+void LayoutCache::DropRows(Position position) {
+  const Position first = FirstOfRowsAround(document_, position);
+  const auto row = RowAround(document_, position);
+  if (!row && first == document_.ParagraphStart(document_.ParagraphOf(position))) return;
+  const Position last = row ? row->end : position;
+  std::erase_if(pieces_, [&](const auto& piece) {
+    const bool sound = row && piece->from == row->start && piece->to == row->end;
+    return piece->to >= first && piece->from <= last && !sound;
+  });
 }
 
 // Whether the order is kept, and each piece at `position` is sound.

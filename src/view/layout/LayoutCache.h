@@ -36,6 +36,7 @@ class LayoutCache {
   const Piece* Find(Position position);
   Iterator FirstTouched(Position position);
   void DropOldFormat(Position position);
+  void DropRows(Position position);
   const Piece& Add(std::unique_ptr<Piece> piece);
   const Piece& LayOutFrom(Position from, Position paragraphEnd);
   const Piece& LayOutTo(Position position);

@@ -9,7 +9,6 @@ namespace lumenote {
 
 namespace {
 
-constexpr double kLeastWidth = 16;
 constexpr double kBulletRoom = 240;  // twips; the minimum
 constexpr double kRowRoom = 30;      // twips between the text of a row and the line below it
 
@@ -20,19 +19,35 @@ std::uint64_t Mixed(std::uint64_t hash, std::uint64_t value) {
 
 }  // namespace
 
-double LineEdges::Room(double left) const { return std::max(right - left, kLeastWidth); }
+namespace {
 
-LineEdges EdgesOf(const TextLayouter& layouter, const ParaFormat& format) {
+LineEdges EdgesWithin(const TextLayouter& layouter, const ParaFormat& format, double width) {
   LineEdges edges;
   const double first = layouter.Pixels(format.firstIndent);
   const double hanging = layouter.Pixels(format.hangingIndent);
   edges.first = first;
   edges.following = first + hanging;
-  edges.right = layouter.Width() - layouter.Pixels(format.rightIndent);
+  edges.right = width - layouter.Pixels(format.rightIndent);
   if (format.bullet) {
     edges.bullet = std::max(first, 0.0);
     edges.first = first + std::max(hanging, layouter.Pixels(kBulletRoom));
   }
+  return edges;
+}
+
+}  // namespace
+
+LineEdges EdgesOf(const TextLayouter& layouter, const ParaFormat& format) {
+  return EdgesWithin(layouter, format, layouter.Width());
+}
+
+LineEdges EdgesIn(const TextLayouter& layouter, const ParaFormat& format, const CellBox& cell) {
+  LineEdges edges = EdgesWithin(layouter, format, cell.Room());
+  edges.least = std::min(LineEdges::kLeastRoom, cell.Room());
+  edges.right = std::clamp(edges.right, edges.least, cell.Room());
+  for (double* left : {&edges.first, &edges.following})
+    *left = std::clamp(*left, 0.0, edges.right - edges.least);
+  edges.bullet = std::min(edges.bullet, edges.first);
   return edges;
 }
 
@@ -57,18 +72,31 @@ std::vector<PixelTab> TabsOf(const TextLayouter& layouter, const TabStops& stops
   return tabs;
 }
 
-LineStack::LineStack(const TextLayouter& layouter, const Document& document, Piece& piece)
+LineStack::LineStack(const TextLayouter& layouter, const Document& document, Piece& piece,
+                     const RowCells& row)
     : layouter_(layouter),
+      tables_(document.Formats()),
       piece_(piece),
-      format_(document.Formats().paragraphs[piece.format]),
-      edges_(EdgesOf(layouter, format_)),
-      room_(BorderRoomOf(layouter, document.Formats(), format_)),
-      start_(piece.opens ? layouter.Pixels(format_.spaceBefore) + room_.above : 0),
-      top_(start_),
-      most_(start_) {}
+      row_(row),
+      format_(&tables_.paragraphs[piece.format]),
+      edges_(EdgesOf(layouter, *format_)),
+      room_(row.Empty() ? BorderRoomOf(layouter, tables_, *format_) : BorderRoom()),
+      top_(piece.opens ? layouter.Pixels(format_->spaceBefore) + room_.above : 0),
+      cells_(row.cells.size()),
+      rows_(row.rows.size()) {
+  piece.rows = row.rows;
+  for (const CellBox& cell : row.cells)
+    piece.cells.push_back(
+        {.left = cell.left, .right = cell.right, .row = cell.row, .parent = cell.parent});
+  if (row.Empty() && piece.opens) AddBullet();
+}
+
+void LineStack::AddBullet() {
+  if (edges_.bullet >= 0) piece_.bullets.push_back({placed_, left_ + edges_.bullet});
+}
 
 double LineStack::LineHeight(double natural) const {
-  switch (format_.lineRule) {
+  switch (format_->lineRule) {
     case LineRule::Single:
       return natural;
     case LineRule::OneAndHalf:
@@ -76,11 +104,11 @@ double LineStack::LineHeight(double natural) const {
     case LineRule::Double:
       return natural * 2;
     case LineRule::AtLeast:
-      return std::max(natural, layouter_.Pixels(format_.lineSpacing));
+      return std::max(natural, layouter_.Pixels(format_->lineSpacing));
     case LineRule::Exact:
-      return std::max(1.0, layouter_.Pixels(format_.lineSpacing));
+      return std::max(1.0, layouter_.Pixels(format_->lineSpacing));
     case LineRule::Multiple:
-      return natural * std::clamp(1.0 * format_.lineSpacing / kSingleLine, 0.1, 100.0);
+      return natural * std::clamp(1.0 * format_->lineSpacing / kSingleLine, 0.1, 100.0);
   }
   return natural;
 }
@@ -91,24 +119,83 @@ void LineStack::Place(PieceLine& line, double ascent, double descent) {
   line.top = std::round(top_);
   line.height = std::max(1.0, std::round(LineHeight(natural)));
   const bool roomAbove =
-      format_.lineRule == LineRule::AtLeast || format_.lineRule == LineRule::Exact;
+      format_->lineRule == LineRule::AtLeast || format_->lineRule == LineRule::Exact;
   line.baseline = std::round(line.top + ascent + (roomAbove ? line.height - natural : 0));
   if (line.height < natural) piece_.overlaps = true;
   top_ = line.top + line.height;
-  most_ = std::max(most_, top_);
   ++placed_;
 }
 
-void LineStack::BeginCell(double left, double right) {
-  piece_.cells.push_back({placed_, left, right});
-  top_ = start_;
+// --- rows of cells
+
+void LineStack::Begin(const CellText& text) {
+  EndText();
+  const auto isAround = [&](int cell) {
+    int at = text.cell;
+    while (at > cell) at = row_.cells[static_cast<std::size_t>(at)].parent;
+    return at == cell;
+  };
+  while (!open_.empty() && !isAround(open_.back())) Leave();
+  Enter(text.cell);
+  const CellBox& cell = row_.CellOf(text);
+  format_ = &tables_.paragraphs[text.format];
+  edges_ = EdgesIn(layouter_, *format_, cell);
+  left_ = std::round(cell.TextLeft());
+  top_ = cells_[static_cast<std::size_t>(text.cell)].bottom +
+         layouter_.Pixels(std::max(format_->spaceBefore, 0));
+  text_ = &text;
+  look_ = Mixed(look_, text.format);
+  AddBullet();
+}
+
+void LineStack::EndText() {
+  if (!text_) return;
+  cells_[static_cast<std::size_t>(text_->cell)].bottom =
+      top_ + layouter_.Pixels(std::max(format_->spaceAfter, 0));
+  piece_.lines[static_cast<std::size_t>(placed_) - 1].ending = text_->units;
+}
+
+/// Enters a cell and those around it, as far as they are not open. A table in a cell begins below
+/// what the cell has so far, and its cells begin alike.
+void LineStack::Enter(int cell) {
+  if (!open_.empty() && open_.back() == cell) return;
+  const CellBox& box = row_.cells[static_cast<std::size_t>(cell)];
+  if (box.parent >= 0) Enter(box.parent);
+  Extent& row = rows_[static_cast<std::size_t>(box.row)];
+  if (row.top < 0)
+    row.top = box.parent < 0 ? 0 : std::round(cells_[static_cast<std::size_t>(box.parent)].bottom);
+  cells_[static_cast<std::size_t>(cell)].bottom = row.top;
+  piece_.cells[static_cast<std::size_t>(cell)].firstLine = placed_;
+  open_.push_back(cell);
+}
+
+void LineStack::Leave() {
+  const auto cell = static_cast<std::size_t>(open_.back());
+  const CellBox& box = row_.cells[cell];
+  Extent& row = rows_[static_cast<std::size_t>(box.row)];
+  row.bottom = std::max(row.bottom, cells_[cell].bottom + layouter_.Pixels(kRowRoom));
+  piece_.cells[cell].endLine = placed_;
+  open_.pop_back();
+  if (box.parent >= 0) cells_[static_cast<std::size_t>(box.parent)].bottom = row.bottom;
+}
+
+void LineStack::FinishRows() {
+  EndText();
+  while (!open_.empty()) Leave();
+  for (PieceCell& cell : piece_.cells) {
+    cell.top = rows_[static_cast<std::size_t>(cell.row)].top;
+    cell.bottom = std::round(rows_[static_cast<std::size_t>(cell.row)].bottom);
+  }
+  piece_.height = piece_.cells.front().bottom;
 }
 
 void LineStack::Finish(std::u16string_view text) {
-  const bool spaced = piece_.closes && format_.spaceAfter > 0;
-  if (piece_.closes) most_ += piece_.cells.empty() ? room_.below : layouter_.Pixels(kRowRoom);
-  piece_.height = std::round(most_ + (spaced ? layouter_.Pixels(format_.spaceAfter) : 0));
-  if (piece_.opens) piece_.bulletX = edges_.bullet;
+  if (row_.Empty()) {
+    const double below = room_.below + layouter_.Pixels(std::max(format_->spaceAfter, 0));
+    piece_.height = std::round(piece_.closes ? top_ + below : top_);
+  } else {
+    FinishRows();
+  }
   for (PieceLine& line : piece_.lines) line.look = LookOf(line, text);
 }
 
@@ -122,6 +209,7 @@ std::uint64_t LineStack::LookOf(const PieceLine& line, std::u16string_view text)
   const auto start = static_cast<std::size_t>(line.start);
   std::uint64_t look = std::hash<std::u16string_view>()(
       text.substr(start, static_cast<std::size_t>(line.end) - start));
+  look = Mixed(look, look_);
   look = Mixed(look, piece_.format * std::uint64_t{4} + (opens ? 2 : 0) + (ends ? 1 : 0));
   auto run = std::upper_bound(piece_.runs.begin(), piece_.runs.end(), line.start,
                               [](int at, const PieceRun& one) { return at < one.start; });

@@ -1,30 +1,36 @@
 // Positions the lines of a paragraph: edges, tab stops, heights. All layouters use it.
 #pragma once
+#include <algorithm>
 #include <cstdint>
 #include <string_view>
 #include <vector>
 
 #include "view/layout/Backdrop.h"
-#include "view/layout/TextLayouter.h"
+#include "view/layout/RowCells.h"
 
 namespace lumenote {
 
 /// Distance of default tab stops, in twips.
 inline constexpr double kDefaultTabStep = 720;
 
-/// The limits of lines, in pixels from the text's left edge.
+/// The limits of lines, in pixels from the left edge of the text or of a cell's text.
 struct LineEdges {
+  static constexpr double kLeastRoom = 16;
+
   double first = 0;
   double following = 0;
   double right = 0;
-  double bullet = -1;  // negative: no bullet
+  double bullet = -1;         // negative: no bullet
+  double least = kLeastRoom;  // the room that a line always has
 
   double Left(bool firstLine) const { return firstLine ? first : following; }
-  /// Room of a line that starts at `left`; never less than a minimum.
-  double Room(double left) const;
+  /// Room of a line that starts at `left`.
+  double Room(double left) const { return std::max(right - left, least); }
 };
 
 LineEdges EdgesOf(const TextLayouter& layouter, const ParaFormat& format);
+/// Those of a paragraph in a cell, which its lines do not leave.
+LineEdges EdgesIn(const TextLayouter& layouter, const ParaFormat& format, const CellBox& cell);
 
 /// The share of a line's free room on the side where its text begins: 0, 0.5 or 1. Left and right
 /// are the page's own, but a paragraph from right to left begins at the right unless it says
@@ -42,35 +48,56 @@ std::vector<PixelTab> TabsOf(const TextLayouter& layouter, const TabStops& stops
                              const LineEdges& edges);
 
 /// Stacks the lines of a piece, whose starts and ends the layouter has determined: call `Place` for
-/// each in turn, then `Finish`.
+/// each in turn, then `Finish`; in a row of cells, `Begin` before the lines of each text.
 class LineStack {
  public:
   /// All must outlive the stack.
-  LineStack(const TextLayouter& layouter, const Document& document, Piece& piece);
+  LineStack(const TextLayouter& layouter, const Document& document, Piece& piece,
+            const RowCells& row);
 
-  const ParaFormat& Format() const { return format_; }
+  /// Of the paragraph or, in a row, of the present text.
+  const ParaFormat& Format() const { return *format_; }
   const LineEdges& Edges() const { return edges_; }
+  /// Where `Edges` are measured from, in pixels from the text's left edge.
+  double Left() const { return left_; }
   /// Positions the line below the previous one, given the extent of its text above and below its
   /// baseline.
   void Place(PieceLine& line, double ascent, double descent);
-  /// In a row of cells: the next line is the first of the cell between these edges.
-  void BeginCell(double left, double right);
-  /// Computes height, bullet and the lines' look values; `text` is the layout's.
+  /// The next line is the first of that text.
+  void Begin(const CellText& text);
+  /// Computes heights and the lines' look values; `text` is the layout's.
   void Finish(std::u16string_view text);
 
  private:
+  /// A cell or row on the way down. Lengths are pixels from the piece's top.
+  struct Extent {
+    double top = -1;    // of a row; negative: it has not begun
+    double bottom = 0;  // of what is placed
+  };
+
   double LineHeight(double natural) const;
   std::uint64_t LookOf(const PieceLine& line, std::u16string_view text) const;
+  void AddBullet();
+  void EndText();
+  void Enter(int cell);
+  void Leave();
+  void FinishRows();
 
   const TextLayouter& layouter_;
+  const FormatTables& tables_;
   Piece& piece_;
-  const ParaFormat& format_;
-  const LineEdges edges_;
+  const RowCells& row_;
+  const ParaFormat* format_;
+  LineEdges edges_;
   const BorderRoom room_;
-  double start_ = 0;  // below the space before the paragraph
-  double top_ = 0;    // of the next line
-  double most_ = 0;   // lowest bottom of the cells so far
+  double left_ = 0;
+  double top_ = 0;  // of the next line
   int placed_ = 0;
+  const CellText* text_ = nullptr;  // the present one
+  std::vector<int> open_;           // the cells around the present text, the innermost last
+  std::vector<Extent> cells_;
+  std::vector<Extent> rows_;
+  std::uint64_t look_ = 0;  // of the formats in cells
 };
 
 }  // namespace lumenote

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "document/tables/TableRow.h"
+
 namespace lumenote {
 
 int Piece::ToIndex(Position position) const {
@@ -23,7 +25,9 @@ int Piece::LineOfIndex(int index) const {
 }
 
 bool Piece::BeginsLine(const Document& document, int line) const {
-  return cells.empty() || line == 0 || document.At(LineStart(line) - 1) == u'\v';
+  if (cells.empty() || line == 0) return true;
+  const char16_t before = document.At(LineStart(line) - 1);
+  return before == u'\v' || before == u'\n';
 }
 
 double Piece::XOf(Position position) const { return CaretX(LineOf(position), ToIndex(position)); }
@@ -33,6 +37,7 @@ double Piece::XOf(Position position) const { return CaretX(LineOf(position), ToI
 Position Piece::PositionAt(int line, double x) const {
   const PieceLine& box = lines[Index(line)];
   int index = CaretAt(line, x);
+  if (box.ending > 0) return ToPosition(std::min(index, box.end - box.ending));
   const bool goesOn = !closes || Index(line) + 1 < lines.size();
   if (goesOn && index >= box.end && box.end > box.start) index = CaretBefore(box.end);
   return ToPosition(index);
@@ -55,21 +60,84 @@ Position Piece::CharacterAt(int line, double x) const {
   return unit < 0 ? -1 : ToPosition(unit);
 }
 
+// --- cells
+
+int Piece::CellOf(int line) const {
+  const auto behind = std::ranges::upper_bound(cells, line, {}, &PieceCell::firstLine);
+  auto cell = std::prev(behind);
+  while (!cell->Has(line)) --cell;
+  return static_cast<int>(cell - cells.begin());
+}
+
+/// The row's cell nearest to `x`.
+int Piece::CellNear(int row, double x) const {
+  int nearest = -1;
+  for (int cell = 0; cell < std::ssize(cells); ++cell) {
+    if (cells[Index(cell)].row != row) continue;
+    nearest = cell;
+    if (x < cells[Index(cell)].right) break;
+  }
+  return nearest;
+}
+
+/// The first (last) line of a row at `x`, where a table may begin (end) the cell in its turn.
+int Piece::EnterRow(int row, bool below, double x) const {
+  for (;;) {
+    const int cell = CellNear(row, x);
+    const PieceCell& entered = cells[Index(cell)];
+    const int line = below ? entered.firstLine : entered.endLine - 1;
+    int inner = CellOf(line);
+    if (inner == cell) return line;
+    while (cells[Index(inner)].parent != cell) inner = cells[Index(inner)].parent;
+    row = cells[Index(inner)].row;
+  }
+}
+
+int Piece::LineAtEdge(bool first, double x) const { return EnterRow(0, first, x); }
+
+int Piece::LineBeside(int line, bool below, double x) const {
+  int next = below ? line + 1 : line - 1;
+  for (int cell = CellOf(line); cell >= 0; cell = cells[Index(cell)].parent) {
+    if (cells[Index(cell)].Has(next)) {
+      int inner = CellOf(next);
+      if (inner == cell) return next;
+      while (cells[Index(inner)].parent != cell) inner = cells[Index(inner)].parent;
+      return EnterRow(cells[Index(inner)].row, below, x);
+    }
+    for (const PieceCell& beside : cells)
+      if (beside.row == cells[Index(cell)].row)
+        next = below ? std::max(next, beside.endLine) : std::min(next, beside.firstLine - 1);
+  }
+  return -1;
+}
+
 std::span<const PieceLine> Piece::LinesAt(double x) const {
   if (cells.empty()) return lines;
-  const auto last = std::prev(cells.end());
-  const auto cell =
-      std::find_if(cells.begin(), last, [&](const PieceCell& one) { return x < one.right; });
-  const std::size_t end = cell == last ? lines.size() : Index(std::next(cell)->firstLine);
-  return std::span(lines).subspan(Index(cell->firstLine), end - Index(cell->firstLine));
+  const PieceCell& cell = cells[Index(CellNear(0, x))];
+  return std::span(lines).subspan(Index(cell.firstLine), Index(cell.endLine - cell.firstLine));
+}
+
+/// The innermost cell at a point or, beside the cells, the nearest of the row there.
+int Piece::CellAt(double y, double x) const {
+  int found = CellNear(0, x);
+  for (int cell = found + 1; cell < std::ssize(cells); ++cell) {
+    const PieceCell& inner = cells[Index(cell)];
+    if (inner.parent == found && y >= inner.top && y < inner.bottom)
+      cell = found = CellNear(inner.row, x);
+  }
+  return found;
 }
 
 int Piece::LineAt(double y, double x) const {
-  const std::span<const PieceLine> column = LinesAt(x);
-  const auto below = std::find_if(column.begin(), column.end(), [&](const PieceLine& line) {
-    return y < line.top + line.height;
-  });
-  return static_cast<int>((below == column.end() ? &column.back() : &*below) - lines.data());
+  const int cell = cells.empty() ? -1 : CellAt(y, x);
+  int nearest = -1;
+  for (const PieceLine& line : LinesAt(x)) {
+    const int number = static_cast<int>(&line - lines.data());
+    if (cell >= 0 && CellOf(number) != cell) continue;
+    nearest = number;
+    if (y < line.top + line.height) break;
+  }
+  return nearest;
 }
 
 PieceLine Piece::Row() const {
@@ -88,10 +156,11 @@ PieceLine Piece::Row() const {
 
 bool Piece::IsSound(const Document& document) const {
   const Position paragraph = document.ParagraphOf(from);
-  const Position end = document.ParagraphEnd(paragraph);
+  const auto row = RowAround(document, from);
+  const Position end = row ? row->end : document.ParagraphEnd(paragraph);
   return HasOrderedParts() && to <= end && opens == (from == document.ParagraphStart(paragraph)) &&
-         (!closes || to == end) && (cells.empty() || (opens && closes)) &&
-         format == document.ParaFormatAt(from);
+         (!closes || to == end) && cells.empty() != row.has_value() &&
+         (!row || (from == row->start && opens && closes)) && format == document.ParaFormatAt(from);
 }
 
 // Lines cover the text without gaps, and only the last one may be empty.
@@ -103,6 +172,7 @@ bool Piece::HasOrderedParts() const {
   return std::ranges::adjacent_find(lines, apart) == lines.end() &&
          std::ranges::is_sorted(runs, {}, &PieceRun::start) &&
          std::ranges::is_sorted(boxes, {}, &InlineBox::index) &&
+         std::ranges::is_sorted(bullets, {}, &PieceBullet::line) &&
          std::ranges::is_sorted(cells, {}, &PieceCell::firstLine);
 }
 

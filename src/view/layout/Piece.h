@@ -13,8 +13,9 @@ namespace lumenote {
 
 /// One line of a piece; heights and baseline are in pixels from the piece's top.
 struct PieceLine {
-  int start = 0;  // in the layout's text
-  int end = 0;    // where the next line starts
+  int start = 0;   // in the layout's text
+  int end = 0;     // where the next line starts
+  int ending = 0;  // units at its end that end a paragraph or cell in a row, and show nothing
   double top = 0;
   double height = 0;
   double baseline = 0;
@@ -37,18 +38,31 @@ struct InlineBox {
   PictureFrame frame{};
 };
 
-/// A cell of a table row: the lines from `firstLine` to the next cell's, beside those of other
-/// cells.
+/// A cell of a table row: its lines stand beside those of the row's other cells. They include those
+/// of tables in the cell, whose rows have numbers of their own.
 struct PieceCell {
   int firstLine = 0;
+  int endLine = 0;  // behind its last line
   double left = 0;  // pixels from the text's left edge
   double right = 0;
+  double top = 0;  // pixels from the piece's top; those of the row
+  double bottom = 0;
+  int row = 0;
+  int parent = -1;  // the cell around the row; negative: none
+
+  bool Has(int line) const { return line >= firstLine && line < endLine; }
+};
+
+/// The bullet of a paragraph.
+struct PieceBullet {
+  int line = 0;
+  double x = 0;  // distance from the text's left edge
 };
 
 /// The result of a layouter. The layout's text has the units `from`..`to` of the document one to
 /// one, plus any composed text. Invariants: starts at a line start and ends at the paragraph's end
-/// or another line start; has at least one line; of a row of cells it is always the whole
-/// paragraph. Immutable except for its position in the document.
+/// or another line start; has at least one line; of a row of cells it always has all paragraphs.
+/// Immutable except for its position in the document.
 class Piece {
  public:
   virtual ~Piece() = default;
@@ -66,12 +80,13 @@ class Piece {
   std::vector<PieceLine> lines;  // in text order
   std::vector<PieceRun> runs;
   std::vector<InlineBox> boxes;  // by ascending index
-  std::vector<PieceCell> cells;  // from left to right; only in a row of cells
+  std::vector<PieceCell> cells;  // in text order, each before those in it; only in a row of cells
+  std::vector<ItemId> rows;      // what is kept at the ends of the rows, by number
+  std::vector<PieceBullet> bullets;  // by ascending line
   double height = 0;
   int composedAt = 0;  // in the layout's text
   int composedLength = 0;
   int composedCaret = 0;
-  double bulletX = -1;  // negative: no bullet
 
   bool Holds(Position position) const {
     return position >= from && (position < to || (closes && position == to));
@@ -82,7 +97,7 @@ class Piece {
   int LineOfIndex(int index) const;
   Position LineStart(int line) const { return ToPosition(lines[Index(line)].start); }
   /// Whether what callers know as a line begins there: cells of a row stand beside each other in
-  /// one, up to its line breaks.
+  /// one, up to its line breaks and paragraphs.
   bool BeginsLine(const Document& document, int line) const;
   /// Distance from the text's left edge.
   double XOf(Position position) const;
@@ -98,9 +113,15 @@ class Piece {
   Position PositionAt(int line, double x) const;
   /// The character shown there; -1 if `x` is outside the line's text.
   Position CharacterAt(int line, double x) const;
-  /// Index of the first line of a cell.
-  int FirstLine(int cell) const { return cells[Index(cell)].firstLine; }
-  /// The lines that stand below each other there: all, or those of the cell nearest to `x`.
+  /// Number of the innermost cell that has a line; the piece has cells.
+  int CellOf(int line) const;
+  /// The line below (above) another one in a row of cells, in the cell nearest to `x` where there
+  /// are several; -1 if that is outside the row.
+  int LineBeside(int line, bool below, double x) const;
+  /// The first (last) line of the row's cell nearest to `x`.
+  int LineAtEdge(bool first, double x) const;
+  /// The lines that stand below each other there: all, or those of the cell nearest to `x`, with
+  /// those of tables in it.
   std::span<const PieceLine> LinesAt(double x) const;
   /// The line at a point or, outside the piece, the nearest line of the cell there.
   int LineAt(double y, double x = 0) const;
@@ -131,6 +152,9 @@ class Piece {
  private:
   static std::size_t Index(int line) { return static_cast<std::size_t>(line); }
   PieceLine Row() const;
+  int CellNear(int row, double x) const;
+  int EnterRow(int row, bool below, double x) const;
+  int CellAt(double y, double x) const;
   bool HasOrderedParts() const;
 };
 

@@ -3,13 +3,22 @@
 #include <algorithm>
 #include <utility>
 
-#include "view/layout/RowCells.h"
+#include "document/tables/TableRow.h"
 
 namespace lumenote {
 
 namespace {
 // Lines rarely have more characters.
 constexpr Position kLineLength = 300;
+
+bool HasLineBreak(const Document& document, Position from, Position to) {
+  bool found = false;
+  document.ForEachRun(from, to, [&](Position, TextView text, CharId) {
+    found = found || text.Find('\v', 0) < text.Size();
+  });
+  return found;
+}
+
 }  // namespace
 
 std::unique_ptr<Piece> PieceBreaker::LayOut(const Document& document, const PieceSpan& span) {
@@ -20,12 +29,16 @@ std::unique_ptr<Piece> PieceBreaker::LayOut(const Document& document, const Piec
   return piece;
 }
 
+// In a row, only line breaks begin lines within a paragraph.
 std::vector<Position> PieceBreaker::Break(const Document& document, Position from, Position to) {
-  const auto piece = LayOut(document, {.from = from, .to = to});
+  const Position end = document.ParagraphEnd(document.ParagraphOf(from));
+  const bool row = RowAround(document, from).has_value();
   std::vector<Position> starts;
+  if (row && !HasLineBreak(document, from, to)) return starts;
+  const auto piece = LayOut(document, {.from = from, .to = to});
   for (int line = 1; line < std::ssize(piece->lines); ++line)
     if (const Position start = piece->LineStart(line);
-        start > from && piece->BeginsLine(document, line))
+        start > from && start <= end && piece->BeginsLine(document, line))
       starts.push_back(start);
   return starts;
 }
@@ -54,20 +67,21 @@ Position PieceBreaker::AtX(const Document& document, Position lineStart, Positio
   return std::clamp(piece->PositionAt(piece->LineOf(lineStart), x), lineStart, lineEnd);
 }
 
-std::vector<CellLine> PieceBreaker::CellLines(const Document& document, Position position) {
-  if (!RowAt(document, position)) return {};
-  const Position end = document.ParagraphEnd(document.ParagraphOf(position));
-  const auto row = LayOut(document, {.from = position, .to = end});
-  std::vector<CellLine> lines;
-  int cell = 0;
-  for (int line = 0; line < std::ssize(row->lines); ++line) {
-    while (cell + 1 < std::ssize(row->cells) && row->FirstLine(cell + 1) <= line) ++cell;
-    lines.push_back({.start = row->LineStart(line), .end = end, .cell = cell});
-    lines.back().right = static_cast<float>(row->cells[static_cast<std::size_t>(cell)].right);
-  }
-  for (std::size_t i = 0; i + 1 < lines.size(); ++i)
-    lines[i].end = std::max(lines[i].start, document.SnapBackward(lines[i + 1].start - 1));
-  return lines;
+std::optional<CellLine> PieceBreaker::FindCellLine(const Document& document, Position position,
+                                                   CellStep step, float x) {
+  const auto row = RowAround(document, position);
+  if (!row) return std::nullopt;
+  const auto piece = LayOut(document, {.from = row->start, .to = row->end});
+  int line = piece->LineOf(position);
+  if (step == CellStep::Above || step == CellStep::Below)
+    line = piece->LineBeside(line, step == CellStep::Below, x);
+  if (step == CellStep::Topmost || step == CellStep::Lowest)
+    line = piece->LineAtEdge(step == CellStep::Topmost, x);
+  if (line < 0) return std::nullopt;
+  const bool last = line + 1 == std::ssize(piece->lines);
+  const Position start = piece->LineStart(line);
+  const Position end = last ? row->end : document.SnapBackward(piece->LineStart(line + 1) - 1);
+  return CellLine{start, std::max(start, end), {row->start, row->end}};
 }
 
 }  // namespace lumenote

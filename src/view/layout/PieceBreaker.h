@@ -15,7 +15,8 @@ class PieceBreaker final : public LineBreaker {
   std::vector<Position> Break(const Document& document, Position from, Position to) override;
   float XOf(const Document& document, Position lineStart, Position position) override;
   Position AtX(const Document& document, Position lineStart, Position lineEnd, float x) override;
-  std::vector<CellLine> CellLines(const Document& document, Position position) override;
+  std::optional<CellLine> FindCellLine(const Document& document, Position position, CellStep step,
+                                       float x) override;
 
  private:
   std::unique_ptr<Piece> LayOut(const Document& document, const PieceSpan& span);

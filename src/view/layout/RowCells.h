@@ -1,4 +1,4 @@
-// Where the cells of a table row are.
+// Where the cells of a table row are, and the text in them.
 #pragma once
 #include <vector>
 
@@ -6,10 +6,11 @@
 
 namespace lumenote {
 
+/// Lengths are pixels, from the text's left edge.
 struct CellBox {
-  Position end =
-      0;            // where the next cell's text begins; a cell's last unit is the tab that ends it
-  double left = 0;  // pixels from the text's left edge
+  int row = 0;      // as in `PieceCell`
+  int parent = -1;  // likewise
+  double left = 0;
   double right = 0;
   double padding = 0;  // beside the text, left and right
 
@@ -17,22 +18,38 @@ struct CellBox {
   double Room() const { return right - left - 2 * padding; }
 };
 
-/// The cells, from left to right, of the row that the paragraph at `position` ends; empty if it
-/// ends none. They are as wide as the row's definition says, and share the rest of the line where
-/// it says nothing. A row of several paragraphs lies in the last one with its last cells only.
-std::vector<CellBox> RowCellsAt(const TextLayouter& layouter, const Document& document,
-                                Position position);
+/// A paragraph in a cell. Its last units end it or the cell; only the row's last text has none.
+struct CellText {
+  int end = 0;    // in the layout's text
+  int units = 0;  // that end it: 1 for a cell, 2 for a paragraph
+  int cell = 0;
+  ParaId format = 0;
+};
 
-/// What is kept at the break of a row, which the paragraph at `position` ends; null if it ends
-/// none.
-const Kept* RowAt(const Document& document, Position position);
+/// A row and the tables in its cells; nothing if there is no row. Cells are as wide as the rows'
+/// definitions say, and share the rest of the line where these say nothing; tables in cells are no
+/// wider than those.
+struct RowCells {
+  std::vector<CellBox> cells;   // as in `Piece`
+  std::vector<CellText> texts;  // in text order
+  std::vector<ItemId> rows;     // as in `Piece`
 
-/// The paragraph if it is a row, which is always laid out whole; else what is wanted.
-PieceSpan SpanOf(const std::vector<CellBox>& cells, const Document& document,
-                 const PieceSpan& wanted);
+  bool Empty() const { return cells.empty(); }
+  const CellBox& CellOf(const CellText& text) const {
+    return cells[static_cast<std::size_t>(text.cell)];
+  }
+  /// The one that holds a unit of the layout's text.
+  const CellText& TextAt(int index) const;
+};
 
-/// Where cells end in the text of their row's piece, which has `length` units; only the text's end
-/// if there are none. Text composed where a cell begins belongs to that cell.
-std::vector<int> EndsOf(const std::vector<CellBox>& cells, const Piece& row, int length);
+/// The row if there is one, which is always laid out whole; else what is wanted.
+PieceSpan SpanOf(const Document& document, const PieceSpan& wanted);
+
+/// The cells of a row's piece, whose span is known. Text composed where a cell begins belongs to
+/// that cell.
+RowCells RowCellsOf(const TextLayouter& layouter, const Document& document, const Piece& piece);
+
+/// Where the texts end in a layout's text, which has `length` units; only its end without a row.
+std::vector<int> EndsOf(const RowCells& row, int length);
 
 }  // namespace lumenote

@@ -37,7 +37,7 @@ bool TextLayouter::Open(Piece& piece, const Document& document, const PieceSpan&
   piece.from = span.from;
   piece.to = span.to;
   piece.opens = document.ParagraphStart(paragraph) == span.from;
-  piece.closes = span.complete && span.to == document.ParagraphEnd(paragraph);
+  piece.closes = span.complete && span.to == document.ParagraphEnd(document.ParagraphOf(span.to));
   piece.format = document.ParaFormatAt(span.from);
   if (composed_.text.empty() || composed_.at < span.from || composed_.at > span.to) return false;
   piece.composedAt = composed_.at - span.from;

@@ -66,12 +66,12 @@ Position PageFlow::Behind(const Piece& piece) const {
 
 double PageFlow::SpaceAbove(const Piece& piece) const {
   const ParaFormat& format = document_.Formats().paragraphs[piece.format];
-  return piece.opens ? std::round(layouter_.Pixels(format.spaceBefore)) : 0;
+  return piece.opens && piece.cells.empty() ? std::round(layouter_.Pixels(format.spaceBefore)) : 0;
 }
 
 double PageFlow::SpaceBelow(const Piece& piece) const {
   const ParaFormat& format = document_.Formats().paragraphs[piece.format];
-  return piece.closes ? std::round(layouter_.Pixels(format.spaceAfter)) : 0;
+  return piece.closes && piece.cells.empty() ? std::round(layouter_.Pixels(format.spaceAfter)) : 0;
 }
 
 void PageFlow::AddPiece(const Piece& piece, Progress& progress) {

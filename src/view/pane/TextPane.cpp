@@ -87,7 +87,26 @@ Line TextPane::LineIn(const Piece& piece, int first, int last) const {
   const Position behind = piece.to < Content().Length() ? piece.to + 2 : -1;
   if (ends && piece.closes) return {start, piece.to, behind};
   const Position next = ends ? piece.to : piece.LineStart(last + 1);
-  return {start, Content().At(next - 1) == u'\v' ? next - 1 : next, next};
+  switch (Content().At(next - 1)) {
+    case u'\v':
+      return {start, next - 1, next};
+    case u'\n':
+      return {start, next - 2, next};
+    default:
+      return {start, next, next};
+  }
+}
+
+Selection TextPane::CellLine(Position position) {
+  const Piece& piece = cache_.At(std::clamp(position, 0, Content().Length()));
+  if (piece.cells.empty()) {
+    const Line line = ShownLine(position);
+    return {line.start, line.next < 0 ? line.end : line.next};
+  }
+  const int line = piece.LineOf(std::min(position, piece.to));
+  const bool last = line + 1 == std::ssize(piece.lines);
+  return {piece.LineStart(line),
+          last ? std::min(piece.to + 2, Content().Length()) : piece.LineStart(line + 1)};
 }
 
 // The contract with the line table: they agree in every paragraph that is one piece.

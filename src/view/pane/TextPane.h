@@ -50,6 +50,8 @@ class TextPane {
   std::optional<PixelRect> LineAt(Position position);
   /// The line that holds a position, anywhere in the text.
   Line ShownLine(Position position);
+  /// The same up to where the next one begins, in a table within a cell.
+  Selection CellLine(Position position);
   /// The caret at a position, as high as text typed there; empty as above.
   std::optional<PixelRect> CaretAt(Position position);
   /// The caret before a unit of the text that is being composed, or of its end; empty as above, and

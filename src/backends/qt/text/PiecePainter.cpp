@@ -2,6 +2,7 @@
 
 #include <QFontInfo>
 #include <algorithm>
+#include <cmath>
 
 #include "backends/qt/text/BoxPainter.h"
 #include "backends/qt/text/Decorations.h"
@@ -23,6 +24,19 @@ QFont InPixels(QFont font, int pixels) {
   return font;
 }
 
+/// Lines of the same thickness have as many device pixels wherever they are.
+QRectF OnSamePixels(const QPainter& painter, const QRectF& line) {
+  QRectF whole = OnDevicePixels(painter, line);
+  const double scale = painter.deviceTransform().m11();
+  const double thickness = std::min(line.width(), line.height());
+  const double same = std::max(1.0, std::round(thickness * scale)) / scale;
+  if (line.width() > line.height())
+    whole.setHeight(same);
+  else
+    whole.setWidth(same);
+  return whole;
+}
+
 }  // namespace
 
 void PiecePainter::PaintBackdrop(const Piece& piece, QPointF origin, const QRectF& area,
@@ -32,23 +46,27 @@ void PiecePainter::PaintBackdrop(const Piece& piece, QPointF origin, const QRect
                                 .ground = ToBgr(palette_.color(QPalette::Base)),
                                 .grid = grid};
   for (const BackdropPart& part :
-       BackdropOf(layouter_, document_, piece, seen.MovedBy(-origin.x(), -origin.y()), colours))
-    painter_.fillRect(OnDevicePixels(painter_, ToQRect(part.area.MovedBy(origin.x(), origin.y()))),
+       BackdropOf(layouter_, document_, piece, seen.MovedBy(-origin.x(), -origin.y()), colours)) {
+    const QRectF place = ToQRect(part.area.MovedBy(origin.x(), origin.y()));
+    painter_.fillRect(part.line ? OnSamePixels(painter_, place) : OnDevicePixels(painter_, place),
                       FromBgr(part.colour));
+  }
 }
 
 void PiecePainter::PaintText(const QtPiece& piece, QPointF origin, const QRectF& area) {
   painter_.setPen(palette_.color(QPalette::Text));
-  PaintBullet(piece, origin);
+  PaintBullets(piece, origin);
   piece.layout.draw(&painter_, origin, {}, area);
 }
 
-void PiecePainter::PaintBullet(const QtPiece& piece, QPointF origin) {
-  if (piece.bulletX < 0) return;
+void PiecePainter::PaintBullets(const QtPiece& piece, QPointF origin) {
+  if (piece.bullets.empty()) return;
   const QFont font = piece.layout.font();
   painter_.setFont(InPixels(font, QFontInfo(font).pixelSize()));
-  painter_.drawText(origin + QPointF(piece.bulletX, piece.lines.front().baseline),
-                    QString::fromUtf16(kBullet));
+  for (const auto& [line, x] : piece.bullets) {
+    const double baseline = piece.lines[static_cast<std::size_t>(line)].baseline;
+    painter_.drawText(origin + QPointF(x, baseline), QString::fromUtf16(kBullet));
+  }
 }
 
 void PiecePainter::PaintOver(const QtPiece& piece, QPointF origin, const QRectF& area,

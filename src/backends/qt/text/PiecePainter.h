@@ -23,7 +23,7 @@ class PiecePainter {
   void PaintOver(const QtPiece& piece, QPointF origin, const QRectF& area, Selection selection);
 
  private:
-  void PaintBullet(const QtPiece& piece, QPointF origin);
+  void PaintBullets(const QtPiece& piece, QPointF origin);
   void PaintBoxes(const QtPiece& piece, QPointF origin, const QRectF& area, Selection selection);
   /// The raised number of a footnote.
   void PaintNumber(int number, const QRectF& place, CharId format, bool selected);

@@ -56,32 +56,46 @@ void AddLineBreaks(const QtPiece& piece, const Document& document, CharStyles& s
 /// Breaks the text of a piece into lines.
 class LineMaker {
  public:
-  LineMaker(const TextLayouter& layouter, const Document& document, QtPiece& piece, bool tabs)
-      : piece_(piece), stack_(layouter, document, piece) {
-    if (!tabs) return;
-    const TabStops& stops = document.Formats().tabs[stack_.Format().tabs];
-    tabs_ = TabsOf(layouter, stops, stack_.Edges());
-    tabStep_ = layouter.Pixels(kDefaultTabStep);
+  LineMaker(const TextLayouter& layouter, const Document& document, QtPiece& piece,
+            const RowCells& row, bool tabs)
+      : layouter_(layouter),
+        tables_(document.Formats()),
+        piece_(piece),
+        row_(row),
+        stack_(layouter, document, piece, row),
+        rightToLeft_(stack_.Format().rightToLeft != 0),
+        tabStep_(tabs ? layouter.Pixels(kDefaultTabStep) : 0) {
+    FindTabs();
   }
 
   /// Returns false if an incomplete span gave no whole line.
   bool Build(const PieceSpan& span);
-  /// Lays out a row; `ends` are those of the cells in the piece's text.
-  void BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends);
+  /// Lays out a row; `ends` are those of its texts in the piece's text.
+  void BuildRow(const std::vector<int>& ends);
 
  private:
+  void FindTabs();
   QTextOption Option(double lineX) const;
   bool AddLines(const PieceSpan& span);
   double WidthOf(const QTextLine& line, const PieceLine& box) const;
   double Shift(const QTextLine& line, const PieceLine& box) const;
-  void AddCellLines(const std::vector<CellBox>& cells, const std::vector<int>& ends);
+  void AddText(int start, int end, bool last);
+  void Justify(const QTextLine& line);
   void Place(QTextLine line, PieceLine& box);
 
+  const TextLayouter& layouter_;
+  const FormatTables& tables_;
   QtPiece& piece_;
+  const RowCells& row_;
   LineStack stack_;
+  const bool rightToLeft_;  // the layout, as its first paragraph
   std::vector<PixelTab> tabs_;
-  double tabStep_ = 0;
+  double tabStep_;
 };
+
+void LineMaker::FindTabs() {
+  if (tabStep_ > 0) tabs_ = TabsOf(layouter_, tables_.tabs[stack_.Format().tabs], stack_.Edges());
+}
 
 QTextOption::Tab TabAt(double x, TabKind kind) {
   switch (kind) {
@@ -102,11 +116,10 @@ QTextOption::Tab TabAt(double x, TabKind kind) {
 // they begin, since blanks at their end move what it aligns.
 QTextOption LineMaker::Option(double lineX) const {
   const ParaFormat& format = stack_.Format();
-  QTextOption option(format.alignment == Alignment::Justify ? Qt::AlignJustify
-                     : format.rightToLeft                   ? Qt::AlignRight
-                                                            : Qt::AlignLeft);
+  const bool justified = row_.Empty() && format.alignment == Alignment::Justify;
+  QTextOption option(justified ? Qt::AlignJustify : rightToLeft_ ? Qt::AlignRight : Qt::AlignLeft);
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-  option.setTextDirection(format.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+  option.setTextDirection(rightToLeft_ ? Qt::RightToLeft : Qt::LeftToRight);
   if (tabStep_ == 0) return option;
   QList<QTextOption::Tab> tabs;
   for (const PixelTab& tab : tabs_)
@@ -164,45 +177,58 @@ double LineMaker::WidthOf(const QTextLine& line, const PieceLine& box) const {
   const bool broken = box.end > box.start && text[box.end - 1] == QChar(kShownLineBreak);
   if (!broken && box.end < text.size()) return line.naturalTextWidth();
   const double end = line.cursorToX(FirstHanging(Utf16(text), box.start, box.end)) - line.x();
-  return stack_.Format().rightToLeft ? line.width() - end : end;
+  return rightToLeft_ ? line.width() - end : end;
 }
 
-/// How far a line moves to its place between the edges.
+/// How far a line moves to its place between the edges. Text in a cell may have another direction
+/// than the whole layout.
 double LineMaker::Shift(const QTextLine& line, const PieceLine& box) const {
   const ParaFormat& format = stack_.Format();
   const double before = FreeRoomBefore(format);
-  if (before == 0) return 0;
-  const double shift = before * std::max(0.0, line.width() - WidthOf(line, box));
-  return format.rightToLeft ? -shift : shift;
+  const double atLeft = format.rightToLeft ? 1 - before : before;
+  const double share = rightToLeft_ ? atLeft - 1 : atLeft;
+  return share == 0 ? 0 : share * std::max(0.0, line.width() - WidthOf(line, box));
 }
 
-void LineMaker::BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
+void LineMaker::BuildRow(const std::vector<int>& ends) {
   piece_.layout.beginLayout();
-  AddCellLines(cells, ends);
-  piece_.layout.endLayout();
-  std::size_t line = 0;
-  for (std::size_t i = 0; i < cells.size(); ++i) {
-    stack_.BeginCell(cells[i].left, cells[i].right);
-    const bool last = i + 1 == cells.size();
-    for (; line < piece_.lines.size() && (last || piece_.lines[line].start < ends[i]); ++line)
-      Place(piece_.layout.lineAt(static_cast<int>(line)), piece_.lines[line]);
+  int start = 0;
+  for (std::size_t i = 0; i < ends.size(); start = ends[i++]) {
+    stack_.Begin(row_.texts[i]);
+    AddText(start, ends[i], i + 1 == ends.size());
   }
+  piece_.layout.endLayout();
   stack_.Finish(Utf16(piece_.layout.text()));
 }
 
-// A cell's text ends with a line break.
-void LineMaker::AddCellLines(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
-  piece_.layout.setTextOption(Option(0));
-  std::size_t cell = 0;
-  for (;;) {
-    QTextLine line = piece_.layout.createLine();
+// But for the last one, a text ends with a line break; behind one of its own Qt adds a line.
+void LineMaker::AddText(int start, int end, bool last) {
+  QTextLayout& layout = piece_.layout;
+  const LineEdges& edges = stack_.Edges();
+  FindTabs();
+  for (int from = start; from < end || last;) {
+    const double x = edges.Left(from == start);
+    layout.setTextOption(Option(x));
+    QTextLine line = layout.createLine();
     if (!line.isValid()) return;
-    line.setLineWidth(cells[cell].Room());
-    line.setPosition({cells[cell].TextLeft(), 0});
-    const int end = line.textStart() + line.textLength();
-    piece_.lines.push_back({.start = line.textStart(), .end = end});
-    if (end == ends[cell] && cell + 1 < cells.size()) ++cell;
+    const double width = edges.Room(x);
+    line.setLineWidth(width);
+    line.setPosition(
+        {stack_.Left() + (stack_.Format().rightToLeft ? edges.right - x - width : x), 0});
+    from = line.textStart() + line.textLength();
+    piece_.lines.push_back({.start = line.textStart(), .end = from});
+    Place(line, piece_.lines.back());
   }
+}
+
+// Qt aligns all lines of a layout alike, but for those that are justified already.
+void LineMaker::Justify(const QTextLine& line) {
+  QTextOption option = piece_.layout.textOption();
+  option.setAlignment(Qt::AlignJustify);
+  piece_.layout.setTextOption(option);
+  line.cursorToX(line.textStart());
+  option.setAlignment(rightToLeft_ ? Qt::AlignRight : Qt::AlignLeft);
+  piece_.layout.setTextOption(option);
 }
 
 void LineMaker::Place(QTextLine line, PieceLine& box) {
@@ -211,13 +237,18 @@ void LineMaker::Place(QTextLine line, PieceLine& box) {
   Extend(piece_.boxes, box, ascent);
   Extend(piece_.decorations, box, ascent, descent);
   stack_.Place(box, ascent, descent);
+  if (!row_.Empty() && stack_.Format().alignment == Alignment::Justify) Justify(line);
   line.setPosition({line.x() + Shift(line, box), box.baseline - line.ascent()});
 }
 
-/// Each cell begins a line.
-void BreakBehindCells(const std::vector<int>& ends, std::u16string& text) {
-  for (std::size_t i = 0; i + 1 < ends.size(); ++i)
-    text[static_cast<std::size_t>(ends[i]) - 1] = kShownLineBreak;
+/// Each text of a row begins a line.
+void BreakBehindTexts(const RowCells& row, std::u16string& text) {
+  for (const CellText& part : row.texts) {
+    if (part.units == 0) continue;
+    const auto end = static_cast<std::size_t>(part.end);
+    text[end - static_cast<std::size_t>(part.units)] = kShownHidden;
+    text[end - 1] = kShownLineBreak;
+  }
 }
 
 }  // namespace
@@ -229,14 +260,13 @@ FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& fo
 
 std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpan& wanted) {
   auto piece = std::make_unique<QtPiece>();
-  const std::vector<CellBox> cells = RowCellsAt(*this, document, wanted.from);
-  const PieceSpan span = SpanOf(cells, document, wanted);
+  const PieceSpan span = SpanOf(document, wanted);
   ShownText text(document, span.from, span.to,
                  [&](CharId id) -> const CharLook& { return styles.Of(document, id); });
   const bool composing = Open(*piece, document, span);
   if (composing) text.Insert(piece->composedAt, Composed().text);
-  const std::vector<int> ends = EndsOf(cells, *piece, static_cast<int>(text.text.size()));
-  BreakBehindCells(ends, text.text);
+  const RowCells row = RowCellsOf(*this, document, *piece);
+  BreakBehindTexts(row, text.text);
   QList<FormatRange> formats = FormatsOf(text, document, styles);
   if (composing)
     for (FormatRange range : composedFormats) {
@@ -249,15 +279,15 @@ std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpa
   piece->layout.setText(ToQString(text.text));
   piece->decorations = std::move(text.decorations);
   piece->runs = std::move(text.runs);
-  piece->boxes = BoxesIn(*this, document, *piece, cells, ends);
+  piece->boxes = BoxesIn(*this, document, *piece, row, static_cast<int>(text.text.size()));
   AddBoxes(*piece, document, styles, formats);
   if (document.Formats().paragraphs[piece->format].rightToLeft)
     AddLineBreaks(*piece, document, styles, formats);
   piece->layout.setFormats(formats);
   const bool tabs = text.text.find(u'\t') != text.text.npos;
-  LineMaker lines(*this, document, *piece, tabs);
-  if (!cells.empty())
-    lines.BuildRow(cells, ends);
+  LineMaker lines(*this, document, *piece, row, tabs);
+  if (!row.Empty())
+    lines.BuildRow(EndsOf(row, static_cast<int>(text.text.size())));
   else if (!lines.Build(span))
     return nullptr;
   return piece;

@@ -18,19 +18,26 @@ int Rounded(double pixels) { return static_cast<int>(std::lround(pixels)); }
 }  // namespace
 
 LineMaker::LineMaker(const TextLayouter& layouter, const Document& document, CharStyles& styles,
-                     UniscribePiece& piece, ShapedText shaped)
-    : document_(document),
+                     UniscribePiece& piece, const RowCells& row, ShapedText shaped)
+    : layouter_(layouter),
+      document_(document),
       styles_(styles),
       piece_(piece),
-      stack_(layouter, document, piece),
+      row_(row),
+      stack_(layouter, document, piece, row),
       units_(std::move(shaped.units)),
-      tabs_(TabsOf(layouter, document.Formats().tabs[stack_.Format().tabs], stack_.Edges())),
       tabStep_(layouter.Pixels(kDefaultTabStep)) {
-  for (PixelTab& tab : tabs_) tab.x = std::round(tab.x);  // as the text before it ends
+  FindTabs();
   piece_.glyphs = std::move(shaped.runs);
   piece_.units.resize(units_.size());
   column_ = {.end = static_cast<int>(units_.size()), .edges = stack_.Edges()};
   for (const InlineBox& box : piece_.boxes) Unit(box.index).width = Rounded(box.size.width);
+}
+
+void LineMaker::FindTabs() {
+  const TabStops& stops = document_.Formats().tabs[stack_.Format().tabs];
+  tabs_ = TabsOf(layouter_, stops, stack_.Edges());
+  for (PixelTab& tab : tabs_) tab.x = std::round(tab.x);  // as the text before it ends
 }
 
 // --- breaking
@@ -104,18 +111,20 @@ bool LineMaker::Build(const PieceSpan& span) {
   return true;
 }
 
-void LineMaker::BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends) {
+void LineMaker::BuildRow(const std::vector<int>& ends) {
   int start = 0;
-  for (std::size_t i = 0; i < cells.size(); start = ends[i++]) AddCell(cells[i], start, ends[i]);
+  for (std::size_t i = 0; i < ends.size(); start = ends[i++])
+    AddText(row_.texts[i], start, ends[i]);
   stack_.Finish(piece_.text);
 }
 
-void LineMaker::AddCell(const CellBox& cell, int start, int end) {
-  column_ = {.end = end, .edges = {.right = cell.Room()}, .left = std::round(cell.TextLeft())};
+void LineMaker::AddText(const CellText& text, int start, int end) {
+  stack_.Begin(text);
+  FindTabs();
+  column_ = {.start = start, .end = end, .edges = stack_.Edges(), .left = stack_.Left()};
   const std::size_t first = piece_.lines.size();
   AddLines(start, end, false);
   if (end == std::ssize(units_)) EndWithLineBreak();
-  stack_.BeginCell(cell.left, cell.right);
   for (std::size_t i = first; i < piece_.lines.size(); ++i) PlaceLine(piece_.lines[i]);
 }
 

@@ -10,16 +10,17 @@ class LineMaker {
  public:
   /// All must outlive the maker; `shaped` is of the piece's text.
   LineMaker(const TextLayouter& layouter, const Document& document, CharStyles& styles,
-            UniscribePiece& piece, ShapedText shaped);
+            UniscribePiece& piece, const RowCells& row, ShapedText shaped);
 
   /// Returns false if an incomplete span gave no whole line.
   bool Build(const PieceSpan& span);
-  /// Lays out a row; `ends` are those of the cells in the piece's text.
-  void BuildRow(const std::vector<CellBox>& cells, const std::vector<int>& ends);
+  /// Lays out a row; `ends` are those of its texts in the piece's text.
+  void BuildRow(const std::vector<int>& ends);
 
  private:
-  /// What lies between the same edges: a paragraph, or a cell of a row.
+  /// What lies between the same edges: a paragraph, or one in a cell of a row.
   struct Column {
+    int start = 0;
     int end = 0;
     LineEdges edges;
     double left = 0;  // pixels from the text's left edge, whence `edges` are measured
@@ -33,7 +34,8 @@ class LineMaker {
   };
 
   void AddLines(int start, int known, bool omitLast);
-  void AddCell(const CellBox& cell, int start, int end);
+  void FindTabs();
+  void AddText(const CellText& text, int start, int end);
   void EndWithLineBreak();
   int LineEnd(int start);
   int TabWidth(int tab, double x) const;
@@ -48,14 +50,18 @@ class LineMaker {
   void PlaceLine(PieceLine& line);
   void Stack(PieceLine& line);
 
-  double LeftEdge(int start) const { return column_.edges.Left(piece_.opens && start == 0); }
+  double LeftEdge(int start) const {
+    return column_.edges.Left(piece_.opens && start == column_.start);
+  }
   char16_t UnitAt(int index) const { return piece_.text[static_cast<std::size_t>(index)]; }
   ShapedUnit& Unit(int index) { return units_[static_cast<std::size_t>(index)]; }
   const ShapedUnit& Unit(int index) const { return units_[static_cast<std::size_t>(index)]; }
 
+  const TextLayouter& layouter_;
   const Document& document_;
   CharStyles& styles_;
   UniscribePiece& piece_;
+  const RowCells& row_;
   LineStack stack_;
   std::vector<ShapedUnit> units_;
   std::vector<PixelTab> tabs_;

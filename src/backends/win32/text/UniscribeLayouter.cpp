@@ -18,10 +18,11 @@ Decoration ComposedLine(const Piece& piece, const CharStyle& style) {
           .descent = style.descent};
 }
 
-/// The tabs that end cells show nothing.
-void HideCellEnds(const std::vector<int>& ends, std::u16string& text) {
-  for (std::size_t i = 0; i + 1 < ends.size(); ++i)
-    text[static_cast<std::size_t>(ends[i]) - 1] = kShownHidden;
+/// What ends cells and their paragraphs shows nothing.
+void HideEnds(const RowCells& row, std::u16string& text) {
+  for (const CellText& part : row.texts)
+    for (int i = part.end - part.units; i < part.end; ++i)
+      text[static_cast<std::size_t>(i)] = kShownHidden;
 }
 
 }  // namespace
@@ -44,20 +45,21 @@ ShownText UniscribeLayouter::Show(UniscribePiece& piece, const Document& documen
 
 std::unique_ptr<Piece> UniscribeLayouter::Make(const Document& document, const PieceSpan& wanted) {
   auto piece = std::make_unique<UniscribePiece>();
-  const std::vector<CellBox> cells = RowCellsAt(*this, document, wanted.from);
-  const PieceSpan span = SpanOf(cells, document, wanted);
+  const PieceSpan span = SpanOf(document, wanted);
   ShownText text = Show(*piece, document, span);
-  const std::vector<int> ends = EndsOf(cells, *piece, static_cast<int>(text.text.size()));
-  HideCellEnds(ends, text.text);
+  const RowCells row = RowCellsOf(*this, document, *piece);
+  const auto length = static_cast<int>(text.text.size());
+  const std::vector<int> ends = EndsOf(row, length);
+  HideEnds(row, text.text);
   const bool rightToLeft = document.Formats().paragraphs[piece->format].rightToLeft;
   ShapedText shaped = Shaper(document, styles, text).Shape(rightToLeft, ends);
   piece->text = std::move(text.text);
   piece->decorations = std::move(text.decorations);
   piece->runs = std::move(text.runs);
-  piece->boxes = BoxesIn(*this, document, *piece, cells, ends);
-  LineMaker lines(*this, document, styles, *piece, std::move(shaped));
-  if (!cells.empty())
-    lines.BuildRow(cells, ends);
+  piece->boxes = BoxesIn(*this, document, *piece, row, length);
+  LineMaker lines(*this, document, styles, *piece, row, std::move(shaped));
+  if (!row.Empty())
+    lines.BuildRow(ends);
   else if (!lines.Build(span))
     return nullptr;
   return piece;

@@ -79,7 +79,7 @@ void ViewPainter::PaintPiece(HDC dc, const ShownPiece& item, const PixelRect& ar
   PaintBackdrop(dc, item, area);
   if (const auto stripe = BreakBoxOf(pane_, item, marks_.selection))
     Fill(dc, *stripe, colours_.highlight);
-  PaintBullet(dc, item);
+  PaintBullets(dc, item);
   for (std::size_t line = 0; line < piece.lines.size(); ++line)
     PaintGrounds(dc, {piece, left, item.y, line}, selected);
   for (std::size_t line = 0; line < piece.lines.size(); ++line)
@@ -175,15 +175,17 @@ void ViewPainter::DrawUnits(HDC dc, const LinePlace& place, const LinePart& part
                 run.advances.data() + first, nullptr, run.offsets.data() + first);
 }
 
-void ViewPainter::PaintBullet(HDC dc, const ShownPiece& item) const {
+void ViewPainter::PaintBullets(HDC dc, const ShownPiece& item) const {
   const Piece& piece = *item.piece;
-  if (piece.bulletX < 0) return;
+  if (piece.bullets.empty()) return;
   const CharId format = pane_.Content().CharFormatAt(piece.from);
   const std::shared_ptr<const GdiFont> font = layouter_.styles.Of(pane_.Content(), format).font;
   const SelectScope selected(dc, font->Get());
   SetTextColor(dc, colours_.ink);
-  TextOutW(dc, Rounded(pane_.TextLeft() + piece.bulletX),
-           Rounded(item.y + piece.lines.front().baseline) - font->Ascent(), &kBullet, 1);
+  for (const auto& [line, x] : piece.bullets) {
+    const double baseline = item.y + piece.lines[static_cast<std::size_t>(line)].baseline;
+    TextOutW(dc, Rounded(pane_.TextLeft() + x), Rounded(baseline) - font->Ascent(), &kBullet, 1);
+  }
 }
 
 }  // namespace lumenote

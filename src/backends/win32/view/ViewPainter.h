@@ -50,7 +50,7 @@ class ViewPainter {
                  COLORREF colour) const;
   void DrawUnits(HDC dc, const LinePlace& place, const LinePart& part, Selection units,
                  COLORREF ink) const;
-  void PaintBullet(HDC dc, const ShownPiece& item) const;
+  void PaintBullets(HDC dc, const ShownPiece& item) const;
   const CharStyle& StyleOf(const GlyphRun& run) const {
     return layouter_.styles.Of(pane_.Content(), run.format);
   }

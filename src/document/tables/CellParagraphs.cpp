@@ -1,10 +1,8 @@
-#include "html/write/HtmlParagraphs.h"
+#include "document/tables/CellParagraphs.h"
 
 #include <algorithm>
 #include <optional>
 #include <utility>
-
-#include "html/words/Tables.h"
 
 namespace lumenote {
 namespace {
@@ -30,13 +28,19 @@ class ParagraphFinder {
     for (std::size_t i = text.Find(ender, 0); i < text.Size(); i = text.Find(ender, i + 1))
       End(at + static_cast<Position>(i), format, kept, cell);
   }
-  std::vector<HtmlParagraph> Finish(Position end) {
-    found_.push_back(
-        {.start = start_,
-         .end = end,
-         .ender = document_.CharFormatAt(end),
-         .format = document_.ParaFormatAt(end),
-         .level = document_.Formats().paragraphs[document_.ParaFormatAt(end)].nesting});
+  /// The rest ends with a row if `mayEndRow` and the break there ends one.
+  std::vector<CellParagraph> Finish(Position end, bool mayEndRow) {
+    const CharId ender = document_.CharFormatAt(end);
+    const Kept& kept = KeptOf(document_.Formats(), ender);
+    const bool row = mayEndRow && kept.kind == Kept::Kind::Row;
+    const ParaId format = document_.ParaFormatAt(end);
+    const ParaFormat& look = document_.Formats().paragraphs[format];
+    found_.push_back({.start = start_,
+                      .end = end,
+                      .ender = ender,
+                      .format = format,
+                      .endsRow = row,
+                      .level = row ? LevelOf(kept, look) : look.nesting});
     return std::move(found_);
   }
 
@@ -58,12 +62,12 @@ class ParagraphFinder {
 
   const Document& document_;
   Position start_;
-  std::vector<HtmlParagraph> found_;
+  std::vector<CellParagraph> found_;
 };
 
 /// Corrects the levels to those of rows that end in the range. `open` is the level of the rows that
 /// end further on.
-void FindRows(std::vector<HtmlParagraph>& paragraphs) {
+void FindRows(std::vector<CellParagraph>& paragraphs) {
   int open = 0;
   for (auto paragraph = paragraphs.rbegin(); paragraph != paragraphs.rend(); ++paragraph) {
     const int level = paragraph->level;
@@ -78,13 +82,13 @@ void FindRows(std::vector<HtmlParagraph>& paragraphs) {
 }
 
 /// Makes cells outside of rows ordinary text with tabs.
-void JoinLostCells(std::vector<HtmlParagraph>& paragraphs, const FormatTables& tables) {
-  const auto isLost = [&](const HtmlParagraph& one) {
+void JoinLostCells(std::vector<CellParagraph>& paragraphs, const FormatTables& tables) {
+  const auto isLost = [&](const CellParagraph& one) {
     const Kept& kept = KeptOf(tables, one.ender);
     return one.endsCell && one.level != LevelOf(kept, tables.paragraphs[one.format]);
   };
   std::optional<Position> start;
-  for (HtmlParagraph& paragraph : paragraphs) {
+  for (CellParagraph& paragraph : paragraphs) {
     if (start) paragraph.start = *std::exchange(start, {});
     if (isLost(paragraph)) start = paragraph.start;
   }
@@ -93,12 +97,13 @@ void JoinLostCells(std::vector<HtmlParagraph>& paragraphs, const FormatTables& t
 
 }  // namespace
 
-std::vector<HtmlParagraph> FindHtmlParagraphs(const Document& document, Selection range) {
+std::vector<CellParagraph> FindCellParagraphs(const Document& document, Selection range,
+                                              LastBreak last) {
   ParagraphFinder finder(document, range.start);
   document.ForEachRun(range.start, range.end, [&](Position at, TextView text, CharId format) {
     finder.Take(at, text, format);
   });
-  std::vector<HtmlParagraph> paragraphs = finder.Finish(range.end);
+  std::vector<CellParagraph> paragraphs = finder.Finish(range.end, last == LastBreak::Inside);
   FindRows(paragraphs);
   JoinLostCells(paragraphs, document.Formats());
   return paragraphs;
