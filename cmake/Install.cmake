@@ -7,10 +7,10 @@ set(targets lumenote_core ${system} lumenote_headless)
 if(LUMENOTE_QT)
   list(APPEND targets lumenote_qt)
 endif()
-install(TARGETS ${targets} EXPORT LumenoteTargets)
+install(TARGETS ${targets} EXPORT LumenoteTargets COMPONENT development)
 install(EXPORT LumenoteTargets NAMESPACE Lumenote::
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote)
-install(DIRECTORY include/lumenote DESTINATION include)
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote COMPONENT development)
+install(DIRECTORY include/lumenote DESTINATION include COMPONENT development)
 
 configure_package_config_file(cmake/LumenoteConfig.cmake.in
   ${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfig.cmake
@@ -19,11 +19,14 @@ write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfigVersi
   COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/LumenoteConfigVersion.cmake
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote)
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/Lumenote COMPONENT development)
 
-install(TARGETS lumenote_tool RUNTIME)
+install(TARGETS lumenote_tool RUNTIME COMPONENT programs)
 if(LUMENOTE_QT)
-  install(TARGETS microedit RUNTIME)
+  install(TARGETS microedit RUNTIME COMPONENT programs)
+endif()
+if(LUMENOTE_QT)
+  add_subdirectory(packaging/debian)
 endif()
 
 # Removes what the last installation put down.

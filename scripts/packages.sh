@@ -27,4 +27,5 @@ TEST_PACKAGES=(libgtest-dev python3 xvfb xauth openbox xdotool x11-utils procps
   pkg-config libgtk-3-dev)
 WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 WINE_PACKAGES=(wine64 wine)
+PACKAGING_PACKAGES=(dpkg-dev file desktop-file-utils lintian)
 CHECK_PACKAGES=(ccache clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev)
