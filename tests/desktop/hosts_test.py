@@ -2,6 +2,7 @@
 """Hosts without Qt of their own: in C, on GTK, in Python, and programs that start the editor as a filter.
 Their user types in its window."""
 import pathlib
+import re
 import subprocess
 import sys
 import unittest
@@ -106,7 +107,7 @@ class Filter(Desktop):
         editor = self.edit(b"note", output="/dev/full")
         self.ask_to_close(editor)
         self.assertEqual(self.filter.wait(timeout=60), 1)
-        kept = self.log().rpartition(" ")[2].strip()
+        kept = re.search(r"elle est dans (\S+)", self.log())[1]
         self.assertEqual(pathlib.Path(kept).read_bytes(), b"note")
 
 
