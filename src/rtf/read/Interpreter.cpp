@@ -186,9 +186,10 @@ void Interpreter::Close() {
     State().fieldAt = GroupState::kNowhere;
   } else {
     HoldParagraph();
+    const bool shown = State().contentAtStart != contentCount_;
     groups_.pop_back();
-    // } is between the text and its \plain.
-    if (IsBehindText(State().character.reset)) EditCharacter().reset = Reset::None;
+    // The group's text is between the text outside and its \plain.
+    if (shown && IsBehindText(State().character.reset)) EditCharacter().reset = Reset::None;
   }
   if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
 }
