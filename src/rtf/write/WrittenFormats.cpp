@@ -111,11 +111,20 @@ void WrittenFormats::UseBullets() {
   bulletFont_ = FontOf({.name = u"Symbol", .charset = 2}).number;
 }
 
+/// A number that no font of the source has.
+int WrittenFormats::NextFont() {
+  const auto taken = [this](int number) {
+    return std::ranges::binary_search(Head().fonts, number, {}, &KeptHead::Font::number);
+  };
+  while (taken(nextFont_)) ++nextFont_;
+  return nextFont_++;
+}
+
 const WrittenFormats::Font& WrittenFormats::FontOf(const FontFace& face) {
   const std::uint32_t index = faces_.Intern(face);
   if (index == fonts_.size()) {
     const int page = CodePageOfCharset(face.charset);
-    fonts_.push_back({nextFont_++, EncodingOf(face, page, Head().page)});
+    fonts_.push_back({NextFont(), EncodingOf(face, page, Head().page)});
   }
   fonts_[index].used = true;
   return fonts_[index];

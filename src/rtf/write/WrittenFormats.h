@@ -89,6 +89,7 @@ class WrittenFormats {
   void AddColour(std::size_t place);
   void UseDefault(Font& font);
   void UseFontZero();
+  int NextFont();
   const Font& FontOf(const FontFace& face);
   void WriteFont(const FontFace& face, const Font& font, Output& out) const;
   int ColourNumber(Colour colour);
