@@ -45,7 +45,7 @@ sortie standard.
 
   --pilot SCRIPT [--root DOSSIER] [--shot PNG]
                   conduit l'éditeur par un script (voir docs/pilot.md)
-  --help          affiche cette aide
+  -h, --help      affiche cette aide
   --version       affiche la version
 
 État de sortie : 0, 1 quand la note ne peut être ouverte ou un fichier écrit, 2 pour
@@ -55,10 +55,20 @@ une ligne de commande incorrecte ; avec « - » aussi 3 quand la note n'a pas ch
 
 constexpr const char* kDesktopsOwn = "-1";  // also in a dark palette
 
-constexpr OptionRule kOptions[] = {
-    {"--title", true}, {"--frame", true},   {"--colour", true}, {"--key", true},   {"--app", true},
-    {"--readonly"},    {"--capture", true}, {"--pdf", true},    {"--pilot", true}, {"--root", true},
-    {"--shot", true},  {"--help"},          {"--version"}};
+constexpr OptionRule kOptions[] = {{"--title", true},
+                                   {"--frame", true},
+                                   {"--colour", true},
+                                   {"--key", true},
+                                   {"--app", true},
+                                   {"--readonly"},
+                                   {"--capture", true},
+                                   {"--pdf", true},
+                                   {"--pilot", true},
+                                   {"--root", true},
+                                   {"--shot", true},
+                                   {"--help"},
+                                   {"-h"},
+                                   {"--version"}};
 
 int Fail(const std::string& message, int status) {
   std::cerr << "microedit : " << message << "\n";
@@ -191,7 +201,7 @@ int DrivePilot(const CommandLine& line, Desktop& desktop) {
 }
 
 int Follow(const CommandLine& line, Desktop& desktop) {
-  if (line.Has("--help")) {
+  if (line.Has("--help") || line.Has("-h")) {
     std::cout << kUsage;
     return 0;
   }

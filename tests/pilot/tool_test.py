@@ -20,12 +20,13 @@ class Tool(unittest.TestCase):
     def tearDown(self):
         self.temporary.cleanup()
 
-    def run_tool(self, *arguments, data=b"", status=0):
+    def run_tool(self, *arguments, data=b"", status=0, errors=1):
         done = subprocess.run([TOOL, *arguments], input=data, capture_output=True, timeout=60,
                               cwd=self.folder)
         self.assertEqual(done.returncode, status, (arguments, done.stderr))
         if status:
-            self.assertEqual(done.stderr.count(b"\n"), 1, done.stderr)
+            self.assertEqual(done.stderr.count(b"\n"), errors, done.stderr)
+        self.said = done.stderr.decode()
         return done.stdout
 
     def write(self, name, data=b"texte"):
@@ -72,7 +73,7 @@ class Tool(unittest.TestCase):
     def test_what_cannot_be_done(self):
         for name in ("faux.rtf", "a.txt", "garde.rtf"):
             self.write(name)
-        for arguments in [("text", "rien.rtf"), ("text", "faux.rtf"), ("text", "."),
+        for arguments in [("text", "rien.rtf"), ("text", "faux.rtf"), ("text", "rien/."),
                           ("text", "nulle/part.txt"), ("convert", "a.txt", "nulle/part.rtf"),
                           ("convert", "faux.rtf", "b.txt"), ("convert", "a.txt", "./x.rtf/y.rtf")]:
             self.run_tool(*arguments, status=1)
@@ -93,9 +94,33 @@ class Tool(unittest.TestCase):
         self.assertEqual(self.read("a.rtf"), before)
         self.assertEqual(self.run_tool("text", "c.rtf"), b"the mot, the ; x\n")
         self.write("faux.rtf")
-        self.run_tool("clean", "--list=liste.txt", "a.rtf", "faux.rtf", "b.rtf", status=1)
+        self.run_tool("clean", "--list=liste.txt", "a.rtf", "faux.rtf", "b.rtf", status=1,
+                      errors=2)
+        self.assertIn("notes : 3 ; changées : 2 ; inchangées : 0 ; refusées : 1\n", self.said)
         self.assertEqual([self.read(name) for name in ("a.rtf", "b.rtf", "faux.rtf")],
                          [self.read("c.rtf")] * 2 + [b"texte"])
+
+    def test_folders(self):
+        (self.folder / "notes/sous").mkdir(parents=True)
+        (self.folder / "notes/boucle").symlink_to(".")
+        self.write("notes/b.rtf", b"{\\rtf1 un,deux}")
+        self.write("notes/sous/a.RTF", b"{\\rtf1 trois,quatre}")
+        self.write("notes/sous/c.txt", b"cinq,six")
+        self.write("notes/image.png", b"un")
+        self.assertEqual(self.run_tool("text", "notes", "notes/b.rtf").decode(),
+                         "==> notes/b.rtf <==\nun,deux\n==> notes/sous/a.RTF <==\ntrois,quatre\n"
+                         "==> notes/sous/c.txt <==\ncinq,six\n==> notes/b.rtf <==\nun,deux\n")
+        before = self.read("notes/b.rtf")
+        self.run_tool("clean", "--dry-run", "notes")
+        self.assertIn("notes : 2 ; à changer : 2 ; inchangées : 0 ; refusées : 0", self.said)
+        self.assertEqual(self.read("notes/b.rtf"), before)
+        self.run_tool("clean", "-o", "x.rtf", "notes", status=2)
+        self.run_tool("clean", "--backup", "notes")
+        self.assertEqual(self.read("notes/b.rtf~"), before)
+        self.assertEqual(self.run_tool("text", "notes/sous/a.RTF"), b"trois, quatre\n")
+        self.run_tool("clean", "--backup", "notes")
+        self.assertIn("changées : 0 ; inchangées : 2", self.said)
+        self.assertEqual(self.read("notes/b.rtf~"), before)
 
     def test_clean_leaves_what_it_cannot_clean(self):
         self.write("a.rtf", b"{\\rtf1 " + b"," * 30000 + b"}")
@@ -124,7 +149,7 @@ class Tool(unittest.TestCase):
 
     def test_wrong_command_lines(self):
         self.write("a.txt")
-        for arguments in [(), ("rien",), ("text",), ("text", "a.txt", "a.txt"), ("convert", "a.txt"),
+        for arguments in [(), ("rien",), ("text",), ("help", "rien"), ("convert", "a.txt"),
                           ("convert", "a.txt", "b.doc"), ("convert", "--to", "doc", "a.txt", "-"),
                           ("text", "--rien", "a.txt"), ("pilot", "rien.pilot"), ("pilot", "--root"),
                           ("pilot", "--root", "a.txt"), ("pilot", "a", "b"), ("clean",),
@@ -132,7 +157,11 @@ class Tool(unittest.TestCase):
                           ("link", "Qjot"), ("link", "Rien", "/bin/cat"), ("links", "a")]:
             self.run_tool(*arguments, status=2)
         self.assertEqual(os.listdir(self.folder), ["a.txt"])
-        self.assertIn(b"lumenote convert", self.run_tool("--help"))
+        for arguments in [("--help",), ("-h",), ("help",)]:
+            self.assertIn(b"lumenote convert", self.run_tool(*arguments))
+        for arguments in [("help", "clean"), ("clean", "--help"), ("clean", "a", "-h")]:
+            help = self.run_tool(*arguments)
+            self.assertTrue(b"lumenote clean" in help and b"lumenote text" not in help, help)
         self.assertRegex(self.run_tool("--version"), rb"^lumenote \d+\.\d+\.\d+\n$")
 
     @unittest.skipUnless(os.path.exists("/dev/full"), "no full device here")

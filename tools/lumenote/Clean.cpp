@@ -2,9 +2,10 @@
 #include <iostream>
 
 #include "Command.h"
+#include "EachNote.h"
 #include "ListFile.h"
 #include "NoteFile.h"
-#include "Progress.h"
+#include "NoteNames.h"
 #include "base/CommandLine.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
@@ -12,14 +13,12 @@
 namespace lumenote::tool {
 namespace {
 
-constexpr OptionRule kOptions[] = {{"--list", true}, {"-o", true}, {"--dry-run"}};
+constexpr OptionRule kOptions[] = {{"--list", true}, {"-o", true}, {"--backup"}, {"--dry-run"}};
 
 void Check(const CommandLine& line) {
-  const std::vector<std::string>& notes = line.Operands();
-  if (notes.empty()) throw CommandLineError("une note est attendue");
-  if (!line.Has("-o")) return;
-  if (notes.size() > 1) throw CommandLineError("-o attend une seule note");
-  if (line.Has("--dry-run")) throw CommandLineError("-o et --dry-run s'excluent");
+  if (line.Operands().empty()) throw CommandLineError("une note est attendue");
+  if (line.Has("-o") + line.Has("--backup") + line.Has("--dry-run") > 1)
+    throw CommandLineError("-o, --backup et --dry-run s'excluent");
 }
 
 /// Cleans up the note and returns one line per pair with its count.
@@ -37,14 +36,54 @@ std::string CleanUp(Note& note, const ListFile& list, const std::string& name) {
   return lines;
 }
 
-void CleanOne(const CommandLine& line, const ListFile& list, const std::string& name) {
-  Note note = ReadNote(name);
+class Cleaning {
+ public:
+  Cleaning(const CommandLine& line, bool several)
+      : line_(line), list_(line.Value("--list").value_or("")), several_(several) {}
+
+  /// Cleans up the note of this name and puts it where the command line says.
+  void Clean(const std::string& name);
+  /// What became of `total` notes, in one line.
+  std::string Summary(std::size_t total) const;
+
+ private:
+  void Put(const std::string& name, const std::string& before, const std::string& after) const;
+
+  const CommandLine& line_;
+  ListFile list_;
+  bool several_;
+  std::size_t changed_ = 0;
+  std::size_t unchanged_ = 0;
+};
+
+void Cleaning::Clean(const std::string& name) {
+  const std::string before = ReadBytes(name);
+  Note note = NoteOf(name, before);
   if (note.Source() != Note::Format::Rtf) throw Failure(name + " : pas une note RTF");
-  const std::string lines = CleanUp(note, list, name);
-  if (!line.Has("--dry-run"))
-    return WriteBytes(line.Value("-o").value_or(name), note.Bytes(Note::Format::Rtf));
-  const bool several = line.Operands().size() > 1;
-  WriteBytes("-", several ? "==> " + name + " <==\n" + lines : lines);
+  const std::string lines = CleanUp(note, list_, name);
+  const std::string after = note.Bytes(Note::Format::Rtf);
+  if (line_.Has("--dry-run"))
+    WriteBytes("-", several_ ? Titled(name, lines) : lines);
+  else
+    Put(name, before, after);
+  ++(before == after ? unchanged_ : changed_);
+}
+
+void Cleaning::Put(const std::string& name, const std::string& before,
+                   const std::string& after) const {
+  const std::string target = line_.Value("-o").value_or(name);
+  if (target == name && target != "-" && before == after) return;
+  if (line_.Has("--backup") && name != "-") WriteBytes(name + '~', before);
+  WriteBytes(target, after);
+}
+
+std::string Cleaning::Summary(std::size_t total) const {
+  const auto part = [](std::string_view name, std::size_t count) {
+    return " ; " + std::string(name) + " : " + std::to_string(count);
+  };
+  return "notes : " + std::to_string(total) +
+         part(line_.Has("--dry-run") ? "à changer" : "changées", changed_) +
+         part("inchangées", unchanged_) + part("refusées", total - changed_ - unchanged_);
 }
 
 }  // namespace
@@ -52,18 +91,13 @@ void CleanOne(const CommandLine& line, const ListFile& list, const std::string& 
 int Clean(Arguments arguments) {
   const CommandLine line(arguments, kOptions);
   Check(line);
-  const ListFile list(line.Value("--list").value_or(""));
-  Progress progress(line.Operands().size());
-  int status = 0;
-  for (const std::string& name : line.Operands()) {
-    progress.Next(name);
-    try {
-      CleanOne(line, list, name);
-    } catch (const Failure& failure) {
-      std::cerr << "lumenote : " << failure.what() << '\n';
-      status = 1;
-    }
-  }
+  const auto names =
+      NoteNames(line.Operands(), [](Note::Format format) { return format == Note::Format::Rtf; });
+  const bool several = names != line.Operands() || names.size() > 1;
+  if (several && line.Has("-o")) throw CommandLineError("-o attend une seule note");
+  Cleaning cleaning(line, several);
+  const int status = ForEachNote(names, [&](const std::string& name) { cleaning.Clean(name); });
+  if (several) std::cerr << "lumenote : " << cleaning.Summary(names.size()) << '\n';
   return status;
 }
 

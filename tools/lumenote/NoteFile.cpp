@@ -38,8 +38,9 @@ std::optional<Note::Format> FormatOfName(std::string_view name) {
   return {};
 }
 
-Note ReadNote(const std::string& name) {
-  const std::string bytes = ReadBytes(name);
+Note ReadNote(const std::string& name) { return NoteOf(name, ReadBytes(name)); }
+
+Note NoteOf(const std::string& name, const std::string& bytes) {
   const auto named = FormatOfName(name);
   if (named == Note::Format::Rtf && !Note::IsRtf(bytes))
     throw Failure(name + " : n'est pas un fichier RTF");

@@ -14,6 +14,8 @@ std::optional<Note::Format> FormatOfName(std::string_view name);
 /// Reads the note in the format of its extension or, for an unknown one, the detected format.
 /// Raises `Failure` for a file named .rtf whose content is not RTF.
 Note ReadNote(const std::string& name);
+/// The same for a file whose content is known.
+Note NoteOf(const std::string& name, const std::string& bytes);
 
 /// `name` is a native path, or "-" for a standard stream. Both raise `Failure`.
 std::string ReadBytes(const std::string& name);

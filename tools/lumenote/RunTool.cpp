@@ -1,4 +1,5 @@
 // The command-line tool: notes without a window.
+#include <algorithm>
 #include <array>
 #include <iostream>
 #include <new>
@@ -11,60 +12,99 @@
 namespace lumenote::tool {
 namespace {
 
-constexpr std::string_view kUsage =
-    R"(Utilisation : lumenote text NOTE
-              lumenote convert [--to rtf|txt|html] SOURCE CIBLE
-              lumenote clean [--list LISTE] [-o CIBLE] [--dry-run] NOTE...
-              lumenote link NOM PROGRAMME
-              lumenote links
-              lumenote pilot [--root DOSSIER] [SCRIPT]
-              lumenote --help | --version
+struct Command {
+  std::string_view name;
+  std::string_view arguments;
+  std::string_view purpose;
+  int (*run)(Arguments);
+};
 
-  text      écrit le texte de la note en UTF-8
-  convert   convertit une note entre RTF, texte et HTML, remplaçant CIBLE d'un coup
-  clean     met au propre des notes RTF issues d'une reconnaissance de texte : les
+constexpr std::array<Command, 6> kCommands{{
+    {"text", "NOTE...",
+     R"(  text      écrit le texte de la note en UTF-8, celui de plusieurs sous leurs noms
+)",
+     Text},
+    {"convert", "[--to rtf|txt|html] SOURCE CIBLE",
+     R"(  convert   convertit une note entre RTF, texte et HTML, remplaçant CIBLE d'un coup
+)",
+     Convert},
+    {"clean", "[--list LISTE] [-o CIBLE] [--backup | --dry-run] NOTE...",
+     R"(  clean     met au propre des notes RTF issues d'une reconnaissance de texte : les
             paires de LISTE, les blancs, un seul format ; remplace chaque note d'un
-            coup, ou écrit l'unique NOTE dans CIBLE. --dry-run n'écrit rien et dit,
-            par paire, le texte fautif, le texte juste et le nombre d'occurrences
-  link      fait de PROGRAMME l'application NOM : Qjot, Atlantis, WinWord, ReadIris
+            coup, ou écrit l'unique NOTE dans CIBLE. --backup garde l'ancienne note
+            sous son nom suivi de "~". --dry-run n'écrit rien et dit, par paire, le
+            texte fautif, le texte juste et le nombre d'occurrences
+)",
+     Clean},
+    {"link", "NOM PROGRAMME",
+     R"(  link      fait de PROGRAMME l'application NOM : Qjot, Atlantis, WinWord, ReadIris
             ou FineReader (voir docs/programmes.md)
-  links     dit où mène chaque application, "-" pour une absente
-  pilot     conduit l'éditeur, sans fenêtre, par un script (voir docs/pilot.md)
+)",
+     Link},
+    {"links", "",
+     R"(  links     dit où mène chaque application, "-" pour une absente
+)",
+     Links},
+    {"pilot", "[--root DOSSIER] [SCRIPT]",
+     R"(  pilot     conduit l'éditeur, sans fenêtre, par un script (voir docs/pilot.md)
+)",
+     Pilot},
+}};
 
+constexpr std::string_view kCommon = R"(
 Les fichiers sont des chemins du système ; l'extension .rtf, .txt, .html ou .htm en
-dit le format. Avec text, convert et clean "-" est l'entrée ou la sortie standard :
-en entrée le RTF se reconnaît à son début, en sortie c'est l'autre format (RTF pour
-du HTML), sauf avec --to. Un fichier texte est en page de code 1252 avec CR LF ; en
-entrée, une marque d'ordre des octets est suivie.
+dit le format. Avec text et clean un dossier vaut pour toutes les notes qu'il
+contient, sous-dossiers compris ; clean n'y prend que les .rtf. Avec text, convert et
+clean "-" est l'entrée ou la sortie standard : en entrée le RTF se reconnaît à son
+début, en sortie c'est l'autre format (RTF pour du HTML), sauf avec --to. Un fichier
+texte est en page de code 1252 avec CR LF ; en entrée, une marque d'ordre des octets
+est suivie.
 
 État de sortie : 0, 1 quand une note ne peut être lue ou écrite ou une application
 liée, 2 pour une ligne de commande incorrecte. De pilot : 1 quand une attente n'est
 pas remplie, 2 pour une ligne incomprise.
 )";
 
-struct Command {
-  std::string_view name;
-  int (*run)(Arguments);
-};
-
-constexpr std::array<Command, 6> kCommands{{{"text", Text},
-                                            {"convert", Convert},
-                                            {"clean", Clean},
-                                            {"link", Link},
-                                            {"links", Links},
-                                            {"pilot", Pilot}}};
-
 int Print(std::string_view text) {
   std::cout << text;
   return 0;
 }
 
+/// The help for these commands; that for all of them says how to get it, too.
+int Help(std::span<const Command> commands) {
+  std::string usage;
+  std::string purposes = "\n";
+  for (const Command& command : commands) {
+    usage += usage.empty() ? "Utilisation : lumenote " : "              lumenote ";
+    usage += command.name;
+    if (!command.arguments.empty()) (usage += ' ') += command.arguments;
+    usage += '\n';
+    purposes += command.purpose;
+  }
+  if (commands.size() > 1) usage += "              lumenote [COMMANDE] --help | --version\n";
+  return Print(usage + purposes + std::string(kCommon));
+}
+
+bool AsksForHelp(std::string_view argument) { return argument == "--help" || argument == "-h"; }
+
+int Run(const Command& command, Arguments arguments) {
+  const auto options = arguments.first(
+      static_cast<std::size_t>(std::ranges::find(arguments, "--") - arguments.begin()));
+  if (std::ranges::any_of(options, AsksForHelp)) return Help({&command, 1});
+  return command.run(arguments);
+}
+
 int Run(Arguments arguments) {
   if (arguments.empty()) throw CommandLineError("une commande est attendue");
-  if (arguments[0] == "--help") return Print(kUsage);
+  if (arguments[0] == "help") {
+    if (arguments.size() == 1) return Help(kCommands);
+    arguments = arguments.subspan(1);
+    return Run(std::array<std::string_view, 2>{arguments[0], "--help"});
+  }
+  if (AsksForHelp(arguments[0])) return Help(kCommands);
   if (arguments[0] == "--version") return Print("lumenote " LUMENOTE_VERSION "\n");
   for (const Command& command : kCommands)
-    if (command.name == arguments[0]) return command.run(arguments.subspan(1));
+    if (command.name == arguments[0]) return Run(command, arguments.subspan(1));
   throw CommandLineError("commande inconnue : " + std::string(arguments[0]));
 }
 
