@@ -70,9 +70,39 @@ class Tool(unittest.TestCase):
         self.assertEqual(self.run_tool("convert", "--to", "txt", "-", "-", data=b"{\\rtf1 \\u937?}"),
                          "\ufeffΩ".encode())
 
+    def test_convert_into_a_folder(self):
+        (self.folder / "notes/sous.2").mkdir(parents=True)
+        for name in ("notes/a.rtf", "notes/sous.2/a.RTF", "b.rtf"):
+            self.write(name, RTF)
+        self.write("notes/c.html", b"<p>un")
+        self.write("notes/sans", b"deux")
+        self.run_tool("convert", "--to", "html", "b.rtf", "notes", "notes/sans", "web/tout")
+        web = self.folder / "web/tout"
+        self.assertEqual(sorted(str(path.relative_to(web)) for path in web.rglob("*.*")),
+                         ["a.html", "b.html", "sans.html", "sous.2", "sous.2/a.html"])
+        self.assertIn("notes : 4 ; converties : 4 ; refusées : 0", self.said)
+        self.assertEqual((web / "sous.2/a.html").read_bytes(),
+                         self.run_tool("convert", "--to", "html", "b.rtf", "-"))
+        # Results of before are replaced, notes and other notes' results are not.
+        self.write("web/tout/b.html", b"avant")
+        self.run_tool("convert", "--to=html", "b.rtf", "notes/a.rtf", "notes/sous.2/a.RTF",
+                      "web/tout", status=1, errors=2)
+        self.assertIn("notes : 3 ; converties : 2 ; refusées : 1", self.said)
+        self.assertIn(b"gras", self.read("web/tout/b.html"))
+        self.write("notes/a.html", b"<p>une note")
+        self.run_tool("convert", "--to=html", "notes", "notes", status=1, errors=2)
+        self.assertEqual(self.read("notes/a.html"), b"<p>une note")
+        self.assertIn(b"gras", self.read("notes/sous.2/a.html"))
+        self.run_tool("convert", "--to=txt", "notes", "b.rtf", status=1, errors=6)
+
     def test_what_cannot_be_done(self):
         for name in ("faux.rtf", "a.txt", "garde.rtf"):
             self.write(name)
+        for name, data, status in [("image", b"\x89PNG\r\n\0", 1), ("lisez-moi", b"texte", 0),
+                                   ("large", "\ufefftexte".encode("utf-16-le"), 0)]:
+            self.write(name, data)
+            self.assertEqual(self.run_tool("text", name, status=status), b"" if status else b"texte\n")
+            os.remove(self.folder / name)
         for arguments in [("text", "rien.rtf"), ("text", "faux.rtf"), ("text", "rien/."),
                           ("text", "nulle/part.txt"), ("convert", "a.txt", "nulle/part.rtf"),
                           ("convert", "faux.rtf", "b.txt"), ("convert", "a.txt", "./x.rtf/y.rtf")]:
@@ -151,6 +181,7 @@ class Tool(unittest.TestCase):
         self.write("a.txt")
         for arguments in [(), ("rien",), ("text",), ("help", "rien"), ("convert", "a.txt"),
                           ("convert", "a.txt", "b.doc"), ("convert", "--to", "doc", "a.txt", "-"),
+                          ("convert", "a.txt", "."), ("convert", "--to", "rtf", "-", "."),
                           ("text", "--rien", "a.txt"), ("pilot", "rien.pilot"), ("pilot", "--root"),
                           ("pilot", "--root", "a.txt"), ("pilot", "a", "b"), ("clean",),
                           ("clean", "-o", "c", "a", "b"), ("clean", "-o", "c", "--dry-run", "a"),

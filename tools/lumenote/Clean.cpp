@@ -91,13 +91,12 @@ std::string Cleaning::Summary(std::size_t total) const {
 int Clean(Arguments arguments) {
   const CommandLine line(arguments, kOptions);
   Check(line);
-  const auto names =
-      NoteNames(line.Operands(), [](Note::Format format) { return format == Note::Format::Rtf; });
-  const bool several = names != line.Operands() || names.size() > 1;
+  const auto [notes, several] =
+      FindNotes(line.Operands(), [](Note::Format format) { return format == Note::Format::Rtf; });
   if (several && line.Has("-o")) throw CommandLineError("-o attend une seule note");
   Cleaning cleaning(line, several);
-  const int status = ForEachNote(names, [&](const std::string& name) { cleaning.Clean(name); });
-  if (several) std::cerr << "lumenote : " << cleaning.Summary(names.size()) << '\n';
+  const int status = ForEachNote(notes, [&](const NoteName& note) { cleaning.Clean(note.path); });
+  if (several) std::cerr << "lumenote : " << cleaning.Summary(notes.size()) << '\n';
   return status;
 }
 

@@ -8,14 +8,14 @@
 
 namespace lumenote::tool {
 
-int ForEachNote(const std::vector<std::string>& names,
-                const std::function<void(const std::string& name)>& act) {
-  const bool shown = names.size() > 1 && isatty(STDERR_FILENO) == 1;
+int ForEachNote(const std::vector<NoteName>& notes,
+                const std::function<void(const NoteName& note)>& act) {
+  const bool shown = notes.size() > 1 && isatty(STDERR_FILENO) == 1;
   int status = 0;
-  for (std::size_t i = 0; i < names.size(); ++i) {
-    if (shown) std::cerr << '[' << i + 1 << '/' << names.size() << "] " << names[i] << '\n';
+  for (std::size_t i = 0; i < notes.size(); ++i) {
+    if (shown) std::cerr << '[' << i + 1 << '/' << notes.size() << "] " << notes[i].path << '\n';
     try {
-      act(names[i]);
+      act(notes[i]);
     } catch (const Failure& failure) {
       std::cerr << "lumenote : " << failure.what() << '\n';
       status = 1;

@@ -11,6 +11,7 @@
 #include "base/Characters.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
+#include "base/TextEncoding.h"
 
 namespace lumenote::tool {
 namespace {
@@ -28,6 +29,12 @@ void WriteStandardOutput(std::string_view bytes) {
   if (!std::cout) throw Failure("sortie standard : écriture impossible");
 }
 
+bool IsBinary(std::string_view bytes) {
+  const TextEncoding encoding = DetectEncoding(bytes);
+  const bool wide = encoding == TextEncoding::Utf16Le || encoding == TextEncoding::Utf16Be;
+  return !wide && bytes.find('\0') != bytes.npos;
+}
+
 }  // namespace
 
 std::optional<Note::Format> FormatOfName(std::string_view name) {
@@ -42,8 +49,8 @@ Note ReadNote(const std::string& name) { return NoteOf(name, ReadBytes(name)); }
 
 Note NoteOf(const std::string& name, const std::string& bytes) {
   const auto named = FormatOfName(name);
-  if (named == Note::Format::Rtf && !Note::IsRtf(bytes))
-    throw Failure(name + " : n'est pas un fichier RTF");
+  const bool otherwise = named ? named == Note::Format::Rtf : IsBinary(bytes);
+  if (otherwise && !Note::IsRtf(bytes)) throw Failure(name + " : n'est pas un fichier RTF");
   return named ? Note(bytes, *named) : Note(bytes);
 }
 

@@ -12,7 +12,8 @@ namespace lumenote::tool {
 std::optional<Note::Format> FormatOfName(std::string_view name);
 
 /// Reads the note in the format of its extension or, for an unknown one, the detected format.
-/// Raises `Failure` for a file named .rtf whose content is not RTF.
+/// Raises `Failure` for a file named .rtf whose content is not RTF, and for a binary file whose
+/// extension does not say that it is a note.
 Note ReadNote(const std::string& name);
 /// The same for a file whose content is known.
 Note NoteOf(const std::string& name, const std::string& bytes);

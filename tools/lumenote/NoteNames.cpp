@@ -12,32 +12,41 @@ namespace {
 
 using Takes = std::function<bool(Note::Format)>;
 
-void AddNotesOf(const std::string& folder, const Takes& takes, std::vector<std::string>& notes) {
+std::string LastPartOf(const std::string& path) {
+  const std::string absolute = AbsolutePath(path);
+  return absolute.substr(absolute.rfind('/') + 1);
+}
+
+/// `below` is the folder's path within the one that was named, with a separator behind it.
+void AddNotesOf(const std::string& folder, const std::string& below, const Takes& takes,
+                std::vector<NoteName>& notes) {
   std::optional<std::vector<std::string>> names = AllNamesIn(AbsolutePath(folder));
   if (!names) throw Failure(folder + " : lecture impossible");
   std::ranges::sort(*names);
   for (const std::string& name : *names) {
     const std::string path = folder.ends_with('/') ? folder + name : folder + '/' + name;
     if (IsRealFolder(AbsolutePath(path))) {
-      AddNotesOf(path, takes, notes);
+      AddNotesOf(path, below + name + '/', takes, notes);
       continue;
     }
     const std::optional<Note::Format> format = FormatOfName(name);
-    if (format && takes(*format)) notes.push_back(path);
+    if (format && takes(*format)) notes.push_back({path, below + name});
   }
 }
 
 }  // namespace
 
-std::vector<std::string> NoteNames(const std::vector<std::string>& operands, const Takes& takes) {
-  std::vector<std::string> notes;
+NoteNames FindNotes(std::span<const std::string> operands, const Takes& takes) {
+  NoteNames found{{}, operands.size() > 1};
   for (const std::string& operand : operands) {
-    if (operand != "-" && IsRealFolder(AbsolutePath(operand)))
-      AddNotesOf(operand, takes, notes);
-    else
-      notes.push_back(operand);
+    if (operand != "-" && IsRealFolder(AbsolutePath(operand))) {
+      found.several = true;
+      AddNotesOf(operand, "", takes, found.notes);
+    } else {
+      found.notes.push_back({operand, LastPartOf(operand)});
+    }
   }
-  return notes;
+  return found;
 }
 
 }  // namespace lumenote::tool

@@ -24,8 +24,10 @@ constexpr std::array<Command, 6> kCommands{{
      R"(  text      écrit le texte de la note en UTF-8, celui de plusieurs sous leurs noms
 )",
      Text},
-    {"convert", "[--to rtf|txt|html] SOURCE CIBLE",
-     R"(  convert   convertit une note entre RTF, texte et HTML, remplaçant CIBLE d'un coup
+    {"convert", "[--to rtf|txt|html] NOTE... CIBLE",
+     R"(  convert   convertit une note entre RTF, texte et HTML, remplaçant CIBLE d'un coup ; avec
+            --to, plusieurs notes ou un dossier dans le dossier CIBLE, créé s'il n'existe
+            pas. À côté de sa note, un fichier de ce nom n'y est jamais remplacé
 )",
      Convert},
     {"clean", "[--list LISTE] [-o CIBLE] [--backup | --dry-run] NOTE...",
@@ -53,8 +55,8 @@ constexpr std::array<Command, 6> kCommands{{
 
 constexpr std::string_view kCommon = R"(
 Les fichiers sont des chemins du système ; l'extension .rtf, .txt, .html ou .htm en
-dit le format. Avec text et clean un dossier vaut pour toutes les notes qu'il
-contient, sous-dossiers compris ; clean n'y prend que les .rtf. Avec text, convert et
+dit le format. Un dossier vaut pour toutes les notes qu'il contient, sous-dossiers
+compris ; clean n'y prend que les .rtf, convert celles d'un autre format. Avec text, convert et
 clean "-" est l'entrée ou la sortie standard : en entrée le RTF se reconnaît à son
 début, en sortie c'est l'autre format (RTF pour du HTML), sauf avec --to. Un fichier
 texte est en page de code 1252 avec CR LF ; en entrée, une marque d'ordre des octets

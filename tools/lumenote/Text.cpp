@@ -23,11 +23,10 @@ std::string TextOf(const std::string& name) {
 int Text(Arguments arguments) {
   const CommandLine line(arguments, {});
   if (line.Operands().empty()) throw CommandLineError("une note est attendue");
-  const auto names = NoteNames(line.Operands(), [](Note::Format) { return true; });
-  const bool alone = names == line.Operands() && names.size() == 1;
-  return ForEachNote(names, [&](const std::string& name) {
-    const std::string text = TextOf(name);
-    WriteBytes("-", alone ? text : Titled(name, text));
+  const NoteNames found = FindNotes(line.Operands(), [](Note::Format) { return true; });
+  return ForEachNote(found.notes, [&](const NoteName& note) {
+    const std::string text = TextOf(note.path);
+    WriteBytes("-", found.several ? Titled(note.path, text) : text);
   });
 }
 
