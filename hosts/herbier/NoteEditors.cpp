@@ -10,10 +10,10 @@ NoteEditors::NoteEditors(Database& base, const QString& folder, QWidget& window,
 void NoteEditors::Open(qint64 id) {
   Editor& editor = EditorOf(id);
   const Database::Record record = base_.Read(id);
-  editor.control.pTitreFenêtre(record.name.toStdU16String());
+  editor.control.pTitreFenêtre(record.name);
   if (!editor.open) {
     editor.note = record.note;
-    editor.control.NoteText(record.note.toStdU16String());
+    editor.control.NoteText(record.note);
   }
   editor.control.ShowMicroEdit();
   editor.open = true;
@@ -31,7 +31,7 @@ NoteEditors::Editor& NoteEditors::EditorOf(qint64 id) {
   editor.control.pCouleurFen(u"-1");
   editor.control.pSScléReg(u"Herbier");
   editor.control.pChmAppli(platform_.ToDrivePath(program_.toStdString()));
-  editor.control.HostWindow(window_.winId());
+  editor.control.HostWindow(window_);
   editor.control.Closed([this, id] { Store(id); });
   return editor;
 }
@@ -40,8 +40,7 @@ NoteEditors::Editor& NoteEditors::EditorOf(qint64 id) {
 void NoteEditors::Store(qint64 id) {
   Editor& editor = editors_.at(id);
   editor.open = false;
-  const std::u16string note = editor.control.pStrOrchm();
-  const QString now = QString::fromStdU16String(note);
+  const QString now = editor.control.pStrOrchm();
   if (now == editor.note) return;
   try {
     base_.Store(id, now);
@@ -49,7 +48,7 @@ void NoteEditors::Store(qint64 id) {
   } catch (const DatabaseError& error) {
     QMessageBox::critical(&window_, "Remarque",
                           QString("La remarque n'a pu être rangée : %1").arg(error.what()));
-    editor.control.NoteText(note);
+    editor.control.NoteText(now);
     editor.control.ShowMicroEdit();
     editor.open = true;
   }

@@ -2,8 +2,7 @@
 #pragma once
 #include <QString>
 #include <functional>
-#include <lumenote/CoBxRtf.h>
-#include <lumenote/QtPlatform.h>
+#include <lumenote/QtCoBxRtf.h>
 #include <map>
 #include <memory>
 
@@ -28,7 +27,7 @@ class NoteEditors {
   struct Editor {
     explicit Editor(lumenote::Platform& platform) : control(platform) {}
 
-    lumenote::CoBxRtf control;
+    lumenote::QtCoBxRtf control;
     QString note;  // as it is in the database
     bool open = false;
   };

@@ -15,7 +15,7 @@ struct Component;
 
 /// Hosts use drive-letter paths on every system; the platform's `ToDrivePath` converts a native
 /// path. Set the descriptive properties, then `pStrOrchm`, call `ShowMicroEdit(1)` and read
-/// `pStrOrchm`.
+/// `pStrOrchm`. `pCouleurFen` is required; what else is not set is empty. Texts are UTF-16.
 ///
 /// Members raise `RuntimeError` and nothing else; its `Member()` names the member concerned. Any
 /// other exception becomes Internal (51). A control belongs to the thread that created it: on
@@ -35,19 +35,28 @@ class CoBxRtf {
   CoBxRtf(const CoBxRtf&) = delete;
   CoBxRtf& operator=(const CoBxRtf&) = delete;
 
-  /// The name under which paragraph styles are stored.
+  /// The host's name, under which the user's paragraph styles are stored. Empty: the styles of all
+  /// hosts without a name.
   void pNomAppli(std::u16string_view name);
-  /// The host program's path; the correction list is stored beside it and created when missing.
+  /// The host program's drive-letter path ("C:\\Herbier\\herbier.exe"; need not exist). Required to
+  /// learn corrections and clean up scanned text: their list "ListCorr.txt" is stored beside it and
+  /// created when missing.
   void pChmAppli(std::u16string_view path);
+  /// The caption of the window.
   void pTitreFenêtre(std::u16string_view title);
+  /// The caption of the frame around the note.
   void pTitreCadre(std::u16string_view title);
-  /// Background of the window: 0xBBGGRR as a decimal number in text.
+  /// Background of the window: 0xBBGGRR as a decimal number in text ("14737632" is a light grey),
+  /// "-1" for the desktop's own. Required: an empty text makes `ShowMicroEdit` raise TypeMismatch
+  /// (13).
   void pCouleurFen(std::u16string_view number);
-  /// The section under which the window's geometry is stored.
+  /// The section of the user's settings under which the window's place and size are stored. Empty:
+  /// one for all hosts that set none.
   void pSScléReg(std::u16string_view section);
-  /// "readonly" or "lectureseule", in any letter case, opens the note read-only.
+  /// "readonly" or "lectureseule", in any letter case, opens the note read-only; any other text
+  /// lets it be edited.
   void pAttribut(std::u16string_view access);
-  /// The template passed to an external word processor.
+  /// The drive-letter path of the template passed to an external word processor; empty for none.
   void pModelWord(std::u16string_view path);
 
   /// The note itself, or the path of its file (a drive-letter path longer than 7 characters). A

@@ -11,11 +11,13 @@
 #include <gtest/gtest.h>
 #include <optional>
 #include <thread>
+#include <tuple>
 
 #include "base/ErrorOf.h"
 #include "control/Component.h"
 #include "lumenote/CoBxRtf.h"
-#include "lumenote/QtPlatform.h"
+#include "lumenote/QtCoBxRtf.h"
+#include "session/Session.h"
 
 namespace lumenote {
 namespace {
@@ -148,6 +150,31 @@ TEST_F(QtHostTest, TwoControlsFindTheirOwnNotesAfterARoundTrip) {
   EXPECT_EQ(second->pStrOrchm(), u"autre note");
   control.reset();
   EXPECT_EQ(QDir::temp().entryList({"lumenote-*"}).size(), 1);
+}
+
+TEST_F(QtHostTest, TextsMayBeQStrings) {
+  application.emplace();
+  QtCoBxRtf host(platform);
+  const std::tuple<void (QtCoBxRtf::*)(const QString&), QString, std::u16string Session::*>
+      kTexts[] = {{&QtCoBxRtf::pNomAppli, "nom", &Session::applicationName},
+                  {&QtCoBxRtf::pTitreFenêtre, "fenêtre", &Session::windowTitle},
+                  {&QtCoBxRtf::pTitreCadre, "cadre", &Session::frameTitle},
+                  {&QtCoBxRtf::pCouleurFen, "-1", &Session::colourText},
+                  {&QtCoBxRtf::pSScléReg, "clé", &Session::settingsKey},
+                  {&QtCoBxRtf::pAttribut, "readonly", &Session::access},
+                  {&QtCoBxRtf::pModelWord, "C:\\m.dot", &Session::templatePath},
+                  {&QtCoBxRtf::pStrOrchm, "Œ ♀", &Session::note},
+                  {&QtCoBxRtf::NotePath, "C:\\n.rtf", &Session::note},
+                  {&QtCoBxRtf::NoteText, "C:\\n.rtf ♀", &Session::note}};
+  for (const auto& [write, text, value] : kTexts) {
+    (host.*write)(text);
+    EXPECT_EQ((*host.Parts().session).*value, text.toStdU16String());
+  }
+  const QTemporaryDir folder;
+  const std::string program = folder.filePath("herbier").toStdString();
+  host.pChmAppli(QString::fromStdU16String(platform.ToDrivePath(program)));
+  EXPECT_TRUE(QFile::exists(folder.filePath("ListCorr.txt")));
+  EXPECT_EQ(host.pStrOrchm(), QString("C:\\n.rtf ♀"));
 }
 
 TEST_F(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
