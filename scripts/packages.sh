@@ -28,4 +28,4 @@ TEST_PACKAGES=(libgtest-dev python3 xvfb xauth openbox xdotool x11-utils procps
 WINDOWS_PACKAGES=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix googletest)
 WINE_PACKAGES=(wine64 wine)
 PACKAGING_PACKAGES=(dpkg-dev file desktop-file-utils lintian)
-CHECK_PACKAGES=(ccache clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev)
+CHECK_PACKAGES=(ccache clang clang-format clang-tidy libclang-rt-14-dev libbenchmark-dev doxygen)

@@ -28,7 +28,7 @@ file(GLOB sources *.cpp)
 add_executable(host ${sources})
 target_link_libraries(host PRIVATE Lumenote::Headless Lumenote::Posix)
 END
-(cd "$work/prefix/include" && find . -name '*.h') | while read -r header; do
+(cd "$work/prefix/include" && find . -name '*.h' ! -name QtCoBxRtf.h) | while read -r header; do
   echo "#include <${header#./}>" >"$work/host/$(basename "$header").cpp"
 done
 cat >>"$work/host/CoBxRtf.h.cpp" <<'END'

@@ -14,6 +14,7 @@ namespace lumenote {
 /// by one thread at a time. A failed allocation throws std::bad_alloc.
 class Note {
  public:
+  /// Of the files that a note comes from and goes to.
   enum class Format { Rtf, Text, Html };
 
   /// Whether a file with these bytes is RTF.
@@ -27,7 +28,9 @@ class Note {
   /// Detects whether it is RTF or plain text, too.
   explicit Note(std::string_view bytes) : Note(bytes, IsRtf(bytes) ? Format::Rtf : Format::Text) {}
   ~Note();
+  /// A note that was moved from can be destroyed or assigned to, nothing else.
   Note(Note&&) noexcept;
+  /// The same.
   Note& operator=(Note&&) noexcept;
 
   /// The format that the note was read in.

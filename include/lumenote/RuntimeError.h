@@ -6,6 +6,7 @@
 
 namespace lumenote {
 
+/// The numbers that members raise.
 enum class ErrorNumber : int {
   InvalidArgument = 5,
   Overflow = 6,
@@ -29,9 +30,12 @@ class RuntimeError : public std::runtime_error {
  public:
   /// Uses the number's standard description.
   explicit RuntimeError(ErrorNumber number);
+  /// `description` is French, for the user.
   RuntimeError(ErrorNumber number, std::u16string description);
 
+  /// The number as hosts of classic languages know it.
   int Number() const { return static_cast<int>(number_); }
+  /// In French, for the user.
   const std::u16string& Description() const { return description_; }
   /// The control's member that raised the error ("pCouleurFen"); empty until the error reaches the
   /// control's edge.

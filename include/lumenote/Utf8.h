@@ -7,6 +7,7 @@ namespace lumenote {
 
 /// Invalid sequences become U+FFFD; never fails.
 std::string ToUtf8(std::u16string_view text);
+/// Invalid sequences become U+FFFD; never fails.
 std::u16string FromUtf8(std::string_view bytes);
 
 }  // namespace lumenote

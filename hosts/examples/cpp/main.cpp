@@ -2,14 +2,12 @@
 // editor and closes it at once, as a self-check.
 #include <QApplication>
 #include <iostream>
-#include <lumenote/CoBxRtf.h>
-#include <lumenote/QtPlatform.h>
-#include <lumenote/Utf8.h>
+#include <lumenote/QtCoBxRtf.h>
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   lumenote::QtPlatform platform;
-  lumenote::CoBxRtf control(platform);
+  lumenote::QtCoBxRtf control(platform);
   control.pNomAppli(u"Herbier");
   control.pTitreFenêtre(u"Orchis purpurea Huds.");
   control.pTitreCadre(u"Remarques");
@@ -19,7 +17,7 @@ int main(int argc, char** argv) {
   try {
     const bool wait = argc == 1;
     control.ShowMicroEdit(wait ? 1 : 0);
-    std::cout << lumenote::ToUtf8(control.pStrOrchm()) << "\n";
+    std::cout << control.pStrOrchm().toStdString() << "\n";
   } catch (const lumenote::RuntimeError& error) {
     std::cerr << error.what() << "\n";
     return 1;
