@@ -23,10 +23,11 @@ class Editor(Notes):
         saved = self.settled(sign)
         self.type(self.note, "x")
         self.wait(lambda: sign() != saved, "the sign of an edit")
-        self.assertEqual(self.host.ask("sign 1"), "Modifié")
+        self.host.waits_for("sign 1", "Modifié")
+        edited = self.settled(sign)
         self.keys(self.note, "ctrl+s")
-        self.wait(lambda: sign() == saved, "the sign of the save")
-        self.assertEqual(self.host.ask("sign 1"), "Enregistré")
+        self.host.waits_for("sign 1", "Enregistré")
+        self.wait(lambda: sign() != edited, "the sign of the save")
         self.tip_shown(SIGN)
 
     def test_the_strips_light_up_and_take_clicks_at_the_frames_edge(self):
