@@ -7,7 +7,9 @@
 #include "PipedNote.h"
 #include "backends/headless/FixedLayouter.h"
 #include "backends/headless/MemoryClipboard.h"
+#include "backends/native/files/Disk.h"
 #include "base/CommandLine.h"
+#include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
 #include "base/TextEncoding.h"
@@ -73,6 +75,21 @@ constexpr OptionRule kOptions[] = {{"--title", true},
 int Fail(const std::string& message, int status) {
   std::cerr << "microedit : " << message << "\n";
   return status;
+}
+
+/// Raises CommandLineError for what the window would take for no colour.
+void CheckColour(const CommandLine& line) {
+  try {
+    ParseInt32(FromUtf8(line.Value("--colour").value_or(kDesktopsOwn)));
+  } catch (const RuntimeError&) {
+    throw CommandLineError("--colour attend un nombre décimal");
+  }
+}
+
+/// A folder, or a device.
+bool IsOtherThanAFile(const std::string& typed) {
+  const std::optional<FileStatus> status = StatusOf(AbsolutePath(typed));
+  return status && !status->isFile;
 }
 
 /// Why the note cannot be opened; empty if it can. A missing note can be created.
@@ -212,8 +229,11 @@ int Follow(const CommandLine& line, Desktop& desktop) {
   if (line.Operands().size() != (line.Has("--pilot") ? 0 : 1))
     return Fail("une note est attendue (voir --help)", 2);
   if (line.Has("--pilot")) return DrivePilot(line, desktop);
+  CheckColour(line);
+  const std::string& note = line.Operands().front();
+  if (note != "-" && IsOtherThanAFile(note)) return Fail(note + " : n'est pas un fichier", 1);
   if (line.Has("--pdf")) return WritePdf(line, desktop);
-  return line.Operands().front() == "-" ? Filter(line, desktop) : Edit(line, desktop);
+  return note == "-" ? Filter(line, desktop) : Edit(line, desktop);
 }
 
 }  // namespace
