@@ -45,9 +45,9 @@ class Pictures(Desktop):
         self.start(HERBIER)
         window = self.front("Herbier")
         self.keys(window, "ctrl+f")
-        self.type(window, "bois pale")
+        self.type(window, "orchid")
         self.keys(window, "Return")
-        self.front("Orchis purpurea")
+        self.front("Cephalanthera")
         self.take("herbier", window)
 
     def in_bar(self, *keys):
