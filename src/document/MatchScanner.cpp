@@ -36,7 +36,7 @@ MatchScanner::MatchScanner(const LeafList& leaves, std::u16string_view needle,
   if (needle_.empty() || leaf_.AtEnd()) return;
   openings_ = {OpeningIn<char>(), OpeningIn<char16_t>()};
   at_ = static_cast<std::size_t>(from - leaf_.Start());
-  if (leaf_.Start() > 0) previous_ = leaves.CursorAt(leaf_.Start() - 1)->text.View().Back();
+  if (at_ == 0 && from > 0) previous_ = leaves.CursorAt(from - 1)->text.View().Back();
 }
 
 Position MatchScanner::Next(Position to) {

@@ -53,7 +53,7 @@ class MatchScanner {
   std::tuple<NeedlePrefix<char>, NeedlePrefix<char16_t>> openings_;
   LeafCursor leaf_;
   std::size_t at_ = 0;     // in the leaf
-  char16_t previous_ = 0;  // the unit before the leaf
+  char16_t previous_ = 0;  // the unit before the leaf, if the scan comes to its start
 };
 
 }  // namespace lumenote
