@@ -114,7 +114,6 @@ class Filter(Desktop):
     def test_what_cannot_be_opened_is_told_in_a_line(self):
         for status, options, why in ((1, [str(self.home)], "n'est pas un fichier"),
                                      (1, ["--pdf", "a.pdf", "/"], "n'est pas un fichier"),
-                                     (1, [str(self.home / "log")], "n'est pas un fichier RTF"),
                                      (2, ["--colour", "rouge", "a.rtf"], "--colour"),
                                      (2, ["--rien", "a.rtf"], "--rien"), (2, [], "une note")):
             for display in (self.env["DISPLAY"], ":999"):
@@ -122,7 +121,7 @@ class Filter(Desktop):
                     done = subprocess.run([MICROEDIT, *options], env=self.env | {"DISPLAY": display},
                                           capture_output=True, text=True, timeout=60)
                     self.assertEqual(done.returncode, status)
-                    self.assertRegex(done.stderr, rf"\Amicroedit : .*({why}|Pas d'écran).*\n\Z")
+                    self.assertRegex(done.stderr, rf"\Amicroedit : .*{why}.*\n\Z")
 
     def test_a_note_that_nobody_takes_is_kept(self):
         editor = self.edit(b"note", output="/dev/full")

@@ -159,6 +159,8 @@ class Tool(unittest.TestCase):
         for options in [(), ("--dry-run",), ("--list", "liste.txt"), ("--list", "rien.txt")]:
             self.assertEqual(self.run_tool("clean", *options, "a.rtf", status=1), b"")
             self.assertEqual(self.read("a.rtf"), before)
+        self.run_tool("clean", "--list", "liste.txt", "a.rtf", status=1)
+        self.assertRegex(self.said, r"^lumenote : liste\.txt : [^:]* : ligne 2\n$")
 
     def test_links(self):
         os.environ["LUMENOTE_DRIVE_C"] = str(self.folder / "c")

@@ -15,8 +15,9 @@ ListFile::ListFile(const std::string& name) {
   try {
     while (const auto pair = reader.Next()) pairs_.push_back(*pair);
   } catch (const RuntimeError& error) {
-    // The description names the line on a line of its own; print it all on one.
-    throw Failure(name + " : " + ToUtf8(ReplaceEvery(error.Description(), u"\r\n", u" : ")));
+    // The description says the line behind the name that lists have in the editor.
+    constexpr std::u16string_view kUsualName = u"\r\nListCorr.txt, ";
+    throw Failure(name + " : " + ToUtf8(ReplaceEvery(error.Description(), kUsualName, u" : ")));
   }
 }
 
