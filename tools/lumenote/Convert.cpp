@@ -48,7 +48,7 @@ bool LieTogether(const std::string& path, const std::string& other) {
 /// Converts many notes into files of one folder, or of folders in it as they lie in theirs.
 class IntoFolder {
  public:
-  IntoFolder(std::string folder, Note::Format format, std::string extension)
+  IntoFolder(const std::string& folder, Note::Format format, std::string extension)
       : folder_(AbsolutePath(folder)), format_(format), extension_(std::move(extension)) {}
 
   void Convert(const NoteName& note);
