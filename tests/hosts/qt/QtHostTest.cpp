@@ -10,6 +10,7 @@
 #include <QWindow>
 #include <gtest/gtest.h>
 #include <optional>
+#include <set>
 #include <thread>
 #include <tuple>
 
@@ -188,6 +189,24 @@ TEST_F(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
   control->HostWindow(host.winId());
   control->ShowMicroEdit();
   EXPECT_EQ(owner(), host.windowHandle());
+}
+
+TEST_F(QtHostTest, AStyleSheetOfTheHostsCutsNothing) {
+  const auto looks = [&] {
+    control->ShowMicroEdit();
+    std::set<std::tuple<int, int, int>> found;  // a font's size, and the room that its text needs
+    for (QWidget* window : QApplication::topLevelWidgets())
+      for (const QWidget* widget : window->findChildren<QWidget*>())
+        found.emplace(widget->fontInfo().pixelSize(), widget->sizeHint().width(),
+                      widget->sizeHint().height());
+    control->pStrOrchm();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return found;
+  };
+  application.emplace();
+  const auto plain = looks();
+  application->object.setStyleSheet("QWidget { font-size: 24pt; padding: 9px }");
+  EXPECT_EQ(looks(), plain);
 }
 
 TEST_F(QtHostTest, TheControlGoesWhileItWaitsOrAsks) {

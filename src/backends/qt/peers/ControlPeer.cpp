@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 
 #include "backends/qt/text/FontNames.h"
+#include "backends/qt/toolkit/KeptFont.h"
 #include "backends/qt/toolkit/MouseButtons.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
@@ -51,7 +52,7 @@ void ControlPeer::ShowFont() {
   if (!control_.FontName().empty()) font.setFamily(MachineFamily({control_.FontName()}));
   if (control_.FontSize() > 0)
     font.setPixelSize(RoundToPixel(control_.FontSize() * kTwipsPerPoint));
-  widget_->setFont(font);
+  KeepFont(*widget_, font);
 }
 
 bool ControlPeer::eventFilter(QObject*, QEvent* event) {

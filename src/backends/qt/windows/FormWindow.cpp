@@ -8,6 +8,7 @@
 
 #include "backends/qt/text/FontNames.h"
 #include "backends/qt/toolkit/Colours.h"
+#include "backends/qt/toolkit/KeptFont.h"
 #include "backends/qt/toolkit/Keys.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/toolkit/Units.h"
@@ -29,7 +30,7 @@ FormWindow::FormWindow(Form& form, ActivationListener& listener)
     : SpokenWidget(nullptr, Qt::Window), form_(&form), listener_(listener) {
   setAttribute(Qt::WA_QuitOnClose, false);  // the host decides when its program ends
   setWindowIcon(OwnIcon());
-  setFont(ControlFont());
+  KeepFont(*this, ControlFont());
   content_ = new QWidget(this);
   content_->setAutoFillBackground(true);
   content_->setMouseTracking(true);
