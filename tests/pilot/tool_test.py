@@ -94,6 +94,24 @@ class Tool(unittest.TestCase):
         self.assertEqual(self.read("notes/a.html"), b"<p>une note")
         self.assertIn(b"gras", self.read("notes/sous.2/a.html"))
         self.run_tool("convert", "--to=txt", "notes", "b.rtf", status=1, errors=6)
+        # Tried first, or with what is replaced kept.
+        def files():
+            return {path: path.read_bytes() for path in self.folder.rglob("*.*") if path.is_file()}
+        self.write("web/tout/b.html", b"avant")
+        before = files()
+        self.assertEqual(self.run_tool("convert", "--to=html", "--dry-run", "b.rtf", "notes/a.rtf",
+                                       "notes", "web/tout", status=1, errors=2),
+                         b"b.rtf\tweb/tout/b.html\tremplac\xc3\xa9e\n"
+                         b"notes/a.rtf\tweb/tout/a.html\tremplac\xc3\xa9e\n"
+                         b"notes/sous.2/a.RTF\tweb/tout/sous.2/a.html\tremplac\xc3\xa9e\n")
+        self.assertIn("notes : 4 ; à convertir : 3 ; refusées : 1", self.said)
+        self.assertEqual(self.run_tool("convert", "--dry-run", "b.rtf", "c.txt"), b"b.rtf\tc.txt\n")
+        self.run_tool("convert", "--to=html", "--dry-run", "notes", "ailleurs")
+        self.assertEqual(files(), before)
+        self.run_tool("convert", "--backup", "b.rtf", "web/tout/b.html")
+        self.run_tool("convert", "--backup", "--to=txt", "b.rtf", "web")
+        self.assertEqual(self.read("web/tout/b.html~"), b"avant")
+        self.assertEqual(sorted(os.listdir(self.folder / "web")), ["b.txt", "tout"])
 
     def test_what_cannot_be_done(self):
         for name in ("faux.rtf", "a.txt", "garde.rtf"):
@@ -183,7 +201,8 @@ class Tool(unittest.TestCase):
         self.write("a.txt")
         for arguments in [(), ("rien",), ("text",), ("help", "rien"), ("convert", "a.txt"),
                           ("convert", "a.txt", "b.doc"), ("convert", "--to", "doc", "a.txt", "-"),
-                          ("convert", "a.txt", "."), ("convert", "--to", "rtf", "-", "."),
+                          ("convert", "a.txt", "."), ("convert", "--backup", "--dry-run", "a.txt", "b.rtf"),
+                          ("convert", "--to", "rtf", "-", "."),
                           ("text", "--rien", "a.txt"), ("pilot", "rien.pilot"), ("pilot", "--root"),
                           ("pilot", "--root", "a.txt"), ("pilot", "a", "b"), ("clean",),
                           ("clean", "-o", "c", "a", "b"), ("clean", "-o", "c", "--dry-run", "a"),

@@ -21,19 +21,22 @@ void Check(const CommandLine& line) {
     throw CommandLineError("-o, --backup et --dry-run s'excluent");
 }
 
-/// Cleans up the note and returns one line per pair with its count.
-std::string CleanUp(Note& note, const ListFile& list, const std::string& name) {
+/// One line per pair with its count.
+std::string Lines(const ListFile& list, const std::vector<std::int16_t>& counts) {
   std::string lines;
+  for (std::size_t i = 0; i < counts.size(); ++i) {
+    const auto& [wrong, right] = list.Pairs()[i];
+    lines += ToUtf8(wrong + u'\t' + right + u'\t') + std::to_string(counts[i]) + '\n';
+  }
+  return lines;
+}
+
+std::vector<std::int16_t> CleanUp(Note& note, const ListFile& list, const std::string& name) {
   try {
-    const std::vector<std::int16_t> counts = note.Clean(list.Bytes());
-    for (std::size_t i = 0; i < counts.size(); ++i) {
-      const auto& [wrong, right] = list.Pairs()[i];
-      lines += ToUtf8(wrong + u'\t' + right + u'\t') + std::to_string(counts[i]) + '\n';
-    }
+    return note.Clean(list.Bytes());
   } catch (const RuntimeError& error) {
     throw Failure(name + " : nettoyage impossible : " + error.what());
   }
-  return lines;
 }
 
 class Cleaning {
@@ -41,12 +44,13 @@ class Cleaning {
   Cleaning(const CommandLine& line, bool several)
       : line_(line), list_(line.Value("--list").value_or("")), several_(several) {}
 
-  /// Cleans up the note of this name and puts it where the command line says.
-  void Clean(const std::string& name);
+  /// Cleans up the note of this name; what it returns puts it where the command line says.
+  Finish Clean(const std::string& name);
   /// What became of `total` notes, in one line.
   std::string Summary(std::size_t total) const;
 
  private:
+  void Show(const std::string& name, const std::vector<std::int16_t>& counts) const;
   void Put(const std::string& name, const std::string& before, const std::string& after) const;
 
   const CommandLine& line_;
@@ -56,17 +60,24 @@ class Cleaning {
   std::size_t unchanged_ = 0;
 };
 
-void Cleaning::Clean(const std::string& name) {
-  const std::string before = ReadBytes(name);
+Finish Cleaning::Clean(const std::string& name) {
+  std::string before = ReadBytes(name);
   Note note = NoteOf(name, before);
   if (note.Source() != Note::Format::Rtf) throw Failure(name + " : pas une note RTF");
-  const std::string lines = CleanUp(note, list_, name);
-  const std::string after = note.Bytes(Note::Format::Rtf);
-  if (line_.Has("--dry-run"))
-    WriteBytes("-", several_ ? Titled(name, lines) : lines);
-  else
-    Put(name, before, after);
-  ++(before == after ? unchanged_ : changed_);
+  std::vector<std::int16_t> counts = CleanUp(note, list_, name);
+  return [this, name, counts = std::move(counts), before = std::move(before),
+          after = note.Bytes(Note::Format::Rtf)] {
+    if (line_.Has("--dry-run"))
+      Show(name, counts);
+    else
+      Put(name, before, after);
+    ++(before == after ? unchanged_ : changed_);
+  };
+}
+
+void Cleaning::Show(const std::string& name, const std::vector<std::int16_t>& counts) const {
+  const std::string lines = Lines(list_, counts);
+  WriteBytes("-", several_ ? Titled(name, lines) : lines);
 }
 
 void Cleaning::Put(const std::string& name, const std::string& before,
@@ -95,7 +106,8 @@ int Clean(Arguments arguments) {
       FindNotes(line.Operands(), [](Note::Format format) { return format == Note::Format::Rtf; });
   if (several && line.Has("-o")) throw CommandLineError("-o attend une seule note");
   Cleaning cleaning(line, several);
-  const int status = ForEachNote(notes, [&](const NoteName& note) { cleaning.Clean(note.path); });
+  const int status =
+      ForEachNote(notes, [&](const NoteName& note) { return cleaning.Clean(note.path); });
   if (several) std::cerr << "lumenote : " << cleaning.Summary(notes.size()) << '\n';
   return status;
 }

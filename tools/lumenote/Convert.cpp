@@ -13,7 +13,7 @@
 namespace lumenote::tool {
 namespace {
 
-constexpr OptionRule kOptions[] = {{"--to", true}};
+constexpr OptionRule kOptions[] = {{"--to", true}, {"--backup"}, {"--dry-run"}};
 
 /// The format given by --to, if it is.
 std::optional<Note::Format> GivenFormat(const CommandLine& line) {
@@ -29,13 +29,23 @@ Note::Format OtherThan(Note::Format format) {
   return format == Note::Format::Rtf ? Note::Format::Text : Note::Format::Rtf;
 }
 
-void ConvertOne(const std::string& source, const std::string& target,
+/// Puts what the note `source` became into `target`, or says where it would go.
+void Put(const CommandLine& line, const std::string& source, const std::string& target,
+         std::string_view bytes) {
+  const bool replaces = target != "-" && StatusOf(AbsolutePath(target));
+  if (line.Has("--dry-run"))
+    return WriteBytes("-", source + '\t' + target + (replaces ? "\tremplacée\n" : "\n"));
+  if (replaces && line.Has("--backup")) WriteBytes(target + '~', ReadBytes(target));
+  WriteBytes(target, bytes);
+}
+
+void ConvertOne(const CommandLine& line, const std::string& source, const std::string& target,
                 std::optional<Note::Format> format) {
   if (!format) format = FormatOfName(target);
   if (!format && target != "-")
     throw CommandLineError(target + " : extension .rtf, .txt ou .html attendue, ou --to");
   const Note note = ReadNote(source);
-  WriteBytes(target, note.Bytes(format.value_or(OtherThan(note.Source()))));
+  Put(line, source, target, note.Bytes(format.value_or(OtherThan(note.Source()))));
 }
 
 bool IsFolder(const std::string& path) { return path != "-" && IsRealFolder(AbsolutePath(path)); }
@@ -48,15 +58,24 @@ bool LieTogether(const std::string& path, const std::string& other) {
 /// Converts many notes into files of one folder, or of folders in it as they lie in theirs.
 class IntoFolder {
  public:
-  IntoFolder(const std::string& folder, Note::Format format, std::string extension)
-      : folder_(AbsolutePath(folder)), format_(format), extension_(std::move(extension)) {}
+  /// --to is given.
+  IntoFolder(const CommandLine& line, Note::Format format)
+      : line_(line),
+        folder_(line.Operands().back()),
+        format_(format),
+        extension_(*line.Value("--to")) {}
 
-  void Convert(const NoteName& note);
-  std::size_t Converted() const { return targets_.size(); }
+  /// Converts the note; what it returns puts it into its file.
+  Finish Convert(const NoteName& note);
+  /// What became of `total` notes, in one line.
+  std::string Summary(std::size_t total) const;
 
  private:
   std::string TargetOf(const NoteName& note) const;
+  /// Raises `Failure` where another note is, or has gone.
+  void Check(const NoteName& note, const std::string& target) const;
 
+  const CommandLine& line_;
   std::string folder_;
   Note::Format format_;
   std::string extension_;
@@ -70,27 +89,39 @@ std::string IntoFolder::TargetOf(const NoteName& note) const {
 }
 
 // Beside its source, a file of that name is a note of its own more often than an older result.
-void IntoFolder::Convert(const NoteName& note) {
-  const std::string target = TargetOf(note);
+void IntoFolder::Check(const NoteName& note, const std::string& target) const {
   if (targets_.contains(target))
     throw Failure(note.path + " : " + target + " vient d'une autre note");
-  if (LieTogether(AbsolutePath(note.path), target) && StatusOf(target))
+  const std::string path = AbsolutePath(target);
+  if (LieTogether(AbsolutePath(note.path), path) && StatusOf(path))
     throw Failure(target + " : existe déjà");
-  const std::string bytes = ReadNote(note.path).Bytes(format_);
-  MakeFolders(ParentOf(target));
-  WriteBytes(target, bytes);
-  targets_.insert(target);
 }
 
-int ConvertAll(std::span<const std::string> sources, const std::string& folder, Note::Format format,
-               const std::string& extension) {
+Finish IntoFolder::Convert(const NoteName& note) {
+  return [this, &note, bytes = ReadNote(note.path).Bytes(format_)] {
+    const std::string target = TargetOf(note);
+    Check(note, target);
+    if (!line_.Has("--dry-run")) MakeFolders(ParentOf(AbsolutePath(target)));
+    Put(line_, note.path, target, bytes);
+    targets_.insert(target);
+  };
+}
+
+std::string IntoFolder::Summary(std::size_t total) const {
+  return "notes : " + std::to_string(total) +
+         (line_.Has("--dry-run") ? " ; à convertir : " : " ; converties : ") +
+         std::to_string(targets_.size()) +
+         " ; refusées : " + std::to_string(total - targets_.size());
+}
+
+int ConvertAll(const CommandLine& line, Note::Format format) {
+  const auto sources = std::span(line.Operands()).first(line.Operands().size() - 1);
   if (std::ranges::find(sources, "-") != sources.end())
     throw CommandLineError("l'entrée standard n'a pas de nom pour un dossier");
   const auto notes = FindNotes(sources, [&](Note::Format one) { return one != format; }).notes;
-  IntoFolder into(folder, format, extension);
-  const int status = ForEachNote(notes, [&](const NoteName& note) { into.Convert(note); });
-  std::cerr << "lumenote : notes : " << notes.size() << " ; converties : " << into.Converted()
-            << " ; refusées : " << notes.size() - into.Converted() << '\n';
+  IntoFolder into(line, format);
+  const int status = ForEachNote(notes, [&](const NoteName& note) { return into.Convert(note); });
+  std::cerr << "lumenote : " << into.Summary(notes.size()) << '\n';
   return status;
 }
 
@@ -100,15 +131,15 @@ int Convert(Arguments arguments) {
   const CommandLine line(arguments, kOptions);
   const std::vector<std::string>& operands = line.Operands();
   if (operands.size() < 2) throw CommandLineError("une note et une cible sont attendues");
+  if (line.Has("--backup") && line.Has("--dry-run"))
+    throw CommandLineError("--backup et --dry-run s'excluent");
   const std::optional<Note::Format> format = GivenFormat(line);
-  const std::string& target = operands.back();
-  if (operands.size() == 2 && !IsFolder(operands[0]) && !IsFolder(target)) {
-    ConvertOne(operands[0], target, format);
+  if (operands.size() == 2 && !IsFolder(operands[0]) && !IsFolder(operands[1])) {
+    ConvertOne(line, operands[0], operands[1], format);
     return 0;
   }
   if (!format) throw CommandLineError("vers un dossier, --to est attendu");
-  return ConvertAll(std::span(operands).first(operands.size() - 1), target, *format,
-                    *line.Value("--to"));
+  return ConvertAll(line, *format);
 }
 
 }  // namespace lumenote::tool

@@ -24,10 +24,12 @@ constexpr std::array<Command, 6> kCommands{{
      R"(  text      écrit le texte de la note en UTF-8, celui de plusieurs sous leurs noms
 )",
      Text},
-    {"convert", "[--to rtf|txt|html] NOTE... CIBLE",
+    {"convert", "[--to rtf|txt|html] [--backup | --dry-run] NOTE... CIBLE",
      R"(  convert   convertit une note entre RTF, texte et HTML, remplaçant CIBLE d'un coup ; avec
             --to, plusieurs notes ou un dossier dans le dossier CIBLE, créé s'il n'existe
-            pas. À côté de sa note, un fichier de ce nom n'y est jamais remplacé
+            pas. À côté de sa note, un fichier de ce nom n'y est jamais remplacé. --backup
+            garde ce qui est remplacé sous son nom suivi de "~". --dry-run n'écrit rien et
+            dit, par note, son nom, celui de sa cible et si elle serait remplacée
 )",
      Convert},
     {"clean", "[--list LISTE] [-o CIBLE] [--backup | --dry-run] NOTE...",

@@ -24,9 +24,10 @@ int Text(Arguments arguments) {
   const CommandLine line(arguments, {});
   if (line.Operands().empty()) throw CommandLineError("une note est attendue");
   const NoteNames found = FindNotes(line.Operands(), [](Note::Format) { return true; });
-  return ForEachNote(found.notes, [&](const NoteName& note) {
-    const std::string text = TextOf(note.path);
-    WriteBytes("-", found.several ? Titled(note.path, text) : text);
+  return ForEachNote(found.notes, [&](const NoteName& note) -> Finish {
+    std::string text = TextOf(note.path);
+    if (found.several) text = Titled(note.path, text);
+    return [text = std::move(text)] { WriteBytes("-", text); };
   });
 }
 
