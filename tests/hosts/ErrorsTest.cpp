@@ -60,8 +60,9 @@ TEST_F(ErrorsTest, AnotherThreadIsRefusedAtOnceByEveryMember) {
       {u"pAttribut", &CoBxRtf::pAttribut},     {u"pModelWord", &CoBxRtf::pModelWord},
       {u"pStrOrchm", &CoBxRtf::pStrOrchm}};
   std::thread([&] {
-    for (const auto& [name, write] : properties)
-      EXPECT_EQ(Raised([&] { ((*control).*write)(u"C:\\x\\y.exe"); }), Error(5, name));
+    for (const auto& property : properties)
+      EXPECT_EQ(Raised([&] { ((*control).*property.second)(u"C:\\x\\y.exe"); }),
+                Error(5, property.first));
     EXPECT_EQ(Raised([&] { control->pStrOrchm(); }), Error(5, u"pStrOrchm"));
     EXPECT_EQ(Raised([&] { control->ShowMicroEdit(1); }), Error(5, u"ShowMicroEdit"));
   }).join();

@@ -167,10 +167,10 @@ TEST_F(FilesTest, ADeviceIsNoFileAndANameMayBeTooLong) {
     std::u16string path;
     int look;
   } cases[] = {{u"C:\\pipe", 53}, {u"C:\\" + std::u16string(300, u'x'), 75}};
-  for (const auto& [path, look] : cases) {
-    EXPECT_EQ(ErrorOf([&] { files_.ReadAll(path); }), 75);
-    EXPECT_EQ(ErrorOf([&] { files_.IsReadOnly(path); }), look);
-    EXPECT_EQ(ErrorOf([&] { files_.Write(path, "x"); }), 75);
+  for (const auto& item : cases) {
+    EXPECT_EQ(ErrorOf([&] { files_.ReadAll(item.path); }), 75);
+    EXPECT_EQ(ErrorOf([&] { files_.IsReadOnly(item.path); }), item.look);
+    EXPECT_EQ(ErrorOf([&] { files_.Write(item.path, "x"); }), 75);
   }
 }
 

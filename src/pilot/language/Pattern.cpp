@@ -1,10 +1,6 @@
 // Regular expressions of the standard library, without its deep recursion.
 #include "pilot/language/Pattern.h"
 
-// GCC 12 warns wrongly inside the standard header when sanitizers are on.
-#ifdef __GNUC__
-#pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
-#endif
 #include <regex>
 #include <string>
 
