@@ -99,9 +99,7 @@ WordsId WordKeeper::WithMark(NameId mark, Kind kind, std::uint8_t stated, WordsI
   if (moved.empty()) moved.push_back({.name = mark, .kind = kind});
   std::erase_if(moved, IsSize);
   all.erase(part.begin, part.end);
-  const bool last = IsScript(moved.front());
-  const Iterator to = last ? all.end() : std::ranges::find_if(all, IsScript);
-  all.insert(to, moved.begin(), moved.end());
+  all.insert(all.end(), moved.begin(), moved.end());
   return Number(std::move(all), words);
 }
 

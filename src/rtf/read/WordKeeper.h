@@ -27,10 +27,11 @@ class WordKeeper {
   /// Adds a group that numbers the paragraph.
   WordsId WithNumbering(const std::string& group, WordsId words);
 
-  // The look of other scripts is given in parts, each a marker and the words that apply to it:
-  // first for directions, then for scripts. The last part of each kind applies to the run itself.
+  // The look of other directions and scripts is given in parts, each a marker and the words that
+  // apply to it, in the order in which they were said last: readers take what follows for the last
+  // one's.
 
-  /// Makes that marker's part the last of its kind. `stated` tells whether the run's own font and
+  /// Makes that marker's part the last one. `stated` tells whether the run's own font and
   /// size have been said (`CharStated`).
   WordsId WithMark(NameId mark, KeptWord::Kind kind, std::uint8_t stated, WordsId words);
   /// Adds a word to that marker's part.
