@@ -113,6 +113,28 @@ class Tool(unittest.TestCase):
         self.assertEqual(self.read("web/tout/b.html~"), b"avant")
         self.assertEqual(sorted(os.listdir(self.folder / "web")), ["b.txt", "tout"])
 
+    def test_convert_replaces_no_note(self):
+        for folder in ("un", "deux", "vrai"):
+            (self.folder / folder).mkdir()
+        for name, data in (("un/a.txt", b"autre"), ("un/c.rtf", RTF), ("deux/a.rtf", RTF),
+                           ("deux/d.rtf", RTF), ("un/voisin.html", b"<p>voisin")):
+            self.write(name, data)
+        (self.folder / "lien").symlink_to("vrai")
+        (self.folder / "vrai/d.html").symlink_to("c.html")  # one file by two names
+        (self.folder / "vrai/voisin.html").symlink_to("../un/voisin.html")
+        self.write("un/voisin.rtf", RTF)
+        for operands, errors in ((("rtf", "un/a.txt", "deux/a.rtf", "deux"), 3),
+                                 (("html", "un/c.rtf", "deux/d.rtf", "lien"), 2),
+                                 (("html", "un/voisin.rtf", "lien"), 2)):
+            self.run_tool("convert", "--to", *operands, status=1, errors=errors)
+        self.assertEqual(self.read("deux/a.rtf"), RTF)
+        self.assertEqual(self.read("un/voisin.html"), b"<p>voisin")
+        self.run_tool("convert", "--to=html", "deux/a.rtf", "deux/d.rtf", status=2)
+        self.assertEqual(self.read("deux/d.rtf"), RTF)
+        self.run_tool("convert", "--to=txt", "deux/a.rtf", "neuf/")
+        self.assertEqual(os.listdir(self.folder / "neuf"), ["a.txt"])
+        self.assertIn(b"caf", self.run_tool("text", "lien"))
+
     def test_what_cannot_be_done(self):
         for name in ("faux.rtf", "a.txt", "garde.rtf"):
             self.write(name)
@@ -203,6 +225,7 @@ class Tool(unittest.TestCase):
                           ("convert", "a.txt", "b.doc"), ("convert", "--to", "doc", "a.txt", "-"),
                           ("convert", "a.txt", "."), ("convert", "--backup", "--dry-run", "a.txt", "b.rtf"),
                           ("convert", "--to", "rtf", "-", "."),
+                          ("convert", "--to", "rtf", "a.txt", "a.txt", "-"),
                           ("text", "--rien", "a.txt"), ("pilot", "rien.pilot"), ("pilot", "--root"),
                           ("pilot", "--root", "a.txt"), ("pilot", "a", "b"), ("clean",),
                           ("clean", "-o", "c", "a", "b"), ("clean", "-o", "c", "--dry-run", "a"),

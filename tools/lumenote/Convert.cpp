@@ -41,14 +41,22 @@ void Put(const CommandLine& line, const std::string& source, const std::string& 
 
 void ConvertOne(const CommandLine& line, const std::string& source, const std::string& target,
                 std::optional<Note::Format> format) {
-  if (!format) format = FormatOfName(target);
+  const std::optional<Note::Format> named = FormatOfName(target);
+  if (format && named && named != format)  // more likely a note than where its result is to go
+    throw CommandLineError(target + " : l'extension contredit --to");
+  if (!format) format = named;
   if (!format && target != "-")
     throw CommandLineError(target + " : extension .rtf, .txt ou .html attendue, ou --to");
   const Note note = ReadNote(source);
   Put(line, source, target, note.Bytes(format.value_or(OtherThan(note.Source()))));
 }
 
-bool IsFolder(const std::string& path) { return path != "-" && IsRealFolder(AbsolutePath(path)); }
+/// Whether several notes, or notes in a folder, go into a folder.
+bool IsForFolder(const std::vector<std::string>& operands) {
+  const auto isFolder = [](const std::string& path) { return path != "-" && IsFolder(path); };
+  return operands.size() > 2 || std::ranges::any_of(operands, isFolder) ||
+         AbsolutePath(operands.back()).ends_with('/');
+}
 
 bool LieTogether(const std::string& path, const std::string& other) {
   const auto folder = StatusOf(ParentOf(path)), others = StatusOf(ParentOf(other));
@@ -59,11 +67,13 @@ bool LieTogether(const std::string& path, const std::string& other) {
 class IntoFolder {
  public:
   /// --to is given.
-  IntoFolder(const CommandLine& line, Note::Format format)
+  IntoFolder(const CommandLine& line, Note::Format format, const std::vector<NoteName>& notes)
       : line_(line),
         folder_(line.Operands().back()),
         format_(format),
-        extension_(*line.Value("--to")) {}
+        extension_(*line.Value("--to")) {
+    for (const NoteName& note : notes) Keep(note.path);
+  }
 
   /// Converts the note; what it returns puts it into its file.
   Finish Convert(const NoteName& note);
@@ -72,6 +82,7 @@ class IntoFolder {
 
  private:
   std::string TargetOf(const NoteName& note) const;
+  void Keep(const std::string& path);
   /// Raises `Failure` where another note is, or has gone.
   void Check(const NoteName& note, const std::string& target) const;
 
@@ -80,20 +91,26 @@ class IntoFolder {
   Note::Format format_;
   std::string extension_;
   std::set<std::string> targets_;
+  std::set<FileId> kept_;  // the notes and what they became, by whatever name they are reached
 };
 
 std::string IntoFolder::TargetOf(const NoteName& note) const {
   const std::size_t dot = note.below.rfind('.');
   const bool named = dot != note.below.npos && note.below.find('/', dot) == note.below.npos;
-  return folder_ + '/' + note.below.substr(0, named ? dot : note.below.npos) + '.' + extension_;
+  return PathIn(folder_, note.below.substr(0, named ? dot : note.below.npos) + '.' + extension_);
+}
+
+void IntoFolder::Keep(const std::string& path) {
+  if (const auto status = StatusOf(AbsolutePath(path))) kept_.insert(status->id);
 }
 
 // Beside its source, a file of that name is a note of its own more often than an older result.
 void IntoFolder::Check(const NoteName& note, const std::string& target) const {
   if (targets_.contains(target))
     throw Failure(note.path + " : " + target + " vient d'une autre note");
-  const std::string path = AbsolutePath(target);
-  if (LieTogether(AbsolutePath(note.path), path) && StatusOf(path))
+  const std::string path = FollowLinks(AbsolutePath(target));
+  const auto there = StatusOf(path);
+  if (there && (kept_.contains(there->id) || LieTogether(AbsolutePath(note.path), path)))
     throw Failure(target + " : existe déjà");
 }
 
@@ -104,6 +121,7 @@ Finish IntoFolder::Convert(const NoteName& note) {
     if (!line_.Has("--dry-run")) MakeFolders(ParentOf(AbsolutePath(target)));
     Put(line_, note.path, target, bytes);
     targets_.insert(target);
+    if (!line_.Has("--dry-run")) Keep(target);
   };
 }
 
@@ -116,10 +134,10 @@ std::string IntoFolder::Summary(std::size_t total) const {
 
 int ConvertAll(const CommandLine& line, Note::Format format) {
   const auto sources = std::span(line.Operands()).first(line.Operands().size() - 1);
-  if (std::ranges::find(sources, "-") != sources.end())
-    throw CommandLineError("l'entrée standard n'a pas de nom pour un dossier");
+  if (std::ranges::find(line.Operands(), "-") != line.Operands().end())
+    throw CommandLineError("\"-\" ne va pas avec plusieurs notes ni avec un dossier");
   const auto notes = FindNotes(sources, [&](Note::Format one) { return one != format; }).notes;
-  IntoFolder into(line, format);
+  IntoFolder into(line, format, notes);
   const int status = ForEachNote(notes, [&](const NoteName& note) { return into.Convert(note); });
   std::cerr << "lumenote : " << into.Summary(notes.size()) << '\n';
   return status;
@@ -134,12 +152,12 @@ int Convert(Arguments arguments) {
   if (line.Has("--backup") && line.Has("--dry-run"))
     throw CommandLineError("--backup et --dry-run s'excluent");
   const std::optional<Note::Format> format = GivenFormat(line);
-  if (operands.size() == 2 && !IsFolder(operands[0]) && !IsFolder(operands[1])) {
-    ConvertOne(line, operands[0], operands[1], format);
-    return 0;
+  if (IsForFolder(operands)) {
+    if (!format) throw CommandLineError("vers un dossier, --to est attendu");
+    return ConvertAll(line, *format);
   }
-  if (!format) throw CommandLineError("vers un dossier, --to est attendu");
-  return ConvertAll(line, *format);
+  ConvertOne(line, operands[0], operands[1], format);
+  return 0;
 }
 
 }  // namespace lumenote::tool

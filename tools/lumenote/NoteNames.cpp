@@ -24,7 +24,7 @@ void AddNotesOf(const std::string& folder, const std::string& below, const Takes
   if (!names) throw Failure(folder + " : lecture impossible");
   std::ranges::sort(*names);
   for (const std::string& name : *names) {
-    const std::string path = folder.ends_with('/') ? folder + name : folder + '/' + name;
+    const std::string path = PathIn(folder, name);
     if (IsRealFolder(AbsolutePath(path))) {
       AddNotesOf(path, below + name + '/', takes, notes);
       continue;
@@ -36,10 +36,16 @@ void AddNotesOf(const std::string& folder, const std::string& below, const Takes
 
 }  // namespace
 
+bool IsFolder(const std::string& path) { return IsRealFolder(FollowLinks(AbsolutePath(path))); }
+
+std::string PathIn(const std::string& folder, const std::string& name) {
+  return folder.ends_with('/') ? folder + name : folder + '/' + name;
+}
+
 NoteNames FindNotes(std::span<const std::string> operands, const Takes& takes) {
   NoteNames found{{}, operands.size() > 1};
   for (const std::string& operand : operands) {
-    if (operand != "-" && IsRealFolder(AbsolutePath(operand))) {
+    if (operand != "-" && IsFolder(operand)) {
       found.several = true;
       AddNotesOf(operand, "", takes, found.notes);
     } else {

@@ -19,9 +19,14 @@ struct NoteNames {
   bool several = false;  // a folder, or more than one file, was named
 };
 
+/// Whether this is a folder, or a link to one.
+bool IsFolder(const std::string& path);
+/// The path of what is called `name` in a folder.
+std::string PathIn(const std::string& folder, const std::string& name);
+
 /// The operands, in their order, with each folder replaced by the files in it and in its folders
 /// whose extension names a format that `takes` accepts, in the order of their names; links to
-/// folders are not followed. Raises `Failure` for a folder that cannot be read.
+/// folders in it are not followed. Raises `Failure` for a folder that cannot be read.
 NoteNames FindNotes(std::span<const std::string> operands,
                     const std::function<bool(Note::Format)>& takes);
 

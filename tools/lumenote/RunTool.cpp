@@ -27,9 +27,10 @@ constexpr std::array<Command, 6> kCommands{{
     {"convert", "[--to rtf|txt|html] [--backup | --dry-run] NOTE... CIBLE",
      R"(  convert   convertit une note entre RTF, texte et HTML, remplaçant CIBLE d'un coup ; avec
             --to, plusieurs notes ou un dossier dans le dossier CIBLE, créé s'il n'existe
-            pas. À côté de sa note, un fichier de ce nom n'y est jamais remplacé. --backup
-            garde ce qui est remplacé sous son nom suivi de "~". --dry-run n'écrit rien et
-            dit, par note, son nom, celui de sa cible et si elle serait remplacée
+            pas. Aucune de ces notes, aucun fichier à côté de la sienne n'y est jamais
+            remplacé. --backup garde ce qui est remplacé sous son nom suivi de "~". --dry-run
+            n'écrit rien et dit, par note, son nom, celui de sa cible et si elle serait
+            remplacée
 )",
      Convert},
     {"clean", "[--list LISTE] [-o CIBLE] [--backup | --dry-run] NOTE...",

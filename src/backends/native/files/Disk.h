@@ -1,5 +1,6 @@
 // What the platform's portable parts do on a disk. Paths are native; on Windows, in UTF-8.
 #pragma once
+#include <compare>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -69,7 +70,7 @@ int RemoveTree(const std::string& path);
 struct FileId {
   std::uint64_t volume = 0;
   std::uint64_t number = 0;
-  bool operator==(const FileId&) const = default;
+  auto operator<=>(const FileId&) const = default;
 };
 
 struct FileStatus {
