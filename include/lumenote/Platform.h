@@ -14,7 +14,7 @@ class Registry;
 class Settings;
 class StateFolder;
 
-/// Hosts construct one of the platforms below and hand it over; its members are the component's own
+/// Hosts construct one, such as `QtPlatform`, and hand it over; its members are the component's own
 /// affair. Must outlive every control created with it.
 class Platform {
  public:

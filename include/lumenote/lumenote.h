@@ -27,7 +27,7 @@ typedef struct LumenoteControl LumenoteControl;
 /** What went wrong. */
 typedef struct LumenoteError {
   int number; /**< 5 a bad argument, property or thread, 6 overflow, 7 memory, 13 not a number,
-                 51 internal, 53, 70, 75, 76 files and paths; 0 after a success */
+                 51 internal, 53, 61, 70, 75, 76 files and paths, 380 not RTF; 0 after a success */
   const char* member; /**< the control's member concerned ("pCouleurFen"), or "" */
   const char* text;   /**< in French, for the user */
 } LumenoteError;
@@ -96,9 +96,9 @@ const char* lumenote_drive_path(const char* native);
 const char* lumenote_native_path(const char* drive);
 
 /** A note in another format, without a control. `bytes` are those of a note's file; `from` is
- * "rtf", "text" or "html", NULL finds out which of the first two; `to` is one of them. The length
- * goes to
- * `*length` unless that is NULL. Any thread; valid until its next call that returns a text. */
+ * "rtf", "text" or "html", NULL finds out which of the first two; `to` is one of the three. The
+ * length goes to `*length` unless that is NULL. Any thread; valid until its next call that returns
+ * a text. */
 const char* lumenote_convert(const char* bytes, size_t size, const char* from, const char* to,
                              size_t* length);
 

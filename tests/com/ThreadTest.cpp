@@ -69,8 +69,8 @@ TEST_F(ThreadTest, AProxyCarriesCallsAndErrors) {
   EXPECT_EQ(told.second, u"Incompatibilité de type");
 }
 
-// Each keeps its editor open while the others work. They take turns, since wine's Uniscribe shares
-// what it knows of a font between threads without a lock.
+// Each keeps its control while the others work. They take turns, since wine's Uniscribe shares what
+// it knows of a font between threads without a lock.
 TEST_F(ThreadTest, ApartmentsLiveSideBySide) {
   constexpr int kThreads = 3, kRounds = 10;
   std::mutex turn;
