@@ -13,10 +13,11 @@
 namespace lumenote::tool {
 namespace {
 
-// Standard input is read in its turn.
+// Standard input is read in its turn, and so is a note for which there is no thread to be had.
 std::future<Finish> Start(const NoteName& note,
                           const std::function<Finish(const NoteName& note)>& work) {
-  const auto when = note.path == "-" ? std::launch::deferred : std::launch::async;
+  const auto when =
+      note.path == "-" ? std::launch::deferred : std::launch::async | std::launch::deferred;
   return std::async(when, work, std::cref(note));
 }
 

@@ -59,11 +59,11 @@ constexpr std::array<Command, 6> kCommands{{
 constexpr std::string_view kCommon = R"(
 Les fichiers sont des chemins du système ; l'extension .rtf, .txt, .html ou .htm en
 dit le format. Un dossier vaut pour toutes les notes qu'il contient, sous-dossiers
-compris ; clean n'y prend que les .rtf, convert celles d'un autre format. Avec text, convert et
-clean "-" est l'entrée ou la sortie standard : en entrée le RTF se reconnaît à son
-début, en sortie c'est l'autre format (RTF pour du HTML), sauf avec --to. Un fichier
-texte est en page de code 1252 avec CR LF ; en entrée, une marque d'ordre des octets
-est suivie.
+compris ; clean n'y prend que les .rtf, convert celles d'un autre format. Avec text,
+convert et clean "-" est l'entrée ou la sortie standard : en entrée le RTF se reconnaît
+à son début, en sortie c'est l'autre format (RTF pour du HTML), sauf avec --to. Un
+fichier texte est en page de code 1252 avec CR LF ; en entrée, une marque d'ordre des
+octets est suivie.
 
 État de sortie : 0, 1 quand une note ne peut être lue ou écrite ou une application
 liée, 2 pour une ligne de commande incorrecte. De pilot : 1 quand une attente n'est
