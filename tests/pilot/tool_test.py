@@ -127,10 +127,11 @@ class Tool(unittest.TestCase):
                                  (("html", "un/c.rtf", "deux/d.rtf", "lien"), 2),
                                  (("html", "un/voisin.rtf", "lien"), 2)):
             self.run_tool("convert", "--to", *operands, status=1, errors=errors)
-        self.assertEqual(self.read("deux/a.rtf"), RTF)
         self.assertEqual(self.read("un/voisin.html"), b"<p>voisin")
         self.run_tool("convert", "--to=html", "deux/a.rtf", "deux/d.rtf", status=2)
-        self.assertEqual(self.read("deux/d.rtf"), RTF)
+        (self.folder / "deux/a.txt").symlink_to("a.rtf")
+        self.run_tool("convert", "deux/a.rtf", "deux/a.txt", status=1)
+        self.assertEqual([self.read("deux/" + name) for name in ("a.rtf", "d.rtf")], [RTF, RTF])
         self.run_tool("convert", "--to=txt", "deux/a.rtf", "neuf/")
         self.assertEqual(os.listdir(self.folder / "neuf"), ["a.txt"])
         self.assertIn(b"caf", self.run_tool("text", "lien"))

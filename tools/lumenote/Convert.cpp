@@ -39,6 +39,15 @@ void Put(const CommandLine& line, const std::string& source, const std::string& 
   WriteBytes(target, bytes);
 }
 
+bool AreTheSame(const std::string& path, const std::string& other) {
+  const auto status = StatusOf(path), others = StatusOf(other);
+  return status && others && status->id == others->id;
+}
+
+bool IsItself(const std::string& source, const std::string& target) {
+  return source != "-" && target != "-" && AreTheSame(AbsolutePath(source), AbsolutePath(target));
+}
+
 void ConvertOne(const CommandLine& line, const std::string& source, const std::string& target,
                 std::optional<Note::Format> format) {
   const std::optional<Note::Format> named = FormatOfName(target);
@@ -48,7 +57,10 @@ void ConvertOne(const CommandLine& line, const std::string& source, const std::s
   if (!format && target != "-")
     throw CommandLineError(target + " : extension .rtf, .txt ou .html attendue, ou --to");
   const Note note = ReadNote(source);
-  Put(line, source, target, note.Bytes(format.value_or(OtherThan(note.Source()))));
+  if (!format) format = OtherThan(note.Source());
+  if (format != note.Source() && IsItself(source, target))
+    throw Failure(target + " : est la note elle-même");
+  Put(line, source, target, note.Bytes(*format));
 }
 
 /// Whether several notes, or notes in a folder, go into a folder.
@@ -56,11 +68,6 @@ bool IsForFolder(const std::vector<std::string>& operands) {
   const auto isFolder = [](const std::string& path) { return path != "-" && IsFolder(path); };
   return operands.size() > 2 || std::ranges::any_of(operands, isFolder) ||
          AbsolutePath(operands.back()).ends_with('/');
-}
-
-bool LieTogether(const std::string& path, const std::string& other) {
-  const auto folder = StatusOf(ParentOf(path)), others = StatusOf(ParentOf(other));
-  return folder && others && folder->id == others->id;
 }
 
 /// Converts many notes into files of one folder, or of folders in it as they lie in theirs.
@@ -110,7 +117,8 @@ void IntoFolder::Check(const NoteName& note, const std::string& target) const {
     throw Failure(note.path + " : " + target + " vient d'une autre note");
   const std::string path = FollowLinks(AbsolutePath(target));
   const auto there = StatusOf(path);
-  if (there && (kept_.contains(there->id) || LieTogether(AbsolutePath(note.path), path)))
+  if (there &&
+      (kept_.contains(there->id) || AreTheSame(ParentOf(AbsolutePath(note.path)), ParentOf(path))))
     throw Failure(target + " : existe déjà");
 }
 
