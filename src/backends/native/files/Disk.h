@@ -1,6 +1,5 @@
 // What the platform's portable parts do on a disk. Paths are native; on Windows, in UTF-8.
 #pragma once
-#include <compare>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -70,7 +69,10 @@ int RemoveTree(const std::string& path);
 struct FileId {
   std::uint64_t volume = 0;
   std::uint64_t number = 0;
-  auto operator<=>(const FileId&) const = default;
+  bool operator==(const FileId&) const = default;
+  bool operator<(const FileId& other) const {
+    return volume != other.volume ? volume < other.volume : number < other.number;
+  }
 };
 
 struct FileStatus {
