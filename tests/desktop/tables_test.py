@@ -71,6 +71,18 @@ class Tables(Notes):
             self.wait(lambda text=text: self.note_text().replace("\\n", "|").startswith(text),
                       f"{text!r}")
 
+    def test_a_selection_over_cells_leaves_them(self):
+        self.open(NOTE)
+        places = self.settled(self.red_places)
+        left, top = min(x for x, _ in places), min(y for _, y in places)
+        self.mouse(self.note, (left + 80, top + 28), "mousedown 1", (left + 120, top + 20),
+                   (left + 260, top + 8), "mouseup 1")
+        for key, text in (("Delete", "a|b\t|x\ty|e|f"), ("ctrl+z", "a|b|c\td|x\ty|e|f"),
+                          ("z", "a|bz\t|x\ty|e|f")):
+            self.keys(self.note, key)
+            self.wait(lambda text=text: self.note_text().replace("\\n", "|").startswith(text), text)
+        self.assertEqual(self.lines(self.settled(self.red_places), 0), self.lines(places, 0))
+
 
 if __name__ == "__main__":
     main()

@@ -77,9 +77,6 @@ const std::string kDeux = "\\par{\\listtext 2.\\tab}deux";
 
 TEST(ListEdits, WhatTheSourceSaysAtNumbersStays) {
   const std::string section = "\\par\\sect\\sectd\\sbkpage{\\header TETE}";
-  const std::string cells =
-      "\\trowd\\cellx1000\\cellx2000\\pard\\intbl\\ls1{\\listtext 1.\\tab}a"
-      "\\cell{\\listtext 2.\\tab}b\\cell\\row\\pard\\ls1{\\listtext 3.\\tab}c";
   const std::string cyrillic =
       "{\\rtf1\\ansi\\ansicpg1251{\\*\\listtable{\\list{\\listlevel\\levelnfc0\\levelstartat1"
       "{\\leveltext\\'04\\'c3\\'eb \\'00;}}\\listid7}}{\\*\\listoverridetable{\\listoverride"
@@ -91,8 +88,6 @@ TEST(ListEdits, WhatTheSourceSaysAtNumbersStays) {
        "1.⇥un¶2.⇥|¶3.⇥b", "{\\*\\bkmkstart c}"},
       {Numbered(kDeux), "1.\tun¶2.\tdeux|", "Ctrl+a Ctrl+c Ctrl+End Return Ctrl+v",
        "1.⇥un¶2.⇥deux¶3.⇥un¶4.⇥deux|", "3.\\tab}"},
-      {"{\\rtf1" + Tables("1/0/%1.") + cells + "}", "1.\ta|\t2.\tb¶3.\tc", "Shift+Right Delete",
-       "1.⇥a|b¶2.⇥c", "2.\\tab}"},
       {cyrillic, "Гл 1\tun|", "Return", "Гл 1⇥un¶|", "\\u1043?\\u1083? 1\\tab}"},
   };
   for (const auto& [source, before, keys, after, kept] : cases) {

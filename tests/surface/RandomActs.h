@@ -10,6 +10,7 @@
 
 #include "base/Characters.h"
 #include "document/Model.h"
+#include "document/tables/CellTexts.h"
 #include "document/tables/TableRow.h"
 #include "surface/Choices.h"
 #include "surface/UserBench.h"
@@ -118,12 +119,12 @@ class RandomActs : UserBench {
   }
   void Type() {
     const std::u16string text = ReplaceEvery(ReplaceEvery(Text(), u"\r", u""), u"\n", u"");
-    const Model next = text.empty() ? Seen(now_) : Replaced(surface.Selected(), text);
+    const Model next = text.empty() ? Seen(now_) : ByUser(surface.Selected(), text);
     surface.UserType(text);
     Expect(next, true);
   }
   void Break() {
-    const Model next = Replaced(surface.Selected(), u"\r\n");
+    const Model next = ByUser(surface.Selected(), u"\r\n");
     surface.UserType(u"\r\n");
     EXPECT_TRUE(Seen(Held()) == next);
     Remember(Held(), true);
@@ -159,25 +160,26 @@ class RandomActs : UserBench {
     const Selection cell = CellAround(surface.Content(), surface.Caret());
     if (surface.Selected().Length() == 0)
       range = {std::max(range.start, cell.start), std::min(range.end, cell.end)};
+    const Model next = surface.Selected().Length() > 0 ? ByUser(range, {}) : Replaced(range, {});
     surface.UserKey({.name = back ? KeyName::BackSpace : KeyName::Delete});
-    Expect(Replaced(range, {}), true);
+    Expect(next, true);
   }
   void Move() {
     const Selection range = surface.Selected();
     const bool copy = bytes_.Coin();
     Position target = std::min(Place(), now_.Length());
     target -= InsidePair(target);
+    const Model left = ByUser(range, {});
+    const Model seen = Seen(now_);
     surface.UserDrop(target, copy);
     const bool inside = target > range.start && target < range.end;
     const bool edge = target == range.start || target == range.end;
     if (range.Length() == 0 || inside || (edge && !copy)) return;
-    const Model seen = Seen(now_);
     Model moved;
     moved.Add(seen, range.start, range.end);
-    Model next = seen.Replaced(target, target, moved);
-    const Position shift = target <= range.start ? range.Length() : 0;
-    if (!copy) next = next.Replaced(range.start + shift, range.end + shift, {});
-    const Position start = target - (copy ? 0 : range.Length() - shift);
+    const bool shrinks = !copy && target > range.start;
+    const Position start = target - (shrinks ? seen.Length() - left.Length() : 0);
+    const Model next = (copy ? seen : left).Replaced(start, start, moved);
     EXPECT_EQ(surface.Selected(), (Selection{start, start + range.Length()}));
     EXPECT_TRUE(surface.UndoType() == UndoKind::DragDrop);
     EXPECT_TRUE(Seen(Held()) == next);
@@ -231,6 +233,8 @@ class RandomActs : UserBench {
     static constexpr std::u16string_view kBodies[] = {
         uR"(a\sect\sectd\cols2 bc\par\page{\*\bkmkstart k}d{\*\bkmkend k}{\pict 01})",
         uR"(a\par\trowd\cellx9\intbl b\par c\cell{\field{\fldrslt d}}\cell\row\pard e)",
+        uR"({\trowd\cellx9\cellx19\intbl a\cell b\par\itap2 c\nestcell d\nestcell{\*\nesttableprops)"
+        uR"(\trowd\cellx3\cellx5\nestrow}\itap1 e\cell\row\intbl f\cell g\cell\row\pard h})",
         uR"({\listtext 1.\tab}\ls1 a\page\par{\field{\fldrslt\b b{\field{\fldrslt c}}}})"};
     Load({});
     surface.TextRTF(u"{\\rtf1 " + std::u16string(bytes_.Of(kBodies)) + u"}");
@@ -274,11 +278,23 @@ class RandomActs : UserBench {
   }
   /// Text put in is bold like the first letter it replaces, else as the surface says.
   Model Replaced(Selection range, std::u16string_view text) const {
+    return Replaced(std::vector{range}, text);
+  }
+  /// The user leaves the cells of tables where they are.
+  Model ByUser(Selection range, std::u16string_view text) const {
+    const auto remains = text.empty() ? Remains::Nothing : Remains::Text;
+    return Replaced(FindCellTexts(surface.Content(), range, remains).parts, text);
+  }
+  Model Replaced(const std::vector<Selection>& parts, std::u16string_view text) const {
+    const Position start = parts.front().start;
     const Model seen = Seen(now_);
-    const bool bold = range.Length() > 0 ? seen.characters[range.start] : *surface.SelBold();
+    const bool replaces = parts.back().end > start;
+    Model next = seen;
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
+      next = next.Replaced(part->start, part->end, {});
     Model piece;
-    piece.Add(text, bold, 0);
-    return seen.Replaced(range.start, range.end, piece);
+    piece.Add(text, replaces ? seen.characters[start] : *surface.SelBold(), 0);
+    return next.Replaced(start, start, piece);
   }
   bool InsidePair(Position at) const {
     if (at <= 0 || at >= now_.Length()) return false;

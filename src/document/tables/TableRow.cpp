@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "document/tables/CellParagraphs.h"
-
 namespace lumenote {
 
 namespace {
@@ -110,25 +108,20 @@ Selection CellAround(const Document& document, Position position) {
   return {first->start, last->end};
 }
 
-std::optional<Position> CellEndBehind(const Document& document, Position position) {
-  const FormatTables& tables = document.Formats();
-  const Position end = document.ParagraphEnd(document.ParagraphOf(position));
-  std::optional<Position> found;
-  document.ForEachRun(position, end, [&](Position at, TextView text, CharId id) {
-    const bool cell = tables.kept[tables.characters[id].kept].kind == Kept::Kind::Cell;
-    const std::size_t tab = cell && !found ? text.Find('\t', 0) : text.Size();
-    if (tab < text.Size()) found = at + static_cast<Position>(tab);
-  });
-  return found;
+CellParagraph ParagraphAround(const Document& document, Position position) {
+  if (const auto row = RowAround(document, position))
+    return *ParagraphAt(ParagraphsOf(document, *row), position);
+  const Position paragraph = document.ParagraphOf(position);
+  const Position end = document.ParagraphEnd(paragraph);
+  return {.start = document.ParagraphStart(paragraph),
+          .end = end,
+          .ender = document.CharFormatAt(end),
+          .format = document.ParaFormatAt(end)};
 }
 
 ParaFormat FormatInCell(const Document& document, Position position) {
-  const FormatTables& tables = document.Formats();
-  const auto row = RowAround(document, position);
-  if (!row) return tables.paragraphs[document.ParaFormatAt(position)];
-  const std::vector<CellParagraph> paragraphs = ParagraphsOf(document, *row);
-  const CellParagraph& own = *ParagraphAt(paragraphs, position);
-  ParaFormat format = tables.paragraphs[own.format];
+  const CellParagraph own = ParagraphAround(document, position);
+  ParaFormat format = document.Formats().paragraphs[own.format];
   format.nesting = static_cast<std::uint8_t>(std::max<int>(format.nesting, own.level));
   return format;
 }

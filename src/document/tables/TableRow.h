@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "document/Document.h"
+#include "document/tables/CellParagraphs.h"
 
 namespace lumenote {
 
@@ -32,9 +33,8 @@ const Kept* RowEndAt(const Document& document, Position paragraphEnd);
 /// held back by it.
 Selection CellAround(const Document& document, Position position);
 
-/// The tab that ends the cell of `position`; empty outside of cells, and in cells that end with a
-/// paragraph.
-std::optional<Position> CellEndBehind(const Document& document, Position position);
+/// The paragraph that holds `position`, in a row the one in its cell.
+CellParagraph ParagraphAround(const Document& document, Position position);
 
 /// The format of the paragraph that holds `position`, in a row that of the paragraph in its cell,
 /// marked as part of a table. The row's own end says whether rows are marked.

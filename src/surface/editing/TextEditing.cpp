@@ -1,6 +1,7 @@
 #include "surface/editing/TextEditing.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "base/Strings.h"
@@ -21,15 +22,17 @@ CharId TextEditing::TypedFormat() const {
 
 Fragment TextEditing::Plain(std::u16string_view text) const {
   const bool hasBreaks = text.find_first_of(kBreak) != std::u16string_view::npos;
-  const Position start = core_.Selected().start;
-  return PlainFragment(text, TypedFormat(), hasBreaks ? TypedParagraph(start) : 0);
+  return PlainFragment(text, TypedFormat(), hasBreaks ? TypedParagraph(core_.Selected()) : 0);
 }
 
-/// In a table, that of the paragraph in its cell.
-ParaId TextEditing::TypedParagraph(Position start) const {
-  const ParaId own = core_.Content().ParaFormatAt(start);
-  if (!RowAround(core_.Content(), start)) return own;
-  return core_.Formats().paragraphs.Intern(FormatInCell(core_.Content(), start));
+/// In a table, that of the paragraph in its cell; behind it if the table goes.
+ParaId TextEditing::TypedParagraph(Selection range) const {
+  const Document& document = core_.Content();
+  const auto row = RowAround(document, range.start);
+  if (!row) return document.ParaFormatAt(range.start);
+  const bool goes = row->start == range.start && !RowAround(document, range.end);
+  if (goes) return document.ParaFormatAt(range.end);
+  return core_.Formats().paragraphs.Intern(FormatInCell(document, range.start));
 }
 
 void TextEditing::ReplaceSelection(UndoKind kind, std::u16string_view text) {
@@ -45,9 +48,41 @@ void TextEditing::ReplaceSelection(UndoKind kind, const Fragment& fragment) {
   core_.Edit(kind, [&] {
     const Position behind = old.start + fragment.Length();
     TakeTables(fragment, old.start);
-    ReplaceRange(old.start, old.end, {fragment.leaves, {}});
+    const Selection first = RemoveBehindFirst(TextsOf(kind, old, Remains::Text));
+    ReplaceRange(first.start, first.end, {fragment.leaves, {}});
     core_.Place(behind, behind);
   });
+}
+
+CellTexts TextEditing::TextsOf(UndoKind kind, Selection range, Remains remains) const {
+  if (kind == UndoKind::Unknown) return {{range}};
+  return FindCellTexts(core_.Content(), range, remains);
+}
+
+void TextEditing::Remove(const CellTexts& texts) {
+  const Selection first = RemoveBehindFirst(texts);
+  ReplaceRange(first.start, first.end, {});
+}
+
+Selection TextEditing::RemoveBehindFirst(const CellTexts& texts) {
+  if (texts.takesFinalRow) EndTable();
+  const auto& parts = texts.parts;
+  for (auto part = parts.rbegin(); part != std::prev(parts.rend()); ++part)
+    if (part->Length() > 0) ReplaceRange(part->start, part->end, {});
+  return parts.front();
+}
+
+/// Makes the note's last paragraph, which ends a row, an ordinary one.
+void TextEditing::EndTable() {
+  FormatTables& tables = core_.Formats();
+  FinalMark mark = core_.Content().Mark();
+  CharFormat character = tables.characters[mark.character];
+  ParaFormat paragraph = tables.paragraphs[mark.paragraph];
+  character.kept = 0;
+  paragraph.nesting = 0;
+  mark.character = tables.characters.Intern(character);
+  mark.paragraph = tables.paragraphs.Intern(paragraph);
+  core_.Replace(core_.Content().Length(), core_.Content().Length(), {{}, mark});
 }
 
 void TextEditing::TakeTables(const Fragment& fragment, Position at) {
@@ -63,7 +98,7 @@ bool TextEditing::IsSelected(std::u16string_view text) const {
   const Selection old = core_.Selected();
   if (static_cast<std::size_t>(old.Length()) != text.size()) return false;
   const CharId format = TypedFormat();
-  const ParaId paragraph = TypedParagraph(old.start);
+  const ParaId paragraph = TypedParagraph(old);
   bool same = true;
   document.ForEachRun(old.start, old.end, [&](Position at, TextView piece, CharId id) {
     const auto offset = static_cast<std::size_t>(at - old.start);
@@ -79,7 +114,7 @@ void TextEditing::DeleteSelection(UndoKind kind) {
   const Selection old = core_.Selected();
   const CharFormat format = core_.InsertionFormat();
   core_.Edit(kind, [&] {
-    ReplaceRange(old.start, old.end, {});
+    Remove(TextsOf(kind, old, Remains::Nothing));
     core_.Place(old.start, old.start, format);
   });
 }
@@ -94,12 +129,11 @@ void TextEditing::Delete(UndoKind kind, Position from, Position to) {
 
 void TextEditing::ReplaceRange(Position from, Position to, const Fragment& fragment) {
   const Document& document = core_.Content();
-  const Position first = document.ParagraphOf(from);
-  const Position last = from == to ? first : document.ParagraphOf(to);
-  if (first != last) {
-    const bool firstStays = from > document.ParagraphStart(first) ||
-                            (fragment.Length() > 0 && to > document.ParagraphStart(last));
-    if (firstStays && !ReformatCell(from, to)) Reformat(last, document.ParaFormatAt(from));
+  if (from < to && document.ParagraphOf(from) != document.ParagraphOf(to)) {
+    const CellParagraph first = ParagraphAround(document, from);
+    const CellParagraph last = ParagraphAround(document, to);
+    const bool firstStays = from > first.start || (fragment.Length() > 0 && to > last.start);
+    if (firstStays && first.level == last.level) Reformat(last, first.format);
   }
   ReplaceKeepingSectionStart(from, to, fragment);
 }
@@ -119,29 +153,14 @@ void TextEditing::ReplaceKeepingSectionStart(Position from, Position to, const F
   core_.Replace(from, behind, WithSectionStart(std::move(next), tables, sectionStart));
 }
 
-/// Gives the paragraph at `to` the format of the one at `from` if both are in the same cell, which
-/// ends with a tab.
-bool TextEditing::ReformatCell(Position from, Position to) {
+void TextEditing::Reformat(const CellParagraph& paragraph, ParaId format) {
   const Document& document = core_.Content();
-  const auto tab = CellEndBehind(document, to);
-  if (!tab || CellAround(document, from) != CellAround(document, to)) return false;
-  const ParaId format = TypedParagraph(from);
-  const auto map = [&](CharId id) {
-    return WithCellFormat(id, core_.Formats(), [=](ParaId) { return format; });
-  };
-  if (const auto mapped = document.MapFormats(*tab, *tab + 1, map, {}))
-    core_.Replace(*tab, *tab + 1, *mapped);
-  return true;
-}
-
-void TextEditing::Reformat(Position paragraph, ParaId format) {
-  const Document& document = core_.Content();
-  const Position end = document.ParagraphEnd(paragraph);
-  const bool final = paragraph + 1 == document.ParagraphCount();
-  const Position to = final ? end : document.ParagraphStart(paragraph + 1);
+  const bool final = paragraph.end == document.Length();
+  const Position to = final ? paragraph.end : paragraph.end + (paragraph.endsCell ? 1 : 2);
   const auto map = [=](ParaId) { return format; };
-  if (const auto mapped = document.MapFormats(end, to, {}, map, final))
-    core_.Replace(end, to, *mapped);
+  const auto mapCell = [&](CharId id) { return WithCellFormat(id, core_.Formats(), map); };
+  if (const auto mapped = document.MapFormats(paragraph.end, to, mapCell, map, final))
+    core_.Replace(paragraph.end, to, *mapped);
 }
 
 void TextEditing::Type(std::u16string_view text) {
@@ -162,7 +181,9 @@ void TextEditing::TypeBreak() {
   const CharFormat format = core_.InsertionFormat();
   core_.Edit(UndoKind::Typing, [&] {
     const Position behind = old.start + static_cast<Position>(kBreak.size());
-    ReplaceRange(old.start, old.end, Plain(kBreak));
+    const Fragment typed = Plain(kBreak);
+    const Selection first = RemoveBehindFirst(TextsOf(UndoKind::Typing, old, Remains::Text));
+    ReplaceRange(first.start, first.end, typed);
     core_.Place(behind, behind, format);
   });
 }
@@ -175,11 +196,14 @@ void TextEditing::MoveSelection(Position target, bool copy) {
       copy ? target > old.start && target < old.end : target >= old.start && target <= old.end;
   if (!core_.HasSelection() || inside) return;
   const Fragment moved = WithoutSectionStart(document.Copy(old.start, old.end), core_.Formats());
+  const Position shift = target <= old.start ? old.Length() : 0;
   core_.Edit(UndoKind::DragDrop, [&] {
+    CellTexts texts = TextsOf(UndoKind::DragDrop, old, Remains::Nothing);
     core_.Replace(target, target, moved);
-    const Position shift = target <= old.start ? old.Length() : 0;
-    if (!copy) ReplaceRange(old.start + shift, old.end + shift, {});
-    const Position at = copy || shift > 0 ? target : target - old.Length();
+    const Position length = document.Length();
+    for (Selection& part : texts.parts) part = {part.start + shift, part.end + shift};
+    if (!copy) Remove(texts);
+    const Position at = shift > 0 ? target : target - (length - document.Length());
     core_.Place(at, at + old.Length());
   });
 }

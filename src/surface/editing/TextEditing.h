@@ -1,13 +1,18 @@
 // Edits of the text: replacing, deleting, typing, moving.
 #pragma once
 #include <string_view>
+#include <vector>
 
+#include "document/tables/CellParagraphs.h"
+#include "document/tables/CellTexts.h"
 #include "surface/editing/EditingCore.h"
 
 namespace lumenote {
 
 /// Each member is one command and one undo step of its kind. A paragraph that results from joining
-/// keeps the format of the first one, unless that was removed entirely.
+/// keeps the format of the first one, unless that was removed entirely. What the user removes
+/// leaves the cells of tables where they are (`FindCellTexts`); the program (kind Unknown) removes
+/// all it says.
 class TextEditing {
  public:
   explicit TextEditing(EditingCore& core) : core_(core) {}
@@ -35,13 +40,17 @@ class TextEditing {
 
  private:
   void TakeTables(const Fragment& fragment, Position at);
+  CellTexts TextsOf(UndoKind kind, Selection range, Remains remains) const;
+  void Remove(const CellTexts& texts);
+  /// Removes the others and returns the first part.
+  Selection RemoveBehindFirst(const CellTexts& texts);
+  void EndTable();
   void ReplaceRange(Position from, Position to, const Fragment& fragment);
   void ReplaceKeepingSectionStart(Position from, Position to, const Fragment& fragment);
-  bool ReformatCell(Position from, Position to);
-  void Reformat(Position paragraph, ParaId format);
+  void Reformat(const CellParagraph& paragraph, ParaId format);
   bool IsSelected(std::u16string_view text) const;
   CharId TypedFormat() const;
-  ParaId TypedParagraph(Position start) const;
+  ParaId TypedParagraph(Selection range) const;
   void TypeBreak();
 
   EditingCore& core_;

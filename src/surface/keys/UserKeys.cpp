@@ -131,7 +131,7 @@ void UserKeys::Erase(Position to) {
 
 // A row that is not marked as one would fall apart.
 void UserKeys::Break() {
-  if (IsInUnmarkedRow(core_.Content(), core_.Caret())) return BreakLine();
+  if (IsInUnmarkedRow(core_.Content(), core_.Selected().start)) return BreakLine();
   text_.Type(u"\r\n");
 }
 
