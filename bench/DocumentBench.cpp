@@ -36,8 +36,9 @@ struct Desk {
     for (Position i = 0; i < kEdits; ++i) Insert(middle + i, u"abcde "[i % 6]);
   }
   void ReplaceAll() {
-    Replacement result = ReplaceAllText(document, kNeedle, kReplacement, {.matchCase = true});
-    Apply(std::move(result.whole));
+    auto result = *ReplaceAllText(document, kNeedle, kReplacement, {.matchCase = true},
+                                  document.Length(), [](CharId format) { return format; });
+    Apply(result.range, std::move(result.fragment));
   }
   void MakeBold() {
     FormatTables& formats = document.Formats();
@@ -46,11 +47,11 @@ struct Desk {
       format.effects |= kBold;
       return formats.characters.Intern(format);
     };
-    Apply(*document.MapFormats(0, document.Length(), bold, {}, true));
+    Apply({0, document.Length()}, *document.MapFormats(0, document.Length(), bold, {}, true));
   }
-  void Apply(Fragment whole) {
+  void Apply(Selection range, Fragment fragment) {
     history.Begin(UndoKind::Unknown, {});
-    history.Apply(0, document.Length(), std::move(whole));
+    history.Apply(range.start, range.end, std::move(fragment));
     history.End({});
   }
   void UndoAll() {

@@ -46,10 +46,7 @@ void ReplaceAll(benchmark::State& state) {
   std::u16string_view sought = u"zygène";
   std::u16string_view other = u"phalène";
   for (auto _ : state) {
-    for (Position from = 0; desk.surface.Find(sought, from, 0) != -1;) {
-      from = desk.surface.SelStart() + desk.surface.SelLength();
-      desk.surface.SelText(other);
-    }
+    desk.surface.ReplaceAll(sought, other, 0, kMatches);
     std::swap(sought, other);
   }
 }

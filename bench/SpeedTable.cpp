@@ -167,6 +167,7 @@ std::vector<Row> Rows() {
       {"1,000 at one place", Simple(TypeInTheMiddle)},
       {"caret to the middle",
        [](Stand& s, const Note& note) {
+         s.ToFrame([] {});  // what the edits left to be drawn
          return s.ToFrame([&] { s.Act().PutCaret(static_cast<int>(note.units.size() / 2)); });
        }},
       {"resize to frame",

@@ -1,4 +1,6 @@
 // The surface and the view that the editor's window shows.
+#include <limits>
+
 #include "Editor.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/view/RichTextView.h"
@@ -20,20 +22,17 @@ class Ours final : public Editor {
     surface_.UserType(std::u16string(1, static_cast<char16_t>(letter)));
   }
   int FindAll(const QString& needle) override {
+    const std::u16string sought = FromQString(needle);
     int count = 0;
-    AsOneStep(surface_, [&] { ForEachMatch(needle, [&] { ++count; }); });
+    AsOneStep(surface_, [&] {
+      for (Position from = 0; surface_.Find(sought, from, kFindMatchCase) != -1; ++count)
+        from = surface_.SelStart() + surface_.SelLength();
+    });
     return count;
   }
   int ReplaceAll(const QString& needle, const QString& replacement) override {
-    const std::u16string text = FromQString(replacement);
-    int count = 0;
-    AsOneStep(surface_, [&] {
-      ForEachMatch(needle, [&] {
-        surface_.SelText(text);
-        ++count;
-      });
-    });
-    return count;
+    return surface_.ReplaceAll(FromQString(needle), FromQString(replacement), kFindMatchCase,
+                               std::numeric_limits<Position>::max());
   }
   void MakeAllBold() override {
     surface_.SelStart(0);
@@ -44,16 +43,6 @@ class Ours final : public Editor {
 
  private:
   static constexpr int kMultilevelUndo = 8;
-
-  // As the find dialog does: it goes on where the match ended.
-  template <class Action>
-  void ForEachMatch(const QString& needle, Action action) {
-    const std::u16string sought = FromQString(needle);
-    for (Position from = 0; surface_.Find(sought, from, kFindMatchCase) != -1;) {
-      from = surface_.SelStart() + surface_.SelLength();
-      action();
-    }
-  }
 
   MemoryClipboard clipboard_;
   MemoryFiles files_;

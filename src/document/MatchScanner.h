@@ -19,6 +19,8 @@ class MatchScanner {
   /// Position of the next match that ends at or before `to`, after the previous one; -1 if there is
   /// none.
   Position Next(Position to);
+  /// Leaves out `count` units behind the previous match.
+  void Skip(Position count) { at_ += static_cast<std::size_t>(count); }
 
  private:
   /// Both cases of a character, equal if case matters. Among bytes, 0 stands for a case without a

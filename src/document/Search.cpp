@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Characters.h"
 #include "base/Strings.h"
 #include "document/MatchScanner.h"
 
@@ -13,7 +14,10 @@ namespace {
 /// Reads a list of leaves front to back, copying or skipping.
 class LeafReader {
  public:
-  explicit LeafReader(const LeafList& leaves) : leaf_(leaves.CursorAt(0)) { Enter(); }
+  LeafReader(const LeafList& leaves, Position from) : leaf_(leaves.CursorAt(from)) {
+    Enter();
+    SkipTo(from);
+  }
 
   void CopyTo(Position to, FragmentBuilder& builder) {
     while (!leaf_.AtEnd() && Here() < to) {
@@ -68,6 +72,19 @@ class LeafReader {
   const ParaId* mark_ = nullptr;  // of the next break
 };
 
+bool OnePassWillDo(std::u16string_view needle, std::u16string_view replacement,
+                   SearchOptions options) {
+  constexpr std::u16string_view kEnds = u"\r\n\t";  // of lines, paragraphs and cells
+  if (needle.find_first_of(kEnds) != needle.npos || replacement.find_first_of(kEnds) != needle.npos)
+    return false;
+  // A whole word has no other directly behind it.
+  if (options.wholeWord && !IsWordCharacter(needle.front())) return false;
+  const std::u16string sought = options.matchCase ? std::u16string(needle) : Lower(needle);
+  const std::u16string typed = options.matchCase ? std::u16string(replacement) : Lower(replacement);
+  // What is longer than the match is searched, too.
+  return sought != typed && typed.find(sought.front(), sought.size()) == typed.npos;
+}
+
 }  // namespace
 
 Position FindText(const Document& document, std::u16string_view needle, Position from, Position to,
@@ -77,23 +94,30 @@ Position FindText(const Document& document, std::u16string_view needle, Position
       .Next(std::min(to, document.Length()));
 }
 
-Replacement ReplaceAllText(const Document& document, std::u16string_view needle,
-                           std::u16string_view replacement, SearchOptions options) {
-  const std::u16string text = WithCrLf(replacement);
-  std::vector<ParaId> marks(static_cast<std::size_t>(CountBreaks(text)));
-  MatchScanner scanner(document.Leaves(), needle, options, 0);
-  LeafReader reader(document.Leaves());
-  FragmentBuilder builder;
-  Replacement result;
+std::optional<Replacement> ReplaceAllText(const Document& document, std::u16string_view needle,
+                                          std::u16string_view replacement, SearchOptions options,
+                                          Position most, const TypedOver& typed) {
+  if (needle.empty() || !OnePassWillDo(needle, replacement, options)) return std::nullopt;
   const auto length = static_cast<Position>(needle.size());
-  for (Position at; (at = scanner.Next(document.Length())) >= 0; ++result.count) {
+  const Position shorter = std::max(0, length - static_cast<Position>(replacement.size()));
+  MatchScanner scanner(document.Leaves(), needle, options, 0);
+  const auto next = [&] { return scanner.Next(document.Length()); };
+  Replacement result;
+  Position at = next();
+  result.range.start = result.range.end = std::max(at, 0);
+  LeafReader reader(document.Leaves(), result.range.start);
+  FragmentBuilder builder;
+  for (; at >= 0 && result.count < most; ++result.count, at = next()) {
     reader.CopyTo(at, builder);
-    if (!marks.empty()) std::fill(marks.begin(), marks.end(), document.ParaFormatAt(at));
-    builder.Append(text, reader.Format(), marks.data());
-    reader.SkipTo(at + length);
+    const std::optional<CharId> format = typed(reader.Format());
+    if (!format) return std::nullopt;
+    if (!replacement.empty()) builder.Append(replacement, *format, nullptr);
+    result.range.end = at + length;
+    reader.SkipTo(result.range.end);
+    scanner.Skip(shorter);
   }
-  reader.CopyTo(document.Length(), builder);
-  result.whole = builder.Finish();
+  result.fragment = builder.Finish();
+  if (at >= 0) result.another = at + result.fragment.Length() - result.range.Length();
   return result;
 }
 

@@ -1,5 +1,7 @@
 #include "find/Co_Trouver.h"
 
+#include <limits>
+
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "session/EditorWindow.h"
@@ -145,18 +147,8 @@ void Co_Trouver::ReplaceAndFind() {
 
 void Co_Trouver::cmdReplaceAll_Click() {
   if (cboFind.Text().empty()) return;
-  RichTextSurface& surface = editor_.Document();
-  const int options = Options();
-  std::int16_t count = 0;
-  Position start = 0;
-  // Resumes where the match ended before the replacement, whatever the replacement's length.
-  AsOneStep(surface, [&] {
-    while (surface.Find(cboFind.Text(), start, options) != -1) {
-      start = surface.SelStart() + surface.SelLength();
-      count = ToInt16(std::int64_t{count} + 1);
-      surface.SelText(cboReplace.Text());
-    }
-  });
+  const std::int16_t count = ToInt16(std::int64_t{editor_.Document().ReplaceAll(
+      cboFind.Text(), cboReplace.Text(), Options(), std::numeric_limits<std::int16_t>::max())});
   if (count > 0)
     Ask({.text = u"La région spécifiée a été balayée\r\n" + NumberText(std::int64_t{count}) +
                  u" remplacements ont été faits."});

@@ -132,6 +132,11 @@ class RichTextSurface {
   /// Returns -1, leaving the selection alone, if there is none or `text` is empty. A negative start
   /// searches from the beginning.
   virtual Position Find(std::u16string_view text, Position start, int options) = 0;
+  /// Finds each match from the start of the document, replaces it as `SelText` does and searches on
+  /// from where it ended, whatever the replacement's length; one undo step. If there is a match
+  /// behind the first `most`, it is selected and counted, too. Returns the count.
+  virtual Position ReplaceAll(std::u16string_view text, std::u16string_view replacement,
+                              int options, Position most) = 0;
   /// Extends the selection's end (backward: its start) over characters in `set`, or with `negate`
   /// over characters not in it. A set that contains CR or LF contains the paragraph break, which
   /// counts as one character.

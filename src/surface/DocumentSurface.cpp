@@ -16,6 +16,10 @@ void RequireNotNegative(Position value) {
   if (value < 0) throw RuntimeError(ErrorNumber::InvalidPropertyValue);
 }
 
+SearchOptions SearchOf(int options) {
+  return {(options & kFindWholeWord) != 0, (options & kFindMatchCase) != 0};
+}
+
 }  // namespace
 
 DocumentSurface::DocumentSurface(Clipboard& clipboard, Files& files, LineBreaker& breaker)
@@ -72,14 +76,28 @@ void DocumentSurface::RightMargin(float twips) {
 }
 
 Position DocumentSurface::Find(std::u16string_view text, Position start, int options) {
-  const SearchOptions search{(options & kFindWholeWord) != 0, (options & kFindMatchCase) != 0};
   const Position length = Content().Length();
   const Position found =
-      start > length ? -1 : FindText(Content(), text, std::max(start, 0), length, search);
+      start > length ? -1
+                     : FindText(Content(), text, std::max(start, 0), length, SearchOf(options));
   if (found < 0) return found;
   core_.Select(found, found + static_cast<Position>(text.size()));
   Reveal();
   return found;
+}
+
+Position DocumentSurface::ReplaceAll(std::u16string_view text, std::u16string_view replacement,
+                                     int options, Position most) {
+  if (const auto count = text_.ReplaceAll(text, replacement, SearchOf(options), most))
+    return *count;
+  Position count = 0;
+  AsOneStep(*this, [&] {
+    for (Position start = 0; Find(text, start, options) != -1 && ++count <= most;) {
+      start = SelStart() + SelLength();
+      SelText(replacement);
+    }
+  });
+  return count;
 }
 
 void DocumentSurface::Span(std::u16string_view set, bool forward, bool negate) {

@@ -90,6 +90,8 @@ class DocumentSurface final : public RichTextSurface {
   }
 
   Position Find(std::u16string_view text, Position start, int options) override;
+  Position ReplaceAll(std::u16string_view text, std::u16string_view replacement, int options,
+                      Position most) override;
   void Span(std::u16string_view set, bool forward, bool negate) override;
   void UpTo(std::u16string_view set, bool forward, bool negate) override;
 

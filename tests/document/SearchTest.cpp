@@ -12,8 +12,6 @@ constexpr SearchOptions kPlain{};
 constexpr SearchOptions kCase{.matchCase = true};
 constexpr SearchOptions kWord{.wholeWord = true};
 
-std::u16string TextOf(const Document& document) { return document.Text(0, document.Length()); }
-
 // The text, ">" and the needle: "|" stands where it is found, "[" and "]" around what is searched.
 TEST(FindText, FindsByTheRules) {
   const std::pair<SearchOptions, std::vector<std::u16string_view>> rows[] = {
@@ -60,47 +58,15 @@ TEST(FindText, CrossesLeaves) {
   }
 }
 
-TEST(ReplaceAllText, AgreesWithANaiveReplacement) {
-  Dice dice(3);
-  for (const auto& [needle, with] : {std::pair{u"e", u"%%%"},
-                                     {u"nt", u""},
-                                     {u"ie", u"é\ni"},
-                                     {u"zz", u"y"},
-                                     {u"\r\n", u"¶"},
-                                     {u"é", u"é"}}) {
-    Model model;
-    Document document;
-    document.Replace(0, 0, RandomFragment(dice, 9000, model));
-    Model expected;
-    Position count = 0;
-    const auto length = static_cast<Position>(std::u16string_view(needle).size());
-    for (Position at = 0; at < model.Length();) {
-      if (Lower(model.text.substr(at, length)) != needle) {
-        expected.Add(model, at, at + 1);
-        ++at;
-        continue;
-      }
-      for (char16_t c : std::u16string_view(with)) {
-        const std::u16string unit = c == u'\n' ? u"\r\n" : std::u16string(1, c);
-        expected.Add(unit, model.characters[at], document.ParaFormatAt(at));
-      }
-      at += length;
-      ++count;
-    }
-    const Replacement result = ReplaceAllText(document, needle, with, kPlain);
-    EXPECT_EQ(result.count, count);
-    EXPECT_EQ(ModelOf(result.whole.leaves, {}), expected);
-  }
-}
-
 TEST(ReplaceAllText, SharesTheLeavesThatHoldNoMatch) {
   Document document;
-  document.Replace(0, 0, PlainFragment(std::u16string(50000, u'.') + u"a", 0, 0));
-  const Replacement result = ReplaceAllText(document, u"A", u"b", kPlain);
-  EXPECT_EQ(result.count, 1);
-  EXPECT_EQ(result.whole.leaves.CursorAt(0).Pointer(), document.Leaves().CursorAt(0).Pointer());
-  document.Replace(0, document.Length(), result.whole);
-  EXPECT_EQ(TextOf(document), std::u16string(50000, u'.') + u"b");
+  document.Replace(0, 0, PlainFragment(u"a" + std::u16string(50000, u'.') + u"A", 0, 0));
+  const auto result =
+      ReplaceAllText(document, u"A", u"b", kPlain, 9, [](CharId format) { return format; });
+  ASSERT_TRUE(result);
+  EXPECT_EQ(result->count, 2);
+  const auto second = [](const LeafList& leaves) { return leaves.CursorAt(5000).Pointer(); };
+  EXPECT_EQ(second(result->fragment.leaves), second(document.Leaves()));
 }
 
 }  // namespace

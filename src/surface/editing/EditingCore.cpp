@@ -164,6 +164,10 @@ void EditingCore::RollBackTo(const UndoSavepoint& savepoint, Selection selected)
 
 void EditingCore::Replace(Position from, Position to, const Fragment& fragment) {
   lists_.Before(from, to, fragment);
+  ReplaceText(from, to, fragment);
+}
+
+void EditingCore::ReplaceText(Position from, Position to, const Fragment& fragment) {
   RecordEdit(history_.Apply(from, to, fragment));
 }
 

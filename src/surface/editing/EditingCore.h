@@ -56,6 +56,8 @@ class EditingCore {
   void Edit(UndoKind kind, const std::function<void()>& make);
   /// Inside `Edit`: replaces `from`..`to` by `fragment`.
   void Replace(Position from, Position to, const Fragment& fragment);
+  /// The same for a fragment with the breaks and the ends of cells that are replaced.
+  void ReplaceText(Position from, Position to, const Fragment& fragment);
   /// Inside `Edit`: sets the selection after it, else unchanged. `typing` is the format of text
   /// typed next, if it should differ from that of the surrounding text.
   void Place(Position anchor, Position caret, std::optional<CharFormat> typing = {});

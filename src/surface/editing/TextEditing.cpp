@@ -109,6 +109,31 @@ bool TextEditing::IsSelected(std::u16string_view text) const {
   return same;
 }
 
+std::optional<Position> TextEditing::ReplaceAll(std::u16string_view text,
+                                                std::u16string_view replacement,
+                                                SearchOptions options, Position most) {
+  FormatTables& tables = core_.Formats();
+  CharFormat format;
+  const auto typed = [&](CharId replaced) -> std::optional<CharId> {
+    format = core_.CharacterFormat(replaced);
+    if (StartsSection(tables, std::exchange(format.kept, 0))) return std::nullopt;
+    return tables.characters.Intern(format);
+  };
+  const auto made = ReplaceAllText(core_.Content(), text, replacement, options, most, typed);
+  if (!made) return std::nullopt;
+  if (made->count > 0) {
+    core_.Edit(UndoKind::Unknown, [&] {
+      core_.ReplaceText(made->range.start, made->range.end, made->fragment);
+      const Position behind = made->range.start + made->fragment.Length();
+      core_.Place(behind, behind, replacement.empty() ? std::optional(format) : std::nullopt);
+    });
+  }
+  if (made->another < 0) return made->count;
+  core_.Select(made->another, made->another + static_cast<Position>(text.size()));
+  core_.Reveal();
+  return made->count + 1;
+}
+
 void TextEditing::DeleteSelection(UndoKind kind) {
   if (!core_.HasSelection()) return;
   const Selection old = core_.Selected();

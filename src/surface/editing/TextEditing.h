@@ -1,8 +1,10 @@
 // Edits of the text: replacing, deleting, typing, moving.
 #pragma once
+#include <optional>
 #include <string_view>
 #include <vector>
 
+#include "document/Search.h"
 #include "document/tables/CellParagraphs.h"
 #include "document/tables/CellTexts.h"
 #include "surface/editing/EditingCore.h"
@@ -24,6 +26,10 @@ class TextEditing {
   /// Text typed next takes the format of the first character deleted.
   void DeleteSelection(UndoKind kind);
   void Delete(UndoKind kind, Position from, Position to);
+
+  /// `RichTextSurface::ReplaceAll` in one pass; empty, without a change, where that will not do.
+  std::optional<Position> ReplaceAll(std::u16string_view text, std::u16string_view replacement,
+                                     SearchOptions options, Position most);
 
   /// Extends the current run of typing. Each CR LF starts a paragraph with the same formats and
   /// ends the run.
