@@ -93,6 +93,9 @@ inline bool IsBehindText(Reset reset) {
   return reset == Reset::BehindText || reset == Reset::AgainBehindText;
 }
 
+/// How the source spells a character of the run for which there are several ways.
+enum class Spelling : std::uint8_t { Usual, Code, Name };
+
 /// All attributes of a run. Plain data without padding, so that it can be hashed and compared
 /// bytewise.
 struct CharFormat {
@@ -110,7 +113,7 @@ struct CharFormat {
   Underline underline = Underline::None;
   std::uint8_t stated = kStatesFont | kStatesSize;  // CharStated
   Reset reset = Reset::None;
-  std::uint8_t reserved = 0;
+  Spelling spelling = Spelling::Usual;
   bool operator==(const CharFormat&) const = default;
 };
 static_assert(std::has_unique_object_representations_v<CharFormat>);

@@ -8,6 +8,7 @@
 #include "document/paste/HeadMerge.h"
 #include "document/paste/PastedText.h"
 #include "rtf/read/Keywords.h"
+#include "rtf/words/Spellings.h"
 
 namespace lumenote {
 namespace {
@@ -210,7 +211,7 @@ void Interpreter::Word(const Token& word) {
 void Interpreter::Symbol(char symbol) {
   if (symbol == '\r' || symbol == '\n') return Break(0, {});
   const char16_t unit = CharacterOf(symbol);
-  if (unit != 0 && !Swallowed()) Put(unit);
+  if (unit != 0 && !Swallowed()) Put(unit, Spelling::Name);
 }
 
 bool Interpreter::Swallowed() {
@@ -228,7 +229,8 @@ void Interpreter::Byte(unsigned char byte) {
   if (State().page.MultiByte()) {
     bytes_ += static_cast<char>(byte);
   } else {
-    Put(State().page[byte]);
+    const char16_t unit = State().page[byte];
+    Put(unit, unit == kSoftHyphen ? Spelling::Code : Spelling::Usual);
   }
 }
 
@@ -259,6 +261,16 @@ void Interpreter::EndBytes() {
 void Interpreter::Put(char16_t unit) {
   BeginText();
   body_.Append(std::u16string_view(&unit, 1), NextCharacter());
+}
+
+void Interpreter::Put(char16_t unit, Spelling said) {
+  if (said == Spelling::Usual || !HasSpellings(unit)) return Put(unit);
+  const bool foreign = State().page.Number() != kPageOfWindows;
+  if (said == UsualSpelling(unit, foreign)) return Put(unit);
+  BeginText();
+  EditCharacter().spelling = said;
+  body_.Append(std::u16string_view(&unit, 1), NextCharacter());
+  EditCharacter().spelling = Spelling::Usual;
 }
 
 void Interpreter::BeginText() {

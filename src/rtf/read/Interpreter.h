@@ -122,6 +122,8 @@ class Interpreter {
   bool Swallowed();
 
   void Put(char16_t unit);
+  /// The same for a character that may have several spellings.
+  void Put(char16_t unit, Spelling said);
   void BeginText();
   void BeforeText();
   void PlaceMarker();

@@ -15,7 +15,9 @@ bool OfRow(const KeptItem& item) {
 
 }  // namespace
 
-void Interpreter::Character(int value, const Token&) { Put(static_cast<char16_t>(value)); }
+void Interpreter::Character(int value, const Token&) {
+  Put(static_cast<char16_t>(value), Spelling::Name);
+}
 
 void Interpreter::Unicode(int, const Token& word) {
   constexpr int kFirst = -0x8000;  // units from 0x8000 on are often written as negative numbers
@@ -27,7 +29,7 @@ void Interpreter::Unicode(int, const Token& word) {
     Put(static_cast<char16_t>(0xD7C0 + (number >> 10)));
     Put(static_cast<char16_t>(0xDC00 + (number & 0x3FF)));
   } else if (number != 0) {
-    Put(static_cast<char16_t>(number));
+    Put(static_cast<char16_t>(number), Spelling::Code);
   }
   swallow_ = State().fallback;
 }

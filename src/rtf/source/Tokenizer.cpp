@@ -9,6 +9,7 @@
 
 #include "base/Windows1252.h"
 #include "rtf/source/PlainText.h"
+#include "rtf/words/Spellings.h"
 
 namespace lumenote {
 namespace {
@@ -20,6 +21,7 @@ constexpr std::array<Class, 256> kClasses = [] {
   for (int c = 0; c < 0x20; ++c) classes[c] = Class::Control;
   for (int c = 0x80; c < 0x100; ++c) classes[c] = Class::High;
   classes[0x7F] = Class::Control;
+  classes[kSoftHyphen] = Class::Control;  // in one of its spellings, in most pages
   classes[0] = classes['\r'] = classes['\n'] = Class::Nothing;
   classes['{'] = Class::Open;
   classes['}'] = Class::Close;
@@ -46,12 +48,13 @@ int HexDigit(char c) { return kHexDigits[static_cast<unsigned char>(c)]; }
 
 constexpr std::ptrdiff_t kHexLength = 4;  // of \'xx
 
-/// The value of a complete \'xx at `at` if its byte is printable, else -1.
+/// The value of a complete \'xx at `at` if its byte is printable and no soft hyphen, else -1.
 int HexValue(const char* at, const char* end) {
   if (end - at < kHexLength || at[0] != '\\' || at[1] != '\'') return -1;
   const int high = HexDigit(at[2]);
   const int low = HexDigit(at[3]);
-  return high >= 2 && low >= 0 ? high * 16 + low : -1;
+  const int byte = high >= 2 && low >= 0 ? high * 16 + low : -1;
+  return byte == kSoftHyphen ? -1 : byte;
 }
 
 /// Consumes the digits at `at` and returns their value, clamped to the range of an int.
@@ -72,7 +75,8 @@ struct Escaped {
   std::ptrdiff_t length = 0;
 };
 
-/// The \u at `at` if its unit is printable and it has one fallback character.
+/// The \u at `at` if its unit is printable, without other spellings, and it has one fallback
+/// character.
 Escaped UnicodeAt(const char* const at, const char* end) {
   constexpr std::ptrdiff_t kLeast = 4;  // \u, a digit, a character
   if (end - at < kLeast || at[0] != '\\' || at[1] != 'u') return {};
@@ -82,6 +86,7 @@ Escaped UnicodeAt(const char* const at, const char* end) {
   if (!IsDigit(*behind)) return {};
   const std::int64_t number = negative ? -Digits(behind, end) : Digits(behind, end);
   if (number < -0x8000 || number > 0xFFFF || (number >= 0 && number < ' ')) return {};
+  if (HasSpellings(static_cast<char16_t>(number))) return {};
   if (behind != end && *behind == ' ') ++behind;
   if (behind == end) return {};
   const Class kind = ClassOf(*behind);

@@ -11,11 +11,13 @@
 #include "base/codepages/CodePage.h"
 #include "document/kept/Kept.h"
 #include "rtf/source/PlainText.h"
+#include "rtf/words/Spellings.h"
 
 namespace lumenote {
 namespace {
 
-constexpr std::size_t kHexLength = 4;  // of \'xx
+constexpr std::size_t kHexLength = 4;     // of \'xx
+constexpr std::size_t kSymbolLength = 2;  // of \-
 
 using Escape = std::array<char, kHexLength>;
 
@@ -110,28 +112,6 @@ std::string_view SymbolFor(char16_t unit) {
       return "\\}";
     case u'\u00A0':
       return "\\~";
-    case u'\u00AD':
-      return "\\-";
-    case u'\u2011':
-      return "\\_";
-    default:
-      return {};
-  }
-}
-
-/// The name of a character that sources usually give by name, except under a font whose page has
-/// it; some readers ignore the name, and show any other form as a character.
-std::string_view WordFor(char16_t unit, Encoding encoding) {
-  if (encoding == Encoding::UnicodeOnly) return {};
-  switch (unit) {
-    case u'\u200C':
-      return "zwnj";
-    case u'\u200D':
-      return "zwj";
-    case u'\u200E':
-      return "ltrmark";
-    case u'\u200F':
-      return "rtlmark";
     default:
       return {};
   }
@@ -264,21 +244,26 @@ std::size_t Output::Plain(TextView text) {
   return text.Visit([this](auto own) { return WriteForms<AsciiForms>(own); });
 }
 
-std::size_t Output::Text(TextView text, Encoding encoding) {
-  return text.Visit([=, this](auto own) { return TextAs(own, encoding); });
+std::size_t Output::Text(TextView text, Encoding encoding, Spelling spelling) {
+  return text.Visit([=, this](auto own) { return TextAs(own, encoding, spelling); });
 }
 
 template <class Unit>
-std::size_t Output::TextAs(std::basic_string_view<Unit> text, Encoding encoding) {
+std::size_t Output::TextAs(std::basic_string_view<Unit> text, Encoding encoding,
+                           Spelling spelling) {
+  const Encoding forms = spelling == Spelling::Usual ? encoding : Encoding::UnicodeOnly;
   std::size_t done = 0;
   while (done < text.size()) {
     const auto rest = text.substr(done);
-    const std::size_t some = WriteEncoded(rest, encoding);
+    const std::size_t some = WriteEncoded(rest, forms);
     done += some;
     if (some > 0) continue;
     const char16_t unit = TextView(rest).Front();
     if (StopsText(unit)) break;
-    Character(unit, encoding);
+    if (HasSpellings(unit))
+      Spelled(unit, encoding, spelling);
+    else
+      Character(unit, encoding);
     ++done;
   }
   return done;
@@ -299,11 +284,24 @@ std::size_t Output::WriteEncoded(std::basic_string_view<Unit> text, Encoding enc
 void Output::Character(char16_t unit, Encoding encoding) {
   if (const std::string_view symbol = SymbolFor(unit); !symbol.empty()) {
     Raw(symbol);
-  } else if (const std::string_view word = WordFor(unit, encoding); !word.empty()) {
-    Word(word);
   } else if (const int byte = ByteFor(unit, encoding); byte >= 0) {
     Hex(byte);
   } else if (unit != 0 && !(encoding == Encoding::Document && InDocumentPage(unit))) {
+    Unicode(unit);
+  }
+  afterText_ = true;
+}
+
+void Output::Spelled(char16_t unit, Encoding encoding, Spelling spelling) {
+  const bool foreign = encoding != Encoding::Windows;
+  if (spelling == Spelling::Usual) spelling = UsualSpelling(unit, foreign);
+  const std::string_view name = NameOf(unit);
+  if (spelling == Spelling::Usual || (spelling == Spelling::Code && unit == kSoftHyphen))
+    return Character(unit, encoding);
+  if (spelling == Spelling::Name && !name.empty()) {
+    Words(name);
+    openWord_ = name.size() > kSymbolLength;
+  } else {
     Unicode(unit);
   }
   afterText_ = true;

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "document/formats/Formats.h"
 #include "document/text/TextView.h"
 #include "rtf/write/Writer.h"
 
@@ -52,7 +53,7 @@ class Output {
   /// Writes the longest prefix of plain characters and returns its length.
   std::size_t Plain(TextView text);
   /// Writes the longest prefix without tab, break or embedded object and returns its length.
-  std::size_t Text(TextView text, Encoding encoding);
+  std::size_t Text(TextView text, Encoding encoding, Spelling spelling = Spelling::Usual);
   void Flush();
   /// Emits one piece of the queue; false if it is empty.
   bool HandOn();
@@ -68,7 +69,8 @@ class Output {
   static constexpr std::size_t kShort = 256;  // space that is always available
 
   template <class Unit>
-  std::size_t TextAs(std::basic_string_view<Unit> text, Encoding encoding);
+  std::size_t TextAs(std::basic_string_view<Unit> text, Encoding encoding, Spelling spelling);
+  void Spelled(char16_t unit, Encoding encoding, Spelling spelling);
   /// `WriteForms` with the forms of the encoding.
   template <class Unit>
   std::size_t WriteEncoded(std::basic_string_view<Unit> text, Encoding encoding);

@@ -190,6 +190,7 @@ void WrittenBody::Format(CharId format) {
   const WrittenFormat& wanted = formats_[format];
   const bool resets = Resets(wanted);
   edited_ = tables_.characters[format].reset == Reset::Edited;
+  format_.spelling = wanted.spelling;
   if (wanted == format_) return;
   if (!resets) format_.reset = wanted.reset;
   if (wanted == format_) return;
@@ -303,7 +304,7 @@ void WrittenBody::EndNestedRow(ItemId definition) {
 std::size_t WrittenBody::Step(TextView text) {
   if (!begun_) BeginParagraph();
   filled_ = true;
-  const std::size_t count = out_.Text(text, format_.encoding);
+  const std::size_t count = out_.Text(text, format_.encoding, format_.spelling);
   return count > 0 ? count : Special(text.Front());
 }
 

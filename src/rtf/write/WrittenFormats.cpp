@@ -141,6 +141,7 @@ WrittenFormat WrittenFormats::Written(const CharFormat& format) {
   written.effects = WrittenEffects(format.effects);
   written.underline = format.underline;
   if (Resets(format.reset)) written.reset = format.reset;
+  written.spelling = format.spelling;
   return written;
 }
 

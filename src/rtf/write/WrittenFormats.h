@@ -41,7 +41,8 @@ struct WrittenFormat {
   Encoding encoding = Encoding::Windows;  // that of the font
   WordsId words = 0;
   Reset reset = Reset::None;
-  std::uint8_t reserved[3] = {};
+  Spelling spelling = Spelling::Usual;
+  std::uint8_t reserved[2] = {};
   bool operator==(const WrittenFormat&) const = default;
 };
 
