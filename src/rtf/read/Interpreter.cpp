@@ -188,11 +188,20 @@ void Interpreter::Close() {
   } else {
     HoldParagraph();
     const bool shown = State().contentAtStart != contentCount_;
+    const Reset last = State().character.reset;
     groups_.pop_back();
-    // The group's text is between the text outside and its \plain.
-    if (shown && IsBehindText(State().character.reset)) EditCharacter().reset = Reset::None;
+    if (shown) ResetBehindGroup(last);
   }
   if (inHead_ && groups_.size() == outermost_) SkipTableTail(surplus);
+}
+
+/// After a group with text, in which `last` held last. That text is between the text outside and
+/// the \plain there, but the group may have ended with one of its own.
+void Interpreter::ResetBehindGroup(Reset last) {
+  const bool ends = IsBehindText(last) && resetAt_ == contentCount_;
+  const Reset known = State().character.reset;
+  if (!ends && !IsBehindText(known)) return;
+  EditCharacter().reset = ends ? last : Reset::None;
 }
 
 /// A word counts as one fallback character of a \u, but only words for characters are skipped: no

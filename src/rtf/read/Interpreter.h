@@ -164,6 +164,7 @@ class Interpreter {
   GroupState& Outer() { return groups_.size() > 1 ? groups_[groups_.size() - 2] : groups_.back(); }
   CharFormat& EditCharacter();
   Reset ResetHere();
+  void ResetBehindGroup(Reset last);
   CharFormat& StatedCharacter(CharStated attribute);
   ParagraphState& EditParagraph();
   ParaFormat& StatedFormat(ParaStated attribute);
@@ -221,6 +222,7 @@ class Interpreter {
   bool behindText_ = false;        // so was the token before the present one
   bool wasReset_ = false;          // there has been a \plain
   Reset lastReset_ = Reset::None;  // of the last \plain behind text
+  std::size_t resetAt_ = 0;        // the content count there
   bool opened_ = false;            // the last token was {
   bool wasOpened_ = false;         // so was the token before the present one
   bool atStar_ = false;            // the last token was \*

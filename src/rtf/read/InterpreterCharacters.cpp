@@ -58,6 +58,7 @@ Reset Interpreter::ResetHere() {
   if (target_ != RtfTarget::Document) return Reset::None;
   const bool first = !std::exchange(wasReset_, true) && defaultFont_ > 0;
   if (!behindText_) return first ? Reset::First : Reset::None;
+  resetAt_ = contentCount_;
   const bool again = lastReset_ == Reset::BehindText;
   return lastReset_ = again ? Reset::AgainBehindText : Reset::BehindText;
 }

@@ -140,14 +140,16 @@ bool WrittenBody::IsListNumber(FieldId field) const {
 
 /// Closes the fields that the next character is not in and opens those that it is in. Of the items
 /// `before` that character, definitions stay outside the field, and so does everything before a
-/// list number, since readers number the paragraph there. Returns the items still to be written.
-ItemId WrittenBody::EnterFields(FieldId wanted, char16_t unit, ItemId before) {
+/// list number, since readers number the paragraph there. Before a field ends, the format is taken
+/// back if it `resets`. Returns the items still to be written.
+ItemId WrittenBody::EnterFields(FieldId wanted, char16_t unit, ItemId before, bool resets) {
   if (fields_.empty() && wanted == 0 && begun_) return before;
   chain_.clear();
   for (FieldId id = wanted; id != 0; id = tables_.fields[id].outer)
     if (!IsListNumber(id) || IsNumber(id, unit)) chain_.insert(chain_.begin(), id);
   const auto differs = std::ranges::mismatch(fields_, chain_, {}, &Open::id).in2;
   const auto common = static_cast<std::size_t>(differs - chain_.begin());
+  if (fields_.size() > common && resets && !IsListNumber(fields_.back().id)) out_.Reset(true);
   while (fields_.size() > common) CloseField();
   if (!begun_) BeginParagraph();
   while (fields_.size() < chain_.size()) {
@@ -228,7 +230,8 @@ void WrittenBody::Items(ItemId first) {
 /// Writes what precedes a character: items, and changes of fields and format.
 void WrittenBody::Before(const Kept& kept, CharId format, char16_t unit, bool again) {
   const bool written = again || tables_.items.Any(kept.before, IsBreak);
-  const ItemId rest = EnterFields(kept.field, unit, written ? 0 : kept.before);
+  const bool resets = IsBehindText(formats_[format].reset) && Resets(formats_[format]);
+  const ItemId rest = EnterFields(kept.field, unit, written ? 0 : kept.before, resets);
   if (IsEmptyBreak(kept, unit)) {
     Items(rest);
     Items(kept.self);

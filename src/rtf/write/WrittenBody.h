@@ -75,7 +75,7 @@ class WrittenBody {
 
   bool IsNumber(FieldId number, char16_t unit) const;
   bool IsListNumber(FieldId field) const;
-  ItemId EnterFields(FieldId wanted, char16_t unit, ItemId before);
+  ItemId EnterFields(FieldId wanted, char16_t unit, ItemId before, bool resets);
   void OpenField(FieldId id);
   void CloseField();
 
