@@ -127,11 +127,13 @@ void KeptSource::Append(const Token& token, std::string_view source, bool digits
   using Kind = Token::Kind;
   if (token.kind == Kind::Open) ++open;
   if (token.kind == Kind::Close) --open;
+  const bool control = token.kind == Kind::Symbol && IsControl(token.byte);
   needsHead |= token.kind == Kind::High || token.kind == Kind::Byte ||
+               (control && token.byte == '\t') ||
                (token.kind == Kind::Word && TableNamedBy(token.text));
   const bool bare = token.kind == Kind::High || (token.kind == Kind::Byte && source.size() == 1);
   if (bare) return AppendHex(source, "\\'", text);
-  if (token.kind == Kind::Symbol && IsControl(token.byte)) source = ControlSymbol(token.byte);
+  if (control) source = ControlSymbol(token.byte);
   if (token.kind != Kind::Binary || !digits) return void(text += source);
   if (!text.ends_with('\n')) text += "\r\n";
   AppendHex(token.text, "", text);
