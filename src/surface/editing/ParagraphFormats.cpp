@@ -6,6 +6,7 @@
 
 #include "base/RuntimeError.h"
 #include "document/KeptEdits.h"
+#include "document/tables/TableRow.h"
 
 namespace lumenote {
 
@@ -38,22 +39,37 @@ void State(int attributes, ParaFormat& format) {
 
 }  // namespace
 
-// Number of the last paragraph that the selection touches.
-Position ParagraphFormats::LastTouched() const {
+// From the end of the first paragraph that the selection touches to behind that of the last one: it
+// holds the characters that have their formats.
+ParagraphFormats::Enders ParagraphFormats::Touched() const {
+  const Document& document = core_.Content();
   const Selection selection = core_.Selected();
-  return core_.Content().ParagraphOf(core_.HasSelection() ? selection.end - 1 : selection.end);
+  const Position from = ParagraphAround(document, selection.start).end;
+  const CellParagraph last =
+      ParagraphAround(document, core_.HasSelection() ? selection.end - 1 : selection.end);
+  const bool final = last.end == document.Length();
+  return {from, final ? last.end : last.end + (last.endsCell ? 1 : 2), final};
 }
 
 template <class Get>
 auto ParagraphFormats::Common(Get get) const -> std::optional<decltype(get(ParaFormat{}))> {
   std::optional<decltype(get(ParaFormat{}))> value;
   bool mixed = false;
-  const Selection selection = core_.Selected();
-  core_.Content().ForEachParagraph(selection.start, selection.end, [&](ParaId id) {
+  const auto take = [&](ParaId id) {
     const auto found = get(core_.ParagraphFormat(id));
     mixed = mixed || (value && *value != found);
     value = found;
+  };
+  const Document& document = core_.Content();
+  const FormatTables& tables = document.Formats();
+  const Enders touched = Touched();
+  document.ForEachRun(touched.from, touched.to, [&](Position, TextView, CharId format) {
+    const Kept& kept = tables.kept[tables.characters[format].kept];
+    if (kept.kind == Kept::Kind::Cell) take(kept.paragraph);
   });
+  document.Leaves().ForEachMark(document.ParagraphOf(touched.from),
+                                document.ParagraphOf(touched.to), take);
+  if (touched.final) take(document.Mark().paragraph);
   if (mixed) return std::nullopt;
   return value;
 }
@@ -69,18 +85,12 @@ void ParagraphFormats::Apply(UndoKind kind, Set set) {
     format.opening = 0;
     return core_.Formats().paragraphs.Intern(format);
   };
-  // A table row is one paragraph here; the characters that end its cells hold the cells' formats.
+  // The characters that end the cells of a row hold the cells' formats.
   const auto mapCell = [&](CharId id) { return WithCellFormat(id, core_.Formats(), map); };
-  const Document& document = core_.Content();
-  const Position start = core_.Selected().start;
-  const Position first = document.ParagraphOf(start);
-  const bool inTable = core_.ParagraphFormat(document.ParaFormatAt(start)).nesting > 0;
-  const Position from = inTable ? document.ParagraphStart(first) : document.ParagraphEnd(first);
-  const Position last = LastTouched();
-  const bool final = last + 1 == document.ParagraphCount();
-  const Position to = final ? document.Length() : document.ParagraphStart(last + 1);
-  const auto mapped = document.MapFormats(from, to, mapCell, map, final);
-  if (mapped) core_.Edit(kind, [&] { core_.Replace(from, to, *mapped); });
+  const Enders touched = Touched();
+  const auto mapped =
+      core_.Content().MapFormats(touched.from, touched.to, mapCell, map, touched.final);
+  if (mapped) core_.Edit(kind, [&] { core_.Replace(touched.from, touched.to, *mapped); });
 }
 
 std::optional<bool> ParagraphFormats::Bullet() const {
@@ -128,7 +138,7 @@ void ParagraphFormats::Indent(std::int32_t ParaFormat::*indent, int twips) {
 
 ParagraphRecord ParagraphFormats::Record(unsigned mask) const {
   const ParaFormat& format =
-      core_.ParagraphFormat(core_.Content().ParaFormatAt(core_.Selected().start));
+      core_.ParagraphFormat(ParagraphAround(core_.Content(), core_.Selected().start).format);
   ParagraphRecord record;
   record.mask = mask;
   if (mask & ParagraphRecord::kLineSpacing) {

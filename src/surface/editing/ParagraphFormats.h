@@ -7,8 +7,8 @@
 
 namespace lumenote {
 
-/// Reads the attributes common to the paragraphs that the selection touches and writes them to
-/// those that differ. Values and errors: see `RichTextSurface`.
+/// Reads the attributes common to the paragraphs that the selection touches, in tables those of its
+/// cells, and writes them to those that differ. Values and errors: see `RichTextSurface`.
 class ParagraphFormats {
  public:
   explicit ParagraphFormats(EditingCore& core) : core_(core) {}
@@ -30,7 +30,12 @@ class ParagraphFormats {
   auto Common(Get get) const -> std::optional<decltype(get(ParaFormat{}))>;
   template <class Set>
   void Apply(UndoKind kind, Set set);
-  Position LastTouched() const;
+  struct Enders {
+    Position from = 0;
+    Position to = 0;
+    bool final = false;  // the final mark, too
+  };
+  Enders Touched() const;
 
   EditingCore& core_;
 };

@@ -105,7 +105,7 @@ bool UserKeys::KeepsView(const KeyStroke& key) { return key == Ctrl(u'a'); }
 void UserKeys::BackSpace() {
   const Document& document = core_.Content();
   const Position caret = core_.Caret();
-  const bool first = document.ParagraphStart(document.ParagraphOf(caret)) == caret;
+  const bool first = ParagraphAround(document, caret).start == caret;
   if (first && !core_.HasSelection() && paragraphs_.Bullet() == true)
     return paragraphs_.Bullet(UndoKind::Delete, false);
   Erase(document.SnapBackward(std::max(caret - 1, 0)));

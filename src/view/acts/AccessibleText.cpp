@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Strings.h"
+#include "document/tables/TableRow.h"
 #include "view/pane/RangeBoxes.h"
 
 namespace lumenote {
@@ -80,7 +81,7 @@ std::optional<AccessibleText::Run> AccessibleText::RunAt(Position offset) const 
   const FormatTables& formats = Content().Formats();
   return Run{UnitAt(Content(), offset, TextUnit::Run),
              formats.characters[Content().CharFormatAt(offset)],
-             formats.paragraphs[Content().ParaFormatAt(offset)].alignment};
+             formats.paragraphs[ParagraphAround(Content(), offset).format].alignment};
 }
 
 }  // namespace lumenote
