@@ -2,6 +2,7 @@
 // calls, and the host's own events use the control while native windows wait.
 #include <QApplication>
 #include <QDir>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -193,6 +194,7 @@ TEST_F(QtHostTest, TheEditorStaysAboveTheHostsWindow) {
 
 TEST_F(QtHostTest, AStyleSheetOfTheHostsCutsNothing) {
   const auto looks = [&] {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     control->ShowMicroEdit();
     std::set<std::tuple<int, int, int>> found;  // a font's size, and the room that its text needs
     for (QWidget* window : QApplication::topLevelWidgets())
@@ -200,12 +202,13 @@ TEST_F(QtHostTest, AStyleSheetOfTheHostsCutsNothing) {
         found.emplace(widget->fontInfo().pixelSize(), widget->sizeHint().width(),
                       widget->sizeHint().height());
     control->pStrOrchm();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return found;
   };
   application.emplace();
   const auto plain = looks();
   application->object.setStyleSheet("QWidget { font-size: 24pt; padding: 9px }");
+  for (QWidget* closed : QApplication::topLevelWidgets())  // and not gone yet
+    for (const QMenu* menu : closed->findChildren<QMenu*>()) menu->sizeHint();
   EXPECT_EQ(looks(), plain);
 }
 

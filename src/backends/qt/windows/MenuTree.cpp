@@ -11,27 +11,24 @@ namespace lumenote {
 
 namespace {
 
-/// Shows the shortcuts of its entries as French keyboards name them.
+/// Shows the shortcuts of its entries as French keyboards name them: an action's data is its text
+/// with the shortcut.
 class MenuList final : public QMenu {
  public:
-  MenuList(QWidget& window, const Menu& menu) : QMenu(&window), menu_(menu) {}
+  using QMenu::QMenu;
 
  protected:
   void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override {
     QMenu::initStyleOption(option, action);
-    const qsizetype index = actions().indexOf(action);
-    if (!action->shortcut().isEmpty())
-      option->text = ToQString(menu_.Entries()[static_cast<std::size_t>(index)]->ShownText());
+    if (!action->shortcut().isEmpty()) option->text = action->data().toString();
   }
-
- private:
-  const Menu& menu_;
 };
 
 /// The key is the entry's for those who read menus, but pressing it is the form's affair.
 void Show(const Menu& menu, QAction& action) {
   action.setSeparator(menu.IsSeparator());
   if (!menu.IsSeparator()) action.setText(ToQString(menu.Caption()));
+  action.setData(ToQString(menu.ShownText()));
   action.setShortcutContext(Qt::WidgetShortcut);
   action.setShortcut(QKeySequence(ToQString(menu.Shortcut()), QKeySequence::PortableText));
   action.setVisible(menu.Visible());
@@ -73,7 +70,7 @@ QAction* MenuTree::MakeAction(Menu& menu) {
     });
     return action;
   }
-  auto* list = new MenuList(window_, menu);
+  auto* list = new MenuList(&window_);
   list->setFont(ControlFont());
   for (Menu* entry : menu.Entries()) list->addAction(Add(*entry));
   QObject::connect(list, &QMenu::aboutToShow, listener_.get(), [this, &menu] {
