@@ -6,6 +6,7 @@
 
 #include "base/Strings.h"
 #include "document/KeptEdits.h"
+#include "document/KeptParts.h"
 #include "document/tables/TableRow.h"
 
 namespace lumenote {
@@ -37,8 +38,10 @@ ParaId TextEditing::TypedParagraph(Selection range) const {
 
 void TextEditing::ReplaceSelection(UndoKind kind, std::u16string_view text) {
   if (text.empty()) return DeleteSelection(kind);
-  if (!core_.HasSelection() || !IsSelected(WithCrLf(text)))
-    return ReplaceSelection(kind, Plain(text));
+  const std::u16string clean = WithCrLf(text);
+  if (!core_.HasSelection() || !IsSelected(clean))
+    return kind == UndoKind::Unknown ? ReplaceAroundKept(clean)
+                                     : ReplaceSelection(kind, Plain(clean));
   const Position behind = core_.Selected().end;
   core_.Select(behind, behind);
 }
@@ -50,6 +53,22 @@ void TextEditing::ReplaceSelection(UndoKind kind, const Fragment& fragment) {
     TakeTables(fragment, old.start);
     const Selection first = RemoveBehindFirst(TextsOf(kind, old, Remains::Text));
     ReplaceRange(first.start, first.end, {fragment.leaves, {}});
+    core_.Place(behind, behind);
+  });
+}
+
+void TextEditing::ReplaceAroundKept(std::u16string_view text) {
+  const Selection old = core_.Selected();
+  const std::vector<ReplacedPart> parts = CutAroundKept(core_.Content(), old, text);
+  if (parts.size() == 1) return ReplaceSelection(UndoKind::Unknown, Plain(text));
+  const CharId format = TypedFormat();
+  const ParaId paragraph = TypedParagraph(old);
+  core_.Edit(UndoKind::Unknown, [&] {
+    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
+      if (part->range.Length() > 0 || !part->text.empty())
+        ReplaceRange(part->range.start, part->range.end,
+                     PlainFragment(part->text, format, paragraph));
+    const Position behind = old.start + static_cast<Position>(text.size());
     core_.Place(behind, behind);
   });
 }
@@ -112,6 +131,7 @@ bool TextEditing::IsSelected(std::u16string_view text) const {
 std::optional<Position> TextEditing::ReplaceAll(std::u16string_view text,
                                                 std::u16string_view replacement,
                                                 SearchOptions options, Position most) {
+  if (MayHoldKept(text)) return std::nullopt;
   FormatTables& tables = core_.Formats();
   CharFormat format;
   const auto typed = [&](CharId replaced) -> std::optional<CharId> {

@@ -14,7 +14,7 @@ namespace lumenote {
 /// Each member is one command and one undo step of its kind. A paragraph that results from joining
 /// keeps the format of the first one, unless that was removed entirely. What the user removes
 /// leaves the cells of tables where they are (`FindCellTexts`); the program (kind Unknown) removes
-/// all it says.
+/// all it says, but for what its text says again (`CutAroundKept`).
 class TextEditing {
  public:
   explicit TextEditing(EditingCore& core) : core_(core) {}
@@ -46,6 +46,7 @@ class TextEditing {
 
  private:
   void TakeTables(const Fragment& fragment, Position at);
+  void ReplaceAroundKept(std::u16string_view text);
   CellTexts TextsOf(UndoKind kind, Selection range, Remains remains) const;
   void Remove(const CellTexts& texts);
   /// Removes the others and returns the first part.

@@ -4,6 +4,7 @@
 
 #include "backends/win32/assist/UiaCore.h"
 #include "backends/win32/assist/ViewLink.h"
+#include "document/tables/TableRow.h"
 
 namespace lumenote {
 
@@ -57,7 +58,7 @@ AttributeValue ValueAt(const AccessibleText& text, Position at, TEXTATTRIBUTEID 
     case uia::kBackgroundColour:
       return ColourOf(format.highlight, COLOR_WINDOW);
     case uia::kAlignment:
-      return NumberOf(tables.paragraphs[text.Content().ParaFormatAt(at)].alignment);
+      return NumberOf(tables.paragraphs[ParagraphAround(text.Content(), at).format].alignment);
     case uia::kIsReadOnly:
       return text.IsLocked();
   }
