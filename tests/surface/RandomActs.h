@@ -11,6 +11,7 @@
 #include "base/Characters.h"
 #include "document/Model.h"
 #include "document/tables/CellTexts.h"
+#include "document/tables/CopiedRows.h"
 #include "document/tables/TableRow.h"
 #include "surface/Choices.h"
 #include "surface/UserBench.h"
@@ -171,16 +172,24 @@ class RandomActs : UserBench {
     target -= InsidePair(target);
     const Model left = ByUser(range, {});
     const Model seen = Seen(now_);
+    const auto [source, copied] = WithRowEnd(surface.Content(), range);
+    const auto row = RowAround(source, target);
+    const bool rows = BeginsWithRow(source.Copy(copied.start, copied.end), source.Formats());
+    const Position place = rows && row ? row->start : target;
+    const Position paragraph = source.ParagraphStart(source.ParagraphOf(place));
     surface.UserDrop(target, copy);
     const bool inside = target > range.start && target < range.end;
     const bool edge = target == range.start || target == range.end;
-    if (range.Length() == 0 || inside || (edge && !copy)) return;
+    const bool inRows = place != target && place > range.start && place < range.end;
+    if (range.Length() == 0 || inside || (edge && !copy) || inRows) return;
     Model moved;
-    moved.Add(seen, range.start, range.end);
-    const bool shrinks = !copy && target > range.start;
-    const Position start = target - (shrinks ? seen.Length() - left.Length() : 0);
+    if (rows && place > paragraph) moved.Add(u"\r\n", seen.characters[range.start], 0);
+    const Position before = moved.Length();
+    moved.Add(Seen(ModelOf(source.Leaves(), source.Mark())), copied.start, copied.end);
+    const bool shrinks = !copy && place > range.start;
+    const Position start = place - (shrinks ? seen.Length() - left.Length() : 0);
     const Model next = (copy ? seen : left).Replaced(start, start, moved);
-    EXPECT_EQ(surface.Selected(), (Selection{start, start + range.Length()}));
+    EXPECT_EQ(surface.Selected(), (Selection{start + before, start + moved.Length()}));
     EXPECT_TRUE(surface.UndoType() == UndoKind::DragDrop);
     EXPECT_TRUE(Seen(Held()) == next);
     Remember(Held());

@@ -7,6 +7,7 @@
 #include "base/Strings.h"
 #include "document/KeptEdits.h"
 #include "document/KeptParts.h"
+#include "document/tables/CopiedRows.h"
 #include "document/tables/TableRow.h"
 
 namespace lumenote {
@@ -49,12 +50,31 @@ void TextEditing::ReplaceSelection(UndoKind kind, std::u16string_view text) {
 void TextEditing::ReplaceSelection(UndoKind kind, const Fragment& fragment) {
   const Selection old = core_.Selected();
   core_.Edit(kind, [&] {
-    const Position behind = old.start + fragment.Length();
     TakeTables(fragment, old.start);
     const Selection first = RemoveBehindFirst(TextsOf(kind, old, Remains::Text));
-    ReplaceRange(first.start, first.end, {fragment.leaves, {}});
-    core_.Place(behind, behind);
+    const Position at = Put(kind, first, {fragment.leaves, {}});
+    core_.Place(at + fragment.Length(), at + fragment.Length());
   });
+}
+
+/// Replaces a range by a fragment and returns where that begins. Rows that the user puts there go
+/// between paragraphs, above the row that is there.
+Position TextEditing::Put(UndoKind kind, Selection range, const Fragment& fragment) {
+  if (kind == UndoKind::Unknown || !BeginsWithRow(fragment, core_.Formats())) {
+    ReplaceRange(range.start, range.end, fragment);
+    return range.start;
+  }
+  ReplaceRange(range.start, range.end, {});
+  const Document& document = core_.Content();
+  Position at = range.start;
+  if (const auto row = RowAround(document, at)) {
+    at = row->start;
+  } else if (at > document.ParagraphStart(document.ParagraphOf(at))) {
+    core_.Replace(at, at, PlainFragment(kBreak, TypedFormat(), document.ParaFormatAt(at)));
+    at += static_cast<Position>(kBreak.size());
+  }
+  core_.Replace(at, at, fragment);
+  return at;
 }
 
 void TextEditing::ReplaceAroundKept(std::u16string_view text) {
@@ -240,16 +260,22 @@ void TextEditing::MoveSelection(Position target, bool copy) {
   const bool inside =
       copy ? target > old.start && target < old.end : target >= old.start && target <= old.end;
   if (!core_.HasSelection() || inside) return;
-  const Fragment moved = WithoutSectionStart(document.Copy(old.start, old.end), core_.Formats());
-  const Position shift = target <= old.start ? old.Length() : 0;
+  const CopiedText copied = WithRowEnd(document, old);
+  const Fragment moved = WithoutSectionStart(
+      copied.document.Copy(copied.range.start, copied.range.end), core_.Formats());
+  const auto row = RowAround(document, target);
+  const bool inRows = row && row->start > old.start && row->start < old.end;
+  if (inRows && BeginsWithRow(moved, core_.Formats())) return;
   core_.Edit(UndoKind::DragDrop, [&] {
     CellTexts texts = TextsOf(UndoKind::DragDrop, old, Remains::Nothing);
-    core_.Replace(target, target, moved);
+    const Position before = document.Length();
+    Position at = Put(UndoKind::DragDrop, {target, target}, moved);
     const Position length = document.Length();
+    const Position shift = at <= old.start ? length - before : 0;
     for (Selection& part : texts.parts) part = {part.start + shift, part.end + shift};
     if (!copy) Remove(texts);
-    const Position at = shift > 0 ? target : target - (length - document.Length());
-    core_.Place(at, at + old.Length());
+    if (shift == 0) at -= length - document.Length();
+    core_.Place(at, at + moved.Length());
   });
 }
 
@@ -257,8 +283,8 @@ void TextEditing::Drop(const Fragment& fragment, Position target) {
   if (fragment.Length() == 0) return;
   core_.Edit(UndoKind::DragDrop, [&] {
     TakeTables(fragment, target);
-    core_.Replace(target, target, {fragment.leaves, {}});
-    core_.Place(target, target + fragment.Length());
+    const Position at = Put(UndoKind::DragDrop, {target, target}, {fragment.leaves, {}});
+    core_.Place(at, at + fragment.Length());
   });
 }
 

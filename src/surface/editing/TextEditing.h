@@ -36,7 +36,7 @@ class TextEditing {
   void Type(std::u16string_view text);
 
   /// Moves or copies the selected text to `target` and selects it there. Does nothing if `target`
-  /// lies inside the selection.
+  /// lies inside the selection, or in a row that begins there if rows are moved.
   void MoveSelection(Position target, bool copy);
   /// Inserts `fragment` at `target` and selects it.
   void Drop(const Fragment& fragment, Position target);
@@ -46,6 +46,7 @@ class TextEditing {
 
  private:
   void TakeTables(const Fragment& fragment, Position at);
+  Position Put(UndoKind kind, Selection range, const Fragment& fragment);
   void ReplaceAroundKept(std::u16string_view text);
   CellTexts TextsOf(UndoKind kind, Selection range, Remains remains) const;
   void Remove(const CellTexts& texts);

@@ -4,6 +4,7 @@
 
 #include "base/RuntimeError.h"
 #include "base/Strings.h"
+#include "document/tables/CopiedRows.h"
 #include "html/read/Reader.h"
 #include "html/source/HtmlBytes.h"
 #include "html/write/Writer.h"
@@ -161,11 +162,10 @@ std::string Transfer::Save(std::u16string_view path, FileType type) {
 void Transfer::Copy() {
   if (!core_.HasSelection()) return;
   const Selection selection = core_.Selected();
-  const Document& document = core_.Content();
+  const auto [document, range] = WithRowEnd(core_.Content(), selection);
   clipboard_.Set({document.Text(selection.start, selection.end),
-                  WriteRtf(document, selection.start, selection.end),
-                  WriteHtml(document, selection.start, selection.end),
-                  LonePicture(document, selection)});
+                  WriteRtf(document, range.start, range.end),
+                  WriteHtml(document, range.start, range.end), LonePicture(document, selection)});
 }
 
 void Transfer::Cut() {

@@ -9,10 +9,14 @@ namespace lumenote {
 
 std::u16string TextExcerpt::Beginning() const {
   constexpr Position kMost = 100;
-  return document_.Text(range_.start, std::min(range_.end, range_.start + kMost));
+  return written_.document.Text(range_.start, std::min(range_.end, range_.start + kMost));
 }
-std::string TextExcerpt::Rtf() const { return WriteRtf(document_, range_.start, range_.end); }
-std::string TextExcerpt::Html() const { return WriteHtml(document_, range_.start, range_.end); }
+std::string TextExcerpt::Rtf() const {
+  return WriteRtf(written_.document, written_.range.start, written_.range.end);
+}
+std::string TextExcerpt::Html() const {
+  return WriteHtml(written_.document, written_.range.start, written_.range.end);
+}
 
 bool TextDrag::Reselect() {
   if (!MayMove()) return false;

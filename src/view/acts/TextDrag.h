@@ -2,6 +2,7 @@
 #pragma once
 #include <string>
 
+#include "document/tables/CopiedRows.h"
 #include "platform/Clipboard.h"
 #include "view/pane/NoteView.h"
 
@@ -12,11 +13,11 @@ namespace lumenote {
 class TextExcerpt {
  public:
   explicit TextExcerpt(const DocumentSurface& surface)
-      : document_(surface.Content()), range_(surface.Selected()) {}
+      : range_(surface.Selected()), written_(WithRowEnd(surface.Content(), range_)) {}
 
   Selection Range() const { return range_; }
   /// Generated on request.
-  std::u16string Text() const { return document_.Text(range_.start, range_.end); }
+  std::u16string Text() const { return written_.document.Text(range_.start, range_.end); }
   /// As much of the text as tells what it is.
   std::u16string Beginning() const;
   std::string Rtf() const;
@@ -24,8 +25,8 @@ class TextExcerpt {
   ClipboardContent Content() const { return {Text(), Rtf(), Html()}; }
 
  private:
-  Document document_;
   Selection range_;
+  CopiedText written_;  // as RTF and HTML
 };
 
 /// Text dragged out of a view. A drop within the view moves the text itself (`ViewDrop::DropBack`);
