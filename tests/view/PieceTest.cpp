@@ -6,7 +6,7 @@
 #include "base/Rows.h"
 #include "view/LayoutContract.h"
 #include "view/Window.h"
-#include "view/layout/Backdrop.h"
+#include "view/backdrop/Backdrop.h"
 
 namespace lumenote {
 
@@ -178,6 +178,11 @@ TEST_F(RowsTest, HaveLinesAndGrounds) {
        "0,25,26,51 0; 52,25,78,51 0; "
        "104,25,130,51 0; 156,25,182,51 0; 208,25,234,51 0; 260,25,286,51 0; "},
       {u"\\shading2000 a", 0, "0,0,300,25 cccccc; "},
+      {u"\\box\\brdrs\\brdrw20\\brsp60 a", 0,
+       "-2,0,302,2 0; -2,39,302,41 0; -2,0,0,41 0; 300,0,302,41 0; "},
+      {u"\\trowd\\clbrdrt\\brdrs\\cellx3000\\intbl\\brdrl\\brdrs\\brdrw20\\brdrb\\brdrs\\brdrw20 a"
+       u"\\par b\\par\\pard\\intbl\\cbpat1\\sb60 c\\cell\\row",
+       0, "0,0,300,2 0; 3,0,5,27 0; 3,52,295,54 0; 3,27,5,54 0; 5,60,295,85 ff; "},
       {u"\\cbpat77\\brdrl\\brdrnone a", 0, ""}};
   for (const auto& [source, paragraph, parts] : notes) {
     window.surface.TextRTF(red + source + u"}");

@@ -19,9 +19,9 @@ double RoomOf(const LineEdges& edges) { return edges.Room(std::max(edges.first, 
 /// The room in the cell that holds a unit; that of the paragraph if there are no cells.
 double RoomAt(const TextLayouter& layouter, const FormatTables& tables, const Piece& piece,
               const RowCells& row, int index) {
-  if (row.Empty()) return RoomOf(EdgesOf(layouter, tables.paragraphs[piece.format]));
+  if (row.Empty()) return RoomOf(EdgesOf(layouter, tables, tables.paragraphs[piece.format]));
   const CellText& text = row.TextAt(index);
-  return RoomOf(EdgesIn(layouter, tables.paragraphs[text.format], row.CellOf(text)));
+  return RoomOf(EdgesIn(layouter, tables, tables.paragraphs[text.format], row.CellOf(text)));
 }
 
 /// Proportions stay; a box has whole pixels, at least one.

@@ -4,13 +4,15 @@
 #include <atomic>
 #include <cmath>
 #include <functional>
+#include <utility>
 
 namespace lumenote {
 
 namespace {
 
 constexpr double kBulletRoom = 240;  // twips; the minimum
-constexpr double kRowRoom = 30;      // twips between the text of a row and the line below it
+constexpr double kFar = 1e9;
+constexpr double kRowRoom = 30;  // twips between the text of a row and the line below it
 
 std::uint64_t Mixed(std::uint64_t hash, std::uint64_t value) {
   constexpr std::uint64_t kGolden = 0x9E3779B97F4A7C15;
@@ -21,13 +23,19 @@ std::uint64_t Mixed(std::uint64_t hash, std::uint64_t value) {
 
 namespace {
 
-LineEdges EdgesWithin(const TextLayouter& layouter, const ParaFormat& format, double width) {
+/// Beside a text of that width, up to `overhang` pixels.
+LineEdges EdgesWithin(const TextLayouter& layouter, const FormatTables& tables,
+                      const ParaFormat& format, double width, double overhang) {
   LineEdges edges;
-  const double first = layouter.Pixels(format.firstIndent);
+  edges.room = BorderRoomOf(layouter, tables, format);
   const double hanging = layouter.Pixels(format.hangingIndent);
+  const double stated = layouter.Pixels(format.firstIndent);
+  const double least = edges.room.left > 0 ? edges.room.left - overhang : -kFar;
+  const double first = stated + std::max(0.0, least - std::min(stated, stated + hanging));
+  const double most = edges.room.right > 0 ? width + overhang - edges.room.right : kFar;
   edges.first = first;
   edges.following = first + hanging;
-  edges.right = width - layouter.Pixels(format.rightIndent);
+  edges.right = std::min(width - layouter.Pixels(format.rightIndent), most);
   if (format.bullet) {
     edges.bullet = std::max(first, 0.0);
     edges.first = first + std::max(hanging, layouter.Pixels(kBulletRoom));
@@ -35,19 +43,32 @@ LineEdges EdgesWithin(const TextLayouter& layouter, const ParaFormat& format, do
   return edges;
 }
 
-}  // namespace
-
-LineEdges EdgesOf(const TextLayouter& layouter, const ParaFormat& format) {
-  return EdgesWithin(layouter, format, layouter.Width());
+void SetBox(LineEdges& edges, double width, double overhang) {
+  const double left = std::min(edges.first, edges.following) - edges.room.left;
+  edges.boxLeft = std::round(std::max(left, -overhang));
+  edges.boxRight = std::round(std::min(edges.right + edges.room.right, width + overhang));
 }
 
-LineEdges EdgesIn(const TextLayouter& layouter, const ParaFormat& format, const CellBox& cell) {
-  LineEdges edges = EdgesWithin(layouter, format, cell.Room());
+}  // namespace
+
+LineEdges EdgesOf(const TextLayouter& layouter, const FormatTables& tables,
+                  const ParaFormat& format) {
+  constexpr double kOverhang = 2;  // borders beside the text stay in the pane
+  LineEdges edges = EdgesWithin(layouter, tables, format, layouter.Width(), kOverhang);
+  SetBox(edges, layouter.Width(), kOverhang);
+  return edges;
+}
+
+LineEdges EdgesIn(const TextLayouter& layouter, const FormatTables& tables,
+                  const ParaFormat& format, const CellBox& cell) {
+  const double overhang = std::max(0.0, std::floor(cell.padding) - 1);  // the rest is the row's
+  LineEdges edges = EdgesWithin(layouter, tables, format, cell.Room(), overhang);
   edges.least = std::min(LineEdges::kLeastRoom, cell.Room());
   edges.right = std::clamp(edges.right, edges.least, cell.Room());
   for (double* left : {&edges.first, &edges.following})
     *left = std::clamp(*left, 0.0, edges.right - edges.least);
   edges.bullet = std::min(edges.bullet, edges.first);
+  SetBox(edges, cell.Room(), overhang);
   return edges;
 }
 
@@ -79,9 +100,8 @@ LineStack::LineStack(const TextLayouter& layouter, const Document& document, Pie
       piece_(piece),
       row_(row),
       format_(&tables_.paragraphs[piece.format]),
-      edges_(EdgesOf(layouter, *format_)),
-      room_(row.Empty() ? BorderRoomOf(layouter, tables_, *format_) : BorderRoom()),
-      top_(piece.opens ? layouter.Pixels(format_->spaceBefore) + room_.above : 0),
+      edges_(EdgesOf(layouter, tables_, *format_)),
+      top_(piece.opens ? layouter.Pixels(format_->spaceBefore) + edges_.room.above : 0),
       cells_(row.cells.size()),
       rows_(row.rows.size()) {
   piece.rows = row.rows;
@@ -138,11 +158,13 @@ void LineStack::Begin(const CellText& text) {
   while (!open_.empty() && !isAround(open_.back())) Leave();
   Enter(text.cell);
   const CellBox& cell = row_.CellOf(text);
-  format_ = &tables_.paragraphs[text.format];
-  edges_ = EdgesIn(layouter_, *format_, cell);
+  const ParaFormat& above = *std::exchange(format_, &tables_.paragraphs[text.format]);
+  joins_ = text_ && text_->cell == text.cell && ShareBox(tables_, above, *format_);
+  edges_ = EdgesIn(layouter_, tables_, *format_, cell);
   left_ = std::round(cell.TextLeft());
-  top_ = cells_[static_cast<std::size_t>(text.cell)].bottom +
-         layouter_.Pixels(std::max(format_->spaceBefore, 0));
+  frameTop_ = cells_[static_cast<std::size_t>(text.cell)].bottom +
+              layouter_.Pixels(std::max(format_->spaceBefore, 0));
+  top_ = frameTop_ + edges_.room.above;
   text_ = &text;
   look_ = Mixed(look_, text.format);
   AddBullet();
@@ -150,9 +172,25 @@ void LineStack::Begin(const CellText& text) {
 
 void LineStack::EndText() {
   if (!text_) return;
+  const double bottom = top_ + edges_.room.below;
+  if (format_->words != 0) AddFrame(std::round(bottom));
   cells_[static_cast<std::size_t>(text_->cell)].bottom =
-      top_ + layouter_.Pixels(std::max(format_->spaceAfter, 0));
+      bottom + layouter_.Pixels(std::max(format_->spaceAfter, 0));
   piece_.lines[static_cast<std::size_t>(placed_) - 1].ending = text_->units;
+}
+
+void LineStack::AddFrame(double bottom) {
+  if (!ParagraphBorders(tables_, format_->words).AreSeen()) return;
+  PieceFrame frame{
+      .area = {left_ + edges_.boxLeft, std::round(frameTop_), left_ + edges_.boxRight, bottom},
+      .words = format_->words,
+      .opens = !joins_,
+      .follows = joins_};
+  if (joins_) {
+    piece_.frames.back().closes = false;
+    frame.area.top = piece_.frames.back().area.bottom;
+  }
+  piece_.frames.push_back(frame);
 }
 
 /// Enters a cell and those around it, as far as they are not open. A table in a cell begins below
@@ -191,7 +229,7 @@ void LineStack::FinishRows() {
 
 void LineStack::Finish(std::u16string_view text) {
   if (row_.Empty()) {
-    const double below = room_.below + layouter_.Pixels(std::max(format_->spaceAfter, 0));
+    const double below = edges_.room.below + layouter_.Pixels(std::max(format_->spaceAfter, 0));
     piece_.height = std::round(piece_.closes ? top_ + below : top_);
   } else {
     FinishRows();

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "view/layout/Backdrop.h"
+#include "view/layout/BorderRoom.h"
 #include "view/layout/RowCells.h"
 
 namespace lumenote {
@@ -22,15 +22,21 @@ struct LineEdges {
   double right = 0;
   double bullet = -1;         // negative: no bullet
   double least = kLeastRoom;  // the room that a line always has
+  BorderRoom room{};
+  double boxLeft = 0;  // of borders and shading
+  double boxRight = 0;
 
   double Left(bool firstLine) const { return firstLine ? first : following; }
   /// Room of a line that starts at `left`.
   double Room(double left) const { return std::max(right - left, least); }
 };
 
-LineEdges EdgesOf(const TextLayouter& layouter, const ParaFormat& format);
-/// Those of a paragraph in a cell, which its lines do not leave.
-LineEdges EdgesIn(const TextLayouter& layouter, const ParaFormat& format, const CellBox& cell);
+/// Borders that would leave the pane push the text inwards.
+LineEdges EdgesOf(const TextLayouter& layouter, const FormatTables& tables,
+                  const ParaFormat& format);
+/// Those of a paragraph in a cell, which its lines and borders do not leave.
+LineEdges EdgesIn(const TextLayouter& layouter, const FormatTables& tables,
+                  const ParaFormat& format, const CellBox& cell);
 
 /// The share of a line's free room on the side where its text begins: 0, 0.5 or 1. Left and right
 /// are the page's own, but a paragraph from right to left begins at the right unless it says
@@ -79,6 +85,7 @@ class LineStack {
   std::uint64_t LookOf(const PieceLine& line, std::u16string_view text) const;
   void AddBullet();
   void EndText();
+  void AddFrame(double bottom);
   void Enter(int cell);
   void Leave();
   void FinishRows();
@@ -89,11 +96,12 @@ class LineStack {
   const RowCells& row_;
   const ParaFormat* format_;
   LineEdges edges_;
-  const BorderRoom room_;
   double left_ = 0;
   double top_ = 0;  // of the next line
   int placed_ = 0;
   const CellText* text_ = nullptr;  // the present one
+  double frameTop_ = 0;             // of its borders
+  bool joins_ = false;              // the box of the text above
   std::vector<int> open_;           // the cells around the present text, the innermost last
   std::vector<Extent> cells_;
   std::vector<Extent> rows_;

@@ -53,6 +53,16 @@ struct PieceCell {
   bool Has(int line) const { return line >= firstLine && line < endLine; }
 };
 
+/// The borders and shading of a paragraph in a cell; in pixels from the text's left edge and the
+/// piece's top.
+struct PieceFrame {
+  PixelRect area;  // with the lines
+  WordsId words = 0;
+  bool opens = true;     // not in the box of the paragraph above
+  bool closes = true;    // nor of the one below
+  bool follows = false;  // another paragraph in the same box
+};
+
 /// The bullet of a paragraph.
 struct PieceBullet {
   int line = 0;
@@ -79,9 +89,10 @@ class Piece {
 
   std::vector<PieceLine> lines;  // in text order
   std::vector<PieceRun> runs;
-  std::vector<InlineBox> boxes;  // by ascending index
-  std::vector<PieceCell> cells;  // in text order, each before those in it; only in a row of cells
-  std::vector<ItemId> rows;      // what is kept at the ends of the rows, by number
+  std::vector<InlineBox> boxes;    // by ascending index
+  std::vector<PieceCell> cells;    // in text order, each before those in it; only in a row of cells
+  std::vector<ItemId> rows;        // what is kept at the ends of the rows, by number
+  std::vector<PieceFrame> frames;  // in text order; only in a row of cells
   std::vector<PieceBullet> bullets;  // by ascending line
   double height = 0;
   int composedAt = 0;  // in the layout's text

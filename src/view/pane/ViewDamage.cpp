@@ -6,7 +6,7 @@
 #include <numeric>
 #include <utility>
 
-#include "view/layout/Backdrop.h"
+#include "view/backdrop/Backdrop.h"
 
 namespace lumenote {
 

@@ -9,7 +9,7 @@
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/Pixels.h"
-#include "view/layout/Backdrop.h"
+#include "view/backdrop/Backdrop.h"
 #include "view/layout/InlineBoxes.h"
 
 namespace lumenote {

@@ -5,7 +5,7 @@
 
 #include "backends/win32/view/BoxPainter.h"
 #include "backends/win32/view/GdiPencil.h"
-#include "view/layout/Backdrop.h"
+#include "view/backdrop/Backdrop.h"
 #include "view/layout/InlineBoxes.h"
 #include "view/pane/RangeBoxes.h"
 
