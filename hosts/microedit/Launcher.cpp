@@ -8,6 +8,7 @@
 #include "backends/headless/FixedLayouter.h"
 #include "backends/headless/MemoryClipboard.h"
 #include "backends/native/files/Disk.h"
+#include "backends/native/files/StandardInput.h"
 #include "base/CommandLine.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
@@ -191,7 +192,7 @@ int Edit(const CommandLine& line, Desktop& desktop) {
 int Filter(const CommandLine& line, Desktop& desktop) {
   if (line.Has("--capture")) return Fail("--capture demande un fichier", 2);
   desktop.UseStandardStreams();
-  PipedNote note(std::cin);
+  PipedNote note(ReadStandardInput());
   CoBxRtf control(desktop.Machine());
   Describe(control, line);
   if (line.Has("--readonly")) control.pAttribut(u"readonly");

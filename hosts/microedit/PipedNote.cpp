@@ -2,7 +2,7 @@
 
 #include <fstream>
 #include <iostream>
-#include <iterator>
+#include <utility>
 
 #include "backends/native/files/Disk.h"
 #include "base/RuntimeError.h"
@@ -10,11 +10,11 @@
 
 namespace lumenote {
 
-PipedNote::PipedNote(std::istream& in)
-    : came_(std::istreambuf_iterator<char>(in), {}),
+PipedNote::PipedNote(std::string note)
+    : came_(std::move(note)),
       path_(folder_.Path() + (Note::IsRtf(came_) ? "/note.rtf" : "/note.txt")) {
   std::ofstream file(path_, std::ios::binary);
-  if (in.bad() || !file.write(came_.data(), static_cast<std::streamsize>(came_.size())).flush())
+  if (!file.write(came_.data(), static_cast<std::streamsize>(came_.size())).flush())
     throw RuntimeError(ErrorNumber::PathAccess);
 }
 

@@ -14,8 +14,8 @@ class PipedNote {
   /// Also the program's exit status.
   enum class Outcome { Changed = 0, Failed = 1, Unchanged = 3, Deleted = 4 };
 
-  /// Reads all of `in`. Raises PathAccess (75) if that, or the file, fails.
-  explicit PipedNote(std::istream& in);
+  /// Raises PathAccess (75) if the note cannot be written to its file.
+  explicit PipedNote(std::string note);
 
   /// Native.
   const std::string& Path() const { return path_; }

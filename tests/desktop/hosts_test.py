@@ -124,11 +124,21 @@ class Filter(Desktop):
                     self.assertRegex(done.stderr, rf"\Amicroedit : .*{why}.*\n\Z")
 
     def test_a_note_that_nobody_takes_is_kept(self):
-        editor = self.edit(b"note", output="/dev/full")
-        self.ask_to_close(editor)
-        self.assertEqual(self.filter.wait(timeout=60), 1)
-        kept = re.search(r"elle est dans (\S+)", self.log())[1]
-        self.assertEqual(pathlib.Path(kept).read_bytes(), b"note")
+        for output in ("/dev/full", "&-"):
+            with self.subTest(output):
+                filter = self.start("sh", "-c", f'printf note | "$0" - >{output}', MICROEDIT)
+                self.ask_to_close(self.front("MicroEditeur"))
+                self.assertEqual(filter.wait(timeout=60), 1)
+                kept = re.findall(r"elle est dans (\S+)", self.log())[-1]
+                self.assertEqual(pathlib.Path(kept).read_bytes(), b"note")
+                pathlib.Path(kept).unlink()
+
+    def test_an_input_that_cannot_be_read_opens_no_editor(self):
+        for input in ("&-", str(self.home)):
+            done = subprocess.run(["sh", "-c", f'exec "$0" - <{input}', MICROEDIT], env=self.env,
+                                  capture_output=True, text=True, timeout=60)
+            self.assertEqual((done.returncode, done.stdout, done.stderr),
+                             (1, "", "microedit : Entrée standard illisible\n"))
 
 
 if __name__ == "__main__":

@@ -240,6 +240,13 @@ class Tool(unittest.TestCase):
             self.assertTrue(b"lumenote clean" in help and b"lumenote text" not in help, help)
         self.assertRegex(self.run_tool("--version"), rb"^lumenote \d+\.\d+\.\d+\n$")
 
+    @unittest.skipIf(os.name == "nt", "a folder cannot be opened")
+    def test_an_input_that_cannot_be_read(self):
+        folder = os.open(self.folder, os.O_RDONLY)
+        done = subprocess.run([TOOL, "convert", "-", "-"], stdin=folder, capture_output=True)
+        os.close(folder)
+        self.assertEqual((done.returncode, done.stdout, done.stderr.count(b"\n")), (1, b"", 1))
+
     @unittest.skipUnless(os.path.exists("/dev/full"), "no full device here")
     def test_a_full_device(self):
         with open("/dev/full", "wb") as full:

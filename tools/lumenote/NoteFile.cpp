@@ -2,10 +2,10 @@
 #include "NoteFile.h"
 
 #include <iostream>
-#include <iterator>
 
 #include "Command.h"
 #include "backends/native/files/Disk.h"
+#include "backends/native/files/StandardInput.h"
 #include "backends/native/saving/SaveFile.h"
 #include "backends/native/state/NativeStateFolder.h"
 #include "base/Characters.h"
@@ -17,12 +17,6 @@ namespace lumenote::tool {
 namespace {
 
 constexpr std::string_view kStream = "-";
-
-std::string ReadStandardInput() {
-  std::string bytes{std::istreambuf_iterator<char>(std::cin), {}};
-  if (std::cin.bad()) throw Failure("entrée standard : lecture impossible");
-  return bytes;
-}
 
 void WriteStandardOutput(std::string_view bytes) {
   std::cout.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush();
@@ -55,8 +49,8 @@ Note NoteOf(const std::string& name, const std::string& bytes) {
 }
 
 std::string ReadBytes(const std::string& name) {
-  if (name == kStream) return ReadStandardInput();
   try {
+    if (name == kStream) return ReadStandardInput();
     return ReadWholeFile(AbsolutePath(name));
   } catch (const RuntimeError& error) {
     throw Failure(name + " : lecture impossible : " + error.what());

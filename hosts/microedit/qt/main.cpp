@@ -1,7 +1,10 @@
 // The launcher on Qt.
 #include <QApplication>
 #include <csignal>
+#include <fcntl.h>
 #include <optional>
+#include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include "Launcher.h"
@@ -42,9 +45,19 @@ class QtDesktop final : public SystemDesktop<QtPlatform, QtBackend, QtUserActs> 
   std::function<void()> makeApplication_;
 };
 
+/// The number of a stream that came closed would go to the next file or connection opened, which
+/// would then take what is meant for the stream. Input and output are opened the wrong way round:
+/// using them still fails.
+void OccupyClosedStreams() {
+  for (const auto& [stream, mode] :
+       {std::pair(STDIN_FILENO, O_WRONLY), {STDOUT_FILENO, O_RDONLY}, {STDERR_FILENO, O_WRONLY}})
+    if (fcntl(stream, F_GETFD) < 0) static_cast<void>(open("/dev/null", mode));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  OccupyClosedStreams();
   const std::vector<std::string_view> arguments(argv + 1, argv + argc);
   std::optional<QApplication> application;  // outlives all windows
   QtDesktop desktop([&] {
