@@ -203,6 +203,7 @@ void WrittenBody::Format(CharId format) {
 void WrittenBody::Text(TextView text, CharId format) {
   const KeptId kept = tables_.characters[format].kept;
   const bool again = std::exchange(lastKept_, kept) == kept;
+  if (!drawings_.empty() && !ContinuesDrawings(kept, format)) WriteDrawings();
   if (kept != 0 || !fields_.empty()) return KeptText(text, format, tables_.kept[kept], again);
   if (!begun_) BeginParagraph();
   Format(format);
@@ -215,6 +216,7 @@ void WrittenBody::KeptText(TextView text, CharId format, const Kept& kept, bool 
   while (!text.Empty()) {
     const char16_t unit = text.Front();
     const bool valid = IsValid(kept, unit);
+    if (!valid) WriteDrawings();
     Before(kept, format, unit, again);
     again = true;
     const bool lostCell = !valid && kept.kind == Kept::Kind::Cell && unit == u'\t';
@@ -268,6 +270,8 @@ bool WrittenBody::IsEmptyBreak(const Kept& kept, char16_t unit) const {
 std::size_t WrittenBody::KeptCharacter(const Kept& kept, char16_t unit) {
   if (kept.kind == Kept::Kind::Cell || kept.kind == Kept::Kind::Row)
     EndCell(kept);
+  else if (IsDrawing(kept))
+    drawings_.push_back(kept.self);
   else
     Items(kept.self);
   filled_ = true;
@@ -275,6 +279,27 @@ std::size_t WrittenBody::KeptCharacter(const Kept& kept, char16_t unit) {
   out_.Raw("\r\n");
   EndParagraph();
   return 2;
+}
+
+bool WrittenBody::IsDrawing(const Kept& kept) const {
+  return kept.kind == Kept::Kind::Embedded &&
+         tables_.items[kept.self].kind == KeptItem::Kind::Drawing;
+}
+
+/// Whether nothing but the drawing of `id` will be written behind the last one.
+bool WrittenBody::ContinuesDrawings(KeptId id, CharId format) const {
+  const Kept& kept = tables_.kept[id];
+  return IsDrawing(kept) && kept.before == 0 && kept.field == 0 && formats_[format] == format_;
+}
+
+/// Some readers lose the text of the third drawing and of those behind it unless a group holds
+/// them.
+void WrittenBody::WriteDrawings() {
+  const bool many = drawings_.size() > 2;
+  if (many) out_.Raw("{");
+  for (const ItemId drawing : drawings_) Items(drawing);
+  if (many) out_.Raw("}");
+  drawings_.clear();
 }
 
 void WrittenBody::EndCell(const Kept& kept) {
@@ -328,6 +353,7 @@ std::size_t WrittenBody::Special(char16_t unit) {
 }
 
 void WrittenBody::Finish(const FinalMark* mark) {
+  WriteDrawings();
   if (mark) {
     const KeptId id = tables_.characters[mark->character].kept;
     const Kept& kept = tables_.kept[id];

@@ -87,6 +87,9 @@ class WrittenBody {
   bool IsValid(const Kept& kept, char16_t unit) const;
   bool IsEmptyBreak(const Kept& kept, char16_t unit) const;
   std::size_t KeptCharacter(const Kept& kept, char16_t unit);
+  bool IsDrawing(const Kept& kept) const;
+  bool ContinuesDrawings(KeptId id, CharId format) const;
+  void WriteDrawings();
   void EndCell(const Kept& kept);
   void EndRow(ItemId definition);
   void EndNestedRow(ItemId definition);
@@ -112,6 +115,7 @@ class WrittenBody {
   std::vector<Open> fields_;
   std::vector<FieldId> chain_;
   KeptId lastKept_;
+  std::vector<ItemId> drawings_;  // that follow each other, still to be written
 };
 
 }  // namespace lumenote
