@@ -59,7 +59,10 @@ Database::Record Database::Read(qint64 id) const {
 
 void Database::Store(qint64 id, const QString& note) {
   Transaction change(base_);
-  Run(base_, "UPDATE taxon SET note = ?, texte = ? WHERE id = ?", {note, TextOf(note), id});
+  Run(base_,
+      "INSERT INTO taxon (id, note, texte) VALUES (?, ?, ?) "
+      "ON CONFLICT (id) DO UPDATE SET note = excluded.note, texte = excluded.texte",
+      {id, note, TextOf(note)});
   change.Commit();
 }
 

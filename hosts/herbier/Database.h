@@ -25,7 +25,8 @@ class Database {
   };
   Record Read(qint64 id) const;
 
-  /// Stores a note with what it says, both or neither. Raises DatabaseError.
+  /// Stores a note with what it says, both or neither; in a new record if its own was deleted
+  /// meanwhile. Raises DatabaseError.
   void Store(qint64 id, const QString& note);
   /// Returns the number of an empty record. Raises DatabaseError.
   qint64 Add();

@@ -70,6 +70,14 @@ class Herbarium(Desktop):
         self.wait(lambda: not self.window("Fagus"), "the end of the editor")
         self.assertTrue(self.note_of("Fagus").startswith("Zorglub H"))
 
+    def test_a_note_outlives_its_record(self):
+        fagus = self.edit_first_found("hetraie", "Fagus sylvatica L.")
+        self.type(fagus, "Zorglub ")
+        with sqlite3.connect(self.base) as other:
+            other.execute("DELETE FROM taxon WHERE genre = 'Fagus'")
+        self.close(fagus, "Fagus")
+        self.assertTrue(self.note_of("").startswith("Zorglub H"))
+
 
 if __name__ == "__main__":
     main()
