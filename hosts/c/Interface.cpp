@@ -3,6 +3,7 @@
 #include <array>
 #include <exception>
 #include <functional>
+#include <mutex>
 #include <new>
 #include <set>
 #include <string>
@@ -10,6 +11,7 @@
 #include <utility>
 
 #include "Machine.h"
+#include "base/Strings.h"
 #include "lumenote/CoBxRtf.h"
 #include "lumenote/NativePaths.h"
 #include "lumenote/Note.h"
@@ -27,16 +29,28 @@ struct LumenoteControl {
 
 namespace {
 
-/// The controls that live. What a host that ends has not destroyed keeps its recovery copy.
+/// The controls that live, whatever thread asks. What a host that ends has not destroyed keeps its
+/// recovery copy.
 class Living {
  public:
   ~Living() {
     for (LumenoteControl* control : controls_) control->members.KeepUnsaved();
   }
-  void Add(LumenoteControl* control) { controls_.insert(control); }
-  void Remove(LumenoteControl* control) { controls_.erase(control); }
+  void Add(LumenoteControl* control) {
+    const std::lock_guard lock(mutex_);
+    controls_.insert(control);
+  }
+  void Remove(LumenoteControl* control) {
+    const std::lock_guard lock(mutex_);
+    controls_.erase(control);
+  }
+  bool Has(LumenoteControl* control) {
+    const std::lock_guard lock(mutex_);
+    return controls_.contains(control);
+  }
 
  private:
+  std::mutex mutex_;
   std::set<LumenoteControl*> controls_;
 };
 
@@ -93,12 +107,20 @@ const char* TextOf(Body body) noexcept {
 
 CoBxRtf& MembersOf(LumenoteControl* control) {
   if (!control) Refuse(u"Le contrôle manque");
+  if (!TheLiving().Has(control)) Refuse(u"Le contrôle n'existe plus");
   return control->members;
 }
 
 std::string_view Given(const char* text) {
   if (!text) Refuse(u"Le texte manque");
   return text;
+}
+
+/// What replaced a byte that is no UTF-8 would be stored in the host's record.
+std::u16string TextFor(std::string_view member, const char* value) {
+  const std::string_view bytes = Given(value);
+  if (!IsUtf8(bytes)) Refuse(u"Le texte n'est pas en UTF-8", FromUtf8(member));
+  return FromUtf8(bytes);
 }
 
 struct Property {
@@ -150,15 +172,15 @@ LumenoteControl* lumenote_create() {
 void lumenote_destroy(LumenoteControl* control) {
   Guarded([&] {
     if (!control) return;
-    control->members.Closed(nullptr);  // raises on another thread, where nothing may be destroyed
+    MembersOf(control).Closed(nullptr);  // raises on another thread, where nothing may be destroyed
     delete control;
   });
 }
 
 int lumenote_set(LumenoteControl* control, const char* property, const char* value) {
   return Guarded([&] {
-    const auto write = Named(Given(property)).write;
-    (MembersOf(control).*write)(FromUtf8(Given(value)));
+    const Property& named = Named(Given(property));
+    (MembersOf(control).*named.write)(TextFor(named.name, value));
   });
 }
 

@@ -2,15 +2,16 @@
  * The notes editor for hosts in C, and in every language that can call C.
  *
  * The same interface comes in two libraries: liblumenote-qt opens the editor in windows of the
- * desktop, for hosts with or without Qt of their own; liblumenote, for servers, has no windows.
+ * desktop, for hosts with or without Qt of their own; liblumenote, for servers, has no windows: an
+ * editor that is shown there is seen by nobody, and waiting for its end fails with error 5.
  *
  * Strings are UTF-8, end with NUL and are copied when they are passed in. Functions that return an
  * int return 0, or the number of an error that `lumenote_last_error` describes; functions that
  * return a pointer return NULL instead. Nothing is thrown, and nothing is printed.
  *
- * A control belongs to the thread that created it; on another one every call fails with error 5 and
- * does nothing. With windows that must be one thread for all controls: the one of the host's
- * QApplication, if it has one. */
+ * All controls belong to one thread, which creates them; on another one every call fails with error
+ * 5 and does nothing. With windows it is that of the host's QApplication, if it has one. A control
+ * that was destroyed fails with error 5, too, unless a newer one has its address. */
 #ifndef LUMENOTE_LUMENOTE_H
 #define LUMENOTE_LUMENOTE_H
 
@@ -26,8 +27,9 @@ typedef struct LumenoteControl LumenoteControl;
 
 /** What went wrong. */
 typedef struct LumenoteError {
-  int number; /**< 5 a bad argument, property or thread, 6 overflow, 7 memory, 13 not a number,
-                 51 internal, 53, 61, 70, 75, 76 files and paths, 380 not RTF; 0 after a success */
+  int number; /**< 5 a bad argument, property, control or thread, 6 overflow, 7 memory, 13 not a
+                 number, 51 internal, 53, 61, 70, 75, 76 files and paths, 380 not RTF; 0 after a
+                 success */
   const char* member; /**< the control's member concerned ("pCouleurFen"), or "" */
   const char* text;   /**< in French, for the user */
 } LumenoteError;
@@ -59,7 +61,8 @@ void lumenote_destroy(LumenoteControl* control);
  *  - "pAttribut": "readonly" or "lectureseule" opens the note without letting it be changed;
  *  - "pModelWord": the path of the template for an external word processor.
  *
- * What is written while the editor is open is for the next opening. */
+ * What is written while the editor is open is for the next opening. A value that is not UTF-8 fails
+ * with error 5 and leaves the property as it was. */
 int lumenote_set(LumenoteControl* control, const char* property, const char* value);
 
 /** Reads "pStrOrchm", the one property that can be read: closes the editor if it is open, and
@@ -69,7 +72,9 @@ const char* lumenote_get(LumenoteControl* control, const char* property);
 
 /** Opens the editor, or brings an open one to the front. With `wait` other than 0 it returns when
  * the editor has closed, and dispatches the events of all windows meanwhile; else it returns at
- * once, and the host goes on to dispatch events, or calls `lumenote_pump`. */
+ * once, and the host goes on to dispatch events, or calls `lumenote_pump`. That a note's file
+ * cannot be read is no error here: a box tells the user, until then the call does not return, and
+ * the note stays as it is. A file that is missing in a folder that exists is a new note. */
 int lumenote_show(LumenoteControl* control, int wait);
 
 /** From now on `handler` is called with `data` each time an editor of the control has closed, for

@@ -51,6 +51,20 @@ TEST_F(InterfaceTest, ErrorsComeWithTheirNumberMemberAndText) {
       {set("pTitreFenetre", "x"), 5, "pTitreFenetre"},
       {set("pTitreFenêtre", nullptr), 5, ""},
       {set(nullptr, "x"), 5, ""},
+      {set("NoteText", "ch\xEAnes"), 5, "NoteText"},
+      {[](auto*) {
+         LumenoteControl* gone = lumenote_create();
+         lumenote_destroy(gone);
+         return lumenote_show(gone, 0);
+       },
+       5, ""},
+      {[](auto*) {
+         LumenoteControl* gone = lumenote_create();
+         lumenote_destroy(gone);
+         lumenote_destroy(gone);
+         return lumenote_last_error()->number;
+       },
+       5, ""},
       {set("NotePath", "orchis"), 76, "NotePath"},
       {[&](auto* its) { return text(lumenote_get(its, "pCouleurFen")); }, 5, "pCouleurFen"},
       {[](auto*) { return lumenote_show(nullptr, 0); }, 5, ""},
