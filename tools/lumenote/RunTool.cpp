@@ -33,7 +33,7 @@ constexpr std::array<Command, 6> kCommands{{
             remplacée
 )",
      Convert},
-    {"clean", "[--list LISTE] [-o CIBLE] [--backup | --dry-run] NOTE...",
+    {"clean", "[--list LISTE] [-o CIBLE | --backup | --dry-run] NOTE...",
      R"(  clean     met au propre des notes RTF issues d'une reconnaissance de texte : les
             paires de LISTE, les blancs, un seul format ; remplace chaque note d'un
             coup, ou écrit l'unique NOTE dans CIBLE. --backup garde l'ancienne note
