@@ -193,9 +193,9 @@ int Filter(const CommandLine& line, Desktop& desktop) {
   if (line.Has("--capture")) return Fail("--capture demande un fichier", 2);
   desktop.UseStandardStreams();
   PipedNote note(ReadStandardInput());
+  if (line.Has("--readonly")) note.MakeReadOnly();
   CoBxRtf control(desktop.Machine());
   Describe(control, line);
-  if (line.Has("--readonly")) control.pAttribut(u"readonly");
   control.NotePath(desktop.ToDrivePath(note.Path()));
   const auto ends = desktop.WatchEnds([&control] { control.KeepUnsaved(); });
   control.ShowMicroEdit(1);

@@ -1,7 +1,9 @@
 #include "PipedNote.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <system_error>
 #include <utility>
 
 #include "backends/native/files/Disk.h"
@@ -16,6 +18,15 @@ PipedNote::PipedNote(std::string note)
   std::ofstream file(path_, std::ios::binary);
   if (!file.write(came_.data(), static_cast<std::streamsize>(came_.size())).flush())
     throw RuntimeError(ErrorNumber::PathAccess);
+}
+
+void PipedNote::MakeReadOnly() const {
+  using std::filesystem::perms;
+  constexpr perms kWriting = perms::owner_write | perms::group_write | perms::others_write;
+  std::error_code error;
+  std::filesystem::permissions(std::u8string(path_.begin(), path_.end()), kWriting,
+                               std::filesystem::perm_options::remove, error);
+  if (error) throw RuntimeError(ErrorNumber::PathAccess);
 }
 
 PipedNote::Outcome PipedNote::Give(const std::string& path, std::ostream& out) {

@@ -17,6 +17,10 @@ class PipedNote {
   /// Raises PathAccess (75) if the note cannot be written to its file.
   explicit PipedNote(std::string note);
 
+  /// Of a note in a file the file's own attribute says whether changes are refused.
+  /// Raises PathAccess (75).
+  void MakeReadOnly() const;
+
   /// Native.
   const std::string& Path() const { return path_; }
 

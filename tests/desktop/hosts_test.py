@@ -103,6 +103,13 @@ class Filter(Desktop):
         self.ask_to_close(self.edit(note, "--readonly"))
         self.gives(3, note)
 
+    def test_a_note_that_may_not_change_goes_on_unchanged(self):
+        editor = self.edit(b"note", "--readonly")
+        self.type(editor, "Sous ")
+        self.ask_to_close(editor)
+        self.keys(self.front("Attention"), "Return")
+        self.gives(3, b"note")
+
     def test_a_deleted_note_gives_nothing(self):
         editor = self.edit(b"note")
         self.keys(editor, "Menu")
