@@ -53,8 +53,9 @@ class CoBxRtf {
   /// The section of the user's settings under which the window's place and size are stored. Empty:
   /// one for all hosts that set none.
   void pSScléReg(std::u16string_view section);
-  /// "readonly" or "lectureseule", in any letter case, opens the note read-only; any other text
-  /// lets it be edited.
+  /// "readonly" or "lectureseule", in any letter case, makes a note in a string read-only: its user
+  /// can write, but is told on closing that the changes are given up; they come back to the host
+  /// all the same. A note in a file is read-only as its file is, whatever is set here.
   void pAttribut(std::u16string_view access);
   /// The drive-letter path of the template passed to an external word processor; empty for none.
   void pModelWord(std::u16string_view path);

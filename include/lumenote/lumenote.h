@@ -58,7 +58,9 @@ void lumenote_destroy(LumenoteControl* control);
  *  - "pSScléReg": the name under which the window's place is kept;
  *  - "pChmAppli": the drive-letter path of the host's program; the correction list for scanned text
  *    lies beside it;
- *  - "pAttribut": "readonly" or "lectureseule" opens the note without letting it be changed;
+ *  - "pAttribut": "readonly" or "lectureseule" makes a note in a string read-only: its user can
+ *    write, but is told on closing that the changes are given up; they come back to the host all
+ *    the same. A note in a file is read-only as its file is;
  *  - "pModelWord": the path of the template for an external word processor.
  *
  * What is written while the editor is open is for the next opening. A value that is not UTF-8 fails

@@ -62,8 +62,10 @@ dit le format. Un dossier vaut pour toutes les notes qu'il contient, sous-dossie
 compris ; clean n'y prend que les .rtf, convert celles d'un autre format. Avec text,
 convert et clean "-" est l'entrée ou la sortie standard : en entrée le RTF se reconnaît
 à son début, en sortie c'est l'autre format (RTF pour du HTML), sauf avec --to. Un
-fichier texte est en page de code 1252 avec CR LF ; en entrée, une marque d'ordre des
-octets est suivie.
+fichier texte est lu en UTF-8, en UTF-16 avec marque d'ordre des octets ou en page de
+code 1252. Il est écrit avec CR LF, en UTF-8 si la note en vient, sinon en page de code
+1252, ou en UTF-8 avec marque si un caractère y manque. Après "--" tout argument est un
+nom de fichier.
 
 État de sortie : 0, 1 quand une note ne peut être lue ou écrite ou une application
 liée, 2 pour une ligne de commande incorrecte. De pilot : 1 quand une attente n'est
