@@ -65,11 +65,13 @@ void Interpreter::EndField(const GroupState& group, const GroupState& around) {
   items_.Keep(KeptItem::Kind::Field, "{" + std::move(source).Closed() + "}");
 }
 
-/// The visible number or bullet of a paragraph whose text follows.
+/// The visible number or bullet of a paragraph whose text follows. A source may say it twice, in
+/// different groups; several of the same kind are text.
 void Interpreter::Marker(int, const Token& word) {
   const std::size_t from = tokens_.At();
   tokens_.SkipGroup();
   ++contentCount_;
+  if (!marker_.empty() && word.text == markerWord_) PlaceMarker();
   if (!marker_.empty() || placingMarker_) return;
   marker_ = tokens_.Source(from, tokens_.At());
   markerIndex_ = items_.NextIndex();
