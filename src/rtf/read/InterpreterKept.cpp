@@ -38,7 +38,8 @@ void Interpreter::KeepWord(int value, const Token& word) {
   }
 }
 
-/// Where words of rows are kept. Those in a field belong to it as long as it may show nothing.
+/// Where words and groups are kept that may be part of a row's definition. Those in a field belong
+/// to it as long as it may show nothing.
 ItemKeeper& Interpreter::RowItems() {
   const bool nested = State().inNestedRow && State().fieldAt == GroupState::kNowhere;
   return nested ? nestedRow_ : items_;
@@ -71,7 +72,7 @@ void Interpreter::KeepUnknown(const Token& word) {
 }
 
 void Interpreter::KeepSection(int, const Token& word) {
-  items_.Keep(KeptItem::Kind::Section, SourceOf(word));
+  RowItems().Keep(KeptItem::Kind::Section, SourceOf(word));
 }
 
 void Interpreter::KeepRow(int, const Token& word) {
@@ -111,7 +112,7 @@ void Interpreter::KeepGroup(int value, const Token&) {
 void Interpreter::KeepAside(int value, const Token&) {
   const std::size_t from = tokens_.Start();
   tokens_.SkipGroup();
-  items_.Keep(static_cast<KeptItem::Kind>(value), GroupSource(from));
+  RowItems().Keep(static_cast<KeptItem::Kind>(value), GroupSource(from));
 }
 
 /// The same for a word that has this meaning only as the first of its group.
