@@ -4,8 +4,8 @@
 // The second form puts an image in JPEG on the clipboard, and its file is dragged from the window.
 // Its window "Cible", always above the others with "top", takes what is dropped as a move or as a
 // copy, refuses it, or ("late") refuses it only when it has fallen. Writes "over" whenever it is
-// asked, and one line a drop: what it got as text, a blank, as RTF, both between slashes and with
-// line ends as "\n".
+// asked, and one line a drop: what it got as text, RTF and HTML, each between slashes and with line
+// ends as "\n", and the size of a JPEG.
 #include <QApplication>
 #include <QClipboard>
 #include <QDrag>
@@ -57,7 +57,9 @@ class Target : public QWidget {
     Choose(*event);
     const QMimeData& data = *event->mimeData();
     std::cout << OnOneLine(data.text().toUtf8()) << " " << OnOneLine(data.data("text/rtf")) << " "
-              << OnOneLine(data.data("text/html")) << std::endl;
+              << OnOneLine(data.data("text/html"));
+    if (data.hasFormat("image/jpeg")) std::cout << " " << data.data("image/jpeg").size();
+    std::cout << std::endl;
     if (manner_ == QLatin1String("late")) event->ignore();
   }
 

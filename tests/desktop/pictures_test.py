@@ -4,7 +4,7 @@ import pathlib
 import struct
 import zlib
 
-from rig import DROP_TARGET, Notes, main
+from rig import DROP_TARGET, Host, Notes, main
 
 JPEG = pathlib.Path(__file__).parent.parent / "data" / "red.jpg"  # 16 x 8, at 100 dots per inch
 BLUE, RED = (0x1A, 0x5F, 0xB4), (0xE0, 0x1B, 0x24)
@@ -60,6 +60,19 @@ class Pictures(Notes):
         self.keys(self.note, "ctrl+z")
         self.host.waits_for("text 1", "un")
         self.assertEqual(self.host.ask("undo 1"), "0")
+
+    def test_is_dragged_into_another_program_as_an_image(self):
+        image = JPEG.read_bytes()
+        self.open(r"{\rtf1 {\pict\jpegblip\picwgoal1500\pichgoal900 %s}\par}" % image.hex())
+        self.sees(RED, 100 * 60, slack=8)
+        self.keys(self.note, "ctrl+Home", "shift+Right")
+        other = Host(self, DROP_TARGET, "copy")
+        target = self.wait(lambda: self.window("Cible"), "the other program")
+        self.keys(self.note, "shift")  # in front again
+        self.mouse(self.note, (40, 50), "mousedown 1", (50, 60), (60, 64))
+        self.mouse(target, *[(x, 100) for x in range(200, 230, 3)], "mouseup 1")
+        size = " %d" % len(image)
+        self.wait(lambda: any(line.endswith(size) for line in other.lines()), "the image")
 
     def test_drops_a_file(self):
         self.open("un")

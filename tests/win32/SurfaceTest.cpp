@@ -199,6 +199,22 @@ TEST_F(SurfaceWindowTest, SystemCaretFollows) {
 }
 
 // A drag offers what was selected when it began; a drop is one step of undo.
+TEST_F(SurfaceWindowTest, OffersAPictureThatIsDraggedAsAnImage) {
+  surface.TextRTF(u"{\\rtf1{\\pict\\pngblip 89504E470D0A1A0A00}}");
+  surface.SelStart(0);
+  surface.SelLength(1);
+  const ComOwner<TransferData> data(new TransferData(TextExcerpt(surface)));
+  FORMATETC png = {static_cast<CLIPFORMAT>(RegisterClipboardFormatW(L"PNG")), nullptr,
+                   DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
+  STGMEDIUM medium = {};
+  ASSERT_EQ(data->GetData(&png, &medium), S_OK);
+  EXPECT_GE(GlobalSize(medium.hGlobal), 9u);
+  ReleaseStgMedium(&medium);
+  Put(u"^un| deux");
+  EXPECT_EQ(ComOwner<TransferData>(new TransferData(TextExcerpt(surface)))->QueryGetData(&png),
+            DV_E_FORMATETC);
+}
+
 TEST_F(SurfaceWindowTest, DropsTextRtfAndHtml) {
   auto* const target = static_cast<IDropTarget*>(GetPropW(Handle(), L"OleDropTargetInterface"));
   ASSERT_TRUE(target);

@@ -4,6 +4,7 @@
 
 #include "html/write/Writer.h"
 #include "rtf/write/Writer.h"
+#include "surface/editing/PastedPictures.h"
 
 namespace lumenote {
 
@@ -16,6 +17,10 @@ std::string TextExcerpt::Rtf() const {
 }
 std::string TextExcerpt::Html() const {
   return WriteHtml(written_.document, written_.range.start, written_.range.end);
+}
+
+std::vector<std::string> TextExcerpt::Images() const {
+  return LonePicture(written_.document, range_);
 }
 
 bool TextDrag::Reselect() {

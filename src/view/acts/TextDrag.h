@@ -1,6 +1,7 @@
 // Selected text leaving the view: dragged, or offered to other programs.
 #pragma once
 #include <string>
+#include <vector>
 
 #include "document/tables/CopiedRows.h"
 #include "platform/Clipboard.h"
@@ -22,6 +23,8 @@ class TextExcerpt {
   std::u16string Beginning() const;
   std::string Rtf() const;
   std::string Html() const;
+  /// The picture, if that alone is in it.
+  std::vector<std::string> Images() const;
   ClipboardContent Content() const { return {Text(), Rtf(), Html()}; }
 
  private:

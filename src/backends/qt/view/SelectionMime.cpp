@@ -1,6 +1,7 @@
 #include "backends/qt/view/SelectionMime.h"
 
 #include "backends/qt/toolkit/MimeContent.h"
+#include "backends/qt/toolkit/MimeImages.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "backends/qt/view/RichTextView.h"
 
@@ -26,12 +27,16 @@ QStringList SelectionMime::formats() const {
   names.text.emplace();
   names.rtf.emplace();
   names.html.emplace();
+  if (const auto content = Content()) names.images = content->Images();
   return WriteMime(names)->formats();
 }
 
 QVariant SelectionMime::retrieveData(const QString& format, QMetaType type) const {
   const std::optional<TextExcerpt> content = hasFormat(format) ? Content() : std::nullopt;
   if (!content) return {};
+  if (const auto images = content->Images(); !images.empty())
+    if (const auto image = OfferImage(images.front()); image->hasFormat(format))
+      return image->data(format);
   const bool html = format == QLatin1String("text/html");
   if (!html && format != QLatin1String("text/plain"))
     return QByteArray::fromStdString(content->Rtf());

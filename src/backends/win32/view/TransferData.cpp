@@ -1,12 +1,12 @@
 #include "backends/win32/view/TransferData.h"
 
 #include <algorithm>
-#include <array>
 #include <new>
 #include <vector>
 
 #include "backends/win32/clipboard/HtmlFormat.h"
 #include "backends/win32/clipboard/OfferedData.h"
+#include "backends/win32/clipboard/SharedImages.h"
 #include "backends/win32/system/SharedMemory.h"
 
 // After the system's own header.
@@ -16,25 +16,38 @@ namespace lumenote {
 
 namespace {
 
-/// The formats that are offered, the richest first.
-std::array<CLIPFORMAT, 3> Formats() {
-  return {static_cast<CLIPFORMAT>(RtfFormat()), static_cast<CLIPFORMAT>(HtmlFormat()),
-          CF_UNICODETEXT};
-}
-
 FORMATETC FormatOf(CLIPFORMAT format) {
   return {format, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
 }
 
-bool IsOffered(const FORMATETC& format) {
-  const auto formats = Formats();
-  return (format.tymed & TYMED_HGLOBAL) && format.dwAspect == DVASPECT_CONTENT &&
-         std::ranges::find(formats, format.cfFormat) != formats.end();
+/// The forms of the picture that is dragged; none if text is.
+std::vector<ImageForm> ImagesIn(const TextExcerpt& text) {
+  const std::vector<std::string> images = text.Images();
+  return images.empty() ? std::vector<ImageForm>() : FormsOf(images.front());
+}
+
+/// The formats that are offered, the richest first.
+std::vector<CLIPFORMAT> FormatsOf(const TextExcerpt& text) {
+  std::vector<CLIPFORMAT> formats = {static_cast<CLIPFORMAT>(RtfFormat()),
+                                     static_cast<CLIPFORMAT>(HtmlFormat())};
+  for (const ImageForm& image : ImagesIn(text))
+    formats.push_back(static_cast<CLIPFORMAT>(image.format));
+  formats.push_back(CF_UNICODETEXT);
+  return formats;
+}
+
+bool IsOffered(const TextExcerpt& text, const FORMATETC& format) {
+  if (!(format.tymed & TYMED_HGLOBAL) || format.dwAspect != DVASPECT_CONTENT) return false;
+  return std::ranges::count(FormatsOf(text), format.cfFormat) > 0;
 }
 
 HGLOBAL CopyOf(const TextExcerpt& text, CLIPFORMAT format) {
   if (format == CF_UNICODETEXT) return SharedCopy(text.Text());
-  return SharedCopy(format == RtfFormat() ? text.Rtf() : WithHtmlHeader(text.Html()));
+  if (format == RtfFormat()) return SharedCopy(text.Rtf());
+  if (format == HtmlFormat()) return SharedCopy(WithHtmlHeader(text.Html()));
+  const std::vector<ImageForm> images = ImagesIn(text);
+  const auto image = std::ranges::find(images, UINT{format}, &ImageForm::format);
+  return image == images.end() ? nullptr : SharedBytes(image->bytes);
 }
 
 /// What a drag offers in memory.
@@ -67,11 +80,11 @@ class Offered final : public OfferedData {
 }  // namespace
 
 HRESULT TransferData::QueryGetData(FORMATETC* format) {
-  return IsOffered(*format) ? S_OK : DV_E_FORMATETC;
+  return IsOffered(text_, *format) ? S_OK : DV_E_FORMATETC;
 }
 
 HRESULT TransferData::GetData(FORMATETC* format, STGMEDIUM* medium) {
-  if (!IsOffered(*format)) return DV_E_FORMATETC;
+  if (!IsOffered(text_, *format)) return DV_E_FORMATETC;
   *medium = {};
   try {
     medium->tymed = TYMED_HGLOBAL;
@@ -89,7 +102,7 @@ HRESULT TransferData::GetCanonicalFormatEtc(FORMATETC*, FORMATETC* out) {
 HRESULT TransferData::EnumFormatEtc(DWORD direction, IEnumFORMATETC** out) {
   if (direction != DATADIR_GET) return E_NOTIMPL;
   std::vector<FORMATETC> formats;
-  for (const CLIPFORMAT format : Formats()) formats.push_back(FormatOf(format));
+  for (const CLIPFORMAT format : FormatsOf(text_)) formats.push_back(FormatOf(format));
   return SHCreateStdEnumFmtEtc(static_cast<UINT>(formats.size()), formats.data(), out);
 }
 
