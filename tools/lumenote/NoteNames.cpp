@@ -21,7 +21,7 @@ std::string LastPartOf(const std::string& path) {
 void AddNotesOf(const std::string& folder, const std::string& below, const Takes& takes,
                 std::vector<NoteName>& notes) {
   std::optional<std::vector<std::string>> names = AllNamesIn(AbsolutePath(folder));
-  if (!names) throw Failure(folder + " : lecture impossible");
+  if (!names) return notes.push_back({folder, below});
   std::ranges::sort(*names);
   for (const std::string& name : *names) {
     const std::string path = PathIn(folder, name);

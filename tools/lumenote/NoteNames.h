@@ -26,7 +26,8 @@ std::string PathIn(const std::string& folder, const std::string& name);
 
 /// The operands, in their order, with each folder replaced by the files in it and in its folders
 /// whose extension names a format that `takes` accepts, in the order of their names; links to
-/// folders in it are not followed. Raises `Failure` for a folder that cannot be read.
+/// folders in it are not followed. A folder that cannot be read stands for itself: a note that
+/// cannot be read.
 NoteNames FindNotes(std::span<const std::string> operands,
                     const std::function<bool(Note::Format)>& takes);
 
