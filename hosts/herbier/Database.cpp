@@ -12,9 +12,9 @@ namespace {
 /// Runs a statement with its values in place of the question marks.
 QSqlQuery Run(const QSqlDatabase& base, const QString& statement, const QVariantList& values = {}) {
   QSqlQuery query(base);
-  query.prepare(statement);
+  const bool prepared = query.prepare(statement);
   for (const QVariant& value : values) query.addBindValue(value);
-  if (!query.exec()) throw DatabaseError(query.lastError().text());
+  if (!prepared || !query.exec()) throw DatabaseError(query.lastError().text());
   return query;
 }
 
