@@ -98,7 +98,10 @@ WordsId WordKeeper::WithMark(NameId mark, Kind kind, std::uint8_t stated, WordsI
   Words moved(part.begin, part.end);
   if (moved.empty()) moved.push_back({.name = mark, .kind = kind});
   std::erase_if(moved, IsSize);
-  all.erase(part.begin, part.end);
+  const Iterator next = all.erase(part.begin, part.end);
+  // Before a script the size would not be said there again.
+  if (next != all.begin() && next != all.end() && IsSize(*std::prev(next)) && IsScript(*next))
+    all.erase(std::prev(next));
   all.insert(all.end(), moved.begin(), moved.end());
   return Number(std::move(all), words);
 }
