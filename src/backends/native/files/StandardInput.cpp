@@ -9,7 +9,7 @@ namespace lumenote {
 
 std::string ReadStandardInput() {
   std::string bytes;
-  std::array<char, 1 << 16> block;
+  std::array<char, 1 << 16> block{};
   while (const std::size_t count = std::fread(block.data(), 1, block.size(), stdin))
     bytes.append(block.data(), count);
   if (std::ferror(stdin)) throw RuntimeError(ErrorNumber::PathAccess, u"Entrée standard illisible");
