@@ -1,7 +1,5 @@
 #!/usr/bin/env python3
 """Text is dragged out of a note, into other programs and other notes."""
-import itertools
-
 from rig import DROP_TARGET, Host, Notes, main
 
 TEXT = "un deux trois"
@@ -18,24 +16,12 @@ class Drag(Notes):
         self.keys(self.note, "ctrl+Home", "shift+Right", "shift+Right")
         self.host.waits_for("selected 1", "un")
 
-    def drag_to(self, window, height, sees):
-        """Drags the selected word over a window until that `sees` it, and lets it fall there."""
-        self.mouse(self.note, WORD, "mousedown 1", (30, 40), (40, 44))
-        steps = itertools.cycle(range(200, 220, 3))
-
-        def move():
-            self.mouse(window, (next(steps), height))
-            return sees()
-
-        self.wait(move, "the drag at its target")
-        self.mouse(window, (200, height), "mouseup 1")
-
     def drag_out(self, manner):
         other = Host(self, DROP_TARGET, manner)
         target = self.wait(lambda: self.window("Cible"), "the other program")
         self.keys(self.note, "shift")  # in front again
         asked = 1 if manner == "refuse" else 3  # who has refused is not asked again
-        self.drag_to(target, 100, lambda: other.lines().count("over") >= asked)
+        self.drag_to(WORD, target, 100, lambda: other.lines().count("over") >= asked)
         return other
 
     def dropped(self, other):
@@ -63,7 +49,7 @@ class Drag(Notes):
             self.wait(lambda: not self.window("Cible"), "the other program's end")
 
     def test_a_move_within_the_note_is_one_step(self):
-        self.drag_to(self.note, 38, self.popup)  # what is dragged is shown beside the mouse
+        self.drag_to(WORD, self.note, 38, self.popup)  # what is dragged is shown beside the mouse
         self.host.waits_for("text 1", " deux troisun")
         self.assertEqual(self.host.ask("undo 1"), "3")
         self.keys(self.note, "ctrl+z")
@@ -74,7 +60,7 @@ class Drag(Notes):
         other = self.show(2)
         self.run_x("xdotool", "windowmove", "--sync", other, "800", "500")
         self.keys(self.note, "shift")
-        self.drag_to(other, 38, self.popup)
+        self.drag_to(WORD, other, 38, self.popup)
         self.host.waits_for("text 2", "autreun")
         self.host.waits_for("text 1", " deux trois")
 

@@ -69,8 +69,7 @@ class Pictures(Notes):
         other = Host(self, DROP_TARGET, "copy")
         target = self.wait(lambda: self.window("Cible"), "the other program")
         self.keys(self.note, "shift")  # in front again
-        self.mouse(self.note, (40, 50), "mousedown 1", (50, 60), (60, 64))
-        self.mouse(target, *[(x, 100) for x in range(200, 230, 3)], "mouseup 1")
+        self.drag_to((40, 50), target, 100, lambda: other.lines().count("over") >= 3)
         size = " %d" % len(image)
         self.wait(lambda: any(line.endswith(size) for line in other.lines()), "the image")
 

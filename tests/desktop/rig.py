@@ -4,6 +4,7 @@ Each test is run as NAME_test.py MICROEDIT [LUMENOTE NOTES_HOST DROP_TARGET]; st
 cannot be had.
 """
 import ctypes
+import itertools
 import os
 import pathlib
 import shutil
@@ -286,6 +287,19 @@ class Notes(Desktop):
         """Types at the beginning of a note."""
         self.type(self.window(f"Note {number}"), "x")
         self.host.waits_for(f"text {number}", lambda text: text.startswith("x"))
+
+    def drag_to(self, start, window, height, sees):
+        """Drags what is selected at `start` over a window until that `sees` it, and lets it fall there."""
+        x, y = start
+        self.mouse(self.note, start, "mousedown 1", (x + 13, y + 2), (x + 23, y + 6))
+        steps = itertools.cycle(range(200, 220, 3))
+
+        def move():
+            self.mouse(window, (next(steps), height))
+            return sees()
+
+        self.wait(move, "the drag at its target")
+        self.mouse(window, (200, height), "mouseup 1")
 
     def agree(self, title="notes_host"):
         """To a box with this title."""
