@@ -66,6 +66,7 @@ class Pictures(Notes):
         self.open(r"{\rtf1 {\pict\jpegblip\picwgoal1500\pichgoal900 %s}\par}" % image.hex())
         self.sees(RED, 100 * 60, slack=8)
         self.keys(self.note, "ctrl+Home", "shift+Right")
+        self.host.waits_for("selected 1", "\uFFFC")
         other = Host(self, DROP_TARGET, "copy")
         target = self.wait(lambda: self.window("Cible"), "the other program")
         self.keys(self.note, "shift")  # in front again
