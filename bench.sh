@@ -10,5 +10,5 @@ build="$top/build/test"
 cmake -S "$top" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DLUMENOTE_BENCH=ON >/dev/null
 cmake --build "$build" --target bench_speed >/dev/null
 sizes=(30000 1000000 10000000)
-[ "${1:-}" != --short ] || sizes=(30000 300000)
+[ "${1:-}" != --short ] || sizes=(30000 100000)
 exec "$build/bench/bench_speed" "${sizes[@]}"

@@ -13,6 +13,7 @@
 
 #include "Notes.h"
 #include "ScannedPage.h"
+#include "Timing.h"
 #include "backends/qt/QtBackend.h"
 #include "backends/qt/view/RichTextView.h"
 #include "forms/Form.h"
@@ -26,15 +27,6 @@
 using namespace lumenote;
 
 namespace {
-
-double Milliseconds(std::clock_t since) {
-  return 1e3 * static_cast<double>(std::clock() - since) / CLOCKS_PER_SEC;
-}
-
-double Median(std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  return times[times.size() / 2];
-}
 
 class CountingView final : public RichTextView {
  public:

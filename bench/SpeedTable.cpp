@@ -1,21 +1,19 @@
 // bench_speed: one table of what the user waits for, in processor time: ours, the barest way to do
 // the same work, and other editors, one after another in one process. Arguments: sizes in bytes.
 #include <QApplication>
-#include <QKeyEvent>
-#include <QScrollBar>
-#include <QWheelEvent>
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <functional>
-#include <limits>
+#include <optional>
 #include <random>
 #include <vector>
 
 #include "Limits.h"
 #include "Notes.h"
+#include "Timing.h"
 #include "backends/qt/toolkit/QtText.h"
 #include "editors/Editor.h"
+#include "editors/Stand.h"
 
 using namespace lumenote;
 
@@ -23,78 +21,7 @@ namespace {
 
 constexpr int kRounds = 3;
 constexpr int kEdits = 1000;
-constexpr int kFrames = 15;
-constexpr double kNotMeasured = std::numeric_limits<double>::quiet_NaN();
-
-double Milliseconds(const std::function<void()>& act) {
-  const std::clock_t start = std::clock();
-  act();
-  return 1e3 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
-
-double Median(std::vector<double> times) {
-  std::ranges::sort(times);
-  return times[times.size() / 2];
-}
-
-/// Counts the frames of a widget.
-class FrameCounter final : public QObject {
- public:
-  explicit FrameCounter(QWidget& widget) { widget.installEventFilter(this); }
-  bool eventFilter(QObject*, QEvent* event) override {
-    frames += event->type() == QEvent::Paint;
-    return false;
-  }
-  int frames = 0;
-};
-
-/// An editor on a window that is shown.
-class Stand {
- public:
-  explicit Stand(std::unique_ptr<Editor> editor)
-      : editor_(std::move(editor)), counter_(*editor_->Widget().viewport()) {
-    editor_->Widget().resize(1920, 1000);
-    editor_->Widget().show();
-    editor_->Widget().setFocus();
-    QApplication::processEvents();
-  }
-
-  Editor& Act() { return *editor_; }
-  /// Milliseconds from the act to the end of the frame that shows it.
-  double ToFrame(const std::function<void()>& act) {
-    return Milliseconds([&] {
-      const int before = counter_.frames;
-      act();
-      editor_->Widget().viewport()->update(0, 0, 1, 1);
-      while (counter_.frames == before) QApplication::processEvents();
-    });
-  }
-  double MedianToFrame(const std::function<void()>& act) {
-    std::vector<double> times;
-    for (int i = 0; i < kFrames; ++i) times.push_back(ToFrame(act));
-    return Median(times);
-  }
-  void Press(Qt::Key key, const QString& text = {}) {
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QApplication::sendEvent(&editor_->Widget(), &press);
-  }
-  /// Between two widths.
-  void Resize() {
-    wide_ = !wide_;
-    editor_->Widget().resize(wide_ ? 1920 : 1900, 1000);
-  }
-  void Turn() {
-    const QPointF at(50, 50);
-    QWheelEvent turn(at, editor_->Widget().mapToGlobal(at), {}, {0, -120}, Qt::NoButton,
-                     Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(editor_->Widget().viewport(), &turn);
-  }
-
- private:
-  std::unique_ptr<Editor> editor_;
-  FrameCounter counter_;
-  bool wide_ = true;
-};
+constexpr int kTabs = 20'000;  // more than a view shows
 
 struct Note {
   QString text;
@@ -118,6 +45,7 @@ struct Row {
   /// In milliseconds, on an editor that holds the note and has had the acts of the rows before.
   std::function<double(Stand&, const Note&)> measure;
   std::function<void(const Note&)> limit = {};
+  QSize window = {1920, 1000};
 };
 
 std::function<double(Stand&, const Note&)> Simple(void (*act)(Editor&, const Note&)) {
@@ -153,6 +81,27 @@ void ScanNote(const Note& note) {
 
 void ReplaceInNote(const Note& note) { ReplaceByCopy(note.units, u"on", u"%%%"); }
 
+double Resizing(Stand& stand, const Note&) {
+  std::vector<double> times(Stand::kFrames);
+  std::ranges::generate(times, [&] { return stand.NextWidth(); });
+  return Median(times);
+}
+
+double Turn(Stand& stand, const Note&) {
+  return stand.MedianToFrame([&] { stand.Turn(); });
+}
+
+double ReplaceAllWithInputMethod(Stand& stand, const Note&) {
+  return stand.WithInputMethod([&] { stand.Act().ReplaceAll(kNeedle, kReplacement); });
+}
+
+/// In the middle of a note that is one paragraph of them.
+double TypeAmongTabs(Stand& stand, const Note&) {
+  stand.Act().Fill(QString(kTabs, QLatin1Char('\t')));
+  stand.ToFrame([&] { stand.Act().PutCaret(kTabs / 2); });
+  return stand.MedianToFrame([&] { stand.Press(Qt::Key_A, QStringLiteral("a")); });
+}
+
 std::vector<Row> Rows() {
   return {
       {"fill", Simple([](Editor& e, const Note& note) { e.Fill(note.text); }), CopyNote},
@@ -170,13 +119,21 @@ std::vector<Row> Rows() {
          s.ToFrame([] {});  // what the edits left to be drawn
          return s.ToFrame([&] { s.Act().PutCaret(static_cast<int>(note.units.size() / 2)); });
        }},
-      {"resize to frame",
-       [](Stand& s, const Note&) { return s.MedianToFrame([&] { s.Resize(); }); }},
+      {"resize to frame", Resizing},
       {"keystroke to frame", Key(Qt::Key_A, QStringLiteral("a"))},
       {"Return to frame", Key(Qt::Key_Return, QStringLiteral("\r"))},
       {"Down to frame", Key(Qt::Key_Down)},
-      {"wheel notch to frame",
-       [](Stand& s, const Note&) { return s.MedianToFrame([&] { s.Turn(); }); }},
+      {"wheel notch to frame", Turn},
+      {"keystroke, 700 x 500", Key(Qt::Key_A, QStringLiteral("a")), {}, {700, 500}},
+      {"Return, 700 x 500", Key(Qt::Key_Return, QStringLiteral("\r")), {}, {700, 500}},
+      {"Down, 700 x 500", Key(Qt::Key_Down), {}, {700, 500}},
+      {"wheel notch, 700 x 500", Turn, {}, {700, 500}},
+      {"keystroke, 3840 x 2100", Key(Qt::Key_A, QStringLiteral("a")), {}, {3840, 2100}},
+      {"Return, 3840 x 2100", Key(Qt::Key_Return, QStringLiteral("\r")), {}, {3840, 2100}},
+      {"Down, 3840 x 2100", Key(Qt::Key_Down), {}, {3840, 2100}},
+      {"wheel notch, 3840 x 2100", Turn, {}, {3840, 2100}},
+      {"replace all, input method", ReplaceAllWithInputMethod},
+      {"keystroke among tabs", TypeAmongTabs},
   };
 }
 
@@ -207,19 +164,32 @@ class Table {
  private:
   void MeasureEditor(std::unique_ptr<Editor> made, std::size_t editor) {
     Stand stand(std::move(made));
-    for (std::size_t row = 0; row < rows_.size(); ++row)
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+      stand.Resize(rows_[row].window);
       times_[row][editor].push_back(rows_[row].measure(stand, note_));
+    }
   }
-  double TimeOf(std::size_t row, std::size_t column) const {
+  /// Empty where it is not measured.
+  std::optional<double> TimeOf(std::size_t row, std::size_t column) const {
     const std::vector<double>& times = times_[row][column];
-    return times.empty() ? kNotMeasured : Median(times);
+    return times.empty() ? std::nullopt : std::optional(Median(times));
   }
   void PrintRow(std::size_t row) const {
-    const double ours = TimeOf(row, 0);
-    std::printf("%-28s %9.3f %9.3f", rows_[row].name, ours, TimeOf(row, makers_.size()));
-    for (std::size_t editor = 1; editor < makers_.size(); ++editor)
-      std::printf(" %9.3f (%6.2f)", TimeOf(row, editor), TimeOf(row, editor) / ours);
+    const double ours = *TimeOf(row, 0);
+    std::printf("%-28s %9.3f", rows_[row].name, ours);
+    PrintTime(TimeOf(row, makers_.size()));
+    for (std::size_t editor = 1; editor < makers_.size(); ++editor) {
+      const std::optional<double> theirs = TimeOf(row, editor);
+      PrintTime(theirs);
+      if (theirs) std::printf(" (%6.2f)", *theirs / ours);
+    }
     std::printf("\n");
+  }
+  static void PrintTime(std::optional<double> time) {
+    if (time)
+      std::printf(" %9.3f", *time);
+    else
+      std::printf(" %9s", "-");
   }
 
   Note note_;
