@@ -15,6 +15,7 @@ namespace lumenote {
 namespace {
 
 constexpr double kOutOfSight = 1e6;  // pixels; drawing stops at the first line below this
+constexpr QChar kNowhere(0xFFFF);    // no character
 
 using FormatRange = QTextLayout::FormatRange;
 
@@ -97,6 +98,8 @@ void LineMaker::FindTabs() {
   if (tabStep_ > 0) tabs_ = TabsOf(layouter_, tables_.tabs[stack_.Format().tabs], stack_.Edges());
 }
 
+// Qt measures all text behind a left tab, for nothing. A tab whose delimiter never comes is the
+// same.
 QTextOption::Tab TabAt(double x, TabKind kind) {
   switch (kind) {
     case TabKind::Right:
@@ -109,7 +112,7 @@ QTextOption::Tab TabAt(double x, TabKind kind) {
     case TabKind::Bar:
       break;
   }
-  return {x, QTextOption::LeftTab};
+  return {x, QTextOption::DelimiterTab, kNowhere};
 }
 
 // Qt measures tab stops from the line's start, the document from the left edge; it sets lines where
