@@ -43,8 +43,8 @@ class Pdf(unittest.TestCase):
         return re.search(rf"^{name}: *(.*)$", self.run_it("pdfinfo", "a.pdf"), re.M)[1]
 
     def pages(self):
-        """Their words; the reader joins what narrow blanks part and sees signs that are not shown."""
-        text = self.run_it("pdftotext", "-layout", "a.pdf", "-").replace("\u25a1", "").split("\f")
+        """Their words; the reader joins what narrow blanks part."""
+        text = self.run_it("pdftotext", "-layout", "a.pdf", "-").split("\f")
         return [" ".join(page.replace("/", " / ").split()) for page in text[:-1]]
 
     def pixels(self, page=1):
@@ -79,6 +79,22 @@ class Pdf(unittest.TestCase):
         self.assertGreater(len(red), 50 * 200)
         dark = [i // 210 for i, pixel in enumerate(self.pixels(page=3)) if pixel[0] < 250]
         self.assertLess(max(dark, key=dark.count), 28, "the rule is above the text")
+
+    def test_what_stands_for_a_picture_is_not_text_and_its_dots_are_kept(self):
+        self.pdf(HEAD + "avant " + PICTURE + r"apr\'e8s {\v secret}fin}")
+        self.assertEqual(self.pages()[0], "avant après fin 1 / 1")
+        image = self.run_it("pdfimages", "-list", "a.pdf").splitlines()[2].split()
+        self.assertEqual((image[3:5], image[8]), (["2", "2"], "image"), "without losses")
+
+    def test_links_can_be_followed(self):
+        link = r'{\field{\*\fldinst HYPERLINK "%s"}{\fldrslt %s}} '
+        links = {r"https://a.example/\'e9)(b?c=d%26#e": r"page {\i enti\'e8re}",
+                 "mailto:a@b.example": "lettre", "cmd:calc": "commande", "/bin/sh": "programme",
+                 "http://[": "vide", "autre.rtf": "voisine"}
+        self.pdf(HEAD + "".join(link % pair for pair in links.items()) + "}")
+        found = re.findall(rb"/URI \((.*)\)\n", (self.folder / "a.pdf").read_bytes())
+        self.assertEqual(sorted(set(found)),
+                         [b"https://a.example/%C3%A9%29%28b?c=d%26#e", b"mailto:a@b.example"])
 
     def test_a_text_and_damaged_notes(self):
         (self.folder / "t.txt").write_text("œuf\nfin", encoding="utf-8")

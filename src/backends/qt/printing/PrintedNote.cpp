@@ -33,6 +33,7 @@ QPalette PaperColours() {
 
 PrintedNote::Text::Text(const Document& content, Selection range, const PrintedNote& note)
     : document(content), flow([&]() -> PageFlow {
+        layouter.ForPaper();
         layouter.Zoom(note.dotsPerInch_ / kScreenDots);
         layouter.Width(note.Dots(note.paper_.TextWidth()));
         layouter.Tallest(note.paper_.TextHeight() * kTallestBox);

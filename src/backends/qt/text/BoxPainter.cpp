@@ -19,11 +19,13 @@ constexpr double kLeastLabel = 9;   // a lower or narrower box has no text
 void BoxPainter::Paint(const InlineBox& box, const QRectF& place, bool selected) {
   const double ratio = painter_.device()->devicePixelRatioF();
   const QRectF target = OnDevicePixels(painter_, place);
-  const QImage image = pictures_.Of(document_, box, target.size() * ratio);
-  if (image.isNull())
+  const QtPicture picture = pictures_.Of(document_, box, target.size() * ratio);
+  // Drawings are kept exactly on paper; photographs would become huge.
+  painter_.setRenderHint(QPainter::LosslessImageRendering, !picture.photograph);
+  if (picture.image.isNull())
     PaintLabel(box.item, target);
   else
-    painter_.drawImage(target, image);
+    painter_.drawImage(target, picture.image);
   if (!selected) return;
   QColor tint = palette_.color(QPalette::Highlight);
   tint.setAlphaF(kTint);

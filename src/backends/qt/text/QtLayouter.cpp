@@ -1,10 +1,12 @@
 #include "backends/qt/text/QtLayouter.h"
 
 #include <QTextOption>
+#include <QUrl>
 #include <algorithm>
 #include <cmath>
 
 #include "backends/qt/toolkit/QtText.h"
+#include "document/Links.h"
 #include "view/layout/InlineBoxes.h"
 #include "view/layout/LineStack.h"
 #include "view/layout/RowCells.h"
@@ -38,6 +40,40 @@ void AddBoxes(const QtPiece& piece, const Document& document, CharStyles& styles
     while (std::next(run) != piece.runs.end() && std::next(run)->start <= box.index) ++run;
     const QTextCharFormat& text = styles.Of(document, run->format).format;
     formats.push_back({box.index, 1, StandInFormat(text, kShownObject, box.size.width)});
+  }
+}
+
+/// What has an outline is painted as a shape, not as letters that a reader would find.
+void HideFromReaders(const QtPiece& piece, QList<FormatRange>& formats) {
+  for (const InlineBox& box : piece.boxes) {
+    QTextCharFormat shape;
+    shape.setTextOutline(QPen(Qt::transparent));
+    formats.push_back({box.index, 1, shape});
+  }
+}
+
+/// Where a link on paper leads: a page or the like, not a file beside the note. Qt writes an
+/// address as it stands, between parentheses.
+QString PaperAddress(std::u16string_view address) {
+  const QUrl target(ToQString(address));
+  constexpr int kDrive = 1;  // letters that stand for one
+  if (!MayOpen(address) || target.scheme().size() <= kDrive) return {};
+  return QString::fromLatin1(target.toEncoded())
+      .replace(u'(', QStringLiteral("%28"))
+      .replace(u')', QStringLiteral("%29"));
+}
+
+void AddLinks(const QtPiece& piece, const Document& document, QList<FormatRange>& formats) {
+  const FormatTables& tables = document.Formats();
+  const auto length = static_cast<int>(piece.layout.text().size());
+  for (auto run = piece.runs.begin(); run != piece.runs.end(); ++run) {
+    const QString address = PaperAddress(LinkOf(tables, tables.characters[run->format]));
+    if (address.isEmpty()) continue;
+    const int end = std::next(run) == piece.runs.end() ? length : std::next(run)->start;
+    QTextCharFormat link;
+    link.setAnchor(true);
+    link.setAnchorHref(address);
+    formats.push_back({run->start, end - run->start, link});
   }
 }
 
@@ -256,6 +292,11 @@ void BreakBehindTexts(const RowCells& row, std::u16string& text) {
 
 }  // namespace
 
+void QtLayouter::ForPaper() {
+  forPaper_ = true;
+  pictures.forPaper = true;
+}
+
 FontMetrics QtLayouter::MetricsOf(const Document& document, const CharFormat& format) {
   const CharStyle& style = styles.Of(document, format);
   return {style.ascent, style.descent, style.raise};
@@ -286,6 +327,10 @@ std::unique_ptr<Piece> QtLayouter::Make(const Document& document, const PieceSpa
   AddBoxes(*piece, document, styles, formats);
   if (document.Formats().paragraphs[piece->format].rightToLeft)
     AddLineBreaks(*piece, document, styles, formats);
+  if (forPaper_) {
+    HideFromReaders(*piece, formats);
+    AddLinks(*piece, document, formats);
+  }
   piece->layout.setFormats(formats);
   const bool tabs = text.text.find(u'\t') != text.text.npos;
   LineMaker lines(*this, document, *piece, row, tabs);

@@ -15,11 +15,17 @@ class QtLayouter final : public TextLayouter {
   /// Formats of the composed text, relative to its start.
   QList<QTextLayout::FormatRange> composedFormats;
 
+  /// From now on gives text for paper: what stands for a box is not among its letters, and links
+  /// can be followed.
+  void ForPaper();
+
   FontMetrics MetricsOf(const Document& document, const CharFormat& format) override;
 
  private:
   std::unique_ptr<Piece> Make(const Document& document, const PieceSpan& wanted) override;
   void Zoomed() override { styles.Zoom(Zoom()); }
+
+  bool forPaper_ = false;
 };
 
 }  // namespace lumenote

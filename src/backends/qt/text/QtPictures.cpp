@@ -52,27 +52,37 @@ QImage Upright(const QImage& image, const Orientation& turn) {
       .mirrored(turn.mirrored, turn.upsideDown);
 }
 
-QImage Decoded(const std::string& file, const PictureFrame& frame, QSize size) {
+/// As large as `size`, or as that part of the image if it may not grow.
+QSize ScaledSize(QSize size, QSize part, bool mayGrow) {
+  return mayGrow || part.isEmpty() ? size : size.boundedTo(part);
+}
+
+QtPicture Decoded(const std::string& file, const PictureFrame& frame, QSize size, bool mayGrow) {
   if (!IsDecodable(file)) return {};
+  const PictureType type = *TypeOfImage(file);
   const Orientation turn = OrientationIn(frame, file);
   QByteArray bytes = QByteArray::fromRawData(file.data(), static_cast<qsizetype>(file.size()));
   QBuffer buffer(&bytes);
-  QImageReader reader(&buffer, FormatName(*TypeOfImage(file)));
-  reader.setClipRect(PartOf(BeforeTurning(frame, turn), reader.size()));
-  reader.setScaledSize(turn.exchanged ? size.transposed() : size);
+  QImageReader reader(&buffer, FormatName(type));
+  const QRect part = PartOf(BeforeTurning(frame, turn), reader.size());
+  reader.setClipRect(part);
+  reader.setScaledSize(ScaledSize(turn.exchanged ? size.transposed() : size,
+                                  part.isNull() ? reader.size() : part.size(), mayGrow));
   const QImage image = reader.read();
-  return image.isNull() ? image
-                        : Upright(image, turn).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  if (image.isNull()) return {};
+  return {Upright(image, turn).convertToFormat(QImage::Format_ARGB32_Premultiplied),
+          type == PictureType::Jpeg};
 }
 
 }  // namespace
 
-QImage QtPictures::Of(const Document& document, const InlineBox& box, QSizeF size) {
+QtPicture QtPictures::Of(const Document& document, const InlineBox& box, QSizeF size) {
   const Key key{box.item, Bounded(size)};
-  if (const QImage* known = images_.object(key)) return *known;
-  QImage image = Decoded(ImageFileOf(document.Formats().items[box.item]), box.frame, key.size);
-  images_.insert(key, new QImage(image), 1 + (image.sizeInBytes() >> 10));
-  return image;
+  if (const QtPicture* known = pictures_.object(key)) return *known;
+  QtPicture picture =
+      Decoded(ImageFileOf(document.Formats().items[box.item]), box.frame, key.size, !forPaper);
+  pictures_.insert(key, new QtPicture(picture), 1 + (picture.image.sizeInBytes() >> 10));
+  return picture;
 }
 
 }  // namespace lumenote

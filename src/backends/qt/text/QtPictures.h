@@ -7,12 +7,19 @@
 
 namespace lumenote {
 
+struct QtPicture {
+  QImage image;             // null if it cannot be shown
+  bool photograph = false;  // came with losses
+};
+
 /// Decodes a picture when it is first painted at a size, and keeps as many as fit into some memory.
 class QtPictures {
  public:
-  /// What a box shows of its image, scaled to that size in pixels, or less if it would be huge;
-  /// a null image if it cannot be shown.
-  QImage Of(const Document& document, const InlineBox& box, QSizeF size);
+  /// Never gives more pixels than the note has: paper keeps them, and scales them itself.
+  bool forPaper = false;
+
+  /// What a box shows of its image, scaled to that size in pixels, or less if it would be huge.
+  QtPicture Of(const Document& document, const InlineBox& box, QSizeF size);
 
  private:
   struct Key {
@@ -25,7 +32,7 @@ class QtPictures {
   };
 
   static constexpr qsizetype kRoom = 96 << 10;  // kilobytes
-  QCache<Key, QImage> images_{kRoom};
+  QCache<Key, QtPicture> pictures_{kRoom};
 };
 
 }  // namespace lumenote
