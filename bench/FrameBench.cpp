@@ -47,6 +47,45 @@ std::string PictureNote(std::size_t bytes) {
          "\\par}";
 }
 
+constexpr int kFormats = 1000;
+
+/// A paragraph in which each letter has another format than the one before.
+std::string LettersNote() {
+  std::string rtf = "{\\rtf1";
+  for (int i = 0; i < 20 * kFormats; ++i) {
+    rtf += i % 2 == 0 ? "\\b " : "\\b0 ";
+    rtf += "plant "[i % 6];
+  }
+  return rtf + "\\par}";
+}
+
+/// A paragraph of words in sizes that differ.
+std::string SizesNote() {
+  std::string rtf = "{\\rtf1";
+  for (int i = 0; i < 2 * kFormats; ++i)
+    rtf += "\\fs" + std::to_string(10 + i % kFormats) + " mot ";
+  return rtf + "\\par}";
+}
+
+/// Words of several scripts, each in a font of its own.
+std::string ScriptsNote() {
+  constexpr const char* kWords[] = {"flos ",
+                                    "\\u1094?\\u1074?\\u1077?\\u1090? ",
+                                    "\\u945?\\u957?\\u952? ",
+                                    "\\u1508?\\u1512?\\u1495? ",
+                                    "\\u1586?\\u1607?\\u1585? ",
+                                    "\\u33457? ",
+                                    "\\u3603?\\u3629?\\u3585? "};
+  std::string rtf = "{\\rtf1{\\fonttbl";
+  for (int i = 0; i < 50; ++i)
+    rtf += "{\\f" + std::to_string(i) + " Font " + std::to_string(i) + ";}";
+  rtf += "}";
+  for (int i = 0; i < 20 * kFormats; ++i)
+    rtf += "\\f" + std::to_string(i % 50) + " " + kWords[i % std::size(kWords)] +
+           (i % 40 == 39 ? "\\par " : "");
+  return rtf + "\\par}";
+}
+
 /// A view of a note on a window that is shown.
 class Desk {
  public:
@@ -63,6 +102,7 @@ class Desk {
     const int before = view.frames;
     const std::clock_t start = std::clock();
     act();
+    view.viewport()->update(0, 0, 1, 1);
     while (view.frames == before) QCoreApplication::sendPostedEvents();
     return Milliseconds(start);
   }
@@ -206,5 +246,8 @@ int main(int argc, char** argv) {
   ForEachNote([&](NoteShape shape, int bytes, const std::string& name) {
     if (IsAsked(parts, name)) Measure(NoteSource(shape, bytes), name);
   });
+  if (IsAsked(parts, "letters/20k")) Measure(LettersNote(), "letters/20k");
+  if (IsAsked(parts, "sizes/1k")) Measure(SizesNote(), "sizes/1k");
+  if (IsAsked(parts, "scripts/100k")) Measure(ScriptsNote(), "scripts/100k");
   if (IsAsked(parts, "picture/20m")) Measure(PictureNote(20'000'000), "picture/20m");
 }

@@ -210,6 +210,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LayoutCase{"Indented", u"\\li600\\fi-300\\ri500 " + kWords},
                     LayoutCase{"Justified", u"\\qj\\fi400 " + Words(4000)},
                     LayoutCase{"Tabs", u"\\tx1500\\tqr\\tx3000 a\\tab b\\tab c " + kWords},
+                    LayoutCase{"Formats", Times(300, u"{\\b e}s\\tab t ")},
                     LayoutCase{"LineBreaks", kWords + u"\\line x\\line\\line " + kWords},
                     LayoutCase{"Sizes", u"\\fs40 " + kWords + u"\\fs16\\b " + kWords},
                     LayoutCase{"Hidden", kWords + u"{\\v " + kWords + u"}" + kWords},

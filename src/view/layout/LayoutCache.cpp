@@ -12,6 +12,8 @@ namespace {
 // Long paragraphs are laid out in pieces of about this many characters: few enough to make typing
 // cheap.
 constexpr Position kPieceLength = 800;
+// Nor do pieces have many more runs of a format and tabs, which take longer than characters.
+constexpr int kPieceRuns = 200;
 // Within this distance of a known line start, lines are laid out exactly from there; beyond it, a
 // line is assumed to start after some nearby space.
 constexpr Position kExactReach = 40 * kPieceLength;
@@ -44,14 +46,27 @@ const Piece& LayoutCache::Add(std::unique_ptr<Piece> piece) {
   return added;
 }
 
+/// How much text from `from` on makes a piece.
+Position LayoutCache::UsualLength(Position from, Position paragraphEnd) const {
+  const Position end = std::min(from + kPieceLength, paragraphEnd);
+  int runs = 0;
+  Position length = kPieceLength;
+  document_.ForEachRun(from, end, [&](Position at, TextView text, CharId) {
+    for (std::size_t i = 0; i < text.Size(); i = text.Find('\t', i) + 1)
+      if (++runs == kPieceRuns) length = at + static_cast<Position>(i) - from;
+  });
+  return length;
+}
+
 const Piece& LayoutCache::LayOutFrom(Position from, Position paragraphEnd) {
   const Iterator behind = FirstBehind(from);
   PieceSpan span{.from = from};
   if (behind != pieces_.end() && (*behind)->from < paragraphEnd) span.nextKnown = (*behind)->from;
   const bool nextIsNear = span.nextKnown >= 0 && span.nextKnown - from <= kPieceLength;
-  Position length = nextIsNear ? span.nextKnown - from + kPieceLength / 4 : kPieceLength;
+  Position length =
+      nextIsNear ? span.nextKnown - from + kPieceLength / 4 : UsualLength(from, paragraphEnd);
   for (;; length *= 2) {
-    span.complete = paragraphEnd - from <= length + kPieceLength / 2;
+    span.complete = paragraphEnd - from <= length + length / 2;
     span.to = span.complete ? paragraphEnd : document_.SnapBackward(from + length);
     if (auto piece = layouter_.LayOut(document_, span)) return Add(std::move(piece));
   }

@@ -38,6 +38,7 @@ class LayoutCache {
   void DropOldFormat(Position position);
   void DropRows(Position position);
   const Piece& Add(std::unique_ptr<Piece> piece);
+  Position UsualLength(Position from, Position paragraphEnd) const;
   const Piece& LayOutFrom(Position from, Position paragraphEnd);
   const Piece& LayOutTo(Position position);
   Position StartNear(Position position, Position paragraphStart);
