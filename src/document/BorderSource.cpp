@@ -109,6 +109,7 @@ class RowReader {
 };
 
 void RowReader::Take(const BorderWord& word) {
+  if (word.name == "trhdr") frame.heads = true;
   if (word.name == "trleft") frame.left = word.number;
   if (word.name == "trgaph") frame.gap = std::max(word.number, 0);
   if (word.name == "cellx") frame.cells.push_back(std::exchange(cell_, {}));

@@ -41,6 +41,7 @@ Borders ParagraphBorders(const FormatTables& tables, WordsId words);
 
 /// What a row definition states.
 struct RowFrame {
+  bool heads = false;          // its table, on each page
   int left = 0;                // of the first cell, twips
   int gap = 0;                 // between a cell's edge and its text
   std::vector<Borders> cells;  // those that have an edge

@@ -86,6 +86,15 @@ class Pdf(unittest.TestCase):
         image = self.run_it("pdfimages", "-list", "a.pdf").splitlines()[2].split()
         self.assertEqual((image[3:5], image[8]), (["2", "2"], "image"), "without losses")
 
+    def test_what_heads_a_table_is_on_each_page(self):
+        row = r"\trowd%s\clbrdrt\brdrs\brdrw60\cellx4000\pard\intbl %s\cell\row "
+        self.pdf(HEAD + row % (r"\trhdr", "esp\\'e8ce") + "".join(
+            row % ("", f"Carex {i}") for i in range(150)) + "}")
+        pages = self.pages()
+        self.assertGreater(len(pages), 2)
+        self.assertTrue(all(page.startswith("espèce Carex") for page in pages), pages)
+        self.assertEqual(re.findall(r"Carex (\d+)", " ".join(pages)), [str(i) for i in range(150)])
+
     def test_links_can_be_followed(self):
         link = r'{\field{\*\fldinst HYPERLINK "%s"}{\fldrslt %s}} '
         links = {r"https://a.example/\'e9)(b?c=d%26#e": r"page {\i enti\'e8re}",

@@ -12,7 +12,8 @@
 namespace lumenote {
 namespace {
 
-/// "!" begins a page, "+" stays with the band above, "~" precedes the space above.
+/// "!" begins a page, "+" stays with the band above, "~" precedes the space above, "^" the head's
+/// height.
 PageBand BandOf(std::string word) {
   PageBand band;
   band.opensPage = word.front() == '!';
@@ -21,6 +22,8 @@ PageBand BandOf(std::string word) {
   band.height = std::stod(word);
   if (const auto space = word.find('~'); space != word.npos)
     band.space = std::stod(word.substr(space + 1));
+  if (const auto head = word.find('^'); head != word.npos)
+    band.headHeight = std::stod(word.substr(head + 1));
   return band;
 }
 
@@ -30,6 +33,8 @@ TEST(PageBreaks, KeepBandsWholeAndTogether) {
 // space counts, but not at the top
 5 4~1 => 0 ¦ 5 4~2 => 0 1 ¦ 5 4~2 6 => 0 1
 5 4 +4 => 0 1 ¦ 4 +4 +4 +4 => 0 2 ¦ 1 4 +4 +4 => 0 1 3 ¦ 5 +2 +2 +2 1 => 0 3 ¦ 5 3 +2 +2 1 => 0 1
+// heads of tables
+2 6^2 2^2 6^2 2^2 1^2 => 0 3 5 ¦ 6^9 4 => 0 1
 // what is higher than a page
 20 => 0 ¦ 4 20 4 => 0 1 2 ¦ 4 +20 4 => 0 1 2
 )",
@@ -99,6 +104,29 @@ TEST(PageFlow, FillsPagesWithLines) {
   EXPECT_EQ(ToUtf8(note.Pages({1, 11})), "bcdefg");
   Printed endless(std::string(50'000, 'a'));
   EXPECT_EQ(std::ranges::count(endless.Pages({0, 50'000}), u'/'), 999);
+}
+
+TEST(PageFlow, RepeatsTheHeadsOfTables) {
+  // "H" begins a row that heads its table, "R" another one
+  for (const auto& [words, pages] : Rows<2>(R"(
+Ha;Rb;Rc;Rd;Re;Rf;Rg;Rh;Ri; => abcd/aefg/ahi ¦ Ha;Hb;Rc;Rd;Re;Rf; => abcd/abef
+x\par y\par z\par w\par Ha;Rb; => xyzw/ab ¦ Ra;Rb;Rc;Rd;Re;Rf; => abcd/ef
+Ha;Rb;Rc;Rd;x\par y => abcd/xy ¦ Ha;Rb;Hc;Rd;Re;Rf; => abcd/cef
+Ha;Rb\line c\line d\line e\line f;Rg; => ab{c{d{/ae{fg
+// a head takes half of the page at most, and cuts no row
+Ha;Hb;Hc;Rd;Re;Rf; => abcd/ef ¦ Ha;Rb\line c\line d\line e;Rf; => a/b{c{d{e/af
+)",
+                                            " => ")) {
+    std::string note;
+    for (const char c : words)
+      if (c == 'H' || c == 'R')
+        note += c == 'H' ? "\\trowd\\trhdr\\cellx1400\\intbl " : "\\trowd\\cellx1400\\intbl ";
+      else
+        note += c == ';' ? std::string("\\cell\\row\\pard ") : std::string(1, c);
+    Printed printed(note);
+    const std::u16string shown = printed.Pages({0, printed.Content().Length()});
+    EXPECT_EQ(ToUtf8(ReplaceEvery(shown, u"\v", u"{")), pages) << words;
+  }
 }
 
 TEST(Paper, IsWhatTheNoteStates) {

@@ -154,12 +154,13 @@ TEST_F(RowsTest, AreAsWideAsDefined) {
 }
 
 // The parts behind a paragraph as "left,top,right,bottom colour".
-std::string Parts(Window& window, int paragraph) {
+std::string Parts(Window& window, int paragraph, const RowOnPage& page = {},
+                  const BackdropColours& colours = {}) {
   const Document& document = window.surface.Content();
   const Piece& piece = window.pane.Cache().At(document.ParagraphStart(paragraph));
   std::ostringstream out;
   for (const auto& [area, colour, line] :
-       BackdropOf(window.layouter, document, piece, {-9, 0, 400, 200}, {}))
+       BackdropOf(window.layouter, document, piece, {-9, 0, 400, 200}, colours, page))
     out << area.left << ',' << area.top << ',' << area.right << ',' << area.bottom << ' '
         << std::hex << colour << std::dec << "; ";
   return out.str();
@@ -189,6 +190,26 @@ TEST_F(RowsTest, HaveLinesAndGrounds) {
     window.view.Settle();
     EXPECT_EQ(Parts(window, paragraph), parts) << ToUtf8(source);
   }
+}
+
+TEST_F(RowsTest, HaveLinesWhereAPageCutsThem) {
+  struct Cut {
+    RowOnPage page;
+    const char* parts;
+  };
+  const Cut cuts[] = {{{}, "0,26,60,28 0; "},
+                      {{.top = 0}, "0,0,60,2 0; 0,26,60,28 0; "},
+                      {{.top = 9}, "0,9,60,11 0; 0,26,60,28 0; "},
+                      {{.top = 9, .bottom = 20}, "0,9,60,11 0; 0,18,60,20 0; "},
+                      {{.top = 30, .bottom = 40}, ""}};
+  const std::u16string row =
+      u"\\trowd\\clbrdrt\\brdrs\\clbrdrb\\brdrs\\cellx600\\intbl a\\cell\\row";
+  window.surface.TextRTF(u"{\\rtf1" + row + row + u"}");
+  window.view.Settle();
+  for (const auto& [page, parts] : cuts) EXPECT_EQ(Parts(window, 1, page), parts) << page.top;
+  window.surface.TextRTF(u"{\\rtf1\\trowd\\cellx600\\intbl a\\cell\\row" + row + u"}");
+  window.view.Settle();
+  EXPECT_EQ(Parts(window, 1, {}, {.grid = false}), "0,0,60,2 0; 0,26,60,28 0; ");
 }
 
 TEST_F(RowsTest, CaretKeysStayInTheirColumn) {

@@ -20,8 +20,9 @@ const Kept* RowAbove(const Document& document, const Piece& piece) {
 }
 
 /// Where lines of a cell are, on whole pixels.
-PixelRect PlaceOf(const PieceCell& cell) {
-  return {std::round(cell.left), cell.top, std::round(cell.right), cell.bottom};
+PixelRect PlaceOf(const PieceCell& cell, const RowOnPage& page) {
+  return {std::round(cell.left), std::max(cell.top, page.top), std::round(cell.right),
+          std::min(cell.bottom, page.bottom)};
 }
 
 void PaintGrid(BackdropPainter& painter, const PixelRect& cell, bool top) {
@@ -55,33 +56,38 @@ std::optional<ItemId> RowBefore(const Document& document, const Piece& piece,
 }
 
 /// Whether a row draws the line between itself and the row above, which draws its own below it.
-bool DrawsTop(const Document& document, const Piece& piece, const PieceCell& first) {
+bool DrawsTop(const BackdropPainter& painter, const Document& document, const Piece& piece,
+              const PieceCell& first) {
   const auto above = RowBefore(document, piece, first);
   if (!above) return true;
   const RowFrame frame = RowFrameOf(document.Formats(), *above);
-  return frame.IsLined() && std::ranges::all_of(frame.cells, [](const Borders& cell) {
+  return (frame.IsLined() || !painter.ShowsGrid()) &&
+         std::ranges::all_of(frame.cells, [](const Borders& cell) {
            return cell.sides[Borders::Bottom].style == BorderLine::Style::None;
          });
 }
 
-void PaintRow(BackdropPainter& painter, const Document& document, const Piece& piece, int row) {
+void PaintRow(BackdropPainter& painter, const Document& document, const Piece& piece, int row,
+              const RowOnPage& page) {
   const RowFrame frame = RowFrameOf(document.Formats(), piece.rows[static_cast<std::size_t>(row)]);
   std::vector<const PieceCell*> cells;
   for (const PieceCell& cell : piece.cells)
     if (cell.row == row) cells.push_back(&cell);
-  const bool top = DrawsTop(document, piece, *cells.front());
+  const PixelRect first = PlaceOf(*cells.front(), page);
+  if (first.bottom <= first.top) return;
+  const bool top = first.top == page.top || DrawsTop(painter, document, piece, *cells.front());
   const bool lined = frame.IsLined();
   const std::size_t skipped = frame.cells.size() - std::min(frame.cells.size(), cells.size());
   const auto bordersOf = [&](std::size_t cell) {
     return skipped + cell < frame.cells.size() ? frame.cells[skipped + cell] : Borders();
   };
   for (std::size_t i = 0; i < cells.size(); ++i)
-    painter.Shade(PlaceOf(*cells[i]), bordersOf(i).shading);
+    painter.Shade(PlaceOf(*cells[i], page), bordersOf(i).shading);
   for (std::size_t i = 0; i < cells.size(); ++i)
     if (lined)
-      PaintCell(painter, bordersOf(i), PlaceOf(*cells[i]), top);
+      PaintCell(painter, bordersOf(i), PlaceOf(*cells[i], page), top);
     else
-      PaintGrid(painter, PlaceOf(*cells[i]), top);
+      PaintGrid(painter, PlaceOf(*cells[i], page), top);
 }
 
 // --- paragraphs
@@ -156,9 +162,10 @@ std::uint64_t BackdropLook(const Document& document, const Piece& piece) {
 
 std::vector<BackdropPart> BackdropOf(const TextLayouter& layouter, const Document& document,
                                      const Piece& piece, const PixelRect& clip,
-                                     const BackdropColours& colours) {
+                                     const BackdropColours& colours, const RowOnPage& page) {
   BackdropPainter painter(layouter, document, clip, colours);
-  for (int row = 0; row < std::ssize(piece.rows); ++row) PaintRow(painter, document, piece, row);
+  for (int row = 0; row < std::ssize(piece.rows); ++row)
+    PaintRow(painter, document, piece, row, page);
   for (const PieceFrame& frame : piece.frames) PaintFrame(painter, document.Formats(), frame);
   if (const auto frame = FrameAround(layouter, document, piece))
     PaintFrame(painter, document.Formats(), *frame);

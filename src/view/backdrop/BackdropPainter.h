@@ -37,6 +37,7 @@ class BackdropPainter {
   void Down(const BorderLine& line, double top, double bottom, double left);
   /// A line that marks a cell without lines of its own.
   void Grid(const PixelRect& area);
+  bool ShowsGrid() const { return colours_.grid; }
   double Thickness(const BorderLine& line) const { return ThicknessOf(layouter_, line); }
 
   std::vector<BackdropPart> parts;

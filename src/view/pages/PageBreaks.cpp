@@ -18,7 +18,8 @@ std::vector<std::size_t> PageStarts(const std::vector<PageBand>& bands, double h
   double used = 0;
   for (std::size_t i = 0; i < bands.size(); ++i) {
     const std::size_t first = starts.back();
-    used = i == first ? bands[i].height : used + bands[i].space + bands[i].height;
+    used = i == first ? bands[i].headHeight + bands[i].height
+                      : used + bands[i].space + bands[i].height;
     if (i == first || (!bands[i].opensPage && used <= height)) continue;
     starts.push_back(bands[i].opensPage ? i : BreakBefore(bands, first, i));
     i = starts.back() - 1;

@@ -15,7 +15,9 @@ struct PageBand {
   double space = 0;    // above, but not at the top of a page
   double height = 0;
   bool opensPage = false;
-  bool stays = false;  // on the page of the band above, if a page can hold both
+  bool stays = false;      // on the page of the band above, if a page can hold both
+  double headHeight = 0;   // of the rows that head its table, above it at the top of a page
+  Position headStart = 0;  // where they begin
 };
 
 /// The first band of each page that holds `height`; at least one page, and no page without a band

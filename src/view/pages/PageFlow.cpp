@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "document/BorderSource.h"
 
 namespace lumenote {
 
@@ -34,7 +37,17 @@ struct PageFlow::Progress {
   bool pageEnded = false;  // with the last paragraph
   bool held = false;       // the last paragraph stays with the next
   int line = 0;            // in the paragraph
+  bool heading = false;    // the last row heads its table
+  double headHeight = 0;   // of the rows that head the table
+  Position headStart = 0;
 };
+
+RowOnPage PageFlow::Part::AsRow() const {
+  RowOnPage row;
+  if (top == 0 || y < top) row.top = top - y;
+  if (bottom < y + piece.height) row.bottom = bottom - y;
+  return row;
+}
 
 PageFlow::PageFlow(const Document& document, Selection range, TextLayouter& layouter, double room)
     : document_(document), range_(range), layouter_(layouter), room_(room) {
@@ -78,12 +91,13 @@ void PageFlow::AddPiece(const Piece& piece, Progress& progress) {
   const FormatTables& tables = document_.Formats();
   const PageWishes wishes = PageWishesOf(tables, tables.paragraphs[piece.format]);
   const double top = SpaceAbove(piece);
-  const PageBand whole{.start = piece.from,
-                       .space = progress.space + top,
-                       .height = piece.height - SpaceBelow(piece) - top,
-                       .opensPage = piece.opens && (progress.pageEnded || wishes.newPage),
-                       .stays = piece.opens && progress.held};
+  PageBand whole{.start = piece.from,
+                 .space = progress.space + top,
+                 .height = piece.height - SpaceBelow(piece) - top,
+                 .opensPage = piece.opens && (progress.pageEnded || wishes.newPage),
+                 .stays = piece.opens && progress.held};
   if (piece.opens) progress.line = 0;
+  AddHead(piece, whole, progress);
   if (piece.cells.empty())
     AddLines(piece, whole, wishes, progress.line);
   else
@@ -112,6 +126,27 @@ void PageFlow::AddLines(const Piece& piece, const PageBand& whole, const PageWis
   }
 }
 
+// A head that takes more than half of the page, or cuts a row that fits, is not repeated.
+void PageFlow::AddHead(const Piece& row, PageBand& band, Progress& progress) const {
+  const bool above = std::exchange(progress.heading, false);
+  if (row.cells.empty()) {
+    progress.headHeight = 0;
+    return;
+  }
+  band.stays = band.stays || above;
+  if (RowFrameOf(document_.Formats(), row.rows.front()).heads) {
+    if (!above) progress.headStart = row.from;
+    progress.headHeight = above ? progress.headHeight + row.height : row.height;
+    progress.heading = true;
+    return;
+  }
+  const double height = progress.headHeight;
+  const bool isCut = band.height > room_;
+  if (height > room_ / 2 || (!isCut && height + band.height > room_)) return;
+  band.headStart = progress.headStart;
+  band.headHeight = height;
+}
+
 void PageFlow::AddRow(const Piece& row, const PageBand& whole) {
   PageBand band = whole;
   double top = SpaceAbove(row);
@@ -121,10 +156,26 @@ void PageFlow::AddRow(const Piece& row, const PageBand& whole) {
       if (cut <= top + kSlack) continue;
       band.height = cut - top;
       bands_.push_back(band);
-      band = {.start = row.from, .offset = cut, .height = end - cut};
+      band = {.start = row.from,
+              .offset = cut,
+              .height = end - cut,
+              .headHeight = whole.headHeight,
+              .headStart = whole.headStart};
       top = cut;
     }
   bands_.push_back(band);
+}
+
+double PageFlow::VisitHead(const PageBand& band,
+                           const std::function<void(const Part&)>& visit) const {
+  double y = 0;
+  for (Position at = band.headStart; y < band.headHeight - kSlack;) {
+    const auto row = LayOut(at, at);
+    visit({*row, y, y, y + row->height});
+    y += row->height;
+    at = Behind(*row);
+  }
+  return band.headHeight;
 }
 
 void PageFlow::ForEachPart(std::size_t first, std::size_t last,
@@ -134,13 +185,14 @@ void PageFlow::ForEachPart(std::size_t first, std::size_t last,
   const Position stop = isLast ? range_.end : bands_[last].start;
   const double cut = isLast ? 0 : bands_[last].offset;
   Position at = bands_[first].start;
-  double y = 0;
+  const double head = VisitHead(bands_[first], visit);
+  double y = head;
   do {
     const auto piece = LayOut(at, stop);
     if (at == bands_[first].start)
-      y = bands_[first].offset > 0 ? -bands_[first].offset : -SpaceAbove(*piece);
+      y -= bands_[first].offset > 0 ? bands_[first].offset : SpaceAbove(*piece);
     const double bottom = cut > 0 && piece->from == stop ? cut : piece->height;
-    visit({*piece, y, std::max(y, 0.0), y + bottom});
+    visit({*piece, y, std::max(y, head), y + bottom});
     y += piece->height;
     at = Behind(*piece);
   } while (at < stop || (cut > 0 && at == stop));

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "document/PageSource.h"
+#include "view/backdrop/Backdrop.h"
 #include "view/layout/TextLayouter.h"
 #include "view/pages/PageBreaks.h"
 
@@ -18,13 +19,17 @@ class PageFlow {
 
   const std::vector<PageBand>& Bands() const { return bands_; }
 
-  /// A piece on a page: `y` is its top, possibly above what is seen of it, between `top` and
-  /// `bottom`. All are pixels from the first band's top.
+  /// A piece on a page, on which those of rows that head a table stand again: `y` is its top,
+  /// possibly above what is seen of it, between `top` and `bottom`. All are pixels from the first
+  /// band's top.
   struct Part {
     const Piece& piece;
     double y = 0;
     double top = 0;
     double bottom = 0;
+
+    /// From the piece's top.
+    RowOnPage AsRow() const;
   };
   /// Visits the pieces of the bands from `first` up to, not including, `last`. A part is valid
   /// during the call only.
@@ -39,6 +44,8 @@ class PageFlow {
   void AddPiece(const Piece& piece, Progress& progress);
   void AddLines(const Piece& piece, const PageBand& whole, const PageWishes& wishes, int& number);
   void AddRow(const Piece& row, const PageBand& whole);
+  void AddHead(const Piece& row, PageBand& band, Progress& progress) const;
+  double VisitHead(const PageBand& band, const std::function<void(const Part&)>& visit) const;
   double SpaceAbove(const Piece& piece) const;
   double SpaceBelow(const Piece& piece) const;
 

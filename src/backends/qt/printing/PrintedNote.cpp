@@ -87,10 +87,11 @@ double PrintedNote::PaintText(QPainter& painter, Text& text, std::size_t first, 
     const auto& piece = static_cast<const QtPiece&>(part.piece);
     const QPointF origin(0, y + part.y);
     const QRectF area(left, y + part.top, Dots(paper_.width), part.bottom - part.top);
-    const bool cut = part.y < 0 || part.bottom < part.y + piece.height;
+    const bool cut = part.y < part.top || part.bottom < part.y + piece.height;
+    const RowOnPage row = part.AsRow();
     painter.save();
     if (cut && !piece.cells.empty()) painter.setClipRect(area);
-    pieces.PaintBackdrop(piece, origin, area, false);
+    pieces.PaintBackdrop(piece, origin, area, &row);
     pieces.PaintText(piece, origin, area);
     pieces.PaintOver(piece, origin, area, {});
     painter.restore();

@@ -12,6 +12,7 @@ namespace {
 constexpr double kTint = 0.45;      // opacity of the selection over a picture
 constexpr double kFaint = 0.08;     // of the ground of a label
 constexpr double kLabelMargin = 3;  // pixels
+constexpr double kScreenDots = 96;  // per inch, where labels have their size
 constexpr double kLeastLabel = 9;   // a lower or narrower box has no text
 
 }  // namespace
@@ -32,9 +33,13 @@ void BoxPainter::Paint(const InlineBox& box, const QRectF& place, bool selected)
   painter_.fillRect(target, tint);
 }
 
-void BoxPainter::PaintLabel(ItemId item, const QRectF& place) {
+void BoxPainter::PaintLabel(ItemId item, const QRectF& wanted) {
   QColor ink = palette_.color(QPalette::Text);
+  const double scale = pictures_.forPaper ? painter_.device()->logicalDpiY() / kScreenDots : 1;
+  const QRectF place({}, wanted.size() / scale);
   painter_.save();
+  painter_.translate(wanted.topLeft());
+  painter_.scale(scale, scale);
   ink.setAlphaF(kFaint);
   painter_.fillRect(place, ink);
   ink.setAlphaF(1 - kTint);

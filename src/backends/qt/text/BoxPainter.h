@@ -19,7 +19,7 @@ class BoxPainter {
   void Paint(const InlineBox& box, const QRectF& place, bool selected);
 
  private:
-  void PaintLabel(ItemId item, const QRectF& place);
+  void PaintLabel(ItemId item, const QRectF& wanted);
 
   QPainter& painter_;
   const Document& document_;

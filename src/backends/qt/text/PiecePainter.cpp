@@ -9,7 +9,6 @@
 #include "backends/qt/toolkit/Colours.h"
 #include "backends/qt/toolkit/DeviceLines.h"
 #include "backends/qt/toolkit/Pixels.h"
-#include "view/backdrop/Backdrop.h"
 #include "view/layout/InlineBoxes.h"
 
 namespace lumenote {
@@ -40,13 +39,14 @@ QRectF OnSamePixels(const QPainter& painter, const QRectF& line) {
 }  // namespace
 
 void PiecePainter::PaintBackdrop(const Piece& piece, QPointF origin, const QRectF& area,
-                                 bool grid) {
+                                 const RowOnPage* page) {
   const PixelRect seen{area.left(), area.top(), area.right(), area.bottom()};
   const BackdropColours colours{.ink = ToBgr(palette_.color(QPalette::Text)),
                                 .ground = ToBgr(palette_.color(QPalette::Base)),
-                                .grid = grid};
+                                .grid = page == nullptr};
   for (const BackdropPart& part :
-       BackdropOf(layouter_, document_, piece, seen.MovedBy(-origin.x(), -origin.y()), colours)) {
+       BackdropOf(layouter_, document_, piece, seen.MovedBy(-origin.x(), -origin.y()), colours,
+                  page ? *page : RowOnPage())) {
     const QRectF place = ToQRect(part.area.MovedBy(origin.x(), origin.y()));
     painter_.fillRect(part.line ? OnSamePixels(painter_, place) : OnDevicePixels(painter_, place),
                       FromBgr(part.colour));

@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include "backends/qt/text/QtLayouter.h"
+#include "view/backdrop/Backdrop.h"
 
 namespace lumenote {
 
@@ -16,8 +17,10 @@ class PiecePainter {
                const QPalette& palette)
       : painter_(painter), document_(document), layouter_(layouter), palette_(palette) {}
 
-  /// `grid`: lines mark table cells without lines of their own.
-  void PaintBackdrop(const Piece& piece, QPointF origin, const QRectF& area, bool grid);
+  /// `page`: what it shows of a row; null on a screen, where lines mark table cells without lines
+  /// of their own.
+  void PaintBackdrop(const Piece& piece, QPointF origin, const QRectF& area,
+                     const RowOnPage* page = nullptr);
   void PaintText(const QtPiece& piece, QPointF origin, const QRectF& area);
   /// Boxes and decorations; boxes in `selection` are tinted.
   void PaintOver(const QtPiece& piece, QPointF origin, const QRectF& area, Selection selection);

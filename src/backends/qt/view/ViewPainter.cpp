@@ -24,7 +24,7 @@ void ViewPainter::Paint(QPainter& painter, const QRectF& area) {
 void ViewPainter::PaintPiece(QPainter& painter, const ShownPiece& item, const QRectF& area) {
   const QPointF origin(pane_.TextLeft(), item.y);
   PiecePainter pieces(painter, pane_.Content(), layouter_, state_.palette);
-  pieces.PaintBackdrop(*item.piece, origin, area, true);
+  pieces.PaintBackdrop(*item.piece, origin, area);
   if (const auto stripe = BreakBoxOf(pane_, item, state_.marks.selection))
     painter.fillRect(ToQRect(*stripe), state_.palette.highlight());
   pieces.PaintText(PieceOf(item), origin, area);
