@@ -92,6 +92,15 @@ PageWishes PageWishesOf(const FormatTables& tables, const ParaFormat& paragraph)
   return wishes;
 }
 
+bool BeginsPage(const Document& document, Position position) {
+  bool begins = false;
+  document.Formats().items.ForEach(KeptAt(document, position).before, [&](const KeptItem& item) {
+    begins = begins || item.kind == KeptItem::Kind::PageBreak ||
+             (item.kind == KeptItem::Kind::SectionBreak && !GoesOn(document, position));
+  });
+  return begins;
+}
+
 bool EndsPage(const Document& document, Position position) {
   const Position end = document.ParagraphEnd(document.ParagraphOf(position));
   const Kept& kept = KeptAt(document, end);

@@ -34,6 +34,10 @@ struct PageWishes {
 };
 PageWishes PageWishesOf(const FormatTables& tables, const ParaFormat& paragraph);
 
+/// Whether a page begins with the paragraph that starts at `position`, by a break that ends no
+/// paragraph of its own.
+bool BeginsPage(const Document& document, Position position);
+
 /// Whether a page ends with the paragraph that holds `position`.
 bool EndsPage(const Document& document, Position position);
 

@@ -95,6 +95,10 @@ class Pdf(unittest.TestCase):
         self.assertTrue(all(page.startswith("espèce Carex") for page in pages), pages)
         self.assertEqual(re.findall(r"Carex (\d+)", " ".join(pages)), [str(i) for i in range(150)])
 
+    def test_a_table_wider_than_the_paper_is_all_there(self):
+        self.pdf(HEAD + r"\trowd\cellx9000\cellx18000\cellx27000\intbl un\cell deux\cell trois\cell\row}")
+        self.assertEqual(self.pages(), ["un deux trois 1 / 1"])
+
     def test_links_can_be_followed(self):
         link = r'{\field{\*\fldinst HYPERLINK "%s"}{\fldrslt %s}} '
         links = {r"https://a.example/\'e9)(b?c=d%26#e": r"page {\i enti\'e8re}",

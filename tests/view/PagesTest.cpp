@@ -90,6 +90,9 @@ TEST(PageFlow, FillsPagesWithLines) {
  a\par b\par c\par\keep\nowidctlpar aaaaaaaa bbbbbbbb cccccccc => abc/aaaaaaaa bbbbbbbb cccccccc
  a\par b\par c\par d\par\keepn e\par\pard f => abcd/ef
  a\par\pagebb b => a/b ¦  a\page b => a/b ¦  a\sect b => a/b ¦  a\sect\sectd\sbknone b => ab
+ a\par\page b => a/b ¦  a\par\page\par b => a/b ¦ \page a => a ¦  a\par\column b => ab
+ a\par\sect\sectd b => a/b ¦  a\par\sect\sectd\sbknone b => ab
+ a\par\page\trowd\cellx700\intbl b\cell\row => a/b
  a\par\sb800 b\par\pard c\par d\par e\par => a/bcde ¦  a\par\sb600\sa200 b\par\pard c => ab/c
 \trowd\cellx1400\intbl a\line b\line c\line d\line e\line f\cell\row => a{b{c{d{e{/f
  a\par\trowd\cellx700\cellx1400\intbl b\line c\line d\line e\cell f\cell\row\pard g => a/b{c{d{e>f/g

@@ -110,7 +110,7 @@ void EdgeSetter::SetRow(const std::vector<CellBox*>& cells, ItemId definition) c
     left = std::max(right, left + least);
     cell->right = from + left;
   }
-  if (around) Fit(cells, from, room);
+  Fit(cells, from, around ? room : layouter_.WidestTable());
   const double padding = std::round(layouter_.Pixels(std::max(frame.gap, kLeastPadding)));
   for (CellBox* cell : cells)
     cell->padding = std::min(padding, std::floor((cell->right - cell->left) / 4));

@@ -1,5 +1,6 @@
 // Lays out paragraphs with the machine's fonts; realised by each backend.
 #pragma once
+#include <limits>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -53,6 +54,9 @@ class TextLayouter {
   /// The most that a box in a line may be high, in twips.
   double Tallest() const { return tallest_; }
   void Tallest(double twips) { tallest_ = twips; }
+  /// How far a table may reach, in pixels from the text's left edge; a wider one gets narrower.
+  double WidestTable() const { return widestTable_; }
+  void WidestTable(double pixels) { widestTable_ = pixels; }
   const Composition& Composed() const { return composed_; }
   void Composed(Composition text) { composed_ = std::move(text); }
   /// Those that the boxes of footnotes show.
@@ -84,6 +88,7 @@ class TextLayouter {
   double zoom_ = 1;
   double scale_ = 1;
   double tallest_ = kMaxTwips;
+  double widestTable_ = std::numeric_limits<double>::infinity();
   Composition composed_;
   mutable NoteNumbers notes_;                                // a cache
   mutable std::unordered_map<ItemId, PictureFrame> frames_;  // likewise

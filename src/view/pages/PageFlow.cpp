@@ -94,7 +94,8 @@ void PageFlow::AddPiece(const Piece& piece, Progress& progress) {
   PageBand whole{.start = piece.from,
                  .space = progress.space + top,
                  .height = piece.height - SpaceBelow(piece) - top,
-                 .opensPage = piece.opens && (progress.pageEnded || wishes.newPage),
+                 .opensPage = piece.opens && (progress.pageEnded || wishes.newPage ||
+                                              BeginsPage(document_, piece.from)),
                  .stays = piece.opens && progress.held};
   if (piece.opens) progress.line = 0;
   AddHead(piece, whole, progress);

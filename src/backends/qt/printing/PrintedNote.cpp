@@ -16,6 +16,7 @@ namespace {
 
 constexpr double kScreenDots = 96;    // per inch, of a layouter without zoom
 constexpr double kTallestBox = 0.95;  // of a page; its line has a descent, too
+constexpr double kPartOfMargin = 2;   // that tables may take
 constexpr double kRuleSpace = 240;    // twips above the first footnote
 constexpr double kRuleLength = 2880;
 constexpr double kRuleWidth = 10;
@@ -36,6 +37,8 @@ PrintedNote::Text::Text(const Document& content, Selection range, const PrintedN
         layouter.ForPaper();
         layouter.Zoom(note.dotsPerInch_ / kScreenDots);
         layouter.Width(note.Dots(note.paper_.TextWidth()));
+        layouter.WidestTable(
+            note.Dots(note.paper_.TextWidth() + note.paper_.right / kPartOfMargin));
         layouter.Tallest(note.paper_.TextHeight() * kTallestBox);
         return {content, range, layouter, note.Dots(note.paper_.TextHeight())};
       }()) {}
