@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/RuntimeError.h"
+#include "base/Strings.h"
 #include "document/Search.h"
 #include "surface/Scan.h"
 
@@ -90,11 +91,14 @@ Position DocumentSurface::ReplaceAll(std::u16string_view text, std::u16string_vi
                                      int options, Position most) {
   if (const auto count = text_.ReplaceAll(text, replacement, SearchOf(options), most))
     return *count;
+  const auto added = static_cast<Position>(WithCrLf(replacement).size());
   Position count = 0;
   AsOneStep(*this, [&] {
     for (Position start = 0; Find(text, start, options) != -1 && ++count <= most;) {
+      const Position expected = TextLength() - SelLength() + added;
       start = SelStart() + SelLength();
       SelText(replacement);
+      start += TextLength() - expected;  // what of the match stayed
     }
   });
   return count;

@@ -50,7 +50,9 @@ Position OneAfterAnother(DocumentSurface& surface, std::u16string_view text,
   const EditGroup group(surface);
   for (Position start = 0; surface.Find(text, start, options) != -1 && ++count <= most;) {
     start = surface.SelStart() + surface.SelLength();
+    const Position length = surface.TextLength() - surface.SelLength();
     surface.SelText(replacement);
+    start += surface.TextLength() - length - static_cast<Position>(replacement.size());
   }
   return count;
 }
@@ -95,6 +97,14 @@ TEST(ReplaceAll, IsOneChangeWhereOnePassWillDo) {
   EXPECT_EQ(bench.surface.SelText(), u"trois");
   EXPECT_EQ(bench.surface.ReplaceAll(u"quatre", u"", 0, 9), 0);
   EXPECT_EQ(changes, 2);
+}
+
+TEST(ReplaceAll, PassesOverTheEndsOfCells) {
+  UserBench bench;
+  bench.surface.TextRTF(
+      u"{\\rtf1\\trowd\\cellx900\\cellx1800\\intbl a\\cell b\\cell\\row\\pard c\\tab d}");
+  EXPECT_EQ(bench.surface.ReplaceAll(u"\t", u";", 0, 9), 2);
+  EXPECT_EQ(bench.surface.Text(), u"a;\tb\r\nc;d");
 }
 
 }  // namespace

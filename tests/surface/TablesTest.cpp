@@ -105,5 +105,17 @@ TEST_F(Tables, KeysLeaveTheirCells) {
   }
 }
 
+TEST_F(Tables, TheProgramsTextLeavesCellsAsTypingDoes) {
+  int typed = 0;
+  for (const auto& [before, keys, after] : Rows16<3>(DataFile("tables.rows"), " => ")) {
+    if (keys != u"x" && keys != u"Delete") continue;
+    Open(before);
+    surface.SelText(keys == u"x" ? keys : u"");
+    EXPECT_EQ(ToUtf8(Result(before)), ToUtf8(after)) << ToUtf8(before);
+    ++typed;
+  }
+  EXPECT_GT(typed, 20);
+}
+
 }  // namespace
 }  // namespace lumenote

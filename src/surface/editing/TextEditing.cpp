@@ -49,10 +49,17 @@ void TextEditing::ReplaceSelection(UndoKind kind, std::u16string_view text) {
 
 void TextEditing::ReplaceSelection(UndoKind kind, const Fragment& fragment) {
   const Selection old = core_.Selected();
+  ReplaceTexts(kind, FindCellTexts(core_.Content(), old, Remains::Text), fragment);
+}
+
+void TextEditing::ReplaceWhole(const Fragment& fragment) {
+  ReplaceTexts(UndoKind::Unknown, {{core_.Selected()}}, fragment);
+}
+
+void TextEditing::ReplaceTexts(UndoKind kind, const CellTexts& texts, const Fragment& fragment) {
   core_.Edit(kind, [&] {
-    TakeTables(fragment, old.start);
-    const Selection first = RemoveBehindFirst(TextsOf(kind, old, Remains::Text));
-    const Position at = Put(kind, first, {fragment.leaves, {}});
+    TakeTables(fragment, texts.parts.front().start);
+    const Position at = Put(kind, RemoveBehindFirst(texts), {fragment.leaves, {}});
     core_.Place(at + fragment.Length(), at + fragment.Length());
   });
 }
@@ -91,11 +98,6 @@ void TextEditing::ReplaceAroundKept(std::u16string_view text) {
     const Position behind = old.start + static_cast<Position>(text.size());
     core_.Place(behind, behind);
   });
-}
-
-CellTexts TextEditing::TextsOf(UndoKind kind, Selection range, Remains remains) const {
-  if (kind == UndoKind::Unknown) return {{range}};
-  return FindCellTexts(core_.Content(), range, remains);
 }
 
 void TextEditing::Remove(const CellTexts& texts) {
@@ -179,7 +181,7 @@ void TextEditing::DeleteSelection(UndoKind kind) {
   const Selection old = core_.Selected();
   const CharFormat format = core_.InsertionFormat();
   core_.Edit(kind, [&] {
-    Remove(TextsOf(kind, old, Remains::Nothing));
+    Remove(FindCellTexts(core_.Content(), old, Remains::Nothing));
     core_.Place(old.start, old.start, format);
   });
 }
@@ -247,7 +249,7 @@ void TextEditing::TypeBreak() {
   core_.Edit(UndoKind::Typing, [&] {
     const Position behind = old.start + static_cast<Position>(kBreak.size());
     const Fragment typed = Plain(kBreak);
-    const Selection first = RemoveBehindFirst(TextsOf(UndoKind::Typing, old, Remains::Text));
+    const Selection first = RemoveBehindFirst(FindCellTexts(core_.Content(), old, Remains::Text));
     ReplaceRange(first.start, first.end, typed);
     core_.Place(behind, behind, format);
   });
@@ -267,7 +269,7 @@ void TextEditing::MoveSelection(Position target, bool copy) {
   const bool inRows = row && row->start > old.start && row->start < old.end;
   if (inRows && BeginsWithRow(moved, core_.Formats())) return;
   core_.Edit(UndoKind::DragDrop, [&] {
-    CellTexts texts = TextsOf(UndoKind::DragDrop, old, Remains::Nothing);
+    CellTexts texts = FindCellTexts(core_.Content(), old, Remains::Nothing);
     const Position before = document.Length();
     Position at = Put(UndoKind::DragDrop, {target, target}, moved);
     const Position length = document.Length();

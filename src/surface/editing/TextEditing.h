@@ -12,9 +12,10 @@
 namespace lumenote {
 
 /// Each member is one command and one undo step of its kind. A paragraph that results from joining
-/// keeps the format of the first one, unless that was removed entirely. What the user removes
-/// leaves the cells of tables where they are (`FindCellTexts`); the program (kind Unknown) removes
-/// all it says, but for what its text says again (`CutAroundKept`).
+/// keeps the format of the first one, unless that was removed entirely. The cells of tables stay
+/// where they are (`FindCellTexts`), and with the program's texts (kind Unknown) what they say
+/// again
+/// (`CutAroundKept`).
 class TextEditing {
  public:
   explicit TextEditing(EditingCore& core) : core_(core) {}
@@ -23,6 +24,8 @@ class TextEditing {
   /// with a mark brings the note another head.
   void ReplaceSelection(UndoKind kind, std::u16string_view text);
   void ReplaceSelection(UndoKind kind, const Fragment& fragment);
+  /// Replaces all of the selection, cells included, by what the program brings.
+  void ReplaceWhole(const Fragment& fragment);
   /// Text typed next takes the format of the first character deleted.
   void DeleteSelection(UndoKind kind);
   void Delete(UndoKind kind, Position from, Position to);
@@ -48,7 +51,7 @@ class TextEditing {
   void TakeTables(const Fragment& fragment, Position at);
   Position Put(UndoKind kind, Selection range, const Fragment& fragment);
   void ReplaceAroundKept(std::u16string_view text);
-  CellTexts TextsOf(UndoKind kind, Selection range, Remains remains) const;
+  void ReplaceTexts(UndoKind kind, const CellTexts& texts, const Fragment& fragment);
   void Remove(const CellTexts& texts);
   /// Removes the others and returns the first part.
   Selection RemoveBehindFirst(const CellTexts& texts);

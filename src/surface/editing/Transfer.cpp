@@ -108,7 +108,7 @@ void Transfer::SelectedRtf(std::u16string_view rtf) {
   const Fragment fragment =
       ReadRtf(bytes, core_.Formats(), RtfTarget::Selection, unstated_, core_.Content().Mark());
   if (fragment.Length() > 0)
-    text_.ReplaceSelection(UndoKind::Unknown, fragment);
+    text_.ReplaceWhole(fragment);
   else
     text_.DeleteSelection(UndoKind::Unknown);
 }
