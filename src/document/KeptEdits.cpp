@@ -113,14 +113,14 @@ CharId WithoutSectionStart(CharId format, FormatTables& tables) {
   return WithKept(format, kept, tables);
 }
 
-KeptId KeptOfTyping(const Document& document, Position position) {
-  if (position == 0) return 0;
+KeptId KeptOfTyping(const Document& document, Selection range) {
+  if (range.start == 0) return 0;
   const FormatTables& tables = document.Formats();
   const auto keptAt = [&](Position at) {
     return tables.characters[document.CharFormatAt(at)].kept;
   };
-  const KeptId before = keptAt(position - 1);
-  const KeptId behind = keptAt(position);
+  const KeptId before = keptAt(range.start - 1);
+  const KeptId behind = keptAt(range.end);
   const Kept inField{.field = tables.kept[before].field};
   if (tables.kept[behind].field != inField.field) return 0;
   if (tables.kept[before] == inField) return before;

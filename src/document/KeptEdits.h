@@ -25,9 +25,9 @@ Fragment WithSectionStart(Fragment fragment, FormatTables& tables, KeptId sectio
 Fragment WithoutSectionStart(Fragment fragment, FormatTables& tables);
 CharId WithoutSectionStart(CharId format, FormatTables& tables);
 
-/// The kept number of text typed at `position`: it joins a field if it is between two characters of
-/// it.
-KeptId KeptOfTyping(const Document& document, Position position);
+/// The kept number of text typed in place of a range: it joins a field if it is between two
+/// characters of it.
+KeptId KeptOfTyping(const Document& document, Selection range);
 
 /// The format of a character with `map` applied to the paragraph format of the table cell that the
 /// character ends, if any.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/Characters.h"
+#include "document/KeptParts.h"
 #include "document/Model.h"
 #include "document/tables/CellTexts.h"
 #include "document/tables/CopiedRows.h"
@@ -114,9 +115,20 @@ class RandomActs : UserBench {
   }
   void Put() {
     const std::u16string text = Text();
-    const Model next = Replaced(surface.Selected(), WithCrLf(text));
+    const std::u16string clean = WithCrLf(text);
+    const Selection range = surface.Selected();
+    const std::vector<ReplacedPart> parts = CutAroundKept(surface.Content(), range, clean);
+    Model next = parts.size() == 1 ? ByUser(range, clean) : Seen(now_);
+    if (parts.size() > 1) {
+      for (auto part = parts.rbegin(); part != parts.rend(); ++part) {
+        Model piece;
+        piece.Add(part->text, Seen(now_).characters[range.start], 0);
+        next = next.Replaced(part->range.start, part->range.end, piece);
+      }
+    }
     surface.SelText(text);
-    Expect(next);
+    const bool same = clean == now_.text.substr(range.start, range.Length()) && Held() == now_;
+    Expect(same ? Seen(now_) : next);
   }
   void Type() {
     const std::u16string text = ReplaceEvery(ReplaceEvery(Text(), u"\r", u""), u"\n", u"");

@@ -97,7 +97,7 @@ CharFormat EditingCore::InsertionFormat() const {
   const Position start = Selected().start;
   const bool behind = HasSelection() || start == 0 || document_.At(start - 1) == u'\n';
   CharFormat format = CharacterFormat(document_.CharFormatAt(behind ? start : start - 1));
-  format.kept = HasSelection() ? 0 : KeptOfTyping(document_, start);
+  format.kept = KeptOfTyping(document_, Selected());
   return format;
 }
 

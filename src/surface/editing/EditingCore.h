@@ -42,7 +42,8 @@ class EditingCore {
 
   /// The format of text typed now: the one chosen for it, else that of the first selected
   /// character, else of the one before the caret in its paragraph, else of the one after it; never
-  /// an embedded object itself. Between two characters of a field it joins the field.
+  /// an embedded object itself. Between two characters of a field it joins the field, in place of
+  /// some, too.
   CharFormat InsertionFormat() const;
   /// Chooses the format of text typed next, until the caret moves or something is typed.
   void InsertionFormat(const CharFormat& format) { chosenFormat_ = format; }

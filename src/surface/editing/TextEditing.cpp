@@ -87,15 +87,21 @@ Position TextEditing::Put(UndoKind kind, Selection range, const Fragment& fragme
 void TextEditing::ReplaceAroundKept(std::u16string_view text) {
   const Selection old = core_.Selected();
   const std::vector<ReplacedPart> parts = CutAroundKept(core_.Content(), old, text);
-  if (parts.size() == 1) return ReplaceSelection(UndoKind::Unknown, Plain(text));
-  const CharId format = TypedFormat();
-  const ParaId paragraph = TypedParagraph(old);
+  if (parts.size() == 1 && !parts.front().kept)
+    return ReplaceSelection(UndoKind::Unknown, Plain(text));
+  const Position behind = old.start + static_cast<Position>(text.size());
+  CharFormat format = core_.InsertionFormat();
+  std::vector<std::pair<Selection, Fragment>> edits;
+  for (const ReplacedPart& part : parts) {
+    if (part.kept) format.kept = *part.kept;
+    const CharId own = core_.Formats().characters.Intern(format);
+    if (!HasText(part.range, part.text, own))
+      edits.emplace_back(part.range, PlainFragment(part.text, own, 0));
+  }
+  if (edits.empty()) return core_.Select(behind, behind);
   core_.Edit(UndoKind::Unknown, [&] {
-    for (auto part = parts.rbegin(); part != parts.rend(); ++part)
-      if (part->range.Length() > 0 || !part->text.empty())
-        ReplaceRange(part->range.start, part->range.end,
-                     PlainFragment(part->text, format, paragraph));
-    const Position behind = old.start + static_cast<Position>(text.size());
+    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit)
+      ReplaceRange(edit->first.start, edit->first.end, edit->second);
     core_.Place(behind, behind);
   });
 }
@@ -137,28 +143,38 @@ void TextEditing::TakeTables(const Fragment& fragment, Position at) {
 bool TextEditing::IsSelected(std::u16string_view text) const {
   const Document& document = core_.Content();
   const Selection old = core_.Selected();
-  if (static_cast<std::size_t>(old.Length()) != text.size()) return false;
-  const CharId format = TypedFormat();
+  if (!HasText(old, text, TypedFormat())) return false;
   const ParaId paragraph = TypedParagraph(old);
   bool same = true;
-  document.ForEachRun(old.start, old.end, [&](Position at, TextView piece, CharId id) {
-    const auto offset = static_cast<std::size_t>(at - old.start);
-    const CharId own = offset == 0 ? WithoutSectionStart(id, core_.Formats()) : id;
-    same = same && own == format && piece.String() == text.substr(offset, piece.Size());
-  });
   document.ForEachParagraph(old.start, old.end, [&](ParaId id) { same = same && id == paragraph; });
+  return same;
+}
+
+/// Whether the range has just that text in that format; a section start does not matter.
+bool TextEditing::HasText(Selection range, std::u16string_view text, CharId format) const {
+  if (static_cast<std::size_t>(range.Length()) != text.size()) return false;
+  FormatTables& tables = core_.Formats();
+  const CharId wanted = WithoutSectionStart(format, tables);
+  bool same = true;
+  core_.Content().ForEachRun(range.start, range.end, [&](Position at, TextView piece, CharId id) {
+    const auto offset = static_cast<std::size_t>(at - range.start);
+    const CharId own = offset == 0 ? WithoutSectionStart(id, tables) : id;
+    same = same && (own == wanted || id == format) &&
+           piece.String() == text.substr(offset, piece.Size());
+  });
   return same;
 }
 
 std::optional<Position> TextEditing::ReplaceAll(std::u16string_view text,
                                                 std::u16string_view replacement,
                                                 SearchOptions options, Position most) {
-  if (MayHoldKept(text)) return std::nullopt;
+  if (MayKeep(core_.Content(), text, replacement)) return std::nullopt;
   FormatTables& tables = core_.Formats();
   CharFormat format;
   const auto typed = [&](CharId replaced) -> std::optional<CharId> {
     format = core_.CharacterFormat(replaced);
-    if (StartsSection(tables, std::exchange(format.kept, 0))) return std::nullopt;
+    const KeptId kept = std::exchange(format.kept, 0);
+    if (StartsSection(tables, kept) || tables.kept[kept].field != 0) return std::nullopt;
     return tables.characters.Intern(format);
   };
   const auto made = ReplaceAllText(core_.Content(), text, replacement, options, most, typed);
@@ -195,6 +211,7 @@ void TextEditing::Delete(UndoKind kind, Position from, Position to) {
 }
 
 void TextEditing::ReplaceRange(Position from, Position to, const Fragment& fragment) {
+  if (from == to && fragment.Length() == 0) return;
   const Document& document = core_.Content();
   if (from < to && document.ParagraphOf(from) != document.ParagraphOf(to)) {
     const CellParagraph first = ParagraphAround(document, from);

@@ -60,6 +60,7 @@ class TextEditing {
   void ReplaceKeepingSectionStart(Position from, Position to, const Fragment& fragment);
   void Reformat(const CellParagraph& paragraph, ParaId format);
   bool IsSelected(std::u16string_view text) const;
+  bool HasText(Selection range, std::u16string_view text, CharId format) const;
   CharId TypedFormat() const;
   ParaId TypedParagraph(Selection range) const;
   void TypeBreak();
