@@ -158,5 +158,18 @@ TEST(PrintedFootnotes, HaveTheirNumbers) {
   EXPECT_EQ(FootnotesIn(note.Content(), {0, 1}).Length(), 0);
 }
 
+TEST(PrintedFootnotes, HaveTheirItalicsAndParagraphs) {
+  const Printed note(
+      R"( a{\chftn{\footnote\chftn\i   Carex\i0  et {\b gras\par}\plain\i fin \par}})");
+  const Document notes = FootnotesIn(note.Content(), {0, note.Content().Length()});
+  EXPECT_EQ(ToUtf8(notes.Text(0, 99)), "1.\tCarex et gras\r\n\tfin");
+  std::string looks;
+  notes.ForEachRun(0, notes.Length(), [&](Position start, TextView, CharId id) {
+    looks +=
+        std::to_string(start) + ":" + std::to_string(notes.Formats().characters[id].effects) + " ";
+  });
+  EXPECT_EQ(looks, "0:0 3:2 8:0 12:1 19:2 ");
+}
+
 }  // namespace
 }  // namespace lumenote

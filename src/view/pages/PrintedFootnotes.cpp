@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Numbers.h"
+#include "base/Strings.h"
 #include "document/Footnotes.h"
 #include "document/NoteNumbers.h"
 
@@ -22,14 +23,24 @@ Document FootnotesIn(const Document& document, Selection range) {
   FormatTables& tables = notes.Formats();
   const ParaId paragraph =
       tables.paragraphs.Intern({.hangingIndent = kIndent, .spaceAfter = kSpace});
-  const auto add = [&](Position at, const CharFormat& format, const FootnoteText& note) {
-    std::u16string text = notes.Length() > 0 ? u"\r\n" : u"";
-    if (note.numbered) text += NumberText(std::int64_t{numbers.At(document, at)}) + u".\t";
-    const FontId font = tables.fonts.Intern(document.Formats().fonts[format.font]);
-    const CharId look = tables.characters.Intern({.font = font, .size = kSize});
-    Fragment fragment = PlainFragment(text + note.text, look, paragraph);
+  const auto append = [&](FontId font, std::uint16_t effects, const std::u16string& text) {
+    const CharId look = tables.characters.Intern({.font = font, .effects = effects, .size = kSize});
+    Fragment fragment = PlainFragment(text, look, paragraph);
     fragment.mark = FinalMark{look, paragraph};
     notes.Replace(notes.Length(), notes.Length(), std::move(fragment));
+  };
+  const auto add = [&](Position at, const CharFormat& format, const FootnoteText& note) {
+    const FontId font = tables.fonts.Intern(document.Formats().fonts[format.font]);
+    std::u16string lead = notes.Length() > 0 ? u"\r\n" : u"";
+    if (note.numbered) lead += NumberText(std::int64_t{numbers.At(document, at)}) + u".\t";
+    append(font, 0, lead);
+    for (std::size_t i = 0; i < note.runs.size(); ++i) {
+      const std::size_t start = note.runs[i].start;
+      const std::size_t end = i + 1 < note.runs.size() ? note.runs[i + 1].start : note.text.size();
+      const std::u16string text = note.text.substr(start, end - start);
+      append(font, note.runs[i].effects,
+             note.numbered ? ReplaceEvery(text, u"\r\n", u"\r\n\t") : text);
+    }
   };
   document.ForEachRun(range.start, range.end, [&](Position start, TextView text, CharId id) {
     const CharFormat& format = document.Formats().characters[id];
