@@ -75,10 +75,11 @@ TEST(Keeping, FieldsThatBeginANoteKeepItsText) {
 }
 
 TEST(Keeping, AFieldMeansTheSameWhereverAnEditPutsIt) {
-  const std::string_view sources[] = {
-      R"({\rtf1{\field{\sect{\*\fldinst X}}{\fldrslt abc}}})",
-      R"({\rtf1{\field{\row\page{\*\fldinst X}}{\fldrslt abc}}})",
-      R"({\rtf1 a\field{\*\fldinst X}}\*\fldinst Y}{\fldrslt b}c})"};
+  const std::string_view sources[] = {R"({\rtf1{\field{\sect{\*\fldinst X}}{\fldrslt abc}}})",
+                                      R"({\rtf1{\field{\row\page{\*\fldinst X}}{\fldrslt abc}}})",
+                                      R"({\rtf1 a\field{\*\fldinst X}}\*\fldinst Y}{\fldrslt b}c})",
+                                      "{\\rtf1{\\field\\u\x12{\\fldrslt abc}}}",
+                                      "{\\rtf1{\\field{\\*\\fldinst X\\\xAD}{\\fldrslt abc}}}"};
   for (const std::string_view source : sources) {
     Document document = Read(source);
     EXPECT_EQ(LossOf(document), "") << source;

@@ -71,8 +71,13 @@ class DataGroup {
   bool starred_ = false;
 };
 
-bool TellsOfField(const Token& word) {
-  return word.text == "field" || word.text.starts_with("fld");
+/// Whether a token directly in a field says something of it. Text there is what a \u without a
+/// number makes readers pass over.
+bool TellsOfField(const Token& token) {
+  if (token.kind == Token::Kind::Word)
+    return token.text == "field" || token.text.starts_with("fld");
+  return token.kind == Token::Kind::Open || token.kind == Token::Kind::Close ||
+         token.kind == Token::Kind::Symbol;
 }
 
 }  // namespace
@@ -94,7 +99,7 @@ KeptSource::KeptSource(std::string_view source, int fallback, Piece piece) {
     const bool digits = data && (group.Inside() || !IsPrintable(token.text));
     const bool asText = digits && piece == Piece::Field && !group.Hidden();
     const bool ofField = piece == Piece::FieldOpening && open == 0;
-    if (asText || (ofField && ((word && !TellsOfField(token)) || data))) {
+    if (asText || (ofField && !TellsOfField(token))) {
       end = tokens.At();
       continue;
     }

@@ -181,7 +181,7 @@ Token Tokenizer::High() {
 Token Tokenizer::Escape() {
   if (++at_ == end_) return {};
   if (IsAsciiLetter(*at_)) return Word();
-  if (ClassOf(*at_) == Class::High || *at_ == 0) return {};
+  if (static_cast<unsigned char>(*at_) >= 0x80 || *at_ == 0) return {};
   const char c = *at_++;
   if (c == '\'') return Hex();
   return {.kind = Token::Kind::Symbol, .byte = static_cast<unsigned char>(c)};
