@@ -71,13 +71,14 @@ bool MayKeep(const Document& document, std::u16string_view text, std::u16string_
 
 std::vector<ReplacedPart> CutAroundKept(const Document& document, Selection range,
                                         std::u16string_view text) {
-  const std::vector<ReplacedPart> whole{{range, text}};
+  std::vector<ReplacedPart> whole{{range, text}};
   if (!HasKept(document, range, IsAny)) return whole;
   const std::u16string old = document.Text(range.start, range.end);
   const bool sameLetters = SameLetters(old, text);
   if (!sameLetters && !HasKept(document, range, Stays)) return whole;
-  const std::vector<ReplacedPart> parts = CutAtSigns(old, range, text);
-  if (!sameLetters) return parts.empty() ? whole : parts;
+  std::vector<ReplacedPart> parts = CutAtSigns(old, range, text);
+  if (parts.empty()) return whole;
+  if (!sameLetters) return parts;
   std::vector<ReplacedPart> pieces;
   for (const ReplacedPart& part : parts) CutAtKept(document, part, pieces);
   return pieces;

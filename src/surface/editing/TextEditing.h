@@ -14,8 +14,7 @@ namespace lumenote {
 /// Each member is one command and one undo step of its kind. A paragraph that results from joining
 /// keeps the format of the first one, unless that was removed entirely. The cells of tables stay
 /// where they are (`FindCellTexts`), and with the program's texts (kind Unknown) what they say
-/// again
-/// (`CutAroundKept`).
+/// again (`CutAroundKept`).
 class TextEditing {
  public:
   explicit TextEditing(EditingCore& core) : core_(core) {}
