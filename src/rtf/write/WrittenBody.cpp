@@ -289,7 +289,8 @@ bool WrittenBody::IsDrawing(const Kept& kept) const {
 /// Whether nothing but the drawing of `id` will be written behind the last one.
 bool WrittenBody::ContinuesDrawings(KeptId id, CharId format) const {
   const Kept& kept = tables_.kept[id];
-  return IsDrawing(kept) && kept.before == 0 && kept.field == 0 && formats_[format] == format_;
+  return fields_.empty() && IsDrawing(kept) && kept.before == 0 && kept.field == 0 &&
+         formats_[format] == format_;
 }
 
 /// Some readers lose the text of the third drawing and of those behind it unless a group holds
