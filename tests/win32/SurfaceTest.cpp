@@ -198,7 +198,6 @@ TEST_F(SurfaceWindowTest, SystemCaretFollows) {
   EXPECT_EQ(at.x, static_cast<LONG>(window->Text().Pane().CaretAt(0)->left));
 }
 
-// A drag offers what was selected when it began; a drop is one step of undo.
 TEST_F(SurfaceWindowTest, OffersAPictureThatIsDraggedAsAnImage) {
   surface.TextRTF(u"{\\rtf1{\\pict\\pngblip 89504E470D0A1A0A00}}");
   surface.SelStart(0);
@@ -215,6 +214,7 @@ TEST_F(SurfaceWindowTest, OffersAPictureThatIsDraggedAsAnImage) {
             DV_E_FORMATETC);
 }
 
+// A drag offers what was selected when it began; a drop is one step of undo.
 TEST_F(SurfaceWindowTest, DropsTextRtfAndHtml) {
   auto* const target = static_cast<IDropTarget*>(GetPropW(Handle(), L"OleDropTargetInterface"));
   ASSERT_TRUE(target);
