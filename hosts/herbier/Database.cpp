@@ -70,10 +70,12 @@ qint64 Database::Add() {
   return Run(base_, "INSERT INTO taxon DEFAULT VALUES").lastInsertId().toLongLong();
 }
 
+// A note may come back after its taxon was deleted: no other taxon gets that number.
 void Database::Fill() {
   Transaction change(base_);
   Run(base_,
-      "CREATE TABLE taxon (id INTEGER PRIMARY KEY, famille TEXT NOT NULL DEFAULT '', "
+      "CREATE TABLE taxon (id INTEGER PRIMARY KEY AUTOINCREMENT, "
+      "famille TEXT NOT NULL DEFAULT '', "
       "genre TEXT NOT NULL DEFAULT '', espèce TEXT NOT NULL DEFAULT '', "
       "auteur TEXT NOT NULL DEFAULT '', lieu TEXT NOT NULL DEFAULT '', "
       "date TEXT NOT NULL DEFAULT '', note TEXT NOT NULL DEFAULT '', "

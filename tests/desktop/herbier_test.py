@@ -74,9 +74,12 @@ class Herbarium(Desktop):
         fagus = self.edit_first_found("hetraie", "Fagus sylvatica L.")
         self.type(fagus, "Zorglub ")
         with sqlite3.connect(self.base) as other:
-            other.execute("DELETE FROM taxon WHERE genre = 'Fagus'")
+            other.execute("DELETE FROM taxon WHERE id >= "
+                          "(SELECT id FROM taxon WHERE genre = 'Fagus')")
+            other.execute("INSERT INTO taxon (genre, note, texte) VALUES ('Zamia', 'z', 'z')")
         self.close(fagus, "Fagus")
         self.assertTrue(self.note_of("").startswith("Zorglub H"))
+        self.assertEqual(self.note_of("Zamia"), "z")
 
 
 if __name__ == "__main__":
