@@ -6,7 +6,6 @@
 
 #include "backends/win32/clipboard/HtmlFormat.h"
 #include "backends/win32/clipboard/OfferedData.h"
-#include "backends/win32/clipboard/SharedImages.h"
 #include "backends/win32/system/SharedMemory.h"
 
 // After the system's own header.
@@ -18,36 +17,6 @@ namespace {
 
 FORMATETC FormatOf(CLIPFORMAT format) {
   return {format, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
-}
-
-/// The forms of the picture that is dragged; none if text is.
-std::vector<ImageForm> ImagesIn(const TextExcerpt& text) {
-  const std::vector<std::string> images = text.Images();
-  return images.empty() ? std::vector<ImageForm>() : FormsOf(images.front());
-}
-
-/// The formats that are offered, the richest first.
-std::vector<CLIPFORMAT> FormatsOf(const TextExcerpt& text) {
-  std::vector<CLIPFORMAT> formats = {static_cast<CLIPFORMAT>(RtfFormat()),
-                                     static_cast<CLIPFORMAT>(HtmlFormat())};
-  for (const ImageForm& image : ImagesIn(text))
-    formats.push_back(static_cast<CLIPFORMAT>(image.format));
-  formats.push_back(CF_UNICODETEXT);
-  return formats;
-}
-
-bool IsOffered(const TextExcerpt& text, const FORMATETC& format) {
-  if (!(format.tymed & TYMED_HGLOBAL) || format.dwAspect != DVASPECT_CONTENT) return false;
-  return std::ranges::count(FormatsOf(text), format.cfFormat) > 0;
-}
-
-HGLOBAL CopyOf(const TextExcerpt& text, CLIPFORMAT format) {
-  if (format == CF_UNICODETEXT) return SharedCopy(text.Text());
-  if (format == RtfFormat()) return SharedCopy(text.Rtf());
-  if (format == HtmlFormat()) return SharedCopy(WithHtmlHeader(text.Html()));
-  const std::vector<ImageForm> images = ImagesIn(text);
-  const auto image = std::ranges::find(images, UINT{format}, &ImageForm::format);
-  return image == images.end() ? nullptr : SharedBytes(image->bytes);
 }
 
 /// What a drag offers in memory.
@@ -79,16 +48,45 @@ class Offered final : public OfferedData {
 
 }  // namespace
 
+// Without the memory for them, the text is offered alone.
+const std::vector<ImageForm>& TransferData::Images() {
+  if (images_) return *images_;
+  images_.emplace();
+  try {
+    if (const std::vector<std::string> files = text_.Images(); !files.empty())
+      images_ = FormsOf(files.front());
+  } catch (const std::bad_alloc&) {
+  }
+  return *images_;
+}
+
+std::vector<CLIPFORMAT> TransferData::Formats() {
+  std::vector<CLIPFORMAT> formats = {static_cast<CLIPFORMAT>(RtfFormat()),
+                                     static_cast<CLIPFORMAT>(HtmlFormat())};
+  for (const ImageForm& image : Images()) formats.push_back(static_cast<CLIPFORMAT>(image.format));
+  formats.push_back(CF_UNICODETEXT);
+  return formats;
+}
+
+HGLOBAL TransferData::CopyOf(CLIPFORMAT format) {
+  if (format == CF_UNICODETEXT) return SharedCopy(text_.Text());
+  if (format == RtfFormat()) return SharedCopy(text_.Rtf());
+  if (format == HtmlFormat()) return SharedCopy(WithHtmlHeader(text_.Html()));
+  const auto image = std::ranges::find(Images(), UINT{format}, &ImageForm::format);
+  return image == Images().end() ? nullptr : SharedBytes(image->bytes);
+}
+
 HRESULT TransferData::QueryGetData(FORMATETC* format) {
-  return IsOffered(text_, *format) ? S_OK : DV_E_FORMATETC;
+  const bool inMemory = (format->tymed & TYMED_HGLOBAL) && format->dwAspect == DVASPECT_CONTENT;
+  return inMemory && std::ranges::count(Formats(), format->cfFormat) > 0 ? S_OK : DV_E_FORMATETC;
 }
 
 HRESULT TransferData::GetData(FORMATETC* format, STGMEDIUM* medium) {
-  if (!IsOffered(text_, *format)) return DV_E_FORMATETC;
+  if (QueryGetData(format) != S_OK) return DV_E_FORMATETC;
   *medium = {};
   try {
     medium->tymed = TYMED_HGLOBAL;
-    medium->hGlobal = CopyOf(text_, format->cfFormat);
+    medium->hGlobal = CopyOf(format->cfFormat);
   } catch (const std::bad_alloc&) {
   }
   return medium->hGlobal ? S_OK : E_OUTOFMEMORY;
@@ -102,7 +100,7 @@ HRESULT TransferData::GetCanonicalFormatEtc(FORMATETC*, FORMATETC* out) {
 HRESULT TransferData::EnumFormatEtc(DWORD direction, IEnumFORMATETC** out) {
   if (direction != DATADIR_GET) return E_NOTIMPL;
   std::vector<FORMATETC> formats;
-  for (const CLIPFORMAT format : FormatsOf(text_)) formats.push_back(FormatOf(format));
+  for (const CLIPFORMAT format : Formats()) formats.push_back(FormatOf(format));
   return SHCreateStdEnumFmtEtc(static_cast<UINT>(formats.size()), formats.data(), out);
 }
 

@@ -1,12 +1,17 @@
 // Text, RTF, HTML and images on their way between programs.
 #pragma once
+#include <optional>
+#include <vector>
+
+#include "backends/win32/clipboard/SharedImages.h"
 #include "backends/win32/system/ComObject.h"
 #include "platform/Clipboard.h"
 #include "view/acts/TextDrag.h"
 
 namespace lumenote {
 
-/// Offers an excerpt, the richest form first; each is generated on request.
+/// Offers an excerpt, the richest form first; each text is generated on request, the forms of a
+/// picture at the first one.
 class TransferData final : public ComObject<IDataObject> {
  public:
   explicit TransferData(TextExcerpt text) : text_(std::move(text)) {}
@@ -26,7 +31,13 @@ class TransferData final : public ComObject<IDataObject> {
   }
 
  private:
+  const std::vector<ImageForm>& Images();
+  /// Those that are offered, the richest first.
+  std::vector<CLIPFORMAT> Formats();
+  HGLOBAL CopyOf(CLIPFORMAT format);
+
   TextExcerpt text_;
+  std::optional<std::vector<ImageForm>> images_;  // of the picture that is dragged, once known
 };
 
 /// Whether `ReadTransfer` could return anything.
