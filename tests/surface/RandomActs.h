@@ -186,8 +186,8 @@ class RandomActs : UserBench {
     const Model seen = Seen(now_);
     const auto [source, copied] = WithRowEnd(surface.Content(), range);
     const auto row = RowAround(source, target);
-    const bool rows = BeginsWithRow(source.Copy(copied.start, copied.end), source.Formats());
-    const Position place = rows && row ? row->start : target;
+    const CopiedRows rows = FindCopiedRows(source.Copy(copied.start, copied.end), source.Formats());
+    const Position place = rows.any && row ? row->start : target;
     const Position paragraph = source.ParagraphStart(source.ParagraphOf(place));
     surface.UserDrop(target, copy);
     const bool inside = target > range.start && target < range.end;
@@ -195,15 +195,17 @@ class RandomActs : UserBench {
     const bool inRows = place != target && place > range.start && place < range.end;
     if (range.Length() == 0 || inside || (edge && !copy) || inRows) return;
     Model moved;
-    if (rows && place > paragraph) moved.Add(u"\r\n", seen.characters[range.start], 0);
+    if (rows.first && place > paragraph) moved.Add(u"\r\n", seen.characters[range.start], 0);
     const Position before = moved.Length();
     moved.Add(Seen(ModelOf(source.Leaves(), source.Mark())), copied.start, copied.end);
+    const Position behind = moved.Length();
+    if (rows.any && row && !rows.last) moved.Add(u"\r\n", seen.characters[range.start], 0);
     const bool shrinks = !copy && place > range.start;
     const Position start = place - (shrinks ? seen.Length() - left.Length() : 0);
     const Model next = (copy ? seen : left).Replaced(start, start, moved);
     const Document& document = surface.Content();  // halves of pairs may have met
     EXPECT_EQ(surface.Selected(), (Selection{document.SnapBackward(start + before),
-                                             document.SnapForward(start + moved.Length())}));
+                                             document.SnapForward(start + behind)}));
     EXPECT_TRUE(surface.UndoType() == UndoKind::DragDrop);
     EXPECT_TRUE(Seen(Held()) == next);
     Remember(Held());

@@ -11,7 +11,7 @@ namespace {
 
 // A note with its tables: "¶" ends a paragraph, "·" a cell, "[" and "]" are around a row, "," and
 // "(" and ")" the same in a table within a cell. "|" is the caret, "^" the other end of a
-// selection.
+// selection, "@" where it is dropped.
 struct Sign {
   char16_t sign;
   std::u16string_view rtf;
@@ -20,6 +20,7 @@ struct Sign {
 constexpr Sign kSigns[] = {
     {u'|', u"", 0},
     {u'^', u"", 0},
+    {u'@', u"", 0},
     {u'¶', u"\\par ", 2},
     {u'[', u"\\trowd\\cellx2000\\cellx4000\\pard\\intbl ", 0},
     {u'·', u"\\cell ", 1},
@@ -115,6 +116,23 @@ TEST_F(Tables, TheProgramsTextLeavesCellsAsTypingDoes) {
     ++typed;
   }
   EXPECT_GT(typed, 20);
+}
+
+TEST_F(Tables, RowsAreDroppedBetweenParagraphs) {
+  static constexpr std::u16string_view kRows[][2] = {
+      {u"[^a·b]|c¶d@e", u"[a·b]c¶d¶[^a·b]|e"},
+      {u"[^a·b][|@c·d]e", u"[a·b][^a·b][|c·d]e"},
+      {u"^u¶[a·b][|c·@d]e", u"u¶[a·b]^u¶[a·b][|c·d]e"},
+      {u"u^v¶[a·b]w|x¶y¶[c·@d]e", u"uv¶[a·b]wx¶y¶^v¶[a·b]w|¶[c·d]e"},
+      {u"[^a·b]w|x¶[c·@d]e", u"[a·b]wx¶[^a·b]w|¶[c·d]e"},
+      {u"[^a·b]w|x¶y@z", u"[a·b]wx¶y¶[^a·b]w|z"}};
+  for (const auto& [note, after] : kRows) {
+    std::u16string before(note);
+    before.erase(before.find(u'@'), 1);
+    Open(before);
+    surface.UserDrop(PlaceOf(note, u'@'), true);
+    EXPECT_EQ(ToUtf8(Result(before)), ToUtf8(after)) << ToUtf8(note);
+  }
 }
 
 }  // namespace

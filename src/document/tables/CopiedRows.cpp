@@ -25,17 +25,22 @@ CopiedText WithRowEnd(const Document& document, Selection range) {
   return copied;
 }
 
-bool BeginsWithRow(const Fragment& fragment, const FormatTables& tables) {
+CopiedRows FindCopiedRows(const Fragment& fragment, const FormatTables& tables) {
   std::optional<Position> end;
   fragment.leaves.ForEachRun(0, fragment.Length(), [&](Position at, TextView, CharId format) {
     const Kept& kept = tables.kept[tables.characters[format].kept];
     if (!end && kept.kind == Kept::Kind::Row && kept.nested == 0) end = at;
   });
-  if (!end) return false;
-  bool inTable = true;
-  const auto look = [&](ParaId id) { inTable = inTable && tables.paragraphs[id].nesting > 0; };
-  fragment.leaves.ForEachMark(0, fragment.leaves.BreaksBefore(*end), look);
-  return inTable;
+  if (!end) return {};
+  const LeafList& leaves = fragment.leaves;
+  const Position lastBreak = leaves.BreakAt(leaves.Breaks() - 1);
+  const Position behind = lastBreak + static_cast<Position>(kBreak.size());
+  CopiedRows rows{.any = true, .first = true, .last = behind == leaves.Length()};
+  const auto look = [&](ParaId id) {
+    rows.first = rows.first && tables.paragraphs[id].nesting > 0;
+  };
+  leaves.ForEachMark(0, leaves.BreaksBefore(*end), look);
+  return rows;
 }
 
 }  // namespace lumenote

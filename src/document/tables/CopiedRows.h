@@ -14,7 +14,12 @@ struct CopiedText {
 /// is selected with the mouse stops before the break that says what the row is.
 CopiedText WithRowEnd(const Document& document, Selection range);
 
-/// Whether the fragment is a table row, to its end, and perhaps more.
-bool BeginsWithRow(const Fragment& fragment, const FormatTables& tables);
+/// What of a fragment has to lie between paragraphs: the rows of tables in it.
+struct CopiedRows {
+  bool any = false;    // ends of rows, of tables that lie in no other one
+  bool first = false;  // the fragment begins with one
+  bool last = false;   // the fragment ends with a break
+};
+CopiedRows FindCopiedRows(const Fragment& fragment, const FormatTables& tables);
 
 }  // namespace lumenote

@@ -65,9 +65,11 @@ void TextEditing::ReplaceTexts(UndoKind kind, const CellTexts& texts, const Frag
 }
 
 /// Replaces a range by a fragment and returns where that begins. Rows that the user puts there go
-/// between paragraphs, above the row that is there.
+/// between paragraphs, with the text around them: in a table above the row that is there.
 Position TextEditing::Put(UndoKind kind, Selection range, const Fragment& fragment) {
-  if (kind == UndoKind::Unknown || !BeginsWithRow(fragment, core_.Formats())) {
+  const CopiedRows rows =
+      kind == UndoKind::Unknown ? CopiedRows{} : FindCopiedRows(fragment, core_.Formats());
+  if (!rows.any) {
     ReplaceRange(range.start, range.end, fragment);
     return range.start;
   }
@@ -76,12 +78,21 @@ Position TextEditing::Put(UndoKind kind, Selection range, const Fragment& fragme
   Position at = range.start;
   if (const auto row = RowAround(document, at)) {
     at = row->start;
-  } else if (at > document.ParagraphStart(document.ParagraphOf(at))) {
-    core_.Replace(at, at, PlainFragment(kBreak, TypedFormat(), document.ParaFormatAt(at)));
+    if (!rows.last) PutBreak(at);
+  } else if (rows.first && at > document.ParagraphStart(document.ParagraphOf(at))) {
+    PutBreak(at);
     at += static_cast<Position>(kBreak.size());
   }
   core_.Replace(at, at, fragment);
   return at;
+}
+
+/// Ends a paragraph that lies in no table.
+void TextEditing::PutBreak(Position at) {
+  FormatTables& tables = core_.Formats();
+  ParaFormat format = FormatInCell(core_.Content(), at);
+  format.nesting = 0;
+  core_.Replace(at, at, PlainFragment(kBreak, TypedFormat(), tables.paragraphs.Intern(format)));
 }
 
 void TextEditing::ReplaceAroundKept(std::u16string_view text) {
@@ -284,7 +295,7 @@ void TextEditing::MoveSelection(Position target, bool copy) {
       copied.document.Copy(copied.range.start, copied.range.end), core_.Formats());
   const auto row = RowAround(document, target);
   const bool inRows = row && row->start > old.start && row->start < old.end;
-  if (inRows && BeginsWithRow(moved, core_.Formats())) return;
+  if (inRows && FindCopiedRows(moved, core_.Formats()).any) return;
   core_.Edit(UndoKind::DragDrop, [&] {
     CellTexts texts = FindCellTexts(core_.Content(), old, Remains::Nothing);
     const Position before = document.Length();

@@ -49,6 +49,7 @@ class TextEditing {
  private:
   void TakeTables(const Fragment& fragment, Position at);
   Position Put(UndoKind kind, Selection range, const Fragment& fragment);
+  void PutBreak(Position at);
   void ReplaceAroundKept(std::u16string_view text);
   void ReplaceTexts(UndoKind kind, const CellTexts& texts, const Fragment& fragment);
   void Remove(const CellTexts& texts);
