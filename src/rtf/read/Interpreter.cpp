@@ -69,8 +69,8 @@ Fragment Interpreter::Read() {
     EndField(groups_[group], groups_[group - 1]);
   BeginBody();
   // The final mark lies after all fields, even those that only the end of the source closes.
+  if (State().field != 0) EditCharacter().reset = Reset::None;
   State().field = State().inField = 0;
-  State().characterKnown = false;
   if (!marker_.empty()) PlaceMarker();
   Fragment fragment = body_.Finish(target_, {CharacterNumber(), EndedParagraph()});
   if (target_ == RtfTarget::Selection)

@@ -48,6 +48,7 @@ bool Interpreter::AtAside() {
 
 /// The first such group determines the paragraph.
 void Interpreter::Numbering(int, const Token&) {
+  if (!wasOpened_ && !wasStarred_) return;
   const std::size_t from = tokens_.Start();
   bool bullet = false;
   tokens_.ForEachInGroup([&](const Token& token) {
